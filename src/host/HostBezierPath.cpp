@@ -1,0 +1,52 @@
+#include "host/HostBezierPath.h"
+
+namespace vantorel {
+namespace {
+
+/// +1 or -1 when the edge crosses the ray that runs from `p` to the right, 0 otherwise. An edge
+/// owns its lower end and not its upper one, so a ray through a corner is counted once.
+int windingOfEdge(HostPoint a, HostPoint b, HostPoint p)
+{
+    if ((a.y <= p.y) == (b.y <= p.y)) return 0;
+    const double x = a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x);
+    if (!(x > p.x)) return 0;
+    return b.y > a.y ? 1 : -1;
+}
+
+}  // namespace
+
+void HostBezierPath::appendBezierPathWithRect(HostRect rect)
+{
+    moveToPoint({rect.x, rect.y});
+    lineToPoint({rect.maxX(), rect.y});
+    lineToPoint({rect.maxX(), rect.maxY()});
+    lineToPoint({rect.x, rect.maxY()});
+    closePath();
+}
+
+bool HostBezierPath::containsPoint(HostPoint point) const
+{
+    int winding = 0;
+    HostPoint start;
+    HostPoint current;
+    for (const Element& element : _elements) {
+        switch (element.kind) {
+            case ElementKind::moveTo:
+                winding += windingOfEdge(current, start, point);
+                start = current = element.point;
+                break;
+            case ElementKind::lineTo:
+                winding += windingOfEdge(current, element.point, point);
+                current = element.point;
+                break;
+            case ElementKind::close:
+                winding += windingOfEdge(current, start, point);
+                current = start;
+                break;
+        }
+    }
+    winding += windingOfEdge(current, start, point);
+    return winding != 0;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "host/HostColor.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace vantorel {
+
+/// A named, ordered set of named colours. The order of insertion is the order of the keys.
+class HostColorList {
+public:
+    explicit HostColorList(std::u16string name) : _name(std::move(name)) {}
+
+    [[nodiscard]] const std::u16string& name() const { return _name; }
+    [[nodiscard]] const std::vector<std::u16string>& allKeys() const { return _keys; }
+
+    /// The colour of a key; empty when the list has no such key.
+    [[nodiscard]] std::optional<HostColor> colorWithKey(const std::u16string& key) const
+    {
+        const auto found = _indexes.find(key);
+        if (found == _indexes.end()) return std::nullopt;
+        return _colors[found->second];
+    }
+
+    /// The colour at a place of `allKeys()`; the index must be below its size.
+    [[nodiscard]] const HostColor& colorAtIndex(std::size_t index) const { return _colors[index]; }
+
+    /// Replaces the colour of a key in its place, or appends a new entry.
+    void setColor(const HostColor& color, const std::u16string& key)
+    {
+        const auto [found, isNew] = _indexes.try_emplace(key, _keys.size());
+        if (isNew) {
+            _keys.push_back(key);
+            _colors.push_back(color);
+        } else {
+            _colors[found->second] = color;
+        }
+        ++_revision;
+    }
+
+    /// Grows with every change, so that what was derived from the list can be kept until then.
+    [[nodiscard]] std::uint64_t revision() const { return _revision; }
+
+private:
+    std::u16string _name;
+    std::vector<std::u16string> _keys;
+    std::vector<HostColor> _colors;
+    std::unordered_map<std::u16string, std::size_t> _indexes;
+    std::uint64_t _revision = 0;
+};
+
+/// The colour lists that a user shares between programs.
+class HostColorListStore {
+public:
+    virtual ~HostColorListStore() = default;
+
+    /// The installed list of exactly that name, or null. A list stays valid while somebody holds
+    /// it, also after the store has found a newer one of that name.
+    [[nodiscard]] virtual std::shared_ptr<HostColorList> colorListNamed(
+        const std::u16string& name) = 0;
+
+    /// The names of all installed lists, in the store's order, each once.
+    [[nodiscard]] virtual std::vector<std::u16string> availableColorLists() = 0;
+
+    /// Saves a list among the user's own under its own name, replacing one of that name; from then
+    /// on it is installed. False when it could not be saved.
+    virtual bool writeColorList(const std::shared_ptr<HostColorList>& list) = 0;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,168 @@
+#pragma once
+
+#include "host/HostCanvas.h"
+#include "host/HostColor.h"
+#include "host/HostEvent.h"
+#include "host/HostMenu.h"
+#include "host/HostView.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantorel {
+
+/// A view that the user operates; ending the operation sends its action.
+class HostControl : public HostView {
+public:
+    using Action = std::function<void(HostControl& sender)>;
+    using HostView::HostView;
+
+    void setAction(Action action) { _action = std::move(action); }
+    /// What the control does by itself when the user has operated it.
+    void sendAction()
+    {
+        if (_action) _action(*this);
+    }
+
+private:
+    Action _action;
+};
+
+/// One line of text, shown or edited. The action is sent when the user ends the entry (Return).
+class HostTextField : public HostControl {
+public:
+    using HostControl::HostControl;
+
+    [[nodiscard]] virtual std::u16string stringValue() const = 0;
+    /// Does not count as a change by the user.
+    virtual void setStringValue(const std::u16string& text) = 0;
+    virtual void setTextColor(const HostColor& color) = 0;
+
+    /// Called after each edit by the user: a key, an input method, a paste.
+    void setTextDidChange(std::function<void()> reaction) { _textDidChange = std::move(reaction); }
+    void sendTextDidChange()
+    {
+        if (_textDidChange) _textDidChange();
+    }
+
+private:
+    std::function<void()> _textDidChange;
+};
+
+/// The insertion point or selection of the text field that is being edited, in UTF-16 units.
+struct HostSelection {
+    std::size_t location = 0;
+    std::size_t length = 0;
+
+    bool operator==(const HostSelection&) const = default;
+};
+
+class HostFieldEditor {
+public:
+    virtual ~HostFieldEditor() = default;
+    [[nodiscard]] virtual HostSelection selectedRange() const = 0;
+    virtual void setSelectedRange(HostSelection range) = 0;
+};
+
+/// A push button, check box or toggle. State 0 is off, 1 is on.
+class HostButton : public HostControl {
+public:
+    using HostControl::HostControl;
+
+    [[nodiscard]] int state() const { return _state; }
+    void setState(int state)
+    {
+        if (state == _state) return;
+        _state = state;
+        stateDidChange();
+    }
+
+protected:
+    virtual void stateDidChange() {}
+
+private:
+    int _state = 0;
+};
+
+/// A button that shows one item of its menu and opens the menu when pressed. The item model is
+/// here, so that selection follows the same rules on every desktop; a desktop shows it.
+class HostPopUpButton : public HostControl {
+public:
+    using HostControl::HostControl;
+    static constexpr int noItem = -1;
+
+    void removeAllItems();
+    /// The first item put into an empty pop-up becomes the selected one.
+    void addItem(HostMenuItem item);
+    void addItemWithTitle(const std::u16string& title);
+    void addItemsWithTitles(const std::vector<std::u16string>& titles);
+    /// `index` is clamped to the items that there are; the selected item stays selected.
+    void insertItem(HostMenuItem item, int index);
+    /// Nothing for an index out of range. Taking the selected item leaves nothing selected.
+    std::optional<HostMenuItem> takeItem(int index);
+    void setTitleOfItem(int index, const std::u16string& title);
+
+    [[nodiscard]] const HostMenu& menu() const { return _menu; }
+    [[nodiscard]] int numberOfItems() const { return static_cast<int>(_menu.size()); }
+    /// The first item with that title; `noItem` when there is none. Separators have no title.
+    [[nodiscard]] int indexOfItemWithTitle(const std::u16string& title) const;
+
+    /// Out of range, or a title that no item has: nothing is selected.
+    void selectItemAtIndex(int index);
+    void selectItemWithTitle(const std::u16string& title);
+    [[nodiscard]] int indexOfSelectedItem() const { return _selected; }
+    [[nodiscard]] std::optional<std::u16string> titleOfSelectedItem() const;
+
+    /// Called each time before the menu opens; an empty function ends that.
+    void setWillPopUp(std::function<void()> reaction) { _willPopUp = std::move(reaction); }
+    void sendWillPopUp()
+    {
+        // The reaction may replace itself while it runs.
+        const auto reaction = _willPopUp;
+        if (reaction) reaction();
+    }
+
+protected:
+    /// Items or selection have changed.
+    virtual void menuDidChange() {}
+
+private:
+    [[nodiscard]] bool isItem(int index) const { return index >= 0 && index < numberOfItems(); }
+
+    HostMenu _menu;
+    int _selected = noItem;
+    std::function<void()> _willPopUp;
+};
+
+/// What a custom view shows and does; the picker implements it, the desktop calls it.
+class HostViewContent {
+public:
+    virtual ~HostViewContent() = default;
+
+    virtual void drawRect(HostCanvas& canvas) = 0;
+    /// Whether a click into an inactive window already counts.
+    [[nodiscard]] virtual bool acceptsFirstMouse() const { return false; }
+    virtual void mouseDown(const HostEvent&) {}
+    virtual void mouseDragged(const HostEvent&) {}
+    virtual void mouseMoved(const HostEvent&) {}
+    virtual void mouseEntered(const HostEvent&) {}
+    virtual void mouseExited(const HostEvent&) {}
+};
+
+/// A view that is painted by a `HostViewContent`, which must outlive it. It gets `mouseEntered` and
+/// `mouseExited` for its tracking rectangle alone, and `mouseMoved` while the pointer is inside it
+/// and the panel accepts mouse-moved events.
+class HostCustomView : public HostView {
+public:
+    using HostView::HostView;
+
+    /// Returns a tag that is never 0. `rect` is in the view's own coordinates; `assumeInside` tells
+    /// where the pointer is now, so that only a later crossing counts.
+    virtual std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) = 0;
+    virtual void removeTrackingRect(std::intptr_t tag) = 0;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/HostGeometry.h"
+
+#include <cstdint>
+
+namespace vantorel {
+
+enum class HostEventType : std::uint32_t {
+    leftMouseDown = 1,
+    leftMouseUp = 2,
+    mouseMoved = 5,
+    leftMouseDragged = 6,
+    mouseEntered = 8,
+    mouseExited = 9,
+};
+
+/// Bits of `HostEvent::modifierFlags`.
+inline constexpr std::uint64_t shiftModifierFlag = 0x20000;
+inline constexpr std::uint64_t controlModifierFlag = 0x40000;
+inline constexpr std::uint64_t alternateModifierFlag = 0x80000;
+inline constexpr std::uint64_t commandModifierFlag = 0x100000;
+
+/// The bit of an event type in a mask of types.
+[[nodiscard]] constexpr std::uint32_t maskOfEventType(HostEventType type)
+{
+    return 1U << static_cast<std::uint32_t>(type);
+}
+
+/// An event of the mouse.
+struct HostEvent {
+    HostEventType type = HostEventType::leftMouseDown;
+    /// In the own coordinates of the view that gets the event.
+    HostPoint location;
+    std::uint64_t modifierFlags = 0;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantorel {
+
+enum class HostFileKind { none, file, folder };
+
+/// The files of the user. Paths are absolute, in the file system's own bytes, parts joined by "/".
+/// Nothing here throws for what the disk does: failures are in the results.
+class HostFiles {
+public:
+    virtual ~HostFiles() = default;
+
+    /// The folder of the user's data of all programs, without a "/" at its end (freedesktop base
+    /// directories: `$XDG_DATA_HOME`, else `~/.local/share`); nothing when there is none.
+    [[nodiscard]] virtual std::optional<std::string> applicationSupportDirectory() const = 0;
+
+    /// What stands at a path, links followed.
+    [[nodiscard]] virtual HostFileKind kindAtPath(const std::string& path) const = 0;
+    /// Makes one folder, readable by the user alone; its parent must exist.
+    virtual bool createDirectory(const std::string& path) = 0;
+    /// The names in a folder, sorted by their bytes; empty when it cannot be read.
+    [[nodiscard]] virtual std::vector<std::string> contentsOfDirectory(
+        const std::string& path) const = 0;
+
+    /// The bytes of a file; nothing when it cannot be read.
+    [[nodiscard]] virtual std::optional<std::string> contentsAtPath(
+        const std::string& path) const = 0;
+    /// Replaces the whole file at once: a reader, or a crash, sees the old bytes or the new ones.
+    virtual bool writeAtomically(const std::string& path, const std::string& bytes) = 0;
+};
+
+/// The resources that came with a plug-in, by name.
+class HostBundle {
+public:
+    virtual ~HostBundle() = default;
+    /// The bytes of a resource; nothing when there is none of that name.
+    [[nodiscard]] virtual std::optional<std::string> resource(const std::string& name) const = 0;
+};
+
+}  // namespace vantorel
