@@ -18,14 +18,20 @@ public:
         bool operator==(const Components&) const = default;
     };
 
-    [[nodiscard]] static HostColor colorWithCalibratedRed(double red, double green, double blue,
-                                                          double alpha)
+    [[nodiscard]] static constexpr HostColor colorWithCalibratedRed(double red, double green,
+                                                                    double blue, double alpha)
     {
         return HostColor({red, green, blue, alpha}, false);
     }
-    [[nodiscard]] static HostColor blackColor() { return colorWithCalibratedRed(0, 0, 0, 1); }
-    [[nodiscard]] static HostColor whiteColor() { return colorWithCalibratedRed(1, 1, 1, 1); }
-    [[nodiscard]] static HostColor patternColor() { return HostColor({}, true); }
+    [[nodiscard]] static constexpr HostColor blackColor()
+    {
+        return colorWithCalibratedRed(0, 0, 0, 1);
+    }
+    [[nodiscard]] static constexpr HostColor whiteColor()
+    {
+        return colorWithCalibratedRed(1, 1, 1, 1);
+    }
+    [[nodiscard]] static constexpr HostColor patternColor() { return HostColor({}, true); }
 
     [[nodiscard]] bool isPattern() const { return _pattern; }
 
@@ -48,7 +54,10 @@ public:
     bool operator==(const HostColor&) const = default;
 
 private:
-    HostColor(Components components, bool pattern) : _components(components), _pattern(pattern) {}
+    constexpr HostColor(Components components, bool pattern)
+        : _components(components), _pattern(pattern)
+    {
+    }
 
     Components _components;
     bool _pattern;

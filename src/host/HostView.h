@@ -39,6 +39,11 @@ public:
     [[nodiscard]] HostRect frame() const { return _frame; }
     /// Also resizes the subviews by their resizing rules. Widths and heights below 0 count as 0.
     void setFrame(HostRect frame);
+    /// Moves the view without changing its size.
+    void setFrameOrigin(HostPoint origin)
+    {
+        setFrame({origin.x, origin.y, _frame.width, _frame.height});
+    }
 
     [[nodiscard]] HostRect bounds() const { return _bounds; }
     /// Sets the origin of the view's own coordinates; the size is taken from the frame.

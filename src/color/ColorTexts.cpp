@@ -1,0 +1,179 @@
+#include "color/ColorTexts.h"
+
+#include "color/ChannelConversion.h"
+#include "color/QTXHexColorSpec.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace vantorel {
+namespace {
+
+constexpr std::uint64_t largestComponent = 255;
+
+/// Classifying by the low byte lets a unit such as U+0130 pass for the digit "0". Kept, because
+/// texts that were accepted once must go on being accepted.
+char lowByte(char16_t unit)
+{
+    return static_cast<char>(unit & 0xFF);
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isHexDigit(char16_t c)
+{
+    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
+}
+
+std::u16string widened(std::string_view ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+std::u16string fractionText(std::uint64_t component)
+{
+    // std::to_chars, because printf would follow the program's locale.
+    std::array<char, 64> buffer{};
+    const double fraction = static_cast<double>(component) / 255;
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), fraction,
+                                            std::chars_format::fixed, 3);
+    return widened({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
+}
+
+}  // namespace
+
+int decodeHex(char16_t character)
+{
+    if (character >= u'0' && character <= u'9') return character - u'0';
+    if (character >= u'A' && character <= u'F') return character - u'A' + 10;
+    if (character >= u'a' && character <= u'f') return character - u'a' + 10;
+    return 0;
+}
+
+std::u16string hexFromInt(std::int64_t value, EntryForm entryForm)
+{
+    if (value < 0 || value > 15) return u"0";
+    const char16_t* digits =
+        entryForm == EntryForm::uppercase ? u"0123456789ABCDEF" : u"0123456789abcdef";
+    return {digits[value]};
+}
+
+std::uint64_t readHex(std::u16string_view text)
+{
+    if (text.empty()) return 0;
+    const char16_t second = text.size() > 1 ? text[1] : u'\0';
+    return static_cast<std::uint64_t>(decodeHex(text[0]) * 16 + decodeHex(second));
+}
+
+std::uint64_t readInt(std::u16string_view text)
+{
+    constexpr std::size_t mostDigits = 3;
+    std::size_t place = 0;
+    while (place < text.size() && !isDigit(lowByte(text[place])))
+        ++place;
+    std::uint64_t value = 0;
+    for (std::size_t count = 0;
+         count < mostDigits && place < text.size() && isDigit(lowByte(text[place]));
+         ++count, ++place) {
+        value = value * 10 + static_cast<std::uint64_t>(lowByte(text[place]) - '0');
+    }
+    return std::min(value, largestComponent);
+}
+
+std::uint64_t readFraction(std::u16string_view text)
+{
+    constexpr double lastDivisor = 100000;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        const char c = lowByte(text[place]);
+        if (c >= '1' && c <= '9') return largestComponent;
+        if (c != '.') continue;
+        double fraction = 0;
+        double divisor = 10;
+        for (++place;
+             divisor <= lastDivisor && place < text.size() && isDigit(lowByte(text[place]));
+             ++place, divisor *= 10) {
+            fraction += (lowByte(text[place]) - '0') / divisor;
+        }
+        return std::min(truncatedUnsigned(fraction * 255.5), largestComponent);
+    }
+    return 0;
+}
+
+std::uint64_t readComponent(std::u16string_view text, ComponentDisplay display)
+{
+    switch (display) {
+        case ComponentDisplay::hex:
+            return readHex(text);
+        case ComponentDisplay::integer:
+            return readInt(text);
+        case ComponentDisplay::fraction:
+            return readFraction(text);
+        case ComponentDisplay::codeSnippet:
+            break;
+    }
+    return 0;
+}
+
+std::u16string hexCompStringHexColorSpec(std::uint64_t component, EntryForm entryForm)
+{
+    // A component beyond two digits has no hex digit at its high place, which writes as "0".
+    const std::uint64_t high = std::min<std::uint64_t>(component >> 4, 16);
+    return hexFromInt(static_cast<std::int64_t>(high), entryForm) +
+           hexFromInt(static_cast<std::int64_t>(component & 15), entryForm);
+}
+
+std::optional<std::u16string> compStringHexColorSpec(std::uint64_t component, EntryForm entryForm,
+                                                     ComponentDisplay display)
+{
+    switch (display) {
+        case ComponentDisplay::hex:
+        case ComponentDisplay::codeSnippet:
+            return hexCompStringHexColorSpec(component, entryForm);
+        case ComponentDisplay::integer:
+            // As a C int: the low 32 bits.
+            return widened(std::to_string(static_cast<std::int32_t>(component)));
+        case ComponentDisplay::fraction:
+            return fractionText(component);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::u16string> validHexString(std::u16string_view text, int digits)
+{
+    constexpr std::size_t longest = 7;
+    if (text.empty() || digits < 0) return std::nullopt;
+    const auto wanted = static_cast<std::size_t>(digits);
+    if (text.size() > wanted + 1) return std::nullopt;
+    const std::size_t poundSigns = text.front() == u'#' ? 1 : 0;
+    const std::u16string_view typed = text.substr(poundSigns);
+    if (!std::all_of(typed.begin(), typed.end(), isHexDigit)) return std::nullopt;
+
+    std::u16string result(text);
+    if (typed.size() == wanted / 2 || typed.size() == 1) {
+        if (poundSigns + wanted > longest) return std::nullopt;
+        result.resize(poundSigns);
+        const std::size_t copies = typed.size() == wanted / 2 ? 2 : wanted;
+        for (const char16_t digit : typed)
+            result.append(copies, digit);
+        // An odd count cannot be made of doubled digits alone.
+        result.resize(poundSigns + std::min(wanted, typed.size() * copies));
+    }
+    const bool lengthMatters = digits == 6 || digits == 7;
+    if (lengthMatters && result.size() != poundSigns + wanted) return std::nullopt;
+    return result;
+}
+
+HostColor webSafeColorFromName(std::u16string_view name)
+{
+    constexpr std::size_t codeLength = 6;
+    if (name.size() < codeLength) return HostColor::blackColor();
+    QTXHexColorSpec spec;
+    spec.setWithString(name.substr(name.size() - codeLength));
+    return spec.colorHexColorSpec();
+}
+
+}  // namespace vantorel

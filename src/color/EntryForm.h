@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantorel {
+
+/// The letter case of hex texts. The numbers are fixed; any other value may be stored, and writes
+/// lower case.
+enum class EntryForm : std::int32_t { uppercase = 10, lowercase = 20 };
+
+}  // namespace vantorel
