@@ -157,8 +157,7 @@ private:
         if (atEnd()) return std::nullopt;
         if (here() == u'"' || here() == u'\'') return quoted(_text[_place++]);
         const std::size_t start = _place;
-        // A comment ends a bare string, although it begins with a bare character.
-        while (!atEnd() && isBare(here()) && !startsWith(u"//") && !startsWith(u"/*"))
+        while (!atEnd() && isBare(here()))
             ++_place;
         if (_place == start) return std::nullopt;
         return std::u16string(_text.substr(start, _place - start));

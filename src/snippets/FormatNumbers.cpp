@@ -1,0 +1,153 @@
+#include "snippets/FormatNumbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+
+namespace vantorel {
+namespace {
+
+/// Room for the longest double in %f, 309 digits, with the finest precision behind it.
+constexpr std::size_t longestReal = 1024;
+constexpr int defaultPrecision = 6;
+
+std::u16string widened(std::string_view ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+std::u16string upperCased(std::u16string text)
+{
+    for (char16_t& c : text) {
+        if (c >= u'a' && c <= u'z') c = static_cast<char16_t>(c - u'a' + u'A');
+    }
+    return text;
+}
+
+/// Sign or "0x" first, then zeros as asked, then the digits; blanks on the other side.
+std::u16string padded(const std::u16string& prefix, const std::u16string& digits,
+                      const FormatField& field, bool zeros)
+{
+    const std::size_t length = prefix.size() + digits.size();
+    const std::size_t missing = field.width > length ? field.width - length : 0;
+    if (field.leftAligned) return prefix + digits + std::u16string(missing, u' ');
+    if (zeros) return prefix + std::u16string(missing, u'0') + digits;
+    return std::u16string(missing, u' ') + prefix + digits;
+}
+
+std::u16string signText(bool negative, const FormatField& field)
+{
+    if (negative) return u"-";
+    if (field.plusSign) return u"+";
+    return field.blankSign ? u" " : u"";
+}
+
+/// The digits of a whole number, at least as many as the precision says; none for zero with
+/// precision zero.
+std::u16string wholeDigits(std::uint64_t value, int base, const FormatField& field)
+{
+    std::array<char, 64> buffer{};
+    std::u16string digits;
+    if (value != 0 || field.precision.value_or(1) != 0) {
+        const auto [end, error] =
+            std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, base);
+        digits = widened({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
+    }
+    const std::size_t wanted = field.precision.value_or(1);
+    if (digits.size() < wanted) digits.insert(0, wanted - digits.size(), u'0');
+    return digits;
+}
+
+struct RealStyle {
+    std::chars_format format;
+    bool hexadecimal;
+    bool upperCase;
+};
+
+RealStyle styleOfLetter(char16_t letter)
+{
+    switch (letter) {
+        case u'e':
+        case u'E':
+            return {std::chars_format::scientific, false, letter == u'E'};
+        case u'g':
+        case u'G':
+            return {std::chars_format::general, false, letter == u'G'};
+        case u'a':
+        case u'A':
+            return {std::chars_format::hex, true, letter == u'A'};
+        default:
+            return {std::chars_format::fixed, false, letter == u'F'};
+    }
+}
+
+std::u16string realDigits(double magnitude, const FormatField& field, const RealStyle& style)
+{
+    std::array<char, longestReal> buffer{};
+    char* const first = buffer.data();
+    char* const last = buffer.data() + buffer.size();
+    const auto precision = field.precision ? static_cast<int>(*field.precision) : defaultPrecision;
+    const auto [end, error] = style.hexadecimal && !field.precision
+                                  ? std::to_chars(first, last, magnitude, style.format)
+                                  : std::to_chars(first, last, magnitude, style.format, precision);
+    return widened({first, static_cast<std::size_t>(end - first)});
+}
+
+/// What "#" adds to the digits of a real number: a point always.
+std::u16string withPoint(std::u16string digits)
+{
+    if (digits.find(u'.') == std::u16string::npos) {
+        digits.insert(std::min(digits.find_first_of(u"ep"), digits.size()), 1, u'.');
+    }
+    return digits;
+}
+
+}  // namespace
+
+std::u16string formattedSigned(std::int64_t value, const FormatField& field)
+{
+    const bool negative = value < 0;
+    const auto word = static_cast<std::uint64_t>(value);
+    const std::uint64_t magnitude = negative ? ~word + 1 : word;
+    return padded(signText(negative, field), wholeDigits(magnitude, 10, field), field,
+                  field.zeroPadded && !field.precision);
+}
+
+std::u16string formattedUnsigned(std::uint64_t value, const FormatField& field, char16_t letter)
+{
+    const bool hexadecimal = letter == u'x' || letter == u'X';
+    const int base = hexadecimal ? 16 : (letter == u'o' ? 8 : 10);
+    std::u16string digits = wholeDigits(value, base, field);
+    std::u16string prefix;
+    if (field.alternate && hexadecimal && value != 0) prefix = u"0x";
+    if (field.alternate && base == 8 && !digits.starts_with(u'0')) digits.insert(0, 1, u'0');
+    std::u16string result = padded(prefix, digits, field, field.zeroPadded && !field.precision);
+    return letter == u'X' ? upperCased(std::move(result)) : result;
+}
+
+std::u16string formattedReal(double value, const FormatField& field, char16_t letter)
+{
+    const RealStyle style = styleOfLetter(letter);
+    std::u16string prefix = signText(std::signbit(value), field);
+    std::u16string digits;
+    const bool finite = std::isfinite(value);
+    if (finite) {
+        digits = realDigits(std::fabs(value), field, style);
+        if (field.alternate) digits = withPoint(std::move(digits));
+        if (style.hexadecimal) prefix += u"0x";
+    } else {
+        digits = std::isnan(value) ? u"nan" : u"inf";
+    }
+    // Zeros in front of "inf" or "nan" would make no number of them.
+    std::u16string result = padded(prefix, digits, field, field.zeroPadded && finite);
+    return style.upperCase ? upperCased(std::move(result)) : result;
+}
+
+std::u16string formattedText(const std::u16string& text, const FormatField& field)
+{
+    return padded(u"", text.substr(0, field.precision.value_or(text.size())), field, false);
+}
+
+}  // namespace vantorel
