@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,9 @@ public:
 
     /// What stands at a path, links followed.
     [[nodiscard]] virtual HostFileKind kindAtPath(const std::string& path) const = 0;
+    /// A number that changes when the file, or the list of names in the folder, at a path does; 0
+    /// when there is nothing. It tells only whether to look again.
+    [[nodiscard]] virtual std::uint64_t versionAtPath(const std::string& path) const = 0;
     /// Makes one folder, readable by the user alone; its parent must exist.
     virtual bool createDirectory(const std::string& path) = 0;
     /// The names in a folder, sorted by their bytes; empty when it cannot be read.

@@ -1,0 +1,79 @@
+#include "colorlists/ColorListsPopUp.h"
+
+#include "colorlists/QTXHexColorLists.h"
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+constexpr int cssKeywordToken = 13;
+
+bool contains(const std::vector<std::u16string>& names, const std::u16string& name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+HostMenuItem itemWithAction(const std::u16string& title,
+                            const std::function<void(const std::u16string&)>& action)
+{
+    HostMenuItem item;
+    item.title = title;
+    item.action = [action](const HostMenuItem& chosen) {
+        // Copies: the action rebuilds the very menu that holds this item.
+        const auto run = action;
+        const std::u16string chosenTitle = chosen.title;
+        run(chosenTitle);
+    };
+    return item;
+}
+
+HostMenuItem parentItem(const char16_t* title, HostMenu submenu)
+{
+    HostMenuItem item;
+    item.title = title;
+    item.submenu = std::move(submenu);
+    return item;
+}
+
+}  // namespace
+
+bool allColorsAreSolid(HostColorListStore& store, const std::u16string& name)
+{
+    if (name.empty()) return false;
+    const auto list = store.colorListNamed(name);
+    if (!list || list->allKeys().empty()) return false;
+    for (std::size_t i = 0; i < list->allKeys().size(); ++i) {
+        if (list->colorAtIndex(i).isPattern()) return false;
+    }
+    return true;
+}
+
+void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16string>& activeLists,
+                          HostColorListStore& store, const ColorListsPopUpActions& actions)
+{
+    popUp.removeAllItems();
+    HostMenu removeMenu;
+    HostMenu addMenu;
+    for (const std::u16string& name : activeLists) {
+        popUp.addItemWithTitle(name);
+        removeMenu.push_back(itemWithAction(name, actions.remove));
+    }
+    popUp.addItem(HostMenuItem::separatorItem());
+    if (activeLists.size() >= 2) popUp.addItem(parentItem(u"Remove", std::move(removeMenu)));
+    for (const std::u16string& name : store.availableColorLists()) {
+        if (contains(activeLists, name) || !allColorsAreSolid(store, name)) continue;
+        addMenu.push_back(itemWithAction(name, actions.add));
+    }
+    popUp.addItem(parentItem(u"Add", std::move(addMenu)));
+}
+
+std::u16string namingListAfterRemoval(const std::u16string& removed,
+                                      const std::vector<std::u16string>& activeLists)
+{
+    const std::u16string fallback = nameFromHexColorList(cssKeywordToken).value_or(u"");
+    if (removed != fallback && contains(activeLists, fallback)) return fallback;
+    return activeLists.front();
+}
+
+}  // namespace vantorel

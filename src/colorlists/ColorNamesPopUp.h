@@ -1,0 +1,58 @@
+#pragma once
+
+#include "color/QTXHexColorSpec.h"
+#include "host/HostColorList.h"
+#include "host/HostControls.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The pop-up that shows the colours of the naming list by name, and the matching of the current
+/// colour against that list.
+namespace vantorel {
+
+inline constexpr const char16_t* noMatchTitle = u"No Match";
+
+/// A swatch for a menu: the colour with a white and a black rim, 22 by 14 points.
+[[nodiscard]] HostImage swatchImage(const HostColor& color);
+
+/// The swatch of one entry; nothing when the list has no such key.
+[[nodiscard]] std::optional<HostImage> menuImageWithColorList(const HostColorList& list,
+                                                              const std::u16string& colorName);
+
+/// How a colour stands to the entries of a list.
+struct ColorNameMatch {
+    /// The key of the first entry that equals the colour.
+    std::optional<std::u16string> exactKey;
+    /// Where none does: the keys of the entries close to it, in list order.
+    std::vector<std::u16string> closeKeys;
+
+    /// "* navy, teal", or "No Match" when no key is close.
+    [[nodiscard]] std::u16string closeTitle() const;
+};
+
+[[nodiscard]] ColorNameMatch matchColorName(const QTXHexColorSpec& color,
+                                            const HostColorList& list);
+
+/// Fills a name pop-up, and remembers with what, so that filling it again with the same list is
+/// free.
+class ColorNamesPopUpFiller {
+public:
+    /// "No Match", a separator and the keys with their swatches; "Empty" alone for no list.
+    void fill(HostPopUpButton& popUp, const std::shared_ptr<HostColorList>& list);
+
+    /// Moves the entries of close colours up, under the first item and above the separator.
+    /// An entry that is the list's first key stays where it is.
+    void moveCloseEntriesUp(HostPopUpButton& popUp, const HostColorList& list,
+                            const std::vector<std::u16string>& closeKeys);
+
+private:
+    std::shared_ptr<HostColorList> _filledWith;
+    std::uint64_t _revision = 0;
+    bool _inListOrder = false;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,209 @@
+#include "colorlists/PaletteFile.h"
+
+#include "host/HostText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <unordered_map>
+
+namespace vantorel {
+namespace {
+
+constexpr std::array<std::string_view, 2> heads{"GIMP Palette", "KDE RGB Palette"};
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view nameField = "Name:";
+constexpr std::string_view columnsField = "Columns:";
+constexpr std::string_view blanks = " \t";
+
+std::string_view trimmed(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
+
+/// A text of the file: UTF-8, or Latin-1 where it is no UTF-8.
+std::u16string decoded(std::string_view text)
+{
+    if (isWellFormedUtf8(text)) return utf16FromUtf8(text);
+    std::u16string result;
+    for (const char c : text)
+        result.push_back(static_cast<unsigned char>(c));
+    return result;
+}
+
+/// Walks over the lines of a file, whatever ends them.
+class Lines {
+public:
+    explicit Lines(std::string_view bytes) : _rest(bytes)
+    {
+        if (_rest.starts_with(byteOrderMark)) _rest.remove_prefix(byteOrderMark.size());
+    }
+
+    bool next(std::string_view& line)
+    {
+        if (_rest.empty()) return false;
+        const std::size_t end = _rest.find_first_of("\r\n");
+        line = _rest.substr(0, end);
+        const std::size_t length = std::min(line.size(), _rest.size());
+        _rest.remove_prefix(length);
+        if (_rest.starts_with("\r\n")) {
+            _rest.remove_prefix(2);
+        } else if (!_rest.empty()) {
+            _rest.remove_prefix(1);
+        }
+        ++_number;
+        return true;
+    }
+
+    [[nodiscard]] std::size_t number() const { return _number; }
+
+private:
+    std::string_view _rest;
+    std::size_t _number = 0;
+};
+
+bool readHead(Lines& lines)
+{
+    std::string_view line;
+    return lines.next(line) && std::find(heads.begin(), heads.end(), trimmed(line)) != heads.end();
+}
+
+/// Reads one number 0..255 and moves on behind it.
+bool readByte(std::string_view& line, int& byte)
+{
+    const std::size_t start = line.find_first_not_of(blanks);
+    if (start == std::string_view::npos) return false;
+    line.remove_prefix(start);
+    const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), byte);
+    if (error != std::errc{} || byte < 0 || byte > 255) return false;
+    line.remove_prefix(static_cast<std::size_t>(end - line.data()));
+    return line.empty() || blanks.find(line.front()) != std::string_view::npos;
+}
+
+/// What stands behind the numbers. Behind a tab, which our own writer puts there, the name is taken
+/// to the letter.
+std::u16string rowName(std::string_view rest)
+{
+    const std::size_t start = rest.find_first_not_of(' ');
+    if (start != std::string_view::npos && rest[start] == '\t') {
+        return decoded(rest.substr(start + 1));
+    }
+    return decoded(trimmed(rest));
+}
+
+/// Adds colours under keys of their own.
+class KeyedColors {
+public:
+    explicit KeyedColors(HostColorList& list) : _list(list) {}
+
+    void add(const HostColor& color, std::u16string name)
+    {
+        if (name.empty()) name = u"Untitled";
+        std::u16string key = name;
+        while (_list.colorWithKey(key)) {
+            const std::string number =
+                std::to_string(++_lastNumber.try_emplace(name, 1).first->second);
+            key = name + u" " + std::u16string(number.begin(), number.end());
+        }
+        _list.setColor(color, key);
+    }
+
+private:
+    HostColorList& _list;
+    std::unordered_map<std::u16string, std::size_t> _lastNumber;
+};
+
+std::string harmless(const std::u16string& name)
+{
+    std::u16string result = name;
+    std::replace_if(
+        result.begin(), result.end(), [](char16_t c) { return c < 0x20 || c == 0x7F; }, u' ');
+    return utf8FromUtf16(result);
+}
+
+int byteOfChannel(double channel)
+{
+    if (!(channel > 0)) return 0;
+    return channel < 1 ? static_cast<int>(std::lround(channel * 255)) : 255;
+}
+
+void appendNumber(std::string& text, int byte)
+{
+    const std::string digits = std::to_string(byte);
+    text.append(3 - digits.size(), ' ');
+    text += digits;
+}
+
+}  // namespace
+
+std::optional<PaletteReading> readPalette(std::string_view bytes,
+                                          const std::u16string& fallbackName)
+{
+    const auto name = paletteName(bytes, fallbackName);
+    if (!name) return std::nullopt;
+    PaletteReading reading;
+    reading.list = std::make_shared<HostColorList>(*name);
+    KeyedColors colors(*reading.list);
+
+    Lines lines(bytes);
+    readHead(lines);
+    std::string_view line;
+    while (lines.next(line)) {
+        const std::string_view content = trimmed(line);
+        if (content.empty() || content.front() == '#' || content.starts_with(nameField) ||
+            content.starts_with(columnsField)) {
+            continue;
+        }
+        std::array<int, 3> rgb{};
+        std::string_view rest = line;
+        if (std::all_of(rgb.begin(), rgb.end(), [&](int& byte) { return readByte(rest, byte); })) {
+            colors.add(HostColor::colorWithCalibratedRed(rgb[0] / 255.0, rgb[1] / 255.0,
+                                                         rgb[2] / 255.0, 1.0),
+                       rowName(rest));
+        } else {
+            reading.skipped.push_back({lines.number(), "not three numbers from 0 to 255"});
+        }
+    }
+    return reading;
+}
+
+std::optional<std::u16string> paletteName(std::string_view bytes,
+                                          const std::u16string& fallbackName)
+{
+    Lines lines(bytes);
+    if (!readHead(lines)) return std::nullopt;
+    std::string_view line;
+    while (lines.next(line)) {
+        const std::string_view content = trimmed(line);
+        if (content.starts_with(nameField)) {
+            // One blank belongs to the field; the rest is the name, to the letter.
+            std::string_view name = line.substr(line.find(nameField) + nameField.size());
+            if (name.starts_with(' ')) name.remove_prefix(1);
+            if (!trimmed(name).empty()) return decoded(name);
+        }
+        // Behind the first row no head follows.
+        if (!content.empty() && content.front() >= '0' && content.front() <= '9') break;
+    }
+    return fallbackName;
+}
+
+std::string paletteText(const HostColorList& list)
+{
+    std::string text = "GIMP Palette\nName: " + harmless(list.name()) + "\nColumns: 0\n";
+    const auto& keys = list.allKeys();
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const auto rgb = list.colorAtIndex(i).calibratedRGB().value_or(HostColor::Components{});
+        appendNumber(text, byteOfChannel(rgb.red));
+        text += ' ';
+        appendNumber(text, byteOfChannel(rgb.green));
+        text += ' ';
+        appendNumber(text, byteOfChannel(rgb.blue));
+        text += '\t' + harmless(keys[i]) + '\n';
+    }
+    return text;
+}
+
+}  // namespace vantorel

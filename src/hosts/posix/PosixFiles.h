@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/HostFiles.h"
+
+namespace vantorel {
+
+/// The files of the real disk. Folders and files that it makes are readable by the user alone.
+class PosixFiles final : public HostFiles {
+public:
+    /// The user's data in `$XDG_DATA_HOME`, if that is an absolute path, else in `~/.local/share`
+    /// (XDG Base Directory Specification).
+    PosixFiles();
+    /// The user's data in a given folder.
+    explicit PosixFiles(std::string applicationSupportDirectory);
+
+    /// Makes the folder when it is missing.
+    [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override;
+    [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override;
+    [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override;
+    bool createDirectory(const std::string& path) override;
+    [[nodiscard]] std::vector<std::string> contentsOfDirectory(
+        const std::string& path) const override;
+    /// Regular files only, so that it never waits for a pipe.
+    [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
+    /// Through a new file in the same folder, which is synchronised with the disk and then renamed.
+    /// A file that is replaced hands its permissions on; a link is followed, and stays.
+    bool writeAtomically(const std::string& path, const std::string& bytes) override;
+
+private:
+    std::optional<std::string> _applicationSupportDirectory;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,34 @@
+#include "picker/LiveHexReadout.h"
+
+#include "color/QTXHexColorSpec.h"
+#include "snippets/FormatString.h"
+
+#include <array>
+#include <cstdint>
+
+namespace vantorel {
+namespace {
+
+/// By the number of characters typed.
+constexpr std::array<std::u16string_view, 7> progressFormats{
+    u"R:---  G:---  B:---",     u"%d: R:%03d* G:--- B:---", u"%d: R:%3d G:--- B:---",
+    u"%d: R:%3d G:%03d* B:---", u"%d: R:%3d G:%3d B:---",   u"%d: R:%3d G:%3d B:%03d*",
+    u"%d: R:%3d G:%3d B:%3d",
+};
+constexpr std::u16string_view errorFormat = u"%d: Error";
+
+}  // namespace
+
+std::u16string liveHexReadout(std::u16string_view typed)
+{
+    if (typed.starts_with(u'#')) typed.remove_prefix(1);
+    const std::size_t count = typed.size();
+    QTXHexColorSpec spec;
+    if (count > 0 && count < progressFormats.size()) spec.setWithString(typed);
+    const std::array<FormatArgument, 4> arguments{std::uint64_t{count}, spec.redHexComp(),
+                                                  spec.greenHexComp(), spec.blueHexComp()};
+    return formatted(count < progressFormats.size() ? progressFormats[count] : errorFormat,
+                     arguments);
+}
+
+}  // namespace vantorel

@@ -1,0 +1,86 @@
+#include "picker/PickerInterface.h"
+
+#include "picker/EnterTextFields.h"
+
+namespace vantorel {
+namespace {
+
+/// Connects a control to the action that the file names for it. False when nobody has that action.
+bool connectAction(HostView& view, const std::string& name, const PickerInterface::Parts& parts)
+{
+    if (name.empty()) return true;
+    auto* control = dynamic_cast<HostControl*>(&view);
+    auto action = parts.actionNamed(name);
+    if (control == nullptr || !action) return false;
+    control->setAction(std::move(action));
+    return true;
+}
+
+}  // namespace
+
+std::unique_ptr<PickerInterface> PickerInterface::build(const std::string& interfaceFile,
+                                                        const Parts& parts)
+{
+    const auto items = parseInterfaceFile(interfaceFile);
+    if (!items) return nullptr;
+    auto interface = std::make_unique<PickerInterface>();
+    for (const InterfaceItem& item : *items) {
+        if (interface->buildItem(item, parts) == nullptr) return nullptr;
+    }
+    return interface;
+}
+
+PickerInterface::~PickerInterface()
+{
+    // Subviews first, so that no desktop sees a view end before what stands in it.
+    while (!_views.empty())
+        _views.pop_back();
+}
+
+HostView* PickerInterface::buildItem(const InterfaceItem& item, const Parts& parts)
+{
+    std::unique_ptr<HostView> made = makeView(item, parts);
+    if (!made) return nullptr;
+    HostView* view = made.get();
+    _views.push_back(std::move(made));
+    _byName.emplace(item.description.identifier, view);
+
+    view->setResizing(item.description.resizing);
+    if (!item.description.toolTip.empty()) view->setToolTip(item.description.toolTip);
+    if (!connectAction(*view, item.action, parts)) return nullptr;
+    for (const InterfaceItem& subitem : item.subviews) {
+        HostView* subview = buildItem(subitem, parts);
+        if (subview == nullptr) return nullptr;
+        view->addSubview(*subview);
+    }
+    return view;
+}
+
+std::unique_ptr<HostView> PickerInterface::makeView(const InterfaceItem& item, const Parts& parts)
+{
+    HostControlDescription description = item.description;
+    if (!item.image.empty()) {
+        description.svgImage = parts.bundle.resource(item.image + ".svg").value_or("");
+    }
+    HostInterfaceFactory& factory = parts.factory;
+    using Kind = InterfaceItem::Kind;
+    switch (item.kind) {
+        case Kind::view:
+            return factory.makeView(description);
+        case Kind::colorsView:
+            return factory.makeCustomView(description, parts.colorsView);
+        case Kind::settingsView:
+            return factory.makeCustomView(description, parts.settingsView);
+        case Kind::textField:
+        case Kind::hexEnterTextField:
+        case Kind::rgbDecimalEnterTextField:
+            return factory.makeTextField(description);
+        case Kind::popUpButton:
+            return factory.makePopUpButton(description);
+        case Kind::button:
+            return factory.makeButton(description);
+    }
+    return nullptr;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/HostControls.h"
+
+namespace vantorel {
+
+class PickerInterface;
+
+/// The controls that the picker works on, by the names that the interface file gives them. All are
+/// null until `connectOutlets`; from then on none is.
+struct PickerOutlets {
+    HostView* _hexPickerView = nullptr;
+    HostCustomView* _hexSettingsViewOutlet = nullptr;
+    HostCustomView* _hexColorsViewOutlet = nullptr;
+    HostTextField* _redHexText = nullptr;
+    HostTextField* _greenHexText = nullptr;
+    HostTextField* _blueHexText = nullptr;
+    HostTextField* _fullHexText = nullptr;
+    HostTextField* _rgbDecimalText = nullptr;
+    HostTextField* _objCCodeText = nullptr;
+    HostTextField* _cursorReadoutText = nullptr;
+    HostPopUpButton* componentDisplayPopUp = nullptr;
+    HostTextField* componentDisplayLabel = nullptr;
+    HostPopUpButton* entryFormPopUp = nullptr;
+    HostButton* poundSignCheckbox = nullptr;
+    HostButton* settingsDoneButton = nullptr;
+    HostPopUpButton* cCodeEntryFormPopUp = nullptr;
+    HostPopUpButton* codeDragTypePopUp = nullptr;
+    HostTextField* codeDragTypeLabel = nullptr;
+    HostTextField* codeCodeLabel = nullptr;
+    HostButton* pickViewModeButton = nullptr;
+    HostButton* increaseCubeRingsButton = nullptr;
+    HostButton* decreaseCubeRingsButton = nullptr;
+    HostPopUpButton* hexColorsListPopUp = nullptr;
+    HostPopUpButton* hexColorNamePopUp = nullptr;
+    HostButton* moreIndicatorButton = nullptr;
+    HostTextField* _versionLabelText = nullptr;
+
+    /// Connects every outlet, or none and returns false when the interface lacks one or has it as
+    /// another class.
+    bool connectOutlets(const PickerInterface& interface);
+};
+
+}  // namespace vantorel

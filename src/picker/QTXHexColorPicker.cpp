@@ -1,0 +1,179 @@
+#include "picker/QTXHexColorPicker.h"
+
+#include "color/ColorMeasures.h"
+#include "colorlists/QTXHexColorLists.h"
+#include "picker/ControlWriting.h"
+#include "picker/PickerInterface.h"
+#include "settings/SettingsFile.h"
+
+namespace vantorel {
+namespace {
+
+constexpr const char* interfaceFileName = "QTXHexPick";
+constexpr const char* buttonImageName = "picker.svg";
+/// The read-out's x while there is nothing to read: beside every page.
+constexpr double readoutOutOfSight = 500;
+
+}  // namespace
+
+QTXHexColorPicker::QTXHexColorPicker(std::uint32_t pickerMask, HostColorPanel& colorPanel,
+                                     const HostBundle& bundle)
+    : HostColorPicker(pickerMask, colorPanel),
+      _bundle(bundle),
+      _hexColorsView(*this),
+      _noMatchString(noMatchTitle)
+{
+}
+
+QTXHexColorPicker::~QTXHexColorPicker()
+{
+    // The contents outlive their views, but must not ask them for anything while these go.
+    _hexColorsView.stopTracking();
+    _hexColorsView.attachToView(nullptr);
+    _hexSettingsView.attachToView(nullptr);
+}
+
+HostView* QTXHexColorPicker::provideNewView(bool initialRequest)
+{
+    if (initialRequest && !_interface) {
+        if (loadInterface()) {
+            awakeFromNib();
+        } else {
+            colorPanel().desktop().log(u"ERROR: couldn't load MyColorPicker nib");
+        }
+    }
+    return _hexPickerView;
+}
+
+bool QTXHexColorPicker::loadInterface()
+{
+    const auto file = _bundle.resource(interfaceFileName);
+    if (!file) return false;
+    auto interface = PickerInterface::build(
+        *file, {.factory = colorPanel().desktop().interfaceFactory(),
+                .bundle = _bundle,
+                .colorsView = _hexColorsView,
+                .settingsView = _hexSettingsView,
+                .actionNamed = [this](const std::string& name) { return actionFunction(name); }});
+    if (!interface || !connectOutlets(*interface)) return false;
+    _interface = std::move(interface);
+    _hexColorsView.attachToView(_hexColorsViewOutlet);
+    _hexSettingsView.attachToView(_hexSettingsViewOutlet);
+    EnterTextFieldDelegate& delegate = *this;
+    _hexEnterTextField = std::make_unique<QTXHexEnterTextField>(*_fullHexText, delegate);
+    _rgbDecimalEnterTextField =
+        std::make_unique<QTXRGBDecimalEnterTextField>(*_rgbDecimalText, delegate);
+    return true;
+}
+
+void QTXHexColorPicker::awakeFromNib()
+{
+    HostDesktop& desktop = colorPanel().desktop();
+    __holdOffDefaultsStore = true;
+    // Asked before the settings file is read, so it is always yes here: the built-in lists are
+    // looked up at every start, whatever the file says.
+    if (_hexSettings.createColorLists()) checkAndInstallColorLists(desktop.colorLists());
+    initializeDefaults(desktop.files(), _hexSettings);
+    buildColorListsPopup();
+    syncListColorNames();
+    syncPanel();
+    fillSettingsPopUps();
+    hideCursorReadout();
+}
+
+void QTXHexColorPicker::fillSettingsPopUps()
+{
+    if (_hexSettings.codeSnippets().empty()) {
+        const auto& snippets = QTXCodeSnippet::buildDefaultCodeSnippets();
+        _hexSettings.setCodeSnippets(snippets);
+        _hexSettings.setCodeSnippetName(snippets.front().nameSnippet());
+    }
+    setItems(cCodeEntryFormPopUp, _hexSettings.codeSnippetNames());
+    setItems(codeDragTypePopUp, QTXHexSettings::codeDragTypeNames());
+    __holdOffDefaultsStore = false;
+    setItems(componentDisplayPopUp, QTXHexSettings::componentDisplayNames());
+    setItems(entryFormPopUp, QTXHexSettings::entryFormNames());
+}
+
+bool QTXHexColorPicker::supportsMode(int mode) const
+{
+    return mode == hexColorPickerMode;
+}
+
+int QTXHexColorPicker::currentMode() const
+{
+    return hexColorPickerMode;
+}
+
+std::u16string QTXHexColorPicker::buttonToolTip() const
+{
+    return colorPanel().desktop().localizedString(u"Vantorel");
+}
+
+std::string QTXHexColorPicker::buttonImage() const
+{
+    return _bundle.resource(buttonImageName).value_or("");
+}
+
+HostSize QTXHexColorPicker::minContentSize() const
+{
+    return {175, 190};
+}
+
+HostSize QTXHexColorPicker::minContentSizeWitSettings() const
+{
+    return {212, 220};
+}
+
+void QTXHexColorPicker::setColor(const std::optional<HostColor>& color)
+{
+    if (__holdOffSync) return;
+    _exactHexColorMatch = vantorel::exactHexColor(color);
+    _hexColorSpec.setColorHexColorSpec(color);
+    syncPanel();
+}
+
+void QTXHexColorPicker::colorChanged(HostControl*)
+{
+    const auto color = colorRespectingAlpha(_hexColorSpec.colorHexColorSpec());
+    if (color) colorPanel().setColor(*color);
+    syncPanel();
+}
+
+std::optional<HostColor> QTXHexColorPicker::colorRespectingAlpha(
+    const std::optional<HostColor>& color) const
+{
+    if (!color) return std::nullopt;
+    const auto panelColor = colorPanel().color();
+    const double alpha = panelColor ? panelColor->alphaComponent() : 1.0;
+    return 1.0 - alpha > 0.01 ? color->colorWithAlphaComponent(alpha) : *color;
+}
+
+void QTXHexColorPicker::loadFullHex()
+{
+    // Without the pound sign; the next synchronisation adds it.
+    setText(_fullHexText,
+            _hexColorSpec.fullStringHexColorSpecWithEntryForm(_hexSettings.entryForm()));
+}
+
+void QTXHexColorPicker::showCursorReadout()
+{
+    if (_hexColorsViewOutlet == nullptr || _hexColorsViewOutlet->superview() == nullptr) return;
+    const HostRect view = _hexColorsViewOutlet->frame();
+    moveTo(_cursorReadoutText, {view.x, view.maxY()});
+}
+
+void QTXHexColorPicker::hideCursorReadout()
+{
+    if (_cursorReadoutText == nullptr) return;
+    moveTo(_cursorReadoutText, {readoutOutOfSight, _cursorReadoutText->frame().y});
+}
+
+void QTXHexColorPicker::postCursorReadout(const QTXHexColorSpec* spec)
+{
+    setText(_cursorReadoutText, spec != nullptr ? spec->fullSpacedStringHexColorSpecWithEntryForm(
+                                                      _hexSettings.entryForm())
+                                                : u"-- -- --");
+}
+
+}  // namespace vantorel

@@ -1,0 +1,157 @@
+#include "picker/PickerLayout.h"
+#include "picker/QTXHexColorPicker.h"
+
+#include <initializer_list>
+#include <utility>
+
+/// The two faces of the page, the colours and the settings, and the layout of both. Only one of the
+/// two is in the hierarchy at a time, in the same place.
+namespace vantorel {
+namespace {
+
+/// The page in which every row of the settings face fits.
+constexpr HostSize roomySettingsSize{240, 300};
+
+bool isShown(const HostView* view)
+{
+    return view != nullptr && view->superview() != nullptr;
+}
+
+bool isSmaller(HostSize size, HostSize limit)
+{
+    return size.width < limit.width || size.height < limit.height;
+}
+
+#ifndef VANTOREL_MANUAL_URL
+#define VANTOREL_MANUAL_URL "supportManual.htm"
+#endif
+
+}  // namespace
+
+void QTXHexColorPicker::checkTrackingStatus()
+{
+    _hexColorsView.startTracking();
+}
+
+void QTXHexColorPicker::settingsButtonAction(HostControl*)
+{
+    if (!__holdOffSync) toggleSettingsView();
+}
+
+void QTXHexColorPicker::settingsDoneButtonAction(HostControl*)
+{
+    if (!__holdOffSync) toggleSettingsView();
+}
+
+void QTXHexColorPicker::helpHexColorAction(HostControl*)
+{
+    if (!__holdOffSync) colorPanel().desktop().openURL(VANTOREL_MANUAL_URL);
+}
+
+void QTXHexColorPicker::moreIndicatorAction(HostControl*)
+{
+    if (__holdOffSync || _hexPickerView == nullptr) return;
+    const HostSize page = _hexPickerView->frame().size();
+    if (!isSmaller(page, roomySettingsSize)) return;
+    colorPanel().setFrame(panelFrameGrownFor(colorPanel().frame(), page, roomySettingsSize), true);
+    fixSettingsView();
+}
+
+void QTXHexColorPicker::toggleSettingsView()
+{
+    HostCustomView* settings = _hexSettingsViewOutlet;
+    HostCustomView* colors = _hexColorsViewOutlet;
+    if (!isShown(settings) && isShown(colors)) {
+        _hexColorsView.stopTracking();
+        const HostSize page = _hexPickerView->frame().size();
+        if (isSmaller(page, minContentSizeWitSettings())) {
+            colorPanel().setFrame(
+                panelFrameGrownFor(colorPanel().frame(), page, minContentSizeWitSettings()), true);
+        }
+        const HostRect frame = colors->frame();
+        HostView* place = colors->superview();
+        colors->removeFromSuperview();
+        settings->setFrame(frame);
+        // The bounds take the frame's origin here and zero on the way back: the settings face is
+        // laid out in its superview's coordinates.
+        settings->setBounds(frame);
+        place->addSubview(*settings);
+        fixSettingsView();
+    } else if (isShown(settings) && !isShown(colors) && colors != nullptr) {
+        const HostRect frame = settings->frame();
+        HostView* place = settings->superview();
+        settings->removeFromSuperview();
+        colors->setFrame(frame);
+        colors->setBounds({0, 0, frame.width, frame.height});
+        place->addSubview(*colors);
+        checkTrackingStatus();
+    }
+}
+
+void QTXHexColorPicker::viewSizeChanged(HostView*)
+{
+    if (_hexPickerView == nullptr) return;
+    const bool settingsShown = isShown(_hexSettingsViewOutlet);
+    const bool colorsShown = isShown(_hexColorsViewOutlet);
+    MainFaceInput input{
+        .current = {_redHexText->frame(), _greenHexText->frame(), _blueHexText->frame(),
+                    _objCCodeText->frame(), hexColorNamePopUp->frame(), _rgbDecimalText->frame()},
+        .reference = _hexColorsViewOutlet->frame(),
+        .colorsListPopUp = hexColorsListPopUp->frame(),
+        .fullHex = _fullHexText->frame(),
+        .panel = colorPanel().frame().size(),
+        .showsCodeSnippet = _hexSettings.componentDisplay() == ComponentDisplay::codeSnippet,
+    };
+    if (settingsShown && !colorsShown &&
+        isSmaller(_hexPickerView->frame().size(), minContentSizeWitSettings())) {
+        toggleSettingsView();
+    }
+    if (!isShown(_hexColorsViewOutlet)) {
+        const HostRect settings = _hexSettingsViewOutlet->frame();
+        input.reference.x = settings.x;
+        input.reference.y = settings.y;
+        input.reference.width = settings.width;
+    }
+    fixSettingsView();
+
+    const MainFaceFrames frames = mainFaceLayout(input);
+    _redHexText->setFrame(frames.red);
+    _greenHexText->setFrame(frames.green);
+    _blueHexText->setFrame(frames.blue);
+    _objCCodeText->setFrame(frames.snippet);
+    hexColorNamePopUp->setFrame(frames.colorName);
+    _rgbDecimalText->setFrame(frames.rgbDecimal);
+
+    if (colorsShown && !settingsShown) {
+        _hexColorsView.stopTracking();
+        checkTrackingStatus();
+    }
+}
+
+void QTXHexColorPicker::fixSettingsView()
+{
+    if (_hexPickerView == nullptr) return;
+    const std::initializer_list<std::pair<HostView*, HostRect SettingsFaceFrames::*>> controls{
+        {settingsDoneButton, &SettingsFaceFrames::doneButton},
+        {poundSignCheckbox, &SettingsFaceFrames::poundSign},
+        {entryFormPopUp, &SettingsFaceFrames::entryForm},
+        {componentDisplayPopUp, &SettingsFaceFrames::componentDisplay},
+        {componentDisplayLabel, &SettingsFaceFrames::componentDisplayLabel},
+        {cCodeEntryFormPopUp, &SettingsFaceFrames::codeSnippet},
+        {codeCodeLabel, &SettingsFaceFrames::codeSnippetLabel},
+        {codeDragTypePopUp, &SettingsFaceFrames::dragType},
+        {codeDragTypeLabel, &SettingsFaceFrames::dragTypeLabel},
+        {moreIndicatorButton, &SettingsFaceFrames::moreIndicator},
+        {_versionLabelText, &SettingsFaceFrames::versionLabel},
+    };
+    SettingsFaceFrames frames;
+    for (const auto& [view, frame] : controls)
+        frames.*frame = view->frame();
+    const HostRect bounds = isShown(_hexColorsViewOutlet) ? _hexColorsViewOutlet->bounds()
+                                                          : _hexSettingsViewOutlet->bounds();
+    frames = settingsFaceLayout(frames, bounds);
+    for (const auto& [view, frame] : controls)
+        view->setFrame(frames.*frame);
+}
+
+}  // namespace vantorel

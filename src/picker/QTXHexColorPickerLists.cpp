@@ -1,0 +1,124 @@
+#include "colorlists/ColorListsPopUp.h"
+#include "colorlists/ColorNamesPopUp.h"
+#include "picker/ControlWriting.h"
+#include "picker/QTXHexColorPicker.h"
+#include "snippets/DragString.h"
+
+#include <algorithm>
+
+/// The list pop-up, the name pop-up, and the text that a drag carries.
+namespace vantorel {
+
+std::shared_ptr<HostColorList> QTXHexColorPicker::namingList() const
+{
+    const auto& name = _hexSettings.hexColorList();
+    return name ? colorPanel().desktop().colorLists().colorListNamed(*name) : nullptr;
+}
+
+void QTXHexColorPicker::buildColorListsPopup()
+{
+    if (hexColorsListPopUp == nullptr) return;
+    buildColorListsPopUp(
+        *hexColorsListPopUp, _hexSettings.activeColorLists(), colorPanel().desktop().colorLists(),
+        {.add = [this](const std::u16string& title) { addToActiveColorListsAction(title); },
+         .remove =
+             [this](const std::u16string& title) { removeFromActiveColorListsAction(title); }});
+}
+
+void QTXHexColorPicker::syncListColorNames()
+{
+    if (hexColorNamePopUp != nullptr) _colorNamesFiller.fill(*hexColorNamePopUp, namingList());
+}
+
+void QTXHexColorPicker::syncListColor()
+{
+    if (hexColorNamePopUp == nullptr) return;
+    hexColorNamePopUp->setWillPopUp({});
+    __holdCloseMatchColors.clear();
+    const auto list = namingList();
+    if (!list || list->allKeys().empty()) return;
+
+    const ColorNameMatch match = matchColorName(_hexColorSpec, *list);
+    _noMatchString = match.closeTitle();
+    hexColorNamePopUp->setTitleOfItem(0, _noMatchString);
+    if (match.exactKey) {
+        hexColorNamePopUp->selectItemWithTitle(*match.exactKey);
+        return;
+    }
+    __holdCloseMatchColors = match.closeKeys;
+    if (!__holdCloseMatchColors.empty()) {
+        hexColorNamePopUp->setWillPopUp([this] { closeColorMenuPoppingUp(); });
+    }
+    hexColorNamePopUp->selectItemAtIndex(0);
+}
+
+void QTXHexColorPicker::closeColorMenuPoppingUp()
+{
+    const auto list = namingList();
+    if (!list) return;
+    _colorNamesFiller.moveCloseEntriesUp(*hexColorNamePopUp, *list, __holdCloseMatchColors);
+}
+
+void QTXHexColorPicker::addToActiveColorListsAction(const std::u16string& title)
+{
+    _hexSettings.activeColorLists().push_back(title);
+    buildColorListsPopup();
+    syncPanel();
+    storeDefaults();
+}
+
+void QTXHexColorPicker::removeFromActiveColorListsAction(const std::u16string& title)
+{
+    auto& active = _hexSettings.activeColorLists();
+    if (active.size() < 2) {
+        colorPanel().desktop().beep();
+        return;
+    }
+    const auto found = std::find(active.begin(), active.end(), title);
+    if (found != active.end()) active.erase(found);
+    if (_hexSettings.hexColorList() == title) {
+        _hexSettings.setHexColorList(namingListAfterRemoval(title, active));
+    }
+    buildColorListsPopup();
+    syncPanel();
+    storeDefaults();
+}
+
+void QTXHexColorPicker::colorListHexAction(HostControl*)
+{
+    if (__holdOffSync) return;
+    if (const auto title = selectedTitle(hexColorsListPopUp)) {
+        _hexSettings.setHexColorList(title);
+        syncPanel();
+    }
+    storeDefaults();
+}
+
+void QTXHexColorPicker::colorNameHexAction(HostControl*)
+{
+    if (__holdOffSync) return;
+    const auto title = selectedTitle(hexColorNamePopUp);
+    if (!title || title == _noMatchString) return;
+    const auto list = namingList();
+    const auto color = list ? list->colorWithKey(*title) : std::nullopt;
+    if (!color) return;
+    colorPanel().setColor(*color);
+    setColor(color);
+}
+
+std::optional<std::u16string> QTXHexColorPicker::dragString() const
+{
+    return dragStringWithDragType(_hexSettings.codeDragType());
+}
+
+std::optional<std::u16string> QTXHexColorPicker::dragStringWithDragType(CodeDragType type) const
+{
+    QTXHexColorSpec spec = _hexColorSpec;
+    const auto panelColor = colorPanel().color();
+    spec.setAlphaComp(panelColor ? panelColor->alphaComponent() : 0.0);
+    return vantorel::dragStringWithDragType(type, spec, _hexSettings.entryForm(),
+                                            _hexSettings.usePoundSign(),
+                                            _hexSettings.codeSnippet());
+}
+
+}  // namespace vantorel

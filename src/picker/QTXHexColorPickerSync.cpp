@@ -1,0 +1,104 @@
+#include "color/ColorTexts.h"
+#include "colorlists/QTXHexColorLists.h"
+#include "picker/ControlWriting.h"
+#include "picker/QTXHexColorPicker.h"
+#include "snippets/FormatString.h"
+
+#include <array>
+
+namespace vantorel {
+namespace {
+
+// Misspelt on purpose: the name is fixed.
+constexpr HostColor exactMatchTextdColorS = HostColor::blackColor();
+constexpr HostColor notExactMatchTextColorS =
+    HostColor::colorWithCalibratedRed(200 / 255.0, 30 / 255.0, 30 / 255.0, 1.0);
+constexpr const char16_t* addStr = u"Add";
+/// The token of "CSS Keyword", the naming list where none is chosen.
+constexpr int fallbackListToken = 13;
+
+}  // namespace
+
+void QTXHexColorPicker::syncPanel()
+{
+    const EntryForm entryForm = _hexSettings.entryForm();
+    const ComponentDisplay display = _hexSettings.componentDisplay();
+    const auto red =
+        _hexColorSpec.redStringHexColorSpecWithEntryForm(entryForm, display).value_or(u"");
+    const auto green =
+        _hexColorSpec.greenStringHexColorSpecWithEntryForm(entryForm, display).value_or(u"");
+    const auto blue =
+        _hexColorSpec.blueStringHexColorSpecWithEntryForm(entryForm, display).value_or(u"");
+    std::u16string full = _hexColorSpec.fullStringHexColorSpecWithEntryForm(entryForm);
+
+    __holdOffSync = true;
+    setText(_rgbDecimalText, _hexColorSpec.rgbDecimalStringWithEntryForm(entryForm));
+    syncListColorNames();
+    syncListColor();
+    syncNamingList();
+    syncExactness(red, green, blue);
+    setText(_redHexText, red);
+    setText(_greenHexText, green);
+    setText(_blueHexText, blue);
+    if (_hexSettings.usePoundSign()) full.insert(0, u"#");
+    if (poundSignCheckbox != nullptr) poundSignCheckbox->setState(_hexSettings.usePoundSign());
+    setText(_fullHexText, full);
+    selectTitle(componentDisplayPopUp,
+                QTXHexSettings::nameComponentDisplay(_hexSettings.componentDisplay()));
+    syncCodeSnippet();
+    selectTitle(cCodeEntryFormPopUp, _hexSettings.codeSnippetName());
+    selectTitle(codeDragTypePopUp, QTXHexSettings::nameCodeDragType(_hexSettings.codeDragType()));
+    _hexColorsView.setNeedsDisplay(true);
+    selectTitle(entryFormPopUp, QTXHexSettings::nameEntryForm(_hexSettings.entryForm()));
+    __holdOffSync = false;
+}
+
+void QTXHexColorPicker::syncNamingList()
+{
+    if (_hexSettings.hexColorList()) {
+        selectTitle(hexColorsListPopUp, _hexSettings.hexColorList());
+        return;
+    }
+    const auto name = nameFromHexColorList(fallbackListToken);
+    _hexSettings.setHexColorList(name);
+    if (hexColorsListPopUp == nullptr) return;
+    const bool offered =
+        name && hexColorsListPopUp->indexOfItemWithTitle(*name) != HostPopUpButton::noItem;
+    hexColorsListPopUp->selectItemWithTitle(offered ? *name : addStr);
+}
+
+void QTXHexColorPicker::syncExactness(const std::u16string& red, const std::u16string& green,
+                                      const std::u16string& blue)
+{
+    struct Row {
+        HostTextField* field;
+        const std::u16string& text;
+        double remainder;
+    };
+    const std::array rows{
+        Row{_redHexText, red, _hexColorSpec.redRemainder()},
+        Row{_greenHexText, green, _hexColorSpec.greenRemainder()},
+        Row{_blueHexText, blue, _hexColorSpec.blueRemainder()},
+    };
+    const bool exact = _hexColorSpec.isExact();
+    for (const Row& row : rows) {
+        if (row.field == nullptr) continue;
+        row.field->setTextColor(exact ? exactMatchTextdColorS : notExactMatchTextColorS);
+        // The tip reads the text as hex in every display, also where the text is no hex: that is
+        // how the tips have always read.
+        const std::uint64_t value = readComponent(row.text, ComponentDisplay::hex);
+        const std::array<FormatArgument, 2> arguments{value, row.remainder * 255.0};
+        row.field->setToolTip(formatted(exact ? u"%3.0d" : u"%3.0d + %0.3f", arguments));
+    }
+}
+
+void QTXHexColorPicker::syncCodeSnippet()
+{
+    // In the other displays the snippet's field keeps what it showed last.
+    if (_hexSettings.componentDisplay() != ComponentDisplay::codeSnippet) return;
+    const auto panelColor = colorPanel().color();
+    _hexColorSpec.setAlphaComp(panelColor ? panelColor->alphaComponent() : 0.0);
+    setText(_objCCodeText, _hexSettings.codeSnippet().codeSnippetWithColorSpec(_hexColorSpec));
+}
+
+}  // namespace vantorel

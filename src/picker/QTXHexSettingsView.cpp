@@ -1,0 +1,23 @@
+#include "picker/QTXHexSettingsView.h"
+
+namespace vantorel {
+namespace {
+
+constexpr HostColor hexSettingsViewBackgroundColorS =
+    HostColor::colorWithCalibratedRed(241 / 255.0, 241 / 255.0, 245 / 255.0, 1.0);
+
+}  // namespace
+
+void QTXHexSettingsView::drawRect(HostCanvas& canvas)
+{
+    if (_view == nullptr) return;
+    const HostRect bounds = _view->bounds();
+    const HostRect inset = insetRect(bounds, 1, 1);
+    __bPth.removeAllPoints();
+    // The origin of the bounds with the size of the inset: the frame sits at the lower left.
+    __bPth.appendBezierPathWithRect({bounds.x, bounds.y, inset.width, inset.height});
+    canvas.fill(__bPth, hexSettingsViewBackgroundColorS);
+    canvas.stroke(__bPth, HostColor::blackColor());
+}
+
+}  // namespace vantorel

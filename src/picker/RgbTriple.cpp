@@ -1,0 +1,70 @@
+#include "picker/RgbTriple.h"
+
+namespace vantorel {
+namespace {
+
+constexpr std::u16string_view opening = u"rgb(";
+constexpr std::size_t digitLimit = 3;
+
+char16_t lowerCased(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c;
+}
+
+bool isSeparator(char16_t c)
+{
+    return c == u' ' || c == u',';
+}
+
+bool isDigit(char16_t c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+/// The place behind the first "rgb(", or npos.
+std::size_t placeBehindOpening(std::u16string_view text)
+{
+    for (std::size_t i = 0; i + opening.size() <= text.size(); ++i) {
+        std::size_t same = 0;
+        while (same < opening.size() && lowerCased(text[i + same]) == opening[same])
+            ++same;
+        if (same == opening.size()) return i + same;
+    }
+    return std::u16string_view::npos;
+}
+
+}  // namespace
+
+RgbTripleReading readRgbTriple(std::u16string_view text)
+{
+    std::size_t place = placeBehindOpening(text);
+    if (place == std::u16string_view::npos) return {};
+
+    RgbTripleReading reading;
+    reading.found = true;
+    std::array<std::uint64_t, 3> numbers{};
+    std::size_t count = 0;
+    bool closed = false;
+    while (!closed && count < numbers.size() && place < text.size()) {
+        while (place < text.size() && isSeparator(text[place]))
+            ++place;
+        std::uint64_t number = 0;
+        std::size_t digits = 0;
+        for (; place < text.size() && !isSeparator(text[place]); ++place) {
+            const char16_t c = text[place];
+            if (c == u')') {
+                closed = true;
+                break;
+            }
+            if (!isDigit(c) || ++digits > digitLimit) return reading;
+            number = number * 10 + (c - u'0');
+        }
+        if (digits == 0) return reading;
+        numbers[count++] = number;
+    }
+    const bool inRange = (numbers[0] | numbers[1] | numbers[2]) < 256;
+    if (count == numbers.size() && inRange) reading.components = numbers;
+    return reading;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,95 @@
+#include "view/QTXHexColorsView.h"
+
+namespace vantorel {
+namespace {
+
+/// A message is gone once its opacity is no more than this.
+constexpr double faintestAlpha = 0.2;
+constexpr double fadingStep = 0.05;
+
+/// What sets a warning apart from a plain message.
+struct MessageStyle {
+    double pointSize;
+    HostColor color;
+    /// While the opacity is above this, the message is at rest for longer.
+    double restingAbove;
+    double restingSeconds;
+    double fadingSeconds;
+};
+
+constexpr MessageStyle plainStyle{12.0, HostColor::colorWithCalibratedRed(0, 0, 1, 1), 0.55, 0.9,
+                                  0.22};
+constexpr MessageStyle warningStyle{18.0, HostColor::colorWithCalibratedRed(1, 0, 0, 1), 0.95, 0.4,
+                                    0.05};
+
+}  // namespace
+
+void QTXHexColorsView::postMessage(const std::u16string& text)
+{
+    post(text, false);
+}
+
+void QTXHexColorsView::postWarning(const std::u16string& text)
+{
+    post(text, true);
+}
+
+void QTXHexColorsView::post(const std::u16string& text, bool isWarning)
+{
+    _isWarning = isWarning;
+    _messageStr = text;
+    _messageAlpha = 1.0F;
+}
+
+void QTXHexColorsView::clearMessage()
+{
+    _messageStr.reset();
+    setNeedsDisplay(true);
+}
+
+void QTXHexColorsView::drawMessage(HostCanvas& canvas)
+{
+    const double alpha = _messageAlpha;
+    if (alpha <= faintestAlpha) return;
+    const MessageStyle& style = _isWarning ? warningStyle : plainStyle;
+    const HostColor color = style.color.colorWithAlphaComponent(alpha);
+    const HostText text{*_messageStr, style.pointSize, color};
+    const HostSize size = panel().desktop().sizeOfText(text);
+    const HostRect within = bounds();
+    const HostRect textBox{within.midX() - size.width / 2, within.maxY() - size.height - 10.0,
+                           size.width, size.height};
+    _messageRect = insetRect(textBox, -8.0, -3.0);
+
+    __bPth.removeAllPoints();
+    __bPth.appendBezierPathWithRect(_messageRect);
+    canvas.fill(__bPth, HostColor::whiteColor().colorWithAlphaComponent(alpha));
+    __bPth.setLineWidth(2.5);
+    canvas.stroke(__bPth, color);
+    canvas.drawText(text, {_messageRect.x + 5.0, _messageRect.y + 6.0});
+    scheduleMessageTimer(alpha > style.restingAbove ? style.restingSeconds : style.fadingSeconds);
+}
+
+/// One timer for every drawing, and none is cancelled: a redraw for another reason adds a step and
+/// so speeds the fading up.
+void QTXHexColorsView::scheduleMessageTimer(double seconds)
+{
+    std::erase_if(_messageTimers, [](const MessageTimer& timer) { return *timer.fired; });
+    auto fired = std::make_shared<bool>(false);
+    auto timer = panel().desktop().scheduleTimer(seconds, [this, fired] {
+        *fired = true;
+        messageCallBack();
+    });
+    _messageTimers.push_back({std::move(timer), std::move(fired)});
+}
+
+void QTXHexColorsView::messageCallBack()
+{
+    if (_messageAlpha <= faintestAlpha) {
+        clearMessage();
+        return;
+    }
+    _messageAlpha = static_cast<float>(_messageAlpha - fadingStep);
+    if (_view != nullptr) _view->setNeedsDisplayInRect(insetRect(_messageRect, -4.0, -4.0));
+}
+
+}  // namespace vantorel

@@ -1,0 +1,182 @@
+#include "color/ColorMeasures.h"
+#include "view/QTXHexColorsView.h"
+#include "view/ViewColors.h"
+
+namespace vantorel {
+namespace {
+
+constexpr int componentCount = 3;
+constexpr int digitValueCount = 16;
+/// How far the pointer must have left the press behind before a drag-out begins.
+constexpr double dragOutDistance = 4.0;
+
+}  // namespace
+
+void QTXHexColorsView::loadColorMatrixSize()
+{
+    __colorMatrixRectSize = sliderCellSize(colorMatrixRect());
+}
+
+HostRect QTXHexColorsView::colorMatrixRectWithComponent(int component, int digit, int value) const
+{
+    return sliderCellRect(colorMatrixRect(), __colorMatrixRectSize, {component, digit, value});
+}
+
+bool QTXHexColorsView::getComponent(int& component, int& digit, int& value, HostPoint fromHitPoint)
+{
+    const auto cell = sliderCellAtPoint(colorMatrixRect(), fromHitPoint);
+    if (!cell) return false;
+    loadColorMatrixSize();
+    component = cell->component;
+    digit = cell->digit;
+    value = cell->value;
+    return true;
+}
+
+void QTXHexColorsView::drawHexSlidersWithRect(HostRect rect, HostCanvas& canvas)
+{
+    for (int component = 0; component < componentCount; ++component) {
+        __workColorSpec.loadWithHexColorSpec(&_hostHexColorPicker.hexColorSpec());
+        const double width = rect.width / componentCount;
+        const HostRect third{rect.x + component * width, rect.y, width, rect.height};
+        drawHexColorsWithRect(third, __workColorSpec, component, canvas);
+    }
+}
+
+void QTXHexColorsView::drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& colorSpec,
+                                             int component, HostCanvas& canvas)
+{
+    const double fifth = rect.width / 5;
+    drawHexColorsWithRect({rect.x + fifth, rect.y, fifth, rect.height}, colorSpec, component, 1,
+                          canvas);
+    drawHexColorsWithRect({rect.x + 3 * fifth, rect.y, fifth, rect.height}, colorSpec, component, 0,
+                          canvas);
+}
+
+void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpec, int component,
+                                             int digit, HostCanvas& canvas)
+{
+    const auto savedComponent = colorSpec.componentWithIndex(component);
+    const int chosen =
+        static_cast<int>(colorSpec.colorSubComponentWithComponentIndex(component, digit));
+
+    for (int value = 0; value < digitValueCount; ++value) {
+        colorSpec.setColorSubComponent(static_cast<std::uint64_t>(value), component, digit);
+        HostRect cell = colorMatrixRectWithComponent(component, digit, value);
+        cell.height += 0.5;  // no seams between the rows
+        __bPth.removeAllPoints();
+        __bPth.appendBezierPathWithRect(cell);
+        canvas.fill(__bPth, colorSpec.colorHexColorSpec());
+    }
+
+    const HostRect cursor = colorMatrixRectWithComponent(component, digit, chosen);
+    __bPth.removeAllPoints();
+    __bPth.appendBezierPathWithRect(cursor);
+    __bPth.setLineWidth(2.0);
+    canvas.stroke(__bPth, HostColor::whiteColor());
+    if (digit == 1) {
+        __bPth.setLineWidth(1.0);
+        canvas.stroke(__bPth, HostColor::blackColor());
+        strokeLeaderLines(cursor, chosen, canvas);
+    } else {
+        __bPth.setLineWidth(0.8);
+        canvas.stroke(__bPth, __exactHexColorMatch ? hexColorsSelectedColorWithMatchColorS
+                                                   : hexColorsSelectedColorWithoutMatchColorS);
+    }
+
+    colorSpec.setComponent(savedComponent, component);
+}
+
+/// Two lines from a high digit's cursor towards the low-digit column beside it, to show that the
+/// whole of that column lies within the chosen high value.
+void QTXHexColorsView::strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas)
+{
+    const HostRect matrix = colorMatrixRect();
+    const double start = cell.maxX() + 0.1 * cell.width;
+    const double middle = start + 0.5 * cell.width;
+    const double end = start + 0.8 * cell.width;
+
+    __bPth.removeAllPoints();
+    __bPth.moveToPoint({start, cell.y});
+    if (value != 0) {
+        __bPth.lineToPoint({middle, cell.y});
+        __bPth.lineToPoint({middle, matrix.y + 0.5 * cell.height});
+        __bPth.lineToPoint({end, matrix.y});
+    } else {
+        __bPth.lineToPoint({end, cell.y});
+    }
+    canvas.stroke(__bPth, darkGrayColor);
+
+    __bPth.removeAllPoints();
+    __bPth.moveToPoint({start, cell.maxY()});
+    if (value != digitValueCount - 1) {
+        __bPth.lineToPoint({middle, cell.maxY()});
+        __bPth.lineToPoint({middle, matrix.maxY() - 0.5 * cell.height});
+        __bPth.lineToPoint({end, matrix.maxY()});
+    } else {
+        __bPth.lineToPoint({end, cell.maxY()});
+    }
+    canvas.stroke(__bPth, darkGrayColor);
+}
+
+void QTXHexColorsView::loadWorkColorSpecWithCell(const SliderCell& cell,
+                                                 std::uint64_t modifierFlags)
+{
+    __workColorSpec.loadWithHexColorSpec(&_hostHexColorPicker.hexColorSpec());
+    __workColorSpec.setColorSubComponent(static_cast<std::uint64_t>(cell.value), cell.component,
+                                         cell.digit, modifierFlags);
+}
+
+void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
+{
+    if (_view == nullptr) return;
+    const HostPoint pressed = event.location;
+    HostPoint current = pressed;
+    HostPoint previous{pressed.x + 1, pressed.y};  // so that the press itself is never skipped
+    HostEventType type = event.type;
+    std::uint64_t modifierFlags = event.modifierFlags;
+    std::optional<SliderCell> lastHit;
+
+    while (type != HostEventType::leftMouseUp) {
+        if (current != previous) {
+            const auto hit = sliderCellAtPoint(colorMatrixRect(), current);
+            if (hit && hit != lastHit) {
+                loadWorkColorSpecWithCell(*hit, modifierFlags);
+                const HostColor color = __workColorSpec.colorHexColorSpec();
+                _hostHexColorPicker.setColor(color);
+                if (const auto forPanel = _hostHexColorPicker.colorRespectingAlpha(color)) {
+                    panel().setColor(*forPanel);
+                }
+                _hostHexColorPicker.syncPanel();
+                lastHit = hit;
+            } else if (!hit && distanceBetweenPoints(pressed.x, pressed.y, previous.x, previous.y) >
+                                   dragOutDistance) {
+                mouseDragged(event);
+                return;
+            }
+        }
+        const HostEvent next =
+            panel().nextEventMatchingMask(maskOfEventType(HostEventType::leftMouseUp) |
+                                              maskOfEventType(HostEventType::leftMouseDragged),
+                                          *_view);
+        type = next.type;
+        modifierFlags = next.modifierFlags;
+        previous = current;
+        current = next.location;
+    }
+
+    const auto hit = sliderCellAtPoint(colorMatrixRect(), current);
+    if (!hit) return;
+    loadWorkColorSpecWithCell(*hit, modifierFlags);
+    // On release the controller, too, gets the colour with the panel's alpha; while the pointer
+    // moves it gets the plain one.
+    const auto color =
+        _hostHexColorPicker.colorRespectingAlpha(__workColorSpec.colorHexColorSpec());
+    if (color) {
+        _hostHexColorPicker.setColor(color);
+        panel().setColor(*color);
+    }
+    _hostHexColorPicker.syncPanel();
+}
+
+}  // namespace vantorel
