@@ -38,6 +38,8 @@ bool PickerOutlets::connectOutlets(const PickerInterface& interface)
         connect(interface, "codeDragTypeLabel", found.codeDragTypeLabel) &&
         connect(interface, "codeCodeLabel", found.codeCodeLabel) &&
         connect(interface, "pickViewModeButton", found.pickViewModeButton) &&
+        connect(interface, "paletteViewModeButton", found.paletteViewModeButton) &&
+        connect(interface, "wheelViewModeButton", found.wheelViewModeButton) &&
         connect(interface, "increaseCubeRingsButton", found.increaseCubeRingsButton) &&
         connect(interface, "decreaseCubeRingsButton", found.decreaseCubeRingsButton) &&
         connect(interface, "hexColorsListPopUp", found.hexColorsListPopUp) &&

@@ -28,7 +28,9 @@ struct PickerOutlets {
     HostPopUpButton* codeDragTypePopUp = nullptr;
     HostTextField* codeDragTypeLabel = nullptr;
     HostTextField* codeCodeLabel = nullptr;
-    HostButton* pickViewModeButton = nullptr;
+    HostButton* pickViewModeButton = nullptr;  ///< Slider; the next two are the other modes
+    HostButton* paletteViewModeButton = nullptr;
+    HostButton* wheelViewModeButton = nullptr;
     HostButton* increaseCubeRingsButton = nullptr;
     HostButton* decreaseCubeRingsButton = nullptr;
     HostPopUpButton* hexColorsListPopUp = nullptr;

@@ -115,6 +115,7 @@ private:
                        const std::u16string& blue);
     void syncNamingList();
     void syncCodeSnippet();
+    void syncViewModeButtons();
 
     // Typing (QTXHexColorPickerEntry.cpp).
     void hexEntryTextChange(HostTextField& field) override;

@@ -101,7 +101,12 @@ void QTXHexColorPicker::cubeViewModeAction(HostControl*)
 
 void QTXHexColorPicker::setPickViewMode(PickViewMode mode)
 {
-    if (__holdOffSync || _hexSettings.pickViewMode() == mode) return;
+    if (__holdOffSync) return;
+    if (_hexSettings.pickViewMode() == mode) {
+        // A toggle switches itself off when the active mode is chosen again.
+        syncViewModeButtons();
+        return;
+    }
     _hexSettings.setPickViewMode(mode);
     syncPanel();
     storeDefaults();

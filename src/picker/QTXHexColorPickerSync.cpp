@@ -50,6 +50,7 @@ void QTXHexColorPicker::syncPanel()
     selectTitle(codeDragTypePopUp, QTXHexSettings::nameCodeDragType(_hexSettings.codeDragType()));
     _hexColorsView.setNeedsDisplay(true);
     selectTitle(entryFormPopUp, QTXHexSettings::nameEntryForm(_hexSettings.entryForm()));
+    syncViewModeButtons();
     __holdOffSync = false;
 }
 
@@ -99,6 +100,17 @@ void QTXHexColorPicker::syncCodeSnippet()
     const auto panelColor = colorPanel().color();
     _hexColorSpec.setAlphaComp(panelColor ? panelColor->alphaComponent() : 0.0);
     setText(_objCCodeText, _hexSettings.codeSnippet().codeSnippetWithColorSpec(_hexColorSpec));
+}
+
+void QTXHexColorPicker::syncViewModeButtons()
+{
+    const PickViewMode mode = _hexSettings.pickViewMode();
+    const auto show = [](HostButton* button, bool active) {
+        if (button != nullptr) button->setState(active ? 1 : 0);
+    };
+    show(pickViewModeButton, mode == PickViewMode::slider);
+    show(paletteViewModeButton, mode == PickViewMode::palette);
+    show(wheelViewModeButton, mode == PickViewMode::wheel);
 }
 
 }  // namespace vantorel
