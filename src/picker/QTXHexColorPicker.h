@@ -52,6 +52,7 @@ public:
     void setColor(const std::optional<HostColor>& color) override;
     void viewSizeChanged(HostView* sender) override;
     bool performAction(std::string_view name, HostControl* sender) override;
+    [[nodiscard]] static bool hasAction(std::string_view name);
 
     // What the colours view and tests ask.
 

@@ -43,6 +43,11 @@ HostControl::Action QTXHexColorPicker::actionFunction(const std::string& name)
     return [this, method = action->method](HostControl& sender) { (this->*method)(&sender); };
 }
 
+bool QTXHexColorPicker::hasAction(std::string_view name)
+{
+    return actionNamed(name) != nullptr;
+}
+
 bool QTXHexColorPicker::performAction(std::string_view name, HostControl* sender)
 {
     const NamedAction* action = actionNamed(name);

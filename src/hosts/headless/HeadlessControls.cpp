@@ -7,8 +7,8 @@ namespace vantorel {
 void HeadlessTextField::setStringValue(const std::u16string& text)
 {
     _text = text;
-    // As in a real field, the insertion point goes behind a text that is set.
-    if (_selection) _selection = HostSelection{_text.size(), 0};
+    // The insertion point stays where it is, as far as there is text.
+    if (_selection) setSelectedRange(*_selection);
 }
 
 void HeadlessTextField::type(const std::u16string& text, std::size_t insertionPoint)
