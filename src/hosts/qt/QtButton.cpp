@@ -1,0 +1,96 @@
+#include "hosts/qt/QtButton.h"
+
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPushButton>
+#include <QSvgRenderer>
+#include <QToolButton>
+
+namespace vantorel {
+namespace {
+
+class SvgIconEngine final : public QIconEngine {
+public:
+    explicit SvgIconEngine(QByteArray svg) : _svg(std::move(svg)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QColor color = QApplication::palette().color(group, QPalette::ButtonText);
+        QByteArray colored = _svg;
+        colored.replace("currentColor", color.name().toLatin1());
+        QSvgRenderer(colored).render(painter, rect);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap result(size);
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return result;
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(_svg); }
+
+private:
+    QByteArray _svg;
+};
+
+QAbstractButton* makeButton(const HostControlDescription& description)
+{
+    using ButtonKind = HostControlDescription::ButtonKind;
+    if (description.buttonKind == ButtonKind::checkBox) return new QCheckBox;
+    if (description.svgImage.empty() && description.buttonKind == ButtonKind::push) {
+        return new QPushButton;
+    }
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setCheckable(description.buttonKind == ButtonKind::toggle);
+    return button;
+}
+
+}  // namespace
+
+QIcon iconFromSvg(const std::string& svg)
+{
+    if (svg.empty()) return {};
+    return QIcon(new SvgIconEngine(QByteArray::fromStdString(svg)));
+}
+
+QtButton::QtButton(const HostControlDescription& description)
+    : QtMirrored(description.frame, makeButton(description))
+{
+    constexpr double defaultPointSize = 11;
+    constexpr int iconSize = 14;
+    QAbstractButton* shown = button();
+    shown->setFont(
+        fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
+    shown->setText(qStringFrom(description.title));
+    shown->setIcon(iconFromSvg(description.svgImage));
+    shown->setIconSize(QSize(iconSize, iconSize));
+    shown->setAccessibleName(qStringFrom(description.accessibleName));
+    QObject::connect(shown, &QAbstractButton::clicked, shown, [this](bool checked) {
+        if (button()->isCheckable()) setState(checked ? 1 : 0);
+        sendAction();
+        // The action may have decided otherwise.
+        stateDidChange();
+    });
+}
+
+QAbstractButton* QtButton::button() const
+{
+    return static_cast<QAbstractButton*>(widget());
+}
+
+void QtButton::stateDidChange()
+{
+    if (button()->isCheckable()) button()->setChecked(state() == 1);
+}
+
+}  // namespace vantorel

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/HostInterfaceFactory.h"
+#include "hosts/qt/QtView.h"
+
+#include <QAbstractButton>
+#include <QIcon>
+
+namespace vantorel {
+
+/// A push button, check box or toggle, with a text or a picture.
+class QtButton final : public QtMirrored<HostButton> {
+public:
+    explicit QtButton(const HostControlDescription& description);
+
+protected:
+    void stateDidChange() override;
+
+private:
+    [[nodiscard]] QAbstractButton* button() const;
+};
+
+/// An icon from a picture in SVG that says `currentColor` where it takes the text colour of the
+/// theme; it is drawn afresh for every size and screen.
+[[nodiscard]] QIcon iconFromSvg(const std::string& svg);
+
+}  // namespace vantorel

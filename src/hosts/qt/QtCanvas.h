@@ -1,0 +1,29 @@
+#pragma once
+
+#include "host/HostCanvas.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+namespace vantorel {
+
+/// Paints through a QPainter. Fills have hard edges, so that neighbours meet without seams; strokes
+/// are smooth, but upright and level ones lie on whole pixels of the device.
+class QtCanvas final : public HostCanvas {
+public:
+    /// The painter paints a widget or picture that shows `bounds`; it must outlive the canvas.
+    QtCanvas(QPainter& painter, HostRect bounds);
+
+    void fill(const HostBezierPath& path, const HostColor& color) override;
+    void stroke(const HostBezierPath& path, const HostColor& color) override;
+    void drawText(const HostText& text, HostPoint at) override;
+
+private:
+    QPainter& _painter;
+    HostRect _bounds;
+};
+
+/// A picture of an image for a screen of that many device pixels a point.
+[[nodiscard]] QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio);
+
+}  // namespace vantorel

@@ -1,0 +1,52 @@
+#include "hosts/qt/QtColors.h"
+
+#include <QFontDatabase>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+float channel(double value)
+{
+    return value > 0 ? static_cast<float>(std::min(value, 1.0)) : 0.0F;
+}
+
+}  // namespace
+
+QColor qColorFrom(const HostColor& color)
+{
+    const auto rgb = color.calibratedRGB();
+    if (!rgb) return {};
+    return QColor::fromRgbF(channel(rgb->red), channel(rgb->green), channel(rgb->blue),
+                            channel(rgb->alpha));
+}
+
+HostColor hostColorFrom(const QColor& color)
+{
+    // From the 16-bit words, so that a byte's grid comes out exactly.
+    const auto fraction = [](std::uint16_t word) { return word / 65535.0; };
+    const QRgba64 words = color.rgba64();
+    return HostColor::colorWithCalibratedRed(fraction(words.red()), fraction(words.green()),
+                                             fraction(words.blue()), fraction(words.alpha()));
+}
+
+QString qStringFrom(const std::u16string& text)
+{
+    return QString::fromStdU16String(text);
+}
+
+std::u16string u16From(const QString& text)
+{
+    return text.toStdU16String();
+}
+
+QFont fontOfSize(double points)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points))));
+    return font;
+}
+
+}  // namespace vantorel

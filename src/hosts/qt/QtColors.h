@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/HostColor.h"
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+#include <optional>
+#include <string>
+
+/// Between the core's values and Qt's.
+namespace vantorel {
+
+/// Channels outside 0..1 are cut; a pattern or NaN channel has no counterpart and gives an invalid
+/// colour or 0.
+[[nodiscard]] QColor qColorFrom(const HostColor& color);
+[[nodiscard]] HostColor hostColorFrom(const QColor& color);
+
+[[nodiscard]] QString qStringFrom(const std::u16string& text);
+[[nodiscard]] std::u16string u16From(const QString& text);
+
+/// The desktop's sans-serif face; a point of the core is a device-independent pixel.
+[[nodiscard]] QFont fontOfSize(double points);
+
+}  // namespace vantorel

@@ -1,0 +1,204 @@
+#include "hosts/qt/QtCustomView.h"
+
+#include "hosts/qt/QtCanvas.h"
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace vantorel {
+namespace {
+
+std::uint64_t modifierFlags(Qt::KeyboardModifiers modifiers)
+{
+    std::uint64_t flags = 0;
+    if ((modifiers & Qt::ShiftModifier) != 0) flags |= shiftModifierFlag;
+    if ((modifiers & Qt::ControlModifier) != 0) flags |= controlModifierFlag;
+    if ((modifiers & Qt::AltModifier) != 0) flags |= alternateModifierFlag;
+    if ((modifiers & Qt::MetaModifier) != 0) flags |= commandModifierFlag;
+    return flags;
+}
+
+}  // namespace
+
+class QtCustomView::Widget final : public QWidget {
+public:
+    /// Set once the view is complete; events come later still.
+    void setOwner(QtCustomView* owner) { _owner = owner; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QPainter painter(this);
+        painter.setClipRegion(event->region());
+        if (_owner != nullptr) _owner->paint(painter);
+    }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton) {
+            _owner->press(hostEvent(HostEventType::leftMouseDown, *event));
+        }
+    }
+
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if ((event->buttons() & Qt::LeftButton) != 0) {
+            _owner->continuePress(hostEvent(HostEventType::leftMouseDragged, *event));
+        } else {
+            _owner->moveFreely(hostEvent(HostEventType::mouseMoved, *event));
+        }
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton) {
+            _owner->continuePress(hostEvent(HostEventType::leftMouseUp, *event));
+        }
+    }
+
+    void enterEvent(QEnterEvent* event) override
+    {
+        _owner->moveFreely({HostEventType::mouseMoved,
+                            viewPoint(event->position(), _owner->bounds()),
+                            modifierFlags(event->modifiers())});
+    }
+
+    bool event(QEvent* event) override
+    {
+        switch (event->type()) {
+            case QEvent::Leave:
+                if (_owner != nullptr) _owner->leave({HostEventType::mouseExited, {}, 0});
+                break;
+            case QEvent::UngrabMouse:
+            case QEvent::Hide:
+                // Whoever took the mouse will get the release.
+                if (_owner != nullptr && _owner->_buttonIsDown) {
+                    _owner->continuePress(_owner->releaseAtLastPoint());
+                }
+                break;
+            default:
+                break;
+        }
+        return QWidget::event(event);
+    }
+
+private:
+    [[nodiscard]] HostEvent hostEvent(HostEventType type, const QMouseEvent& event) const
+    {
+        return {type, viewPoint(event.position(), _owner->bounds()),
+                modifierFlags(event.modifiers())};
+    }
+
+    QtCustomView* _owner = nullptr;
+};
+
+QtCustomView::QtCustomView(const HostControlDescription& description, HostViewContent& content)
+    : QtMirrored(description.frame, new Widget), _content(content)
+{
+    static_cast<Widget*>(widget())->setOwner(this);
+    widget()->setMouseTracking(true);
+    widget()->setAccessibleName(qStringFrom(description.accessibleName));
+}
+
+void QtCustomView::paint(QPainter& painter)
+{
+    QtCanvas canvas(painter, bounds());
+    _content.drawRect(canvas);
+    setNeedsDisplay(false);
+}
+
+void QtCustomView::press(const HostEvent& event)
+{
+    if (_pressIsBeingHandled) return;
+    const QPointer<QWidget> alive = widget();
+    _buttonIsDown = true;
+    _lastPoint = event.location;
+    _waitingEvents.clear();
+    _pressIsBeingHandled = true;
+    _content.mouseDown(event);
+    if (!alive) return;
+    _pressIsBeingHandled = false;
+}
+
+void QtCustomView::continuePress(const HostEvent& event)
+{
+    _lastPoint = event.location;
+    const bool released = event.type == HostEventType::leftMouseUp;
+    if (released) _buttonIsDown = false;
+    if (_pressIsBeingHandled) {
+        // Where the pointer has been meanwhile matters less than where it is.
+        if (!released && !_waitingEvents.empty() && _waitingEvents.back().type == event.type) {
+            _waitingEvents.back() = event;
+        } else {
+            _waitingEvents.push_back(event);
+        }
+        if (_waitingLoop) _waitingLoop->quit();
+    } else if (!released && _buttonIsDown) {
+        _content.mouseDragged(event);
+    }
+}
+
+void QtCustomView::moveFreely(const HostEvent& event)
+{
+    if (!_tracking) return;
+    const bool wasInside = _tracking->inside;
+    const bool inside = _tracking->rect.contains(event.location);
+    _tracking->inside = inside;
+    if (inside && !wasInside) _content.mouseEntered(event);
+    if (!inside && wasInside) _content.mouseExited(event);
+    if (inside && _acceptsMouseMoved) _content.mouseMoved(event);
+}
+
+void QtCustomView::leave(const HostEvent& event)
+{
+    if (!_tracking || !_tracking->inside) return;
+    _tracking->inside = false;
+    _content.mouseExited(event);
+}
+
+std::intptr_t QtCustomView::addTrackingRect(HostRect rect, bool assumeInside)
+{
+    _tracking = Tracking{++_lastTag, rect, assumeInside};
+    return _lastTag;
+}
+
+void QtCustomView::removeTrackingRect(std::intptr_t tag)
+{
+    if (_tracking && _tracking->tag == tag) _tracking.reset();
+}
+
+HostEvent QtCustomView::releaseAtLastPoint() const
+{
+    return {HostEventType::leftMouseUp, _lastPoint, 0};
+}
+
+HostEvent QtCustomView::nextMouseEvent(std::uint32_t mask)
+{
+    const HostPoint lastPoint = _lastPoint;
+    const QPointer<QWidget> alive = widget();
+    while (true) {
+        while (!_waitingEvents.empty()) {
+            const HostEvent event = _waitingEvents.front();
+            _waitingEvents.pop_front();
+            if ((maskOfEventType(event.type) & mask) != 0) return event;
+        }
+        if (!_buttonIsDown) return releaseAtLastPoint();
+        QEventLoop loop;
+        _waitingLoop = &loop;
+        loop.exec();
+        if (!alive) return {HostEventType::leftMouseUp, lastPoint, 0};
+        // Something else has ended the loop: the program is about to end.
+        if (_waitingEvents.empty()) return releaseAtLastPoint();
+    }
+}
+
+void QtCustomView::forgetButton()
+{
+    _buttonIsDown = false;
+    _waitingEvents.clear();
+}
+
+}  // namespace vantorel

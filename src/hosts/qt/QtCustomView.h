@@ -1,0 +1,58 @@
+#pragma once
+
+#include "host/HostInterfaceFactory.h"
+#include "hosts/qt/QtView.h"
+
+#include <QEventLoop>
+
+#include <deque>
+
+namespace vantorel {
+
+/// A view painted by the core, with its mouse.
+class QtCustomView final : public QtMirrored<HostCustomView> {
+public:
+    QtCustomView(const HostControlDescription& description, HostViewContent& content);
+
+    std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) override;
+    void removeTrackingRect(std::intptr_t tag) override;
+
+    /// For the panel, which knows whether moves are wanted.
+    void setAcceptsMouseMoved(bool flag) { _acceptsMouseMoved = flag; }
+
+    /// Waits for the view's next mouse event of a type in `mask` while the program goes on. A
+    /// left-mouse-up when there will be none: the button is up, or the view or program ends.
+    [[nodiscard]] HostEvent nextMouseEvent(std::uint32_t mask);
+
+    /// A drag-out has taken the button; its release will not come.
+    void forgetButton();
+
+private:
+    class Widget;
+    struct Tracking {
+        std::intptr_t tag;
+        HostRect rect;
+        bool inside;
+    };
+
+    void paint(QPainter& painter);
+    void press(const HostEvent& event);
+    /// A drag or release: for whoever waits for it, else for the content.
+    void continuePress(const HostEvent& event);
+    void moveFreely(const HostEvent& event);
+    void leave(const HostEvent& event);
+    [[nodiscard]] HostEvent releaseAtLastPoint() const;
+
+    HostViewContent& _content;
+    std::optional<Tracking> _tracking;
+    std::intptr_t _lastTag = 0;
+    bool _acceptsMouseMoved = false;
+
+    bool _buttonIsDown = false;
+    bool _pressIsBeingHandled = false;
+    HostPoint _lastPoint;
+    std::deque<HostEvent> _waitingEvents;
+    QPointer<QEventLoop> _waitingLoop;
+};
+
+}  // namespace vantorel

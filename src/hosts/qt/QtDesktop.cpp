@@ -1,0 +1,74 @@
+#include "hosts/qt/QtDesktop.h"
+
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFontMetricsF>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace vantorel {
+namespace {
+
+class OneShotTimer final : public HostTimer {
+public:
+    OneShotTimer(double seconds, std::function<void()> reaction)
+    {
+        _timer.setSingleShot(true);
+        _timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&_timer, &QTimer::timeout, &_timer, std::move(reaction));
+        _timer.start(static_cast<int>(std::lround(seconds * 1000)));
+    }
+
+private:
+    QTimer _timer;
+};
+
+}  // namespace
+
+QtDesktop::QtDesktop() : _colorLists(_files, [this](const std::u16string& line) { log(line); }) {}
+
+std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::function<void()> reaction)
+{
+    return std::make_unique<OneShotTimer>(seconds, std::move(reaction));
+}
+
+HostSize QtDesktop::sizeOfText(const HostText& text)
+{
+    const QFontMetricsF metrics(fontOfSize(text.pointSize));
+    QStringList lines = qStringFrom(text.string).split(u'\n');
+    if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
+    qreal width = 0;
+    for (const QString& line : lines)
+        width = std::max(width, metrics.horizontalAdvance(line));
+    return {width, metrics.height() * static_cast<qreal>(lines.size())};
+}
+
+std::u16string QtDesktop::localizedString(const std::u16string& key)
+{
+    const QByteArray source = qStringFrom(key).toUtf8();
+    return u16From(QCoreApplication::translate("Vantorel", source.constData()));
+}
+
+void QtDesktop::openURL(const std::string& url)
+{
+    QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(url)));
+}
+
+void QtDesktop::beep()
+{
+    QApplication::beep();
+}
+
+void QtDesktop::log(const std::u16string& line)
+{
+    const std::string text = utf8FromUtf16(line) + "\n";
+    std::fputs(text.c_str(), stderr);
+}
+
+}  // namespace vantorel

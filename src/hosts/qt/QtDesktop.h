@@ -1,0 +1,33 @@
+#pragma once
+
+#include "colorlists/PaletteFileStore.h"
+#include "host/HostDesktop.h"
+#include "hosts/posix/PosixFiles.h"
+#include "hosts/qt/QtInterfaceFactory.h"
+
+namespace vantorel {
+
+/// The services of a desktop that Qt runs on. Needs a QApplication.
+class QtDesktop final : public HostDesktop {
+public:
+    QtDesktop();
+
+    HostColorListStore& colorLists() override { return _colorLists; }
+    HostFiles& files() override { return _files; }
+    HostInterfaceFactory& interfaceFactory() override { return _factory; }
+    [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,
+                                                           std::function<void()> reaction) override;
+    [[nodiscard]] HostSize sizeOfText(const HostText& text) override;
+    [[nodiscard]] std::u16string localizedString(const std::u16string& key) override;
+    void openURL(const std::string& url) override;
+    void beep() override;
+    /// To standard error.
+    void log(const std::u16string& line) override;
+
+private:
+    PosixFiles _files;
+    PaletteFileStore _colorLists;
+    QtInterfaceFactory _factory;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,212 @@
+#include "hosts/qt/QtPopUpButton.h"
+
+#include "hosts/qt/QtCanvas.h"
+#include "hosts/qt/QtColors.h"
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+namespace vantorel {
+namespace {
+
+constexpr double defaultPointSize = 11;
+/// After this pause letters begin a new search.
+constexpr qint64 searchPause = 1000;
+
+bool canBeChosen(const HostMenuItem& item)
+{
+    return !item.separator && !item.submenu;
+}
+
+}  // namespace
+
+class QtPopUpButton::Widget final : public QAbstractButton {
+public:
+    explicit Widget(QtPopUpButton& owner) : _owner(owner)
+    {
+        setFocusPolicy(Qt::StrongFocus);
+        setAttribute(Qt::WA_Hover);
+        connect(this, &QAbstractButton::pressed, this, [this] {
+            setDown(false);
+            _owner.openMenu();
+        });
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStyleOptionComboBox option;
+        option.initFrom(this);
+        option.subControls = QStyle::SC_All;
+        option.editable = false;
+        option.currentText = qStringFrom(_owner.titleOfSelectedItem().value_or(u""));
+        const int selected = _owner.indexOfSelectedItem();
+        if (selected != noItem) {
+            const auto& image = _owner.menu()[static_cast<std::size_t>(selected)].image;
+            if (image) {
+                option.currentIcon = pixmapOfImage(*image, devicePixelRatioF());
+                option.iconSize = QSizeF(image->size.width, image->size.height).toSize();
+            }
+        }
+        QStylePainter painter(this);
+        painter.drawComplexControl(QStyle::CC_ComboBox, option);
+        const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                    QStyle::SC_ComboBoxEditField, this);
+        const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
+        option.currentText =
+            fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - icon - 2);
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
+        switch (event->key()) {
+            case Qt::Key_Space:
+            case Qt::Key_Return:
+            case Qt::Key_Enter:
+                _owner.openMenu();
+                return;
+            case Qt::Key_Down:
+                if (alt) {
+                    _owner.openMenu();
+                } else {
+                    chooseNeighbour(1);
+                }
+                return;
+            case Qt::Key_Up:
+                chooseNeighbour(-1);
+                return;
+            default:
+                break;
+        }
+        if (!event->text().isEmpty() && event->text().at(0).isPrint()) {
+            search(event->text());
+        } else {
+            QAbstractButton::keyPressEvent(event);
+        }
+    }
+
+private:
+    void chooseNeighbour(int step)
+    {
+        const HostMenu& menu = _owner.menu();
+        for (int i = _owner.indexOfSelectedItem() + step; i >= 0 && i < _owner.numberOfItems();
+             i += step) {
+            if (canBeChosen(menu[static_cast<std::size_t>(i)])) {
+                _owner.chooseItem(i);
+                return;
+            }
+        }
+    }
+
+    void search(const QString& typed)
+    {
+        if (!_searchTime.isValid() || _searchTime.elapsed() > searchPause) _searched.clear();
+        _searchTime.start();
+        const bool sameLetter = _searched == typed;
+        if (!sameLetter) _searched += typed;
+        const int count = _owner.numberOfItems();
+        const int first =
+            _owner.indexOfSelectedItem() + (sameLetter || _searched.size() == 1 ? 1 : 0);
+        for (int i = 0; i < count; ++i) {
+            const int index = (first + i + count) % count;
+            const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
+            if (canBeChosen(item) &&
+                qStringFrom(item.title).startsWith(_searched, Qt::CaseInsensitive)) {
+                _owner.chooseItem(index);
+                return;
+            }
+        }
+    }
+
+    QtPopUpButton& _owner;
+    QString _searched;
+    QElapsedTimer _searchTime;
+};
+
+QtPopUpButton::QtPopUpButton(const HostControlDescription& description)
+    : QtMirrored(description.frame, new Widget(*this))
+{
+    widget()->setFont(
+        fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
+    widget()->setAccessibleName(qStringFrom(description.accessibleName));
+}
+
+void QtPopUpButton::menuDidChange()
+{
+    if (QWidget* shown = widget()) shown->update();
+}
+
+void QtPopUpButton::chooseItem(int index)
+{
+    if (index < 0 || index >= numberOfItems()) return;
+    // A copy: what it does may rebuild the menu.
+    const HostMenuItem item = menu()[static_cast<std::size_t>(index)];
+    if (!canBeChosen(item)) return;
+    if (item.action) {
+        item.action(item);
+        return;
+    }
+    selectItemAtIndex(index);
+    sendAction();
+}
+
+namespace {
+
+/// Fills a menu with items. `choose` gets the item and its place for those of this level.
+void fillMenu(QMenu& target, const HostMenu& items, int selected,
+              const std::function<void(const HostMenuItem&, int)>& choose)
+{
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const HostMenuItem& item = items[i];
+        const int index = static_cast<int>(i);
+        // "&" would make a mnemonic of the letter behind it.
+        const QString title = qStringFrom(item.title).replace(u'&', QStringLiteral("&&"));
+        if (item.separator) {
+            target.addSeparator();
+        } else if (item.submenu) {
+            QMenu* submenu = target.addMenu(title);
+            submenu->setEnabled(!item.submenu->empty());
+            fillMenu(*submenu, *item.submenu, HostPopUpButton::noItem,
+                     [](const HostMenuItem& chosen, int) {
+                         if (chosen.action) chosen.action(chosen);
+                     });
+        } else {
+            QAction* action = target.addAction(title);
+            if (item.image) action->setIcon(pixmapOfImage(*item.image, target.devicePixelRatioF()));
+            if (index == selected) {
+                action->setCheckable(true);
+                action->setChecked(true);
+            }
+            QObject::connect(action, &QAction::triggered, &target,
+                             [item, index, choose] { choose(item, index); });
+        }
+    }
+}
+
+}  // namespace
+
+void QtPopUpButton::openMenu()
+{
+    sendWillPopUp();
+    QWidget* shown = widget();
+    auto* popUp = new QMenu(shown);
+    popUp->setAttribute(Qt::WA_DeleteOnClose);
+    popUp->setFont(shown->font());
+    fillMenu(*popUp, menu(), indexOfSelectedItem(),
+             [this](const HostMenuItem&, int index) { chooseItem(index); });
+    const qsizetype selected = indexOfSelectedItem();
+    QAction* active = selected >= 0 && selected < popUp->actions().size()
+                          ? popUp->actions().at(selected)
+                          : nullptr;
+    popUp->setMinimumWidth(shown->width());
+    popUp->popup(shown->mapToGlobal(QPoint(0, shown->height())), nullptr);
+    if (active != nullptr) popUp->setActiveAction(active);
+}
+
+}  // namespace vantorel

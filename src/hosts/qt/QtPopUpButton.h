@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/HostInterfaceFactory.h"
+#include "hosts/qt/QtView.h"
+
+namespace vantorel {
+
+/// A pop-up that looks like a combo box and opens a menu, which may have submenus. The menu is
+/// built when it opens. Keyboard: Space, Return or Alt+Down opens it, Up and Down choose the
+/// neighbour, letters choose the next item that begins so.
+class QtPopUpButton final : public QtMirrored<HostPopUpButton> {
+public:
+    explicit QtPopUpButton(const HostControlDescription& description);
+
+    /// Sends the notice, builds the menu and opens it.
+    void openMenu();
+    /// Chooses an item of the top level as the user does.
+    void chooseItem(int index);
+
+protected:
+    void menuDidChange() override;
+
+private:
+    class Widget;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,174 @@
+#include "hosts/qt/QtTextField.h"
+
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+constexpr double defaultPointSize = 11;
+
+QFont describedFont(const HostControlDescription& description)
+{
+    const double size = description.pointSize > 0 ? description.pointSize : defaultPointSize;
+    if (!description.monospaced) return fontOfSize(size);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(fontOfSize(size).pixelSize());
+    return font;
+}
+
+Qt::Alignment describedAlignment(const HostControlDescription& description)
+{
+    switch (description.alignment) {
+        case HostControlDescription::Alignment::center:
+            return Qt::AlignCenter;
+        case HostControlDescription::Alignment::right:
+            return Qt::AlignRight | Qt::AlignVCenter;
+        case HostControlDescription::Alignment::left:
+            break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+QColor readableTextColor(const HostColor& color, const QPalette& palette)
+{
+    constexpr int darkGround = 128;
+    constexpr float readableLightness = 0.72F;
+    const QColor wanted = qColorFrom(color);
+    if (!wanted.isValid() || wanted == QColor(Qt::black)) return palette.color(QPalette::Text);
+    if (palette.color(QPalette::Base).lightness() >= darkGround) return wanted;
+    return QColor::fromHslF(std::max(0.0F, wanted.hslHueF()), wanted.hslSaturationF(),
+                            std::max(readableLightness, wanted.lightnessF()));
+}
+
+/// A line edit whose text colour follows the theme.
+class QtTextField::LineEdit final : public QLineEdit {
+public:
+    void setHostColor(const HostColor& color)
+    {
+        if (_color == color) return;
+        _color = color;
+        applyColor();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLineEdit::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange && !_applying) applyColor();
+    }
+
+private:
+    void applyColor()
+    {
+        if (!_color) return;
+        _applying = true;
+        QPalette palette;  // with the text colour alone set, the rest goes on following the theme
+        palette.setColor(QPalette::Text, readableTextColor(*_color, QApplication::palette(this)));
+        setPalette(palette);
+        _applying = false;
+    }
+
+    std::optional<HostColor> _color;
+    bool _applying = false;
+};
+
+QtTextField::QtTextField(const HostControlDescription& description)
+    : QtMirrored(description.frame, new LineEdit)
+{
+    QLineEdit* edit = lineEdit();
+    edit->setFont(describedFont(description));
+    edit->setAlignment(describedAlignment(description));
+    edit->setText(qStringFrom(description.title));
+    edit->setAccessibleName(qStringFrom(description.accessibleName));
+    edit->setTextMargins(-2, 0, -2, 0);  // small fields show all of their digits
+    QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { sendTextDidChange(); });
+    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { sendAction(); });
+}
+
+QLineEdit* QtTextField::lineEdit() const
+{
+    return static_cast<QLineEdit*>(widget());
+}
+
+std::u16string QtTextField::stringValue() const
+{
+    return u16From(lineEdit()->text());
+}
+
+void QtTextField::setStringValue(const std::u16string& text)
+{
+    QLineEdit* edit = lineEdit();
+    const QString newText = qStringFrom(text);
+    if (edit->text() == newText) return;
+    const int insertionPoint = isEdited() ? edit->cursorPosition() : 0;
+    edit->setText(newText);
+    edit->setCursorPosition(insertionPoint);
+}
+
+void QtTextField::setTextColor(const HostColor& color)
+{
+    static_cast<LineEdit*>(widget())->setHostColor(color);
+}
+
+bool QtTextField::isEdited() const
+{
+    return lineEdit()->hasFocus();
+}
+
+HostSelection QtTextField::selectedRange() const
+{
+    const QLineEdit* edit = lineEdit();
+    if (!edit->hasSelectedText()) return {static_cast<std::size_t>(edit->cursorPosition()), 0};
+    return {static_cast<std::size_t>(edit->selectionStart()),
+            static_cast<std::size_t>(edit->selectionLength())};
+}
+
+void QtTextField::setSelectedRange(HostSelection range)
+{
+    const auto length = static_cast<std::size_t>(lineEdit()->text().size());
+    const std::size_t start = std::min(range.location, length);
+    lineEdit()->setSelection(static_cast<int>(start),
+                             static_cast<int>(std::min(range.length, length - start)));
+}
+
+QtLabel::QtLabel(const HostControlDescription& description)
+    : QtMirrored(description.frame, new QLabel)
+{
+    label()->setFont(describedFont(description));
+    label()->setAlignment(describedAlignment(description));
+    label()->setText(qStringFrom(description.title));
+    label()->setTextFormat(Qt::PlainText);
+    label()->setAccessibleName(qStringFrom(description.accessibleName));
+}
+
+QLabel* QtLabel::label() const
+{
+    return static_cast<QLabel*>(widget());
+}
+
+std::u16string QtLabel::stringValue() const
+{
+    return u16From(label()->text());
+}
+
+void QtLabel::setStringValue(const std::u16string& text)
+{
+    label()->setText(qStringFrom(text));
+}
+
+void QtLabel::setTextColor(const HostColor& color)
+{
+    QPalette palette;
+    palette.setColor(QPalette::WindowText,
+                     readableTextColor(color, QApplication::palette(label())));
+    label()->setPalette(palette);
+}
+
+}  // namespace vantorel

@@ -1,0 +1,57 @@
+#include "hosts/qt/QtView.h"
+
+namespace vantorel {
+
+QWidget* widgetOf(const HostView* view)
+{
+    const auto* peer = dynamic_cast<const QtPeer*>(view);
+    return peer != nullptr ? peer->widget() : nullptr;
+}
+
+QPointF widgetPoint(HostPoint inView, HostRect bounds)
+{
+    return {inView.x - bounds.x, bounds.maxY() - inView.y};
+}
+
+HostPoint viewPoint(QPointF inWidget, HostRect bounds)
+{
+    return {inWidget.x() + bounds.x, bounds.maxY() - inWidget.y()};
+}
+
+QRectF widgetRect(HostRect inView, HostRect bounds)
+{
+    return {widgetPoint({inView.x, inView.maxY()}, bounds),
+            widgetPoint({inView.maxX(), inView.y}, bounds)};
+}
+
+QRect widgetGeometry(HostRect frame, HostRect superviewBounds)
+{
+    const QRectF rect = widgetRect(frame, superviewBounds);
+    const QPoint topLeft(qRound(rect.left()), qRound(rect.top()));
+    return {topLeft,
+            QSize(qRound(rect.right()) - topLeft.x(), qRound(rect.bottom()) - topLeft.y())};
+}
+
+void placeWidgets(const HostView& view)
+{
+    QWidget* widget = widgetOf(&view);
+    if (widget != nullptr && view.superview() != nullptr) {
+        widget->setGeometry(widgetGeometry(view.frame(), view.superview()->bounds()));
+    }
+    // With y up, what keeps its frame moves in Qt's coordinates when the superview's height
+    // changes.
+    for (const HostView* subview : view.subviews())
+        placeWidgets(*subview);
+}
+
+void adoptWidget(const HostView& view)
+{
+    QWidget* widget = widgetOf(&view);
+    if (widget == nullptr) return;
+    QWidget* parent = widgetOf(view.superview());
+    widget->setParent(parent);
+    widget->setVisible(parent != nullptr);
+    placeWidgets(view);
+}
+
+}  // namespace vantorel

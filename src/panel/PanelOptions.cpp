@@ -1,0 +1,126 @@
+#include "panel/PanelOptions.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
+namespace vantorel {
+namespace {
+
+constexpr int usageError = 2;
+
+std::optional<QSize> sizeFromText(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+    const auto match = form.match(text);
+    if (!match.hasMatch()) return std::nullopt;
+    return QSize(match.captured(1).toInt(), match.captured(2).toInt());
+}
+
+PanelCommandLine refusal(const QString& what)
+{
+    return {{}, usageError, QStringLiteral("vantorel-panel: ") + what + u'\n'};
+}
+
+}  // namespace
+
+std::optional<QColor> colorFromText(const QString& text)
+{
+    static const QRegularExpression triple(
+        QStringLiteral("^rgb\\(\\s*(\\d{1,3})[\\s,]+(\\d{1,3})[\\s,]+(\\d{1,3})\\s*\\);?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression hex(QStringLiteral("^#[0-9a-fA-F]+$"));
+    const QString trimmed = text.trimmed();
+    if (const auto match = triple.match(trimmed); match.hasMatch()) {
+        const QColor color(match.captured(1).toInt(), match.captured(2).toInt(),
+                           match.captured(3).toInt());
+        return color.isValid() ? std::optional(color) : std::nullopt;
+    }
+    if (hex.match(trimmed).hasMatch() && trimmed.size() == 9) {
+        // CSS has the alpha last, Qt has it first.
+        const QColor color(u'#' + trimmed.mid(7) + trimmed.mid(1, 6));
+        return color.isValid() ? std::optional(color) : std::nullopt;
+    }
+    const bool cssForm = !trimmed.startsWith(u'#') || trimmed.size() == 4 || trimmed.size() == 7;
+    const QColor color(trimmed);
+    return cssForm && color.isValid() ? std::optional(color) : std::nullopt;
+}
+
+PanelCommandLine readCommandLine(const QStringList& arguments)
+{
+    const auto option = [](const char* name, const char* help, const char* value = nullptr) {
+        return QCommandLineOption(QString::fromLatin1(name), QString::fromUtf8(help),
+                                  QString::fromLatin1(value != nullptr ? value : ""));
+    };
+    const auto color = option(
+        "color", "Start with this colour: #rgb, #rrggbb, #rrggbbaa, rgb(r, g, b) or a CSS name.",
+        "TEXT");
+    const auto mode =
+        option("mode", "Start in this mode of the hex page: slider, palette or wheel.", "MODE");
+    const auto size = option("size", "Size of the page in points, e.g. 260x340.", "WxH");
+    const auto screenshot = option("screenshot",
+                                   "Write a picture of the window (PNG) to FILE and end; works "
+                                   "without a display and leaves the settings alone.",
+                                   "FILE");
+    const auto face = option("face", "Show this face of the hex page: colors or settings.", "FACE");
+    const auto theme =
+        option("theme", "Colours of the window in place of the desktop's: light or dark.", "THEME");
+    const auto plugin =
+        option("plugin", "Load this picker plug-in, too. May be given more than once.", "FILE");
+    const auto printColor =
+        option("print-color", "Print the colour as #rrggbbaa to standard output at each change.");
+    const auto help = option("help", "Show this help and end.");
+    const auto version = option("version", "Show the version and end.");
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A colour panel with pages by plug-ins."));
+    parser.addOptions(
+        {color, mode, size, screenshot, face, theme, plugin, printColor, help, version});
+    if (!parser.parse(arguments)) return refusal(parser.errorText());
+    if (parser.isSet(help)) return {{}, 0, parser.helpText()};
+    if (parser.isSet(version)) {
+        return {{}, 0, QStringLiteral("vantorel-panel " VANTOREL_VERSION "\n")};
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return refusal(QStringLiteral("\"%1\" is no option; --help shows them")
+                           .arg(parser.positionalArguments().front()));
+    }
+
+    PanelCommandLine result;
+    PanelOptions& options = result.options;
+    if (parser.isSet(color)) {
+        options.color = colorFromText(parser.value(color));
+        if (!options.color)
+            return refusal(QStringLiteral("--color: \"%1\" is no colour; try #ff8000")
+                               .arg(parser.value(color)));
+    }
+    if (parser.isSet(mode)) {
+        options.mode = parser.value(mode);
+        if (!QStringList{"slider", "palette", "wheel"}.contains(*options.mode))
+            return refusal(QStringLiteral("--mode is slider, palette or wheel, not \"%1\"")
+                               .arg(*options.mode));
+    }
+    if (parser.isSet(size)) {
+        options.size = sizeFromText(parser.value(size));
+        if (!options.size)
+            return refusal(
+                QStringLiteral("--size: \"%1\" is no size; try 260x340").arg(parser.value(size)));
+    }
+    if (parser.isSet(face)) {
+        const QString value = parser.value(face);
+        if (value != QLatin1String("colors") && value != QLatin1String("settings"))
+            return refusal(QStringLiteral("--face is colors or settings, not \"%1\"").arg(value));
+        options.settingsFace = value == QLatin1String("settings");
+    }
+    if (parser.isSet(theme)) {
+        options.theme = parser.value(theme);
+        if (*options.theme != QLatin1String("light") && *options.theme != QLatin1String("dark"))
+            return refusal(
+                QStringLiteral("--theme is light or dark, not \"%1\"").arg(*options.theme));
+    }
+    if (parser.isSet(screenshot)) options.screenshot = parser.value(screenshot);
+    options.printColor = parser.isSet(printColor);
+    options.plugins = parser.values(plugin);
+    return result;
+}
+
+}  // namespace vantorel

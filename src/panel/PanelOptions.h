@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QColor>
+#include <QSize>
+#include <QStringList>
+
+#include <optional>
+
+namespace vantorel {
+
+/// What the command line says.
+struct PanelOptions {
+    std::optional<QColor> color;
+    /// slider, palette or wheel
+    std::optional<QString> mode;
+    /// The size of the page, in points.
+    std::optional<QSize> size;
+    std::optional<QString> screenshot;
+    std::optional<QString> theme;
+    bool settingsFace = false;
+    bool printColor = false;
+    QStringList plugins;
+};
+
+/// A CSS colour: `#rgb`, `#rrggbb`, `#rrggbbaa`, `rgb(r, g, b)` or a keyword of CSS Color 4.
+[[nodiscard]] std::optional<QColor> colorFromText(const QString& text);
+
+struct PanelCommandLine {
+    PanelOptions options;
+    /// What to print and end with: a message, and the exit status.
+    std::optional<int> exitStatus;
+    QString message;
+};
+
+/// Reads the arguments, the program's name first. Needs no application object.
+[[nodiscard]] PanelCommandLine readCommandLine(const QStringList& arguments);
+
+}  // namespace vantorel
