@@ -15,12 +15,13 @@ namespace {
 
 class SvgIconEngine final : public QIconEngine {
 public:
-    explicit SvgIconEngine(QByteArray svg) : _svg(std::move(svg)) {}
+    SvgIconEngine(QByteArray svg, const QWidget* ground) : _svg(std::move(svg)), _ground(ground) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor color = QApplication::palette().color(group, QPalette::ButtonText);
+        const QPalette palette = _ground ? _ground->palette() : QApplication::palette();
+        const QColor color = palette.color(group, QPalette::ButtonText);
         QByteArray colored = _svg;
         colored.replace("currentColor", color.name().toLatin1());
         QSvgRenderer(colored).render(painter, rect);
@@ -35,10 +36,11 @@ public:
         return result;
     }
 
-    [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(_svg); }
+    [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(_svg, _ground); }
 
 private:
     QByteArray _svg;
+    QPointer<const QWidget> _ground;
 };
 
 QAbstractButton* makeButton(const HostControlDescription& description)
@@ -57,10 +59,10 @@ QAbstractButton* makeButton(const HostControlDescription& description)
 
 }  // namespace
 
-QIcon iconFromSvg(const std::string& svg)
+QIcon iconFromSvg(const std::string& svg, const QWidget* ground)
 {
     if (svg.empty()) return {};
-    return QIcon(new SvgIconEngine(QByteArray::fromStdString(svg)));
+    return QIcon(new SvgIconEngine(QByteArray::fromStdString(svg), ground));
 }
 
 QtButton::QtButton(const HostControlDescription& description)
@@ -72,7 +74,7 @@ QtButton::QtButton(const HostControlDescription& description)
     shown->setFont(
         fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
     shown->setText(qStringFrom(description.title));
-    shown->setIcon(iconFromSvg(description.svgImage));
+    shown->setIcon(iconFromSvg(description.svgImage, shown));
     shown->setIconSize(QSize(iconSize, iconSize));
     shown->setAccessibleName(qStringFrom(description.accessibleName));
     QObject::connect(shown, &QAbstractButton::clicked, shown, [this](bool checked) {

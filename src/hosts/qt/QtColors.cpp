@@ -1,5 +1,6 @@
 #include "hosts/qt/QtColors.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 
 #include <algorithm>
@@ -47,6 +48,18 @@ QFont fontOfSize(double points)
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(points))));
     return font;
+}
+
+QPalette paletteOnLightGround()
+{
+    constexpr int darkGround = 128;
+    const QPalette themes = QApplication::palette();
+    if (themes.color(QPalette::Window).lightness() >= darkGround) return themes;
+    const QColor ground(241, 241, 245);
+    QPalette palette(ground, ground);  // derives the other roles
+    palette.setColor(QPalette::Highlight, themes.color(QPalette::Highlight));
+    palette.setColor(QPalette::HighlightedText, themes.color(QPalette::HighlightedText));
+    return palette;
 }
 
 }  // namespace vantorel

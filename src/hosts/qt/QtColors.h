@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QString>
 
 #include <optional>
@@ -22,5 +23,9 @@ namespace vantorel {
 
 /// The desktop's sans-serif face; a point of the core is a device-independent pixel.
 [[nodiscard]] QFont fontOfSize(double points);
+
+/// The palette for controls on the core's own grounds, which are light in every theme: the
+/// program's where that is light, else one to match.
+[[nodiscard]] QPalette paletteOnLightGround();
 
 }  // namespace vantorel

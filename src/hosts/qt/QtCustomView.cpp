@@ -69,6 +69,9 @@ protected:
     bool event(QEvent* event) override
     {
         switch (event->type()) {
+            case QEvent::ApplicationPaletteChange:
+                setPalette(paletteOnLightGround());
+                break;
             case QEvent::Leave:
                 if (_owner != nullptr) _owner->leave({HostEventType::mouseExited, {}, 0});
                 break;
@@ -100,6 +103,7 @@ QtCustomView::QtCustomView(const HostControlDescription& description, HostViewCo
 {
     static_cast<Widget*>(widget())->setOwner(this);
     widget()->setMouseTracking(true);
+    widget()->setPalette(paletteOnLightGround());
     widget()->setAccessibleName(qStringFrom(description.accessibleName));
 }
 

@@ -54,12 +54,25 @@ protected:
         }
         QStylePainter painter(this);
         painter.drawComplexControl(QStyle::CC_ComboBox, option);
-        const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                    QStyle::SC_ComboBoxEditField, this);
-        const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + 4;
-        option.currentText =
-            fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - icon - 2);
-        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+        paintLabel(painter, option);
+    }
+
+    /// The style leaves the text less room than there is up to the arrow, which matters in a button
+    /// as narrow as ours.
+    void paintLabel(QStylePainter& painter, const QStyleOptionComboBox& option) const
+    {
+        QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                             QStyle::SC_ComboBoxEditField, this);
+        room.adjust(2, 0, 5, 0);
+        if (!option.currentIcon.isNull()) {
+            const QRect icon(room.topLeft(), QSize(option.iconSize.width(), room.height()));
+            option.currentIcon.paint(&painter, icon, Qt::AlignCenter);
+            room.setLeft(icon.right() + 5);
+        }
+        const QString text =
+            fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width());
+        painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, option.palette, isEnabled(),
+                             text, QPalette::ButtonText);
     }
 
     void keyPressEvent(QKeyEvent* event) override

@@ -87,7 +87,6 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));
-    edit->setTextMargins(-2, 0, -2, 0);  // small fields show all of their digits
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { sendTextDidChange(); });
     QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { sendAction(); });
 }

@@ -1,0 +1,34 @@
+# The everyday commands. What builds is CMake's business: see CMakePresets.json.
+PRESETS ?= release sanitize
+COLOR ?= \#ff8000
+
+.PHONY: run build test bench format check screenshots clean packages
+
+run: build
+	@tools/run-panel "$(COLOR)"
+
+build: packages
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release
+
+test: packages
+	@tools/run-tests $(PRESETS)
+
+bench: build
+	@tools/run-benchmarks
+
+format: packages
+	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+check: build
+	@git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
+	@git ls-files 'src/*.cpp' | xargs -P "$$(nproc)" -n 4 clang-tidy --quiet -p build/release
+
+screenshots: build
+	@tools/make-screenshots
+
+packages:
+	@tools/install-packages
+
+clean:
+	rm -rf build
