@@ -117,6 +117,8 @@ SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current, HostRec
         f.moreIndicator.x = 30;
         centerY(f.moreIndicator, f.doneButton.midY());
     }
+    f.help.x = left + 6;
+    centerY(f.help, f.doneButton.midY());
     f.versionLabel.x = bounds.maxX() - f.versionLabel.width - 8;
     f.versionLabel.y = bounds.y + 8;
     return f;

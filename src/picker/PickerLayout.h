@@ -29,7 +29,7 @@ struct SettingsFaceFrames {
     HostRect componentDisplay, componentDisplayLabel;
     HostRect codeSnippet, codeSnippetLabel;
     HostRect dragType, dragTypeLabel;
-    HostRect moreIndicator, versionLabel;
+    HostRect moreIndicator, help, versionLabel;
 };
 
 /// `bounds` is the view's bounds; sizes are taken from `current`. Rows that do not fit above the

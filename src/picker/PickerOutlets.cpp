@@ -45,6 +45,7 @@ bool PickerOutlets::connectOutlets(const PickerInterface& interface)
         connect(interface, "hexColorsListPopUp", found.hexColorsListPopUp) &&
         connect(interface, "hexColorNamePopUp", found.hexColorNamePopUp) &&
         connect(interface, "moreIndicatorButton", found.moreIndicatorButton) &&
+        connect(interface, "helpButton", found.helpButton) &&
         connect(interface, "_versionLabelText", found._versionLabelText);
     if (complete) *this = found;
     return complete;

@@ -36,6 +36,7 @@ struct PickerOutlets {
     HostPopUpButton* hexColorsListPopUp = nullptr;
     HostPopUpButton* hexColorNamePopUp = nullptr;
     HostButton* moreIndicatorButton = nullptr;
+    HostButton* helpButton = nullptr;
     HostTextField* _versionLabelText = nullptr;
 
     /// Connects every outlet, or none and returns false when the interface lacks one or has it as

@@ -142,6 +142,7 @@ void QTXHexColorPicker::fixSettingsView()
         {codeDragTypePopUp, &SettingsFaceFrames::dragType},
         {codeDragTypeLabel, &SettingsFaceFrames::dragTypeLabel},
         {moreIndicatorButton, &SettingsFaceFrames::moreIndicator},
+        {helpButton, &SettingsFaceFrames::help},
         {_versionLabelText, &SettingsFaceFrames::versionLabel},
     };
     SettingsFaceFrames frames;
