@@ -1,0 +1,66 @@
+#include "host/HostControls.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+class HostPopUpButtonTest : public testing::Test {
+protected:
+    HostPopUpButton _popUp{HostRect{}};
+};
+
+TEST_F(HostPopUpButtonTest, FillingAnEmptyOneSelectsTheFirstItem)
+{
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
+    _popUp.addItemsWithTitles({u"a", u"b"});
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"a");
+}
+
+TEST_F(HostPopUpButtonTest, AnUnknownTitleSelectsNothing)
+{
+    _popUp.addItemsWithTitles({u"a", u"b"});
+    _popUp.selectItemWithTitle(u"c");
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), -1);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), std::nullopt);
+    _popUp.selectItemAtIndex(7);
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), -1);
+}
+
+TEST_F(HostPopUpButtonTest, SeparatorsAreNotFoundByTheirEmptyTitle)
+{
+    _popUp.addItem(HostMenuItem::separatorItem());
+    EXPECT_EQ(_popUp.indexOfItemWithTitle(u""), HostPopUpButton::noItem);
+}
+
+TEST_F(HostPopUpButtonTest, TheSelectedItemStaysSelectedWhenOthersMove)
+{
+    _popUp.addItemsWithTitles({u"a", u"b", u"c"});
+    _popUp.selectItemAtIndex(1);
+    auto item = _popUp.takeItem(2);
+    ASSERT_TRUE(item.has_value());
+    _popUp.insertItem(std::move(*item), 0);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"b");
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), 2);
+    _popUp.takeItem(0);
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), 1);
+    EXPECT_FALSE(_popUp.takeItem(9).has_value());
+    EXPECT_FALSE(_popUp.takeItem(-1).has_value());
+    _popUp.takeItem(1);
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
+}
+
+TEST_F(HostPopUpButtonTest, TheNoticeMayEndItself)
+{
+    int notices = 0;
+    _popUp.setWillPopUp([&] {
+        ++notices;
+        _popUp.setWillPopUp({});
+    });
+    _popUp.sendWillPopUp();
+    _popUp.sendWillPopUp();
+    EXPECT_EQ(notices, 1);
+}
+
+}  // namespace
+}  // namespace vantorel

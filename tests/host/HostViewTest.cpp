@@ -1,0 +1,82 @@
+#include "host/HostView.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace vantorel {
+namespace {
+
+struct ResizingRow {
+    HostResizing rule;
+    HostRect after;  ///< of {10, 20, 30, 40}, when the superview grows by 60 and 90
+};
+
+class HostViewResizingTest : public testing::TestWithParam<ResizingRow> {};
+
+TEST_P(HostViewResizingTest, SharesTheGrowthBetweenWhatStretches)
+{
+    HostView superview({0, 0, 100, 100});
+    HostView view({10, 20, 30, 40});
+    view.setResizing(GetParam().rule);
+    superview.addSubview(view);
+    superview.setFrame({5, 5, 160, 190});
+    EXPECT_EQ(view.frame(), GetParam().after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rules, HostViewResizingTest,
+    testing::Values(ResizingRow{{}, {10, 20, 30, 40}},
+                    ResizingRow{{.width = true, .height = true}, {10, 20, 90, 130}},
+                    ResizingRow{{.leftMargin = true, .bottomMargin = true}, {70, 110, 30, 40}},
+                    ResizingRow{{.rightMargin = true, .topMargin = true}, {10, 20, 30, 40}},
+                    ResizingRow{{.leftMargin = true, .rightMargin = true}, {40, 20, 30, 40}},
+                    ResizingRow{{.leftMargin = true, .width = true, .rightMargin = true},
+                                {30, 20, 50, 40}}));
+
+TEST(HostViewTest, AViewThatEndsLeavesTheTree)
+{
+    HostView superview({0, 0, 10, 10});
+    auto view = std::make_unique<HostView>(HostRect{});
+    HostView subview({});
+    superview.addSubview(*view);
+    view->addSubview(subview);
+    view.reset();
+    EXPECT_TRUE(superview.subviews().empty());
+    EXPECT_EQ(subview.superview(), nullptr);
+}
+
+TEST(HostViewTest, AViewIsInOnePlaceOnly)
+{
+    HostView first({});
+    HostView second({});
+    HostView view({});
+    first.addSubview(view);
+    second.addSubview(view);
+    EXPECT_TRUE(first.subviews().empty());
+    EXPECT_EQ(view.superview(), &second);
+    second.addSubview(second);
+    EXPECT_EQ(second.superview(), nullptr);
+}
+
+TEST(HostViewTest, BoundsHaveTheFramesSizeAndAnOriginOfTheirOwn)
+{
+    HostView view({10, 20, 30, 40});
+    EXPECT_EQ(view.bounds(), (HostRect{0, 0, 30, 40}));
+    view.setBounds({10, 20, 999, 999});
+    EXPECT_EQ(view.bounds(), (HostRect{10, 20, 30, 40}));
+    view.setFrame({0, 0, 50, -3});
+    EXPECT_EQ(view.bounds(), (HostRect{10, 20, 50, 0}));
+}
+
+TEST(HostViewTest, MarksForRedrawing)
+{
+    HostView view({0, 0, 10, 10});
+    view.setNeedsDisplay(false);
+    EXPECT_FALSE(view.needsDisplay());
+    view.setNeedsDisplayInRect({1, 1, 2, 2});
+    EXPECT_TRUE(view.needsDisplay());
+}
+
+}  // namespace
+}  // namespace vantorel

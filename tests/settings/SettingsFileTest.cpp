@@ -1,0 +1,85 @@
+#include "settings/SettingsFile.h"
+
+#include "hosts/headless/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+const std::string folder = "/home/user/.local/share/Vantorel";
+const std::string file = folder + "/Settings.plist";
+
+TEST(SettingsFileTest, TheFirstStartMakesFolderAndFile)
+{
+    MemoryFiles files;
+    QTXHexSettings settings;
+    initializeDefaults(files, settings);
+    EXPECT_EQ(files.contentsAtPath(file), settingsData(settings));
+    EXPECT_TRUE(settings.codeSnippets().empty()) << "what was made is not read back";
+}
+
+TEST(SettingsFileTest, AFileThatIsThereIsLoaded)
+{
+    MemoryFiles files;
+    files.createDirectory(folder);
+    files.writeAtomically(file, "{ NColorCubeRings = 5; }");
+    QTXHexSettings settings;
+    initializeDefaults(files, settings);
+    EXPECT_EQ(settings.nColorCubeRings(), 5);
+    EXPECT_EQ(files.contentsAtPath(file), "{ NColorCubeRings = 5; }");
+}
+
+TEST(SettingsFileTest, AFileInTheFoldersPlaceLeavesAllAsItIs)
+{
+    MemoryFiles files;
+    files.writeAtomically(folder, "in the way");
+    QTXHexSettings settings;
+    initializeDefaults(files, settings);
+    writeDefaults(files, settings);
+    EXPECT_EQ(files.contentsAtPath(folder), "in the way");
+    EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
+}
+
+TEST(SettingsFileTest, WithoutAPlaceForDataNothingHappens)
+{
+    MemoryFiles files(std::nullopt);
+    QTXHexSettings settings;
+    EXPECT_EQ(hexColorPickerDefaultsFileName(files), std::nullopt);
+    initializeDefaults(files, settings);
+    readDefaults(files, settings);
+    writeDefaults(files, settings);
+    EXPECT_TRUE(files.allPaths().empty());
+}
+
+TEST(SettingsFileTest, FailingWritesAreIgnored)
+{
+    MemoryFiles files;
+    files.failWrites(true);
+    QTXHexSettings settings;
+    initializeDefaults(files, settings);
+    EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
+}
+
+class DamagedSettingsTest : public testing::TestWithParam<std::string> {};
+
+TEST_P(DamagedSettingsTest, CountAsAnEmptyDictionary)
+{
+    MemoryFiles files;
+    files.createDirectory(folder);
+    files.writeAtomically(file, GetParam());
+    QTXHexSettings settings;
+    settings.setNColorCubeRings(11);
+    readDefaults(files, settings);
+    EXPECT_EQ(settings.nColorCubeRings(), 11);
+    EXPECT_EQ(settings.codeSnippets().size(), 12U);
+    EXPECT_EQ(settings.codeSnippetName(), u"ObjC fraction");
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, DamagedSettingsTest,
+                         testing::Values("", "(a, b)", "text", "{ a = ", "\xFF\xFE{}",
+                                         std::string(1 << 20, '('),
+                                         std::string(largestSettingsFile + 1, ' ') + "{}"));
+
+}  // namespace
+}  // namespace vantorel
