@@ -1,0 +1,133 @@
+#include "color/QTXHexColorSpec.h"
+#include "colorlists/ColorSort.h"
+#include "colorlists/PaletteFileStore.h"
+#include "colorlists/QTXHexColorLists.h"
+#include "host/HostText.h"
+#include "hosts/headless/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+/// The built-in lists are found or built once in a process; every test here runs in its own.
+class BuiltInListsTest : public testing::Test {
+protected:
+    MemoryFiles _files;
+    PaletteFileStore _store{_files};
+};
+
+/// FNV-1a over a line "key#RRGGBB" for each entry.
+std::uint64_t checksum(const HostColorList& list)
+{
+    std::uint64_t hash = 0xcbf29ce484222325U;
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
+        QTXHexColorSpec spec;
+        spec.setColorHexColorSpec(list.colorAtIndex(i));
+        const std::string line =
+            utf8FromUtf16(list.allKeys()[i]) + "#" +
+            utf8FromUtf16(spec.fullStringHexColorSpecWithEntryForm(EntryForm::uppercase)) + "\n";
+        for (const char c : line) {
+            hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
+        }
+    }
+    return hash;
+}
+
+TEST_F(BuiltInListsTest, HoldExactlyWhatTheyAlwaysHeld)
+{
+    checkAndInstallColorLists(_store);
+    struct Row {
+        int token;
+        std::size_t count;
+        std::uint64_t checksum;
+    };
+    for (const auto& [token, count, sum] :
+         {Row{13, 17, 0xde2537b158dcdd50}, Row{12, 216, 0x665629c2a207ef6d},
+          Row{14, 146, 0x0a07350fc0eed852}}) {
+        const auto list = hexColorListWithToken(token);
+        ASSERT_NE(list, nullptr);
+        EXPECT_EQ(list->allKeys().size(), count);
+        EXPECT_EQ(checksum(*list), sum) << "token " << token;
+    }
+}
+
+TEST_F(BuiltInListsTest, AreSavedAmongTheUsersListsAndReadBackTheSame)
+{
+    checkAndInstallColorLists(_store);
+    PaletteFileStore other(_files);
+    EXPECT_EQ(other.availableColorLists(), allHexColorListNames());
+    for (const std::u16string& name : allHexColorListNames()) {
+        const auto read = other.colorListNamed(name);
+        const auto built = hexColorListWithToken(hexColorListFromString(name));
+        ASSERT_NE(read, nullptr);
+        EXPECT_NE(read, built);
+        EXPECT_EQ(checksum(*read), checksum(*built));
+        for (const auto& key : built->allKeys()) {
+            EXPECT_EQ(read->colorWithKey(key), built->colorWithKey(key));
+        }
+    }
+}
+
+TEST_F(BuiltInListsTest, AnInstalledListIsUsedAsItIs)
+{
+    auto mine = std::make_shared<HostColorList>(u"CSS Keyword");
+    mine->setColor(HostColor::blackColor(), u"only one");
+    _store.writeColorList(mine);
+    buildCSSKeywordList(_store);
+    EXPECT_EQ(hexColorListWithToken(13), mine);
+    EXPECT_EQ(hexColorListWithToken(15), mine);
+    EXPECT_EQ(mine->allKeys().size(), 1U);
+}
+
+TEST_F(BuiltInListsTest, ServeThisProcessWhenTheyCannotBeSaved)
+{
+    _files.failWrites(true);
+    checkAndInstallColorLists(_store);
+    ASSERT_NE(hexColorListWithToken(12), nullptr);
+    EXPECT_TRUE(_store.availableColorLists().empty());
+}
+
+TEST_F(BuiltInListsTest, NoTokenHasAListBeforeItIsBuilt)
+{
+    for (const int token : {11, 12, 13, 14, 15, 16})
+        EXPECT_EQ(hexColorListWithToken(token), nullptr);
+}
+
+struct SortRow {
+    std::uint32_t first, second;
+    int result;
+};
+
+class ColorSortTest : public testing::TestWithParam<SortRow> {};
+
+TEST_P(ColorSortTest, OrdersByGreenThenBlueThenRed)
+{
+    const auto color = [](std::uint32_t rgb) {
+        QTXHexColorSpec spec;
+        spec.setHexRed(rgb >> 16, (rgb >> 8) & 0xFF, rgb & 0xFF);
+        return spec.colorHexColorSpec();
+    };
+    EXPECT_EQ(colorSortFunc(color(GetParam().first), color(GetParam().second)), GetParam().result);
+    EXPECT_EQ(colorSortFunc(color(GetParam().second), color(GetParam().first)), -GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(Colors, ColorSortTest,
+                         testing::Values(SortRow{0x00F000, 0x00E0FF, -1},
+                                         SortRow{0x0F0F0F, 0x000000, 0},
+                                         SortRow{0xFF0010, 0x000020, 1},
+                                         SortRow{0x100000, 0x000000, -1}));
+
+TEST(ColorSortTest, EqualEntriesKeepTheirOrderAndPatternsCountAsBlack)
+{
+    HostColorList list(u"x");
+    list.setColor(HostColor::patternColor(), u"p");
+    list.setColor(HostColor::blackColor(), u"b");
+    list.setColor(HostColor::whiteColor(), u"w");
+    list.setColor(HostColor::colorWithCalibratedRed(0.01, 0.01, 0.01, 1), u"n");
+    EXPECT_EQ(sortedColorIndexes(list), (std::vector<std::size_t>{2, 0, 1, 3}));
+    EXPECT_EQ(colorSortFunc(u"missing", u"b", list), 0);
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,123 @@
+#include "colorlists/PaletteFileStore.h"
+
+#include "colorlists/PaletteFile.h"
+#include "hosts/headless/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+const std::string folder = "/home/user/.local/share/Vantorel/Palettes";
+
+class PaletteFileStoreTest : public testing::Test {
+protected:
+    void put(const std::string& name, const std::string& text)
+    {
+        _files.createDirectory("/home/user/.local/share/Vantorel");
+        _files.createDirectory(folder);
+        ASSERT_TRUE(_files.writeAtomically(folder + "/" + name, text));
+    }
+
+    static std::shared_ptr<HostColorList> listNamed(const std::u16string& name)
+    {
+        auto list = std::make_shared<HostColorList>(name);
+        list->setColor(HostColor::whiteColor(), u"white");
+        return list;
+    }
+
+    MemoryFiles _files;
+    std::vector<std::u16string> _log;
+    PaletteFileStore _store{_files, [this](const std::u16string& line) { _log.push_back(line); }};
+};
+
+TEST_F(PaletteFileStoreTest, AnEmptyOneHasNoListsAndMakesNoFolder)
+{
+    EXPECT_TRUE(_store.availableColorLists().empty());
+    EXPECT_EQ(_store.colorListNamed(u"any"), nullptr);
+    EXPECT_EQ(_files.kindAtPath(folder), HostFileKind::none);
+}
+
+TEST_F(PaletteFileStoreTest, ListsAreFoundByTheNameInTheFile)
+{
+    put("a.gpl", "GIMP Palette\nName: Zebra\n1 2 3 x\n");
+    put("b.gpl", "GIMP Palette\n1 2 3 x\n");
+    put("c.txt", "GIMP Palette\nName: Text\n1 2 3 x\n");
+    put("d.gpl", "not a palette");
+    EXPECT_EQ(_store.availableColorLists(), (std::vector<std::u16string>{u"Zebra", u"b"}));
+    ASSERT_NE(_store.colorListNamed(u"Zebra"), nullptr);
+    EXPECT_EQ(_store.colorListNamed(u"a"), nullptr);
+    EXPECT_EQ(_store.colorListNamed(u"Text"), nullptr);
+}
+
+TEST_F(PaletteFileStoreTest, ALookUpByNameFindsTheOtherListsLaterToo)
+{
+    put("b.gpl", "GIMP Palette\nName: b\n1 2 3 x\n");
+    put("a.gpl", "GIMP Palette\nName: a\n1 2 3 x\n");
+    ASSERT_NE(_store.colorListNamed(u"b"), nullptr);
+    EXPECT_EQ(_store.availableColorLists(), (std::vector<std::u16string>{u"a", u"b"}));
+}
+
+TEST_F(PaletteFileStoreTest, AChangeOnDiskIsSeenAtTheNextLook)
+{
+    put("a.gpl", "GIMP Palette\nName: a\n1 2 3 old\n");
+    const auto before = _store.colorListNamed(u"a");
+    EXPECT_EQ(_store.colorListNamed(u"a"), before);
+    put("a.gpl", "GIMP Palette\nName: a\n1 2 3 new\n");
+    const auto after = _store.colorListNamed(u"a");
+    EXPECT_NE(after, before);
+    EXPECT_EQ(after->allKeys().front(), u"new");
+    EXPECT_EQ(before->allKeys().front(), u"old") << "who holds the old list keeps it";
+    put("b.gpl", "GIMP Palette\nName: b\n");
+    EXPECT_EQ(_store.availableColorLists().size(), 2U);
+    put("a.gpl", "damaged");
+    EXPECT_EQ(_store.colorListNamed(u"a"), nullptr);
+}
+
+TEST_F(PaletteFileStoreTest, SkippedLinesAreLoggedWithFileAndLine)
+{
+    put("a.gpl", "GIMP Palette\nName: a\nnonsense\n1 2 3 x\n");
+    ASSERT_NE(_store.colorListNamed(u"a"), nullptr);
+    ASSERT_EQ(_log.size(), 1U);
+    EXPECT_NE(_log.front().find(u"a.gpl: line 3"), std::u16string::npos);
+}
+
+TEST_F(PaletteFileStoreTest, NoNameLeadsOutOfTheFolder)
+{
+    for (const std::u16string& name :
+         {std::u16string(u"../../escape"), std::u16string(), std::u16string(u"."),
+          std::u16string(u".."), std::u16string(u"a/b"), std::u16string(u"a\0b", 3),
+          std::u16string(u"%2F"), std::u16string(u" "), std::u16string(u"\U0001F3A8"),
+          std::u16string(5000, u'x'), std::u16string(5000, u'x') + u"y"}) {
+        const std::string file = PaletteFileStore::fileNameOfList(name);
+        EXPECT_EQ(file.find('/'), std::string::npos);
+        EXPECT_EQ(file.find('\0'), std::string::npos);
+        EXPECT_NE(file.front(), '.');
+        EXPECT_LE(file.size(), 240U);
+        EXPECT_TRUE(_store.writeColorList(listNamed(name)));
+    }
+    for (const std::string& path : _files.allPaths()) {
+        EXPECT_TRUE(path.starts_with(folder) || folder.starts_with(path)) << path;
+    }
+    EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 11U);
+}
+
+TEST_F(PaletteFileStoreTest, AWrittenListIsInstalledAtOnce)
+{
+    const auto list = listNamed(u"Mine");
+    EXPECT_TRUE(_store.writeColorList(list));
+    EXPECT_EQ(_store.colorListNamed(u"Mine"), list);
+    EXPECT_EQ(_store.availableColorLists(), (std::vector<std::u16string>{u"Mine"}));
+    EXPECT_EQ(_files.contentsAtPath(folder + "/Mine.gpl"), paletteText(*list));
+}
+
+TEST_F(PaletteFileStoreTest, AFailedWriteInstallsNothing)
+{
+    _files.failWrites(true);
+    EXPECT_FALSE(_store.writeColorList(listNamed(u"Mine")));
+    EXPECT_FALSE(_store.writeColorList(nullptr));
+    EXPECT_EQ(_store.colorListNamed(u"Mine"), nullptr);
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,116 @@
+#include "hosts/posix/PosixFiles.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace vantorel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PosixFilesTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string path = (fs::temp_directory_path() / "vantorel-test-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(path.data()), nullptr);
+        _folder = path;
+    }
+    void TearDown() override { fs::remove_all(_folder); }
+
+    [[nodiscard]] std::string inFolder(const std::string& name) const
+    {
+        return _folder + "/" + name;
+    }
+
+    static unsigned permissions(const std::string& path)
+    {
+        struct stat status {};
+        ::stat(path.c_str(), &status);
+        return status.st_mode & 07777;
+    }
+
+    std::string _folder;
+    PosixFiles _files{"/nowhere"};
+};
+
+TEST_F(PosixFilesTest, WritesTheWholeFileForTheUserAlone)
+{
+    const std::string bytes("a\0b", 3);
+    EXPECT_TRUE(_files.writeAtomically(inFolder("file"), bytes));
+    EXPECT_EQ(_files.contentsAtPath(inFolder("file")), bytes);
+    EXPECT_EQ(permissions(inFolder("file")), 0600U);
+    EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"file"});
+}
+
+TEST_F(PosixFilesTest, AReplacedFileHandsItsPermissionsOn)
+{
+    _files.writeAtomically(inFolder("file"), "old");
+    ::chmod(inFolder("file").c_str(), 0644);
+    EXPECT_TRUE(_files.writeAtomically(inFolder("file"), "new"));
+    EXPECT_EQ(permissions(inFolder("file")), 0644U);
+    EXPECT_EQ(_files.contentsAtPath(inFolder("file")), "new");
+}
+
+TEST_F(PosixFilesTest, ALinkIsFollowedAndStays)
+{
+    fs::create_directory(inFolder("elsewhere"));
+    fs::create_symlink("elsewhere/target", inFolder("link"));
+    EXPECT_TRUE(_files.writeAtomically(inFolder("link"), "text"));
+    EXPECT_TRUE(fs::is_symlink(inFolder("link")));
+    EXPECT_EQ(_files.contentsAtPath(inFolder("elsewhere/target")), "text");
+}
+
+TEST_F(PosixFilesTest, NothingIsLeftOfAWriteThatFails)
+{
+    fs::create_directory(inFolder("place"));
+    EXPECT_FALSE(_files.writeAtomically(inFolder("place"), "text"));
+    EXPECT_FALSE(_files.writeAtomically(inFolder("missing/file"), "text"));
+    EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"place"});
+}
+
+TEST_F(PosixFilesTest, APipeIsNotWaitedFor)
+{
+    ASSERT_EQ(::mkfifo(inFolder("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(_files.contentsAtPath(inFolder("pipe")), std::nullopt);
+    EXPECT_EQ(_files.contentsAtPath(_folder), std::nullopt);
+    EXPECT_EQ(_files.contentsAtPath(inFolder("missing")), std::nullopt);
+}
+
+TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndTheFolder)
+{
+    EXPECT_EQ(_files.versionAtPath(inFolder("file")), 0U);
+    const auto empty = _files.versionAtPath(_folder);
+    _files.writeAtomically(inFolder("file"), "a");
+    const auto first = _files.versionAtPath(inFolder("file"));
+    _files.writeAtomically(inFolder("file"), "b");
+    EXPECT_NE(_files.versionAtPath(inFolder("file")), first);
+    EXPECT_NE(_files.versionAtPath(_folder), empty);
+}
+
+TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
+{
+    EXPECT_FALSE(_files.createDirectory(inFolder("a/b")));
+    EXPECT_TRUE(_files.createDirectory(inFolder("a")));
+    EXPECT_FALSE(_files.createDirectory(inFolder("a")));
+    EXPECT_EQ(permissions(inFolder("a")), 0700U);
+    EXPECT_EQ(_files.kindAtPath(inFolder("a")), HostFileKind::folder);
+}
+
+TEST_F(PosixFilesTest, TheUsersDataIsWhereTheBaseDirectoriesSay)
+{
+    ::setenv("XDG_DATA_HOME", inFolder("data/deep").c_str(), 1);
+    EXPECT_EQ(PosixFiles().applicationSupportDirectory(), inFolder("data/deep"));
+    EXPECT_TRUE(fs::is_directory(inFolder("data/deep")));
+    ::setenv("XDG_DATA_HOME", "relative", 1);
+    ::setenv("HOME", inFolder("home").c_str(), 1);
+    EXPECT_EQ(PosixFiles().applicationSupportDirectory(), inFolder("home/.local/share"));
+}
+
+}  // namespace
+}  // namespace vantorel

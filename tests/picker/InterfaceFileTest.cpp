@@ -1,0 +1,100 @@
+#include "picker/InterfaceFile.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <random>
+
+namespace vantorel {
+namespace {
+
+std::string fileText()
+{
+    std::ifstream file(VANTOREL_INTERFACE_FILE, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void visit(const std::vector<InterfaceItem>& items,
+           const std::function<void(const InterfaceItem&)>& visitor)
+{
+    for (const InterfaceItem& item : items) {
+        visitor(item);
+        visit(item.subviews, visitor);
+    }
+}
+
+TEST(InterfaceFileTest, TheFileThatIsShippedReads)
+{
+    const auto items = parseInterfaceFile(fileText());
+    ASSERT_TRUE(items.has_value());
+    EXPECT_EQ(items->size(), 2U);
+    visit(*items, [](const InterfaceItem& item) {
+        const auto& description = item.description;
+        EXPECT_FALSE(description.accessibleName.empty()) << description.identifier;
+        const bool operated = item.kind != InterfaceItem::Kind::view &&
+                              description.identifier.find("Label") == std::string::npos &&
+                              item.kind != InterfaceItem::Kind::settingsView;
+        const bool component = description.identifier.find("HexText") != std::string::npos;
+        const bool readout = description.identifier == "_cursorReadoutText";
+        // The component fields get their tips from the colour.
+        if (operated && !component && !readout) {
+            EXPECT_FALSE(description.toolTip.empty()) << description.identifier;
+        }
+    });
+}
+
+struct BrokenRow {
+    const char* name;
+    const char* text;
+};
+
+class BrokenInterfaceTest : public testing::TestWithParam<BrokenRow> {};
+
+TEST_P(BrokenInterfaceTest, IsRefused)
+{
+    EXPECT_FALSE(parseInterfaceFile(GetParam().text).has_value()) << GetParam().name;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BrokenInterfaceTest,
+    testing::Values(
+        BrokenRow{"empty", ""}, BrokenRow{"no dictionary", "(a)"},
+        BrokenRow{"no version", "{Views=();}"},
+        BrokenRow{"another version", "{Version=2;Views=();}"},
+        BrokenRow{"no views", "{Version=1;}"},
+        BrokenRow{"no name", "{Version=1;Views=({Class=View;Frame=\"{{0,0},{1,1}}\";});}"},
+        BrokenRow{"unknown class",
+                  "{Version=1;Views=({Name=a;Class=Knob;Frame=\"{{0,0},{1,1}}\";});}"},
+        BrokenRow{"no frame", "{Version=1;Views=({Name=a;Class=View;});}"},
+        BrokenRow{"bad frame", "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1}}\";});}"},
+        BrokenRow{"infinite frame",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,inf},{1,1}}\";});}"},
+        BrokenRow{"negative size",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{-1,1}}\";});}"},
+        BrokenRow{"name twice",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";},{Name=a;Class="
+                  "View;Frame=\"{{0,0},{1,1}}\";});}"},
+        BrokenRow{"bad rule",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Resizing=(Sideways)"
+                  ";});}"},
+        BrokenRow{"bad size of type",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=big;});}"},
+        BrokenRow{"no UTF-8", "{Version=1;Views=();}\xFF"}));
+
+TEST(InterfaceFileTest, DamageNeverFailsWorse)
+{
+    const std::string good = fileText();
+    std::mt19937 random(4);
+    for (int round = 0; round < 2000; ++round) {
+        std::string damaged = good;
+        for (int i = 0; i < 3; ++i)
+            damaged[random() % damaged.size()] = static_cast<char>(random());
+        static_cast<void>(parseInterfaceFile(damaged));
+        static_cast<void>(parseInterfaceFile(good.substr(0, random() % good.size())));
+    }
+}
+
+}  // namespace
+}  // namespace vantorel
