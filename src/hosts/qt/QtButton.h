@@ -20,8 +20,9 @@ private:
     [[nodiscard]] QAbstractButton* button() const;
 };
 
-/// An icon from a picture in SVG that says `currentColor` where it takes the text colour of the theme;
-/// it is drawn afresh for every size and screen. The theme is that of `ground`, or the program's.
+/// An icon from a picture in SVG that says `currentColor` where it takes the text colour of the
+/// theme; it is drawn afresh for every size and screen. The theme is that of `ground`, or the
+/// program's.
 [[nodiscard]] QIcon iconFromSvg(const std::string& svg, const QWidget* ground = nullptr);
 
 }  // namespace vantorel

@@ -192,6 +192,7 @@ HostEvent QtCustomView::nextMouseEvent(std::uint32_t mask)
         if (!_buttonIsDown) return releaseAtLastPoint();
         QEventLoop loop;
         _waitingLoop = &loop;
+        QObject::connect(widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
         if (!alive) return {HostEventType::leftMouseUp, lastPoint, 0};
         // Something else has ended the loop: the program is about to end.

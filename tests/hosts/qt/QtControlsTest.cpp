@@ -1,0 +1,194 @@
+#include "hosts/qt/QtButton.h"
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtPopUpButton.h"
+#include "hosts/qt/QtTextField.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+namespace vantorel {
+namespace {
+
+HostControlDescription describe(HostRect frame = {0, 0, 100, 24})
+{
+    HostControlDescription description;
+    description.identifier = "control";
+    description.frame = frame;
+    return description;
+}
+
+class QtTextFieldTest : public testing::Test {
+protected:
+    QtTextFieldTest()
+    {
+        _field.setAction([this](HostControl&) { ++_actions; });
+        _field.setTextDidChange([this] { ++_changes; });
+        edit()->show();
+        edit()->setFocus();
+        QApplication::setActiveWindow(edit());
+    }
+    [[nodiscard]] QLineEdit* edit() const { return static_cast<QLineEdit*>(_field.widget()); }
+
+    int _actions = 0;
+    int _changes = 0;
+    QtTextField _field{describe()};
+};
+
+TEST_F(QtTextFieldTest, ReturnEndsTheEntryOnce)
+{
+    QTest::keyClicks(edit(), "ff80");
+    QTest::keyClick(edit(), Qt::Key_Return);
+    EXPECT_EQ(_field.stringValue(), u"ff80");
+    EXPECT_EQ(_actions, 1);
+    EXPECT_EQ(_changes, 4);
+}
+
+TEST_F(QtTextFieldTest, SettingTheTextIsNoChangeByTheUser)
+{
+    _field.setStringValue(u"abc");
+    EXPECT_EQ(_changes, 0);
+    EXPECT_EQ(edit()->text(), "abc");
+}
+
+TEST_F(QtTextFieldTest, ThePasteCountsAsTyping)
+{
+    edit()->selectAll();
+    edit()->insert("navy");
+    EXPECT_EQ(_changes, 1);
+}
+
+TEST_F(QtTextFieldTest, TheInsertionPointStaysWhenTheTextIsSetWhileTyping)
+{
+    QTest::keyClicks(edit(), "nav");
+    ASSERT_TRUE(_field.isEdited());
+    _field.setStringValue(u"navy: rgb(0, 0, 128);");
+    EXPECT_EQ(_field.selectedRange(), (HostSelection{3, 0}));
+    _field.setSelectedRange({2, 999});
+    EXPECT_EQ(_field.selectedRange().location, 2U);
+}
+
+TEST(ReadableTextColorTest, BlackAndRedCanBeReadOnEveryGround)
+{
+    QPalette light;
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::Text, QColor(20, 20, 20));
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(240, 240, 240));
+    const HostColor red = HostColor::colorWithCalibratedRed(200 / 255.0, 30 / 255.0, 30 / 255.0, 1);
+    EXPECT_EQ(readableTextColor(HostColor::blackColor(), light), QColor(20, 20, 20));
+    EXPECT_EQ(readableTextColor(HostColor::blackColor(), dark), QColor(240, 240, 240));
+    EXPECT_EQ(readableTextColor(red, light), QColor(200, 30, 30));
+    EXPECT_GT(readableTextColor(red, dark).lightness(), 150);
+    EXPECT_EQ(readableTextColor(red, dark).hslHue(), QColor(200, 30, 30).hslHue());
+}
+
+class QtPopUpButtonTest : public testing::Test {
+protected:
+    QtPopUpButtonTest()
+    {
+        _popUp.setAction([this](HostControl&) { ++_actions; });
+        _popUp.setWillPopUp([this] { ++_notices; });
+        _popUp.addItemsWithTitles({u"Browser Safe", u"CSS Keyword"});
+        _popUp.addItem(HostMenuItem::separatorItem());
+        HostMenuItem parent;
+        parent.title = u"Add";
+        HostMenuItem child;
+        child.title = u"R&B";
+        child.action = [this](const HostMenuItem& item) {
+            _added = item.title;
+            _popUp.removeAllItems();  // as an action that rebuilds the menu does
+        };
+        parent.submenu = HostMenu{child};
+        _popUp.addItem(parent);
+        _popUp.widget()->show();
+    }
+    static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+    void TearDown() override
+    {
+        while (QWidget* open = QApplication::activePopupWidget())
+            open->close();
+    }
+
+    int _actions = 0;
+    int _notices = 0;
+    std::u16string _added;
+    QtPopUpButton _popUp{describe()};
+};
+
+TEST_F(QtPopUpButtonTest, OpensAMenuOfItsItems)
+{
+    QTest::mouseClick(_popUp.widget(), Qt::LeftButton);
+    ASSERT_NE(openMenu(), nullptr);
+    EXPECT_EQ(_notices, 1);
+    const auto actions = openMenu()->actions();
+    ASSERT_EQ(actions.size(), 4);
+    EXPECT_EQ(actions[1]->text(), "CSS Keyword");
+    EXPECT_TRUE(actions[0]->isChecked());
+    EXPECT_TRUE(actions[2]->isSeparator());
+    actions[1]->trigger();
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
+    EXPECT_EQ(_actions, 1);
+}
+
+TEST_F(QtPopUpButtonTest, AnItemOfASubmenuRunsItsOwnAction)
+{
+    QTest::keyClick(_popUp.widget(), Qt::Key_Space);
+    ASSERT_NE(openMenu(), nullptr);
+    QAction* child = openMenu()->actions().back()->menu()->actions().front();
+    EXPECT_EQ(child->text(), "R&&B");
+    child->trigger();
+    EXPECT_EQ(_added, u"R&B");
+    EXPECT_EQ(_actions, 0);
+}
+
+TEST_F(QtPopUpButtonTest, KeysChooseWithoutTheMenu)
+{
+    QTest::keyClick(_popUp.widget(), Qt::Key_Down);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
+    QTest::keyClick(_popUp.widget(), Qt::Key_Down);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword")
+        << "a separator and a parent are passed";
+    QTest::keyClick(_popUp.widget(), Qt::Key_Up);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"Browser Safe");
+    QTest::keyClicks(_popUp.widget(), "css");
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
+    EXPECT_EQ(openMenu(), nullptr);
+}
+
+TEST(QtButtonTest, ACheckBoxTakesItsStateBeforeItsAction)
+{
+    auto description = describe();
+    description.buttonKind = HostControlDescription::ButtonKind::checkBox;
+    QtButton button(description);
+    int stateAtAction = -1;
+    button.setAction([&](HostControl&) { stateAtAction = button.state(); });
+    static_cast<QAbstractButton*>(button.widget())->click();
+    EXPECT_EQ(stateAtAction, 1);
+    button.setState(0);
+    EXPECT_FALSE(static_cast<QAbstractButton*>(button.widget())->isChecked());
+}
+
+TEST(QtButtonTest, AToggleShowsWhatItsActionDecides)
+{
+    auto description = describe();
+    description.buttonKind = HostControlDescription::ButtonKind::toggle;
+    description.svgImage =
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 16 16'>"
+        "<rect width='16' height='16' fill='currentColor'/></svg>";
+    QtButton button(description);
+    button.setAction([&](HostControl&) { button.setState(1); });
+    auto* shown = static_cast<QAbstractButton*>(button.widget());
+    shown->click();
+    shown->click();
+    EXPECT_TRUE(shown->isChecked());
+    EXPECT_FALSE(shown->icon().isNull());
+    const QImage icon = shown->icon().pixmap(16, 16).toImage();
+    EXPECT_EQ(icon.pixelColor(8, 8), shown->palette().color(QPalette::ButtonText));
+}
+
+}  // namespace
+}  // namespace vantorel

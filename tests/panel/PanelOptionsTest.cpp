@@ -1,0 +1,68 @@
+#include "panel/PanelOptions.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+struct ColorRow {
+    const char* text;
+    std::optional<QColor> color;
+};
+
+class ColorTextTest : public testing::TestWithParam<ColorRow> {};
+
+TEST_P(ColorTextTest, ReadsAsInCSS)
+{
+    EXPECT_EQ(colorFromText(GetParam().text), GetParam().color);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, ColorTextTest,
+    testing::Values(ColorRow{"#f80", QColor(255, 136, 0)}, ColorRow{"#ff8000", QColor(255, 128, 0)},
+                    ColorRow{"#ff800040", QColor(255, 128, 0, 64)},
+                    ColorRow{" RGB(1, 2 3); ", QColor(1, 2, 3)},
+                    ColorRow{"navy", QColor(0, 0, 128)}, ColorRow{"rgb(300,0,0)", std::nullopt},
+                    ColorRow{"#12345", std::nullopt}, ColorRow{"#fff000fff000", std::nullopt},
+                    ColorRow{"", std::nullopt}, ColorRow{"nonsense", std::nullopt}));
+
+TEST(PanelOptionsTest, EveryOptionIsRead)
+{
+    const auto line =
+        readCommandLine({"p", "--color", "#ff8000", "--mode", "wheel", "--size", "260x340",
+                         "--screenshot", "f.png", "--theme", "dark", "--face", "settings",
+                         "--plugin", "a", "--plugin", "b", "--print-color"});
+    ASSERT_FALSE(line.exitStatus.has_value());
+    EXPECT_EQ(line.options.color, QColor(255, 128, 0));
+    EXPECT_EQ(line.options.mode, "wheel");
+    EXPECT_EQ(line.options.size, QSize(260, 340));
+    EXPECT_EQ(line.options.plugins, (QStringList{"a", "b"}));
+    EXPECT_TRUE(line.options.settingsFace);
+    EXPECT_TRUE(line.options.printColor);
+}
+
+class BadOptionTest : public testing::TestWithParam<QStringList> {};
+
+TEST_P(BadOptionTest, SaysWhatIsWrong)
+{
+    const auto line = readCommandLine(QStringList{"p"} + GetParam());
+    EXPECT_EQ(line.exitStatus, 2);
+    EXPECT_TRUE(line.message.startsWith("vantorel-panel: ")) << line.message.toStdString();
+    EXPECT_TRUE(line.message.endsWith("\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, BadOptionTest,
+                         testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
+                                         QStringList{"--size", "260"}, QStringList{"--theme", "x"},
+                                         QStringList{"--face", "x"}, QStringList{"--nothing"},
+                                         QStringList{"stray"}, QStringList{"--color"}));
+
+TEST(PanelOptionsTest, HelpAndVersionEndWell)
+{
+    EXPECT_EQ(readCommandLine({"p", "--help"}).exitStatus, 0);
+    EXPECT_TRUE(readCommandLine({"p", "--help"}).message.contains("--screenshot"));
+    EXPECT_EQ(readCommandLine({"p", "--version"}).message, "vantorel-panel " VANTOREL_VERSION "\n");
+}
+
+}  // namespace
+}  // namespace vantorel
