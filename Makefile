@@ -20,9 +20,10 @@ bench: build
 format: packages
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-check: build
+check: packages
+	@cmake --preset clang > /dev/null
 	@git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
-	@git ls-files 'src/*.cpp' | xargs -P "$$(nproc)" -n 4 clang-tidy --quiet -p build/release
+	@git ls-files 'src/*.cpp' | xargs -P "$$(nproc)" -n 4 clang-tidy --quiet -p build/clang
 
 screenshots: build
 	@tools/make-screenshots

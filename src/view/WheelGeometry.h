@@ -14,7 +14,7 @@ namespace vantorel {
 
 /// The ring counts that are drawn. What is stored may be anything; it is clamped where it is used.
 inline constexpr int fewestDrawnRings = 2;
-inline constexpr int mostDrawnRings = 255;
+inline constexpr int mostDrawnRings = 128;
 
 /// A stored ring count as it is drawn.
 [[nodiscard]] int drawnRingCount(std::int64_t stored);
