@@ -66,7 +66,8 @@ std::uint64_t readHex(std::u16string_view text)
 {
     if (text.empty()) return 0;
     const char16_t second = text.size() > 1 ? text[1] : u'\0';
-    return static_cast<std::uint64_t>(decodeHex(text[0]) * 16 + decodeHex(second));
+    const int value = decodeHex(text[0]) * 16 + decodeHex(second);
+    return static_cast<std::uint64_t>(value);
 }
 
 std::uint64_t readInt(std::u16string_view text)
@@ -86,16 +87,14 @@ std::uint64_t readInt(std::u16string_view text)
 
 std::uint64_t readFraction(std::u16string_view text)
 {
-    constexpr double lastDivisor = 100000;
+    constexpr std::array divisors{10.0, 100.0, 1000.0, 10000.0, 100000.0};
     for (std::size_t place = 0; place < text.size(); ++place) {
         const char c = lowByte(text[place]);
         if (c >= '1' && c <= '9') return largestComponent;
         if (c != '.') continue;
         double fraction = 0;
-        double divisor = 10;
-        for (++place;
-             divisor <= lastDivisor && place < text.size() && isDigit(lowByte(text[place]));
-             ++place, divisor *= 10) {
+        for (const double divisor : divisors) {
+            if (++place >= text.size() || !isDigit(lowByte(text[place]))) break;
             fraction += (lowByte(text[place]) - '0') / divisor;
         }
         return std::min(truncatedUnsigned(fraction * 255.5), largestComponent);

@@ -71,7 +71,7 @@ void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16stri
 std::u16string namingListAfterRemoval(const std::u16string& removed,
                                       const std::vector<std::u16string>& activeLists)
 {
-    const std::u16string fallback = nameFromHexColorList(cssKeywordToken).value_or(u"");
+    std::u16string fallback = nameFromHexColorList(cssKeywordToken).value_or(u"");
     if (removed != fallback && contains(activeLists, fallback)) return fallback;
     return activeLists.front();
 }

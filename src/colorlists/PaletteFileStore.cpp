@@ -83,7 +83,9 @@ void PaletteFileStore::load(const std::string& fileName, File& file)
     file.list = reading->list;
     if (!_log) return;
     for (const auto& [number, reason] : reading->skipped) {
-        _log(utf16FromUtf8(fileName + ": line " + std::to_string(number) + " left out: " + reason));
+        std::string line = fileName;
+        line.append(": line ").append(std::to_string(number)).append(" left out: ").append(reason);
+        _log(utf16FromUtf8(line));
     }
 }
 

@@ -102,6 +102,7 @@ const std::vector<std::u16string>& allHexColorListNames()
 {
     static const std::vector<std::u16string> names = [] {
         std::vector<std::u16string> result;
+        result.reserve(namedTokens.size());
         for (const NamedToken& row : namedTokens)
             result.emplace_back(row.name);
         return result;

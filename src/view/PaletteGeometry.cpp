@@ -52,7 +52,8 @@ PaletteGrid paletteGrid(std::size_t count, HostSize rect)
 HostRect paletteSwatchRect(const PaletteGrid& grid, std::size_t index, double rectHeight)
 {
     const auto column = static_cast<double>(index % grid.across);
-    const auto row = static_cast<double>(index / grid.across);
+    const std::uint64_t wholeRows = index / grid.across;
+    const auto row = static_cast<double>(wholeRows);
     return {grid.swatch.width * column + drawingOffset,
             rectHeight - row * grid.swatch.height - grid.swatch.height + drawingOffset,
             grid.swatch.width, grid.swatch.height};
