@@ -18,8 +18,9 @@ constexpr int failure = 1;
 
 void print(std::FILE* stream, const QString& text)
 {
-    std::fputs(text.toUtf8().constData(), stream);
-    std::fflush(stream);
+    // There is nowhere to tell that a standard stream is closed.
+    static_cast<void>(std::fputs(text.toUtf8().constData(), stream));
+    static_cast<void>(std::fflush(stream));
 }
 
 bool hasDisplay()

@@ -53,7 +53,7 @@ QFont fontOfSize(double points)
 QPalette paletteOnLightGround()
 {
     constexpr int darkGround = 128;
-    const QPalette themes = QApplication::palette();
+    QPalette themes = QApplication::palette();
     if (themes.color(QPalette::Window).lightness() >= darkGround) return themes;
     const QColor ground(241, 241, 245);
     QPalette palette(ground, ground);  // derives the other roles

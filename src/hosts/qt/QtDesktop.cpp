@@ -68,7 +68,8 @@ void QtDesktop::beep()
 void QtDesktop::log(const std::u16string& line)
 {
     const std::string text = utf8FromUtf16(line) + "\n";
-    std::fputs(text.c_str(), stderr);
+    // There is nowhere to tell that standard error is closed.
+    static_cast<void>(std::fputs(text.c_str(), stderr));
 }
 
 }  // namespace vantorel
