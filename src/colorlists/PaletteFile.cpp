@@ -84,12 +84,12 @@ bool readByte(std::string_view& line, int& byte)
 }
 
 /// What stands behind the numbers. Behind a tab, which our own writer puts there, the name is taken
-/// to the letter.
+/// to the letter; more tabs, which some put there to align the names, are none of it.
 std::u16string rowName(std::string_view rest)
 {
     const std::size_t start = rest.find_first_not_of(' ');
     if (start != std::string_view::npos && rest[start] == '\t') {
-        return decoded(rest.substr(start + 1));
+        return decoded(rest.substr(std::min(rest.find_first_not_of('\t', start), rest.size())));
     }
     return decoded(trimmed(rest));
 }
@@ -163,8 +163,10 @@ std::optional<PaletteReading> readPalette(std::string_view bytes,
             colors.add(HostColor::colorWithCalibratedRed(rgb[0] / 255.0, rgb[1] / 255.0,
                                                          rgb[2] / 255.0, 1.0),
                        rowName(rest));
-        } else {
+        } else if (reading.skipped.size() < PaletteReading::mostSkippedLines) {
             reading.skipped.push_back({lines.number(), "not three numbers from 0 to 255"});
+        } else {
+            ++reading.furtherSkippedLines;
         }
     }
     return reading;

@@ -19,7 +19,11 @@ struct PaletteReading {
         std::size_t number;
         std::string reason;
     };
+    /// A file that is no text can have millions of such lines; only the first are told apart.
+    static constexpr std::size_t mostSkippedLines = 100;
     std::vector<SkippedLine> skipped;
+    /// How many more were passed over.
+    std::size_t furtherSkippedLines = 0;
 };
 
 /// Reads a palette of GIMP's form, or of KDE's, which begins with `KDE RGB Palette`. Takes what

@@ -87,20 +87,25 @@ void PaletteFileStore::load(const std::string& fileName, File& file)
         line.append(": line ").append(std::to_string(number)).append(" left out: ").append(reason);
         _log(utf16FromUtf8(line));
     }
+    if (reading->furtherSkippedLines > 0) {
+        std::string line = fileName;
+        line.append(": ").append(std::to_string(reading->furtherSkippedLines));
+        _log(utf16FromUtf8(line.append(" more lines left out")));
+    }
 }
 
-bool PaletteFileStore::refresh(const std::string& fileName, File& file)
+void PaletteFileStore::refresh(const std::string& fileName, File& file)
 {
     const std::string path = *folder() + "/" + fileName;
     const std::uint64_t version = _hostFiles.versionAtPath(path);
-    if (version == file.version) return version != 0;
+    if (version == file.version) return;
+    file = {};
     file.version = version;
-    file.list.reset();
     const auto bytes = _hostFiles.contentsAtPath(path);
-    const auto name = bytes ? paletteName(*bytes, baseName(fileName)) : std::nullopt;
-    if (!name) return false;
-    file.listName = *name;
-    return true;
+    auto name = bytes ? paletteName(*bytes, baseName(fileName)) : std::nullopt;
+    if (!name) return;
+    file.isPalette = true;
+    file.listName = std::move(*name);
 }
 
 void PaletteFileStore::lookAgain()
@@ -123,7 +128,8 @@ void PaletteFileStore::lookAgain()
         _files = std::move(found);
     }
     for (auto entry = _files.begin(); entry != _files.end();) {
-        entry = refresh(entry->first, entry->second) ? std::next(entry) : _files.erase(entry);
+        refresh(entry->first, entry->second);
+        entry = entry->second.version != 0 ? std::next(entry) : _files.erase(entry);
     }
 }
 
@@ -139,18 +145,13 @@ std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16st
         found = _files.try_emplace(fileName).first;
         _folderVersion = 0;  // the other files have not been looked at
     }
-    if (found != _files.end()) {
-        if (!refresh(found->first, found->second)) {
-            _files.erase(found);
-            found = _files.end();
-        } else if (found->second.listName != name) {
-            found = _files.end();
-        }
-    }
-    if (found == _files.end()) {
+    const auto isTheList = [&](const auto& entry) {
+        return entry.second.isPalette && entry.second.listName == name;
+    };
+    if (found != _files.end()) refresh(found->first, found->second);
+    if (found == _files.end() || !isTheList(*found)) {
         lookAgain();
-        found = std::find_if(_files.begin(), _files.end(),
-                             [&](const auto& entry) { return entry.second.listName == name; });
+        found = std::find_if(_files.begin(), _files.end(), isTheList);
         if (found == _files.end()) return nullptr;
     }
     if (!found->second.list) load(found->first, found->second);
@@ -161,9 +162,38 @@ std::vector<std::u16string> PaletteFileStore::availableColorLists()
 {
     lookAgain();
     std::set<std::u16string> names;
-    for (const auto& [fileName, file] : _files)
-        names.insert(file.listName);
+    for (const auto& [fileName, file] : _files) {
+        if (file.isPalette) names.insert(file.listName);
+    }
     return {names.begin(), names.end()};
+}
+
+std::string PaletteFileStore::fileNameForSaving(const std::u16string& name)
+{
+    lookAgain();
+    const std::string usual = fileNameOfList(name);
+    // A name can hold more than a file tells; what counts is how it would be read there.
+    const auto nameInFile = [&](const std::string& fileName) {
+        return paletteName(paletteText(HostColorList(name)), baseName(fileName));
+    };
+    const auto holdsTheList = [&](const auto& entry) {
+        return entry.second.isPalette &&
+               (entry.second.listName == name || entry.second.listName == nameInFile(entry.first));
+    };
+    const auto atUsual = _files.find(usual);
+    if (atUsual != _files.end() && holdsTheList(*atUsual)) return usual;
+    const auto elsewhere = std::find_if(_files.begin(), _files.end(), [&](const auto& entry) {
+        return entry.second.isPalette && entry.second.listName == name;
+    });
+    if (elsewhere != _files.end()) return elsewhere->first;
+
+    std::string fileName = usual;
+    for (int number = 2; _hostFiles.kindAtPath(*folder() + "/" + fileName) != HostFileKind::none;
+         ++number) {
+        fileName = usual.substr(0, usual.size() - fileEnding.size());
+        fileName.append(" ").append(std::to_string(number)).append(fileEnding);
+    }
+    return fileName;
 }
 
 bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list)
@@ -174,11 +204,12 @@ bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list
     for (const std::string& needed : {*support + settingsFolder, *path}) {
         if (_hostFiles.kindAtPath(needed) == HostFileKind::none) _hostFiles.createDirectory(needed);
     }
-    const std::string fileName = fileNameOfList(list->name());
+    const std::string fileName = fileNameForSaving(list->name());
     if (!_hostFiles.writeAtomically(*path + "/" + fileName, paletteText(*list))) return false;
     // The list in hand goes on being the installed one: it may hold more than the file can.
     File& file = _files[fileName];
     file.version = _hostFiles.versionAtPath(*path + "/" + fileName);
+    file.isPalette = true;
     file.listName = list->name();
     file.list = list;
     return true;

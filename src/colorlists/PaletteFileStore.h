@@ -24,6 +24,8 @@ public:
     [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(
         const std::u16string& name) override;
     [[nodiscard]] std::vector<std::u16string> availableColorLists() override;
+    /// Into the file that holds the list of that name, else into a new one: a file that holds
+    /// anything else, even one that cannot be read, is somebody's work and stays.
     bool writeColorList(const std::shared_ptr<HostColorList>& list) override;
 
     /// The file of a list by its name: no name leads out of the folder, into a hidden file, or
@@ -33,6 +35,8 @@ public:
 private:
     struct File {
         std::uint64_t version = 0;
+        /// Files that are none are kept in mind, too: they may be repaired in their place.
+        bool isPalette = false;
         std::u16string listName;
         std::shared_ptr<HostColorList> list;  ///< null until somebody has asked for it
     };
@@ -40,9 +44,10 @@ private:
     [[nodiscard]] std::optional<std::string> folder() const;
     /// Brings `_files` in step with the folder.
     void lookAgain();
-    /// Looks at one file again if it has changed; false when it is no palette any more.
-    bool refresh(const std::string& fileName, File& file);
+    /// Looks at one file again if it has changed.
+    void refresh(const std::string& fileName, File& file);
     void load(const std::string& fileName, File& file);
+    [[nodiscard]] std::string fileNameForSaving(const std::u16string& name);
 
     HostFiles& _hostFiles;
     Log _log;

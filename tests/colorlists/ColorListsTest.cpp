@@ -88,6 +88,53 @@ TEST_F(BuiltInListsTest, ServeThisProcessWhenTheyCannotBeSaved)
     EXPECT_TRUE(_store.availableColorLists().empty());
 }
 
+TEST_F(BuiltInListsTest, KeepTheirOwnSpellingsAndValues)
+{
+    checkAndInstallColorLists(_store);
+    struct Row {
+        int token;
+        const char16_t* key;
+        std::optional<std::uint32_t> rgb;
+    };
+    for (const auto& [token, key, rgb] :
+         {Row{13, u"orange", 0xFFA580}, Row{12, u"#FF0000", 0xFF0000}, Row{12, u"#ff0000", {}},
+          Row{14, u"orange", 0xFFA500}, Row{14, u"sliver", 0xC0C0C0}, Row{14, u"silver", {}},
+          Row{14, u"stealblue", 0x4682B4}, Row{14, u"steelblue", {}}, Row{14, u"gold", 0xFFFD00},
+          Row{14, u"darksalmon", 0xE99671}, Row{14, u"darkkhaki", 0xBDB76D},
+          Row{14, u"lightgray", 0xD3D3D3}, Row{14, u"lightgrey", {}}}) {
+        std::optional<HostColor> expected;
+        if (rgb) {
+            QTXHexColorSpec spec;
+            spec.setHexRed(*rgb >> 16, (*rgb >> 8) & 0xFF, *rgb & 0xFF);
+            expected = spec.colorHexColorSpec();
+        }
+        EXPECT_EQ(hexColorListWithToken(token)->colorWithKey(key), expected)
+            << utf8FromUtf16(key) << " of " << token;
+    }
+    EXPECT_EQ(hexColorListWithToken(12)->allKeys()[6], u"#FF0000");
+    EXPECT_EQ(hexColorListWithToken(13)->allKeys().back(), u"orange");
+    EXPECT_EQ(hexColorListWithToken(13), hexColorListWithToken(15));
+}
+
+TEST(HexColorListNamesTest, StandForTheirTokens)
+{
+    struct Row {
+        int token;
+        std::optional<std::u16string> name;
+    };
+    for (const auto& [token, name] :
+         {Row{11, {}}, Row{12, u"Browser Safe"}, Row{13, u"CSS Keyword"}, Row{14, u"SVG Keyword"},
+          Row{15, u"CSS Keyword"}, Row{16, {}}, Row{-1, {}}}) {
+        EXPECT_EQ(nameFromHexColorList(token), name) << token;
+    }
+    EXPECT_EQ(hexColorListFromString(u"Browser Safe"), 12);
+    EXPECT_EQ(hexColorListFromString(u"CSS Keyword"), 13);
+    EXPECT_EQ(hexColorListFromString(u"SVG Keyword"), 14);
+    for (const char16_t* unknown : {u"", u"browser safe", u"SVG Keyword ", u"any"}) {
+        EXPECT_EQ(hexColorListFromString(unknown), 13);
+    }
+}
+
 TEST_F(BuiltInListsTest, NoTokenHasAListBeforeItIsBuilt)
 {
     for (const int token : {11, 12, 13, 14, 15, 16})

@@ -2,8 +2,13 @@
 
 #include "colorlists/PaletteFile.h"
 #include "hosts/headless/MemoryFiles.h"
+#include "hosts/posix/PosixFiles.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 namespace vantorel {
 namespace {
@@ -117,6 +122,96 @@ TEST_F(PaletteFileStoreTest, AFailedWriteInstallsNothing)
     EXPECT_FALSE(_store.writeColorList(listNamed(u"Mine")));
     EXPECT_FALSE(_store.writeColorList(nullptr));
     EXPECT_EQ(_store.colorListNamed(u"Mine"), nullptr);
+}
+
+TEST_F(PaletteFileStoreTest, AFileThatHoldsAnotherListIsNeverOverwritten)
+{
+    const std::string mine = "GIMP Palette\nName: My own\n1 2 3 x\n";
+    for (const std::string& text : {mine, std::string("not a palette, but somebody's work")}) {
+        put("CSS Keyword.gpl", text);
+        const auto list = listNamed(u"CSS Keyword");
+        EXPECT_TRUE(_store.writeColorList(list));
+        EXPECT_EQ(_files.contentsAtPath(folder + "/CSS Keyword.gpl"), text);
+        EXPECT_EQ(_store.colorListNamed(u"CSS Keyword"), list);
+    }
+    PaletteFileStore nextProcess(_files);
+    ASSERT_NE(nextProcess.colorListNamed(u"CSS Keyword"), nullptr);
+    EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 2U) << "the second save found its file";
+}
+
+TEST_F(PaletteFileStoreTest, AListIsSavedInTheFileThatHoldsIt)
+{
+    put("other.gpl", "GIMP Palette\nName: Mine\n1 2 3 x\n");
+    EXPECT_TRUE(_store.writeColorList(listNamed(u"Mine")));
+    EXPECT_EQ(_files.contentsOfDirectory(folder), std::vector<std::string>{"other.gpl"});
+}
+
+TEST_F(PaletteFileStoreTest, SavingAgainInAnotherProcessMakesNoSecondFile)
+{
+    for (const std::u16string& name : {std::u16string(u"a\tb"), std::u16string(),
+                                       std::u16string(u" "), std::u16string(1, char16_t{0xD800})}) {
+        EXPECT_TRUE(PaletteFileStore(_files).writeColorList(listNamed(name)));
+        const auto files = _files.contentsOfDirectory(folder);
+        EXPECT_TRUE(PaletteFileStore(_files).writeColorList(listNamed(name)));
+        EXPECT_EQ(_files.contentsOfDirectory(folder), files);
+    }
+}
+
+TEST_F(PaletteFileStoreTest, AFloodOfBadLinesIsLoggedInPart)
+{
+    std::string text = "GIMP Palette\n1 2 3 x\n";
+    for (int i = 0; i < 5000; ++i)
+        text += "bad\n";
+    put("a.gpl", text);
+    ASSERT_NE(_store.colorListNamed(u"a"), nullptr);
+    EXPECT_LT(_log.size(), 200U);
+    EXPECT_NE(_log.back().find(u"4900 more"), std::u16string::npos);
+}
+
+/// The real disk, where another program may also write into a file in its place.
+class PaletteFileStoreOnDiskTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string path =
+            (std::filesystem::temp_directory_path() / "vantorel-test-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(path.data()), nullptr);
+        _base = path;
+        _palettes = path + "/Vantorel/Palettes";
+        std::filesystem::create_directories(_palettes);
+    }
+    void TearDown() override { std::filesystem::remove_all(_base); }
+
+    void writeInPlace(const std::string& name, const std::string& text) const
+    {
+        std::ofstream(_palettes + "/" + name) << text;
+    }
+
+    std::string _base;
+    std::string _palettes;
+};
+
+TEST_F(PaletteFileStoreOnDiskTest, AFileThatIsRepairedInItsPlaceIsSeenAtTheNextLook)
+{
+    writeInPlace("a.gpl", "damaged");
+    PosixFiles files(_base);
+    PaletteFileStore store(files);
+    EXPECT_TRUE(store.availableColorLists().empty());
+    writeInPlace("a.gpl", "GIMP Palette\nName: Repaired\n1 2 3 x\n");
+    EXPECT_EQ(store.availableColorLists(), (std::vector<std::u16string>{u"Repaired"}));
+    EXPECT_NE(store.colorListNamed(u"Repaired"), nullptr);
+}
+
+TEST_F(PaletteFileStoreOnDiskTest, AFileTooLargeForMemoryIsNoPalette)
+{
+    writeInPlace("huge.gpl", "GIMP Palette\n");
+    std::error_code error;
+    std::filesystem::resize_file(_palettes + "/huge.gpl", std::uintmax_t{1} << 43, error);
+    if (error) GTEST_SKIP() << "no sparse files here: " << error.message();
+    writeInPlace("a.gpl", "GIMP Palette\nName: a\n1 2 3 x\n");
+    PosixFiles files(_base);
+    PaletteFileStore store(files);
+    EXPECT_EQ(store.availableColorLists(), (std::vector<std::u16string>{u"a"}));
 }
 
 }  // namespace

@@ -54,6 +54,29 @@ TEST(PaletteFileTest, TakesWhatOtherProgramsWrite)
     EXPECT_EQ(reading->list->colorWithKey(u"one 2"), bytes(4, 5, 6));
 }
 
+TEST(PaletteFileTest, TabsThatAlignNamesAreNoPartOfThem)
+{
+    const auto reading = readPalette("GIMP Palette\n1 2 3\t\tone\n4\t5\t6\t\n7 8 9\t two \n", u"x");
+    ASSERT_TRUE(reading.has_value());
+    EXPECT_EQ(reading->list->allKeys(), (Keys{u"one", u"Untitled", u" two "}));
+}
+
+TEST(PaletteFileTest, EveryPrefixOfAFileGivesTheRowsThatAreInIt)
+{
+    const std::string text =
+        "\xEF\xBB\xBFGIMP Palette\r\nName: n\r\n# \xE9\r\n 10  20  30\tcaf\xC3\xA9\r\n40 50 60\n";
+    const std::size_t headEnd = text.find("Palette") + 7;
+    std::size_t colors = 0;
+    for (std::size_t length = 0; length <= text.size(); ++length) {
+        const auto reading = readPalette(std::string_view(text).substr(0, length), u"x");
+        ASSERT_EQ(reading.has_value(), length >= headEnd) << length;
+        if (!reading) continue;
+        EXPECT_GE(reading->list->allKeys().size(), colors) << length;
+        colors = reading->list->allKeys().size();
+    }
+    EXPECT_EQ(colors, 2U);
+}
+
 TEST(PaletteFileTest, PassesOverBadLinesAndTellsTheirNumbers)
 {
     const auto reading = readPalette(

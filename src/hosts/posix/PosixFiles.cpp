@@ -68,8 +68,9 @@ bool makeFolders(const std::string& path)
     return ::mkdir(path.c_str(), ownFolderMode) == 0 || errno == EEXIST;
 }
 
-/// The path itself, or where the link at it leads; a dangling link leads to where the file will be.
-std::string withLinksFollowed(std::string path)
+/// The path itself, or where the link at it leads; a dangling link leads to where the file will be,
+/// a circle of links nowhere.
+std::optional<std::string> withLinksFollowed(std::string path)
 {
     constexpr int mostLinks = 40;
     for (int i = 0; i < mostLinks; ++i) {
@@ -80,7 +81,7 @@ std::string withLinksFollowed(std::string path)
         if (next.front() != '/') next.insert(0, path, 0, path.rfind('/') + 1);
         path = std::move(next);
     }
-    return path;
+    return std::nullopt;
 }
 
 bool writeAll(int file, const std::string& bytes)
@@ -135,6 +136,9 @@ std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
     for (const auto part :
          {static_cast<std::uint64_t>(status.st_mtim.tv_sec),
           static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
+          // Also new permissions count, and an older file that takes the place.
+          static_cast<std::uint64_t>(status.st_ctim.tv_sec),
+          static_cast<std::uint64_t>(status.st_ctim.tv_nsec),
           static_cast<std::uint64_t>(status.st_ino), static_cast<std::uint64_t>(status.st_size)}) {
         version = (version ^ part) * 0x100000001b3U;
     }
@@ -163,7 +167,8 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
 {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
-    if (!file || ::fstat(file.value(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    if (!file || ::fstat(file.value(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        static_cast<std::uint64_t>(status.st_size) > largestFile) {
         return std::nullopt;
     }
     std::string bytes;
@@ -175,15 +180,18 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
         if (count < 0) return std::nullopt;
         if (count == 0) return bytes;
         bytes.append(buffer.data(), static_cast<std::size_t>(count));
+        // It may grow while it is read.
+        if (bytes.size() > largestFile) return std::nullopt;
     }
 }
 
 bool PosixFiles::writeAtomically(const std::string& path, const std::string& bytes)
 {
-    const std::string target = withLinksFollowed(path);
-    std::string temporary = target + ".XXXXXX";
+    const std::optional<std::string> target = withLinksFollowed(path);
+    if (!target) return false;
+    std::string temporary = *target + ".XXXXXX";
     struct stat replaced {};
-    const bool replaces = ::stat(target.c_str(), &replaced) == 0;
+    const bool replaces = ::stat(target->c_str(), &replaced) == 0;
     if (replaces && !S_ISREG(replaced.st_mode)) return false;
 
     const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
@@ -191,12 +199,12 @@ bool PosixFiles::writeAtomically(const std::string& path, const std::string& byt
     const bool written =
         ::fchmod(file.value(), replaces ? replaced.st_mode & 07777 : ownFileMode) == 0 &&
         writeAll(file.value(), bytes) && ::fsync(file.value()) == 0 &&
-        ::rename(temporary.c_str(), target.c_str()) == 0;
+        ::rename(temporary.c_str(), target->c_str()) == 0;
     if (!written) {
         ::unlink(temporary.c_str());
         return false;
     }
-    synchronizeFolder(target.substr(0, target.rfind('/')));
+    synchronizeFolder(target->substr(0, target->rfind('/')));
     return true;
 }
 

@@ -7,6 +7,10 @@ namespace vantorel {
 /// The files of the real disk. Folders and files that it makes are readable by the user alone.
 class PosixFiles final : public HostFiles {
 public:
+    /// In bytes. What a program reads whole at its start is small; a file beyond this is damaged,
+    /// and its size alone must not end the program.
+    static constexpr std::uint64_t largestFile = std::uint64_t{64} << 20;
+
     /// The user's data in `$XDG_DATA_HOME`, if that is an absolute path, else in `~/.local/share`
     /// (XDG Base Directory Specification).
     PosixFiles();
@@ -20,10 +24,11 @@ public:
     bool createDirectory(const std::string& path) override;
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(
         const std::string& path) const override;
-    /// Regular files only, so that it never waits for a pipe.
+    /// Regular files only, so that it never waits for a pipe, and none above `largestFile`.
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
     /// Through a new file in the same folder, which is synchronised with the disk and then renamed.
-    /// A file that is replaced hands its permissions on; a link is followed, and stays.
+    /// A file that is replaced hands its permissions on; a link is followed, and stays. Links that
+    /// lead in a circle are a failure.
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
 
 private:

@@ -1,9 +1,11 @@
 #include "hosts/posix/PosixFiles.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -74,6 +76,45 @@ TEST_F(PosixFilesTest, NothingIsLeftOfAWriteThatFails)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"place"});
 }
 
+TEST_F(PosixFilesTest, AFullDiskLeavesTheOldBytes)
+{
+    ASSERT_TRUE(_files.writeAtomically(inFolder("file"), "old"));
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    rlimit small = before;
+    small.rlim_cur = 4096;
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const bool written = _files.writeAtomically(inFolder("file"), std::string(100000, 'x'));
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_FALSE(written);
+    EXPECT_EQ(_files.contentsAtPath(inFolder("file")), "old");
+    EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"file"});
+}
+
+TEST_F(PosixFilesTest, LinksInACircleAreNotReplaced)
+{
+    fs::create_symlink("b", inFolder("a"));
+    fs::create_symlink("a", inFolder("b"));
+    EXPECT_FALSE(_files.writeAtomically(inFolder("a"), "text"));
+    EXPECT_TRUE(fs::is_symlink(inFolder("a")));
+    EXPECT_EQ(_files.kindAtPath(inFolder("a")), HostFileKind::none);
+    EXPECT_EQ(_files.contentsOfDirectory(_folder), (std::vector<std::string>{"a", "b"}));
+}
+
+TEST_F(PosixFilesTest, AFileIsReadWholeUpToTheLargest)
+{
+    std::ofstream(inFolder("file")) << "x";
+    std::error_code error;
+    fs::resize_file(inFolder("file"), PosixFiles::largestFile, error);
+    if (error) GTEST_SKIP() << "no sparse files here: " << error.message();
+    const auto bytes = _files.contentsAtPath(inFolder("file"));
+    ASSERT_TRUE(bytes.has_value());
+    EXPECT_EQ(bytes->size(), PosixFiles::largestFile);
+    fs::resize_file(inFolder("file"), PosixFiles::largestFile + 1);
+    EXPECT_EQ(_files.contentsAtPath(inFolder("file")), std::nullopt);
+}
+
 TEST_F(PosixFilesTest, APipeIsNotWaitedFor)
 {
     ASSERT_EQ(::mkfifo(inFolder("pipe").c_str(), 0600), 0);
@@ -91,6 +132,13 @@ TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndTheFolder)
     _files.writeAtomically(inFolder("file"), "b");
     EXPECT_NE(_files.versionAtPath(inFolder("file")), first);
     EXPECT_NE(_files.versionAtPath(_folder), empty);
+
+    // Another file of the same age and size.
+    const auto second = _files.versionAtPath(inFolder("file"));
+    std::ofstream(inFolder("other")) << "c";
+    fs::last_write_time(inFolder("other"), fs::last_write_time(inFolder("file")));
+    fs::rename(inFolder("other"), inFolder("file"));
+    EXPECT_NE(_files.versionAtPath(inFolder("file")), second);
 }
 
 TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
