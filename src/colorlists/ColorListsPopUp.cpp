@@ -28,7 +28,7 @@ HostMenuItem itemWithAction(const std::u16string& title,
     return item;
 }
 
-HostMenuItem parentItem(const char16_t* title, HostMenu submenu)
+HostMenuItem parentItem(const char16_t* title, std::function<HostMenu()> submenu)
 {
     HostMenuItem item;
     item.title = title;
@@ -53,19 +53,25 @@ void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16stri
                           HostColorListStore& store, const ColorListsPopUpActions& actions)
 {
     popUp.removeAllItems();
-    HostMenu removeMenu;
-    HostMenu addMenu;
-    for (const std::u16string& name : activeLists) {
-        popUp.addItemWithTitle(name);
-        removeMenu.push_back(itemWithAction(name, actions.remove));
-    }
+    popUp.addItemsWithTitles(activeLists);
     popUp.addItem(HostMenuItem::separatorItem());
-    if (activeLists.size() >= 2) popUp.addItem(parentItem(u"Remove", std::move(removeMenu)));
-    for (const std::u16string& name : store.availableColorLists()) {
-        if (contains(activeLists, name) || !allColorsAreSolid(store, name)) continue;
-        addMenu.push_back(itemWithAction(name, actions.add));
-    }
-    popUp.addItem(parentItem(u"Add", std::move(addMenu)));
+    const auto removeMenu = [activeLists, remove = actions.remove] {
+        HostMenu menu;
+        for (const std::u16string& name : activeLists)
+            menu.push_back(itemWithAction(name, remove));
+        return menu;
+    };
+    if (activeLists.size() >= 2) popUp.addItem(parentItem(u"Remove", removeMenu));
+    // Made when it opens: to tell what can be added, every installed list must be read.
+    const auto addMenu = [activeLists, &store, add = actions.add] {
+        HostMenu menu;
+        for (const std::u16string& name : store.availableColorLists()) {
+            if (contains(activeLists, name) || !allColorsAreSolid(store, name)) continue;
+            menu.push_back(itemWithAction(name, add));
+        }
+        return menu;
+    };
+    popUp.addItem(parentItem(u"Add", addMenu));
 }
 
 std::u16string namingListAfterRemoval(const std::u16string& removed,

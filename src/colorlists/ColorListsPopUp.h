@@ -20,7 +20,8 @@ struct ColorListsPopUpActions {
 [[nodiscard]] bool allColorsAreSolid(HostColorListStore& store, const std::u16string& name);
 
 /// Fills the pop-up anew: the active lists, whether or not they are installed; a separator;
-/// "Remove" when two or more are active; "Add" with the other installed lists of solid colours.
+/// "Remove" when two or more are active; "Add" with the other installed lists of solid colours, as
+/// they are when the submenu is looked at. `store` must outlive the pop-up's items.
 void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16string>& activeLists,
                           HostColorListStore& store, const ColorListsPopUpActions& actions);
 

@@ -1,10 +1,25 @@
 #include "colorlists/ColorNamesPopUp.h"
 
+#include <unordered_map>
+
 namespace vantorel {
 namespace {
 
 constexpr HostSize swatchSize{22, 14};
 constexpr double swatchInset = 2;
+/// "No Match" and the separator stand above the keys.
+constexpr std::size_t itemsAboveKeys = 2;
+
+/// The first index of each title, as `indexOfItemWithTitle` finds it.
+std::unordered_map<std::u16string, int> indexesOfTitles(const HostMenu& menu)
+{
+    std::unordered_map<std::u16string, int> indexes;
+    indexes.reserve(menu.size());
+    for (std::size_t i = 0; i < menu.size(); ++i) {
+        if (!menu[i].separator) indexes.try_emplace(menu[i].title, static_cast<int>(i));
+    }
+    return indexes;
+}
 
 }  // namespace
 
@@ -39,45 +54,65 @@ std::u16string ColorNameMatch::closeTitle() const
     return title;
 }
 
-ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list)
+ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list,
+                              const ColorListIndex& index)
 {
     ColorNameMatch match;
-    const auto& keys = list.allKeys();
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        if (color.isEqualToColor(list.colorAtIndex(i))) {
-            match.exactKey = keys[i];
+    const std::vector<std::size_t> places = index.placesNear(color);
+    for (const std::size_t place : places) {
+        if (color.isEqualToColor(list.colorAtIndex(place))) {
+            match.exactPlace = place;
             return match;
         }
     }
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        if (color.isCloseToColor(list.colorAtIndex(i))) match.closeKeys.push_back(keys[i]);
-    }
+    match.closeKeys.reserve(places.size());
+    for (const std::size_t place : places)
+        match.closeKeys.push_back(list.allKeys()[place]);
     return match;
+}
+
+bool ColorNamesPopUpFiller::isFilledWith(const HostColorList& list) const
+{
+    return &list == _filledWith.get() && list.revision() == _revision && _inListOrder;
 }
 
 void ColorNamesPopUpFiller::fill(HostPopUpButton& popUp, const std::shared_ptr<HostColorList>& list)
 {
-    if (list && list == _filledWith && list->revision() == _revision && _inListOrder) {
+    if (list && isFilledWith(*list)) {
         popUp.setTitleOfItem(0, noMatchTitle);
         popUp.selectItemAtIndex(0);
         return;
     }
-    popUp.removeAllItems();
     _filledWith = list;
+    HostMenu menu;
     if (!list) {
-        popUp.addItemWithTitle(u"Empty");
+        menu.emplace_back().title = u"Empty";
+        popUp.setItems(std::move(menu));
         return;
     }
     _revision = list->revision();
     _inListOrder = true;
-    popUp.addItemWithTitle(noMatchTitle);
-    popUp.addItem(HostMenuItem::separatorItem());
     const auto& keys = list->allKeys();
+    menu.reserve(itemsAboveKeys + keys.size());
+    menu.emplace_back().title = noMatchTitle;
+    menu.push_back(HostMenuItem::separatorItem());
     for (std::size_t i = 0; i < keys.size(); ++i) {
-        HostMenuItem item;
+        HostMenuItem& item = menu.emplace_back();
         item.title = keys[i];
         item.image = swatchImage(list->colorAtIndex(i));
-        popUp.addItem(std::move(item));
+    }
+    popUp.setItems(std::move(menu));
+}
+
+void ColorNamesPopUpFiller::selectEntry(HostPopUpButton& popUp, const HostColorList& list,
+                                        std::size_t place) const
+{
+    const std::u16string& key = list.allKeys()[place];
+    // A search by title is a walk over all items, which a long list should not cost each time.
+    if (isFilledWith(list) && key != popUp.menu().front().title) {
+        popUp.selectItemAtIndex(static_cast<int>(itemsAboveKeys + place));
+    } else {
+        popUp.selectItemWithTitle(key);
     }
 }
 
@@ -85,17 +120,19 @@ void ColorNamesPopUpFiller::moveCloseEntriesUp(HostPopUpButton& popUp, const Hos
                                                const std::vector<std::u16string>& closeKeys)
 {
     if (closeKeys.empty() || list.allKeys().empty()) return;
-    const int first = popUp.indexOfItemWithTitle(list.allKeys().front());
-    if (first <= 0) return;
-    int insertion = first - 1;
+    const auto indexes = indexesOfTitles(popUp.menu());
+    const auto firstKey = indexes.find(list.allKeys().front());
+    if (firstKey == indexes.end() || firstKey->second == 0) return;
+    std::vector<int> moving;
     for (const std::u16string& key : closeKeys) {
-        const int index = popUp.indexOfItemWithTitle(key);
-        if (index <= first) continue;
-        if (auto item = popUp.takeItem(index)) {
-            popUp.insertItem(std::move(*item), insertion++);
-            _inListOrder = false;
+        const auto found = indexes.find(key);
+        if (found != indexes.end() && found->second > firstKey->second) {
+            moving.push_back(found->second);
         }
     }
+    if (moving.empty()) return;
+    popUp.moveItems(moving, firstKey->second - 1);
+    _inListOrder = false;
 }
 
 }  // namespace vantorel

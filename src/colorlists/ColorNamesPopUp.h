@@ -1,6 +1,7 @@
 #pragma once
 
 #include "color/QTXHexColorSpec.h"
+#include "colorlists/ColorListIndex.h"
 #include "host/HostColorList.h"
 #include "host/HostControls.h"
 
@@ -25,8 +26,8 @@ inline constexpr const char16_t* noMatchTitle = u"No Match";
 
 /// How a colour stands to the entries of a list.
 struct ColorNameMatch {
-    /// The key of the first entry that equals the colour.
-    std::optional<std::u16string> exactKey;
+    /// The place in the list of the first entry that equals the colour.
+    std::optional<std::size_t> exactPlace;
     /// Where none does: the keys of the entries close to it, in list order.
     std::vector<std::u16string> closeKeys;
 
@@ -34,8 +35,9 @@ struct ColorNameMatch {
     [[nodiscard]] std::u16string closeTitle() const;
 };
 
-[[nodiscard]] ColorNameMatch matchColorName(const QTXHexColorSpec& color,
-                                            const HostColorList& list);
+/// `index` must be up to date with the list.
+[[nodiscard]] ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list,
+                                            const ColorListIndex& index);
 
 /// Fills a name pop-up, and remembers with what, so that filling it again with the same list is
 /// free.
@@ -44,12 +46,18 @@ public:
     /// "No Match", a separator and the keys with their swatches; "Empty" alone for no list.
     void fill(HostPopUpButton& popUp, const std::shared_ptr<HostColorList>& list);
 
+    /// Selects the item of an entry: the first that has its key for a title.
+    void selectEntry(HostPopUpButton& popUp, const HostColorList& list, std::size_t place) const;
+
     /// Moves the entries of close colours up, under the first item and above the separator.
     /// An entry that is the list's first key stays where it is.
     void moveCloseEntriesUp(HostPopUpButton& popUp, const HostColorList& list,
                             const std::vector<std::u16string>& closeKeys);
 
 private:
+    /// Whether the pop-up holds exactly the items that the list calls for, in its order.
+    [[nodiscard]] bool isFilledWith(const HostColorList& list) const;
+
     std::shared_ptr<HostColorList> _filledWith;
     std::uint64_t _revision = 0;
     bool _inListOrder = false;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 
 /// What a user does.
 namespace vantorel {
@@ -41,23 +42,19 @@ std::vector<std::u16string> pathFrom(const Json& request)
 }
 
 /// The item that a path of titles leads to.
-const HostMenuItem& itemAtPath(const HostMenu& menu, const std::vector<std::u16string>& path)
+HostMenuItem itemAtPath(const HostMenu& menu, std::span<const std::u16string> path)
 {
-    const HostMenu* level = &menu;
-    const HostMenuItem* item = nullptr;
-    for (const std::u16string& title : path) {
-        if (level == nullptr) throw DriverError("an item on the path has no submenu");
-        const auto found = std::find_if(level->begin(), level->end(), [&](const HostMenuItem& i) {
-            return !i.separator && i.title == title;
-        });
-        if (found == level->end()) {
-            throw DriverError("no item is called \"" + utf8FromUtf16(title) + "\"");
-        }
-        item = &*found;
-        level = item->submenu ? &*item->submenu : nullptr;
+    const std::u16string& title = path.front();
+    const auto found = std::find_if(menu.begin(), menu.end(), [&](const HostMenuItem& item) {
+        return !item.separator && item.title == title;
+    });
+    if (found == menu.end()) {
+        throw DriverError("no item is called \"" + utf8FromUtf16(title) + "\"");
     }
-    if (item->submenu) throw DriverError("the parent of a submenu cannot be chosen");
-    return *item;
+    const bool isLast = path.size() == 1;
+    if (isLast && found->submenu) throw DriverError("the parent of a submenu cannot be chosen");
+    if (!isLast && !found->submenu) throw DriverError("an item on the path has no submenu");
+    return isLast ? *found : itemAtPath(found->submenu(), path.subspan(1));
 }
 
 HostEvent eventFrom(const Json& value)

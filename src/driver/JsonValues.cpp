@@ -172,7 +172,7 @@ Json jsonFromMenu(const HostMenu& menu)
         json.push_back({{"title", jsonFromText(item.title)},
                         {"separator", item.separator},
                         {"image", item.image ? jsonFromSize(item.image->size) : Json()},
-                        {"items", item.submenu ? jsonFromMenu(*item.submenu) : Json()}});
+                        {"items", item.submenu ? jsonFromMenu(item.submenu()) : Json()}});
     }
     return json;
 }

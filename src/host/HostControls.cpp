@@ -11,6 +11,13 @@ void HostPopUpButton::removeAllItems()
     menuDidChange();
 }
 
+void HostPopUpButton::setItems(HostMenu items)
+{
+    _menu = std::move(items);
+    _selected = _menu.empty() ? noItem : 0;
+    menuDidChange();
+}
+
 void HostPopUpButton::addItem(HostMenuItem item)
 {
     insertItem(std::move(item), numberOfItems());
@@ -60,6 +67,32 @@ void HostPopUpButton::setTitleOfItem(int index, const std::u16string& title)
 {
     if (!isItem(index)) return;
     _menu[static_cast<std::size_t>(index)].title = title;
+    menuDidChange();
+}
+
+void HostPopUpButton::moveItems(const std::vector<int>& indexes, int to)
+{
+    std::vector<bool> moves(_menu.size());
+    for (const int index : indexes)
+        moves[static_cast<std::size_t>(index)] = true;
+    // The new order, as old indexes.
+    std::vector<int> order;
+    order.reserve(_menu.size());
+    for (int index = 0; index < numberOfItems(); ++index) {
+        if (index == to) order.insert(order.end(), indexes.begin(), indexes.end());
+        if (!moves[static_cast<std::size_t>(index)]) order.push_back(index);
+    }
+    if (to >= numberOfItems()) order.insert(order.end(), indexes.begin(), indexes.end());
+
+    HostMenu menu;
+    menu.reserve(_menu.size());
+    for (const int index : order)
+        menu.push_back(std::move(_menu[static_cast<std::size_t>(index)]));
+    _menu = std::move(menu);
+    if (_selected != noItem) {
+        const auto found = std::find(order.begin(), order.end(), _selected);
+        _selected = static_cast<int>(found - order.begin());
+    }
     menuDidChange();
 }
 

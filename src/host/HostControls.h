@@ -95,6 +95,8 @@ public:
     static constexpr int noItem = -1;
 
     void removeAllItems();
+    /// Replaces all items; the first one, if there is one, becomes the selected one.
+    void setItems(HostMenu items);
     /// The first item put into an empty pop-up becomes the selected one.
     void addItem(HostMenuItem item);
     void addItemWithTitle(const std::u16string& title);
@@ -104,6 +106,10 @@ public:
     /// Nothing for an index out of range. Taking the selected item leaves nothing selected.
     std::optional<HostMenuItem> takeItem(int index);
     void setTitleOfItem(int index, const std::u16string& title);
+    /// Moves the items at `indexes`, each of which must be one and come once, in the order given to
+    /// where the item at `to` stands among the others. The selected item stays selected. Takes one
+    /// pass, however many move.
+    void moveItems(const std::vector<int>& indexes, int to);
 
     [[nodiscard]] const HostMenu& menu() const { return _menu; }
     [[nodiscard]] int numberOfItems() const { return static_cast<int>(_menu.size()); }

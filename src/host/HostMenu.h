@@ -17,8 +17,9 @@ struct HostMenuItem {
     std::u16string title;
     bool separator = false;
     std::optional<HostImage> image;
-    /// Only a parent has one; it may be empty.
-    std::optional<HostMenu> submenu;
+    /// Only a parent has one. It makes the items of the submenu, each time that they are looked at:
+    /// what costs something to find out is found out when the user opens it. There may be none.
+    std::function<HostMenu()> submenu;
     /// What choosing it does. Without one, the pop-up that holds it selects it and sends its
     /// action.
     std::function<void(const HostMenuItem&)> action;

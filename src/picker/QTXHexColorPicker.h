@@ -180,6 +180,7 @@ private:
     bool __holdOffDefaultsStore = true;
     std::u16string _noMatchString;
     ColorNamesPopUpFiller _colorNamesFiller;
+    ColorListIndex _namingIndex;
     std::vector<std::u16string> __holdCloseMatchColors;
 };
 

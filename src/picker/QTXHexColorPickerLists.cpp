@@ -38,11 +38,12 @@ void QTXHexColorPicker::syncListColor()
     const auto list = namingList();
     if (!list || list->allKeys().empty()) return;
 
-    const ColorNameMatch match = matchColorName(_hexColorSpec, *list);
+    _namingIndex.update(list);
+    const ColorNameMatch match = matchColorName(_hexColorSpec, *list, _namingIndex);
     _noMatchString = match.closeTitle();
     hexColorNamePopUp->setTitleOfItem(0, _noMatchString);
-    if (match.exactKey) {
-        hexColorNamePopUp->selectItemWithTitle(*match.exactKey);
+    if (match.exactPlace) {
+        _colorNamesFiller.selectEntry(*hexColorNamePopUp, *list, *match.exactPlace);
         return;
     }
     __holdCloseMatchColors = match.closeKeys;

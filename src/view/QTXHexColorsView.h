@@ -1,6 +1,7 @@
 #pragma once
 
 #include "color/QTXHexColorSpec.h"
+#include "colorlists/SortedColorKeys.h"
 #include "host/HostColorPanel.h"
 #include "host/HostControls.h"
 #include "view/PaletteGeometry.h"
@@ -106,7 +107,6 @@ private:
     void loadWorkColorSpecWithCell(const SliderCell& cell, std::uint64_t modifierFlags);
 
     [[nodiscard]] std::shared_ptr<HostColorList> paletteList() const;
-    void loadSortedPaletteColorKeys(const std::shared_ptr<HostColorList>& list);
     void setPaletteMatrixWithCount(std::size_t count, HostRect rect);
     [[nodiscard]] PaletteGrid currentPaletteGrid() const;
     void drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas);
@@ -137,10 +137,7 @@ private:
     std::uint64_t _nAcrossPaletteMode = 0;
     HostSize _swatchSizePaletteMode;
     /// Kept between drawings, because a click indexes it.
-    std::vector<std::u16string> __sortedPaletteColorKeys;
-    /// What the keys were sorted from, so that they are sorted again only when it changes.
-    std::shared_ptr<HostColorList> _sortedPaletteList;
-    std::uint64_t _sortedPaletteRevision = 0;
+    SortedColorKeys __sortedPaletteColorKeys;
 
     std::optional<std::u16string> _messageStr;
     float _messageAlpha = 0;

@@ -1,4 +1,3 @@
-#include "colorlists/ColorSort.h"
 #include "view/QTXHexColorsView.h"
 #include "view/ViewColors.h"
 
@@ -13,17 +12,6 @@ std::shared_ptr<HostColorList> QTXHexColorsView::paletteList() const
 {
     const auto& name = _hostHexColorPicker.hexSettings().hexColorList();
     return name ? panel().desktop().colorLists().colorListNamed(*name) : nullptr;
-}
-
-void QTXHexColorsView::loadSortedPaletteColorKeys(const std::shared_ptr<HostColorList>& list)
-{
-    if (_sortedPaletteList == list && _sortedPaletteRevision == list->revision()) return;
-    _sortedPaletteList = list;
-    _sortedPaletteRevision = list->revision();
-    __sortedPaletteColorKeys.clear();
-    for (const std::size_t index : sortedColorIndexes(*list)) {
-        __sortedPaletteColorKeys.push_back(list->allKeys()[index]);
-    }
 }
 
 void QTXHexColorsView::setPaletteMatrixWithCount(std::size_t count, HostRect rect)
@@ -46,7 +34,7 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
         drawHexSlidersWithRect(rect, canvas);
         return;
     }
-    loadSortedPaletteColorKeys(list);
+    __sortedPaletteColorKeys.update(list);
     const std::size_t count = __sortedPaletteColorKeys.size();
     setPaletteMatrixWithCount(count, rect);
     const PaletteGrid grid = currentPaletteGrid();
@@ -54,15 +42,14 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
     for (std::size_t i = 0; i < count; ++i) {
         __bPth.removeAllPoints();
         __bPth.appendBezierPathWithRect(paletteSwatchRect(grid, i, rect.height));
-        canvas.fill(__bPth, *list->colorWithKey(__sortedPaletteColorKeys[i]));
+        canvas.fill(__bPth, __sortedPaletteColorKeys.colorAtPosition(i));
     }
 
     const QTXHexColorSpec& current = _hostHexColorPicker.hexColorSpec();
     int closeMarks = 0;
-    for (std::size_t i = 0; i < count && closeMarks < mostCloseMarks; ++i) {
-        const auto color = list->colorWithKey(__sortedPaletteColorKeys[i]);
-        const bool equal = current.isEqualToColor(color);
-        if (!equal && !current.isCloseToColor(color)) continue;
+    for (const std::size_t i : __sortedPaletteColorKeys.positionsNear(current)) {
+        if (closeMarks == mostCloseMarks) break;
+        const bool equal = current.isEqualToColor(__sortedPaletteColorKeys.colorAtPosition(i));
         if (!equal) ++closeMarks;
         __bPth.removeAllPoints();
         __bPth.appendBezierPathWithRect(paletteSwatchRect(grid, i, rect.height));

@@ -50,6 +50,44 @@ TEST_F(HostPopUpButtonTest, TheSelectedItemStaysSelectedWhenOthersMove)
     EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
 }
 
+TEST_F(HostPopUpButtonTest, ManyItemsMoveInOnePass)
+{
+    struct Row {
+        std::vector<int> indexes;
+        int to;
+        std::u16string order;
+    };
+    for (const auto& [indexes, to, order] : {
+             Row{{}, 1, u"abcde"},
+             Row{{3, 2}, 1, u"adcbe"},
+             Row{{0}, 5, u"bcdea"},
+             Row{{4, 0}, 2, u"beacd"},
+             Row{{2}, 2, u"abcde"},
+         }) {
+        _popUp.setItems({});
+        _popUp.addItemsWithTitles({u"a", u"b", u"c", u"d", u"e"});
+        _popUp.selectItemAtIndex(3);
+        _popUp.moveItems(indexes, to);
+        std::u16string titles;
+        for (const HostMenuItem& item : _popUp.menu())
+            titles += item.title;
+        EXPECT_EQ(titles, order);
+        EXPECT_EQ(_popUp.titleOfSelectedItem(), u"d");
+    }
+}
+
+TEST_F(HostPopUpButtonTest, NewItemsAtOnceSelectTheFirst)
+{
+    _popUp.addItemsWithTitles({u"a", u"b"});
+    _popUp.selectItemAtIndex(1);
+    HostMenu items(2);
+    items[0].title = u"c";
+    _popUp.setItems(items);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"c");
+    _popUp.setItems({});
+    EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
+}
+
 TEST_F(HostPopUpButtonTest, TheNoticeMayEndItself)
 {
     int notices = 0;

@@ -33,9 +33,9 @@ HostColor hostColorFrom(const QColor& color)
                                              fraction(words.blue()), fraction(words.alpha()));
 }
 
-QString qStringFrom(const std::u16string& text)
+QString qStringFrom(std::u16string_view text)
 {
-    return QString::fromStdU16String(text);
+    return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
 }
 
 std::u16string u16From(const QString& text)

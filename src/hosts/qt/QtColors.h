@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// Between the core's values and Qt's.
 namespace vantorel {
@@ -18,7 +19,7 @@ namespace vantorel {
 [[nodiscard]] QColor qColorFrom(const HostColor& color);
 [[nodiscard]] HostColor hostColorFrom(const QColor& color);
 
-[[nodiscard]] QString qStringFrom(const std::u16string& text);
+[[nodiscard]] QString qStringFrom(std::u16string_view text);
 [[nodiscard]] std::u16string u16From(const QString& text);
 
 /// The desktop's sans-serif face; a point of the core is a device-independent pixel.

@@ -2,13 +2,16 @@
 
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtItemList.h"
+#include "hosts/qt/QtMenu.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+
+#include <algorithm>
 
 namespace vantorel {
 namespace {
@@ -169,57 +172,30 @@ void QtPopUpButton::chooseItem(int index)
     sendAction();
 }
 
-namespace {
-
-/// Fills a menu with items. `choose` gets the item and its place for those of this level.
-void fillMenu(QMenu& target, const HostMenu& items, int selected,
-              const std::function<void(const HostMenuItem&, int)>& choose)
+void QtPopUpButton::chooseOpened(const HostMenuItem& item, int index)
 {
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const HostMenuItem& item = items[i];
-        const int index = static_cast<int>(i);
-        // "&" would make a mnemonic of the letter behind it.
-        const QString title = qStringFrom(item.title).replace(u'&', QStringLiteral("&&"));
-        if (item.separator) {
-            target.addSeparator();
-        } else if (item.submenu) {
-            QMenu* submenu = target.addMenu(title);
-            submenu->setEnabled(!item.submenu->empty());
-            fillMenu(*submenu, *item.submenu, HostPopUpButton::noItem,
-                     [](const HostMenuItem& chosen, int) {
-                         if (chosen.action) chosen.action(chosen);
-                     });
-        } else {
-            QAction* action = target.addAction(title);
-            if (item.image) action->setIcon(pixmapOfImage(*item.image, target.devicePixelRatioF()));
-            if (index == selected) {
-                action->setCheckable(true);
-                action->setChecked(true);
-            }
-            QObject::connect(action, &QAction::triggered, &target,
-                             [item, index, choose] { choose(item, index); });
-        }
-    }
+    // The items may have changed while they were on show.
+    const bool unchanged =
+        index < numberOfItems() && menu()[static_cast<std::size_t>(index)].title == item.title;
+    chooseItem(unchanged ? index : indexOfItemWithTitle(item.title));
 }
-
-}  // namespace
 
 void QtPopUpButton::openMenu()
 {
     sendWillPopUp();
     QWidget* shown = widget();
-    auto* popUp = new QMenu(shown);
-    popUp->setAttribute(Qt::WA_DeleteOnClose);
-    popUp->setFont(shown->font());
-    fillMenu(*popUp, menu(), indexOfSelectedItem(),
-             [this](const HostMenuItem&, int index) { chooseItem(index); });
-    const qsizetype selected = indexOfSelectedItem();
-    QAction* active = selected >= 0 && selected < popUp->actions().size()
-                          ? popUp->actions().at(selected)
-                          : nullptr;
-    popUp->setMinimumWidth(shown->width());
-    popUp->popup(shown->mapToGlobal(QPoint(0, shown->height())), nullptr);
-    if (active != nullptr) popUp->setActiveAction(active);
+    const auto choose = [this](const HostMenuItem& item, int index) { chooseOpened(item, index); };
+    const bool hasSubmenus =
+        std::any_of(menu().begin(), menu().end(),
+                    [](const HostMenuItem& item) { return item.submenu != nullptr; });
+    if (hasSubmenus) {
+        QMenu* opened = makeMenu(menu(), indexOfSelectedItem(), *shown, choose);
+        opened->setMinimumWidth(shown->width());
+        opened->popup(shown->mapToGlobal(QPoint(0, shown->height())));
+    } else {
+        auto* opened = new QtItemList(menu(), indexOfSelectedItem(), *shown, choose);
+        opened->openBeside(QRect(shown->mapToGlobal(QPoint(0, 0)), shown->size()));
+    }
 }
 
 }  // namespace vantorel

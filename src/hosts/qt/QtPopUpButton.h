@@ -5,9 +5,9 @@
 
 namespace vantorel {
 
-/// A pop-up that looks like a combo box and opens a menu, which may have submenus. The menu is
-/// built when it opens. Keyboard: Space, Return or Alt+Down opens it, Up and Down choose the
-/// neighbour, letters choose the next item that begins so.
+/// A pop-up that looks like a combo box. It opens a list, or a menu where items have submenus,
+/// which is made when it opens. Keyboard: Space, Return or Alt+Down opens it, Up and Down choose
+/// the neighbour, letters choose the next item that begins so.
 class QtPopUpButton final : public QtMirrored<HostPopUpButton> {
 public:
     explicit QtPopUpButton(const HostControlDescription& description);
@@ -22,6 +22,8 @@ protected:
 
 private:
     class Widget;
+
+    void chooseOpened(const HostMenuItem& item, int index);
 };
 
 }  // namespace vantorel

@@ -102,7 +102,7 @@ protected:
             _added = item.title;
             _popUp.removeAllItems();  // as an action that rebuilds the menu does
         };
-        parent.submenu = HostMenu{child};
+        parent.submenu = [child] { return HostMenu{child}; };
         _popUp.addItem(parent);
         _popUp.widget()->show();
     }
@@ -138,11 +138,38 @@ TEST_F(QtPopUpButtonTest, AnItemOfASubmenuRunsItsOwnAction)
 {
     QTest::keyClick(_popUp.widget(), Qt::Key_Space);
     ASSERT_NE(openMenu(), nullptr);
-    QAction* child = openMenu()->actions().back()->menu()->actions().front();
+    QMenu* submenu = openMenu()->actions().back()->menu();
+    EXPECT_TRUE(submenu->isEmpty()) << "it is made when it opens";
+    submenu->popup(QPoint());
+    QAction* child = submenu->actions().front();
     EXPECT_EQ(child->text(), "R&&B");
     child->trigger();
     EXPECT_EQ(_added, u"R&B");
     EXPECT_EQ(_actions, 0);
+}
+
+TEST_F(QtPopUpButtonTest, LettersFindAnItemOfTheMenu)
+{
+    QTest::keyClick(_popUp.widget(), Qt::Key_Space);
+    ASSERT_NE(openMenu(), nullptr);
+    QTest::keyClicks(openMenu(), "cs");
+    QTest::keyClick(openMenu(), Qt::Key_Return);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
+    EXPECT_EQ(_actions, 1);
+}
+
+TEST_F(QtPopUpButtonTest, AnEmptySubmenuSaysSo)
+{
+    HostMenu menu(1);
+    menu[0].title = u"Add";
+    menu[0].submenu = [] { return HostMenu(); };
+    _popUp.setItems(menu);
+    QTest::keyClick(_popUp.widget(), Qt::Key_Space);
+    ASSERT_NE(openMenu(), nullptr);
+    QMenu* submenu = openMenu()->actions().front()->menu();
+    submenu->popup(QPoint());
+    ASSERT_EQ(submenu->actions().size(), 1);
+    EXPECT_FALSE(submenu->actions().front()->isEnabled());
 }
 
 TEST_F(QtPopUpButtonTest, KeysChooseWithoutTheMenu)

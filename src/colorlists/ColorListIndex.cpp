@@ -1,0 +1,137 @@
+#include "colorlists/ColorListIndex.h"
+
+#include "color/ChannelConversion.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+
+namespace vantorel {
+namespace {
+
+/// How far apart the components of close colours are at the most. A cell is as wide, so what is
+/// close to a colour lies in its own cell or in a neighbour.
+constexpr int closeness = 16;
+constexpr int cellsAcross = 256 / closeness;
+constexpr std::size_t cellCount = std::size_t{cellsAcross} * cellsAcross * cellsAcross;
+
+using Steps = std::array<std::int16_t, 3>;
+
+std::size_t cellIndex(int red, int green, int blue)
+{
+    return static_cast<std::size_t>((red * cellsAcross + green) * cellsAcross + blue);
+}
+
+std::size_t cellOf(const Steps& steps)
+{
+    return cellIndex(steps[0] / closeness, steps[1] / closeness, steps[2] / closeness);
+}
+
+/// Nothing for a colour outside the cube.
+std::optional<Steps> stepsOf(const HostColor::Components& rgb)
+{
+    Steps steps{};
+    const std::array<double, 3> channels{rgb.red, rgb.green, rgb.blue};
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        const std::int64_t value = truncatedSigned(channels[i] * 255);
+        if (value < 0 || value > 255) return std::nullopt;
+        steps[i] = static_cast<std::int16_t>(value);
+    }
+    return steps;
+}
+
+bool onGrid(const QTXHexColorSpec& color)
+{
+    return color.redHexComp() <= 255 && color.greenHexComp() <= 255 && color.blueHexComp() <= 255;
+}
+
+}  // namespace
+
+void ColorListIndex::clear()
+{
+    _entries.clear();
+    _cellStarts.assign(cellCount + 1, 0);
+    _outsideCube.clear();
+}
+
+void ColorListIndex::update(const std::shared_ptr<const HostColorList>& list)
+{
+    if (list == _list && (!list || list->revision() == _revision)) return;
+    clear();
+    _list = list;
+    if (!list) return;
+    _revision = list->revision();
+    std::vector<Entry> entries;
+    for (std::size_t place = 0; place < list->allKeys().size(); ++place) {
+        const auto rgb = list->colorAtIndex(place).calibratedRGB();
+        if (!rgb) continue;
+        if (const auto steps = stepsOf(*rgb)) {
+            entries.push_back({*steps, static_cast<std::uint32_t>(place)});
+        } else {
+            _outsideCube.push_back(place);
+        }
+    }
+    sortIntoCells(entries);
+}
+
+/// A counting sort.
+void ColorListIndex::sortIntoCells(const std::vector<Entry>& entries)
+{
+    for (const Entry& entry : entries)
+        ++_cellStarts[cellOf(entry.steps) + 1];
+    for (std::size_t cell = 0; cell < cellCount; ++cell)
+        _cellStarts[cell + 1] += _cellStarts[cell];
+    std::vector<std::uint32_t> next = _cellStarts;
+    _entries.resize(entries.size());
+    for (const Entry& entry : entries)
+        _entries[next[cellOf(entry.steps)]++] = entry;
+}
+
+void ColorListIndex::addPlacesInCells(const QTXHexColorSpec& color,
+                                      std::vector<std::size_t>& places) const
+{
+    const std::array<int, 3> wanted{static_cast<int>(color.redHexComp()),
+                                    static_cast<int>(color.greenHexComp()),
+                                    static_cast<int>(color.blueHexComp())};
+    const auto isClose = [&](const Entry& entry) {
+        return std::abs(entry.steps[0] - wanted[0]) <= closeness &&
+               std::abs(entry.steps[1] - wanted[1]) <= closeness &&
+               std::abs(entry.steps[2] - wanted[2]) <= closeness;
+    };
+    const auto firstCell = [&](std::size_t i) { return std::max(wanted[i] / closeness - 1, 0); };
+    const auto lastCell = [&](std::size_t i) {
+        return std::min(wanted[i] / closeness + 1, cellsAcross - 1);
+    };
+    for (int red = firstCell(0); red <= lastCell(0); ++red) {
+        for (int green = firstCell(1); green <= lastCell(1); ++green) {
+            // Cells that differ in blue alone lie side by side.
+            const std::uint32_t begin = _cellStarts[cellIndex(red, green, firstCell(2))];
+            const std::uint32_t end = _cellStarts[cellIndex(red, green, lastCell(2)) + 1];
+            for (std::uint32_t i = begin; i < end; ++i) {
+                if (isClose(_entries[i])) places.push_back(_entries[i].place);
+            }
+        }
+    }
+}
+
+std::vector<std::size_t> ColorListIndex::placesNear(const QTXHexColorSpec& color) const
+{
+    std::vector<std::size_t> places;
+    if (!_list) return places;
+    const auto isNear = [&](std::size_t place) {
+        const HostColor& entry = _list->colorAtIndex(place);
+        return color.isEqualToColor(entry) || color.isCloseToColor(entry);
+    };
+    if (onGrid(color)) {
+        addPlacesInCells(color, places);
+        std::copy_if(_outsideCube.begin(), _outsideCube.end(), std::back_inserter(places), isNear);
+        std::sort(places.begin(), places.end());
+    } else {
+        for (std::size_t place = 0; place < _list->allKeys().size(); ++place) {
+            if (isNear(place)) places.push_back(place);
+        }
+    }
+    return places;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,254 @@
+#include "hosts/qt/QtItemList.h"
+
+#include "hosts/qt/QtCanvas.h"
+#include "hosts/qt/QtColors.h"
+
+#include <QAbstractListModel>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+constexpr int mostRowsOnShow = 24;
+constexpr int widestList = 420;
+constexpr int rowPadding = 3;
+constexpr int besideText = 16;
+constexpr int besideImage = 6;
+
+}  // namespace
+
+/// The items, read as the view asks for them.
+class QtItemList::Model final : public QAbstractListModel {
+public:
+    Model(HostMenu items, int selected, const QWidget& shownIn)
+        : _items(std::move(items)), _selected(selected), _shownIn(shownIn)
+    {
+    }
+
+    [[nodiscard]] const HostMenu& items() const { return _items; }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(_items.size());
+    }
+
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        if (!index.isValid() || item(index).separator) return Qt::NoItemFlags;
+        return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    }
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (!index.isValid()) return {};
+        const HostMenuItem& shown = item(index);
+        switch (role) {
+            case Qt::DisplayRole:
+                return qStringFrom(shown.title);
+            case Qt::AccessibleDescriptionRole:
+                return shown.separator ? QStringLiteral("separator") : QString();
+            case Qt::DecorationRole:
+                if (!shown.image) return {};
+                return pixmapOfImage(*shown.image, _shownIn.devicePixelRatioF());
+            case Qt::FontRole: {
+                if (index.row() != _selected) return {};
+                QFont font = _shownIn.font();
+                font.setBold(true);
+                return font;
+            }
+            default:
+                return {};
+        }
+    }
+
+private:
+    [[nodiscard]] const HostMenuItem& item(const QModelIndex& index) const
+    {
+        return _items[static_cast<std::size_t>(index.row())];
+    }
+
+    HostMenu _items;
+    int _selected;
+    const QWidget& _shownIn;
+};
+
+/// Rows as in a menu; a separator is a line across.
+class QtItemList::RowPainter final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        if (index.flags() != Qt::NoItemFlags) {
+            QStyledItemDelegate::paint(painter, option, index);
+            return;
+        }
+        painter->setPen(option.palette.color(QPalette::Mid));
+        const int y = option.rect.center().y();
+        painter->drawLine(option.rect.left() + rowPadding, y, option.rect.right() - rowPadding, y);
+    }
+
+    /// All rows are equal, so the view measures only one.
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex&) const override
+    {
+        const int height = std::max(option.fontMetrics.height(), option.decorationSize.height());
+        return {0, height + 2 * rowPadding};
+    }
+};
+
+QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent, Choice choose)
+    : QFrame(&parent, Qt::Popup),
+      _model(new Model(items, selected, *this)),
+      _view(new QListView(this)),
+      _choose(std::move(choose))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
+    setFont(parent.font());
+    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->addWidget(_view);
+
+    _model->setParent(this);
+    _view->setFont(font());
+    _view->setFrameShape(QFrame::NoFrame);
+    _view->setUniformItemSizes(true);
+    _view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    _view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    _view->setMouseTracking(true);
+    _view->setAccessibleName(parent.accessibleName());
+    _view->setTextElideMode(Qt::ElideRight);
+    const auto image = std::find_if(items.begin(), items.end(), [](const HostMenuItem& item) {
+        return item.image.has_value();
+    });
+    if (image != items.end()) {
+        _view->setIconSize(QSizeF(image->image->size.width, image->image->size.height).toSize());
+    }
+    _view->setItemDelegate(new RowPainter(_view));
+    _view->setModel(_model);
+    _view->installEventFilter(this);
+    _view->viewport()->installEventFilter(this);
+    setFocusProxy(_view);
+    const QModelIndex current = _model->index(std::max(selected, 0));
+    _view->setCurrentIndex(current);
+}
+
+int QtItemList::wantedWidth() const
+{
+    // To measure every title would take long for a long list; the longest few tell enough.
+    std::size_t longest = 0;
+    for (const HostMenuItem& item : _model->items())
+        longest = std::max(longest, std::min<std::size_t>(item.title.size(), widestList));
+    int width = 0;
+    int measured = 0;
+    for (const HostMenuItem& item : _model->items()) {
+        if (item.title.size() * 4 < longest * 3) continue;
+        const auto start = std::u16string_view(item.title).substr(0, widestList);
+        width = std::max(width, fontMetrics().horizontalAdvance(qStringFrom(start)));
+        if (++measured == 200 || width >= widestList) break;
+    }
+    const int imageWidth =
+        _view->iconSize().isValid() ? _view->iconSize().width() + besideImage : 0;
+    const int scrollBar = _view->verticalScrollBar()->sizeHint().width();
+    return std::min(width + imageWidth + besideText + scrollBar, widestList);
+}
+
+void QtItemList::openBeside(const QRect& button)
+{
+    const QScreen* screen = QGuiApplication::screenAt(button.center());
+    if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    const int rowHeight = std::max(_view->sizeHintForRow(0), 1);
+    const int wanted = rowHeight * std::min(_model->rowCount(), mostRowsOnShow) + 4;
+    const int below = room.bottom() - button.bottom();
+    const int above = button.top() - room.top();
+    const bool opensBelow = wanted <= below || below >= above;
+    const int height = std::min(wanted, std::max(opensBelow ? below : above, rowHeight));
+    const int width = std::max(wantedWidth(), button.width());
+    const int left =
+        std::clamp(button.left(), room.left(), std::max(room.left(), room.right() + 1 - width));
+    setGeometry(left, opensBelow ? button.bottom() + 1 : button.top() - height, width, height);
+    show();
+    _view->setFocus(Qt::PopupFocusReason);
+    _view->scrollTo(_view->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+void QtItemList::choose(const QModelIndex& row)
+{
+    if (!row.isValid() || row.flags() == Qt::NoItemFlags) return;
+    const HostMenuItem item = _model->items()[static_cast<std::size_t>(row.row())];
+    const Choice choice = _choose;
+    const int index = row.row();
+    close();
+    choice(item, index);
+}
+
+bool QtItemList::handleKey(int key)
+{
+    switch (key) {
+        case Qt::Key_Escape:
+            close();
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Select:
+            choose(_view->currentIndex());
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool QtItemList::handleMouse(QEvent* event)
+{
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const QModelIndex row = _view->indexAt(mouse->position().toPoint());
+    switch (event->type()) {
+        case QEvent::MouseMove:
+            if (_view->viewport()->rect().contains(mouse->position().toPoint())) {
+                _releaseChooses = true;
+                if (row.isValid() && row.flags() != Qt::NoItemFlags) _view->setCurrentIndex(row);
+            }
+            return true;
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            _releaseChooses = true;
+            return true;
+        default:
+            if (_releaseChooses && mouse->button() == Qt::LeftButton) choose(row);
+            return true;
+    }
+}
+
+bool QtItemList::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            if (handleKey(static_cast<QKeyEvent*>(event)->key())) return true;
+            break;
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+            if (watched == _view->viewport()) return handleMouse(event);
+            break;
+        default:
+            break;
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+}  // namespace vantorel

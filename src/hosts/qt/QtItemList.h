@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/HostMenu.h"
+
+#include <QFrame>
+#include <QListView>
+
+#include <functional>
+
+namespace vantorel {
+
+/// The items of a pop-up as a list that opens beside it and scrolls. It takes no longer to open for
+/// tens of thousands of items than for ten: only the rows on show are laid out and painted.
+///
+/// Keyboard: arrows, page keys, Home and End move; letters go to the next item that begins so;
+/// Return, Enter or Space choose; Escape closes. Mouse: a click, or a release after the press that
+/// opened it. The list ends itself when it closes.
+class QtItemList final : public QFrame {
+public:
+    using Choice = std::function<void(const HostMenuItem& item, int index)>;
+
+    /// No item may have a submenu. `choose` is called after the list has closed.
+    QtItemList(const HostMenu& items, int selected, QWidget& parent, Choice choose);
+
+    /// Opens below a rectangle of the screen, or above it where there is more room.
+    void openBeside(const QRect& button);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    class Model;
+    class RowPainter;
+
+    [[nodiscard]] int wantedWidth() const;
+    void choose(const QModelIndex& row);
+    bool handleKey(int key);
+    bool handleMouse(QEvent* event);
+
+    Model* _model;
+    QListView* _view;
+    Choice _choose;
+    /// Whether a release counts: not the one that belongs to the press which opened the list.
+    bool _releaseChooses = false;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,148 @@
+#include "colorlists/ColorListIndex.h"
+
+#include "colorlists/ColorSort.h"
+#include "colorlists/SortedColorKeys.h"
+#include "host/HostText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <random>
+
+namespace vantorel {
+namespace {
+
+std::u16string keyOfNumber(std::size_t number)
+{
+    const std::string digits = std::to_string(number);
+    return std::u16string(digits.begin(), digits.end());
+}
+
+/// Colours that crowd in the corners of the cube, where cells end, and outside it.
+class ColorSource {
+public:
+    HostColor next()
+    {
+        if (_random() % 50 == 0) return HostColor::patternColor();
+        const double red = channel();
+        const double green = channel();
+        return HostColor::colorWithCalibratedRed(red, green, channel(), 1);
+    }
+
+    QTXHexColorSpec nextSpec()
+    {
+        QTXHexColorSpec spec;
+        spec.setHexRed(component(), component(), component());
+        return spec;
+    }
+
+private:
+    double channel()
+    {
+        constexpr double beyond[] = {-0.5,
+                                     -0.001,
+                                     1.0001,
+                                     1.05,
+                                     300,
+                                     -1e300,
+                                     std::numeric_limits<double>::infinity(),
+                                     std::numeric_limits<double>::quiet_NaN()};
+        if (_random() % 20 == 0) return beyond[_random() % std::size(beyond)];
+        return static_cast<double>(component()) / 255.0 + (_random() % 2 == 0 ? 0 : 0.001);
+    }
+
+    std::uint64_t component()
+    {
+        if (_random() % 60 == 0) return 256 + _random() % 300;
+        constexpr std::uint64_t corners[] = {0, 15, 16, 17, 31, 32, 128, 239, 240, 255};
+        return _random() % 2 == 0 ? corners[_random() % std::size(corners)] : _random() % 256;
+    }
+
+    std::minstd_rand _random{7};
+};
+
+std::shared_ptr<HostColorList> listFrom(ColorSource& source, std::size_t count)
+{
+    auto list = std::make_shared<HostColorList>(u"list");
+    for (std::size_t i = 0; i < count; ++i)
+        list->setColor(source.next(), keyOfNumber(i));
+    return list;
+}
+
+std::vector<std::size_t> placesNearByWalking(const QTXHexColorSpec& color,
+                                             const HostColorList& list)
+{
+    std::vector<std::size_t> places;
+    for (std::size_t place = 0; place < list.allKeys().size(); ++place) {
+        const HostColor& entry = list.colorAtIndex(place);
+        if (color.isEqualToColor(entry) || color.isCloseToColor(entry)) places.push_back(place);
+    }
+    return places;
+}
+
+TEST(ColorListIndexTest, FindsWhatAWalkOverTheListFinds)
+{
+    ColorSource source;
+    std::size_t found = 0;
+    for (const std::size_t count : {0U, 1U, 17U, 3000U}) {
+        const auto list = listFrom(source, count);
+        ColorListIndex index;
+        index.update(list);
+        for (int i = 0; i < 500; ++i) {
+            const QTXHexColorSpec color = source.nextSpec();
+            const auto places = index.placesNear(color);
+            ASSERT_EQ(places, placesNearByWalking(color, *list))
+                << utf8FromUtf16(color.description());
+            found += places.size();
+        }
+    }
+    EXPECT_GT(found, 1000U) << "the colours must be near each other often enough to tell";
+}
+
+TEST(ColorListIndexTest, SeesThatTheListHasGrown)
+{
+    const auto list = std::make_shared<HostColorList>(u"list");
+    ColorListIndex index;
+    index.update(list);
+    EXPECT_TRUE(index.placesNear(QTXHexColorSpec()).empty());
+    list->setColor(HostColor::blackColor(), u"black");
+    index.update(list);
+    EXPECT_EQ(index.placesNear(QTXHexColorSpec()), std::vector<std::size_t>{0});
+    index.update(nullptr);
+    EXPECT_TRUE(index.placesNear(QTXHexColorSpec()).empty());
+}
+
+TEST(SortedColorKeysTest, AreInTheOrderOfThePalette)
+{
+    ColorSource source;
+    const auto list = listFrom(source, 500);
+    SortedColorKeys keys;
+    EXPECT_EQ(keys.size(), 0U);
+    keys.update(list);
+    ASSERT_EQ(keys.size(), 500U);
+    for (std::size_t i = 0; i + 1 < keys.size(); ++i)
+        EXPECT_LE(colorSortFunc(keys[i], keys[i + 1], *list), 0) << i;
+}
+
+TEST(SortedColorKeysTest, FindThePositionsOfNearColoursInTheirOrder)
+{
+    ColorSource source;
+    const auto list = listFrom(source, 500);
+    SortedColorKeys keys;
+    keys.update(list);
+    for (int i = 0; i < 200; ++i) {
+        const QTXHexColorSpec color = source.nextSpec();
+        std::vector<std::size_t> expected;
+        for (std::size_t position = 0; position < keys.size(); ++position) {
+            const HostColor& entry = keys.colorAtPosition(position);
+            if (color.isEqualToColor(entry) || color.isCloseToColor(entry)) {
+                expected.push_back(position);
+            }
+        }
+        ASSERT_EQ(keys.positionsNear(color), expected);
+    }
+}
+
+}  // namespace
+}  // namespace vantorel
