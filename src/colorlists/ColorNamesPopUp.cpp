@@ -1,5 +1,6 @@
 #include "colorlists/ColorNamesPopUp.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace vantorel {
@@ -45,30 +46,32 @@ std::optional<HostImage> menuImageWithColorList(const HostColorList& list,
     return swatchImage(*color);
 }
 
-std::u16string ColorNameMatch::closeTitle() const
-{
-    if (closeKeys.empty()) return noMatchTitle;
-    std::u16string title = u"* " + closeKeys.front();
-    for (std::size_t i = 1; i < closeKeys.size(); ++i)
-        title += u", " + closeKeys[i];
-    return title;
-}
-
 ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list,
                               const ColorListIndex& index)
 {
     ColorNameMatch match;
-    const std::vector<std::size_t> places = index.placesNear(color);
-    for (const std::size_t place : places) {
-        if (color.isEqualToColor(list.colorAtIndex(place))) {
-            match.exactPlace = place;
-            return match;
-        }
+    match.closePlaces = index.placesNear(color);
+    const auto equal = std::find_if(
+        match.closePlaces.begin(), match.closePlaces.end(),
+        [&](std::size_t place) { return color.isEqualToColor(list.colorAtIndex(place)); });
+    if (equal != match.closePlaces.end()) {
+        match.exactPlace = *equal;
+        match.closePlaces.clear();
     }
-    match.closeKeys.reserve(places.size());
-    for (const std::size_t place : places)
-        match.closeKeys.push_back(list.allKeys()[place]);
     return match;
+}
+
+std::u16string closeTitle(const std::vector<std::u16string>& closeKeys)
+{
+    if (closeKeys.empty()) return noMatchTitle;
+    std::size_t length = 0;
+    for (const std::u16string& key : closeKeys)
+        length += 2 + key.size();
+    std::u16string title;
+    title.reserve(length);
+    for (const std::u16string& key : closeKeys)
+        title.append(title.empty() ? u"* " : u", ").append(key);
+    return title;
 }
 
 bool ColorNamesPopUpFiller::isFilledWith(const HostColorList& list) const

@@ -28,16 +28,16 @@ inline constexpr const char16_t* noMatchTitle = u"No Match";
 struct ColorNameMatch {
     /// The place in the list of the first entry that equals the colour.
     std::optional<std::size_t> exactPlace;
-    /// Where none does: the keys of the entries close to it, in list order.
-    std::vector<std::u16string> closeKeys;
-
-    /// "* navy, teal", or "No Match" when no key is close.
-    [[nodiscard]] std::u16string closeTitle() const;
+    /// Where none does: the places of the entries close to it, in list order.
+    std::vector<std::size_t> closePlaces;
 };
 
 /// `index` must be up to date with the list.
 [[nodiscard]] ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list,
                                             const ColorListIndex& index);
+
+/// What the name pop-up's first item says: "* navy, teal", or "No Match" when no key is close.
+[[nodiscard]] std::u16string closeTitle(const std::vector<std::u16string>& closeKeys);
 
 /// Fills a name pop-up, and remembers with what, so that filling it again with the same list is
 /// free.

@@ -34,19 +34,24 @@ void QTXHexColorPicker::syncListColor()
 {
     if (hexColorNamePopUp == nullptr) return;
     hexColorNamePopUp->setWillPopUp({});
-    __holdCloseMatchColors.clear();
     const auto list = namingList();
-    if (!list || list->allKeys().empty()) return;
+    if (!list || list->allKeys().empty()) {
+        __holdCloseMatchColors.clear();
+        return;
+    }
 
     _namingIndex.update(list);
     const ColorNameMatch match = matchColorName(_hexColorSpec, *list, _namingIndex);
-    _noMatchString = match.closeTitle();
+    // Over the old keys: a long list has dozens of close ones, and a drag comes by here each step.
+    __holdCloseMatchColors.resize(match.closePlaces.size());
+    for (std::size_t i = 0; i < match.closePlaces.size(); ++i)
+        __holdCloseMatchColors[i] = list->allKeys()[match.closePlaces[i]];
+    _noMatchString = closeTitle(__holdCloseMatchColors);
     hexColorNamePopUp->setTitleOfItem(0, _noMatchString);
     if (match.exactPlace) {
         _colorNamesFiller.selectEntry(*hexColorNamePopUp, *list, *match.exactPlace);
         return;
     }
-    __holdCloseMatchColors = match.closeKeys;
     if (!__holdCloseMatchColors.empty()) {
         hexColorNamePopUp->setWillPopUp([this] { closeColorMenuPoppingUp(); });
     }
