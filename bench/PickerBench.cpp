@@ -1,3 +1,4 @@
+#include "BenchLists.h"
 #include "driver/DriverSession.h"
 #include "hosts/headless/MemoryFiles.h"
 #include "hosts/posix/PosixFiles.h"
@@ -11,20 +12,6 @@
 namespace {
 
 using namespace vantorel;
-
-std::shared_ptr<HostColorList> listOfSize(int count)
-{
-    auto list = std::make_shared<HostColorList>(u"Bench");
-    for (int i = 0; i < count; ++i) {
-        const std::string number = std::to_string(i);
-        // Spread over the cube, off the colours that are set below.
-        list->setColor(
-            HostColor::colorWithCalibratedRed(((i * 37) % 255) / 255.0, ((i * 101) % 255) / 255.0,
-                                              ((i * 7 + i / 255) % 255) / 255.0, 1),
-            u"name " + std::u16string(number.begin(), number.end()));
-    }
-    return list;
-}
 
 std::unique_ptr<DriverPanel> panelWithList(int count)
 {
@@ -68,6 +55,53 @@ void dragStep(benchmark::State& state)
     }
 }
 BENCHMARK(dragStep)->Arg(17)->Arg(216)->Arg(30000)->Unit(benchmark::kMicrosecond);
+
+/// Choosing the list: the name pop-up is filled anew, and the colour is matched.
+void chooseList(benchmark::State& state)
+{
+    const auto panel = panelWithList(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        panel->picker().hexSettings().setHexColorList(u"CSS Keyword");
+        panel->picker().syncPanel();
+        panel->picker().hexSettings().setHexColorList(u"Bench");
+        panel->picker().syncPanel();
+        panel->desktop().journal().clear();
+    }
+}
+BENCHMARK(chooseList)->Arg(17)->Arg(216)->Arg(30000)->Unit(benchmark::kMicrosecond);
+
+/// What happens before the name menu opens for a colour that is close to entries of the list.
+void openNameMenu(benchmark::State& state)
+{
+    const auto panel = panelWithList(static_cast<int>(state.range(0)));
+    auto& popUp =
+        *panel->desktop().interfaceFactory().control<HostPopUpButton>("hexColorNamePopUp");
+    int step = 0;
+    for (auto _ : state) {
+        panel->picker().setColor(colorOfStep(++step));
+        popUp.sendWillPopUp();
+        panel->desktop().journal().clear();
+    }
+}
+BENCHMARK(openNameMenu)->Arg(17)->Arg(216)->Arg(30000)->Unit(benchmark::kMicrosecond);
+
+/// A click in the wheel: the search for the cell, and what a colour change brings.
+void wheelClick(benchmark::State& state)
+{
+    const auto panel = panelWithList(17);
+    panel->picker().hexSettings().setPickViewMode(PickViewMode::wheel);
+    panel->picker().hexSettings().setNColorCubeRings(state.range(0));
+    HeadlessCustomView& view = *panel->customView("_hexColorsView");
+    const HostSize size = view.bounds().size();
+    int step = 0;
+    for (auto _ : state) {
+        const HostPoint at{size.width / 2 + ++step % 40, size.height / 2};
+        panel->panel().deliver(
+            {{HostEventType::leftMouseDown, at, 0}, {HostEventType::leftMouseUp, at, 0}}, view);
+        panel->desktop().journal().clear();
+    }
+}
+BENCHMARK(wheelClick)->ArgName("rings")->Arg(4)->Arg(8)->Arg(17)->Unit(benchmark::kMicrosecond);
 
 void drawRecorded(benchmark::State& state)
 {

@@ -1,5 +1,7 @@
+#include "BenchLists.h"
+#include "driver/DriverSession.h"
+#include "hosts/headless/MemoryFiles.h"
 #include "hosts/qt/QtCanvas.h"
-#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "view/SliderGeometry.h"
 #include "view/WheelGeometry.h"
@@ -10,83 +12,128 @@
 
 #include <benchmark/benchmark.h>
 
-/// Painting on Qt's raster canvas, beside the plain cost of the same shapes through QPainter.
+/// Drawing the colours view whole on Qt's raster canvas ("view" 1), beside the plain cost of
+/// filling as many shapes one by one through QPainter ("view" 0).
 namespace {
 
 using namespace vantorel;
 
-constexpr HostRect bounds{0, 0, 240, 194};
-
-QImage newImage()
-{
-    return {240, 194, QImage::Format_ARGB32_Premultiplied};
-}
-
-std::vector<HostRect> sliderCells()
-{
-    const HostRect matrix = sliderMatrixRect(bounds);
-    std::vector<HostRect> cells;
-    for (int component = 0; component < 3; ++component) {
-        for (int digit = 0; digit < 2; ++digit) {
-            for (int value = 0; value < 16; ++value) {
-                cells.push_back(
-                    sliderCellRect(matrix, sliderCellSize(matrix), {component, digit, value}));
-            }
-        }
+/// The picker with a list, in a mode; the view is drawn on an image of its size.
+class DrawnView {
+public:
+    DrawnView(PickViewMode mode, int listSize, int rings)
+    {
+        DriverPanel::Options options;
+        options.files = std::make_unique<MemoryFiles>();
+        options.lists.push_back(listOfSize(listSize));
+        _panel = std::make_unique<DriverPanel>(std::move(options));
+        QTXHexSettings& settings = _panel->picker().hexSettings();
+        settings.setHexColorList(u"Bench");
+        settings.setPickViewMode(mode);
+        settings.setNColorCubeRings(rings);
+        _panel->picker().syncPanel();
+        _image = QImage(static_cast<int>(bounds().width), static_cast<int>(bounds().height),
+                        QImage::Format_ARGB32_Premultiplied);
+        _painter.begin(&_image);
+        _painter.setPen(Qt::NoPen);
     }
-    return cells;
+
+    [[nodiscard]] HostRect bounds() { return view().bounds(); }
+    /// The rectangle that the modes draw in.
+    [[nodiscard]] HostSize modeSize() { return {bounds().width - 6, bounds().height - 9}; }
+    [[nodiscard]] QPainter& painter() { return _painter; }
+
+    void draw()
+    {
+        QtCanvas canvas(_painter, bounds());
+        _panel->picker().hexColorsView().drawRect(canvas);
+    }
+
+private:
+    [[nodiscard]] HeadlessCustomView& view() { return *_panel->customView("_hexColorsView"); }
+
+    std::unique_ptr<DriverPanel> _panel;
+    QImage _image;
+    QPainter _painter;
+};
+
+void fillRects(QPainter& painter, const std::vector<QRectF>& rects)
+{
+    int shade = 0;
+    for (const QRectF& rect : rects)
+        painter.fillRect(rect, QColor(++shade & 255, 100, 50));
 }
 
 void slider(benchmark::State& state)
 {
-    QImage image = newImage();
-    QPainter painter(&image);
-    QtCanvas canvas(painter, bounds);
-    const auto cells = sliderCells();
-    HostBezierPath path;
+    DrawnView view(PickViewMode::slider, 17, 8);
+    std::vector<QRectF> cells;
+    const HostRect matrix = sliderMatrixRect(view.bounds());
+    for (int cell = 0; cell < 96; ++cell) {
+        cells.push_back(widgetRect(
+            sliderCellRect(matrix, sliderCellSize(matrix), {cell / 32, cell / 16 % 2, cell % 16}),
+            view.bounds()));
+    }
     for (auto _ : state) {
-        for (const HostRect& cell : cells) {
-            if (state.range(0) == 0) {
-                painter.fillRect(widgetRect(cell, bounds), QColor(200, 100, 50));
-            } else {
-                path.removeAllPoints();
-                path.appendBezierPathWithRect(cell);
-                canvas.fill(path, HostColor::colorWithCalibratedRed(0.8, 0.4, 0.2, 1));
-            }
+        if (state.range(0) == 0) {
+            fillRects(view.painter(), cells);
+        } else {
+            view.draw();
         }
     }
 }
-BENCHMARK(slider)->ArgName("canvas")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(slider)->ArgName("view")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+void palette(benchmark::State& state)
+{
+    const auto count = static_cast<std::size_t>(state.range(1));
+    DrawnView view(PickViewMode::palette, static_cast<int>(count), 8);
+    const PaletteGrid grid = paletteGrid(count, view.modeSize());
+    std::vector<QRectF> swatches;
+    for (std::size_t i = 0; i < count; ++i) {
+        swatches.push_back(
+            widgetRect(paletteSwatchRect(grid, i, view.modeSize().height), view.bounds()));
+    }
+    for (auto _ : state) {
+        if (state.range(0) == 0) {
+            fillRects(view.painter(), swatches);
+        } else {
+            view.draw();
+        }
+    }
+}
+BENCHMARK(palette)
+    ->ArgNames({"view", "names"})
+    ->ArgsProduct({{0, 1}, {17}})
+    ->ArgsProduct({{0, 1}, {216}})
+    ->ArgsProduct({{0, 1}, {30000}})
+    ->Unit(benchmark::kMicrosecond);
 
 void wheel(benchmark::State& state)
 {
-    QImage image = newImage();
-    QPainter painter(&image);
-    painter.setPen(Qt::NoPen);
-    QtCanvas canvas(painter, bounds);
-    const auto cells = wheelCells(wheelPlace({234, 185}, 17));
-    HostBezierPath path;
+    const int rings = static_cast<int>(state.range(1));
+    DrawnView view(PickViewMode::wheel, 17, rings);
+    const auto cells = wheelCells(wheelPlace(view.modeSize(), rings));
     for (auto _ : state) {
+        if (state.range(0) == 1) {
+            view.draw();
+            continue;
+        }
         for (const WheelCell& cell : cells) {
-            const auto& [a, b, c] = cell.corners;
-            if (state.range(0) == 0) {
-                const QPointF corners[] = {widgetPoint(a, bounds), widgetPoint(b, bounds),
-                                           widgetPoint(c, bounds)};
-                painter.setBrush(QColor(cell.red, cell.green, cell.blue));
-                painter.drawPolygon(corners, 3, Qt::WindingFill);
-            } else {
-                path.removeAllPoints();
-                path.moveToPoint(a);
-                path.lineToPoint(b);
-                path.lineToPoint(c);
-                path.closePath();
-                canvas.fill(path, HostColor::colorWithCalibratedRed(
-                                      cell.red / 255.0, cell.green / 255.0, cell.blue / 255.0, 1));
-            }
+            const QPointF corners[] = {widgetPoint(cell.corners[0], view.bounds()),
+                                       widgetPoint(cell.corners[1], view.bounds()),
+                                       widgetPoint(cell.corners[2], view.bounds())};
+            view.painter().setBrush(QColor(cell.red, cell.green, cell.blue));
+            view.painter().drawPolygon(corners, 3, Qt::WindingFill);
         }
     }
 }
-BENCHMARK(wheel)->ArgName("canvas")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(wheel)
+    ->ArgNames({"view", "rings"})
+    ->ArgsProduct({{0, 1}, {4}})
+    ->ArgsProduct({{0, 1}, {8}})
+    ->ArgsProduct({{0, 1}, {17}})
+    ->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

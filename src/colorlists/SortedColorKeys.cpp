@@ -13,8 +13,12 @@ void SortedColorKeys::update(const std::shared_ptr<const HostColorList>& list)
     _revision = list->revision();
     _places = sortedColorIndexes(*list);
     _positions.resize(_places.size());
-    for (std::size_t position = 0; position < _places.size(); ++position)
+    _colors.clear();
+    _colors.reserve(_places.size());
+    for (std::size_t position = 0; position < _places.size(); ++position) {
         _positions[_places[position]] = position;
+        _colors.push_back(list->colorAtIndex(_places[position]));
+    }
     _index.update(list);
 }
 

@@ -23,7 +23,7 @@ public:
     }
     [[nodiscard]] const HostColor& colorAtPosition(std::size_t position) const
     {
-        return _list->colorAtIndex(_places[position]);
+        return _colors[position];
     }
 
     /// The positions, ascending, of all keys whose colours equal the colour or are close to it.
@@ -35,6 +35,9 @@ private:
     /// The place in the list of each position, and the other way round.
     std::vector<std::size_t> _places;
     std::vector<std::size_t> _positions;
+    /// The colours in the order in which they are drawn, which for a long list saves many a walk
+    /// through memory.
+    std::vector<HostColor> _colors;
     ColorListIndex _index;
 };
 

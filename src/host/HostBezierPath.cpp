@@ -1,5 +1,7 @@
 #include "host/HostBezierPath.h"
 
+#include <array>
+
 namespace vantorel {
 namespace {
 
@@ -17,11 +19,14 @@ int windingOfEdge(HostPoint a, HostPoint b, HostPoint p)
 
 void HostBezierPath::appendBezierPathWithRect(HostRect rect)
 {
-    moveToPoint({rect.x, rect.y});
-    lineToPoint({rect.maxX(), rect.y});
-    lineToPoint({rect.maxX(), rect.maxY()});
-    lineToPoint({rect.x, rect.maxY()});
-    closePath();
+    const std::array<Element, 5> elements{{
+        {ElementKind::moveTo, {rect.x, rect.y}},
+        {ElementKind::lineTo, {rect.maxX(), rect.y}},
+        {ElementKind::lineTo, {rect.maxX(), rect.maxY()}},
+        {ElementKind::lineTo, {rect.x, rect.maxY()}},
+        {ElementKind::close, {}},
+    }};
+    _elements.insert(_elements.end(), elements.begin(), elements.end());
 }
 
 bool HostBezierPath::containsPoint(HostPoint point) const

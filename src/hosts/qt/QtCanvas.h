@@ -4,6 +4,9 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QPointF>
+
+#include <vector>
 
 namespace vantorel {
 
@@ -19,8 +22,12 @@ public:
     void drawText(const HostText& text, HostPoint at) override;
 
 private:
+    void setAntialiasing(bool on);
+    void strokeRect(const QRectF& rect, double lineWidth, const QColor& color);
+
     QPainter& _painter;
     HostRect _bounds;
+    std::vector<QPointF> _corners;  ///< of the polygon that is painted; its storage stays
 };
 
 /// A picture of an image for a screen of that many device pixels a point.

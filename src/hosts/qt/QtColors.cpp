@@ -9,9 +9,10 @@
 namespace vantorel {
 namespace {
 
-float channel(double value)
+quint16 channel(double value)
 {
-    return value > 0 ? static_cast<float>(std::min(value, 1.0)) : 0.0F;
+    constexpr double largest = 65535;
+    return value > 0 ? static_cast<quint16>(std::min(value, 1.0) * largest + 0.5) : quint16{0};
 }
 
 }  // namespace
@@ -20,8 +21,8 @@ QColor qColorFrom(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB();
     if (!rgb) return {};
-    return QColor::fromRgbF(channel(rgb->red), channel(rgb->green), channel(rgb->blue),
-                            channel(rgb->alpha));
+    return QColor::fromRgba64(channel(rgb->red), channel(rgb->green), channel(rgb->blue),
+                              channel(rgb->alpha));
 }
 
 HostColor hostColorFrom(const QColor& color)
@@ -35,7 +36,8 @@ HostColor hostColorFrom(const QColor& color)
 
 QString qStringFrom(std::u16string_view text)
 {
-    return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
+    return QString(reinterpret_cast<const QChar*>(text.data()),
+                   static_cast<qsizetype>(text.size()));
 }
 
 std::u16string u16From(const QString& text)
