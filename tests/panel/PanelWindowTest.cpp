@@ -1,41 +1,16 @@
+#include "PanelWindowFixture.h"
 #include "hosts/qt/QtColors.h"
-#include "panel/PanelWindow.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLineEdit>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
 namespace vantorel {
 namespace {
 
-/// The panel with the real picker, off screen.
-class PanelWindowTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        _search = loadPlugins({VANTOREL_PICKERS}, {});
-        _window = std::make_unique<PanelWindow>(_desktop, _search.plugins, _problems);
-        _window->resizeToPage({260, 340});
-        _window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(_window.get()));
-    }
-    template <class Widget>
-    [[nodiscard]] Widget* child(const char* name) const
-    {
-        return _window->findChild<Widget*>(name);
-    }
-    [[nodiscard]] QString text(const char* name) const { return child<QLineEdit>(name)->text(); }
-
-    QtDesktop _desktop;
-    PluginSearch _search;
-    std::vector<std::string> _problems;
-    std::unique_ptr<PanelWindow> _window;
-};
+class PanelWindowTest : public PanelWindowFixture {};
 
 TEST_F(PanelWindowTest, AColourSetOnThePanelShowsInEveryField)
 {

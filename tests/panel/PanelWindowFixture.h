@@ -1,0 +1,41 @@
+#pragma once
+
+#include "panel/PanelWindow.h"
+#include "panel/PluginLoader.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vantorel {
+
+/// The panel with the real picker, off screen.
+class PanelWindowFixture : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        _search = loadPlugins({VANTOREL_PICKERS}, {});
+        _window = std::make_unique<PanelWindow>(_desktop, _search.plugins, _problems);
+        _window->resizeToPage({260, 340});
+        _window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(_window.get()));
+    }
+    template <class Widget>
+    [[nodiscard]] Widget* child(const char* name) const
+    {
+        return _window->findChild<Widget*>(name);
+    }
+    [[nodiscard]] QString text(const char* name) const { return child<QLineEdit>(name)->text(); }
+
+    QtDesktop _desktop;
+    PluginSearch _search;
+    std::vector<std::string> _problems;
+    std::unique_ptr<PanelWindow> _window;
+};
+
+}  // namespace vantorel
