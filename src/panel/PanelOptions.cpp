@@ -1,6 +1,7 @@
 #include "panel/PanelOptions.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace vantorel {
@@ -64,6 +65,10 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     const auto face = option("face", "Show this face of the hex page: colors or settings.", "FACE");
     const auto theme =
         option("theme", "Colours of the window in place of the desktop's: light or dark.", "THEME");
+    const auto data = option("data",
+                             "Keep settings and colour lists under DIR/Vantorel, not with the "
+                             "user's own; DIR must exist.",
+                             "DIR");
     const auto plugin =
         option("plugin", "Load this picker plug-in, too. May be given more than once.", "FILE");
     const auto printColor =
@@ -74,7 +79,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A colour panel with pages by plug-ins."));
     parser.addOptions(
-        {color, mode, size, screenshot, face, theme, plugin, printColor, help, version});
+        {color, mode, size, screenshot, face, theme, data, plugin, printColor, help, version});
     if (!parser.parse(arguments)) return refusal(parser.errorText());
     if (parser.isSet(help)) return {{}, 0, parser.helpText()};
     if (parser.isSet(version)) {
@@ -116,6 +121,13 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         if (*options.theme != QLatin1String("light") && *options.theme != QLatin1String("dark"))
             return refusal(
                 QStringLiteral("--theme is light or dark, not \"%1\"").arg(*options.theme));
+    }
+    if (parser.isSet(data)) {
+        const QFileInfo folder(parser.value(data));
+        if (!folder.isDir())
+            return refusal(
+                QStringLiteral("--data: there is no folder \"%1\"").arg(parser.value(data)));
+        options.dataFolder = folder.absoluteFilePath();
     }
     if (parser.isSet(screenshot)) options.screenshot = parser.value(screenshot);
     options.printColor = parser.isSet(printColor);

@@ -17,6 +17,8 @@ struct PanelOptions {
     std::optional<QSize> size;
     std::optional<QString> screenshot;
     std::optional<QString> theme;
+    /// Stands for the folder of the user's data, where settings and colour lists are.
+    std::optional<QString> dataFolder;
     bool settingsFace = false;
     bool printColor = false;
     QStringList plugins;

@@ -6,6 +6,7 @@
 #include "panel/PluginLoader.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -77,11 +78,12 @@ int main(int argc, char** argv)
     }
     const PanelOptions& options = commandLine.options;
 
+    if (options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
     const std::string userData = PosixFiles().applicationSupportDirectory().value_or("");
     QTemporaryDir scratch;
     if (options.screenshot) {
         // A picture is taken beside the user's own panel and settings, not with them.
-        qputenv("XDG_DATA_HOME", scratch.path().toLocal8Bit());
+        if (!options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(scratch.path()));
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         print(stderr, QStringLiteral("vantorel-panel: there is no display (neither WAYLAND_DISPLAY "

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
 namespace vantorel {
 namespace {
 
@@ -29,9 +31,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(PanelOptionsTest, EveryOptionIsRead)
 {
     const auto line =
-        readCommandLine({"p", "--color", "#ff8000", "--mode", "wheel", "--size", "260x340",
-                         "--screenshot", "f.png", "--theme", "dark", "--face", "settings",
-                         "--plugin", "a", "--plugin", "b", "--print-color"});
+        readCommandLine({"p",        "--color", "#ff8000",       "--mode",   "wheel",
+                         "--size",   "260x340", "--screenshot",  "f.png",    "--theme",
+                         "dark",     "--face",  "settings",      "--plugin", "a",
+                         "--plugin", "b",       "--print-color", "--data",   "."});
     ASSERT_FALSE(line.exitStatus.has_value());
     EXPECT_EQ(line.options.color, QColor(255, 128, 0));
     EXPECT_EQ(line.options.mode, "wheel");
@@ -39,6 +42,7 @@ TEST(PanelOptionsTest, EveryOptionIsRead)
     EXPECT_EQ(line.options.plugins, (QStringList{"a", "b"}));
     EXPECT_TRUE(line.options.settingsFace);
     EXPECT_TRUE(line.options.printColor);
+    EXPECT_EQ(line.options.dataFolder, QDir::currentPath());
 }
 
 class BadOptionTest : public testing::TestWithParam<QStringList> {};
@@ -53,9 +57,11 @@ TEST_P(BadOptionTest, SaysWhatIsWrong)
 
 INSTANTIATE_TEST_SUITE_P(Lines, BadOptionTest,
                          testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
-                                         QStringList{"--size", "260"}, QStringList{"--theme", "x"},
-                                         QStringList{"--face", "x"}, QStringList{"--nothing"},
-                                         QStringList{"stray"}, QStringList{"--color"}));
+                                         QStringList{"--size", "260"},
+                                         QStringList{"--data", "/no/such"},
+                                         QStringList{"--theme", "x"}, QStringList{"--face", "x"},
+                                         QStringList{"--nothing"}, QStringList{"stray"},
+                                         QStringList{"--color"}));
 
 TEST(PanelOptionsTest, HelpAndVersionEndWell)
 {

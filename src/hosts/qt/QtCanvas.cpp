@@ -27,17 +27,19 @@ std::optional<HostRect> uprightRect(const HostBezierPath& path)
                     std::abs(c.y - a.y)};
 }
 
-QPainterPath painterPath(const HostBezierPath& path, HostRect bounds)
+/// `place` maps a point of the path to one of the painter.
+template <typename Place>
+QPainterPath painterPath(const HostBezierPath& path, Place place)
 {
     QPainterPath result;
     result.setFillRule(Qt::WindingFill);
     for (const auto& element : path.elements()) {
         switch (element.kind) {
             case Kind::moveTo:
-                result.moveTo(widgetPoint(element.point, bounds));
+                result.moveTo(place(element.point));
                 break;
             case Kind::lineTo:
-                result.lineTo(widgetPoint(element.point, bounds));
+                result.lineTo(place(element.point));
                 break;
             case Kind::close:
                 result.closeSubpath();
@@ -87,7 +89,8 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
     if (loadPolygon(path, _bounds, _corners)) {
         _painter.drawPolygon(_corners.data(), static_cast<int>(_corners.size()), Qt::WindingFill);
     } else {
-        _painter.drawPath(painterPath(path, _bounds));
+        _painter.drawPath(
+            painterPath(path, [&](HostPoint point) { return widgetPoint(point, _bounds); }));
     }
 }
 
@@ -97,10 +100,10 @@ void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& co
 {
     const qreal ratio = _painter.device()->devicePixelRatioF();
     const qreal pixels = std::max(1.0, std::round(lineWidth * ratio));
-    // The edge that is nearest to where the line's outer edge would be.
-    const auto outerEdge = [&](qreal middle, qreal outwards) {
-        const qreal inPixels = middle * ratio + outwards * pixels / 2;
-        return std::round(inPixels - outwards * 0.01) / ratio;
+    // From the edge between pixels where a fill ends too, so that lines of two widths on one
+    // rectangle lie evenly within each other; the pixel in the middle of an odd width is inside.
+    const auto outerEdge = [&](qreal edge, qreal outwards) {
+        return (std::round(edge * ratio) + outwards * std::floor(pixels / 2)) / ratio;
     };
     const qreal left = outerEdge(rect.left(), -1);
     const qreal top = outerEdge(rect.top(), -1);
@@ -129,7 +132,16 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     setAntialiasing(true);
     _painter.setBrush(Qt::NoBrush);
     _painter.setPen(pen);
-    _painter.drawPath(painterPath(path, _bounds));
+    // An open line runs level or upright for the most part: through the middle of pixels it is
+    // crisp. The outline of a shape stays where the shape is.
+    const bool isOpen = path.elements().back().kind != Kind::close;
+    const qreal ratio = _painter.device()->devicePixelRatioF();
+    _painter.drawPath(painterPath(path, [&](HostPoint point) {
+        const QPointF exact = widgetPoint(point, _bounds);
+        if (!isOpen) return exact;
+        const auto snapped = [&](qreal x) { return (std::floor(x * ratio) + 0.5) / ratio; };
+        return QPointF(snapped(exact.x()), snapped(exact.y()));
+    }));
 }
 
 void QtCanvas::drawText(const HostText& text, HostPoint at)
