@@ -4,7 +4,8 @@
     run.py DRIVER FILE
 
 A scenario is a file of JSON lines. Each line is {"do": REQUEST, "expect": EXPECTATION, "why": TEXT};
-"expect" and "why" may be missing, empty lines and lines that begin with "#" are passed over. A reply
+"expect" and "why" may be missing, empty lines and lines that begin with "#" are passed over.
+"$HOME" in a request stands for a folder of the scenario's own, which is removed at the end. A reply
 must be {"ok": true, ...} unless the expectation says otherwise, and must hold what is expected:
 objects are compared by the keys that the expectation names, lists whole, all else exactly.
 
@@ -17,6 +18,7 @@ objects are compared by the keys that the expectation names, lists whole, all el
 import json
 import subprocess
 import sys
+import tempfile
 
 
 def mismatch(expected, found, path):
@@ -83,7 +85,9 @@ def main():
         sys.exit(f"{file}: no step")
     # "raw" sends a line that is not what a request should be.
     requests = "".join((step["raw"] if "raw" in step else json.dumps(step["do"])) + "\n" for _, step in steps)
-    run = subprocess.run([driver], input=requests.encode("utf-8", "surrogatepass"), capture_output=True, check=False)
+    with tempfile.TemporaryDirectory() as home:
+        requests = requests.replace("$HOME", home)
+        run = subprocess.run([driver], input=requests.encode("utf-8", "surrogatepass"), capture_output=True, check=False)
     replies = run.stdout.decode("utf-8").splitlines()
     problems = []
     if run.returncode != 0:
