@@ -6,8 +6,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantorel {
+
+/// A text that stands for a colour, and what people call its form, e.g. "Hex Code".
+struct HostColorText {
+    std::u16string name;
+    std::u16string text;
+
+    bool operator==(const HostColorText&) const = default;
+};
 
 /// One page of a colour panel: what the panel knows of a picker. The panel owns its pickers and
 /// ends them before itself.
@@ -41,6 +50,12 @@ public:
     virtual void setColor(const std::optional<HostColor>& color) = 0;
     /// The page has a new size. `sender` is the view that changed, or null.
     virtual void viewSizeChanged(HostView* sender) = 0;
+
+    /// The text that a drag of the colour out of the page carries; nothing when it is the colour
+    /// itself.
+    [[nodiscard]] virtual std::optional<std::u16string> dragText() const { return std::nullopt; }
+    /// The current colour in every form of text that the picker can write; the hex code first.
+    [[nodiscard]] virtual std::vector<HostColorText> colorTexts() const { return {}; }
 
     /// Sends one of the picker's actions by its name, e.g. "poundSignAction"; `sender` is the
     /// control that stands for its sender, or null. False when there is no such action.

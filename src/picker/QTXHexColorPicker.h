@@ -77,6 +77,9 @@ public:
     [[nodiscard]] std::optional<std::u16string> dragStringWithDragType(
         CodeDragType type) const override;
 
+    [[nodiscard]] std::optional<std::u16string> dragText() const override;
+    [[nodiscard]] std::vector<HostColorText> colorTexts() const override;
+
     /// Writes the current colour and settings into every control, in a fixed order.
     void syncPanel() override;
     /// Hands the current colour to the panel, which echoes it, and synchronises.
@@ -110,6 +113,9 @@ private:
     void awakeFromNib();
     void fillSettingsPopUps();
     void loadFullHex();
+
+    // Texts (QTXHexColorPickerTexts.cpp).
+    [[nodiscard]] QTXHexColorSpec colorSpecWithPanelAlpha() const;
 
     // Synchronising (QTXHexColorPickerSync.cpp).
     void syncExactness(const std::u16string& red, const std::u16string& green,

@@ -2,11 +2,10 @@
 #include "colorlists/ColorNamesPopUp.h"
 #include "picker/ControlWriting.h"
 #include "picker/QTXHexColorPicker.h"
-#include "snippets/DragString.h"
 
 #include <algorithm>
 
-/// The list pop-up, the name pop-up, and the text that a drag carries.
+/// The list pop-up and the name pop-up.
 namespace vantorel {
 
 std::shared_ptr<HostColorList> QTXHexColorPicker::namingList() const
@@ -110,21 +109,6 @@ void QTXHexColorPicker::colorNameHexAction(HostControl*)
     if (!color) return;
     colorPanel().setColor(*color);
     setColor(color);
-}
-
-std::optional<std::u16string> QTXHexColorPicker::dragString() const
-{
-    return dragStringWithDragType(_hexSettings.codeDragType());
-}
-
-std::optional<std::u16string> QTXHexColorPicker::dragStringWithDragType(CodeDragType type) const
-{
-    QTXHexColorSpec spec = _hexColorSpec;
-    const auto panelColor = colorPanel().color();
-    spec.setAlphaComp(panelColor ? panelColor->alphaComponent() : 0.0);
-    return vantorel::dragStringWithDragType(type, spec, _hexSettings.entryForm(),
-                                            _hexSettings.usePoundSign(),
-                                            _hexSettings.codeSnippet());
 }
 
 }  // namespace vantorel
