@@ -98,6 +98,11 @@ public:
         if (missing || found == embeddedResources().end()) return std::nullopt;
         return found->second;
     }
+    /// They are compiled in.
+    [[nodiscard]] std::optional<std::string> pathOfResource(const std::string&) const override
+    {
+        return std::nullopt;
+    }
 
 private:
     bool _hasInterfaceFile;

@@ -43,6 +43,10 @@ public:
     virtual ~HostBundle() = default;
     /// The bytes of a resource; nothing when there is none of that name.
     [[nodiscard]] virtual std::optional<std::string> resource(const std::string& name) const = 0;
+    /// The absolute path of a resource, for what only files can be handed to; nothing when there is
+    /// none of that name, or it is no file of its own.
+    [[nodiscard]] virtual std::optional<std::string> pathOfResource(
+        const std::string& name) const = 0;
 };
 
 }  // namespace vantorel

@@ -23,13 +23,28 @@ public:
 
     [[nodiscard]] std::optional<std::string> resource(const std::string& name) const override
     {
-        if (name.empty() || name.find('/') != std::string::npos) return std::nullopt;
+        if (!isNameOfOne(name)) return std::nullopt;
         std::ifstream file(_folder / name, std::ios::binary);
         if (!file) return std::nullopt;
         return std::string(std::istreambuf_iterator<char>(file), {});
     }
 
+    [[nodiscard]] std::optional<std::string> pathOfResource(const std::string& name) const override
+    {
+        if (!isNameOfOne(name)) return std::nullopt;
+        std::error_code error;
+        const fs::path path = fs::absolute(_folder / name, error);
+        if (error || !fs::is_regular_file(path, error)) return std::nullopt;
+        return path.lexically_normal().string();
+    }
+
 private:
+    /// No name leads out of the folder.
+    static bool isNameOfOne(const std::string& name)
+    {
+        return !name.empty() && name.find('/') == std::string::npos;
+    }
+
     fs::path _folder;
 };
 

@@ -1,3 +1,4 @@
+#include "picker/ManualAddress.h"
 #include "picker/PickerLayout.h"
 #include "picker/QTXHexColorPicker.h"
 
@@ -22,10 +23,6 @@ bool isSmaller(HostSize size, HostSize limit)
     return size.width < limit.width || size.height < limit.height;
 }
 
-#ifndef VANTOREL_MANUAL_URL
-#define VANTOREL_MANUAL_URL "supportManual.htm"
-#endif
-
 }  // namespace
 
 void QTXHexColorPicker::checkTrackingStatus()
@@ -45,7 +42,9 @@ void QTXHexColorPicker::settingsDoneButtonAction(HostControl*)
 
 void QTXHexColorPicker::helpHexColorAction(HostControl*)
 {
-    if (!__holdOffSync) colorPanel().desktop().openURL(VANTOREL_MANUAL_URL);
+    if (__holdOffSync) return;
+    HostDesktop& desktop = colorPanel().desktop();
+    desktop.openURL(manualURL(VANTOREL_MANUAL_URL, desktop.files(), _bundle));
 }
 
 void QTXHexColorPicker::moreIndicatorAction(HostControl*)

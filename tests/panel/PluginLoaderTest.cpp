@@ -80,6 +80,11 @@ TEST(PluginLoaderTest, ResourcesAreThoseOfTheFolderBesideTheLibrary)
     EXPECT_FALSE(bundle.resource("missing").has_value());
     EXPECT_FALSE(bundle.resource("../QTXHexColorPicker.so").has_value());
     EXPECT_FALSE(bundle.resource("").has_value());
+    EXPECT_EQ(bundle.pathOfResource("QTXHexPick"),
+              VANTOREL_PICKERS "/QTXHexColorPicker.resources/QTXHexPick");
+    for (const char* name : {"missing", "../QTXHexColorPicker.so", "..", ""}) {
+        EXPECT_FALSE(bundle.pathOfResource(name).has_value()) << name;
+    }
 }
 
 TEST(PluginLoaderTest, OwnFolderThenTheUsers)

@@ -57,7 +57,9 @@ std::u16string QtDesktop::localizedString(const std::u16string& key)
 
 void QtDesktop::openURL(const std::string& url)
 {
-    QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(url)));
+    if (QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(url)))) return;
+    beep();
+    log(u"No program opens " + utf16FromUtf8(url));
 }
 
 void QtDesktop::beep()

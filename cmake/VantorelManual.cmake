@@ -1,0 +1,50 @@
+# The user's manual: which files it has, and the address that the help button opens.
+include(GNUInstallDirs)
+
+set(VANTOREL_MANUAL_FOLDER "${PROJECT_SOURCE_DIR}/docs/manual")
+set(VANTOREL_MANUAL_PAGE supportManual.htm)
+file(GLOB VANTOREL_MANUAL_PICTURES CONFIGURE_DEPENDS "${VANTOREL_MANUAL_FOLDER}/pictures/*.png")
+
+# _vantorel_file_url(PATH OUT): the address of a file, with what an address cannot hold escaped byte
+# by byte.
+function(_vantorel_file_url path out)
+  string(HEX "${path}" hex)
+  string(REGEX MATCHALL ".." bytes "${hex}")
+  set(url "file://")
+  foreach(byte IN LISTS bytes)
+    math(EXPR code "0x${byte}")
+    if(code GREATER 32 AND code LESS 127)
+      string(ASCII ${code} character)
+    else()
+      set(character "")
+    endif()
+    if(character MATCHES "^[A-Za-z0-9/._~-]$")
+      string(APPEND url "${character}")
+    else()
+      string(TOUPPER "${byte}" byte)
+      string(APPEND url "%${byte}")
+    endif()
+  endforeach()
+  set(${out} "${url}" PARENT_SCOPE)
+endfunction()
+
+_vantorel_file_url("${CMAKE_INSTALL_FULL_DATADIR}/doc/vantorel/${VANTOREL_MANUAL_PAGE}" installed_manual_url)
+set(VANTOREL_MANUAL_URL "" CACHE STRING
+  "Address of the manual that the help button opens, ending in /${VANTOREL_MANUAL_PAGE}; empty for the installed one")
+
+# The address in force. It is not kept in the cache: another install prefix brings another one.
+if(VANTOREL_MANUAL_URL STREQUAL "")
+  set(VANTOREL_MANUAL_URL_IN_FORCE "${installed_manual_url}")
+else()
+  set(VANTOREL_MANUAL_URL_IN_FORCE "${VANTOREL_MANUAL_URL}")
+endif()
+if(NOT VANTOREL_MANUAL_URL_IN_FORCE MATCHES "^[a-z][a-z0-9+.-]*://[!-~]*/supportManual[.]htm$" OR
+   VANTOREL_MANUAL_URL_IN_FORCE MATCHES "[\"\\\\]")
+  message(FATAL_ERROR "VANTOREL_MANUAL_URL is \"${VANTOREL_MANUAL_URL_IN_FORCE}\"; it must be an address such as "
+    "https://HOST/${VANTOREL_MANUAL_PAGE}, with blanks and letters beyond ASCII escaped")
+endif()
+
+install(FILES "${VANTOREL_MANUAL_FOLDER}/${VANTOREL_MANUAL_PAGE}"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vantorel")
+install(FILES ${VANTOREL_MANUAL_PICTURES}
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vantorel/pictures")

@@ -1,0 +1,175 @@
+#include "hosts/qt/QtColors.h"
+#include "panel/PanelTheme.h"
+#include "panel/PanelWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <cstdio>
+#include <functional>
+
+/// Makes the pictures of the manual from the real window, without a screen:
+///
+///     vantorel-manual-pictures FOLDER
+namespace {
+
+using namespace vantorel;
+
+/// Twice as many pixels as points: sharp on the screens of today, and in print.
+constexpr const char* scale = "2";
+constexpr QSize page{320, 340};
+constexpr int topBar = 32;
+
+template <class Widget>
+Widget& child(PanelWindow& window, const char* name)
+{
+    auto* found = window.findChild<Widget*>(name);
+    if (found == nullptr) qFatal("no control is called %s", name);
+    return *found;
+}
+
+QImage wholeWindow(PanelWindow& window)
+{
+    // Painting places some controls, so what counts is the second look.
+    window.grab();
+    QApplication::processEvents();
+    return window.grab().toImage();
+}
+
+QImage part(PanelWindow& window, int top, int height)
+{
+    const QImage whole = wholeWindow(window);
+    const int ratio = static_cast<int>(whole.devicePixelRatio());
+    return whole.copy(0, top * ratio, whole.width(), height * ratio);
+}
+
+void typeInto(PanelWindow& window, const char* field, const QString& text)
+{
+    auto& edit = child<QLineEdit>(window, field);
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClicks(&edit, text);
+}
+
+/// The menu of a pop-up button.
+QImage openedMenu(PanelWindow& window, const char* popUp)
+{
+    QImage image;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        if (menu == nullptr) return;
+        look.stop();
+        image = menu->grab().toImage();
+        menu->close();
+    });
+    look.start(50);
+    QTest::mousePress(&child<QWidget>(window, popUp), Qt::LeftButton);
+    if (!QTest::qWaitFor([&] { return !image.isNull(); })) qFatal("no menu at %s", popUp);
+    return image;
+}
+
+struct Picture {
+    const char* name;
+    const char* color;
+    /// What the settings file says.
+    const char* settings;
+    std::function<QImage(PanelWindow&)> take;
+};
+
+constexpr const char* cssList = "{}";
+constexpr const char* svgList = R"({ HexColorLlst = "SVG Keyword"; })";
+
+const std::vector<Picture>& pictures()
+{
+    static const std::vector<Picture> all{
+        {"colors", "#ff7f50", svgList, wholeWindow},
+        {"settings", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             window.currentPicker()->performAction("settingsButtonAction", nullptr);
+             return wholeWindow(window);
+         }},
+        {"palette", "#ff7f50", R"({ HexColorLlst = "SVG Keyword"; PickModeColorLists = Palette; })",
+         wholeWindow},
+        {"wheel", "#ff9900", R"({ PickModeColorLists = Wheel; })", wholeWindow},
+        {"typing-hex", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             typeInto(window, "_fullHexText", "#3c6");
+             return part(window, topBar, 33);
+         }},
+        {"typing-names", "#ff7f50", svgList,
+         [](PanelWindow& window) {
+             typeInto(window, "_rgbDecimalText", "lights");
+             return part(window, topBar, 150);
+         }},
+        {"input-error", "#ff7f50", svgList,
+         [](PanelWindow& window) {
+             typeInto(window, "_fullHexText", "12345");
+             QTest::keyClick(&child<QLineEdit>(window, "_fullHexText"), Qt::Key_Return);
+             return part(window, topBar, 100);
+         }},
+        {"close-names", "#0a0a88", cssList,
+         [](PanelWindow& window) { return openedMenu(window, "hexColorNamePopUp"); }},
+        {"list-menu", "#ff7f50", cssList,
+         [](PanelWindow& window) { return openedMenu(window, "hexColorsListPopUp"); }},
+        {"code-line", "#ff7f50",
+         R"({ ComponentDisplay = "Code Snippet"; CodeSnippetName = "Java NSInteger 3"; })",
+         [](PanelWindow& window) { return part(window, topBar + 255, 85); }},
+    };
+    return all;
+}
+
+/// A list of the user's own, so that there is one to add.
+constexpr const char* ownList = "GIMP Palette\nName: Garden\n 76 153   0\tleaf\n";
+
+bool writeFile(const QString& path, const char* text)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(text) > 0;
+}
+
+bool makePicture(const Picture& picture, const QString& home, const QString& folder)
+{
+    if (!writeFile(home + "/Vantorel/Settings.plist", picture.settings)) return false;
+    if (!writeFile(home + "/Vantorel/Palettes/Garden.gpl", ownList)) return false;
+    QtDesktop desktop;
+    const PluginSearch search = loadPlugins({VANTOREL_PICKERS}, {});
+    std::vector<std::string> problems;
+    PanelWindow window(desktop, search.plugins, problems);
+    window.resizeToPage(page);
+    window.chooseColor(hostColorFrom(QColor(picture.color)));
+    window.show();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window)) return false;
+    const QImage image = picture.take(window).convertToFormat(QImage::Format_RGB888);
+    return image.save(folder + '/' + picture.name + ".png", "PNG", 0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", scale);
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 2) {
+        static_cast<void>(std::fputs("usage: vantorel-manual-pictures FOLDER\n", stderr));
+        return 2;
+    }
+    applyTheme(QStringLiteral("light"));
+    QApplication::setCursorFlashTime(0);
+    for (const Picture& picture : pictures()) {
+        if (makePicture(picture, home.path(), arguments[1])) continue;
+        static_cast<void>(std::fprintf(stderr, "%s.png could not be made\n", picture.name));
+        return 1;
+    }
+    return 0;
+}
