@@ -81,7 +81,11 @@ int main(int argc, char** argv)
     QTemporaryDir scratch;
     if (options.screenshot) {
         // A picture is taken beside the user's own panel and settings, not with them.
-        qputenv("XDG_DATA_HOME", scratch.path().toLocal8Bit());
+        // What other programs have installed must not show in it, either.
+        for (const char* variable :
+             {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) {
+            qputenv(variable, scratch.path().toLocal8Bit());
+        }
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         print(stderr, QStringLiteral("vantorel-panel: there is no display (neither WAYLAND_DISPLAY "
