@@ -4,7 +4,6 @@
 #include "host/HostText.h"
 
 #include <algorithm>
-#include <set>
 
 namespace vantorel {
 namespace {
@@ -32,15 +31,10 @@ std::string hashText(std::string_view text)
     return digits;
 }
 
-std::u16string baseName(const std::string& fileName)
-{
-    return utf16FromUtf8(std::string_view(fileName).substr(0, fileName.size() - fileEnding.size()));
-}
-
 }  // namespace
 
 PaletteFileStore::PaletteFileStore(HostFiles& files, Log log)
-    : _hostFiles(files), _log(std::move(log))
+    : _hostFiles(files), _log(std::move(log)), _places(files, _log)
 {
 }
 
@@ -68,127 +62,104 @@ std::string PaletteFileStore::fileNameOfList(const std::u16string& name)
     return base.append(fileEnding);
 }
 
-std::optional<std::string> PaletteFileStore::folder() const
+PaletteFolder* PaletteFileStore::ownFolder()
 {
-    auto path = _hostFiles.applicationSupportDirectory();
-    if (path) path->append(settingsFolder).append(palettesFolder);
-    return path;
+    // Asking makes the folder of the user's data, so it is not asked before it is needed.
+    if (!_ownFolder) {
+        const auto support = _hostFiles.applicationSupportDirectory();
+        if (!support) return nullptr;
+        _ownFolder.emplace(_hostFiles, *support + settingsFolder + palettesFolder,
+                           PaletteFolder::Takes::gplFiles, PaletteFolder::Owner::ourselves, _log);
+    }
+    return &*_ownFolder;
 }
 
-void PaletteFileStore::load(const std::string& fileName, File& file)
+bool PaletteFileStore::mustLookAgain()
 {
-    const auto bytes = _hostFiles.contentsAtPath(*folder() + "/" + fileName);
-    auto reading = bytes ? readPalette(*bytes, baseName(fileName)) : std::nullopt;
-    if (!reading) return;
-    file.list = reading->list;
-    if (!_log) return;
-    for (const auto& [number, reason] : reading->skipped) {
-        std::string line = fileName;
-        line.append(": line ").append(std::to_string(number)).append(" left out: ").append(reason);
-        _log(utf16FromUtf8(line));
-    }
-    if (reading->furtherSkippedLines > 0) {
-        std::string line = fileName;
-        line.append(": ").append(std::to_string(reading->furtherSkippedLines));
-        _log(utf16FromUtf8(line.append(" more lines left out")));
-    }
-}
-
-void PaletteFileStore::refresh(const std::string& fileName, File& file)
-{
-    const std::string path = *folder() + "/" + fileName;
-    const std::uint64_t version = _hostFiles.versionAtPath(path);
-    if (version == file.version) return;
-    file = {};
-    file.version = version;
-    const auto bytes = _hostFiles.contentsAtPath(path);
-    auto name = bytes ? paletteName(*bytes, baseName(fileName)) : std::nullopt;
-    if (!name) return;
-    file.isPalette = true;
-    file.listName = std::move(*name);
+    if (!_isCatalogueCurrent || _places.haveChanged()) return true;
+    const PaletteFolder* own = ownFolder();
+    return own != nullptr && own->hasChanged();
 }
 
 void PaletteFileStore::lookAgain()
 {
-    const auto path = folder();
-    if (!path) {
-        _files.clear();
-        return;
+    _isCatalogueCurrent = false;
+    _onceListed.clear();
+    std::vector<PaletteCatalogue::Source> sources;
+    if (PaletteFolder* own = ownFolder()) {
+        own->lookAgain();
+        sources.push_back({own, {}});
     }
-    const std::uint64_t version = _hostFiles.versionAtPath(*path);
-    if (version != _folderVersion) {
-        _folderVersion = version;
-        std::map<std::string, File> found;
-        for (const std::string& name : _hostFiles.contentsOfDirectory(*path)) {
-            if (!name.ends_with(fileEnding) || name.starts_with('.')) continue;
-            // Files that stay keep what has been read of them.
-            auto known = _files.extract(name);
-            found[name] = known ? std::move(known.mapped()) : File{};
-        }
-        _files = std::move(found);
-    }
-    for (auto entry = _files.begin(); entry != _files.end();) {
-        refresh(entry->first, entry->second);
-        entry = entry->second.version != 0 ? std::next(entry) : _files.erase(entry);
-    }
+    _places.lookAgain();
+    for (const auto& folder : _places.folders())
+        sources.push_back({&folder->palettes, folder->program});
+    _catalogue.rebuild(sources);
+    _isCatalogueCurrent = true;
+}
+
+const PaletteCatalogue::Entry* PaletteFileStore::rememberedEntry(const std::u16string& name) const
+{
+    if (!_isCatalogueCurrent) return nullptr;
+    if (const auto* entry = _catalogue.entryListedAs(name)) return entry;
+    const auto found = _onceListed.find(name);
+    return found != _onceListed.end() ? found->second : nullptr;
+}
+
+const PaletteCatalogue::Entry* PaletteFileStore::entryNamed(const std::u16string& name)
+{
+    const auto* entry = rememberedEntry(name);
+    if (entry != nullptr && _hostFiles.versionAtPath(entry->path()) == entry->version) return entry;
+    if (entry != nullptr || mustLookAgain()) lookAgain();
+    entry = _catalogue.entryListedAs(name);
+    if (entry != nullptr) return entry;
+    entry = _catalogue.entryOnceListedAs(name);
+    if (entry != nullptr) _onceListed[name] = entry;
+    return entry;
 }
 
 std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
 {
-    const auto path = folder();
-    if (!path) return nullptr;
-    // The usual case first: a list in the file that its name says, of which nothing else need be
+    // The usual case first: a list in our file that its name says, of which nothing else need be
     // known.
-    const std::string fileName = fileNameOfList(name);
-    auto found = _files.find(fileName);
-    if (found == _files.end() && _hostFiles.versionAtPath(*path + "/" + fileName) != 0) {
-        found = _files.try_emplace(fileName).first;
-        _folderVersion = 0;  // the other files have not been looked at
+    if (PaletteFolder* own = ownFolder()) {
+        const std::string fileName = fileNameOfList(name);
+        const PaletteFolder::File* file = own->lookAtFile(fileName);
+        if (file != nullptr && file->isPalette && file->listName == name) {
+            return own->listInFile(fileName);
+        }
     }
-    const auto isTheList = [&](const auto& entry) {
-        return entry.second.isPalette && entry.second.listName == name;
-    };
-    if (found != _files.end()) refresh(found->first, found->second);
-    if (found == _files.end() || !isTheList(*found)) {
-        lookAgain();
-        found = std::find_if(_files.begin(), _files.end(), isTheList);
-        if (found == _files.end()) return nullptr;
-    }
-    if (!found->second.list) load(found->first, found->second);
-    return found->second.list;
+    const auto* entry = entryNamed(name);
+    return entry != nullptr ? entry->folder->listInFile(entry->fileName, name) : nullptr;
 }
 
 std::vector<std::u16string> PaletteFileStore::availableColorLists()
 {
     lookAgain();
-    std::set<std::u16string> names;
-    for (const auto& [fileName, file] : _files) {
-        if (file.isPalette) names.insert(file.listName);
-    }
-    return {names.begin(), names.end()};
+    return _catalogue.names();
 }
 
-std::string PaletteFileStore::fileNameForSaving(const std::u16string& name)
+std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u16string& name)
 {
-    lookAgain();
+    own.lookAgain();
     const std::string usual = fileNameOfList(name);
     // A name can hold more than a file tells; what counts is how it would be read there.
     const auto nameInFile = [&](const std::string& fileName) {
-        return paletteName(paletteText(HostColorList(name)), baseName(fileName));
+        return paletteName(paletteText(HostColorList(name)),
+                           PaletteFolder::fallbackListName(fileName));
     };
     const auto holdsTheList = [&](const auto& entry) {
         return entry.second.isPalette &&
                (entry.second.listName == name || entry.second.listName == nameInFile(entry.first));
     };
-    const auto atUsual = _files.find(usual);
-    if (atUsual != _files.end() && holdsTheList(*atUsual)) return usual;
-    const auto elsewhere = std::find_if(_files.begin(), _files.end(), [&](const auto& entry) {
-        return entry.second.isPalette && entry.second.listName == name;
-    });
-    if (elsewhere != _files.end()) return elsewhere->first;
+    const auto atUsual = own.files().find(usual);
+    if (atUsual != own.files().end() && holdsTheList(*atUsual)) return usual;
+    const auto elsewhere = std::find_if(
+        own.files().begin(), own.files().end(),
+        [&](const auto& entry) { return entry.second.isPalette && entry.second.listName == name; });
+    if (elsewhere != own.files().end()) return elsewhere->first;
 
     std::string fileName = usual;
-    for (int number = 2; _hostFiles.kindAtPath(*folder() + "/" + fileName) != HostFileKind::none;
+    for (int number = 2; _hostFiles.kindAtPath(own.pathOfFile(fileName)) != HostFileKind::none;
          ++number) {
         fileName = usual.substr(0, usual.size() - fileEnding.size());
         fileName.append(" ").append(std::to_string(number)).append(fileEnding);
@@ -198,20 +169,18 @@ std::string PaletteFileStore::fileNameForSaving(const std::u16string& name)
 
 bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list)
 {
+    PaletteFolder* own = ownFolder();
+    // Asked again: it makes the folder where it has gone.
     const auto support = _hostFiles.applicationSupportDirectory();
-    const auto path = folder();
-    if (!list || !support || !path) return false;
-    for (const std::string& needed : {*support + settingsFolder, *path}) {
+    if (!list || own == nullptr || !support) return false;
+    for (const std::string& needed : {*support + settingsFolder, own->path()}) {
         if (_hostFiles.kindAtPath(needed) == HostFileKind::none) _hostFiles.createDirectory(needed);
     }
-    const std::string fileName = fileNameForSaving(list->name());
-    if (!_hostFiles.writeAtomically(*path + "/" + fileName, paletteText(*list))) return false;
-    // The list in hand goes on being the installed one: it may hold more than the file can.
-    File& file = _files[fileName];
-    file.version = _hostFiles.versionAtPath(*path + "/" + fileName);
-    file.isPalette = true;
-    file.listName = list->name();
-    file.list = list;
+    _isCatalogueCurrent = false;
+    const std::string fileName = fileNameForSaving(*own, list->name());
+    if (!_hostFiles.writeAtomically(own->pathOfFile(fileName), paletteText(*list))) return false;
+    // The list in hand goes on being the installed one.
+    own->setListInFile(fileName, list);
     return true;
 }
 

@@ -1,31 +1,36 @@
 #pragma once
 
-#include "host/HostColorList.h"
-#include "host/HostFiles.h"
+#include "colorlists/PaletteCatalogue.h"
+#include "colorlists/PaletteFolder.h"
+#include "colorlists/PalettePlaces.h"
 
-#include <cstdint>
-#include <functional>
-#include <map>
-#include <string>
+#include <unordered_map>
 
 namespace vantorel {
 
-/// The colour lists in the user's own folder, `Vantorel/Palettes` in the folder of the user's data:
-/// palette files, one a list. They are read when they are asked for; what another program changes
-/// is seen at the next look. Names sort by their UTF-16 units.
+/// The colour lists in palette files, one a file: those in the user's own folder,
+/// `Vantorel/Palettes` in the folder of the user's data, and those that other programs have
+/// installed, which are only read (`PalettePlaces`; `PaletteCatalogue` tells their names). Names
+/// sort by their UTF-16 units.
+///
+/// Nothing is read before it is asked for. What another program changes is seen at the next look:
+/// that is `availableColorLists`, and `colorListNamed` of a name that has not been found so far, or
+/// whose file has changed. While nothing changes, asking for a list costs a few looks at versions.
 class PaletteFileStore final : public HostColorListStore {
 public:
-    using Log = std::function<void(const std::u16string& line)>;
+    using Log = PaletteFolder::Log;
 
     /// `files` must outlive the store. `log` gets a line for each line of a file that was passed
     /// over; it may be empty.
     explicit PaletteFileStore(HostFiles& files, Log log = {});
 
+    /// Finds also a list that has lost the program behind its name, "Reds (GIMP)", because the list
+    /// that had the plain name went away.
     [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(
         const std::u16string& name) override;
     [[nodiscard]] std::vector<std::u16string> availableColorLists() override;
-    /// Into the file that holds the list of that name, else into a new one: a file that holds
-    /// anything else, even one that cannot be read, is somebody's work and stays.
+    /// Into the file of our own folder that holds the list of that name, else into a new one there:
+    /// a file that holds anything else, even one that cannot be read, is somebody's work and stays.
     bool writeColorList(const std::shared_ptr<HostColorList>& list) override;
 
     /// The file of a list by its name: no name leads out of the folder, into a hidden file, or
@@ -33,26 +38,25 @@ public:
     [[nodiscard]] static std::string fileNameOfList(const std::u16string& name);
 
 private:
-    struct File {
-        std::uint64_t version = 0;
-        /// Files that are none are kept in mind, too: they may be repaired in their place.
-        bool isPalette = false;
-        std::u16string listName;
-        std::shared_ptr<HostColorList> list;  ///< null until somebody has asked for it
-    };
-
-    [[nodiscard]] std::optional<std::string> folder() const;
-    /// Brings `_files` in step with the folder.
+    /// Null when the user has no folder of data.
+    [[nodiscard]] PaletteFolder* ownFolder();
+    /// Whether a name that is not in the catalogue may have come.
+    [[nodiscard]] bool mustLookAgain();
     void lookAgain();
-    /// Looks at one file again if it has changed.
-    void refresh(const std::string& fileName, File& file);
-    void load(const std::string& fileName, File& file);
-    [[nodiscard]] std::string fileNameForSaving(const std::u16string& name);
+    /// What a name was resolved to; null when it has not been.
+    [[nodiscard]] const PaletteCatalogue::Entry* rememberedEntry(const std::u16string& name) const;
+    /// What a name is resolved to now; null when no list has it.
+    [[nodiscard]] const PaletteCatalogue::Entry* entryNamed(const std::u16string& name);
+    [[nodiscard]] std::string fileNameForSaving(PaletteFolder& own, const std::u16string& name);
 
     HostFiles& _hostFiles;
     Log _log;
-    std::uint64_t _folderVersion = 0;
-    std::map<std::string, File> _files;
+    std::optional<PaletteFolder> _ownFolder;
+    PalettePlaces _places;
+    PaletteCatalogue _catalogue;
+    /// Names that are not in the catalogue, and what they were resolved to.
+    std::unordered_map<std::u16string, const PaletteCatalogue::Entry*> _onceListed;
+    bool _isCatalogueCurrent = false;
 };
 
 }  // namespace vantorel

@@ -7,6 +7,15 @@
 
 namespace vantorel {
 
+/// The base directories of the freedesktop specification: absolute paths without a "/" at their
+/// end, the most important first. They need not exist.
+struct HostBaseDirectories {
+    std::optional<std::string> configHome;
+    std::optional<std::string> dataHome;
+    std::vector<std::string> configDirectories;
+    std::vector<std::string> dataDirectories;
+};
+
 enum class HostFileKind { none, file, folder };
 
 /// The files of the user. Paths are absolute, in the file system's own bytes, parts joined by "/".
@@ -19,11 +28,18 @@ public:
     /// directories: `$XDG_DATA_HOME`, else `~/.local/share`); nothing when there is none.
     [[nodiscard]] virtual std::optional<std::string> applicationSupportDirectory() const = 0;
 
+    /// Where other programs keep what they share. Empty unless a host serves a real user: what it
+    /// leads to differs from machine to machine.
+    [[nodiscard]] virtual HostBaseDirectories baseDirectories() const { return {}; }
+
     /// What stands at a path, links followed.
     [[nodiscard]] virtual HostFileKind kindAtPath(const std::string& path) const = 0;
     /// A number that changes when the file, or the list of names in the folder, at a path does; 0
     /// when there is nothing. It tells only whether to look again.
     [[nodiscard]] virtual std::uint64_t versionAtPath(const std::string& path) const = 0;
+    /// Equal for two paths that lead to one file or folder, by links or not; empty when there is
+    /// nothing.
+    [[nodiscard]] virtual std::string identityAtPath(const std::string& path) const = 0;
     /// Makes one folder, readable by the user alone; its parent must exist.
     virtual bool createDirectory(const std::string& path) = 0;
     /// The names in a folder, sorted by their bytes; empty when it cannot be read.

@@ -83,6 +83,9 @@ int main(int argc, char** argv)
     QTemporaryDir scratch;
     if (options.screenshot) {
         // A picture is taken beside the user's own panel and settings, not with them.
+        // What other programs have installed must not show in it, either.
+        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"})
+            qputenv(variable, QFile::encodeName(scratch.path()));
         if (!options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(scratch.path()));
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {

@@ -20,6 +20,10 @@ public:
     {
         return _files->applicationSupportDirectory();
     }
+    [[nodiscard]] HostBaseDirectories baseDirectories() const override
+    {
+        return _files->baseDirectories();
+    }
     [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override
     {
         return _files->kindAtPath(path);
@@ -27,6 +31,10 @@ public:
     [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override
     {
         return _files->versionAtPath(path);
+    }
+    [[nodiscard]] std::string identityAtPath(const std::string& path) const override
+    {
+        return _files->identityAtPath(path);
     }
     bool createDirectory(const std::string& path) override { return _files->createDirectory(path); }
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(

@@ -38,6 +38,11 @@ std::uint64_t MemoryFiles::versionAtPath(const std::string& path) const
     return found == _entries.end() ? 0 : found->second.version;
 }
 
+std::string MemoryFiles::identityAtPath(const std::string& path) const
+{
+    return _entries.count(path) != 0 ? path : std::string();
+}
+
 bool MemoryFiles::put(const std::string& path, HostFileKind kind, const std::string& bytes)
 {
     const auto parent = _entries.find(parentOf(path));
@@ -76,6 +81,16 @@ std::optional<std::string> MemoryFiles::contentsAtPath(const std::string& path) 
 bool MemoryFiles::writeAtomically(const std::string& path, const std::string& bytes)
 {
     return kindAtPath(path) != HostFileKind::folder && put(path, HostFileKind::file, bytes);
+}
+
+void MemoryFiles::remove(const std::string& path)
+{
+    if (_entries.count(path) == 0) return;
+    std::erase_if(_entries, [&](const auto& entry) {
+        return entry.first == path || entry.first.starts_with(path + "/");
+    });
+    const auto parent = _entries.find(parentOf(path));
+    if (parent != _entries.end()) parent->second.version = ++_lastVersion;
 }
 
 std::vector<std::string> MemoryFiles::allPaths() const

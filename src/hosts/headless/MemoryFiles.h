@@ -15,14 +15,23 @@ public:
         std::optional<std::string> applicationSupportDirectory = "/home/user/.local/share");
 
     [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override;
+    [[nodiscard]] HostBaseDirectories baseDirectories() const override { return _baseDirectories; }
     [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override;
     [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override;
+    /// There are no links here, so the path itself.
+    [[nodiscard]] std::string identityAtPath(const std::string& path) const override;
     bool createDirectory(const std::string& path) override;
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(
         const std::string& path) const override;
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
 
+    void setBaseDirectories(HostBaseDirectories directories)
+    {
+        _baseDirectories = std::move(directories);
+    }
+    /// Removes a file, or a folder with all that is in it.
+    void remove(const std::string& path);
     /// From now on nothing can be made or written.
     void failWrites(bool fail) { _failWrites = fail; }
     /// Every file and folder, sorted.
@@ -38,6 +47,7 @@ private:
     bool put(const std::string& path, HostFileKind kind, const std::string& bytes);
 
     std::optional<std::string> _applicationSupportDirectory;
+    HostBaseDirectories _baseDirectories;
     std::map<std::string, Entry> _entries;
     std::uint64_t _lastVersion = 0;
     bool _failWrites = false;

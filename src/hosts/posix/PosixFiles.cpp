@@ -1,8 +1,9 @@
 #include "hosts/posix/PosixFiles.h"
 
+#include "hosts/posix/UserDirectories.h"
+
 #include <dirent.h>
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,29 +36,6 @@ public:
 private:
     int _value;
 };
-
-std::optional<std::string> homeDirectory()
-{
-    // The program has one thread when this is asked, at its start.
-    if (const char* home = std::getenv("HOME"); home != nullptr && home[0] == '/') return home;
-    std::array<char, 4096> buffer{};
-    passwd entry{};
-    passwd* found = nullptr;
-    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 ||
-        found == nullptr || entry.pw_dir == nullptr || entry.pw_dir[0] != '/') {
-        return std::nullopt;
-    }
-    return entry.pw_dir;
-}
-
-std::optional<std::string> userDataDirectory()
-{
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data != nullptr && data[0] == '/') return data;
-    auto home = homeDirectory();
-    if (home) *home += "/.local/share";
-    return home;
-}
 
 bool makeFolders(const std::string& path)
 {
@@ -104,7 +82,11 @@ void synchronizeFolder(const std::string& path)
 
 }  // namespace
 
-PosixFiles::PosixFiles() : _applicationSupportDirectory(userDataDirectory()) {}
+PosixFiles::PosixFiles()
+    : _baseDirectories(userBaseDirectories()),
+      _applicationSupportDirectory(_baseDirectories.dataHome)
+{
+}
 
 PosixFiles::PosixFiles(std::string applicationSupportDirectory)
     : _applicationSupportDirectory(std::move(applicationSupportDirectory))
@@ -143,6 +125,13 @@ std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
         version = (version ^ part) * 0x100000001b3U;
     }
     return version != 0 ? version : 1;
+}
+
+std::string PosixFiles::identityAtPath(const std::string& path) const
+{
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return {};
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
 }
 
 bool PosixFiles::createDirectory(const std::string& path)

@@ -11,16 +11,17 @@ public:
     /// and its size alone must not end the program.
     static constexpr std::uint64_t largestFile = std::uint64_t{64} << 20;
 
-    /// The user's data in `$XDG_DATA_HOME`, if that is an absolute path, else in `~/.local/share`
-    /// (XDG Base Directory Specification).
+    /// The files of the user who runs the program, by the environment (see `userBaseDirectories`).
     PosixFiles();
-    /// The user's data in a given folder.
+    /// The user's data in a given folder, and no base directories, whatever the environment says.
     explicit PosixFiles(std::string applicationSupportDirectory);
 
     /// Makes the folder when it is missing.
     [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override;
+    [[nodiscard]] HostBaseDirectories baseDirectories() const override { return _baseDirectories; }
     [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override;
     [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override;
+    [[nodiscard]] std::string identityAtPath(const std::string& path) const override;
     bool createDirectory(const std::string& path) override;
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(
         const std::string& path) const override;
@@ -32,6 +33,7 @@ public:
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
 
 private:
+    HostBaseDirectories _baseDirectories;
     std::optional<std::string> _applicationSupportDirectory;
 };
 

@@ -1,5 +1,7 @@
 #include "hosts/posix/PosixFiles.h"
 
+#include "ScopedEnvironment.h"
+
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -141,6 +143,25 @@ TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndTheFolder)
     EXPECT_NE(_files.versionAtPath(inFolder("file")), second);
 }
 
+TEST_F(PosixFilesTest, TheIdentityTellsWhatLinksLeadTo)
+{
+    _files.writeAtomically(inFolder("file"), "a");
+    _files.writeAtomically(inFolder("equal"), "a");
+    fs::create_symlink("file", inFolder("symbolic"));
+    fs::create_hard_link(inFolder("file"), inFolder("hard"));
+    fs::create_symlink("nowhere", inFolder("dangling"));
+    fs::create_directory_symlink(".", inFolder("here"));
+    const std::string identity = _files.identityAtPath(inFolder("file"));
+    EXPECT_FALSE(identity.empty());
+    for (const char* same : {"symbolic", "hard", "here/file", "here/here/hard"}) {
+        EXPECT_EQ(_files.identityAtPath(inFolder(same)), identity) << same;
+    }
+    EXPECT_NE(_files.identityAtPath(inFolder("equal")), identity);
+    EXPECT_EQ(_files.identityAtPath(inFolder("here")), _files.identityAtPath(_folder));
+    EXPECT_EQ(_files.identityAtPath(inFolder("dangling")), "");
+    EXPECT_EQ(_files.identityAtPath(inFolder("missing")), "");
+}
+
 TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
 {
     EXPECT_FALSE(_files.createDirectory(inFolder("a/b")));
@@ -152,11 +173,12 @@ TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
 
 TEST_F(PosixFilesTest, TheUsersDataIsWhereTheBaseDirectoriesSay)
 {
-    ::setenv("XDG_DATA_HOME", inFolder("data/deep").c_str(), 1);
+    ScopedEnvironment environment;
+    environment.set("XDG_DATA_HOME", inFolder("data/deep"));
     EXPECT_EQ(PosixFiles().applicationSupportDirectory(), inFolder("data/deep"));
     EXPECT_TRUE(fs::is_directory(inFolder("data/deep")));
-    ::setenv("XDG_DATA_HOME", "relative", 1);
-    ::setenv("HOME", inFolder("home").c_str(), 1);
+    environment.set("XDG_DATA_HOME", "relative");
+    environment.set("HOME", inFolder("home"));
     EXPECT_EQ(PosixFiles().applicationSupportDirectory(), inFolder("home/.local/share"));
 }
 

@@ -5,11 +5,13 @@
 
 int main(int argc, char** argv)
 {
-    // Nothing of the real user's is read or written.
+    // Nothing of the real user's is read or written, and nothing that other programs have installed.
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toLocal8Bit());
+    qputenv("XDG_DATA_DIRS", (home.path() + "/machine").toLocal8Bit());
+    qputenv("XDG_CONFIG_DIRS", (home.path() + "/machine").toLocal8Bit());
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);

@@ -1,0 +1,135 @@
+#include "colorlists/PaletteCatalogue.h"
+
+#include <algorithm>
+#include <set>
+
+namespace vantorel {
+namespace {
+
+std::u16string decimal(std::size_t number)
+{
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+std::u16string bracketedName(const PaletteCatalogue::Entry& entry, std::size_t number)
+{
+    std::u16string name = entry.listName + u" (" + entry.program;
+    if (number > 1) name += u' ' + decimal(number);
+    return name + u')';
+}
+
+/// The number behind the program's name in brackets, 1 where there is none; 0 when that is not what
+/// the name consists of.
+std::size_t numberInBrackets(std::u16string_view name, const PaletteCatalogue::Entry& entry)
+{
+    if (!name.starts_with(entry.listName)) return 0;
+    name.remove_prefix(entry.listName.size());
+    const std::u16string opening = u" (" + entry.program;
+    if (!name.starts_with(opening) || !name.ends_with(u')')) return 0;
+    name.remove_prefix(opening.size());
+    name.remove_suffix(1);
+    if (name.empty()) return 1;
+    constexpr std::size_t mostDigits = 9;
+    if (name.front() != u' ' || name.size() < 2 || name.size() > 1 + mostDigits) return 0;
+    std::size_t number = 0;
+    for (const char16_t c : name.substr(1)) {
+        if (c < u'0' || c > u'9') return 0;
+        number = number * 10 + (c - u'0');
+    }
+    return name[1] != u'0' && number > 1 ? number : 0;
+}
+
+bool haveSameEntries(const PaletteCatalogue::Entry& left, const PaletteCatalogue::Entry& right)
+{
+    const auto leftList = left.folder->listInFile(left.fileName);
+    const auto rightList = right.folder->listInFile(right.fileName);
+    if (!leftList || !rightList) return false;
+    if (leftList->allKeys() != rightList->allKeys()) return false;
+    for (std::size_t i = 0; i < leftList->allKeys().size(); ++i) {
+        if (leftList->colorAtIndex(i) != rightList->colorAtIndex(i)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+void PaletteCatalogue::rebuild(const std::vector<Source>& sources)
+{
+    _entries.clear();
+    _listed.clear();
+    for (const auto& [folder, program] : sources) {
+        for (const auto& [fileName, file] : folder->files()) {
+            if (!file.isPalette) continue;
+            _entries.push_back({folder, fileName, file.version, file.listName, program, false});
+        }
+    }
+    // Every name goes to its first holder before any is made up, so that none is taken from a list
+    // that is really called so.
+    std::set<std::string> reached;
+    std::vector<Entry*> rest;
+    for (Entry& entry : _entries) {
+        const std::string& identity = entry.folder->files().at(entry.fileName).identity;
+        if (!identity.empty() && !reached.insert(identity).second) continue;
+        entry.isListed = _listed.try_emplace(entry.listName, &entry).second;
+        if (!entry.isListed && !entry.program.empty()) rest.push_back(&entry);
+    }
+    listUnderOtherNames(rest);
+}
+
+void PaletteCatalogue::listUnderOtherNames(const std::vector<Entry*>& entries)
+{
+    std::map<std::u16string, std::vector<const Entry*>> listedWithName;
+    std::map<std::pair<std::u16string, std::u16string>, std::size_t> lastNumber;
+    for (Entry* entry : entries) {
+        auto& listed = listedWithName[entry->listName];
+        if (listed.empty()) listed.push_back(_listed.at(entry->listName));
+        const bool isKnown = std::any_of(listed.begin(), listed.end(), [&](const Entry* other) {
+            return haveSameEntries(*other, *entry);
+        });
+        if (isKnown) continue;
+        std::size_t& number = lastNumber[{entry->listName, entry->program}];
+        do {
+            ++number;
+        } while (!_listed.try_emplace(bracketedName(*entry, number), entry).second);
+        entry->isListed = true;
+        listed.push_back(entry);
+    }
+}
+
+std::vector<std::u16string> PaletteCatalogue::names() const
+{
+    std::vector<std::u16string> names;
+    names.reserve(_listed.size());
+    for (const auto& [name, entry] : _listed)
+        names.push_back(name);
+    return names;
+}
+
+const PaletteCatalogue::Entry* PaletteCatalogue::entryListedAs(const std::u16string& name) const
+{
+    const auto found = _listed.find(name);
+    return found != _listed.end() ? found->second : nullptr;
+}
+
+const PaletteCatalogue::Entry* PaletteCatalogue::entryOnceListedAs(const std::u16string& name) const
+{
+    const Entry* best = nullptr;
+    std::size_t left = 0;
+    for (const Entry& entry : _entries) {
+        if (entry.program.empty()) continue;
+        const std::size_t number = numberInBrackets(name, entry);
+        if (number == 0) continue;
+        if (!entry.isListed) {
+            // Equal to a list with the plain name now; better than nothing.
+            if (best == nullptr) best = &entry;
+            continue;
+        }
+        if (left == 0) left = number;
+        best = &entry;
+        if (--left == 0) break;
+    }
+    return best;
+}
+
+}  // namespace vantorel

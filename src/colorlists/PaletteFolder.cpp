@@ -1,0 +1,177 @@
+#include "colorlists/PaletteFolder.h"
+
+#include "colorlists/PaletteFile.h"
+#include "host/HostText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantorel {
+namespace {
+
+constexpr std::string_view gplEnding = ".gpl";
+constexpr std::array endings{gplEnding, std::string_view(".colors")};
+
+char lowerCase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// `ending` in lower case.
+bool endsIn(std::string_view fileName, std::string_view ending)
+{
+    return fileName.size() >= ending.size() &&
+           std::equal(ending.begin(), ending.end(), fileName.end() - ending.size(),
+                      [](char lower, char c) { return lower == lowerCase(c); });
+}
+
+/// As a menu shows it on one line.
+std::u16string tidied(std::u16string name)
+{
+    std::replace_if(
+        name.begin(), name.end(), [](char16_t c) { return c < 0x20 || c == 0x7F; }, u' ');
+    const std::size_t first = name.find_first_not_of(u' ');
+    if (first == std::u16string::npos) return {};
+    return name.substr(first, name.find_last_not_of(u' ') + 1 - first);
+}
+
+}  // namespace
+
+PaletteFolder::PaletteFolder(HostFiles& files, std::string path, Takes takes, Owner owner, Log log)
+    : _hostFiles(files), _path(std::move(path)), _takes(takes), _owner(owner), _log(std::move(log))
+{
+}
+
+std::string PaletteFolder::pathOfFile(const std::string& fileName) const
+{
+    return _path + "/" + fileName;
+}
+
+std::u16string PaletteFolder::fallbackListName(const std::string& fileName)
+{
+    std::string_view name = fileName;
+    for (const std::string_view ending : endings) {
+        if (!endsIn(name, ending)) continue;
+        name.remove_suffix(ending.size());
+        break;
+    }
+    return utf16FromUtf8(name);
+}
+
+bool PaletteFolder::hasChanged() const
+{
+    return _hostFiles.versionAtPath(_path) != _version;
+}
+
+std::optional<std::u16string> PaletteFolder::listNameIn(const std::string& bytes,
+                                                        const std::string& fileName) const
+{
+    const std::u16string fallback = fallbackListName(fileName);
+    auto name = paletteName(bytes, fallback);
+    if (!name || _owner == Owner::ourselves) return name;
+    name = tidied(*name);
+    return name->empty() ? fallback : name;
+}
+
+void PaletteFolder::refresh(const std::string& fileName, File& file)
+{
+    const std::string path = pathOfFile(fileName);
+    const std::uint64_t version = _hostFiles.versionAtPath(path);
+    if (version == file.version) return;
+    file = {};
+    file.version = version;
+    const auto bytes = _hostFiles.contentsAtPath(path);
+    auto name = bytes ? listNameIn(*bytes, fileName) : std::nullopt;
+    if (!name) return;
+    file.isPalette = true;
+    file.listName = std::move(*name);
+    file.identity = _hostFiles.identityAtPath(path);
+}
+
+void PaletteFolder::lookAgain()
+{
+    const std::uint64_t version = _hostFiles.versionAtPath(_path);
+    if (version != _version) {
+        _version = version;
+        std::map<std::string, File> found;
+        for (const std::string& name : _hostFiles.contentsOfDirectory(_path)) {
+            if (name.starts_with('.')) continue;
+            if (_takes == Takes::gplFiles && !endsIn(name, gplEnding)) continue;
+            // Files that stay keep what has been read of them.
+            auto known = _files.extract(name);
+            found[name] = known ? std::move(known.mapped()) : File{};
+        }
+        _files = std::move(found);
+    }
+    for (auto& [name, file] : _files)
+        refresh(name, file);
+}
+
+const PaletteFolder::File* PaletteFolder::lookAtFile(const std::string& fileName)
+{
+    auto found = _files.find(fileName);
+    if (found == _files.end()) {
+        if (_hostFiles.versionAtPath(pathOfFile(fileName)) == 0) return nullptr;
+        found = _files.try_emplace(fileName).first;
+        _version = 0;  // the other files have not been looked at
+    }
+    refresh(fileName, found->second);
+    return &found->second;
+}
+
+void PaletteFolder::load(const std::string& fileName, File& file)
+{
+    const auto bytes = _hostFiles.contentsAtPath(pathOfFile(fileName));
+    auto reading = bytes ? readPalette(*bytes, fallbackListName(fileName)) : std::nullopt;
+    // It has changed since the look at it; the next look will tell.
+    if (!reading || listNameIn(*bytes, fileName) != file.listName) return;
+    file.list = reading->list;
+    if (!_log) return;
+    const std::string prefix =
+        (_owner == Owner::anotherProgram ? pathOfFile(fileName) : fileName) + ": ";
+    for (const auto& [number, reason] : reading->skipped) {
+        std::string line = prefix;
+        line.append("line ").append(std::to_string(number)).append(" left out: ").append(reason);
+        _log(utf16FromUtf8(line));
+    }
+    if (reading->furtherSkippedLines > 0) {
+        std::string line = prefix;
+        line.append(std::to_string(reading->furtherSkippedLines)).append(" more lines left out");
+        _log(utf16FromUtf8(line));
+    }
+}
+
+std::shared_ptr<HostColorList> PaletteFolder::listInFile(const std::string& fileName)
+{
+    const auto found = _files.find(fileName);
+    if (found == _files.end() || !found->second.isPalette) return nullptr;
+    if (!found->second.list) load(fileName, found->second);
+    return found->second.list;
+}
+
+std::shared_ptr<HostColorList> PaletteFolder::listInFile(const std::string& fileName,
+                                                         const std::u16string& name)
+{
+    const auto list = listInFile(fileName);
+    if (!list || list->name() == name) return list;
+    auto& renamed = _files.at(fileName).renamedLists[name];
+    if (renamed) return renamed;
+    renamed = std::make_shared<HostColorList>(name);
+    for (std::size_t i = 0; i < list->allKeys().size(); ++i)
+        renamed->setColor(list->colorAtIndex(i), list->allKeys()[i]);
+    return renamed;
+}
+
+void PaletteFolder::setListInFile(const std::string& fileName, std::shared_ptr<HostColorList> list)
+{
+    const std::string path = pathOfFile(fileName);
+    File& file = _files[fileName];
+    file = {};
+    file.version = _hostFiles.versionAtPath(path);
+    file.isPalette = true;
+    file.listName = list->name();
+    file.identity = _hostFiles.identityAtPath(path);
+    file.list = std::move(list);
+}
+
+}  // namespace vantorel

@@ -1,0 +1,84 @@
+#include "hosts/posix/UserDirectories.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <string_view>
+
+namespace vantorel {
+namespace {
+
+std::string withoutEndSlash(std::string_view path)
+{
+    while (path.size() > 1 && path.ends_with('/'))
+        path.remove_suffix(1);
+    return std::string(path);
+}
+
+/// The absolute paths in a list that ":" separates; others have no meaning, says the specification.
+std::vector<std::string> absolutePaths(std::string_view list)
+{
+    std::vector<std::string> paths;
+    while (!list.empty()) {
+        const std::string_view path = list.substr(0, list.find(':'));
+        list.remove_prefix(path.size());
+        if (!list.empty()) list.remove_prefix(1);
+        if (!path.starts_with('/')) continue;
+        paths.push_back(withoutEndSlash(path));
+    }
+    return paths;
+}
+
+std::string_view environmentValue(const char* name)
+{
+    // The program has one thread when this is asked, at its start.
+    const char* value = std::getenv(name);
+    return value != nullptr ? std::string_view(value) : std::string_view();
+}
+
+std::vector<std::string> directories(const char* variable, std::string_view fallback)
+{
+    std::vector<std::string> paths = absolutePaths(environmentValue(variable));
+    return paths.empty() ? absolutePaths(fallback) : paths;
+}
+
+std::optional<std::string> homeDirectory()
+{
+    if (const std::string_view home = environmentValue("HOME"); home.starts_with('/')) {
+        return std::string(home);
+    }
+    std::array<char, 4096> buffer{};
+    passwd entry{};
+    passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 ||
+        found == nullptr || entry.pw_dir == nullptr || entry.pw_dir[0] != '/') {
+        return std::nullopt;
+    }
+    return entry.pw_dir;
+}
+
+/// One path, so a ":" in it is part of it.
+std::optional<std::string> userDirectory(const char* variable,
+                                         const std::optional<std::string>& home,
+                                         const char* pathInHome)
+{
+    const std::string_view path = environmentValue(variable);
+    if (path.starts_with('/')) return withoutEndSlash(path);
+    if (!home) return std::nullopt;
+    return *home + pathInHome;
+}
+
+}  // namespace
+
+HostBaseDirectories userBaseDirectories()
+{
+    const auto home = homeDirectory();
+    return {.configHome = userDirectory("XDG_CONFIG_HOME", home, "/.config"),
+            .dataHome = userDirectory("XDG_DATA_HOME", home, "/.local/share"),
+            .configDirectories = directories("XDG_CONFIG_DIRS", "/etc/xdg"),
+            .dataDirectories = directories("XDG_DATA_DIRS", "/usr/local/share:/usr/share")};
+}
+
+}  // namespace vantorel

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "hosts/headless/MemoryFiles.h"
+
+#include <set>
+#include <stdexcept>
+
+namespace vantorel {
+
+/// A user's files in memory on a machine with other programs, which count what is asked of them.
+class ForeignFiles final : public MemoryFiles {
+public:
+    static constexpr const char* ours = "/home/user/.local/share/Vantorel/Palettes/";
+
+    enum class Home { isThere, isMissing };
+
+    explicit ForeignFiles(Home home = Home::isThere) : _home(home)
+    {
+        HostBaseDirectories directories;
+        if (home == Home::isThere) {
+            directories.configHome = "/home/user/.config";
+            directories.dataHome = "/home/user/.local/share";
+        }
+        directories.configDirectories = {"/home/machine/etc/xdg"};
+        directories.dataDirectories = {"/home/machine/usr/local/share", "/home/machine/usr/share"};
+        setBaseDirectories(std::move(directories));
+    }
+
+    /// Writes a file and makes the folders that it needs.
+    void put(const std::string& path, const std::string& text)
+    {
+        for (std::size_t end = path.find('/', 1); end != std::string::npos;
+             end = path.find('/', end + 1)) {
+            createDirectory(path.substr(0, end));
+        }
+        if (!writeAtomically(path, text)) throw std::runtime_error("cannot write " + path);
+    }
+    /// A palette of one colour, whose name and shade tell which one it is.
+    void putPalette(const std::string& path, const std::string& name, int shade)
+    {
+        const std::string number = std::to_string(shade);
+        put(path, "GIMP Palette\nName: " + name + "\n" + number + " 0 0\tcolour " + number + "\n");
+    }
+    /// From now on a file or folder is there, but nothing can be read in it.
+    void makeUnreadable(const std::string& path) { _unreadable.insert(path); }
+
+    [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override
+    {
+        ++others;
+        return _home == Home::isThere ? MemoryFiles::applicationSupportDirectory() : std::nullopt;
+    }
+    [[nodiscard]] HostBaseDirectories baseDirectories() const override
+    {
+        ++others;
+        return MemoryFiles::baseDirectories();
+    }
+    [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override
+    {
+        ++versions;
+        return MemoryFiles::versionAtPath(path);
+    }
+    [[nodiscard]] std::vector<std::string> contentsOfDirectory(
+        const std::string& path) const override
+    {
+        ++listings;
+        if (_unreadable.contains(path)) return {};
+        return MemoryFiles::contentsOfDirectory(path);
+    }
+    [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override
+    {
+        readPaths.push_back(path);
+        if (_unreadable.contains(path)) return std::nullopt;
+        return MemoryFiles::contentsAtPath(path);
+    }
+
+    void resetCounts()
+    {
+        versions = listings = others = 0;
+        readPaths.clear();
+    }
+    mutable int versions = 0;
+    mutable int listings = 0;
+    mutable int others = 0;
+    mutable std::vector<std::string> readPaths;
+
+private:
+    Home _home;
+    std::set<std::string> _unreadable;
+};
+
+}  // namespace vantorel
