@@ -141,7 +141,7 @@ std::vector<std::u16string> PaletteFileStore::availableColorLists()
 std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u16string& name)
 {
     own.lookAgain();
-    const std::string usual = fileNameOfList(name);
+    std::string usual = fileNameOfList(name);
     // A name can hold more than a file tells; what counts is how it would be read there.
     const auto nameInFile = [&](const std::string& fileName) {
         return paletteName(paletteText(HostColorList(name)),

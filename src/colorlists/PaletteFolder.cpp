@@ -113,7 +113,6 @@ const PaletteFolder::File* PaletteFolder::lookAtFile(const std::string& fileName
     if (found == _files.end()) {
         if (_hostFiles.versionAtPath(pathOfFile(fileName)) == 0) return nullptr;
         found = _files.try_emplace(fileName).first;
-        _version = 0;  // the other files have not been looked at
     }
     refresh(fileName, found->second);
     return &found->second;
@@ -152,7 +151,7 @@ std::shared_ptr<HostColorList> PaletteFolder::listInFile(const std::string& file
 std::shared_ptr<HostColorList> PaletteFolder::listInFile(const std::string& fileName,
                                                          const std::u16string& name)
 {
-    const auto list = listInFile(fileName);
+    auto list = listInFile(fileName);
     if (!list || list->name() == name) return list;
     auto& renamed = _files.at(fileName).renamedLists[name];
     if (renamed) return renamed;

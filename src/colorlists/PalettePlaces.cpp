@@ -53,6 +53,14 @@ std::vector<std::string> pathsOfBase(const HostBaseDirectories& directories, Bas
     return {};
 }
 
+std::string pathIn(const std::string& folder, std::string_view name)
+{
+    std::string path = folder;
+    path += '/';
+    path += name;
+    return path;
+}
+
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -140,19 +148,18 @@ void PalettePlaces::findFolders()
         for (const std::string& base : pathsOfBase(directories, place.base)) {
             const std::size_t wildcard = place.path.find(versionWildcard);
             if (wildcard == std::string_view::npos) {
-                add(place, base + "/" + std::string(place.path));
+                add(place, pathIn(base, place.path));
                 continue;
             }
-            const std::string parent = base + "/" + std::string(place.path.substr(0, wildcard - 1));
+            const std::string parent = pathIn(base, place.path.substr(0, wildcard - 1));
+            const std::string_view rest = place.path.substr(wildcard + versionWildcard.size());
             // The version first: what changes behind it is seen at the next look.
             _versionsFolders.push_back({parent, _hostFiles.versionAtPath(parent)});
             std::vector<std::string> versions = _hostFiles.contentsOfDirectory(parent);
             std::erase_if(versions, [](const std::string& name) { return name.starts_with('.'); });
             std::sort(versions.begin(), versions.end(), isNewerVersion);
-            for (const std::string& version : versions) {
-                add(place, parent + "/" + version + "/" +
-                               std::string(place.path.substr(wildcard + versionWildcard.size())));
-            }
+            for (const std::string& version : versions)
+                add(place, pathIn(pathIn(parent, version), rest));
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "ForeignFiles.h"
 #include "colorlists/PaletteFile.h"
 #include "colorlists/PaletteFileStore.h"
+#include "host/HostText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -178,6 +179,19 @@ TEST_F(ForeignPalettesTest, WhatComesLaterIsFoundAtTheNextLook)
         EXPECT_NE(_store.colorListNamed(name), nullptr) << folder;
     }
     EXPECT_EQ(_store.availableColorLists().size(), newPlaces.size());
+}
+
+TEST_F(ForeignPalettesTest, WhatComesLaterCostsNoReadOfWhatWasThere)
+{
+    _files.putPalette(gimp + "a.gpl", "Reds", 1);
+    ASSERT_EQ(_store.availableColorLists().size(), 1U);
+    const std::string newVersion = "/home/machine/usr/share/gimp/3.0/palettes/b.gpl";
+    for (const std::string& late : {gimp + "b.gpl", newVersion, userGimp + "b.gpl"}) {
+        _files.putPalette(late, late, 2);
+        _files.resetCounts();
+        EXPECT_NE(_store.colorListNamed(utf16FromUtf8(late)), nullptr);
+        EXPECT_THAT(_files.readPaths, ElementsAre(late, late)) << "for the name and for the list";
+    }
 }
 
 TEST_F(ForeignPalettesTest, AFileThatChangesIsReadAgain)

@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <regex>
 #include <sstream>
 
 namespace vantorel {
@@ -28,11 +27,10 @@ std::vector<Row> rowsOf(const std::string& text)
 {
     std::vector<Row> rows;
     std::istringstream lines(text);
-    const std::regex row("^[ \t]*([0-9]+)[ \t]+([0-9]+)[ \t]+([0-9]+)([ \t\r].*)?$");
     for (std::string line; std::getline(lines, line);) {
-        std::smatch match;
-        if (!std::regex_match(line, match, row)) continue;
-        rows.push_back({std::stoi(match[1]), std::stoi(match[2]), std::stoi(match[3])});
+        Row row{};
+        std::istringstream fields(line);
+        if (fields >> row.red >> row.green >> row.blue) rows.push_back(row);
     }
     return rows;
 }

@@ -5,7 +5,7 @@
 
 int main(int argc, char** argv)
 {
-    // Nothing of the real user's is read or written, and nothing that other programs have installed.
+    // Nothing of the real user's is read or written, nor what other programs have installed read.
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
