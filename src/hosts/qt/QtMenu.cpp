@@ -2,22 +2,66 @@
 
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/TypeAhead.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QProxyStyle>
 
 namespace vantorel {
 namespace {
 
-/// The application's style with the two habits that long menus need.
+/// The application's style, but long menus scroll.
 class LongMenuStyle final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override
     {
-        if (hint == SH_Menu_KeyboardSearch || hint == SH_Menu_Scrollable) return 1;
-        return QProxyStyle::styleHint(hint, option, widget, returned);
+        return hint == SH_Menu_Scrollable ? 1
+                                          : QProxyStyle::styleHint(hint, option, widget, returned);
     }
+};
+
+class LongMenu final : public QMenu {
+public:
+    explicit LongMenu(QWidget* parent) : QMenu(parent)
+    {
+        auto* style = new LongMenuStyle;
+        style->setParent(this);
+        setStyle(style);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const QString typed = event->text();
+        const bool isSearch = !typed.isEmpty() && typed.at(0).isPrint() &&
+                              (typed.at(0) != u' ' || _typeAhead.isSearching()) &&
+                              (event->modifiers() & ~Qt::ShiftModifier) == 0;
+        if (isSearch) {
+            search(typed);
+        } else {
+            QMenu::keyPressEvent(event);
+        }
+    }
+
+private:
+    void search(const QString& typed)
+    {
+        const QList<QAction*> items = actions();
+        const int found =
+            _typeAhead.find(typed, static_cast<int>(items.indexOf(activeAction())),
+                            static_cast<int>(items.size()), [&](int index, const QString& start) {
+                                const QAction* item = items.at(index);
+                                QString title = item->text();
+                                title.replace(QStringLiteral("&&"), QStringLiteral("&"));
+                                return item->isEnabled() && !item->isSeparator() &&
+                                       title.startsWith(start, Qt::CaseInsensitive);
+                            });
+        if (found >= 0) setActiveAction(items.at(found));
+    }
+
+    TypeAhead _typeAhead;
 };
 
 /// "&" would make a mnemonic of the letter behind it.
@@ -26,19 +70,13 @@ QString menuTitle(const std::u16string& title)
     return qStringFrom(title).replace(u'&', QStringLiteral("&&"));
 }
 
-void prepare(QMenu& menu)
-{
-    auto* style = new LongMenuStyle;
-    style->setParent(&menu);
-    menu.setStyle(style);
-}
-
 void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuChoice& choose);
 
 void addSubmenu(QMenu& target, const HostMenuItem& item)
 {
-    QMenu* submenu = target.addMenu(menuTitle(item.title));
-    prepare(*submenu);
+    auto* submenu = new LongMenu(&target);
+    submenu->setTitle(menuTitle(item.title));
+    target.addMenu(submenu);
     submenu->setFont(target.font());
     QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, make = item.submenu] {
         submenu->clear();
@@ -78,10 +116,9 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
 
 QMenu* makeMenu(const HostMenu& items, int selected, QWidget& parent, const QtMenuChoice& choose)
 {
-    auto* menu = new QMenu(&parent);
+    auto* menu = new LongMenu(&parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setFont(parent.font());
-    prepare(*menu);
     fillMenu(*menu, items, selected, choose);
     const auto actions = menu->actions();
     if (selected >= 0 && selected < actions.size()) menu->setActiveAction(actions.at(selected));

@@ -4,9 +4,9 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtItemList.h"
 #include "hosts/qt/QtMenu.h"
+#include "hosts/qt/TypeAhead.h"
 
 #include <QAbstractButton>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -17,8 +17,6 @@ namespace vantorel {
 namespace {
 
 constexpr double defaultPointSize = 11;
-/// After this pause letters begin a new search.
-constexpr qint64 searchPause = 1000;
 
 bool canBeChosen(const HostMenuItem& item)
 {
@@ -122,27 +120,18 @@ private:
 
     void search(const QString& typed)
     {
-        if (!_searchTime.isValid() || _searchTime.elapsed() > searchPause) _searched.clear();
-        _searchTime.start();
-        const bool sameLetter = _searched == typed;
-        if (!sameLetter) _searched += typed;
-        const int count = _owner.numberOfItems();
-        const int first =
-            _owner.indexOfSelectedItem() + (sameLetter || _searched.size() == 1 ? 1 : 0);
-        for (int i = 0; i < count; ++i) {
-            const int index = (first + i + count) % count;
-            const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
-            if (canBeChosen(item) &&
-                qStringFrom(item.title).startsWith(_searched, Qt::CaseInsensitive)) {
-                _owner.chooseItem(index);
-                return;
-            }
-        }
+        const int found = _typeAhead.find(
+            typed, _owner.indexOfSelectedItem(), _owner.numberOfItems(),
+            [&](int index, const QString& start) {
+                const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
+                return canBeChosen(item) &&
+                       qStringFrom(item.title).startsWith(start, Qt::CaseInsensitive);
+            });
+        if (found >= 0) _owner.chooseItem(found);
     }
 
     QtPopUpButton& _owner;
-    QString _searched;
-    QElapsedTimer _searchTime;
+    TypeAhead _typeAhead;
 };
 
 QtPopUpButton::QtPopUpButton(const HostControlDescription& description)

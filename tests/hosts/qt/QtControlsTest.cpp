@@ -158,6 +158,31 @@ TEST_F(QtPopUpButtonTest, LettersFindAnItemOfTheMenu)
     EXPECT_EQ(_actions, 1);
 }
 
+TEST_F(QtPopUpButtonTest, LettersFindWhatBeginsSo)
+{
+    HostMenu menu;
+    for (const char16_t* title : {u"Browns & Yellows", u"Web", u"Web hues", u"Whites"})
+        menu.emplace_back().title = title;
+    menu.emplace_back().title = u"Add";
+    menu.back().submenu = [] { return HostMenu(); };
+    _popUp.setItems(menu);
+    struct Row {
+        const char* typed;
+        const char* found;
+    };
+    for (const auto& [typed, found] :
+         {Row{"web", "Web"}, Row{"web h", "Web hues"}, Row{"ww", "Web hues"},
+          Row{"browns & y", "Browns && Yellows"}, Row{"x", nullptr}}) {
+        QTest::keyClick(_popUp.widget(), Qt::Key_Space);
+        ASSERT_NE(openMenu(), nullptr);
+        openMenu()->setActiveAction(nullptr);
+        QTest::keyClicks(openMenu(), typed);
+        const QAction* active = openMenu()->activeAction();
+        EXPECT_EQ(active != nullptr ? active->text() : QString(), found) << typed;
+        openMenu()->close();
+    }
+}
+
 TEST_F(QtPopUpButtonTest, AnEmptySubmenuSaysSo)
 {
     HostMenu menu(1);
