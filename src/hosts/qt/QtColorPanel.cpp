@@ -1,13 +1,10 @@
 #include "hosts/qt/QtColorPanel.h"
 
-#include "hosts/qt/QtCanvas.h"
-#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtCustomView.h"
+#include "hosts/qt/QtDrag.h"
 #include "hosts/qt/QtTextField.h"
 
 #include <QCursor>
-#include <QDrag>
-#include <QMimeData>
 
 namespace vantorel {
 namespace {
@@ -59,16 +56,9 @@ void QtColorPanel::dragImage(const HostImage& image, const HostPasteboardItem& i
 {
     QWidget* widget = widgetOf(&source);
     if (widget == nullptr) return;
-    auto* data = new QMimeData;
-    if (const auto* text = std::get_if<std::string>(&item)) {
-        data->setText(QString::fromStdString(*text));
-    } else {
-        data->setColorData(qColorFrom(std::get<HostColor>(item)));
-    }
     const QPointer<QWidget> alive = widget;
-    auto* drag = new QDrag(widget);  // Qt deletes it when the drag has ended
-    drag->setMimeData(data);
-    drag->setPixmap(pixmapOfImage(image, widget->devicePixelRatioF()));
+    QDrag* drag = makeDrag(*widget, image, item);
+    if (drag == nullptr) return;
     drag->exec(Qt::CopyAction);
     if (!alive) return;
     if (auto* custom = dynamic_cast<QtCustomView*>(&source)) custom->forgetButton();
