@@ -141,6 +141,7 @@ void PanelWindow::showPage(int index)
     _pageButtons->button(index)->setChecked(true);
     _pageName->setText(page.name());
     page.show(*_holder);
+    pageDidAppear();
     page.setColor(_color);
     const QSize least = page.minimumSize() + QSize(0, topBarHeight + bottomBarHeight);
     setMinimumSize(least);

@@ -6,15 +6,19 @@
 
 #include <QCursor>
 
+#include <functional>
+
 namespace vantorel {
 namespace {
 
-void setAcceptsMouseMovedBelow(HostView* view, bool flag)
+/// Walks a view and those below it that are of a class.
+template <class View>
+void forEachBelow(HostView* view, const std::function<void(View&)>& visit)
 {
     if (view == nullptr) return;
-    if (auto* custom = dynamic_cast<QtCustomView*>(view)) custom->setAcceptsMouseMoved(flag);
+    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
     for (HostView* subview : view->subviews())
-        setAcceptsMouseMovedBelow(subview, flag);
+        forEachBelow(subview, visit);
 }
 
 }  // namespace
@@ -22,7 +26,17 @@ void setAcceptsMouseMovedBelow(HostView* view, bool flag)
 void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
 {
     _acceptsMouseMoved = flag;
-    setAcceptsMouseMovedBelow(pageView(), flag);
+    forEachBelow<QtCustomView>(pageView(),
+                               [flag](QtCustomView& view) { view.setAcceptsMouseMoved(flag); });
+}
+
+void QtColorPanel::pageDidAppear()
+{
+    forEachBelow<QtTextField>(pageView(), [this](QtTextField& field) {
+        field.setEntryGivenUp([this] {
+            if (const auto current = color()) setColor(*current);
+        });
+    });
 }
 
 HostPoint QtColorPanel::mouseLocation(const HostView& view) const
