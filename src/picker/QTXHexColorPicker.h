@@ -110,6 +110,8 @@ private:
     void awakeFromNib();
     void fillSettingsPopUps();
     void loadFullHex();
+    /// What the colours view shows, in words: code, name and mode.
+    [[nodiscard]] std::u16string colorsDescription() const;
 
     // Synchronising (QTXHexColorPickerSync.cpp).
     void syncExactness(const std::u16string& red, const std::u16string& green,

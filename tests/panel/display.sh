@@ -9,7 +9,12 @@ need() {
 need Xvfb xdotool
 
 scratch=$(mktemp -d)
-cleanup() { kill -9 $(jobs -p) 2> /dev/null; wait 2> /dev/null; rm -rf "$scratch"; }
+cleanup() {
+    kill $(jobs -p) 2> /dev/null || true
+    kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
+    wait 2> /dev/null || true
+    rm -rf "$scratch"
+}
 trap cleanup EXIT
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
 export XDG_RUNTIME_DIR="$scratch"

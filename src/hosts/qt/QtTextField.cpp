@@ -175,9 +175,9 @@ QtLabel::QtLabel(const HostControlDescription& description)
 {
     label()->setFont(describedFont(description));
     label()->setAlignment(describedAlignment(description));
-    label()->setText(qStringFrom(description.title));
     label()->setTextFormat(Qt::PlainText);
     label()->setAccessibleName(qStringFrom(description.accessibleName));
+    setStringValue(description.title);
 }
 
 QLabel* QtLabel::label() const
@@ -192,7 +192,10 @@ std::u16string QtLabel::stringValue() const
 
 void QtLabel::setStringValue(const std::u16string& text)
 {
-    label()->setText(qStringFrom(text));
+    const QString shown = qStringFrom(text);
+    label()->setText(shown);
+    // A label with a name of its own would hide from assistive technology what it shows.
+    if (label()->accessibleName() != shown) label()->setAccessibleDescription(shown);
 }
 
 void QtLabel::setTextColor(const HostColor& color)
