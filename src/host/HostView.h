@@ -2,8 +2,10 @@
 
 #include "host/HostGeometry.h"
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantorel {
@@ -62,6 +64,18 @@ public:
     void setToolTip(std::optional<std::u16string> text);
     [[nodiscard]] const std::optional<std::u16string>& toolTip() const { return _toolTip; }
 
+    using AccessibleDescription = std::function<std::u16string()>;
+    /// What assistive technology tells of the view's content besides its name. It is asked for when
+    /// somebody wants to know. Whoever changes the answer also has the view drawn again.
+    void setAccessibleDescription(AccessibleDescription description)
+    {
+        _accessibleDescription = std::move(description);
+    }
+    [[nodiscard]] std::optional<std::u16string> accessibleDescription() const
+    {
+        return _accessibleDescription ? std::optional(_accessibleDescription()) : std::nullopt;
+    }
+
     /// Marks the whole view for redrawing, or takes the mark away.
     void setNeedsDisplay(bool flag);
     /// Marks a part of the view, in its own coordinates.
@@ -86,6 +100,7 @@ private:
     std::vector<HostView*> _subviews;
     HostResizing _resizing;
     std::optional<std::u16string> _toolTip;
+    AccessibleDescription _accessibleDescription;
     bool _needsDisplay = true;
 };
 

@@ -1,5 +1,6 @@
 #include "panel/PanelWindow.h"
 
+#include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
@@ -25,6 +26,7 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     : QtColorPanel(desktop)
 {
     setWindowTitle(QStringLiteral("Colour"));
+    setAccessibleRole(*this, QAccessible::Window);
     makeBars();
     auto* place = new QWidget(this);
     _holder = std::make_unique<QtMirrored<HostView>>(HostRect{}, place);
@@ -62,7 +64,10 @@ void PanelWindow::makeBars()
     top->setSpacing(2);
     _pageButtons = new QButtonGroup(this);
     _pageButtons->setExclusive(true);
-    connect(_pageButtons, &QButtonGroup::idClicked, this, [this](int id) { showPage(id); });
+    // Not `idClicked`: assistive technology toggles without a click.
+    connect(_pageButtons, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked) showPage(id);
+    });
     _pageName = new QLabel(_topBar);
     _pageName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     _pageName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -76,6 +81,7 @@ void PanelWindow::makeBars()
     bottom->setSpacing(6);
     _well = new ColorWell(_bottomBar);
     _well->setFixedSize(44, 20);
+    setAccessibleRole(*_well, QAccessible::Graphic);
     _opacity = new QSlider(Qt::Horizontal, _bottomBar);
     _opacity->setRange(0, 100);
     _opacity->setMinimumWidth(30);
@@ -141,6 +147,7 @@ void PanelWindow::showPage(int index)
     _pageButtons->button(index)->setChecked(true);
     _pageName->setText(page.name());
     page.show(*_holder);
+    pageDidAppear();
     page.setColor(_color);
     const QSize least = page.minimumSize() + QSize(0, topBarHeight + bottomBarHeight);
     setMinimumSize(least);

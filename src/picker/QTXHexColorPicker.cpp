@@ -58,6 +58,7 @@ bool QTXHexColorPicker::loadInterface()
     if (!interface || !connectOutlets(*interface)) return false;
     _interface = std::move(interface);
     _hexColorsView.attachToView(_hexColorsViewOutlet);
+    _hexColorsViewOutlet->setAccessibleDescription([this] { return colorsDescription(); });
     _hexSettingsView.attachToView(_hexSettingsViewOutlet);
     EnterTextFieldDelegate& delegate = *this;
     _hexEnterTextField = std::make_unique<QTXHexEnterTextField>(*_fullHexText, delegate);
@@ -147,6 +148,13 @@ std::optional<HostColor> QTXHexColorPicker::colorRespectingAlpha(
     const auto panelColor = colorPanel().color();
     const double alpha = panelColor ? panelColor->alphaComponent() : 1.0;
     return 1.0 - alpha > 0.01 ? color->colorWithAlphaComponent(alpha) : *color;
+}
+
+std::u16string QTXHexColorPicker::colorsDescription() const
+{
+    std::u16string text = dragStringWithDragType(CodeDragType::hexCode).value_or(u"");
+    if (const auto name = selectedTitle(hexColorNamePopUp)) text += u", " + *name;
+    return text + u", " + stringFromPickViewMode(_hexSettings.pickViewMode());
 }
 
 void QTXHexColorPicker::loadFullHex()

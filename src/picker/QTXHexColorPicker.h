@@ -113,6 +113,8 @@ private:
     void awakeFromNib();
     void fillSettingsPopUps();
     void loadFullHex();
+    /// What the colours view shows, in words: code, name and mode.
+    [[nodiscard]] std::u16string colorsDescription() const;
 
     // Texts (QTXHexColorPickerTexts.cpp).
     [[nodiscard]] QTXHexColorSpec colorSpecWithPanelAlpha() const;

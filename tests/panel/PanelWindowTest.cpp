@@ -49,6 +49,33 @@ TEST_F(PanelWindowTest, ATypedCodeChangesThePanel)
     EXPECT_EQ(field->text(), "#FF8800");
 }
 
+TEST_F(PanelWindowTest, EscapeInAFieldShowsTheColourAgainInEveryField)
+{
+    // A third is no colour of eight bits; Escape must not round it.
+    const HostColor color = HostColor::colorWithCalibratedRed(1 / 3.0, 128 / 255.0, 0, 0.5);
+    struct Row {
+        const char* field;
+        const char* typed;
+    };
+    for (const Row& row : {Row{"_fullHexText", "12"}, Row{"_rgbDecimalText", "nav"},
+                           Row{"_redHexText", "7"}, Row{"_blueHexText", "zz"}}) {
+        SCOPED_TRACE(row.field);
+        _window->chooseColor(color);
+        auto* field = child<QLineEdit>(row.field);
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, row.typed);
+        QTest::keyClick(field, Qt::Key_Escape);
+        EXPECT_EQ(text("_fullHexText"), "#558000");
+        EXPECT_EQ(text("_rgbDecimalText"), "RGB(85, 128, 0);");
+        EXPECT_EQ(text("_redHexText"), "55");
+        EXPECT_EQ(text("_greenHexText"), "80");
+        EXPECT_EQ(text("_blueHexText"), "00");
+        EXPECT_EQ(_window->hostPanel().color(), color);
+        EXPECT_TRUE(_window->isVisible());
+    }
+}
+
 TEST_F(PanelWindowTest, TheOpacityIsThePanelsAlpha)
 {
     auto* slider = _window->findChild<QSlider*>();

@@ -10,6 +10,8 @@
 #include <QSvgRenderer>
 #include <QToolButton>
 
+#include <utility>
+
 namespace vantorel {
 namespace {
 
@@ -77,8 +79,14 @@ QtButton::QtButton(const HostControlDescription& description)
     shown->setIcon(iconFromSvg(description.svgImage, shown));
     shown->setIconSize(QSize(iconSize, iconSize));
     shown->setAccessibleName(qStringFrom(description.accessibleName));
-    QObject::connect(shown, &QAbstractButton::clicked, shown, [this](bool checked) {
-        if (button()->isCheckable()) setState(checked ? 1 : 0);
+    if (!shown->isCheckable()) {
+        QObject::connect(shown, &QAbstractButton::clicked, shown, [this] { sendAction(); });
+        return;
+    }
+    // Not `clicked`: assistive technology toggles without a click.
+    QObject::connect(shown, &QAbstractButton::toggled, shown, [this](bool checked) {
+        if (_stateIsBeingShown) return;
+        setState(checked ? 1 : 0);
         sendAction();
         // The action may have decided otherwise.
         stateDidChange();
@@ -92,7 +100,10 @@ QAbstractButton* QtButton::button() const
 
 void QtButton::stateDidChange()
 {
-    if (button()->isCheckable()) button()->setChecked(state() == 1);
+    if (!button()->isCheckable()) return;
+    const bool wasBeingShown = std::exchange(_stateIsBeingShown, true);
+    button()->setChecked(state() == 1);
+    _stateIsBeingShown = wasBeingShown;
 }
 
 }  // namespace vantorel

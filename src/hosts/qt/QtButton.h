@@ -18,6 +18,8 @@ protected:
 
 private:
     [[nodiscard]] QAbstractButton* button() const;
+
+    bool _stateIsBeingShown = false;
 };
 
 /// An icon from a picture in SVG that says `currentColor` where it takes the text colour of the

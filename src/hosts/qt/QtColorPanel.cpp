@@ -1,23 +1,24 @@
 #include "hosts/qt/QtColorPanel.h"
 
-#include "hosts/qt/QtCanvas.h"
-#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtCustomView.h"
+#include "hosts/qt/QtDrag.h"
 #include "hosts/qt/QtTextField.h"
 
 #include <QCursor>
-#include <QDrag>
-#include <QMimeData>
+
+#include <functional>
 
 namespace vantorel {
 namespace {
 
-void setAcceptsMouseMovedBelow(HostView* view, bool flag)
+/// Walks a view and those below it that are of a class.
+template <class View>
+void forEachBelow(HostView* view, const std::function<void(View&)>& visit)
 {
     if (view == nullptr) return;
-    if (auto* custom = dynamic_cast<QtCustomView*>(view)) custom->setAcceptsMouseMoved(flag);
+    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
     for (HostView* subview : view->subviews())
-        setAcceptsMouseMovedBelow(subview, flag);
+        forEachBelow(subview, visit);
 }
 
 }  // namespace
@@ -25,7 +26,17 @@ void setAcceptsMouseMovedBelow(HostView* view, bool flag)
 void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
 {
     _acceptsMouseMoved = flag;
-    setAcceptsMouseMovedBelow(pageView(), flag);
+    forEachBelow<QtCustomView>(pageView(),
+                               [flag](QtCustomView& view) { view.setAcceptsMouseMoved(flag); });
+}
+
+void QtColorPanel::pageDidAppear()
+{
+    forEachBelow<QtTextField>(pageView(), [this](QtTextField& field) {
+        field.setEntryGivenUp([this] {
+            if (const auto current = color()) setColor(*current);
+        });
+    });
 }
 
 HostPoint QtColorPanel::mouseLocation(const HostView& view) const
@@ -59,16 +70,9 @@ void QtColorPanel::dragImage(const HostImage& image, const HostPasteboardItem& i
 {
     QWidget* widget = widgetOf(&source);
     if (widget == nullptr) return;
-    auto* data = new QMimeData;
-    if (const auto* text = std::get_if<std::string>(&item)) {
-        data->setText(QString::fromStdString(*text));
-    } else {
-        data->setColorData(qColorFrom(std::get<HostColor>(item)));
-    }
     const QPointer<QWidget> alive = widget;
-    auto* drag = new QDrag(widget);  // Qt deletes it when the drag has ended
-    drag->setMimeData(data);
-    drag->setPixmap(pixmapOfImage(image, widget->devicePixelRatioF()));
+    QDrag* drag = makeDrag(*widget, image, item);
+    if (drag == nullptr) return;
     drag->exec(Qt::CopyAction);
     if (!alive) return;
     if (auto* custom = dynamic_cast<QtCustomView*>(&source)) custom->forgetButton();

@@ -25,6 +25,9 @@ public:
 protected:
     /// The view that shows the current page; moves of the mouse are switched on and off below it.
     [[nodiscard]] virtual HostView* pageView() const = 0;
+    /// To be called when a page has come on show: lets Escape in its text fields show the panel's
+    /// colour again.
+    void pageDidAppear();
 
 private:
     QtDesktop& _desktop;

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtInterfaceFactory.h"
 
+#include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtButton.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtCustomView.h"
@@ -23,13 +24,16 @@ std::unique_ptr<HostView> QtInterfaceFactory::makeView(const HostControlDescript
 {
     auto view = std::make_unique<QtMirrored<HostView>>(description.frame, new QWidget);
     view->widget()->setAccessibleName(qStringFrom(description.accessibleName));
+    setAccessibleRole(*view->widget(), QAccessible::Grouping);
     return named(std::move(view), description);
 }
 
 std::unique_ptr<HostCustomView> QtInterfaceFactory::makeCustomView(
     const HostControlDescription& description, HostViewContent& content)
 {
-    return named(std::make_unique<QtCustomView>(description, content), description);
+    auto view = named(std::make_unique<QtCustomView>(description, content), description);
+    describeCustomView(*view->widget(), *view);
+    return view;
 }
 
 std::unique_ptr<HostTextField> QtInterfaceFactory::makeTextField(
@@ -50,7 +54,9 @@ std::unique_ptr<HostButton> QtInterfaceFactory::makeButton(
 std::unique_ptr<HostPopUpButton> QtInterfaceFactory::makePopUpButton(
     const HostControlDescription& description)
 {
-    return named(std::make_unique<QtPopUpButton>(description), description);
+    auto popUp = named(std::make_unique<QtPopUpButton>(description), description);
+    describePopUpButton(*popUp->widget(), *popUp);
+    return popUp;
 }
 
 }  // namespace vantorel

@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -47,9 +49,11 @@ QColor readableTextColor(const HostColor& color, const QPalette& palette)
                             std::max(readableLightness, wanted.lightnessF()));
 }
 
-/// A line edit whose text colour follows the theme.
+/// A line edit whose text colour follows the theme, and which can be left by Escape.
 class QtTextField::LineEdit final : public QLineEdit {
 public:
+    explicit LineEdit(QtTextField& owner) : _owner(owner) {}
+
     void setHostColor(const HostColor& color)
     {
         if (_color == color) return;
@@ -58,6 +62,29 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override
+    {
+        // Said before shortcuts are looked for: in a field Escape ends the entry and nothing else,
+        // also where it would close the window.
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+            event->accept();
+            return true;
+        }
+        return QLineEdit::event(event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!event->matches(QKeySequence::Cancel)) {
+            QLineEdit::keyPressEvent(event);
+        } else if (_owner._entryGivenUp) {
+            // A copy: the reaction may set another one.
+            const auto reaction = _owner._entryGivenUp;
+            reaction();
+        }
+    }
+
     void changeEvent(QEvent* event) override
     {
         QLineEdit::changeEvent(event);
@@ -75,19 +102,23 @@ private:
         _applying = false;
     }
 
+    QtTextField& _owner;
     std::optional<HostColor> _color;
     bool _applying = false;
 };
 
 QtTextField::QtTextField(const HostControlDescription& description)
-    : QtMirrored(description.frame, new LineEdit)
+    : QtMirrored(description.frame, new LineEdit(*this))
 {
     QLineEdit* edit = lineEdit();
     edit->setFont(describedFont(description));
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));
-    QObject::connect(edit, &QLineEdit::textEdited, edit, [this] { sendTextDidChange(); });
+    // Not `textEdited`: what an assistive program enters for the user counts as typed, too.
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
+        if (!_textIsBeingSet) sendTextDidChange();
+    });
     QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { sendAction(); });
 }
 
@@ -107,7 +138,9 @@ void QtTextField::setStringValue(const std::u16string& text)
     const QString newText = qStringFrom(text);
     if (edit->text() == newText) return;
     const int insertionPoint = isEdited() ? edit->cursorPosition() : 0;
+    const bool wasBeingSet = std::exchange(_textIsBeingSet, true);
     edit->setText(newText);
+    _textIsBeingSet = wasBeingSet;
     edit->setCursorPosition(insertionPoint);
 }
 
@@ -142,9 +175,9 @@ QtLabel::QtLabel(const HostControlDescription& description)
 {
     label()->setFont(describedFont(description));
     label()->setAlignment(describedAlignment(description));
-    label()->setText(qStringFrom(description.title));
     label()->setTextFormat(Qt::PlainText);
     label()->setAccessibleName(qStringFrom(description.accessibleName));
+    setStringValue(description.title);
 }
 
 QLabel* QtLabel::label() const
@@ -159,7 +192,10 @@ std::u16string QtLabel::stringValue() const
 
 void QtLabel::setStringValue(const std::u16string& text)
 {
-    label()->setText(qStringFrom(text));
+    const QString shown = qStringFrom(text);
+    label()->setText(shown);
+    // A label with a name of its own would hide from assistive technology what it shows.
+    if (label()->accessibleName() != shown) label()->setAccessibleDescription(shown);
 }
 
 void QtLabel::setTextColor(const HostColor& color)

@@ -21,10 +21,16 @@ public:
     void setSelectedRange(HostSelection range) override;
     /// Whether the user is in the field.
     [[nodiscard]] bool isEdited() const;
+    /// Called when the user gives the entry up (Escape). What was there before is the panel's to
+    /// know: other fields may have followed the typing.
+    void setEntryGivenUp(std::function<void()> reaction) { _entryGivenUp = std::move(reaction); }
 
 private:
     class LineEdit;
     [[nodiscard]] QLineEdit* lineEdit() const;
+
+    std::function<void()> _entryGivenUp;
+    bool _textIsBeingSet = false;
 };
 
 /// A text that is only shown.

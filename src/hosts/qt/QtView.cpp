@@ -36,7 +36,13 @@ void placeWidgets(const HostView& view)
 {
     QWidget* widget = widgetOf(&view);
     if (widget != nullptr && view.superview() != nullptr) {
-        widget->setGeometry(widgetGeometry(view.frame(), view.superview()->bounds()));
+        const QRect place = widgetGeometry(view.frame(), view.superview()->bounds());
+        widget->setGeometry(place);
+        // The core puts out of sight what it does not show just now, beside its superview. There
+        // neither Tab nor assistive technology shall find it.
+        const HostSize superview = view.superview()->bounds().size();
+        const QRectF shown(0, 0, superview.width, superview.height);
+        widget->setVisible(widget->parentWidget() != nullptr && shown.intersects(place));
     }
     // With y up, what keeps its frame moves in Qt's coordinates when the superview's height
     // changes.
@@ -50,7 +56,7 @@ void adoptWidget(const HostView& view)
     if (widget == nullptr) return;
     QWidget* parent = widgetOf(view.superview());
     widget->setParent(parent);
-    widget->setVisible(parent != nullptr);
+    if (parent == nullptr) widget->setVisible(false);
     placeWidgets(view);
 }
 

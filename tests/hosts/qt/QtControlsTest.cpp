@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QMenu>
+#include <QShortcut>
 #include <QTest>
 
 namespace vantorel {
@@ -58,6 +61,79 @@ TEST_F(QtTextFieldTest, ThePasteCountsAsTyping)
     edit()->selectAll();
     edit()->insert("navy");
     EXPECT_EQ(_changes, 1);
+}
+
+TEST_F(QtTextFieldTest, APasteFromTheClipboardCountsOnce)
+{
+    QApplication::clipboard()->setText("rgb(1, 2, 3)");
+    QTest::keyClick(edit(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(_field.stringValue(), u"rgb(1, 2, 3)");
+    EXPECT_EQ(_changes, 1);
+    QTest::keyClick(edit(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(_field.stringValue(), u"");
+    EXPECT_EQ(_changes, 2) << "so does taking it back";
+}
+
+TEST_F(QtTextFieldTest, AnInputMethodCountsWhenItCommits)
+{
+    QInputMethodEvent composing(QStringLiteral("nav"), {});
+    QApplication::sendEvent(edit(), &composing);
+    EXPECT_EQ(_changes, 0);
+    EXPECT_EQ(_field.stringValue(), u"");
+    QInputMethodEvent committing;
+    committing.setCommitString(QStringLiteral("navy"));
+    QApplication::sendEvent(edit(), &committing);
+    EXPECT_EQ(_changes, 1);
+    EXPECT_EQ(_field.stringValue(), u"navy");
+}
+
+TEST_F(QtTextFieldTest, WhatAnAssistiveProgramEntersCountsAsTyping)
+{
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(edit());
+    ASSERT_NE(accessible, nullptr);
+    ASSERT_NE(accessible->editableTextInterface(), nullptr);
+    accessible->editableTextInterface()->insertText(0, QStringLiteral("navy"));
+    EXPECT_EQ(_field.stringValue(), u"navy");
+    EXPECT_EQ(_changes, 1);
+}
+
+TEST_F(QtTextFieldTest, AReactionMaySetTheText)
+{
+    _field.setTextDidChange([this] {
+        ++_changes;
+        _field.setStringValue(u"navy");
+    });
+    QTest::keyClicks(edit(), "n");
+    EXPECT_EQ(_field.stringValue(), u"navy");
+    EXPECT_EQ(_changes, 1);
+}
+
+TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
+{
+    class Window final : public QWidget {
+    public:
+        int _keys = 0;
+
+    protected:
+        void keyPressEvent(QKeyEvent*) override { ++_keys; }
+    };
+    Window window;
+    edit()->setParent(&window);
+    window.show();
+    int shortcuts = 0;
+    QShortcut closing(QKeySequence(Qt::Key_Escape), &window, [&] { ++shortcuts; });
+    int givenUp = 0;
+    _field.setEntryGivenUp([&] { ++givenUp; });
+    QApplication::setActiveWindow(&window);
+    edit()->setFocus();
+    QTest::keyClicks(edit(), "12");
+    QTest::keyClick(edit(), Qt::Key_Escape);
+    EXPECT_EQ(givenUp, 1);
+    EXPECT_EQ(_actions, 0);
+    EXPECT_EQ(window._keys, 0);
+    EXPECT_EQ(shortcuts, 0);
+    EXPECT_TRUE(window.isVisible());
+    edit()->setParent(nullptr);
 }
 
 TEST_F(QtTextFieldTest, TheInsertionPointStaysWhenTheTextIsSetWhileTyping)

@@ -1,0 +1,52 @@
+/// A program with a text field and a colour dialog, to drop things on. It prints what they hold
+/// whenever that changes, after a line with the places of both on the screen.
+#include <QApplication>
+#include <QColorDialog>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <cstdio>
+
+namespace {
+
+void print(const QString& line)
+{
+    std::puts(line.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+QString middleOf(const QWidget* widget)
+{
+    const QPoint middle = widget->mapToGlobal(widget->rect().center());
+    return QStringLiteral("%1 %2").arg(middle.x()).arg(middle.y());
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("Qt target"));
+    auto* text = new QLineEdit(&window);
+    auto* dialog = new QColorDialog(Qt::white, &window);
+    dialog->setWindowFlags(Qt::Widget);
+    dialog->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog);
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(text);
+    layout->addWidget(dialog);
+    QObject::connect(text, &QLineEdit::textChanged, text,
+                     [](const QString& now) { print(QStringLiteral("text ") + now); });
+    QObject::connect(dialog, &QColorDialog::currentColorChanged, dialog,
+                     [](const QColor& now) { print(QStringLiteral("color ") + now.name()); });
+    window.move(400, 20);
+    window.show();
+    QApplication::processEvents();
+    // The dialog's large swatch takes colours.
+    for (const QWidget* child : dialog->findChildren<QWidget*>()) {
+        if (qstrcmp(child->metaObject()->className(), "QColorShowLabel") == 0) {
+            print(QStringLiteral("places %1 %2").arg(middleOf(text), middleOf(child)));
+        }
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,50 @@
+# What the tests on a real window share: an X server, a home and a panel of their own. To be sourced,
+# with `panel` set to the program.
+
+need() {
+    for tool in "$@"; do
+        command -v "$tool" > /dev/null || { echo "skipped: $tool is missing"; exit 77; }
+    done
+}
+need Xvfb xdotool
+
+scratch=$(mktemp -d)
+cleanup() {
+    kill $(jobs -p) 2> /dev/null || true
+    kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
+    wait 2> /dev/null || true
+    rm -rf "$scratch"
+}
+trap cleanup EXIT
+export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
+export XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine"
+export XDG_RUNTIME_DIR="$scratch"
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+
+fail() { echo "$1" >&2; cat "$scratch"/*.log >&2; exit 1; }
+
+# Runs a command until it succeeds; false when it has not within ten seconds.
+eventually() {
+    for _ in $(seq 100); do "$@" && return; sleep 0.1; done
+    return 1
+}
+
+Xvfb -displayfd 3 -screen 0 1000x800x24 3> "$scratch/display" > "$scratch/xvfb.log" 2>&1 &
+eventually test -s "$scratch/display" || fail "no X server has come"
+export DISPLAY=":$(cat "$scratch/display")"
+
+# start_panel OPTION...: sets `panel_id` and `window`; the page is 260 by 340.
+start_panel() {
+    "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
+    panel_id=$!
+    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Colour$' | head -n 1)
+    [ -n "$window" ] || fail "no window has come"
+}
+
+# Waits until the last colour printed is the one given.
+color_is() { [ "$(tail -n 1 "$scratch/colors")" = "$1" ]; }
+expect_color() { eventually color_is "$1" || fail "$2: $(tail -n 1 "$scratch/colors"), not $1"; }
+
+# The page is below a bar of 32; the colours view is 240 by 226 at (10, 54) of the page. The middle
+# of column c and row r of its digit matrix; columns 0, 2, 4 and so on are the gaps.
+cell() { echo "$((10 + 1 + (238 * (2 * $1 + 1)) / 30)) $((32 + 54 + 226 - 6 - (214 * (2 * $2 + 1)) / 32))"; }
