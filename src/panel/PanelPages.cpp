@@ -3,6 +3,7 @@
 #include "hosts/qt/QtButton.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QSignalBlocker>
 
@@ -86,7 +87,8 @@ void PluginPage::resize(HostSize size)
         _picker->viewSizeChanged(_view);
     }
     if (_message) {
-        _message->setGeometry(0, 0, static_cast<int>(size.width), static_cast<int>(size.height));
+        _message->setGeometry(0, 0, qRound(size.width * textScale()),
+                              qRound(size.height * textScale()));
     }
 }
 
@@ -122,7 +124,7 @@ QIcon DialogPage::icon() const
 
 QSize DialogPage::minimumSize() const
 {
-    return _dialog ? _dialog->sizeHint() : QSize(0, 0);
+    return _dialog ? _dialog->sizeHint() / textScale() : QSize(0, 0);
 }
 
 void DialogPage::show(HostView& holder)
@@ -149,7 +151,8 @@ void DialogPage::hide()
 void DialogPage::resize(HostSize size)
 {
     if (_dialog) {
-        _dialog->setGeometry(0, 0, static_cast<int>(size.width), static_cast<int>(size.height));
+        _dialog->setGeometry(0, 0, qRound(size.width * textScale()),
+                             qRound(size.height * textScale()));
     }
 }
 

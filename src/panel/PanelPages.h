@@ -24,6 +24,7 @@ public:
     [[nodiscard]] virtual QString name() const = 0;
     [[nodiscard]] virtual QString toolTip() const = 0;
     [[nodiscard]] virtual QIcon icon() const = 0;
+    /// In points.
     [[nodiscard]] virtual QSize minimumSize() const = 0;
 
     /// Puts the page into its place, `holder`, which has its final size.

@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -14,10 +15,21 @@
 namespace vantorel {
 namespace {
 
-constexpr int topBarHeight = 32;
-constexpr int bottomBarHeight = 30;
-constexpr int problemsHeight = 20;
+// In points, as the pages are.
+constexpr int topBarPoints = 32;
+constexpr int bottomBarPoints = 30;
+constexpr int problemsPoints = 20;
 constexpr QSize firstPageSize{260, 340};
+
+int scaled(int points)
+{
+    return qRound(points * textScale());
+}
+
+QSize scaled(QSize points)
+{
+    return {scaled(points.width()), scaled(points.height())};
+}
 
 }  // namespace
 
@@ -80,7 +92,7 @@ void PanelWindow::makeBars()
     bottom->setContentsMargins(10, 3, 10, 7);
     bottom->setSpacing(6);
     _well = new ColorWell(_bottomBar);
-    _well->setFixedSize(44, 20);
+    _well->setFixedSize(scaled(QSize(44, 20)));
     setAccessibleRole(*_well, QAccessible::Graphic);
     _opacity = new QSlider(Qt::Horizontal, _bottomBar);
     _opacity->setRange(0, 100);
@@ -106,7 +118,7 @@ void PanelWindow::makeBars()
 
 void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
 {
-    constexpr int iconSize = 18;
+    const int iconSize = scaled(18);
     auto* button = new QToolButton(_topBar);
     button->setAutoRaise(true);
     button->setCheckable(true);
@@ -149,7 +161,7 @@ void PanelWindow::showPage(int index)
     page.show(*_holder);
     pageDidAppear();
     page.setColor(_color);
-    const QSize least = page.minimumSize() + QSize(0, topBarHeight + bottomBarHeight);
+    const QSize least = scaled(page.minimumSize() + QSize(0, topBarPoints + bottomBarPoints));
     setMinimumSize(least);
     resize(size().expandedTo(least));
     layOut();
@@ -203,7 +215,7 @@ void PanelWindow::showProblems(const std::vector<std::string>& problems)
 
 void PanelWindow::resizeToPage(QSize page)
 {
-    resize(page + QSize(0, topBarHeight + bottomBarHeight));
+    resize(scaled(page + QSize(0, topBarPoints + bottomBarPoints)));
     layOut();
 }
 
@@ -212,16 +224,18 @@ HostRect PanelWindow::frame() const
     const QRect place = geometry();
     const QScreen* shownOn = screen();
     const int screenBottom = shownOn != nullptr ? shownOn->geometry().bottom() + 1 : 0;
-    return {static_cast<double>(place.x()),
-            static_cast<double>(screenBottom - place.y() - place.height()),
-            static_cast<double>(place.width()), static_cast<double>(place.height())};
+    const double scale = textScale();
+    return {place.x() / scale, (screenBottom - place.y() - place.height()) / scale,
+            place.width() / scale, place.height() / scale};
 }
 
 void PanelWindow::setFrame(HostRect wanted, bool)
 {
     const HostRect old = frame();
-    const QSize newSize(qRound(wanted.width), qRound(wanted.height));
-    const QPoint moved(qRound(wanted.x - old.x), qRound(old.maxY() - wanted.maxY()));
+    const double scale = textScale();
+    const QSize newSize(qRound(wanted.width * scale), qRound(wanted.height * scale));
+    const QPoint moved(qRound((wanted.x - old.x) * scale),
+                       qRound((old.maxY() - wanted.maxY()) * scale));
     if (!moved.isNull()) move(pos() + moved);
     resize(newSize);
     layOut();
@@ -229,12 +243,14 @@ void PanelWindow::setFrame(HostRect wanted, bool)
 
 void PanelWindow::layOut()
 {
-    const int problems = _problems->isVisibleTo(this) ? problemsHeight : 0;
+    const int topBarHeight = scaled(topBarPoints);
+    const int bottomBarHeight = scaled(bottomBarPoints);
+    const int problems = _problems->isVisibleTo(this) ? scaled(problemsPoints) : 0;
     const int pageHeight = std::max(0, height() - topBarHeight - bottomBarHeight - problems);
     _topBar->setGeometry(0, 0, width(), topBarHeight);
     _bottomBar->setGeometry(0, topBarHeight + pageHeight, width(), bottomBarHeight);
     _problems->setGeometry(0, height() - problems, width(), problems);
-    const HostRect page{0, 0, static_cast<double>(width()), static_cast<double>(pageHeight)};
+    const HostRect page{0, 0, width() / textScale(), pageHeight / textScale()};
     _holder->widget()->setGeometry(0, topBarHeight, width(), pageHeight);
     if (page == _holder->frame()) return;
     _holder->setFrame(page);

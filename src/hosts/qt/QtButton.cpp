@@ -1,6 +1,7 @@
 #include "hosts/qt/QtButton.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -77,7 +78,7 @@ QtButton::QtButton(const HostControlDescription& description)
         fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
     shown->setText(qStringFrom(description.title));
     shown->setIcon(iconFromSvg(description.svgImage, shown));
-    shown->setIconSize(QSize(iconSize, iconSize));
+    shown->setIconSize(QSize(iconSize, iconSize) * textScale());
     shown->setAccessibleName(qStringFrom(description.accessibleName));
     if (!shown->isCheckable()) {
         QObject::connect(shown, &QAbstractButton::clicked, shown, [this] { sendAction(); });

@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QFontMetricsF>
 #include <QPainterPath>
@@ -99,7 +100,7 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
 void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& color)
 {
     const qreal ratio = _painter.device()->devicePixelRatioF();
-    const qreal pixels = std::max(1.0, std::round(lineWidth * ratio));
+    const qreal pixels = std::max(1.0, std::round(lineWidth * textScale() * ratio));
     // From the edge between pixels where a fill ends too, so that lines of two widths on one
     // rectangle lie evenly within each other; the pixel in the middle of an odd width is inside.
     const auto outerEdge = [&](qreal edge, qreal outwards) {
@@ -127,7 +128,7 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
         strokeRect(widgetRect(*rect, _bounds), path.lineWidth(), brush);
         return;
     }
-    QPen pen(brush, path.lineWidth());
+    QPen pen(brush, path.lineWidth() * textScale());
     pen.setJoinStyle(Qt::MiterJoin);
     setAntialiasing(true);
     _painter.setBrush(Qt::NoBrush);
@@ -161,9 +162,14 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
     }
 }
 
+QSizeF pictureSize(const HostImage& image)
+{
+    return QSizeF(image.size.width, image.size.height) * textScale();
+}
+
 QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio)
 {
-    const QSizeF size(image.size.width, image.size.height);
+    const QSizeF size = pictureSize(image);
     QPixmap pixmap((size * devicePixelRatio).toSize().expandedTo(QSize(1, 1)));
     pixmap.setDevicePixelRatio(devicePixelRatio);
     pixmap.fill(Qt::transparent);

@@ -30,6 +30,9 @@ private:
     std::vector<QPointF> _corners;  ///< of the polygon that is painted; its storage stays
 };
 
+/// In device-independent pixels.
+[[nodiscard]] QSizeF pictureSize(const HostImage& image);
+
 /// A picture of an image for a screen of that many device pixels a point.
 [[nodiscard]] QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio);
 

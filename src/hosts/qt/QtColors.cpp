@@ -1,5 +1,7 @@
 #include "hosts/qt/QtColors.h"
 
+#include "hosts/qt/TextScale.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 
@@ -48,7 +50,7 @@ std::u16string u16From(const QString& text)
 QFont fontOfSize(double points)
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * textScale()))));
     return font;
 }
 

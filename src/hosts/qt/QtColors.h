@@ -22,7 +22,7 @@ namespace vantorel {
 [[nodiscard]] QString qStringFrom(std::u16string_view text);
 [[nodiscard]] std::u16string u16From(const QString& text);
 
-/// The desktop's sans-serif face; a point of the core is a device-independent pixel.
+/// The desktop's sans-serif face; a point of the core is `textScale()` device-independent pixels.
 [[nodiscard]] QFont fontOfSize(double points);
 
 /// The palette for controls on the core's own grounds, which are light in every theme: the

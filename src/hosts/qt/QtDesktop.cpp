@@ -1,6 +1,7 @@
 #include "hosts/qt/QtDesktop.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -46,7 +47,7 @@ HostSize QtDesktop::sizeOfText(const HostText& text)
     qreal width = 0;
     for (const QString& line : lines)
         width = std::max(width, metrics.horizontalAdvance(line));
-    return {width, metrics.height() * static_cast<qreal>(lines.size())};
+    return {width / textScale(), metrics.height() * static_cast<qreal>(lines.size()) / textScale()};
 }
 
 std::u16string QtDesktop::localizedString(const std::u16string& key)

@@ -135,7 +135,7 @@ QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent, Cho
         return item.image.has_value();
     });
     if (image != items.end()) {
-        _view->setIconSize(QSizeF(image->image->size.width, image->image->size.height).toSize());
+        _view->setIconSize(pictureSize(*image->image).toSize());
     }
     _view->setItemDelegate(new RowPainter(_view));
     _view->setModel(_model);

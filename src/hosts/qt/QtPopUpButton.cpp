@@ -50,7 +50,7 @@ protected:
             const auto& image = _owner.menu()[static_cast<std::size_t>(selected)].image;
             if (image) {
                 option.currentIcon = pixmapOfImage(*image, devicePixelRatioF());
-                option.iconSize = QSizeF(image->size.width, image->size.height).toSize();
+                option.iconSize = pictureSize(*image).toSize();
             }
         }
         QStylePainter painter(this);

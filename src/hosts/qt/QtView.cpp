@@ -1,5 +1,7 @@
 #include "hosts/qt/QtView.h"
 
+#include "hosts/qt/TextScale.h"
+
 namespace vantorel {
 
 QWidget* widgetOf(const HostView* view)
@@ -10,12 +12,13 @@ QWidget* widgetOf(const HostView* view)
 
 QPointF widgetPoint(HostPoint inView, HostRect bounds)
 {
-    return {inView.x - bounds.x, bounds.maxY() - inView.y};
+    return QPointF(inView.x - bounds.x, bounds.maxY() - inView.y) * textScale();
 }
 
 HostPoint viewPoint(QPointF inWidget, HostRect bounds)
 {
-    return {inWidget.x() + bounds.x, bounds.maxY() - inWidget.y()};
+    const QPointF inPoints = inWidget / textScale();
+    return {inPoints.x() + bounds.x, bounds.maxY() - inPoints.y()};
 }
 
 QRectF widgetRect(HostRect inView, HostRect bounds)
@@ -40,8 +43,8 @@ void placeWidgets(const HostView& view)
         widget->setGeometry(place);
         // The core puts out of sight what it does not show just now, beside its superview. There
         // neither Tab nor assistive technology shall find it.
-        const HostSize superview = view.superview()->bounds().size();
-        const QRectF shown(0, 0, superview.width, superview.height);
+        const HostRect superview = view.superview()->bounds();
+        const QRectF shown = widgetRect(superview, superview);
         widget->setVisible(widget->parentWidget() != nullptr && shown.intersects(place));
     }
     // With y up, what keeps its frame moves in Qt's coordinates when the superview's height

@@ -3,6 +3,8 @@
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtInterfaceFactory.h"
 
+#include "hosts/qt/TextScale.h"
+
 #include <gtest/gtest.h>
 
 #include <QMouseEvent>
@@ -228,6 +230,19 @@ TEST(QtCanvasTest, OddColoursAndPathsAreHarmless)
     canvas.drawText({u"a\nb", 9, HostColor::blackColor()}, {0, 0});
     EXPECT_EQ(qColorFrom(HostColor::colorWithCalibratedRed(-1, 2, std::nan(""), 1)),
               QColor(0, 255, 0));
+}
+
+TEST(TextScaleTest, GrowsInQuartersFromTheUsualFont)
+{
+    struct Row {
+        double pixels;
+        double scale;
+    };
+    for (const auto& [pixels, scale] :
+         {Row{0, 1}, Row{12, 1}, Row{40 / 3.0, 1}, Row{15, 1}, Row{16.5, 1.25}, Row{20, 1.5},
+          Row{19.8, 1.5}, Row{80 / 3.0, 2}, Row{500, 3}}) {
+        EXPECT_EQ(textScaleForFontHeight(pixels), scale) << pixels;
+    }
 }
 
 }  // namespace
