@@ -11,8 +11,9 @@ namespace {
 
 void print(const QString& line)
 {
-    std::puts(line.toUtf8().constData());
-    std::fflush(stdout);
+    // There is nowhere to tell that standard output is closed.
+    static_cast<void>(std::puts(line.toUtf8().constData()));
+    static_cast<void>(std::fflush(stdout));
 }
 
 QString middleOf(const QWidget* widget)

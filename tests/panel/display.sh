@@ -17,7 +17,6 @@ cleanup() {
 }
 trap cleanup EXIT
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
-export XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine"
 export XDG_RUNTIME_DIR="$scratch"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 
@@ -35,7 +34,9 @@ export DISPLAY=":$(cat "$scratch/display")"
 
 # start_panel OPTION...: sets `panel_id` and `window`; the page is 260 by 340.
 start_panel() {
-    "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
+    # What other programs have installed on the machine is none of the test's business.
+    env XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine" \
+        "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
     panel_id=$!
     window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Colour$' | head -n 1)
     [ -n "$window" ] || fail "no window has come"

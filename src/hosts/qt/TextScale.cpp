@@ -19,7 +19,7 @@ constexpr double largest = 3;
 double textScaleForFontHeight(double pixels)
 {
     // A little short of a step counts as the step: 150 % of 10 points is 20 pixels after rounding.
-    const double steps = std::floor(pixels / usualHeight / step + 0.05);
+    const double steps = std::floor(pixels / usualHeight / step + 0.1);
     return std::clamp(steps * step, 1.0, largest);
 }
 
