@@ -49,10 +49,15 @@ QColor readableTextColor(const HostColor& color, const QPalette& palette)
                             std::max(readableLightness, wanted.lightnessF()));
 }
 
-/// A line edit whose text colour follows the theme, and which can be left by Escape.
+/// A line edit whose text colour follows the theme, which can be left by Escape, and which writes a
+/// little smaller where that makes room for the whole text.
 class QtTextField::LineEdit final : public QLineEdit {
 public:
-    explicit LineEdit(QtTextField& owner) : _owner(owner) {}
+    LineEdit(QtTextField& owner, const QFont& font) : _owner(owner), _font(font)
+    {
+        setFont(font);
+        connect(this, &QLineEdit::textChanged, this, [this] { fit(); });
+    }
 
     void setHostColor(const HostColor& color)
     {
@@ -85,6 +90,24 @@ protected:
         }
     }
 
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLineEdit::resizeEvent(event);
+        fit();
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLineEdit::focusInEvent(event);
+        fit();
+    }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QLineEdit::focusOutEvent(event);
+        fit();
+    }
+
     void changeEvent(QEvent* event) override
     {
         QLineEdit::changeEvent(event);
@@ -92,6 +115,21 @@ protected:
     }
 
 private:
+    /// While one types, the size of the letters stays.
+    void fit()
+    {
+        constexpr int besideText = 8;
+        constexpr double smallest = 0.7;
+        const double room = width() - besideText;
+        const double needed = QFontMetricsF(_font).horizontalAdvance(text());
+        const double ratio = needed > 0 ? room / needed : 1;
+        QFont fitting = _font;
+        if (!hasFocus() && ratio < 1 && ratio >= smallest) {
+            fitting.setPixelSize(static_cast<int>(_font.pixelSize() * ratio));
+        }
+        if (fitting.pixelSize() != font().pixelSize()) setFont(fitting);
+    }
+
     void applyColor()
     {
         if (!_color) return;
@@ -103,15 +141,15 @@ private:
     }
 
     QtTextField& _owner;
+    QFont _font;  ///< in its full size
     std::optional<HostColor> _color;
     bool _applying = false;
 };
 
 QtTextField::QtTextField(const HostControlDescription& description)
-    : QtMirrored(description.frame, new LineEdit(*this))
+    : QtMirrored(description.frame, new LineEdit(*this, describedFont(description)))
 {
     QLineEdit* edit = lineEdit();
-    edit->setFont(describedFont(description));
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));

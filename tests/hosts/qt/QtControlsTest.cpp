@@ -146,6 +146,25 @@ TEST_F(QtTextFieldTest, TheInsertionPointStaysWhenTheTextIsSetWhileTyping)
     EXPECT_EQ(_field.selectedRange().location, 2U);
 }
 
+TEST_F(QtTextFieldTest, ATextThatNearlyFitsIsWrittenSmaller)
+{
+    const int full = edit()->font().pixelSize();
+    edit()->clearFocus();
+    struct Row {
+        const char16_t* text;
+        bool isSmaller;
+    };
+    for (const auto& [text, isSmaller] :
+         {Row{u"RGB(1);", false}, Row{u"RGB(255, 128, 0);", true},
+          Row{u"a line of code that would be too small to read", false}}) {
+        _field.setStringValue(text);
+        EXPECT_EQ(edit()->font().pixelSize() < full, isSmaller) << qStringFrom(text).toStdString();
+    }
+    _field.setStringValue(u"RGB(255, 128, 0);");
+    edit()->setFocus();
+    EXPECT_EQ(edit()->font().pixelSize(), full) << "not while one types";
+}
+
 TEST(ReadableTextColorTest, BlackAndRedCanBeReadOnEveryGround)
 {
     QPalette light;
