@@ -1,0 +1,165 @@
+#include "csscolor/CSSColorFunctions.h"
+
+#include "csscolor/CSSTokenizer.h"
+#include "csscolor/GamutMapping.h"
+
+namespace vantorel {
+namespace {
+
+constexpr double unlimited = largestCSSNumber;
+
+constexpr CSSValueRule hue{u"hue", true, 0, -unlimited, unlimited};
+
+constexpr CSSValueRule channel(std::u16string_view name)
+{
+    return {name, false, 255, 0, 255};
+}
+
+constexpr CSSValueRule lightness(double hundredPercent)
+{
+    return {u"lightness", false, hundredPercent, 0, hundredPercent};
+}
+
+/// A saturation or chroma: never negative.
+constexpr CSSValueRule strength(std::u16string_view name, double hundredPercent)
+{
+    return {name, false, hundredPercent, 0, unlimited};
+}
+
+constexpr CSSValueRule unbounded(std::u16string_view name, double hundredPercent)
+{
+    return {name, false, hundredPercent, -unlimited, unlimited};
+}
+
+constexpr std::array<CSSValueRule, 3> rgbValues{channel(u"red"), channel(u"green"),
+                                                channel(u"blue")};
+// A saturation above 100% is not cut when it is read (CSS Color 4, section 7), the lightness is:
+// beyond its ends such a saturation would turn white and black into the opposite colour.
+constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(u"saturation", 100), lightness(100)};
+constexpr std::array<CSSValueRule, 3> predefinedRGBValues{
+    unbounded(u"red", 1), unbounded(u"green", 1), unbounded(u"blue", 1)};
+constexpr std::array<CSSValueRule, 3> predefinedXYZValues{unbounded(u"X", 1), unbounded(u"Y", 1),
+                                                          unbounded(u"Z", 1)};
+constexpr CSSValueRule alpha{u"alpha", false, 1, 0, 1};
+
+constexpr std::u16string_view rgbExample = u"rgb(255 128 0 / 50%)";
+constexpr std::u16string_view rgbExampleWithCommas = u"rgb(255, 128, 0, 0.5)";
+constexpr std::u16string_view hslExample = u"hsl(30 100% 50% / 50%)";
+constexpr std::u16string_view hslExampleWithCommas = u"hsl(30, 100%, 50%, 0.5)";
+
+constexpr std::array functions{
+    CSSColorFunction{u"rgb", CSSColorForm::rgb, CSSCommaForm::allOfOneKind, rgbValues, rgbExample,
+                     rgbExampleWithCommas},
+    CSSColorFunction{u"rgba", CSSColorForm::rgb, CSSCommaForm::allOfOneKind, rgbValues, rgbExample,
+                     rgbExampleWithCommas},
+    CSSColorFunction{u"hsl", CSSColorForm::hsl, CSSCommaForm::hueAndPercentages, hslValues,
+                     hslExample, hslExampleWithCommas},
+    CSSColorFunction{u"hsla", CSSColorForm::hsl, CSSCommaForm::hueAndPercentages, hslValues,
+                     hslExample, hslExampleWithCommas},
+    CSSColorFunction{u"hwb",
+                     CSSColorForm::hwb,
+                     CSSCommaForm::none,
+                     {hue, unbounded(u"whiteness", 100), unbounded(u"blackness", 100)},
+                     u"hwb(30 0% 0% / 50%)",
+                     u""},
+    CSSColorFunction{u"lab",
+                     CSSColorForm::lab,
+                     CSSCommaForm::none,
+                     {lightness(100), unbounded(u"a", 125), unbounded(u"b", 125)},
+                     u"lab(67 42 74 / 50%)",
+                     u""},
+    CSSColorFunction{u"lch",
+                     CSSColorForm::lch,
+                     CSSCommaForm::none,
+                     {lightness(100), strength(u"chroma", 150), hue},
+                     u"lch(67 85 60 / 50%)",
+                     u""},
+    CSSColorFunction{u"oklab",
+                     CSSColorForm::oklab,
+                     CSSCommaForm::none,
+                     {lightness(1), unbounded(u"a", 0.4), unbounded(u"b", 0.4)},
+                     u"oklab(73% 0.1 0.15 / 50%)",
+                     u""},
+    CSSColorFunction{u"oklch",
+                     CSSColorForm::oklch,
+                     CSSCommaForm::none,
+                     {lightness(1), strength(u"chroma", 0.4), hue},
+                     u"oklch(73% 0.18 54 / 50%)",
+                     u""},
+    CSSColorFunction{u"color", CSSColorForm::color, CSSCommaForm::none, predefinedRGBValues,
+                     u"color(display-p3 1 0.5 0 / 50%)", u""},
+};
+
+ColorTriple srgbFromLab(const ColorTriple& lab)
+{
+    return srgbFromLinear(linearSRGBFromXYZ(xyzFromXYZD50(xyzD50FromLab(lab))));
+}
+
+SRGBResult mapped(const ColorTriple& srgb)
+{
+    return {mappedIntoSRGB(srgb), isOutsideSRGB(srgb)};
+}
+
+/// hsl() and hwb() are sRGB by definition: browsers cut their channels and do not map.
+SRGBResult clipped(const ColorTriple& srgb)
+{
+    return {clippedToSRGB(srgb), isOutsideSRGB(srgb)};
+}
+
+/// Not by way of sRGB, since that would lose the lightness of giant chromas.
+SRGBResult mappedOklab(const ColorTriple& oklab)
+{
+    const ColorTriple srgb = srgbFromOklab(oklab);
+    if (!isOutsideSRGB(srgb)) return {clippedToSRGB(srgb), false};
+    return {srgbByReducedChroma(oklab), true};
+}
+
+}  // namespace
+
+const CSSColorFunction* cssColorFunctionNamed(std::u16string_view name)
+{
+    for (const CSSColorFunction& function : functions) {
+        if (function.name == name) return &function;
+    }
+    return nullptr;
+}
+
+const std::array<CSSValueRule, 3>& cssValueRules(PredefinedColorSpace space)
+{
+    const bool isXYZ =
+        space == PredefinedColorSpace::xyzD65 || space == PredefinedColorSpace::xyzD50;
+    return isXYZ ? predefinedXYZValues : predefinedRGBValues;
+}
+
+const CSSValueRule& cssAlphaRule()
+{
+    return alpha;
+}
+
+SRGBResult srgbOfCSSValues(CSSColorForm form, PredefinedColorSpace space, const ColorTriple& values)
+{
+    switch (form) {
+        case CSSColorForm::hsl:
+            return clipped(srgbFromHSL(values));
+        case CSSColorForm::hwb:
+            return clipped(srgbFromHWB(values));
+        case CSSColorForm::lab:
+            return mapped(srgbFromLab(values));
+        case CSSColorForm::lch:
+            return mapped(srgbFromLab(rectangularFromPolar(values)));
+        case CSSColorForm::oklab:
+            return mappedOklab(values);
+        case CSSColorForm::oklch:
+            return mappedOklab(rectangularFromPolar(values));
+        case CSSColorForm::color:
+            return mapped(srgbFromPredefined(space, values));
+        case CSSColorForm::rgb:
+        case CSSColorForm::hex:
+        case CSSColorForm::bareHex:
+        case CSSColorForm::named:
+            break;
+    }
+    return clipped({values[0] / 255, values[1] / 255, values[2] / 255});
+}
+
+}  // namespace vantorel

@@ -1,0 +1,467 @@
+#include "csscolor/CSSColorReader.h"
+
+#include "csscolor/CSSColorFunctions.h"
+#include "csscolor/CSSNamedColors.h"
+#include "csscolor/CSSTokenizer.h"
+#include "csscolor/MessageText.h"
+#include "host/HostText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vantorel {
+namespace {
+
+constexpr std::u16string_view someColors = u"\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"";
+
+bool isSurroundingBlank(char16_t c)
+{
+    constexpr char16_t noBreakSpace = 0x00A0;
+    constexpr char16_t byteOrderMark = 0xFEFF;
+    return isCSSWhiteSpace(c) || c == noBreakSpace || c == byteOrderMark;
+}
+
+std::u16string_view trimmed(std::u16string_view text)
+{
+    while (!text.empty() && (isSurroundingBlank(text.back()) || text.back() == u'\0'))
+        text.remove_suffix(1);
+    while (!text.empty() && isSurroundingBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+struct CSSValue {
+    double number = 0;
+    bool isPercentage = false;
+    bool isNone = false;
+};
+
+/// 0 for what is no unit of an angle.
+double unitsPerTurn(std::u16string_view unit)
+{
+    if (unit == u"deg") return 360;
+    if (unit == u"grad") return 400;
+    if (unit == u"rad") return 2 * std::numbers::pi;
+    if (unit == u"turn") return 1;
+    return 0;
+}
+
+/// Whole turns are left out in the unit itself, where they leave no rounding error.
+double degreesOf(double number, double unitsInTurn)
+{
+    return std::fmod(number, unitsInTurn) / unitsInTurn * 360;
+}
+
+HostColor colorOf(const ColorTriple& srgb, double alpha)
+{
+    return HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], alpha);
+}
+
+/// One reading. The functions that return nothing or false have set `_error`.
+class Reader {
+public:
+    explicit Reader(std::u16string_view text) : _text(text), _tokens(text) {}
+
+    CSSColorReading read()
+    {
+        std::optional<CSSColor> color = readColor();
+        if (color && !readEnd()) color.reset();
+        return {color, color ? std::u16string() : _error};
+    }
+
+private:
+    std::nullopt_t fail(std::initializer_list<std::u16string_view> parts)
+    {
+        _error = joined(parts);
+        return std::nullopt;
+    }
+    void advance() { _token = _tokens.next(); }
+    [[nodiscard]] bool is(CSSTokenKind kind) const { return _token.kind == kind; }
+    [[nodiscard]] std::u16string_view source() const
+    {
+        return _text.substr(_token.begin, _token.end - _token.begin);
+    }
+
+    std::optional<CSSColor> readColor();
+    bool readEnd();
+    std::optional<CSSColor> readBareHex();
+    std::optional<CSSColor> readHex();
+    std::optional<CSSColor> readName();
+    std::optional<CSSColor> readFunction();
+
+    std::optional<PredefinedColorSpace> readColorSpace();
+    std::optional<ColorTriple> readValues();
+    std::optional<double> readAlpha(bool commas);
+    std::optional<CSSValue> readValue(const CSSValueRule& rule, std::size_t valuesBefore);
+    bool readSeparator(std::size_t index, bool& commas);
+    bool checkLegacyValues(const std::array<CSSValue, 3>& values);
+    bool readClosing();
+    std::nullopt_t failMixed();
+    std::nullopt_t failUnclosed();
+    std::nullopt_t failUnclosedComment();
+
+    std::u16string_view _text;
+    CSSTokenizer _tokens;
+    CSSToken _token;
+    const CSSColorFunction* _function = nullptr;
+    const std::array<CSSValueRule, 3>* _rules = nullptr;
+    /// With its parentheses, e.g. "rgb()".
+    std::u16string _functionName;
+    std::u16string _error;
+};
+
+/// Before any other form, since digits and "e" would be a number to CSS.
+std::optional<CSSColor> Reader::readBareHex()
+{
+    if (!_tokens.skipBlanks()) return std::nullopt;
+    const std::size_t begin = _tokens.place();
+    std::size_t end = begin;
+    while (end < _text.size() && cssHexDigit(_text[end]) >= 0)
+        ++end;
+    const std::u16string_view digits = _text.substr(begin, end - begin);
+    const std::u16string_view rest = _text.substr(end, 2);
+    const bool alone = rest.empty() || isCSSWhiteSpace(rest[0]) || rest[0] == u';' || rest == u"/*";
+    if (!alone) return std::nullopt;
+    if (digits.size() != 3 && digits.size() != 6) {
+        const bool hasNumber = digits.find_first_of(u"0123456789") != std::u16string_view::npos;
+        if (hasNumber) {
+            fail({u"A hex colour without \"#\" has 3 or 6 digits, not ", decimal(digits.size()),
+                  u"."});
+        }
+        return std::nullopt;
+    }
+    _token.name = digits;
+    _tokens.moveTo(end);
+    std::optional<CSSColor> color = readHex();
+    if (color) color->form = CSSColorForm::bareHex;
+    return color;
+}
+
+std::optional<CSSColor> Reader::readColor()
+{
+    if (std::optional<CSSColor> color = readBareHex(); color || !_error.empty()) return color;
+    advance();
+    switch (_token.kind) {
+        case CSSTokenKind::hash:
+            return readHex();
+        case CSSTokenKind::name:
+            return readName();
+        case CSSTokenKind::function:
+            return readFunction();
+        case CSSTokenKind::unclosedComment:
+            return failUnclosedComment();
+        case CSSTokenKind::end:
+            return fail({u"The text holds no colour; write one such as ", someColors, u"."});
+        default:
+            return fail({quoted(source()), u" is no colour; write one such as ", someColors, u"."});
+    }
+}
+
+/// Everything behind the colour.
+bool Reader::readEnd()
+{
+    advance();
+    if (is(CSSTokenKind::semicolon)) advance();
+    if (is(CSSTokenKind::end)) return true;
+    if (is(CSSTokenKind::unclosedComment)) {
+        failUnclosedComment();
+    } else {
+        fail({quoted(_text.substr(_token.begin)), u" follows the colour; give one colour alone."});
+    }
+    return false;
+}
+
+std::optional<CSSColor> Reader::readHex()
+{
+    const std::u16string_view digits = _token.name;
+    const auto wrong = std::ranges::find_if(digits, [](char16_t c) { return cssHexDigit(c) < 0; });
+    if (wrong != digits.end()) {
+        const auto index = static_cast<std::size_t>(wrong - digits.begin());
+        const std::size_t width = (*wrong & 0xFC00) == 0xD800 ? 2 : 1;
+        return fail({quoted(digits.substr(index, width)),
+                     u" is no hex digit; after \"#\" come digits from 0 to 9 and letters from a "
+                     u"to f."});
+    }
+    const std::size_t count = digits.size();
+    if (count != 3 && count != 4 && count != 6 && count != 8) {
+        return fail(
+            {u"A hex colour has 3, 4, 6 or 8 digits after the \"#\", not ", decimal(count), u"."});
+    }
+    const bool isShort = count < 6;
+    const auto channel = [&](std::size_t index) {
+        const std::size_t width = isShort ? 1 : 2;
+        if ((index + 1) * width > count) return 1.0;
+        const int high = cssHexDigit(digits[index * width]);
+        const int low = isShort ? high : cssHexDigit(digits[index * width + 1]);
+        return (high * 16 + low) / 255.0;
+    };
+    return CSSColor{colorOf({channel(0), channel(1), channel(2)}, channel(3)), CSSColorForm::hex};
+}
+
+std::optional<CSSColor> Reader::readName()
+{
+    const std::u16string name = _token.name;
+    const std::u16string_view written = source();
+    if (name == u"transparent") return CSSColor{colorOf({0, 0, 0}, 0)};
+    if (const auto value = cssNamedColor(name)) {
+        const auto channel = [&](unsigned shift) { return ((*value >> shift) & 0xFF) / 255.0; };
+        return CSSColor{colorOf({channel(16), channel(8), channel(0)}, 1)};
+    }
+    advance();
+    if (is(CSSTokenKind::colon)) {
+        return fail({u"The property ", quoted(written),
+                     u" does not belong to the colour; give its value alone, such as ", someColors,
+                     u"."});
+    }
+    if (isContextualCSSColor(name)) {
+        return fail({quoted(written),
+                     u" has no colour without the page where it stands; write a fixed one such as ",
+                     someColors, u"."});
+    }
+    if (is(CSSTokenKind::openParenthesis) && cssColorFunctionNamed(name) != nullptr) {
+        return fail({u"Nothing may stand between ", quoted(written),
+                     u" and its parenthesis; write \"", cssColorFunctionNamed(name)->example,
+                     u"\"."});
+    }
+    return fail(
+        {quoted(written), u" is no colour name of CSS; write a colour such as ", someColors, u"."});
+}
+
+std::optional<CSSColor> Reader::readFunction()
+{
+    _function = cssColorFunctionNamed(_token.name);
+    if (_function == nullptr) {
+        return fail({quoted(source().substr(0, source().size() - 1)),
+                     u" is no colour function that can be read; rgb(), hsl(), hwb(), lab(), lch(), "
+                     u"oklab(), oklch() and color() are."});
+    }
+    _functionName = joined({_function->name, u"()"});
+    _rules = &_function->values;
+    advance();
+    if (is(CSSTokenKind::name) && _token.name == u"from") {
+        return fail(
+            {u"A colour relative to another, with \"from\", cannot be read; write its "
+             u"values, as in \"",
+             _function->example, u"\"."});
+    }
+    auto space = PredefinedColorSpace::srgb;
+    if (_function->form == CSSColorForm::color) {
+        const auto named = readColorSpace();
+        if (!named) return std::nullopt;
+        space = *named;
+        _rules = &cssValueRules(space);
+    }
+
+    std::array<CSSValue, 3> values;
+    bool commas = false;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (i > 0 && !readSeparator(i, commas)) return std::nullopt;
+        const auto value = readValue((*_rules)[i], i);
+        if (!value) return std::nullopt;
+        values[i] = *value;
+    }
+    const auto alpha = readAlpha(commas);
+    if (!alpha || !readClosing()) return std::nullopt;
+    if (commas && !checkLegacyValues(values)) return std::nullopt;
+
+    const SRGBResult result = srgbOfCSSValues(
+        _function->form, space, {values[0].number, values[1].number, values[2].number});
+    return CSSColor{colorOf(result.srgb, *alpha), _function->form, result.wasOutside};
+}
+
+std::optional<PredefinedColorSpace> Reader::readColorSpace()
+{
+    const auto space =
+        is(CSSTokenKind::name) ? predefinedColorSpaceNamed(_token.name) : std::nullopt;
+    if (space) {
+        advance();
+        return space;
+    }
+    constexpr std::u16string_view spaces =
+        u"srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, "
+        u"xyz-d50 or xyz-d65";
+    if (is(CSSTokenKind::name))
+        return fail({quoted(source()), u" is no colour space of color(); write ", spaces, u"."});
+    return fail({u"color() begins with a colour space: ", spaces, u"."});
+}
+
+/// What stands before the value of an index of 1 or 2; the first one decides on commas or none.
+bool Reader::readSeparator(std::size_t index, bool& commas)
+{
+    const bool comma = is(CSSTokenKind::comma);
+    if (comma && _function->commaForm == CSSCommaForm::none) {
+        fail({_functionName, u" has no commas between its values; write \"", _function->example,
+              u"\"."});
+        return false;
+    }
+    // At the end of the values their number is what is wrong.
+    if (is(CSSTokenKind::closeParenthesis) || is(CSSTokenKind::end)) return true;
+    if (index == 1) {
+        commas = comma;
+    } else if (comma != commas) {
+        failMixed();
+        return false;
+    }
+    if (comma) advance();
+    return true;
+}
+
+std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t valuesBefore)
+{
+    const std::u16string_view kinds =
+        rule.isHue ? u"an angle or a number" : u"a number or a percentage";
+    CSSValue value;
+    switch (_token.kind) {
+        case CSSTokenKind::number:
+            value.number = _token.number;
+            break;
+        case CSSTokenKind::percentage:
+            if (rule.isHue) {
+                return fail({u"The hue of ", _functionName, u" is ", kinds, u", not ",
+                             quoted(source()), u"."});
+            }
+            value.number = _token.number / 100 * rule.hundredPercent;
+            value.isPercentage = true;
+            break;
+        case CSSTokenKind::dimension:
+            if (!rule.isHue) {
+                return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
+                             quoted(source()), u"."});
+            }
+            if (unitsPerTurn(_token.name) == 0) {
+                return fail({quoted(source()),
+                             u" is no angle; the units of angles are deg, grad, rad and turn."});
+            }
+            value.number = degreesOf(_token.number, unitsPerTurn(_token.name));
+            break;
+        case CSSTokenKind::name:
+            if (_token.name != u"none") {
+                return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
+                             quoted(source()), u"."});
+            }
+            value.isNone = true;
+            break;
+        case CSSTokenKind::function:
+            return fail({quoted(source().substr(0, source().size() - 1)),
+                         u" cannot be read inside a colour; write the number that it results in."});
+        case CSSTokenKind::closeParenthesis:
+            if (valuesBefore == 3) {
+                return fail({u"The alpha of ", _functionName, u" is missing; write ", kinds,
+                             u" before the \")\"."});
+            }
+            return fail({_functionName, u" needs 3 values and has ", decimal(valuesBefore),
+                         u"; write \"", _function->example, u"\"."});
+        case CSSTokenKind::end:
+            return failUnclosed();
+        case CSSTokenKind::unclosedComment:
+            return failUnclosedComment();
+        case CSSTokenKind::comma:
+        case CSSTokenKind::slash:
+            return fail({u"The ", rule.name, u" of ", _functionName, u" is missing before ",
+                         quoted(source()), u"; write ", kinds, u" there."});
+        default:
+            return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
+                         quoted(source()), u"."});
+    }
+    advance();
+    value.number = std::clamp(value.number, rule.smallest, rule.largest);
+    return value;
+}
+
+/// The alpha with what parts it from the values; 1 when there is none.
+std::optional<double> Reader::readAlpha(bool commas)
+{
+    const bool comma = is(CSSTokenKind::comma);
+    const bool slash = is(CSSTokenKind::slash);
+    if (!comma && !slash) return 1;
+    if (comma && _function->commaForm == CSSCommaForm::none) {
+        return fail({u"In ", _functionName, u" the alpha follows a \"/\"; write \"",
+                     _function->example, u"\"."});
+    }
+    if (slash && commas) {
+        return fail({u"In ", _functionName, u" with commas the alpha follows a comma; write \"",
+                     _function->exampleWithCommas, u"\"."});
+    }
+    if (comma && !commas) return failMixed();
+    advance();
+    const auto value = readValue(cssAlphaRule(), 3);
+    if (!value) return std::nullopt;
+    if (commas && value->isNone) {
+        return fail({u"\"none\" does not go with commas; write \"", _function->example, u"\"."});
+    }
+    return value->number;
+}
+
+bool Reader::readClosing()
+{
+    switch (_token.kind) {
+        case CSSTokenKind::closeParenthesis:
+            return true;
+        case CSSTokenKind::end:
+            failUnclosed();
+            return false;
+        case CSSTokenKind::unclosedComment:
+            failUnclosedComment();
+            return false;
+        default:
+            fail({u"In ", _functionName, u" ", quoted(source()),
+                  u" stands where its \")\" belongs; write \"", _function->example, u"\"."});
+            return false;
+    }
+}
+
+bool Reader::checkLegacyValues(const std::array<CSSValue, 3>& values)
+{
+    const auto isPercentage = [](const CSSValue& value) { return value.isPercentage; };
+    if (std::ranges::any_of(values, &CSSValue::isNone)) {
+        fail({u"\"none\" does not go with commas; write \"", _function->example, u"\"."});
+        return false;
+    }
+    if (_function->commaForm == CSSCommaForm::allOfOneKind) {
+        const auto percentages = std::ranges::count_if(values, isPercentage);
+        if (percentages == 0 || percentages == 3) return true;
+        fail({u"With commas the values of ", _functionName,
+              u" are all numbers or all percentages; write \"", _function->exampleWithCommas,
+              u"\"."});
+        return false;
+    }
+    for (const std::size_t index : {std::size_t{1}, std::size_t{2}}) {
+        if (values[index].isPercentage) continue;
+        fail({u"With commas the ", (*_rules)[index].name, u" of ", _functionName,
+              u" is a percentage; write \"", _function->exampleWithCommas, u"\"."});
+        return false;
+    }
+    return true;
+}
+
+std::nullopt_t Reader::failMixed()
+{
+    return fail({u"The values of ", _functionName,
+                 u" are parted all by commas or all by blanks; write \"", _function->example,
+                 u"\" or \"", _function->exampleWithCommas, u"\"."});
+}
+
+std::nullopt_t Reader::failUnclosed()
+{
+    return fail({_functionName, u" has no end; close it with a \")\" after its values."});
+}
+
+std::nullopt_t Reader::failUnclosedComment()
+{
+    return fail({u"The comment that begins with \"/*\" has no end; close it with \"*/\"."});
+}
+
+}  // namespace
+
+CSSColorReading readCSSColor(std::u16string_view text)
+{
+    return Reader(trimmed(text)).read();
+}
+
+CSSColorReading readCSSColor(std::string_view utf8)
+{
+    return readCSSColor(std::u16string_view(utf16FromUtf8(utf8)));
+}
+
+}  // namespace vantorel

@@ -1,0 +1,281 @@
+#include "csscolor/CSSTokenizer.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+
+namespace vantorel {
+namespace {
+
+constexpr char16_t replacementCharacter = 0xFFFD;
+
+bool isDigit(char16_t c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isLetter(char16_t c)
+{
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+bool isNameStart(char16_t c)
+{
+    return isLetter(c) || c == u'_' || c >= 0x80;
+}
+
+bool isNameCharacter(char16_t c)
+{
+    return isNameStart(c) || isDigit(c) || c == u'-';
+}
+
+bool isSign(char16_t c)
+{
+    return c == u'+' || c == u'-';
+}
+
+char16_t lowerCase(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + (u'a' - u'A')) : c;
+}
+
+void appendCharacter(std::u16string& text, char32_t character)
+{
+    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+    if (character == 0 || surrogate || character > 0x10FFFF) {
+        text += replacementCharacter;
+    } else if (character < 0x10000) {
+        text += lowerCase(static_cast<char16_t>(character));
+    } else {
+        text += static_cast<char16_t>(0xD7C0 + (character >> 10));
+        text += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+    }
+}
+
+/// The whole number that a text begins with, with its sign; giant ones are cut where they still
+/// dwarf the length of any text.
+std::int64_t exponentOf(std::u16string_view text)
+{
+    constexpr std::int64_t farAway = 1'000'000'000'000'000;
+    const bool negative = text.front() == u'-';
+    if (isSign(text.front())) text.remove_prefix(1);
+    std::int64_t value = 0;
+    for (const char16_t c : text)
+        value = std::min(value * 10 + (c - u'0'), farAway);
+    return negative ? -value : value;
+}
+
+/// The value of a text of the form of a CSS number (CSS Syntax 3, section 4.3.13). std::from_chars
+/// does not say whether what it cannot hold is too large or too small, and a text may have digits
+/// by the million; so the digits that count are handed to it in a form that it can always hold.
+double numberValue(std::u16string_view text)
+{
+    constexpr std::size_t mostDigits = 40;
+    constexpr std::int64_t pastLargest = 40;
+    constexpr std::int64_t pastSmallest = -300;
+    std::array<char, mostDigits + 16> buffer{};
+    std::size_t digits = 0;
+    std::int64_t exponent = 0;
+    bool afterPoint = false;
+    const bool negative = text.front() == u'-';
+    std::size_t place = isSign(text.front()) ? 1 : 0;
+    for (; place < text.size() && (isDigit(text[place]) || text[place] == u'.'); ++place) {
+        const char16_t c = text[place];
+        if (c == u'.') {
+            afterPoint = true;
+        } else if (digits == 0 && c == u'0') {
+            if (afterPoint) --exponent;
+        } else if (digits < mostDigits) {
+            buffer[digits++] = static_cast<char>(c);
+            if (afterPoint) --exponent;
+        } else if (!afterPoint) {
+            ++exponent;
+        }
+    }
+    if (digits == 0) return 0;
+    if (place < text.size()) exponent += exponentOf(text.substr(place + 1));
+    const std::int64_t magnitude = exponent + static_cast<std::int64_t>(digits);
+    if (magnitude < pastSmallest) return 0;
+    double value = largestCSSNumber;
+    if (magnitude < pastLargest) {
+        char* const bufferEnd = buffer.data() + buffer.size();
+        char* end = buffer.data() + digits;
+        *end++ = 'e';
+        end = std::to_chars(end, bufferEnd, exponent).ptr;
+        std::from_chars(buffer.data(), end, value);
+    }
+    value = std::min(value, largestCSSNumber);
+    return negative ? -value : value;
+}
+
+}  // namespace
+
+bool isCSSWhiteSpace(char16_t character)
+{
+    return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r' ||
+           character == u'\f';
+}
+
+int cssHexDigit(char16_t character)
+{
+    if (isDigit(character)) return character - u'0';
+    if (character >= u'a' && character <= u'f') return character - u'a' + 10;
+    if (character >= u'A' && character <= u'F') return character - u'A' + 10;
+    return -1;
+}
+
+CSSToken CSSTokenizer::next()
+{
+    CSSToken token;
+    const bool blanksEnd = skipBlanks();
+    token.begin = _place;
+    if (!blanksEnd) {
+        token.kind = CSSTokenKind::unclosedComment;
+        _place = _text.size();
+    } else if (_place == _text.size()) {
+        token.kind = CSSTokenKind::end;
+    } else if (startsNumber(_place)) {
+        skipNumber();
+        token.number = numberValue(_text.substr(token.begin, _place - token.begin));
+        token.kind = CSSTokenKind::number;
+        if (at(_place) == u'%') {
+            token.kind = CSSTokenKind::percentage;
+            ++_place;
+        } else if (startsName(_place)) {
+            token.kind = CSSTokenKind::dimension;
+            token.name = readName();
+        }
+    } else if (startsName(_place)) {
+        token.kind = CSSTokenKind::name;
+        token.name = readName();
+        if (at(_place) == u'(') {
+            token.kind = CSSTokenKind::function;
+            ++_place;
+        }
+    } else {
+        const char16_t c = at(_place);
+        ++_place;
+        switch (c) {
+            case u'#':
+                token.kind = CSSTokenKind::hash;
+                token.name = readName();
+                break;
+            case u',':
+                token.kind = CSSTokenKind::comma;
+                break;
+            case u'/':
+                token.kind = CSSTokenKind::slash;
+                break;
+            case u':':
+                token.kind = CSSTokenKind::colon;
+                break;
+            case u';':
+                token.kind = CSSTokenKind::semicolon;
+                break;
+            case u'(':
+                token.kind = CSSTokenKind::openParenthesis;
+                break;
+            case u')':
+                token.kind = CSSTokenKind::closeParenthesis;
+                break;
+            default:
+                token.kind = CSSTokenKind::other;
+        }
+    }
+    token.end = _place;
+    return token;
+}
+
+bool CSSTokenizer::skipBlanks()
+{
+    for (;;) {
+        while (isCSSWhiteSpace(at(_place)))
+            ++_place;
+        if (at(_place) != u'/' || at(_place + 1) != u'*') return true;
+        const std::size_t close = _text.find(u"*/", _place + 2);
+        if (close == std::u16string_view::npos) return false;
+        _place = close + 2;
+    }
+}
+
+/// NUL stands for what lies behind the text too: no token holds it.
+char16_t CSSTokenizer::at(std::size_t index) const
+{
+    return index < _text.size() ? _text[index] : u'\0';
+}
+
+bool CSSTokenizer::startsEscape(std::size_t index) const
+{
+    const char16_t escaped = at(index + 1);
+    return at(index) == u'\\' && index + 1 < _text.size() && escaped != u'\n' && escaped != u'\r' &&
+           escaped != u'\f';
+}
+
+bool CSSTokenizer::startsName(std::size_t index) const
+{
+    if (at(index) == u'-') ++index;
+    return isNameStart(at(index)) || at(index) == u'-' || startsEscape(index);
+}
+
+bool CSSTokenizer::startsNumber(std::size_t index) const
+{
+    if (isSign(at(index))) ++index;
+    if (at(index) == u'.') ++index;
+    return isDigit(at(index));
+}
+
+std::u16string CSSTokenizer::readName()
+{
+    std::u16string name;
+    for (;;) {
+        if (isNameCharacter(at(_place))) {
+            name += lowerCase(at(_place));
+            ++_place;
+        } else if (startsEscape(_place)) {
+            appendEscaped(name);
+        } else {
+            return name;
+        }
+    }
+}
+
+void CSSTokenizer::appendEscaped(std::u16string& name)
+{
+    constexpr std::size_t mostHexDigits = 6;
+    ++_place;
+    if (cssHexDigit(at(_place)) < 0) {
+        name += lowerCase(at(_place));
+        ++_place;
+        return;
+    }
+    char32_t character = 0;
+    for (std::size_t i = 0; i < mostHexDigits && cssHexDigit(at(_place)) >= 0; ++i) {
+        character = character * 16 + static_cast<char32_t>(cssHexDigit(at(_place)));
+        ++_place;
+    }
+    appendCharacter(name, character);
+    if (at(_place) == u'\r' && at(_place + 1) == u'\n') ++_place;
+    if (isCSSWhiteSpace(at(_place))) ++_place;
+}
+
+void CSSTokenizer::skipNumber()
+{
+    const auto skipDigits = [this] {
+        while (isDigit(at(_place)))
+            ++_place;
+    };
+    if (isSign(at(_place))) ++_place;
+    skipDigits();
+    if (at(_place) == u'.' && isDigit(at(_place + 1))) {
+        ++_place;
+        skipDigits();
+    }
+    if (lowerCase(at(_place)) != u'e') return;
+    const std::size_t exponent = isSign(at(_place + 1)) ? _place + 2 : _place + 1;
+    if (!isDigit(at(exponent))) return;
+    _place = exponent;
+    skipDigits();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+
+/// From one colour space to another, as in CSS Color 4. Nothing is clamped: colours may lie outside
+/// of any gamut. Finite input of at most `largestCSSNumber` in size gives finite output, through
+/// any chain of these functions from a space of CSS to sRGB.
+namespace vantorel {
+
+/// Three components of a colour, in the order of the space's name.
+using ColorTriple = std::array<double, 3>;
+using ColorMatrix = std::array<std::array<double, 3>, 3>;
+
+[[nodiscard]] ColorTriple multiplied(const ColorMatrix& matrix, const ColorTriple& vector);
+
+/// An angle in degrees as one in [0, 360).
+[[nodiscard]] double normalizedHue(double degrees);
+
+/// sRGB as it is stored to linear light (section 10.2); negative values mirror positive ones.
+[[nodiscard]] double linearFromSRGB(double encoded);
+[[nodiscard]] double srgbFromLinear(double linear);
+[[nodiscard]] ColorTriple linearFromSRGB(const ColorTriple& encoded);
+[[nodiscard]] ColorTriple srgbFromLinear(const ColorTriple& linear);
+
+/// XYZ here is relative to D65, with Y = 1 for white.
+[[nodiscard]] ColorTriple xyzFromLinearSRGB(const ColorTriple& linear);
+[[nodiscard]] ColorTriple linearSRGBFromXYZ(const ColorTriple& xyz);
+
+/// The linear Bradford transform between the white points D65 and D50.
+[[nodiscard]] ColorTriple xyzD50FromXYZ(const ColorTriple& xyz);
+[[nodiscard]] ColorTriple xyzFromXYZD50(const ColorTriple& xyz);
+
+/// CIE Lab is relative to D50, with a lightness of 0..100 (section 9.3).
+[[nodiscard]] ColorTriple labFromXYZD50(const ColorTriple& xyz);
+[[nodiscard]] ColorTriple xyzD50FromLab(const ColorTriple& lab);
+
+/// Oklab has a lightness of 0..1 (section 9.4).
+[[nodiscard]] ColorTriple oklabFromXYZ(const ColorTriple& xyz);
+[[nodiscard]] ColorTriple xyzFromOklab(const ColorTriple& oklab);
+[[nodiscard]] ColorTriple oklabFromSRGB(const ColorTriple& srgb);
+[[nodiscard]] ColorTriple srgbFromOklab(const ColorTriple& oklab);
+
+/// Lightness, a, b to lightness, chroma, hue in degrees: Lab to LCH and Oklab to OkLCh. The hue of
+/// a grey is without meaning.
+[[nodiscard]] ColorTriple polarFromRectangular(const ColorTriple& rectangular);
+[[nodiscard]] ColorTriple rectangularFromPolar(const ColorTriple& polar);
+
+/// Hue in degrees, saturation and lightness in percent (section 7).
+[[nodiscard]] ColorTriple srgbFromHSL(const ColorTriple& hsl);
+/// The hue and the saturation of a grey are 0.
+[[nodiscard]] ColorTriple hslFromSRGB(const ColorTriple& srgb);
+
+/// Hue in degrees, whiteness and blackness in percent (section 8).
+[[nodiscard]] ColorTriple srgbFromHWB(const ColorTriple& hwb);
+
+}  // namespace vantorel

@@ -1,0 +1,85 @@
+#include "csscolor/GamutMapping.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+constexpr double justNoticeableDifference = 0.02;
+constexpr double chromaPrecision = 0.0001;
+
+bool fitsWithin(const ColorTriple& srgb, double tolerance)
+{
+    return std::ranges::all_of(srgb, [tolerance](double channel) {
+        return channel >= -tolerance && channel <= 1 + tolerance;
+    });
+}
+
+/// deltaE OK (CSS Color 4, "Sample code for ΔE2000 and ΔEOK Color Differences"): the distance in
+/// Oklab.
+double difference(const ColorTriple& oklab1, const ColorTriple& oklab2)
+{
+    return std::hypot(oklab1[0] - oklab2[0], oklab1[1] - oklab2[1], oklab1[2] - oklab2[2]);
+}
+
+}  // namespace
+
+bool isOutsideSRGB(const ColorTriple& srgb)
+{
+    constexpr double halfStep = 0.5 / 255;
+    return !fitsWithin(srgb, halfStep);
+}
+
+ColorTriple clippedToSRGB(const ColorTriple& srgb)
+{
+    ColorTriple clipped = srgb;
+    for (double& channel : clipped)
+        channel = std::clamp(channel, 0.0, 1.0) + 0.0;  // + 0.0 makes a plain zero of -0
+    return clipped;
+}
+
+ColorTriple mappedIntoSRGB(const ColorTriple& srgb)
+{
+    if (!isOutsideSRGB(srgb)) return clippedToSRGB(srgb);
+    return srgbByReducedChroma(oklabFromSRGB(srgb));
+}
+
+ColorTriple srgbByReducedChroma(const ColorTriple& oklab)
+{
+    const ColorTriple& origin = oklab;
+    if (origin[0] >= 1) return {1, 1, 1};
+    if (origin[0] <= 0) return {0, 0, 0};
+
+    ColorTriple clipped = clippedToSRGB(srgbFromOklab(origin));
+    if (difference(oklabFromSRGB(clipped), origin) < justNoticeableDifference) return clipped;
+
+    // This ends for any chroma, since all chromas that become the smallest one are those of colours
+    // near sRGB, below 1, where the precision is within the reach of a double.
+    const ColorTriple polar = polarFromRectangular(origin);
+    double smallest = 0;
+    double largest = polar[1];
+    bool smallestFits = true;
+    while (largest - smallest > chromaPrecision) {
+        const double chroma = (smallest + largest) / 2;
+        const ColorTriple current = rectangularFromPolar({polar[0], chroma, polar[2]});
+        const ColorTriple currentSRGB = srgbFromOklab(current);
+        if (smallestFits && fitsWithin(currentSRGB, 0)) {
+            smallest = chroma;
+            continue;
+        }
+        clipped = clippedToSRGB(currentSRGB);
+        const double distance = difference(oklabFromSRGB(clipped), current);
+        if (distance >= justNoticeableDifference) {
+            largest = chroma;
+        } else if (justNoticeableDifference - distance < chromaPrecision) {
+            break;
+        } else {
+            smallestFits = false;
+            smallest = chroma;
+        }
+    }
+    return clipped;
+}
+
+}  // namespace vantorel

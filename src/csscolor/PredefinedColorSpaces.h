@@ -1,0 +1,31 @@
+#pragma once
+
+#include "csscolor/ColorConversions.h"
+
+#include <optional>
+#include <string_view>
+
+namespace vantorel {
+
+/// The colour spaces of `color()` (CSS Color 4, section 10).
+enum class PredefinedColorSpace {
+    srgb,
+    srgbLinear,
+    displayP3,
+    displayP3Linear,
+    a98RGB,
+    proPhotoRGB,
+    rec2020,
+    /// "xyz" and "xyz-d65".
+    xyzD65,
+    xyzD50,
+};
+
+/// The space of a name in lower case.
+[[nodiscard]] std::optional<PredefinedColorSpace> predefinedColorSpaceNamed(
+    std::u16string_view name);
+
+/// From a space as it is stored to sRGB as it is stored; nothing is clamped.
+[[nodiscard]] ColorTriple srgbFromPredefined(PredefinedColorSpace space, const ColorTriple& values);
+
+}  // namespace vantorel

@@ -1,0 +1,101 @@
+#include "csscolor/CSSColorWriter.h"
+
+#include "csscolor/CSSColorReader.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace vantorel {
+namespace {
+
+HostColor bytes(int red, int green, int blue, double alpha = 1)
+{
+    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
+}
+
+struct Row {
+    HostColor color;
+    const char16_t* hex;
+    const char16_t* rgb;
+    const char16_t* hsl;
+    const char16_t* oklch;
+};
+
+TEST(CSSColorWriterTest, ColoursAreWrittenInEveryForm)
+{
+    const Row rows[]{
+        {bytes(255, 0, 0), u"#ff0000", u"rgb(255, 0, 0)", u"hsl(0 100% 50%)",
+         u"oklch(62.796% 0.25768 29.234)"},
+        {bytes(0, 255, 0), u"#00ff00", u"rgb(0, 255, 0)", u"hsl(120 100% 50%)",
+         u"oklch(86.644% 0.29483 142.495)"},
+        {bytes(0, 0, 255, 0.5), u"#0000ff80", u"rgba(0, 0, 255, 0.5)", u"hsl(240 100% 50% / 0.5)",
+         u"oklch(45.201% 0.31321 264.052 / 0.5)"},
+        {bytes(0, 0, 0), u"#000000", u"rgb(0, 0, 0)", u"hsl(0 0% 0%)", u"oklch(0% 0 0)"},
+        {bytes(255, 255, 255, 0), u"#ffffff00", u"rgba(255, 255, 255, 0)", u"hsl(0 0% 100% / 0)",
+         u"oklch(100% 0 0 / 0)"},
+        {bytes(128, 128, 128, 0.334), u"#80808055", u"rgba(128, 128, 128, 0.333)",
+         u"hsl(0 0% 50.2% / 0.333)", u"oklch(59.987% 0 0 / 0.333)"},
+        {bytes(102, 51, 153, 0.9999), u"#663399", u"rgb(102, 51, 153)", u"hsl(270 50% 40%)",
+         u"oklch(44.027% 0.1603 303.373)"},
+        {bytes(0, 1, 0, 0.1), u"#0001001a", u"rgba(0, 1, 0, 0.1)", u"hsl(120 100% 0.2% / 0.1)",
+         u"oklch(5.823% 0.01981 142.495 / 0.1)"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(hexText(row.color), row.hex);
+        EXPECT_EQ(rgbText(row.color), row.rgb);
+        EXPECT_EQ(hslText(row.color), row.hsl);
+        EXPECT_EQ(oklchText(row.color), row.oklch);
+    }
+}
+
+TEST(CSSColorWriterTest, EveryTextReadsBackAsTheSameEightBits)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 20000; ++round) {
+        const auto byte = [&random] { return static_cast<int>(random() & 0xFF); };
+        const HostColor color = bytes(byte(), byte(), byte(), byte() / 255.0);
+        const auto hex = hexText(color);
+        for (const auto& text : {hex, rgbText(color), hslText(color), oklchText(color)}) {
+            const CSSColorReading reading = readCSSColor(*text);
+            ASSERT_TRUE(reading.color);
+            ASSERT_EQ(hexText(reading.color->color), hex);
+            ASSERT_FALSE(reading.color->wasOutsideSRGB);
+        }
+    }
+}
+
+TEST(CSSColorWriterTest, EveryAlphaReadsBackAsTheSameEightBits)
+{
+    for (int byte = 0; byte <= 255; ++byte) {
+        const HostColor color = bytes(1, 2, 3, byte / 255.0);
+        for (const auto& text : {rgbText(color), hslText(color), oklchText(color)})
+            EXPECT_EQ(hexText(readCSSColor(*text).color.value().color), hexText(color)) << byte;
+    }
+}
+
+TEST(CSSColorWriterTest, FractionsOutOfRangeCountAsTheNearerEnd)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const auto strange =
+        HostColor::colorWithCalibratedRed(infinity, -infinity, std::nan(""), 1e300);
+    EXPECT_EQ(hexText(strange), u"#ff0000");
+    EXPECT_EQ(rgbText(strange), u"rgb(255, 0, 0)");
+    EXPECT_EQ(hslText(strange), u"hsl(0 100% 50%)");
+    EXPECT_EQ(oklchText(strange), u"oklch(62.796% 0.25768 29.234)");
+    EXPECT_EQ(hexText(bytes(0, 0, 0, std::nan(""))), u"#00000000");
+}
+
+TEST(CSSColorWriterTest, APatternHasNoText)
+{
+    const HostColor pattern = HostColor::patternColor();
+    EXPECT_FALSE(hexText(pattern));
+    EXPECT_FALSE(rgbText(pattern));
+    EXPECT_FALSE(hslText(pattern));
+    EXPECT_FALSE(oklchText(pattern));
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,88 @@
+#include "csscolor/GamutMapping.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+ColorTriple srgbOfOklch(double lightness, double chroma, double hue)
+{
+    return srgbFromOklab(rectangularFromPolar({lightness, chroma, hue}));
+}
+
+TEST(GamutMappingTest, ColoursWithinStayAsTheyAre)
+{
+    for (const ColorTriple& srgb : {ColorTriple{0, 0, 0}, ColorTriple{1, 1, 1},
+                                    ColorTriple{1, 0, 0.25}, ColorTriple{0.1, 0.2, 0.3}}) {
+        EXPECT_FALSE(isOutsideSRGB(srgb));
+        EXPECT_EQ(mappedIntoSRGB(srgb), srgb);
+    }
+}
+
+TEST(GamutMappingTest, HalfAStepOfEightBitsCountsAsWithin)
+{
+    EXPECT_FALSE(isOutsideSRGB({1.0019, 0.5, -0.0019}));
+    EXPECT_EQ(mappedIntoSRGB({1.0019, 0.5, -0.0019}), (ColorTriple{1, 0.5, 0}));
+    EXPECT_TRUE(isOutsideSRGB({1.002, 0.5, 0}));
+    EXPECT_TRUE(isOutsideSRGB({0.5, -0.002, 0}));
+}
+
+TEST(GamutMappingTest, BeyondWhiteAndBlackNothingIsLeftOfTheHue)
+{
+    EXPECT_EQ(mappedIntoSRGB({1.5, 1.5, 1.2}), (ColorTriple{1, 1, 1}));
+    EXPECT_EQ(mappedIntoSRGB({-0.2, -0.1, -0.2}), (ColorTriple{0, 0, 0}));
+    EXPECT_EQ(srgbByReducedChroma({1, 0.2, 0.1}), (ColorTriple{1, 1, 1}));
+    EXPECT_EQ(srgbByReducedChroma({0, 0.2, 0.1}), (ColorTriple{0, 0, 0}));
+}
+
+/// What is not noticeably outside is cut and keeps its chroma: the red of Display P3 is not.
+TEST(GamutMappingTest, KnownColoursComeOutAsKnown)
+{
+    struct Row {
+        ColorTriple srgb;
+        ColorTriple mapped;
+    };
+    for (const Row& row : {
+             Row{{1.0930663, -0.2267420, -0.1501349}, {1, 0.0445695, 0.0459316}},  // P3 red
+             Row{srgbOfOklch(0.5, 0.4, 120), {0.3526032, 0.4287437, 0}},
+             Row{srgbOfOklch(0.5, 0.5656854, 315), {0.5986374, 0, 0.7829886}},
+             Row{{1.01, 0.5, 0.5}, {1, 0.5, 0.5}},
+         }) {
+        const ColorTriple mapped = mappedIntoSRGB(row.srgb);
+        for (std::size_t i = 0; i < 3; ++i)
+            EXPECT_NEAR(mapped[i], row.mapped[i], 1e-5);
+    }
+}
+
+TEST(GamutMappingTest, MappedColoursKeepHueAndLightnessWithinWhatIsNoticeable)
+{
+    int outside = 0;
+    for (double lightness = 0.05; lightness < 1; lightness += 0.05) {
+        for (double chroma = 0.05; chroma < 0.5; chroma += 0.05) {
+            for (double hue = 0; hue < 360; hue += 7) {
+                const ColorTriple srgb = srgbOfOklch(lightness, chroma, hue);
+                const ColorTriple mapped = mappedIntoSRGB(srgb);
+                ASSERT_TRUE(std::ranges::all_of(
+                    mapped, [](double channel) { return channel >= 0 && channel <= 1; }));
+                if (!isOutsideSRGB(srgb)) continue;
+                ++outside;
+                // A cut may move a colour by the noticeable difference of 0.02 in any direction.
+                const ColorTriple oklab = oklabFromSRGB(mapped);
+                const double angle = hue * 3.14159265358979 / 180;
+                const double offHue = oklab[1] * std::sin(angle) - oklab[2] * std::cos(angle);
+                ASSERT_NEAR(oklab[0], lightness, 0.0201) << chroma << ' ' << hue;
+                ASSERT_NEAR(offHue, 0, 0.0201) << lightness << ' ' << chroma << ' ' << hue;
+                // And no more chroma is lost than that: some channel lies at its end.
+                ASSERT_TRUE(std::ranges::any_of(
+                    mapped, [](double channel) { return channel <= 1e-9 || channel >= 1 - 1e-9; }));
+            }
+        }
+    }
+    EXPECT_GT(outside, 5000);
+}
+
+}  // namespace
+}  // namespace vantorel
