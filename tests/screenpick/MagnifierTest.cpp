@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -30,6 +31,8 @@ protected:
             for (int x = 0; x < image.width(); ++x)
                 image.setPixelColor(x, y, colorOf(x, y));
         }
+        // The platform tells the overlay where its own mouse is, sooner or later.
+        QCursor::setPos(50, 60);
         _magnifier =
             std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60),
                                         [this](const std::optional<QColor>& color) {
