@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPointer>
+#include <QRect>
+#include <QScreen>
+
+#include <optional>
+#include <vector>
+
+namespace vantorel {
+
+/// What all screens showed at one moment, pixel by pixel.
+///
+/// Its coordinates are pixels of the desktop, whatever the scale factors of the screens.
+class DesktopPicture {
+public:
+    struct Screen {
+        /// Null in a picture that was not taken from a screen, and after the screen was unplugged.
+        QPointer<QScreen> screen;
+        /// The place of its first pixel on the desktop.
+        QPoint origin;
+        /// Its device pixel ratio is 1.
+        QImage image;
+
+        [[nodiscard]] QRect frame() const { return {origin, image.size()}; }
+    };
+
+    explicit DesktopPicture(std::vector<Screen> screens) : _screens(std::move(screens)) {}
+
+    /// Takes a picture of each screen; empty where a screen cannot be seen.
+    [[nodiscard]] static std::optional<DesktopPicture> take();
+
+    [[nodiscard]] const std::vector<Screen>& screens() const { return _screens; }
+    [[nodiscard]] std::vector<QRect> frames() const;
+    /// Empty where there is no screen.
+    [[nodiscard]] std::optional<QColor> colorAt(QPoint pixel) const;
+
+private:
+    std::vector<Screen> _screens;
+};
+
+}  // namespace vantorel

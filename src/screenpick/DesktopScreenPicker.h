@@ -1,0 +1,41 @@
+#pragma once
+
+#include "screenpick/PickMethod.h"
+#include "screenpick/ScreenPicker.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include <vector>
+
+namespace vantorel {
+
+/// Tries ways to pick in their order, until one of them works or the user leaves.
+class DesktopScreenPicker final : public ScreenPicker {
+public:
+    using Methods = std::vector<std::unique_ptr<PickMethod>>;
+
+    explicit DesktopScreenPicker(Methods methods) : _methods(std::move(methods)) {}
+
+    void start(QWidget* parent, Callback done) override;
+    void cancel() override;
+    [[nodiscard]] bool isPicking() const override { return _picking; }
+
+private:
+    void tryNextMethod();
+    void take(const PickMethod::Outcome& outcome);
+    void finish(ScreenPickResult result);
+
+    Methods _methods;
+    std::size_t _tried = 0;
+    QStringList _failures;
+    QPointer<QWidget> _parent;
+    Callback _done;
+    bool _picking = false;
+    /// Results on their way are delivered through it, and so end with the picker.
+    QObject _mail;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,240 @@
+#include "screenpick/MagnifierLens.h"
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QRadialGradient>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+// In device-independent pixels.
+constexpr std::array cellSizes{5, 7, 10, 14, 20, 28};
+constexpr double lensRadius = 84;
+constexpr double ringWidth = 4;
+constexpr double shadowWidth = 10;
+constexpr double labelGap = 8;
+constexpr double labelHeight = 28;
+constexpr double labelPadding = 10;
+constexpr double swatchSize = 14;
+constexpr double textSize = 14;
+constexpr double markRadius = 6;
+
+constexpr int smallestCellWithGrid = 7;
+
+QFont labelFont(double ratio)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(static_cast<int>(std::lround(textSize * ratio)));
+    return font;
+}
+
+/// Palettes that are made from two colours have no mid tone that shows on a dark ground.
+QColor faintTextOf(const QPalette& palette)
+{
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlpha(90);
+    return color;
+}
+
+/// How far `rect` must go to lie within 0..`size`; where it is too large, its top left goes inside.
+QPoint wayInto(const QRectF& rect, QSize size)
+{
+    const auto way = [](double begin, double end, double limit) {
+        const double back = std::floor(std::min(limit - end, 0.0));
+        return static_cast<int>(back + std::ceil(std::max(-(begin + back), 0.0)));
+    };
+    return {way(rect.left(), rect.right(), size.width()),
+            way(rect.top(), rect.bottom(), size.height())};
+}
+
+void paintShadow(QPainter& painter, QPointF center, double radius, double ratio)
+{
+    const double outer = radius + shadowWidth * ratio;
+    QRadialGradient shadow(center, outer);
+    shadow.setColorAt(radius / outer * 0.96, QColor(0, 0, 0, 90));
+    shadow.setColorAt(1, Qt::transparent);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shadow);
+    painter.drawEllipse(center, outer, outer);
+}
+
+void strokeCircle(QPainter& painter, QPointF center, double radius, double width,
+                  const QColor& color)
+{
+    painter.setPen(QPen(color, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(center, radius, radius);
+}
+
+/// A frame that stands out from every colour, because it is both black and white.
+void frameMiddle(QPainter& painter, const QRect& cell, int width)
+{
+    const QRect white = cell.adjusted(-width, -width, width, width);
+    const QRect black = white.adjusted(-width, -width, width, width);
+    const QRegion around = QRegion(black).subtracted(cell);
+    for (const QRect& rect : around)
+        painter.fillRect(rect, Qt::black);
+    for (const QRect& rect : QRegion(white).subtracted(cell))
+        painter.fillRect(rect, Qt::white);
+}
+
+}  // namespace
+
+struct MagnifierLens::Layout {
+    QRect middleCell;
+    QPointF center;
+    QRectF label;
+    QPointF mark;
+    /// Whether lens and pixel are apart.
+    bool displaced = false;
+};
+
+QString hexCodeOf(const QColor& color)
+{
+    return color.name(QColor::HexRgb);
+}
+
+void MagnifierLens::zoom(int steps)
+{
+    _zoom = std::clamp(_zoom + steps, 0, static_cast<int>(cellSizes.size()) - 1);
+}
+
+MagnifierLens::Layout MagnifierLens::layOut(QSize screen, QPoint pixel, double ratio) const
+{
+    const int cell =
+        static_cast<int>(std::lround(cellSizes[static_cast<std::size_t>(_zoom)] * ratio));
+    const double radius = (lensRadius + ringWidth) * ratio;
+    const QFontMetrics metrics(labelFont(ratio));
+    const double labelWidth = (3 * labelPadding + swatchSize) * ratio +
+                              metrics.horizontalAdvance(QStringLiteral("#000000"));
+
+    Layout layout;
+    layout.middleCell = QRect(pixel.x() - cell / 2, pixel.y() - cell / 2, cell, cell);
+    layout.center = QPointF(layout.middleCell.topLeft()) + QPointF(cell, cell) / 2;
+    layout.label = QRectF(std::round(layout.center.x() - labelWidth / 2),
+                          std::round(layout.center.y() + radius + labelGap * ratio),
+                          std::round(labelWidth), std::round(labelHeight * ratio));
+    const QRectF lens(layout.center - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
+    const double margin = std::round(ringWidth * ratio);
+    const QPoint way =
+        wayInto(lens.united(layout.label).adjusted(-margin, -margin, margin, margin), screen);
+    layout.middleCell.translate(way);
+    layout.center += way;
+    layout.label.translate(way);
+    layout.mark = QPointF(pixel) + QPointF(0.5, 0.5);
+    layout.displaced = !way.isNull();
+    return layout;
+}
+
+QRect MagnifierLens::bounds(const DesktopPicture::Screen& screen, QPoint pixel, double ratio) const
+{
+    const Layout layout = layOut(screen.image.size(), pixel - screen.origin, ratio);
+    const double reach = (lensRadius + ringWidth + shadowWidth) * ratio;
+    QRectF all(layout.center - QPointF(reach, reach), QSizeF(2 * reach, 2 * reach));
+    all |= layout.label;
+    if (layout.displaced) {
+        const double markReach = 2 * markRadius * ratio;
+        all |= QRectF(layout.mark - QPointF(markReach, markReach),
+                      QSizeF(2 * markReach, 2 * markReach));
+    }
+    // The label's edge is a line around it.
+    return all.adjusted(-ratio, -ratio, ratio, ratio).toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+QImage MagnifierLens::enlarged(const DesktopPicture& picture, QPoint middle, Cells size,
+                               const QPalette& palette)
+{
+    const auto [cell, cells, gridWidth] = size;
+    // Grey that shows on black and on white.
+    const QColor gridColor(128, 128, 128, 70);
+    QImage image(cells * cell, cells * cell, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QPoint first = middle - QPoint(cells / 2, cells / 2);
+    for (int row = 0; row < cells; ++row) {
+        for (int column = 0; column < cells; ++column) {
+            const QRect rect(column * cell, row * cell, cell, cell);
+            if (const auto color = picture.colorAt(first + QPoint(column, row))) {
+                painter.fillRect(rect, *color);
+                painter.fillRect(rect.x(), rect.y(), cell, gridWidth, gridColor);
+                painter.fillRect(rect.x(), rect.y() + gridWidth, gridWidth, cell - gridWidth,
+                                 gridColor);
+            } else {
+                // Beyond the desktop.
+                painter.fillRect(rect, palette.color(QPalette::Window));
+                painter.fillRect(rect, QBrush(faintTextOf(palette), Qt::BDiagPattern));
+            }
+        }
+    }
+    return image;
+}
+
+void MagnifierLens::paint(QPainter& painter, const DesktopPicture& picture,
+                          const DesktopPicture::Screen& screen, QPoint pixel, double ratio,
+                          const QPalette& palette) const
+{
+    const Layout layout = layOut(screen.image.size(), pixel - screen.origin, ratio);
+    const int cell = layout.middleCell.width();
+    const double radius = lensRadius * ratio;
+    const int line = std::max(1, static_cast<int>(ratio));
+    const QColor color = picture.colorAt(pixel).value_or(Qt::black);
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (layout.displaced) {
+        strokeCircle(painter, layout.mark, markRadius * ratio, 3 * ratio, Qt::black);
+        strokeCircle(painter, layout.mark, markRadius * ratio, 1.5 * ratio, Qt::white);
+    }
+    paintShadow(painter, layout.center, radius + ringWidth * ratio, ratio);
+
+    // An odd number, so that there is a middle.
+    const int cells = static_cast<int>(std::ceil(radius / cell - 0.5)) * 2 + 1;
+    const bool hasGrid = cellSizes[static_cast<std::size_t>(_zoom)] >= smallestCellWithGrid;
+    QImage pixels = enlarged(picture, pixel, {cell, cells, hasGrid ? line : 0}, palette);
+    {
+        QPainter onPixels(&pixels);
+        const QRect middle(cells / 2 * cell, cells / 2 * cell, cell, cell);
+        onPixels.fillRect(middle, color);
+        frameMiddle(onPixels, middle, line);
+    }
+    QBrush brush(pixels);
+    const QPoint origin = layout.middleCell.topLeft() - QPoint(cells / 2, cells / 2) * cell;
+    brush.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawEllipse(layout.center, radius, radius);
+
+    // A thin line on both sides keeps the ring apart from a picture of its own colour.
+    constexpr int darkGround = 128;
+    const QColor edge = ground.lightness() < darkGround ? QColor(255, 255, 255, 90)  //
+                                                        : QColor(0, 0, 0, 110);
+    strokeCircle(painter, layout.center, radius + ringWidth * ratio / 2, (ringWidth + 2) * ratio,
+                 edge);
+    strokeCircle(painter, layout.center, radius + ringWidth * ratio / 2, ringWidth * ratio, ground);
+
+    const double corner = layout.label.height() / 2;
+    painter.setPen(QPen(edge, ratio));
+    painter.setBrush(ground);
+    const double half = ratio / 2;
+    painter.drawRoundedRect(layout.label.adjusted(-half, -half, half, half), corner, corner);
+    const QRectF swatch(layout.label.left() + labelPadding * ratio,
+                        layout.label.center().y() - swatchSize * ratio / 2, swatchSize * ratio,
+                        swatchSize * ratio);
+    painter.setPen(QPen(faintTextOf(palette), ratio));
+    painter.setBrush(color);
+    painter.drawEllipse(swatch);
+    painter.setPen(text);
+    painter.setFont(labelFont(ratio));
+    const QRectF textRect(QPointF(swatch.right() + labelPadding * ratio, layout.label.top()),
+                          layout.label.bottomRight());
+    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, hexCodeOf(color));
+    painter.restore();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,124 @@
+#include "screenpick/MagnifierPickMethod.h"
+
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QCursor>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vantorel {
+namespace {
+
+// Programs repaint what a window has covered only after it has gone. A picture that is taken too
+// early still shows the menu that the pick was started from, or the last magnifier.
+constexpr qint64 menuSettleTime = 60;        // ms
+constexpr qint64 magnifierSettleTime = 300;  // ms
+
+/// Empty when the screen can be seen.
+QString obstacle()
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+        return QStringLiteral("there is no X11 display");
+    }
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const bool rootless = std::any_of(screens.begin(), screens.end(), [](const QScreen* screen) {
+        return screen->name().startsWith(QLatin1String("XWAYLAND"));
+    });
+    if (rootless || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        return QStringLiteral("the X11 display does not show the windows of Wayland");
+    }
+    return {};
+}
+
+/// In pixels of the desktop, to the nearest that Qt can tell before the mouse moves.
+QPoint mousePixel()
+{
+    const QPoint mouse = QCursor::pos();
+    const QScreen* screen = QGuiApplication::screenAt(mouse);
+    if (!screen) return mouse;
+    const QPoint origin = screen->geometry().topLeft();
+    return origin + (QPointF(mouse - origin) * screen->devicePixelRatio()).toPoint();
+}
+
+void closePopups()
+{
+    // They would keep the mouse. One that refuses to close must not stop the program.
+    constexpr int deepest = 16;
+    for (int i = 0; i < deepest; ++i) {
+        QWidget* popup = QApplication::activePopupWidget();
+        if (!popup) return;
+        popup->close();
+    }
+}
+
+}  // namespace
+
+MagnifierPickMethod::MagnifierPickMethod()
+{
+    _settling.setSingleShot(true);
+    QObject::connect(&_settling, &QTimer::timeout, &_settling, [this] { begin(); });
+}
+
+MagnifierPickMethod::~MagnifierPickMethod() = default;
+
+void MagnifierPickMethod::start(QWidget*, Done done)
+{
+    _done = std::move(done);
+    if (!obstacle().isEmpty()) {
+        _settling.start(0);
+        return;
+    }
+    closePopups();
+    const qint64 toWait = _sinceLast.isValid() ? magnifierSettleTime - _sinceLast.elapsed() : 0;
+    _settling.start(static_cast<int>(std::max(menuSettleTime, toWait)));
+}
+
+void MagnifierPickMethod::cancel()
+{
+    _done = nullptr;
+    end();
+}
+
+void MagnifierPickMethod::begin()
+{
+    const QString reason = obstacle();
+    if (!reason.isEmpty()) {
+        finish(Failure{reason});
+        return;
+    }
+    auto picture = DesktopPicture::take();
+    if (!picture) {
+        finish(Failure{QStringLiteral("the X11 display gives no picture of its screens")});
+        return;
+    }
+    _activeBefore = QApplication::activeWindow();
+    _magnifier = std::make_unique<Magnifier>(std::move(*picture), mousePixel(),
+                                             [this](const std::optional<QColor>& color) {
+                                                 if (color) {
+                                                     finish(hostColorFrom(*color));
+                                                 } else {
+                                                     finish(CancelledByUser{});
+                                                 }
+                                             });
+}
+
+void MagnifierPickMethod::end()
+{
+    _settling.stop();
+    if (!_magnifier) return;
+    _magnifier.reset();
+    _sinceLast.start();
+    if (_activeBefore) _activeBefore->activateWindow();
+    _activeBefore.clear();
+}
+
+void MagnifierPickMethod::finish(const Outcome& outcome)
+{
+    end();
+    if (const Done done = std::exchange(_done, nullptr)) done(outcome);
+}
+
+}  // namespace vantorel

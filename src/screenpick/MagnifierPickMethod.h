@@ -1,0 +1,40 @@
+#pragma once
+
+#include "screenpick/Magnifier.h"
+#include "screenpick/PickMethod.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+
+namespace vantorel {
+
+/// Picks with a magnifier of our own, where an X11 display shows the whole screen. Colours are
+/// those of the screen's frame buffer, taken as sRGB.
+class MagnifierPickMethod final : public PickMethod {
+public:
+    MagnifierPickMethod();
+    ~MagnifierPickMethod() override;
+
+    void start(QWidget* parent, Done done) override;
+    void cancel() override;
+
+    /// The magnifier on the screen; null while there is none.
+    [[nodiscard]] const Magnifier* magnifier() const { return _magnifier.get(); }
+
+private:
+    void begin();
+    void end();
+    void finish(const Outcome& outcome);
+
+    Done _done;
+    QPointer<QWidget> _activeBefore;
+    std::unique_ptr<Magnifier> _magnifier;
+    QTimer _settling;
+    QElapsedTimer _sinceLast;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "screenpick/PickMethod.h"
+
+#include <QDBusConnection>
+#include <QPointer>
+
+namespace vantorel {
+
+class PortalRequest;
+
+/// Picks through the desktop portal (`org.freedesktop.portal.Screenshot`, version 2 or later): the
+/// desktop shows its own picker, which also works where programs cannot see the screen.
+class PortalPickMethod final : public PickMethod {
+public:
+    /// `bus` gives the session bus; it is asked at each start.
+    explicit PortalPickMethod(std::function<QDBusConnection()> bus);
+    ~PortalPickMethod() override;
+
+    void start(QWidget* parent, Done done) override;
+    void cancel() override;
+
+private:
+    std::function<QDBusConnection()> _bus;
+    QPointer<PortalRequest> _request;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,223 @@
+#include "screenpick/PortalRequest.h"
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusError>
+#include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vantorel {
+namespace {
+
+const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString screenshotInterface = QStringLiteral("org.freedesktop.portal.Screenshot");
+const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
+
+constexpr uint firstVersionWithPickColor = 2;
+// Long enough for a portal that is started by the question, short enough for a user who waits.
+constexpr int versionTimeout = 5000;
+constexpr int callTimeout = 10000;
+
+enum ResponseCode : uint { succeeded = 0, cancelledByUser = 1 };
+
+QString clauseFor(const QDBusMessage& error)
+{
+    switch (QDBusError(error).type()) {
+        case QDBusError::ServiceUnknown:
+        case QDBusError::Disconnected:
+            return QStringLiteral("there is no desktop portal");
+        case QDBusError::NoReply:
+        case QDBusError::Timeout:
+        case QDBusError::TimedOut:
+            return QStringLiteral("the desktop portal does not answer");
+        case QDBusError::UnknownInterface:
+        case QDBusError::UnknownMethod:
+        case QDBusError::UnknownObject:
+        case QDBusError::UnknownProperty:
+        case QDBusError::InvalidArgs:
+            return QStringLiteral("the desktop portal has no PickColor");
+        default:
+            return QStringLiteral("the desktop portal could not pick a colour");
+    }
+}
+
+/// Empty for anything but three numbers.
+std::optional<HostColor> colorFrom(const QVariant& value)
+{
+    if (value.metaType() != QMetaType::fromType<QDBusArgument>()) return std::nullopt;
+    // A const one is read; another would be written to.
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String("(ddd)")) return std::nullopt;
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    argument.beginStructure();
+    argument >> red >> green >> blue;
+    argument.endStructure();
+    if (std::isnan(red) || std::isnan(green) || std::isnan(blue)) return std::nullopt;
+    const auto cut = [](double channel) { return std::clamp(channel, 0.0, 1.0); };
+    return HostColor::colorWithCalibratedRed(cut(red), cut(green), cut(blue), 1);
+}
+
+}  // namespace
+
+PortalRequest::PortalRequest(const QDBusConnection& bus, PickMethod::Done done)
+    // The application owns what is still waiting for a portal when it ends.
+    : QObject(QCoreApplication::instance()),
+      _bus(bus),
+      _done(std::move(done)),
+      _portalWatcher(portalService, bus, QDBusServiceWatcher::WatchForUnregistration),
+      // Random, so that no other program on the bus can guess where the answer comes.
+      _token(QStringLiteral("vantorel_%1").arg(QRandomGenerator::system()->generate64(), 0, 16))
+{
+    connect(&_portalWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { fail(QStringLiteral("the desktop portal has gone")); });
+}
+
+void PortalRequest::start(const QString& parentWindow)
+{
+    _parentWindow = parentWindow;
+    if (!_bus.isConnected()) {
+        QMetaObject::invokeMethod(
+            this, [this] { fail(QStringLiteral("there is no session bus")); },
+            Qt::QueuedConnection);
+        return;
+    }
+    _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                 SLOT(busHasGone()));
+    askForVersion();
+}
+
+void PortalRequest::cancel()
+{
+    if (_over) return;
+    _over = true;
+    _done = nullptr;
+    // A portal that has not yet named the handle may not have made it either; it would miss a
+    // Close.
+    if (_handleIsPending) return;
+    if (!_handle.isEmpty()) closeAtPortal();
+    deleteLater();
+}
+
+void PortalRequest::askForVersion()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        portalService, portalPath, QStringLiteral("org.freedesktop.DBus.Properties"),
+        QStringLiteral("Get"));
+    call << screenshotInterface << QStringLiteral("version");
+    auto* watcher = new QDBusPendingCallWatcher(_bus.asyncCall(call, versionTimeout), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, watcher] { takeVersion(watcher->reply()); });
+}
+
+void PortalRequest::takeVersion(const QDBusMessage& reply)
+{
+    if (_over) return;
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        fail(clauseFor(reply));
+        return;
+    }
+    const uint version = reply.arguments().value(0).value<QDBusVariant>().variant().toUInt();
+    if (version < firstVersionWithPickColor) {
+        fail(QStringLiteral("the desktop portal has no PickColor"));
+        return;
+    }
+    callPickColor();
+}
+
+void PortalRequest::callPickColor()
+{
+    // The answer can come before the call returns, so the place where it comes is worked out.
+    const QString sender = _bus.baseService().mid(1).replace(u'.', u'_');
+    listenAt(QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, _token));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        portalService, portalPath, screenshotInterface, QStringLiteral("PickColor"));
+    call << _parentWindow << QVariantMap{{QStringLiteral("handle_token"), _token}};
+    auto* watcher = new QDBusPendingCallWatcher(_bus.asyncCall(call, callTimeout), this);
+    _handleIsPending = true;
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, watcher] { takeHandle(watcher->reply()); });
+}
+
+void PortalRequest::takeHandle(const QDBusMessage& reply)
+{
+    _handleIsPending = false;
+    const bool failed = reply.type() == QDBusMessage::ErrorMessage;
+    if (!failed) {
+        // An old portal makes up a handle of its own.
+        const QString handle = reply.arguments().value(0).value<QDBusObjectPath>().path();
+        if (!handle.isEmpty() && handle != _handle) listenAt(handle);
+    }
+    if (_over || failed) closeAtPortal();
+    if (_over) {
+        deleteLater();
+    } else if (failed) {
+        fail(clauseFor(reply));
+    }
+    // From here on there is no limit of time: the user may take as long as they like.
+}
+
+void PortalRequest::listenAt(const QString& handle)
+{
+    _handle = handle;
+    _bus.connect(portalService, handle, requestInterface, QStringLiteral("Response"), this,
+                 SLOT(responded(QDBusMessage)));
+}
+
+void PortalRequest::closeAtPortal()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(portalService, _handle, requestInterface,
+                                                       QStringLiteral("Close"));
+    // A portal that has gone has nothing to close.
+    call.setAutoStartService(false);
+    _bus.send(call);
+}
+
+void PortalRequest::responded(const QDBusMessage& message)
+{
+    if (message.signature() != QLatin1String("ua{sv}")) {
+        fail(QStringLiteral("the desktop portal could not pick a colour"));
+        return;
+    }
+    const QList<QVariant> arguments = message.arguments();
+    const uint code = arguments.value(0).toUInt();
+    if (code == cancelledByUser) {
+        finish(PickMethod::CancelledByUser{});
+        return;
+    }
+    if (code == succeeded) {
+        const auto results = qdbus_cast<QVariantMap>(arguments.value(1));
+        if (const auto color = colorFrom(results.value(QStringLiteral("color")))) {
+            finish(*color);
+            return;
+        }
+    }
+    fail(QStringLiteral("the desktop portal could not pick a colour"));
+}
+
+void PortalRequest::busHasGone()
+{
+    fail(QStringLiteral("the session bus has gone"));
+}
+
+void PortalRequest::fail(const QString& clause)
+{
+    finish(PickMethod::Failure{clause});
+}
+
+void PortalRequest::finish(const PickMethod::Outcome& outcome)
+{
+    _over = true;
+    deleteLater();
+    if (const auto done = std::exchange(_done, nullptr)) done(outcome);
+}
+
+}  // namespace vantorel

@@ -1,0 +1,189 @@
+#include "screenpick/DesktopScreenPicker.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+namespace vantorel {
+namespace {
+
+using testing::ElementsAre;
+
+/// Answers when the test says so.
+class FakeMethod final : public PickMethod {
+public:
+    explicit FakeMethod(FakeMethod** self) { *self = this; }
+    void start(QWidget*, Done done) override
+    {
+        ++starts;
+        _done = std::move(done);
+    }
+    void cancel() override
+    {
+        ++cancels;
+        _done = nullptr;
+    }
+    void answer(const Outcome& outcome)
+    {
+        if (const Done done = std::exchange(_done, nullptr)) done(outcome);
+    }
+    [[nodiscard]] bool isWaiting() const { return _done != nullptr; }
+
+    int starts = 0;
+    int cancels = 0;
+
+private:
+    Done _done;
+};
+
+ScreenPickResult picked(const HostColor& color)
+{
+    return {ScreenPickResult::Outcome::picked, color, {}};
+}
+
+ScreenPickResult notPossible(const char* reason)
+{
+    return {ScreenPickResult::Outcome::notPossible, HostColor::blackColor(),
+            QString::fromLatin1(reason)};
+}
+
+class DesktopScreenPickerTest : public testing::Test {
+protected:
+    DesktopScreenPickerTest()
+    {
+        DesktopScreenPicker::Methods methods;
+        methods.push_back(std::make_unique<FakeMethod>(&_portal));
+        methods.push_back(std::make_unique<FakeMethod>(&_magnifier));
+        _picker = std::make_unique<DesktopScreenPicker>(std::move(methods));
+    }
+
+    void start()
+    {
+        _picker->start(nullptr, [this](const ScreenPickResult& r) { _results.push_back(r); });
+    }
+    const std::vector<ScreenPickResult>& results()
+    {
+        QCoreApplication::processEvents();
+        return _results;
+    }
+
+    FakeMethod* _portal = nullptr;
+    FakeMethod* _magnifier = nullptr;
+    std::unique_ptr<DesktopScreenPicker> _picker;
+    std::vector<ScreenPickResult> _results;
+};
+
+const HostColor orange = HostColor::colorWithCalibratedRed(1, 0.5, 0, 1);
+const PickMethod::Failure noPortal{QStringLiteral("the desktop portal has no PickColor")};
+const PickMethod::Failure noDisplay{QStringLiteral("there is no X11 display")};
+
+TEST_F(DesktopScreenPickerTest, asksOnlyTheFirstMethodWhenThatPicks)
+{
+    start();
+    EXPECT_TRUE(_picker->isPicking());
+    _portal->answer(orange);
+    EXPECT_FALSE(_picker->isPicking());
+    EXPECT_THAT(_results, ElementsAre()) << "answers come from the event loop";
+    EXPECT_THAT(results(), ElementsAre(picked(orange)));
+    EXPECT_EQ(_magnifier->starts, 0);
+}
+
+TEST_F(DesktopScreenPickerTest, asksTheNextMethodWhenOneFails)
+{
+    start();
+    _portal->answer(noPortal);
+    EXPECT_TRUE(_picker->isPicking());
+    _magnifier->answer(orange);
+    EXPECT_THAT(results(), ElementsAre(picked(orange)));
+}
+
+TEST_F(DesktopScreenPickerTest, asksNoOtherMethodWhenTheUserLeaves)
+{
+    start();
+    _portal->answer(PickMethod::CancelledByUser{});
+    EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}));
+    EXPECT_EQ(_magnifier->starts, 0);
+}
+
+TEST_F(DesktopScreenPickerTest, saysInOneSentenceWhatIsMissing)
+{
+    start();
+    _portal->answer(noPortal);
+    _magnifier->answer(noDisplay);
+    const auto sentence = notPossible(
+        "This desktop offers no way to pick a colour: the desktop portal has no PickColor and "
+        "there is no X11 display.");
+    EXPECT_THAT(results(), ElementsAre(sentence));
+
+    start();
+    _portal->answer(noPortal);
+    _magnifier->answer(noDisplay);
+    EXPECT_THAT(results(), ElementsAre(sentence, sentence)) << "earlier reasons are not repeated";
+}
+
+TEST_F(DesktopScreenPickerTest, cancelsTheMethodThatIsAtWork)
+{
+    start();
+    _portal->answer(noPortal);
+    _picker->cancel();
+    EXPECT_FALSE(_picker->isPicking());
+    EXPECT_EQ(_magnifier->cancels, 1);
+    EXPECT_EQ(_portal->cancels, 0);
+    EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}));
+    _picker->cancel();
+    EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}));
+}
+
+TEST_F(DesktopScreenPickerTest, aSecondStartCancelsTheFirstAndBeginsAtTheFirstMethod)
+{
+    start();
+    _portal->answer(noPortal);
+    start();
+    EXPECT_EQ(_magnifier->cancels, 1);
+    EXPECT_TRUE(_portal->isWaiting());
+    _portal->answer(orange);
+    EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}, picked(orange)));
+}
+
+TEST_F(DesktopScreenPickerTest, canBeStartedAgainFromItsAnswer)
+{
+    _picker->start(nullptr, [this](const ScreenPickResult&) { start(); });
+    _portal->answer(PickMethod::CancelledByUser{});
+    EXPECT_THAT(results(), ElementsAre());
+    EXPECT_TRUE(_picker->isPicking());
+    _portal->answer(orange);
+    EXPECT_THAT(results(), ElementsAre(picked(orange)));
+}
+
+TEST_F(DesktopScreenPickerTest, canBeEndedFromItsAnswer)
+{
+    _picker->start(nullptr, [this](const ScreenPickResult&) { _picker.reset(); });
+    _portal->answer(orange);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(_picker, nullptr);
+}
+
+TEST_F(DesktopScreenPickerTest, isSilentOnceItHasEnded)
+{
+    start();
+    _portal->answer(orange);
+    _picker.reset();
+    EXPECT_THAT(results(), ElementsAre());
+}
+
+TEST(makeScreenPicker, saysWhatIsMissingWithoutBusAndScreen)
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    const auto picker = makeScreenPicker();
+    std::vector<ScreenPickResult> results;
+    picker->start(nullptr, [&](const ScreenPickResult& result) { results.push_back(result); });
+    for (int i = 0; i < 1000 && results.empty(); ++i)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    EXPECT_THAT(results, ElementsAre(notPossible("This desktop offers no way to pick a colour: "
+                                                 "there is no session bus and there is no X11 "
+                                                 "display.")));
+}
+
+}  // namespace
+}  // namespace vantorel

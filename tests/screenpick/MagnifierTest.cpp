@@ -1,0 +1,213 @@
+#include "screenpick/Magnifier.h"
+
+#include "screenpick/MagnifierOverlay.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace vantorel {
+namespace {
+
+using testing::ElementsAre;
+
+QColor colorOf(int x, int y)
+{
+    return {x, y, 7};
+}
+
+class MagnifierTest : public testing::Test {
+protected:
+    MagnifierTest()
+    {
+        QImage image(200, 150, QImage::Format_RGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                image.setPixelColor(x, y, colorOf(x, y));
+        }
+        // The platform tells the overlay where its own mouse is, sooner or later.
+        QCursor::setPos(50, 60);
+        _magnifier =
+            std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60),
+                                        [this](const std::optional<QColor>& color) {
+                                            _answers.push_back(color);
+                                            _magnifier.reset();
+                                        });
+    }
+
+    QWidget& overlay() { return *_magnifier->overlays().front(); }
+    void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier, bool repeats = false)
+    {
+        QKeyEvent event(QEvent::KeyPress, code, modifiers, QString(), repeats);
+        QApplication::sendEvent(&overlay(), &event);
+    }
+    void mouse(QEvent::Type type, QPointF position, Qt::MouseButton button = Qt::NoButton)
+    {
+        QMouseEvent event(type, position, position, button, button, Qt::NoModifier);
+        QApplication::sendEvent(&overlay(), &event);
+    }
+    void click(QPointF position, Qt::MouseButton button = Qt::LeftButton)
+    {
+        mouse(QEvent::MouseButtonPress, position, button);
+        mouse(QEvent::MouseButtonRelease, position, button);
+    }
+    void wheel(int angle)
+    {
+        QWheelEvent event(QPointF(50, 60), QPointF(50, 60), QPoint(), QPoint(0, angle),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&overlay(), &event);
+    }
+    const std::vector<std::optional<QColor>>& answers()
+    {
+        QApplication::processEvents();
+        return _answers;
+    }
+    QString spokenDescription()
+    {
+        return QAccessible::queryAccessibleInterface(&overlay())->text(QAccessible::Description);
+    }
+
+    std::unique_ptr<Magnifier> _magnifier;
+    std::vector<std::optional<QColor>> _answers;
+};
+
+TEST_F(MagnifierTest, picksWhereTheMouseWasAndGoesAway)
+{
+    key(Qt::Key_Return);
+    EXPECT_THAT(_answers, ElementsAre()) << "answers come from the event loop";
+    EXPECT_FALSE(overlay().isVisible());
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
+    EXPECT_EQ(_magnifier, nullptr);
+}
+
+class MagnifierPickKeyTest : public MagnifierTest, public testing::WithParamInterface<int> {};
+
+TEST_P(MagnifierPickKeyTest, picksButNotWhenItOnlyRepeats)
+{
+    key(GetParam(), Qt::NoModifier, true);
+    EXPECT_THAT(answers(), ElementsAre());
+    key(GetParam());
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, MagnifierPickKeyTest,
+                         testing::Values(Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space));
+
+TEST_F(MagnifierTest, stepsByOneOrTenPixels)
+{
+    key(Qt::Key_Left);
+    key(Qt::Key_Left);
+    key(Qt::Key_Right);
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    key(Qt::Key_Up);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Up, Qt::NoModifier, true);
+    key(Qt::Key_Return);
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50 - 1 + 10, 60 + 10 - 2)));
+}
+
+TEST_F(MagnifierTest, picksOnTheReleaseOfAPressThatItSaw)
+{
+    mouse(QEvent::MouseButtonRelease, {80, 90}, Qt::LeftButton);
+    EXPECT_THAT(answers(), ElementsAre());
+    mouse(QEvent::MouseButtonPress, {80, 90}, Qt::LeftButton);
+    EXPECT_THAT(answers(), ElementsAre());
+    mouse(QEvent::MouseMove, {81, 92}, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, {81, 92}, Qt::LeftButton);
+    EXPECT_THAT(answers(), ElementsAre(colorOf(81, 92)));
+}
+
+TEST_F(MagnifierTest, aClickAfterStepsPicksWhereTheStepsLed)
+{
+    mouse(QEvent::MouseMove, {80, 90});
+    key(Qt::Key_Right);
+    key(Qt::Key_Right);
+    click({80, 90});
+    EXPECT_THAT(answers(), ElementsAre(colorOf(82, 90)));
+}
+
+TEST_F(MagnifierTest, leavesOnEscape)
+{
+    key(Qt::Key_Escape);
+    EXPECT_THAT(answers(), ElementsAre(std::nullopt));
+}
+
+TEST_F(MagnifierTest, leavesOnARightClick)
+{
+    click({80, 90}, Qt::RightButton);
+    EXPECT_THAT(answers(), ElementsAre(std::nullopt));
+}
+
+TEST_F(MagnifierTest, leavesWhenItsWindowIsClosed)
+{
+    overlay().close();
+    EXPECT_THAT(answers(), ElementsAre(std::nullopt));
+}
+
+TEST_F(MagnifierTest, answersOnlyOnce)
+{
+    key(Qt::Key_Return);
+    key(Qt::Key_Escape);
+    key(Qt::Key_Right);
+    click({1, 1});
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
+}
+
+TEST_F(MagnifierTest, takesNoOtherButtonOrKeyForAPick)
+{
+    click({80, 90}, Qt::MiddleButton);
+    for (const int code : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Shift, Qt::Key_F1})
+        key(code);
+    EXPECT_THAT(answers(), ElementsAre());
+}
+
+TEST_F(MagnifierTest, theWheelDoesNotMoveIt)
+{
+    for (const int angle : {120, 120, -60, -60, 40, -1200, 9600})
+        wheel(angle);
+    key(Qt::Key_Return);
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
+}
+
+TEST_F(MagnifierTest, theWheelChangesTheMagnification)
+{
+    const auto look = [this] { return overlay().grab().toImage(); };
+    overlay().resize(200, 150);
+    const QImage before = look();
+    wheel(60);
+    EXPECT_TRUE(look() == before) << "half a notch";
+    wheel(60);
+    const QImage larger = look();
+    EXPECT_FALSE(larger == before);
+    key(Qt::Key_Minus);
+    EXPECT_TRUE(look() == before) << "keys do the same";
+    key(Qt::Key_Plus);
+    EXPECT_TRUE(look() == larger);
+}
+
+TEST_F(MagnifierTest, tellsAssistiveProgramsItsNameAndTheHexCode)
+{
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&overlay())->text(QAccessible::Name),
+              QStringLiteral("Colour magnifier"));
+    EXPECT_EQ(spokenDescription(), QStringLiteral("#323c07"));
+    key(Qt::Key_Right);
+    EXPECT_EQ(spokenDescription(), QStringLiteral("#333c07"));
+    mouse(QEvent::MouseMove, {1, 1});
+    EXPECT_EQ(spokenDescription(), QStringLiteral("#020107")) << "with the key's step";
+}
+
+TEST_F(MagnifierTest, isSilentOnceItHasEnded)
+{
+    key(Qt::Key_Return);
+    _magnifier.reset();
+    EXPECT_THAT(answers(), ElementsAre());
+}
+
+}  // namespace
+}  // namespace vantorel
