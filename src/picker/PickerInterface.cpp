@@ -16,6 +16,19 @@ bool connectAction(HostView& view, const std::string& name, const PickerInterfac
     return true;
 }
 
+HostControlDescription completed(const InterfaceItem& item, const PickerInterface::Parts& parts)
+{
+    HostControlDescription description = item.description;
+    for (std::u16string* text :
+         {&description.title, &description.toolTip, &description.accessibleName}) {
+        if (!text->empty()) *text = parts.localized(*text);
+    }
+    if (!item.image.empty()) {
+        description.svgImage = parts.bundle.resource(item.image + ".svg").value_or("");
+    }
+    return description;
+}
+
 }  // namespace
 
 std::unique_ptr<PickerInterface> PickerInterface::build(const std::string& interfaceFile,
@@ -39,14 +52,15 @@ PickerInterface::~PickerInterface()
 
 HostView* PickerInterface::buildItem(const InterfaceItem& item, const Parts& parts)
 {
-    std::unique_ptr<HostView> made = makeView(item, parts);
+    const HostControlDescription description = completed(item, parts);
+    std::unique_ptr<HostView> made = makeView(item, description, parts);
     if (!made) return nullptr;
     HostView* view = made.get();
     _views.push_back(std::move(made));
-    _byName.emplace(item.description.identifier, view);
+    _byName.emplace(description.identifier, view);
 
-    view->setResizing(item.description.resizing);
-    if (!item.description.toolTip.empty()) view->setToolTip(item.description.toolTip);
+    view->setResizing(description.resizing);
+    if (!description.toolTip.empty()) view->setToolTip(description.toolTip);
     if (!connectAction(*view, item.action, parts)) return nullptr;
     for (const InterfaceItem& subitem : item.subviews) {
         HostView* subview = buildItem(subitem, parts);
@@ -56,12 +70,10 @@ HostView* PickerInterface::buildItem(const InterfaceItem& item, const Parts& par
     return view;
 }
 
-std::unique_ptr<HostView> PickerInterface::makeView(const InterfaceItem& item, const Parts& parts)
+std::unique_ptr<HostView> PickerInterface::makeView(const InterfaceItem& item,
+                                                    const HostControlDescription& description,
+                                                    const Parts& parts)
 {
-    HostControlDescription description = item.description;
-    if (!item.image.empty()) {
-        description.svgImage = parts.bundle.resource(item.image + ".svg").value_or("");
-    }
     HostInterfaceFactory& factory = parts.factory;
     using Kind = InterfaceItem::Kind;
     switch (item.kind) {

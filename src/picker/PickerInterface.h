@@ -25,6 +25,8 @@ public:
         /// Gives each control that names an action the function that sends it; an unknown name
         /// gives an empty function, which makes the file unusable.
         std::function<HostControl::Action(const std::string& name)> actionNamed;
+        /// The translation of a title, tool tip or accessible name; the text itself for none.
+        std::function<std::u16string(const std::u16string& text)> localized;
     };
 
     /// Null when the file does not read, names an action that nobody has, or the desktop cannot
@@ -47,7 +49,9 @@ public:
 
 private:
     [[nodiscard]] HostView* buildItem(const InterfaceItem& item, const Parts& parts);
-    [[nodiscard]] std::unique_ptr<HostView> makeView(const InterfaceItem& item, const Parts& parts);
+    [[nodiscard]] std::unique_ptr<HostView> makeView(const InterfaceItem& item,
+                                                     const HostControlDescription& description,
+                                                     const Parts& parts);
 
     std::vector<std::unique_ptr<HostView>> _views;  // superviews before their subviews
     std::map<std::string, HostView*> _byName;

@@ -54,7 +54,11 @@ bool QTXHexColorPicker::loadInterface()
                 .bundle = _bundle,
                 .colorsView = _hexColorsView,
                 .settingsView = _hexSettingsView,
-                .actionNamed = [this](const std::string& name) { return actionFunction(name); }});
+                .actionNamed = [this](const std::string& name) { return actionFunction(name); },
+                .localized =
+                    [this](const std::u16string& text) {
+                        return colorPanel().desktop().localizedString(text);
+                    }});
     if (!interface || !connectOutlets(*interface)) return false;
     _interface = std::move(interface);
     _hexColorsView.attachToView(_hexColorsViewOutlet);
