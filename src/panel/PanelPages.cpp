@@ -4,16 +4,18 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
+#include "panel/PanelIcons.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 
 namespace vantorel {
 namespace {
 
-constexpr const char* dialogIcon =
-    R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16" fill="none" stroke="currentColor")"
-    R"( stroke-width="1.4"><rect x="2" y="2.500" width="12" height="11" rx="1"/>)"
-    R"(<path d="M10.500 2.500v11M10.500 8H14"/></svg>)";
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PanelPages", text);
+}
 
 }  // namespace
 
@@ -54,9 +56,8 @@ void PluginPage::show(HostView& holder)
         _viewWasAskedFor = true;
         _view = _picker->provideNewView(true);
         if (_view == nullptr) {
-            _message = new QLabel(QStringLiteral("The page \"%1\" could not be made. Its interface "
-                                                 "file is missing or damaged; installing %2 again "
-                                                 "may help.")
+            _message = new QLabel(tr("The page \"%1\" could not be made. Its interface file is "
+                                     "missing or damaged; installing %2 again may help.")
                                       .arg(name(), QString::fromStdString(_plugin.file())));
             _message->setWordWrap(true);
             _message->setMargin(12);
@@ -109,17 +110,17 @@ DialogPage::~DialogPage()
 
 QString DialogPage::name() const
 {
-    return QStringLiteral("Colour dialog");
+    return tr("Colour dialog");
 }
 
 QString DialogPage::toolTip() const
 {
-    return QStringLiteral("Colour dialog");
+    return tr("Colour dialog");
 }
 
 QIcon DialogPage::icon() const
 {
-    return iconFromSvg(dialogIcon);
+    return dialogPageIcon();
 }
 
 QSize DialogPage::minimumSize() const

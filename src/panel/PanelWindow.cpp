@@ -5,10 +5,7 @@
 #include "hosts/qt/TextScale.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QScreen>
-#include <QSignalBlocker>
-#include <QToolButton>
 
 #include <cmath>
 
@@ -17,7 +14,7 @@ namespace {
 
 // In points, as the pages are.
 constexpr int topBarPoints = 32;
-constexpr int bottomBarPoints = 30;
+constexpr int toolsPoints = 54;
 constexpr int problemsPoints = 20;
 constexpr QSize firstPageSize{260, 340};
 
@@ -35,15 +32,58 @@ QSize scaled(QSize points)
 
 PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
                          std::vector<std::string>& problems)
-    : QtColorPanel(desktop)
+    : QtColorPanel(desktop), _topBar(new PanelTopBar(this)), _problems(new QLabel(this))
 {
-    setWindowTitle(QStringLiteral("Colour"));
+    setWindowTitle(tr("Colour"));
     setAccessibleRole(*this, QAccessible::Window);
-    makeBars();
+    _clock.start();
     auto* place = new QWidget(this);
     _holder = std::make_unique<QtMirrored<HostView>>(HostRect{}, place);
     place->setVisible(true);
+    makeTools();
+    _problems->setVisible(false);
+    _problems->setFont(fontOfSize(10));
+    _problems->setMargin(4);
+    _problems->setTextFormat(Qt::PlainText);
+    makeCommands();
 
+    addPages(plugins, problems);
+    if (!_pages.empty()) setWindowIcon(_pages.front()->icon());
+    resizeToPage(firstPageSize);
+    showPage(0);
+    _tools->setColor(_color);
+    _tools->setBackground(_background);
+    showHistory();
+}
+
+PanelWindow::~PanelWindow()
+{
+    _screenPicker.reset();
+    // The pages' views stand in the holder, whose widget belongs to the window.
+    _pages.clear();
+    _holder.reset();
+}
+
+void PanelWindow::makeTools()
+{
+    _tools = new PanelTools(this);
+    _tools->setOpacityChoice(
+        [this](int percent) { chooseColor(_color.colorWithAlphaComponent(percent / 100.0)); });
+    _tools->recentColors().setChoice([this](const HostColor& color) { chooseColor(color); });
+    _tools->well().setDropReaction([this](const ColorOffer& offer) {
+        takeOffer(offer, [this](const HostColor& color) { chooseColor(color); });
+    });
+    _tools->backgroundWell().setDropReaction([this](const ColorOffer& offer) {
+        takeOffer(offer, [this](const HostColor& color) { setBackground(color); });
+    });
+    setAccessibleRole(_tools->well(), QAccessible::Graphic);
+    setAccessibleRole(_tools->backgroundWell(), QAccessible::Graphic);
+}
+
+void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins,
+                           std::vector<std::string>& problems)
+{
+    _topBar->setPageChoice([this](int index) { showPage(index); });
     for (const LoadedPlugin& plugin : plugins) {
         std::string reason;
         auto picker = plugin.makePicker(*this, reason);
@@ -53,83 +93,13 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
             problems.push_back(plugin.file() + " is left out: " + reason);
         }
     }
-    if (!_pages.empty()) setWindowIcon(_pages.front()->icon());
     addPage(std::make_unique<DialogPage>(
         [this](const QColor& chosen) { chooseColor(hostColorFrom(chosen)); }));
-    resizeToPage(firstPageSize);
-    showPage(0);
-    showColor();
-}
-
-PanelWindow::~PanelWindow()
-{
-    // The pages' views stand in the holder, whose widget belongs to the window.
-    _pages.clear();
-    _holder.reset();
-}
-
-void PanelWindow::makeBars()
-{
-    _topBar = new QWidget(this);
-    auto* top = new QHBoxLayout(_topBar);
-    top->setContentsMargins(10, 3, 10, 1);
-    top->setSpacing(2);
-    _pageButtons = new QButtonGroup(this);
-    _pageButtons->setExclusive(true);
-    // Not `idClicked`: assistive technology toggles without a click.
-    connect(_pageButtons, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
-        if (checked) showPage(id);
-    });
-    _pageName = new QLabel(_topBar);
-    _pageName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    _pageName->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    _pageName->setAccessibleDescription(QStringLiteral("Current page"));
-    top->addStretch(0);
-    top->addWidget(_pageName, 1);
-
-    _bottomBar = new QWidget(this);
-    auto* bottom = new QHBoxLayout(_bottomBar);
-    bottom->setContentsMargins(10, 3, 10, 7);
-    bottom->setSpacing(6);
-    _well = new ColorWell(_bottomBar);
-    _well->setFixedSize(scaled(QSize(44, 20)));
-    setAccessibleRole(*_well, QAccessible::Graphic);
-    _opacity = new QSlider(Qt::Horizontal, _bottomBar);
-    _opacity->setRange(0, 100);
-    _opacity->setMinimumWidth(30);
-    _opacity->setToolTip(QStringLiteral("Opacity"));
-    _opacity->setAccessibleName(QStringLiteral("Opacity"));
-    connect(_opacity, &QSlider::valueChanged, this, [this](int value) { opacityChosen(value); });
-    _opacityText = new QLabel(_bottomBar);
-    _opacityText->setFont(fontOfSize(11));
-    _opacityText->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    _opacityText->setFixedWidth(
-        QFontMetrics(_opacityText->font()).horizontalAdvance(QStringLiteral("100 %")) + 2);
-    bottom->addWidget(_well);
-    bottom->addWidget(_opacity, 1);
-    bottom->addWidget(_opacityText);
-
-    _problems = new QLabel(this);
-    _problems->setVisible(false);
-    _problems->setFont(fontOfSize(10));
-    _problems->setMargin(4);
-    _problems->setTextFormat(Qt::PlainText);
 }
 
 void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
 {
-    const int iconSize = scaled(18);
-    auto* button = new QToolButton(_topBar);
-    button->setAutoRaise(true);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setIcon(page->icon());
-    button->setIconSize(QSize(iconSize, iconSize));
-    button->setToolTip(page->toolTip());
-    button->setAccessibleName(page->name());
-    const int index = pageCount();
-    _pageButtons->addButton(button, index);
-    static_cast<QHBoxLayout*>(_topBar->layout())->insertWidget(index, button);
+    _topBar->addPage(page->icon(), page->name(), page->toolTip());
     _pages.push_back(std::move(page));
 }
 
@@ -156,12 +126,11 @@ void PanelWindow::showPage(int index)
     if (PanelPage* old = currentPage()) old->hide();
     _currentPage = index;
     PanelPage& page = *_pages[static_cast<std::size_t>(index)];
-    _pageButtons->button(index)->setChecked(true);
-    _pageName->setText(page.name());
+    _topBar->showPage(index, page.name());
     page.show(*_holder);
     pageDidAppear();
     page.setColor(_color);
-    const QSize least = scaled(page.minimumSize() + QSize(0, topBarPoints + bottomBarPoints));
+    const QSize least = scaled(page.minimumSize() + QSize(0, topBarPoints + toolsPoints));
     setMinimumSize(least);
     resize(size().expandedTo(least));
     layOut();
@@ -181,23 +150,29 @@ void PanelWindow::setColor(const HostColor& color)
 {
     const bool changed = color != _color;
     _color = color;
-    showColor();
+    _tools->setColor(color);
+    if (changed) {
+        _history.record(color, static_cast<double>(_clock.elapsed()) / 1000);
+        showHistory();
+    }
     if (PanelPage* page = currentPage()) page->setColor(color);
-    if (changed && _colorObserver) _colorObserver(qColorFrom(color));
+    if (!changed) return;
+    for (const ColorObserver& observer : _colorObservers)
+        observer(color);
 }
 
-void PanelWindow::showColor()
+void PanelWindow::setBackground(const HostColor& color)
 {
-    _well->setColor(qColorFrom(_color));
-    const int percent = static_cast<int>(std::lround(qColorFrom(_color).alphaF() * 100));
-    const QSignalBlocker blocker(_opacity);
-    _opacity->setValue(percent);
-    _opacityText->setText(QStringLiteral("%1 %").arg(percent));
+    _background = color;
+    _tools->setBackground(color);
 }
 
-void PanelWindow::opacityChosen(int percent)
+void PanelWindow::dragImage(const HostImage& image, const HostPasteboardItem& item,
+                            const HostEvent& event, HostView& source)
 {
-    chooseColor(_color.colorWithAlphaComponent(percent / 100.0));
+    // The panel is black while a text is dragged, which is nothing to undo.
+    if (std::holds_alternative<std::string>(item)) _history.forgetLast();
+    QtColorPanel::dragImage(image, item, event, source);
 }
 
 void PanelWindow::showProblems(const std::vector<std::string>& problems)
@@ -207,15 +182,19 @@ void PanelWindow::showProblems(const std::vector<std::string>& problems)
         lines.append(QString::fromStdString(problem));
     _problems->setVisible(!lines.isEmpty());
     _problems->setToolTip(lines.join(u'\n'));
-    _problems->setText(lines.size() == 1
-                           ? QStringLiteral("A plug-in was left out")
-                           : QStringLiteral("%1 plug-ins were left out").arg(lines.size()));
+    _problems->setText(lines.size() == 1 ? tr("A plug-in was left out")
+                                         : tr("%1 plug-ins were left out").arg(lines.size()));
     layOut();
 }
 
-void PanelWindow::resizeToPage(QSize page)
+void PanelWindow::showRemark(const QString& remark)
 {
-    resize(scaled(page + QSize(0, topBarPoints + bottomBarPoints)));
+    _topBar->showRemark(remark);
+}
+
+void PanelWindow::resizeToPage(QSize points)
+{
+    resize(scaled(points + QSize(0, topBarPoints + toolsPoints)));
     layOut();
 }
 
@@ -244,11 +223,11 @@ void PanelWindow::setFrame(HostRect wanted, bool)
 void PanelWindow::layOut()
 {
     const int topBarHeight = scaled(topBarPoints);
-    const int bottomBarHeight = scaled(bottomBarPoints);
+    const int toolsHeight = scaled(toolsPoints);
     const int problems = _problems->isVisibleTo(this) ? scaled(problemsPoints) : 0;
-    const int pageHeight = std::max(0, height() - topBarHeight - bottomBarHeight - problems);
+    const int pageHeight = std::max(0, height() - topBarHeight - toolsHeight - problems);
     _topBar->setGeometry(0, 0, width(), topBarHeight);
-    _bottomBar->setGeometry(0, topBarHeight + pageHeight, width(), bottomBarHeight);
+    _tools->setGeometry(0, topBarHeight + pageHeight, width(), toolsHeight);
     _problems->setGeometry(0, height() - problems, width(), problems);
     const HostRect page{0, 0, width() / textScale(), pageHeight / textScale()};
     _holder->widget()->setGeometry(0, topBarHeight, width(), pageHeight);

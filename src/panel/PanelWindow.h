@@ -2,12 +2,17 @@
 
 #include "hosts/qt/QtColorPanel.h"
 #include "hosts/qt/QtView.h"
-#include "panel/ColorWell.h"
+#include "panel/ColorHistory.h"
+#include "panel/PanelCommands.h"
+#include "panel/PanelMemory.h"
 #include "panel/PanelPages.h"
+#include "panel/PanelTools.h"
+#include "panel/PanelTopBar.h"
+#include "screenpick/ScreenPicker.h"
 
-#include <QButtonGroup>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QLabel>
-#include <QSlider>
 #include <QWidget>
 
 #include <memory>
@@ -15,11 +20,12 @@
 
 namespace vantorel {
 
-/// The colour panel: a bar of page icons with the current page's name, the page, and a bar with the
-/// colour and its opacity.
+/// The colour panel: a bar of pages and commands, the page, and the tools that every page shares.
 class PanelWindow final : public QWidget, private QtColorPanel {
+    Q_DECLARE_TR_FUNCTIONS(PanelWindow)
+
 public:
-    using ColorObserver = std::function<void(const QColor&)>;
+    using ColorObserver = std::function<void(const HostColor&)>;
 
     /// Makes a page for each plug-in, and the panel's own. All must outlive the window. `problems`
     /// gets a line for each plug-in that makes no page.
@@ -29,16 +35,54 @@ public:
 
     /// Shows what went wrong while the plug-ins were loaded, one a line.
     void showProblems(const std::vector<std::string>& problems);
+    /// Says something in one sentence for a while.
+    void showRemark(const QString& remark);
+
     void showPage(int index);
     [[nodiscard]] int pageCount() const { return static_cast<int>(_pages.size()); }
+    [[nodiscard]] int currentPageIndex() const { return _currentPage; }
     /// The picker of the page on show; null for the panel's own pages.
     [[nodiscard]] HostColorPicker* currentPicker() const;
+    void resizeToPage(QSize points);
+
     /// Changes the colour as the user does, the alpha included.
     void chooseColor(const HostColor& color);
+    [[nodiscard]] HostColor chosenHostColor() const { return _color; }
     [[nodiscard]] QColor chosenColor() const;
-    void setColorObserver(ColorObserver observer) { _colorObserver = std::move(observer); }
-    void resizeToPage(QSize page);
+    void setBackground(const HostColor& color);
+    [[nodiscard]] HostColor background() const { return _background; }
+    /// Is told each change of the colour.
+    void addColorObserver(ColorObserver observer)
+    {
+        _colorObservers.push_back(std::move(observer));
+    }
+
+    // What the commands do (PanelWindowCommands.cpp).
+
+    void copyColor();
+    void copyHexCode();
+    void copyText(const QString& text);
+    void pasteColor();
+    void undo();
+    void redo();
+    void swapColors();
+    void setStaysOnTop(bool flag);
+    void showShortcuts();
+    /// Lets the user pick from the screen. `copies` puts the colour on the clipboard at once;
+    /// `done`, if there is one, is told how it ended.
+    void pickFromScreen(bool copies = false, ScreenPicker::Callback done = {});
+    /// The texts that stand for the colour, with the names of their forms.
+    [[nodiscard]] std::vector<HostColorText> colorTexts() const;
+    /// In place of the one for this desktop.
+    void setScreenPicker(std::unique_ptr<ScreenPicker> picker);
+
+    // What is kept from one start to the next.
+
+    void recall(const PanelMemory& memory);
+    [[nodiscard]] PanelMemory memory() const;
+
     [[nodiscard]] HostColorPanel& hostPanel() { return *this; }
+    [[nodiscard]] const PanelCommands& commands() const { return *_commands; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -50,25 +94,32 @@ private:
     [[nodiscard]] HostRect frame() const override;
     void setFrame(HostRect frame, bool display) override;
     [[nodiscard]] HostView* pageView() const override;
+    void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
+                   HostView& source) override;
 
-    void makeBars();
+    void makeCommands();
+    void makeTools();
+    void addPages(const std::vector<LoadedPlugin>& plugins, std::vector<std::string>& problems);
     void addPage(std::unique_ptr<PanelPage> page);
-    void layOut();
-    void showColor();
-    void opacityChosen(int percent);
     [[nodiscard]] PanelPage* currentPage() const;
+    void stepPage(int step);
+    void layOut();
+    [[nodiscard]] int toolsHeight() const;
+    void showHistory();
+    void takeOffer(const ColorOffer& offer, const std::function<void(const HostColor&)>& take);
+    void fillCopyMenu(QMenu& menu);
 
     HostColor _color = HostColor::whiteColor();
-    ColorObserver _colorObserver;
+    HostColor _background = HostColor::whiteColor();
+    ColorHistory _history{_color};
+    QElapsedTimer _clock;
+    std::vector<ColorObserver> _colorObservers;
 
-    QWidget* _topBar = nullptr;
-    QButtonGroup* _pageButtons = nullptr;
-    QLabel* _pageName = nullptr;
-    QWidget* _bottomBar = nullptr;
-    ColorWell* _well = nullptr;
-    QSlider* _opacity = nullptr;
-    QLabel* _opacityText = nullptr;
+    PanelTopBar* _topBar = nullptr;
+    PanelTools* _tools = nullptr;
     QLabel* _problems = nullptr;
+    std::unique_ptr<PanelCommands> _commands;
+    std::unique_ptr<ScreenPicker> _screenPicker;
 
     std::unique_ptr<QtMirrored<HostView>> _holder;
     std::vector<std::unique_ptr<PanelPage>> _pages;

@@ -38,8 +38,8 @@ void sendAction(PanelWindow& window, const char* name)
 void applyOptions(PanelWindow& window, const PanelOptions& options)
 {
     if (options.printColor) {
-        window.setColorObserver([](const QColor& color) {
-            const QString argb = color.name(QColor::HexArgb);
+        window.addColorObserver([](const HostColor& color) {
+            const QString argb = qColorFrom(color).name(QColor::HexArgb);
             print(stdout, u'#' + argb.mid(3) + argb.mid(1, 2) + u'\n');
         });
     }
@@ -112,8 +112,11 @@ int main(int argc, char** argv)
         print(stderr, QStringLiteral("vantorel-panel: %1\n").arg(QString::fromStdString(problem)));
     }
     if (!search.problems.empty()) window.showProblems(search.problems);
+    if (!options.screenshot) window.recall(readPanelMemory());
     applyOptions(window, options);
     if (options.screenshot) return saveScreenshot(window, *options.screenshot);
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    writePanelMemory(window.memory());
+    return status;
 }

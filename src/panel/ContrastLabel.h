@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/HostColor.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+
+namespace vantorel {
+
+/// The contrast of the colour with the background colour, by WCAG 2.2: the ratio, and the best
+/// level that normal text reaches. The tool tip has all verdicts.
+class ContrastLabel final : public QLabel {
+    Q_DECLARE_TR_FUNCTIONS(ContrastLabel)
+
+public:
+    explicit ContrastLabel(QWidget* parent = nullptr);
+
+    void setColors(const HostColor& foreground, const HostColor& background);
+};
+
+}  // namespace vantorel

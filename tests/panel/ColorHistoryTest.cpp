@@ -1,0 +1,91 @@
+#include "panel/ColorHistory.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+HostColor grey(double value)
+{
+    return HostColor::colorWithCalibratedRed(value, value, value, 1);
+}
+
+class ColorHistoryTest : public testing::Test {
+protected:
+    ColorHistory _history{grey(0)};
+};
+
+TEST_F(ColorHistoryTest, ChangesFarApartAreStepsOfTheirOwn)
+{
+    EXPECT_FALSE(_history.canUndo());
+    _history.record(grey(0.1), 10);
+    _history.record(grey(0.2), 20);
+    EXPECT_EQ(_history.undo(), grey(0.1));
+    EXPECT_EQ(_history.undo(), grey(0));
+    EXPECT_EQ(_history.undo(), std::nullopt);
+    EXPECT_EQ(_history.redo(), grey(0.1));
+    EXPECT_EQ(_history.redo(), grey(0.2));
+    EXPECT_EQ(_history.redo(), std::nullopt);
+}
+
+TEST_F(ColorHistoryTest, ADragIsOneStep)
+{
+    for (int i = 1; i <= 100; ++i)
+        _history.record(grey(i / 100.0), 10 + i * 0.05);
+    EXPECT_EQ(_history.current(), grey(1));
+    EXPECT_EQ(_history.undo(), grey(0));
+    EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)}) << "none of what it passed over";
+}
+
+TEST_F(ColorHistoryTest, AChangeAfterAnUndoEndsTheRedo)
+{
+    _history.record(grey(0.1), 10);
+    _history.record(grey(0.2), 20);
+    _history.undo();
+    _history.record(grey(0.3), 20.1);
+    EXPECT_FALSE(_history.canRedo());
+    EXPECT_EQ(_history.undo(), grey(0.1)) << "the change is a step, however soon it came";
+}
+
+TEST_F(ColorHistoryTest, TheSameColourIsNoChange)
+{
+    _history.record(grey(0), 10);
+    EXPECT_FALSE(_history.canUndo());
+    EXPECT_TRUE(_history.recent().empty());
+}
+
+TEST_F(ColorHistoryTest, WhatIsForgottenHasNotHappened)
+{
+    _history.record(grey(0.5), 10);
+    _history.record(grey(0.9), 20);
+    _history.forgetLast();
+    _history.record(grey(0.5), 21);
+    EXPECT_EQ(_history.current(), grey(0.5));
+    EXPECT_EQ(_history.undo(), grey(0));
+    EXPECT_EQ(_history.redo(), grey(0.5));
+    EXPECT_FALSE(_history.canRedo());
+    EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)});
+}
+
+TEST_F(ColorHistoryTest, TheRowHoldsEachColourOnceAndHasAnEnd)
+{
+    for (int i = 0; i < 100; ++i)
+        _history.remember(grey(i % 40 / 100.0));
+    EXPECT_EQ(_history.recent().size(), ColorHistory::mostRecent);
+    EXPECT_EQ(_history.recent().front(), grey(0.19));
+    _history.setRecent({grey(0.2), grey(0.2), grey(0.3)});
+    EXPECT_EQ(_history.recent(), (std::vector<HostColor>{grey(0.2), grey(0.3)}));
+}
+
+TEST_F(ColorHistoryTest, ManyStepsForgetTheFirst)
+{
+    for (int i = 1; i <= 1000; ++i)
+        _history.record(grey(i / 1000.0), i * 10);
+    std::size_t steps = 0;
+    while (_history.undo())
+        ++steps;
+    EXPECT_EQ(steps, ColorHistory::mostSteps - 1);
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,265 @@
+#include "PanelWindowFixture.h"
+#include "hosts/qt/QtColors.h"
+#include "panel/ColorClipboard.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QSlider>
+#include <QToolButton>
+
+namespace vantorel {
+namespace {
+
+HostColor rgb(int red, int green, int blue, double alpha = 1)
+{
+    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
+}
+
+/// Answers at once, from a list that the test holds.
+class ScriptedScreenPicker final : public ScreenPicker {
+public:
+    explicit ScriptedScreenPicker(ScreenPickResult result) : _result(std::move(result)) {}
+    void start(QWidget*, Callback done) override { done(_result); }
+    void cancel() override {}
+    [[nodiscard]] bool isPicking() const override { return false; }
+
+private:
+    ScreenPickResult _result;
+};
+
+class PanelCommandsTest : public PanelWindowFixture {
+protected:
+    void SetUp() override
+    {
+        PanelWindowFixture::SetUp();
+        QApplication::clipboard()->clear();
+        _window->chooseColor(rgb(255, 128, 0));
+        _window->setFocus();
+    }
+
+    static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
+    [[nodiscard]] QString remark() const
+    {
+        return static_cast<PanelTopBar*>(child<QWidget>("topBar"))->remark();
+    }
+    void type(const QKeySequence& keys) { QTest::keySequence(_window.get(), keys); }
+};
+
+TEST_F(PanelCommandsTest, CopyTakesWhatADragCarriesAndTheColour)
+{
+    type(QKeySequence("Ctrl+C"));
+    EXPECT_EQ(clipboard().text(), "#FF8000");
+    EXPECT_EQ(qvariant_cast<QColor>(clipboard().colorData()).rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(_window->memory().recent.front(), rgb(255, 128, 0)) << "what was copied is kept";
+}
+
+TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
+{
+    const auto texts = _window->colorTexts();
+    std::vector<QString> names;
+    for (const HostColorText& text : texts)
+        names.push_back(qStringFrom(text.name));
+    ASSERT_EQ(names.size(), 16U) << "two codes, twelve snippets, two of CSS Color 4";
+    EXPECT_EQ(names[1], "RGB (CSS)");
+    EXPECT_EQ(names[2], "ObjC fraction");
+
+    QMenu* menu = _window->commands().copy().menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), static_cast<qsizetype>(texts.size()));
+    menu->actions().at(13)->trigger();
+    EXPECT_EQ(clipboard().text(), "RGB(255, 128, 0)");
+    menu->actions().at(15)->trigger();
+    EXPECT_TRUE(clipboard().text().startsWith("oklch(")) << clipboard().text().toStdString();
+}
+
+TEST_F(PanelCommandsTest, APageWithoutTextsCopiesTheHexCode)
+{
+    _window->showPage(_window->pageCount() - 1);
+    type(QKeySequence("Ctrl+Shift+C"));
+    EXPECT_EQ(clipboard().text(), "#ff8000");
+}
+
+struct PasteRow {
+    const char* text;
+    QColor color;
+};
+
+class PasteTest : public PanelCommandsTest, public testing::WithParamInterface<PasteRow> {};
+
+TEST_P(PasteTest, TakesEveryFormOfCSS)
+{
+    QApplication::clipboard()->setText(QString::fromUtf8(GetParam().text));
+    type(QKeySequence("Ctrl+V"));
+    EXPECT_EQ(_window->chosenColor().rgba(), GetParam().color.rgba()) << GetParam().text;
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
+                         testing::Values(PasteRow{"#08f", QColor(0, 136, 255)},
+                                         PasteRow{"#08f8", QColor(0, 136, 255, 136)},
+                                         PasteRow{"0080ff", QColor(0, 128, 255)},
+                                         PasteRow{"#0080ff80", QColor(0, 128, 255, 128)},
+                                         PasteRow{"RGB(0, 128, 255);", QColor(0, 128, 255)},
+                                         PasteRow{"hsl(210 100% 50%)", QColor(0, 128, 255)},
+                                         PasteRow{"hwb(210 0% 0%)", QColor(0, 128, 255)},
+                                         PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
+                                         PasteRow{"navy", QColor(0, 0, 128)}));
+
+TEST_F(PanelCommandsTest, PasteTakesTheColourBeforeTheText)
+{
+    auto data = mimeDataFromColor(rgb(1, 2, 3, 0.5), QStringLiteral("white"));
+    QApplication::clipboard()->setMimeData(data.release());
+    type(QKeySequence("Ctrl+V"));
+    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(1, 2, 3, 128));
+}
+
+TEST_F(PanelCommandsTest, WhatIsNoColourChangesNothingAndSaysWhy)
+{
+    for (const QString& text : {QStringLiteral("no colour"), QString(100000, u'x'), QString()}) {
+        QApplication::clipboard()->setText(text);
+        _window->showRemark({});
+        type(QKeySequence("Ctrl+V"));
+        EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+        EXPECT_FALSE(remark().isEmpty());
+    }
+    QMimeData damaged;
+    damaged.setData("application/x-color", "12345");
+    EXPECT_FALSE(colorFromMimeData(damaged).color.has_value());
+    EXPECT_FALSE(colorFromMimeData(damaged).remark.isEmpty());
+}
+
+TEST_F(PanelCommandsTest, AColourOutsideSRGBIsMappedAndSaysSo)
+{
+    QApplication::clipboard()->setText("color(display-p3 1 0 0)");
+    type(QKeySequence("Ctrl+V"));
+    EXPECT_EQ(_window->chosenColor().red(), 255);
+    EXPECT_TRUE(remark().contains("sRGB"));
+}
+
+TEST_F(PanelCommandsTest, UndoAndRedoGoThroughTheColours)
+{
+    QTest::qWait(static_cast<int>(ColorHistory::settlingSeconds * 1000) + 50);
+    _window->chooseColor(rgb(1, 2, 3));
+    type(QKeySequence("Ctrl+Z"));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(text("_fullHexText"), "#FF8000") << "the page follows";
+    EXPECT_TRUE(_window->commands().redo().isEnabled());
+    type(QKeySequence("Ctrl+Shift+Z"));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(1, 2, 3));
+}
+
+TEST_F(PanelCommandsTest, XSwapsTheTwoColours)
+{
+    _window->setBackground(rgb(0, 0, 128));
+    type(QKeySequence("X"));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 128));
+    EXPECT_EQ(_window->background(), rgb(255, 128, 0));
+}
+
+TEST_F(PanelCommandsTest, AnXThatIsTypedSwapsNothing)
+{
+    auto* field = child<QLineEdit>("_fullHexText");
+    field->setFocus();
+    QTest::keyClicks(field, "x");
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+}
+
+TEST_F(PanelCommandsTest, TheContrastIsShownLive)
+{
+    _window->setBackground(rgb(255, 255, 255));
+    struct Row {
+        HostColor color;
+        const char* text;
+    };
+    for (const auto& [color, shown] :
+         {Row{rgb(0, 0, 0), "21.0 AAA"}, Row{rgb(0x76, 0x76, 0x76), "4.54 AA"},
+          Row{rgb(0x77, 0x77, 0x77), "4.47 AA+"}, Row{rgb(255, 255, 0), "1.07 \u2013"}}) {
+        _window->chooseColor(color);
+        EXPECT_EQ(child<QLabel>("contrast")->text(), QString::fromUtf8(shown));
+    }
+}
+
+TEST_F(PanelCommandsTest, ARecentColourIsTakenByAClickAndByTheKeyboard)
+{
+    PanelMemory memory;
+    memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(3, 3, 3)};
+    _window->recall(memory);
+    // The panel's own classes have no meta-objects: they are found by their names.
+    auto& row = static_cast<RecentColors&>(*child<QWidget>("recentColors"));
+    QTest::mouseClick(&row, Qt::LeftButton, {}, row.rectOfColor(0).center());
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(1, 1, 1));
+    row.setFocus();
+    QTest::keyClick(&row, Qt::Key_End);
+    QTest::keyClick(&row, Qt::Key_Return);
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(3, 3, 3));
+}
+
+TEST_F(PanelCommandsTest, APickFromTheScreenBecomesTheColour)
+{
+    using Outcome = ScreenPickResult::Outcome;
+    _window->setScreenPicker(std::make_unique<ScriptedScreenPicker>(
+        ScreenPickResult{Outcome::picked, rgb(10, 20, 30), {}}));
+    type(QKeySequence("Ctrl+Shift+P"));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(10, 20, 30));
+    EXPECT_EQ(clipboard().text(), "#0A141E") << "picked and copied in one step";
+
+    _window->setScreenPicker(std::make_unique<ScriptedScreenPicker>(ScreenPickResult{
+        Outcome::notPossible, HostColor::blackColor(), QStringLiteral("Nothing to pick with.")}));
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(10, 20, 30));
+    EXPECT_EQ(remark(), "Nothing to pick with.");
+}
+
+TEST_F(PanelCommandsTest, ThePagesAreWalkedByKeys)
+{
+    type(QKeySequence("Ctrl+PgDown"));
+    EXPECT_EQ(_window->currentPageIndex(), 1);
+    type(QKeySequence("Ctrl+PgUp"));
+    EXPECT_EQ(_window->currentPageIndex(), 0);
+    type(QKeySequence("Ctrl+PgUp"));
+    EXPECT_EQ(_window->currentPageIndex(), _window->pageCount() - 1);
+}
+
+TEST_F(PanelCommandsTest, TheShortcutsAreShownAndGoAway)
+{
+    type(QKeySequence("F1"));
+    QLabel* overlay = nullptr;
+    for (QLabel* label : _window->findChildren<QLabel*>()) {
+        if (label->accessibleName() == "Keyboard shortcuts") overlay = label;
+    }
+    ASSERT_NE(overlay, nullptr);
+    EXPECT_TRUE(overlay->text().contains("Ctrl+P"));
+    EXPECT_EQ(overlay->geometry(), _window->rect());
+    QTest::keyClick(overlay, Qt::Key_Escape);
+    EXPECT_FALSE(overlay->isVisible());
+}
+
+TEST_F(PanelCommandsTest, WhatIsKeptComesBack)
+{
+    _window->setBackground(rgb(1, 2, 3));
+    _window->showPage(1);
+    _window->setStaysOnTop(true);
+    writePanelMemory(_window->memory());
+
+    PanelWindow next(_desktop, _search.plugins, _problems);
+    next.recall(readPanelMemory());
+    EXPECT_EQ(next.chosenColor().rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(next.background(), rgb(1, 2, 3));
+    EXPECT_EQ(next.currentPageIndex(), 1);
+    EXPECT_TRUE(next.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+TEST_F(PanelCommandsTest, EveryControlHasAToolTipAndAName)
+{
+    for (QWidget* widget : _window->findChildren<QWidget*>()) {
+        const bool isControl = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                               qobject_cast<QLineEdit*>(widget) != nullptr ||
+                               qobject_cast<QSlider*>(widget) != nullptr;
+        if (!isControl || !widget->isVisible()) continue;
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->objectName().toStdString();
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace vantorel
