@@ -1,0 +1,24 @@
+#include "FuzzTexts.h"
+#include "hosts/headless/MemoryFiles.h"
+#include "settings/SettingsFile.h"
+
+/// Whatever the settings file holds, the settings that were read from it are written and read back
+/// the same.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace vantorel;
+    MemoryFiles files;
+    files.createDirectory("/home/user/.local/share/Vantorel");
+    const std::string path = *hexColorPickerDefaultsFileName(files);
+    files.writeAtomically(path, std::string(bytesFrom(data, size)));
+    QTXHexSettings settings;
+    initializeDefaults(files, settings);
+    require(!settings.codeSnippets().empty());
+    static_cast<void>(settings.codeSnippet());
+    writeDefaults(files, settings);
+    const auto written = files.contentsAtPath(path);
+    QTXHexSettings again;
+    readDefaults(files, again);
+    require(written == settingsData(again));
+    return 0;
+}
