@@ -78,6 +78,7 @@ void PanelWindow::makeTools()
     });
     setAccessibleRole(_tools->well(), QAccessible::Graphic);
     setAccessibleRole(_tools->backgroundWell(), QAccessible::Graphic);
+    setAccessibleRole(_tools->recentColors(), QAccessible::ColorChooser);
 }
 
 void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins,

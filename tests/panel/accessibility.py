@@ -182,7 +182,7 @@ def check_entry():
         expect(text, "text", field, value)
     expect(text, "combo box", "Colour name", "red")
     expect(description, "color chooser", "Colours", "#FF0000, red, Slider")
-    expect(description, "image", "Colour", "#ffff0000")
+    expect(description, "image", "Colour", "#FF0000")
     eventually(lambda: "Colours" in told, "the colours view tells that its description has changed")
 
 
