@@ -17,10 +17,9 @@ constexpr const char* colorType = "application/x-color";
 constexpr qsizetype longestColorText = 4096;
 constexpr qsizetype longestShownText = 40;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ColorClipboard", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ColorClipboard)
+};
 
 /// Four 16-bit words in the machine's own order.
 std::optional<HostColor> colorFromWords(const QByteArray& bytes)
@@ -35,12 +34,13 @@ std::optional<HostColor> colorFromWords(const QByteArray& bytes)
 
 ColorOffer colorFromText(const QString& text)
 {
-    if (text.size() > longestColorText) return {{}, tr("That is a long text, not a colour.")};
+    if (text.size() > longestColorText)
+        return {{}, Texts::tr("That is a long text, not a colour.")};
     const CSSColorReading reading = readCSSColor(u16From(text));
     if (!reading.color) return {{}, qStringFrom(reading.error)};
     ColorOffer offer{reading.color->color, {}};
     if (reading.color->wasOutsideSRGB) {
-        offer.remark = tr("%1 is outside sRGB; this is the nearest colour inside.")
+        offer.remark = Texts::tr("%1 is outside sRGB; this is the nearest colour inside.")
                            .arg(text.trimmed().left(longestShownText));
     }
     return offer;
@@ -71,7 +71,7 @@ ColorOffer colorFromMimeData(const QMimeData& data)
         if (color.isValid()) return {hostColorFrom(color), {}};
     }
     if (data.hasText() && !data.text().isEmpty()) return colorFromText(data.text());
-    return {{}, tr("There is no colour to paste: copy one, or a CSS text such as #ff8000.")};
+    return {{}, Texts::tr("There is no colour to paste: copy one, or a CSS text such as #ff8000.")};
 }
 
 }  // namespace vantorel

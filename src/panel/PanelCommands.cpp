@@ -2,15 +2,8 @@
 
 #include "panel/PanelIcons.h"
 
-#include <QCoreApplication>
-
 namespace vantorel {
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PanelCommands", text);
-}
 
 QString shownKeys(const QAction& action)
 {

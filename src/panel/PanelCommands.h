@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QWidget>
 
@@ -13,6 +14,8 @@ namespace vantorel {
 /// shortcut and its picture, for the menu, the buttons, the keyboard and the overlay that shows the
 /// shortcuts.
 class PanelCommands {
+    Q_DECLARE_TR_FUNCTIONS(PanelCommands)
+
 public:
     /// What the commands do. All must be set.
     struct Reactions {

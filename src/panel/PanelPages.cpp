@@ -12,11 +12,6 @@
 namespace vantorel {
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PanelPages", text);
-}
-
 }  // namespace
 
 PluginPage::PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker)

@@ -3,6 +3,7 @@
 #include "panel/PluginLoader.h"
 
 #include <QColorDialog>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QPointer>
@@ -42,6 +43,8 @@ public:
 
 /// The page of a plug-in.
 class PluginPage final : public PanelPage {
+    Q_DECLARE_TR_FUNCTIONS(PluginPage)
+
 public:
     /// `plugin` must outlive the page.
     PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker);
@@ -69,6 +72,8 @@ private:
 
 /// Qt's own colour dialog as a page.
 class DialogPage final : public PanelPage {
+    Q_DECLARE_TR_FUNCTIONS(DialogPage)
+
 public:
     /// `colorChosen` is called when the user changes the colour on the page.
     explicit DialogPage(std::function<void(const QColor&)> colorChosen);

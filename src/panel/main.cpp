@@ -2,6 +2,7 @@
 #include "hosts/qt/QtDesktop.h"
 #include "panel/PanelOptions.h"
 #include "panel/PanelTheme.h"
+#include "panel/PanelTranslations.h"
 #include "panel/PanelWindow.h"
 #include "panel/PluginLoader.h"
 
@@ -94,7 +95,8 @@ int main(int argc, char** argv)
         return failure;
     }
 
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    installTranslations(application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));
     if (options.theme) applyTheme(*options.theme);

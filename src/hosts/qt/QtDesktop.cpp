@@ -1,6 +1,7 @@
 #include "hosts/qt/QtDesktop.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QApplication>
@@ -52,8 +53,7 @@ HostSize QtDesktop::sizeOfText(const HostText& text)
 
 std::u16string QtDesktop::localizedString(const std::u16string& key)
 {
-    const QByteArray source = qStringFrom(key).toUtf8();
-    return u16From(QCoreApplication::translate("Vantorel", source.constData()));
+    return u16From(translatedText(key));
 }
 
 void QtDesktop::openURL(const std::string& url)

@@ -2,6 +2,8 @@
 
 #include "hosts/qt/TextScale.h"
 
+#include <QCoreApplication>
+
 namespace vantorel {
 
 QWidget* widgetOf(const HostView* view)
@@ -33,6 +35,12 @@ QRect widgetGeometry(HostRect frame, HostRect superviewBounds)
     const QPoint topLeft(qRound(rect.left()), qRound(rect.top()));
     return {topLeft,
             QSize(qRound(rect.right()) - topLeft.x(), qRound(rect.bottom()) - topLeft.y())};
+}
+
+QString translatedText(const std::u16string& text)
+{
+    const QString plain = QString::fromStdU16String(text);
+    return QCoreApplication::translate("Vantorel", plain.toUtf8().constData());
 }
 
 void placeWidgets(const HostView& view)

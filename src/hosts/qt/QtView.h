@@ -30,6 +30,9 @@ void placeWidgets(const HostView& view);
 /// Puts a view's widget into that of its superview, or out of sight.
 void adoptWidget(const HostView& view);
 
+/// A text of the core in the user's language; the text itself where there is no translation.
+[[nodiscard]] QString translatedText(const std::u16string& text);
+
 /// Mirrors a view in a widget, which it owns unless the widget's parent ends first.
 template <class Base>
 class QtMirrored : public Base, public QtPeer {
@@ -51,7 +54,7 @@ protected:
     {
         if (_widget == nullptr) return;
         const auto& text = this->toolTip();
-        _widget->setToolTip(text ? QString::fromStdU16String(*text) : QString());
+        _widget->setToolTip(text ? translatedText(*text) : QString());
     }
     void displayDidBecomeNeeded(HostRect rect) override
     {
