@@ -1,6 +1,7 @@
 #include "panel/PanelTools.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QHBoxLayout>
@@ -18,9 +19,7 @@ constexpr int iconSize = 16;
 
 QToolButton* newButton(QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto* button = new QtToolButton(parent);
     button->setIconSize(QSize(iconSize, iconSize));
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     return button;

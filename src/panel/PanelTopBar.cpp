@@ -1,6 +1,7 @@
 #include "panel/PanelTopBar.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/PanelIcons.h"
 
@@ -17,9 +18,7 @@ constexpr std::chrono::milliseconds remarkTime{6000};
 
 QToolButton* newButton(QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto* button = new QtToolButton(parent);
     const int size = qRound(iconPoints * textScale());
     button->setIconSize(QSize(size, size));
     return button;

@@ -4,9 +4,12 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QScreen>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vantorel {
@@ -135,6 +138,34 @@ void PanelWindow::showPage(int index)
     setMinimumSize(least);
     resize(size().expandedTo(least));
     layOut();
+    orderTabs();
+}
+
+/// Tab goes as one reads: the bar above, the page, the tools below. By itself it would go in the
+/// order in which things were made, and pages are made when they are shown first.
+void PanelWindow::orderTabs()
+{
+    const std::array<const QWidget*, 3> groups{_topBar, _holder->widget(), _tools};
+    std::array<std::vector<QWidget*>, 3> members;
+    for (QWidget* widget = nextInFocusChain(); widget != this;
+         widget = widget->nextInFocusChain()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        for (std::size_t i = 0; i < groups.size(); ++i) {
+            if (groups[i]->isAncestorOf(widget)) members[i].push_back(widget);
+        }
+    }
+    // The menu's button was made before those of the pages.
+    std::stable_partition(members[0].begin(), members[0].end(), [](const QWidget* widget) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        return button != nullptr && button->isCheckable();
+    });
+    QWidget* last = nullptr;
+    for (const auto& group : members) {
+        for (QWidget* widget : group) {
+            if (last != nullptr) setTabOrder(last, widget);
+            last = widget;
+        }
+    }
 }
 
 void PanelWindow::chooseColor(const HostColor& color)

@@ -103,6 +103,7 @@ private:
     void addPage(std::unique_ptr<PanelPage> page);
     [[nodiscard]] PanelPage* currentPage() const;
     void stepPage(int step);
+    void orderTabs();
     void layOut();
     [[nodiscard]] int toolsHeight() const;
     void showHistory();

@@ -249,6 +249,26 @@ TEST_F(PanelCommandsTest, WhatIsKeptComesBack)
     EXPECT_TRUE(next.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
+TEST_F(PanelCommandsTest, TabGoesFromTheBarThroughThePageToTheTools)
+{
+    QWidget* first = child<QLineEdit>("_fullHexText");
+    first->setFocus();
+    QStringList names;
+    for (int i = 0; i < 40; ++i) {
+        const QWidget* focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr);
+        names.append(focused->accessibleName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (QApplication::focusWidget() == first) break;
+    }
+    EXPECT_EQ(names.front(), "Hex code");
+    const auto place = [&](const char* name) { return names.indexOf(QLatin1String(name)); };
+    EXPECT_LT(place("Colour name"), place("Swap colour and background"));
+    EXPECT_LT(place("Swap colour and background"), place("Copy"));
+    EXPECT_LT(place("Copy"), place("Commands")) << names.join(", ").toStdString();
+    EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
+}
+
 TEST_F(PanelCommandsTest, EveryControlHasAToolTipAndAName)
 {
     for (QWidget* widget : _window->findChildren<QWidget*>()) {

@@ -1,6 +1,7 @@
 #include "hosts/qt/QtButton.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
-#include <QToolButton>
 
 #include <utility>
 
@@ -53,9 +53,7 @@ QAbstractButton* makeButton(const HostControlDescription& description)
     if (description.svgImage.empty() && description.buttonKind == ButtonKind::push) {
         return new QPushButton;
     }
-    auto* button = new QToolButton;
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto* button = new QtToolButton;
     button->setCheckable(description.buttonKind == ButtonKind::toggle);
     return button;
 }
