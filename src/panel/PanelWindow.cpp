@@ -57,6 +57,9 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     _tools->setColor(_color);
     _tools->setBackground(_background);
     showHistory();
+    // At the start no control has the focus: Ctrl+C copies the colour at once.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
 }
 
 PanelWindow::~PanelWindow()
