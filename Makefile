@@ -2,7 +2,9 @@
 PRESETS ?= release sanitize
 COLOR ?= \#ff8000
 
-.PHONY: run build test bench format check screenshots clean packages
+SECONDS ?= 60
+
+.PHONY: run build test bench fuzz format check screenshots clean packages
 
 run: build
 	@tools/run-panel "$(COLOR)"
@@ -24,6 +26,11 @@ check: packages
 	@cmake --preset clang > /dev/null
 	@git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 	@git ls-files 'src/*.cpp' | xargs -P "$$(nproc)" -n 4 clang-tidy --quiet -p build/clang
+
+fuzz: packages
+	@cmake --preset fuzz > /dev/null
+	@cmake --build --preset fuzz
+	@tools/run-fuzzers $(SECONDS)
 
 screenshots: build
 	@tools/make-screenshots

@@ -39,16 +39,18 @@ public:
                 perform();
                 break;
             case 6:
-                if (auto* view = _panel.shownView()) static_cast<void>(view->draw());
+                draw();
                 break;
             case 7:
-                _panel.desktop().advance(_input.ConsumeFloatingPointInRange<double>(0, 5));
+                _panel.desktop().advance(_input.ConsumeFloatingPointInRange<double>(0, 5),
+                                         [this] { draw(); });
                 break;
             case 8:
                 _panel.panel().setPointer(HostPoint{coordinate(), coordinate()});
                 break;
             case 9:
-                _panel.picker().hexSettings().setNColorCubeRings(_input.ConsumeIntegral<int>());
+                _panel.picker().hexSettings().setNColorCubeRings(
+                    _input.ConsumeIntegralInRange(-5, 40));
                 break;
             case 10:
                 _panel.picker().hexSettings().setHexColorList(text());
@@ -83,6 +85,11 @@ private:
         list->setColor(HostColor::patternColor(), u"pattern");
         options.lists.push_back(list);
         return options;
+    }
+
+    void draw()
+    {
+        if (auto* view = _panel.shownView()) static_cast<void>(view->draw());
     }
 
     HeadlessTextField& field(const char* name)
