@@ -4,6 +4,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <array>
+#include <utility>
+
 namespace vantorel {
 namespace {
 
@@ -20,6 +23,25 @@ std::optional<QSize> sizeFromText(const QString& text)
 PanelCommandLine refusal(const QString& what)
 {
     return {{}, usageError, QStringLiteral("vantorel-panel: ") + what + u'\n'};
+}
+
+/// Returns what is wrong.
+QString readStep(const QCommandLineParser& parser, PanelOptions& options)
+{
+    using Step = PanelOrder::Step;
+    constexpr std::array steps{std::pair{"pick", Step::pick},
+                               std::pair{"pick-and-copy", Step::pickAndCopy},
+                               std::pair{"copy", Step::copy}, std::pair{"copy-as", Step::copy}};
+    QStringList given;
+    for (const auto& [name, step] : steps) {
+        if (!parser.isSet(QLatin1String(name))) continue;
+        given.append(QStringLiteral("--") + QLatin1String(name));
+        options.step = step;
+    }
+    options.copyForm = parser.value(QStringLiteral("copy-as"));
+    if (options.screenshot && !given.isEmpty()) given.append(QStringLiteral("--screenshot"));
+    if (given.size() < 2) return {};
+    return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
 }
 
 }  // namespace
@@ -73,13 +95,26 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         option("plugin", "Load this picker plug-in, too. May be given more than once.", "FILE");
     const auto printColor =
         option("print-color", "Print the colour as #rrggbbaa to standard output at each change.");
+    const auto pick = option("pick",
+                             "Pick a colour from the screen, print it as #rrggbb, and end. Status: "
+                             "0 picked, 1 cancelled, 3 not possible.");
+    const auto pickAndCopy =
+        option("pick-and-copy", "The same, and put the colour on the clipboard.");
+    const auto copy = option("copy",
+                             "Put the panel's colour on the clipboard as a drag out of the panel "
+                             "would carry it, print the text, and end.");
+    const auto copyAs =
+        option("copy-as", "The same in the form that has this name in the panel's menu.", "FORM");
+    const auto another = option("new", "Start a panel even where one runs already.");
     const auto help = option("help", "Show this help and end.");
     const auto version = option("version", "Show the version and end.");
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A colour panel with pages by plug-ins."));
-    parser.addOptions(
-        {color, mode, size, screenshot, face, theme, data, plugin, printColor, help, version});
+    parser.setApplicationDescription(QStringLiteral(
+        "A colour panel with pages by plug-ins. Where one runs already it is shown, "
+        "and does what --color, --pick, --pick-and-copy, --copy and --copy-as say."));
+    parser.addOptions({color, mode, size, screenshot, face, theme, data, plugin, printColor, pick,
+                       pickAndCopy, copy, copyAs, another, help, version});
     if (!parser.parse(arguments)) return refusal(parser.errorText());
     if (parser.isSet(help)) return {{}, 0, parser.helpText()};
     if (parser.isSet(version)) {
@@ -132,6 +167,13 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     if (parser.isSet(screenshot)) options.screenshot = parser.value(screenshot);
     options.printColor = parser.isSet(printColor);
     options.plugins = parser.values(plugin);
+    options.another = parser.isSet(another);
+    for (const auto& each : {mode, size, face, theme, data, plugin, printColor}) {
+        if (parser.isSet(each))
+            options.forStartsOnly.append(QStringLiteral("--") + each.names().front());
+    }
+    const QString error = readStep(parser, options);
+    if (!error.isEmpty()) return refusal(error);
     return result;
 }
 

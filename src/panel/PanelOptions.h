@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panel/PanelOrder.h"
+
 #include <QColor>
 #include <QSize>
 #include <QStringList>
@@ -22,6 +24,13 @@ struct PanelOptions {
     bool settingsFace = false;
     bool printColor = false;
     QStringList plugins;
+    PanelOrder::Step step = PanelOrder::Step::show;
+    /// With the step `copy`: as in `PanelOrder`.
+    QString copyForm;
+    /// Start a panel even where one runs.
+    bool another = false;
+    /// The options given that a panel that runs already cannot follow, as they are written.
+    QStringList forStartsOnly;
 };
 
 /// A CSS colour: `#rgb`, `#rrggbb`, `#rrggbbaa`, `rgb(r, g, b)` or a keyword of CSS Color 4.

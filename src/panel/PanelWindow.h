@@ -71,6 +71,8 @@ public:
     /// Lets the user pick from the screen. `copies` puts the colour on the clipboard at once;
     /// `done`, if there is one, is told how it ended.
     void pickFromScreen(bool copies = false, ScreenPicker::Callback done = {});
+    /// Ends a pick that is under way as cancelled.
+    void cancelPick();
     /// The texts that stand for the colour, with the names of their forms.
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
     /// In place of the one for this desktop.

@@ -173,6 +173,11 @@ void PanelWindow::pickFromScreen(bool copies, ScreenPicker::Callback done)
                          });
 }
 
+void PanelWindow::cancelPick()
+{
+    if (_screenPicker) _screenPicker->cancel();
+}
+
 void PanelWindow::recall(const PanelMemory& memory)
 {
     if (!memory.geometry.isEmpty()) restoreGeometry(memory.geometry);

@@ -1,14 +1,19 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtDesktop.h"
+#include "panel/CallersProcess.h"
 #include "panel/PanelOptions.h"
+#include "panel/PanelRequests.h"
+#include "panel/PanelService.h"
 #include "panel/PanelTheme.h"
 #include "panel/PanelTranslations.h"
 #include "panel/PanelWindow.h"
 #include "panel/PluginLoader.h"
+#include "panel/RunningPanel.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -17,6 +22,9 @@ namespace {
 using namespace vantorel;
 
 constexpr int failure = 1;
+constexpr int cancelled = 1;
+constexpr int usageError = 2;
+constexpr int notPossible = 3;
 
 void print(std::FILE* stream, const QString& text)
 {
@@ -36,13 +44,18 @@ void sendAction(PanelWindow& window, const char* name)
     if (HostColorPicker* picker = window.currentPicker()) picker->performAction(name, nullptr);
 }
 
+/// "#rrggbbaa"
+QString cssNameOf(const QColor& color)
+{
+    const QString argb = color.name(QColor::HexArgb);
+    return u'#' + argb.mid(3) + argb.mid(1, 2);
+}
+
 void applyOptions(PanelWindow& window, const PanelOptions& options)
 {
     if (options.printColor) {
-        window.addColorObserver([](const HostColor& color) {
-            const QString argb = qColorFrom(color).name(QColor::HexArgb);
-            print(stdout, u'#' + argb.mid(3) + argb.mid(1, 2) + u'\n');
-        });
+        window.addColorObserver(
+            [](const HostColor& color) { print(stdout, cssNameOf(qColorFrom(color)) + u'\n'); });
     }
     if (options.size) window.resizeToPage(*options.size);
     if (options.color) window.chooseColor(hostColorFrom(*options.color));
@@ -65,6 +78,65 @@ int saveScreenshot(PanelWindow& window, const QString& file)
     return failure;
 }
 
+void complain(const QString& sentence)
+{
+    print(stderr, QStringLiteral("vantorel-panel: %1\n").arg(sentence));
+}
+
+PanelOrder orderFrom(const PanelOptions& options, const ActivationToken& token)
+{
+    PanelOrder order{options.step, {}, options.copyForm, token};
+    if (options.color) order.color = cssNameOf(*options.color);
+    return order;
+}
+
+/// Prints how an order has ended, and returns the exit status.
+int report(const PanelOrder& order, const PanelAnswer& answer)
+{
+    using Kind = PanelRefusal::Kind;
+    if (const auto* refusal = std::get_if<PanelRefusal>(&answer)) {
+        complain(refusal->sentence);
+        if (refusal->kind == Kind::cancelled) return cancelled;
+        return refusal->kind == Kind::notPossible ? notPossible : usageError;
+    }
+    if (order.step != PanelOrder::Step::show) print(stdout, std::get<QString>(answer) + u'\n');
+    return 0;
+}
+
+/// Has the panel that runs already carry out what is ordered. Returns the exit status, or nothing
+/// when `contact`, which is set, was not made.
+std::optional<int> handOver(const RunningPanel& running, const PanelOrder& order,
+                            const PanelOptions& options, RunningPanel::Contact& contact)
+{
+    const auto [made, answer] = running.handOver(order);
+    contact = made;
+    if (contact != RunningPanel::Contact::made) return std::nullopt;
+    if (!options.forStartsOnly.isEmpty()) {
+        complain(QCoreApplication::translate("main",
+                                             "A panel runs already, which does not follow "
+                                             "%1; --new starts another.")
+                     .arg(options.forStartsOnly.join(QStringLiteral(", "))));
+    }
+    return report(order, answer);
+}
+
+/// Makes this start the one that has the name on the bus, or hands over to one that was quicker.
+/// Returns the exit status, or nothing when this start goes on.
+std::optional<int> takePlace(PanelService& service, const RunningPanel& running,
+                             const PanelOrder& order, const PanelOptions& options,
+                             RunningPanel::Contact& contact)
+{
+    // A panel that was quicker may just have ended.
+    constexpr int mostAttempts = 3;
+    for (int i = 0; i < mostAttempts; ++i) {
+        if (service.claimName() != PanelService::Claim::taken) return std::nullopt;
+        if (options.another || contact != RunningPanel::Contact::none) break;
+        if (const auto status = handOver(running, order, options, contact)) return status;
+    }
+    service.waitForName();
+    return std::nullopt;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -78,6 +150,10 @@ int main(int argc, char** argv)
         return *commandLine.exitStatus;
     }
     const PanelOptions& options = commandLine.options;
+    const PanelOrder order = orderFrom(options, activationTokenOfThisStart());
+    const bool staysHidden = order.step != PanelOrder::Step::show;
+    std::optional<CallersProcess> caller;
+    if (staysHidden) caller.emplace();
 
     if (options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
     const std::string userData = PosixFiles().applicationSupportDirectory().value_or("");
@@ -92,14 +168,23 @@ int main(int argc, char** argv)
     } else if (!hasDisplay()) {
         print(stderr, QStringLiteral("vantorel-panel: there is no display (neither WAYLAND_DISPLAY "
                                      "nor DISPLAY is set); --screenshot FILE works without one\n"));
-        return failure;
+        return staysHidden ? notPossible : failure;
     }
 
     QApplication application(argc, argv);
     installTranslations(application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));
+    // The panel quits by itself when it is closed, and without a window the magnifier is the last.
+    QApplication::setQuitOnLastWindowClosed(false);
     if (options.theme) applyTheme(*options.theme);
+
+    auto contact = RunningPanel::Contact::none;
+    std::optional<RunningPanel> running;
+    if (!options.screenshot) running.emplace(QDBusConnection::sessionBus());
+    if (running && !options.another) {
+        if (const auto status = handOver(*running, order, options, contact)) return *status;
+    }
 
     std::vector<std::string> pluginFiles;
     for (const QString& file : options.plugins) {
@@ -114,11 +199,40 @@ int main(int argc, char** argv)
         print(stderr, QStringLiteral("vantorel-panel: %1\n").arg(QString::fromStdString(problem)));
     }
     if (!search.problems.empty()) window.showProblems(search.problems);
-    if (!options.screenshot) window.recall(readPanelMemory());
+    if (options.screenshot) {
+        applyOptions(window, options);
+        return saveScreenshot(window, *options.screenshot);
+    }
+    const PanelMemory recalled = readPanelMemory();
+    window.recall(recalled);
     applyOptions(window, options);
-    if (options.screenshot) return saveScreenshot(window, *options.screenshot);
-    window.show();
-    const int status = QApplication::exec();
-    writePanelMemory(window.memory());
+
+    PanelRequests requests(window);
+    PanelService service(window, requests, QDBusConnection::sessionBus());
+    const auto tell = [&window](const QString& sentence) {
+        complain(sentence);
+        window.showRemark(sentence);
+    };
+    QObject::connect(&service, &PanelService::unreachable, &window, tell);
+    if (const auto status = takePlace(service, *running, order, options, contact)) return *status;
+    if (const QString remark = RunningPanel::remarkOn(contact); !remark.isEmpty()) tell(remark);
+
+    int status = 0;
+    if (staysHidden) {
+        QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
+        QTimer::singleShot(0, &requests, [&] {
+            requests.carryOut(order, [&](const PanelAnswer& answer) {
+                status = report(order, answer);
+                caller->release(status);
+            });
+        });
+    } else {
+        window.show();
+    }
+    QApplication::exec();
+    PanelMemory memory = window.memory();
+    // A window that was never seen has no place of its own.
+    if (!window.testAttribute(Qt::WA_WState_Created)) memory.geometry = recalled.geometry;
+    writePanelMemory(memory);
     return status;
 }
