@@ -158,6 +158,11 @@ std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u
         [&](const auto& entry) { return entry.second.isPalette && entry.second.listName == name; });
     if (elsewhere != own.files().end()) return elsewhere->first;
 
+    return unusedFileName(own, usual);
+}
+
+std::string PaletteFileStore::unusedFileName(const PaletteFolder& own, const std::string& usual)
+{
     std::string fileName = usual;
     for (int number = 2; _hostFiles.kindAtPath(own.pathOfFile(fileName)) != HostFileKind::none;
          ++number) {
@@ -167,15 +172,70 @@ std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u
     return fileName;
 }
 
-bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list)
+std::vector<ListedPalette> PaletteFileStore::listedPalettes()
+{
+    lookAgain();
+    std::vector<ListedPalette> palettes;
+    for (const std::u16string& name : _catalogue.names()) {
+        const auto* entry = _catalogue.entryListedAs(name);
+        palettes.push_back({name, entry->program, entry->path(), entry->version});
+    }
+    return palettes;
+}
+
+std::vector<std::string> PaletteFileStore::folders()
+{
+    std::vector<std::string> paths;
+    if (const PaletteFolder* own = ownFolder()) paths.push_back(own->path());
+    for (const auto& folder : _places.folders())
+        paths.push_back(folder->palettes.path());
+    return paths;
+}
+
+PaletteFolder* PaletteFileStore::writableFolder()
 {
     PaletteFolder* own = ownFolder();
     // Asked again: it makes the folder where it has gone.
     const auto support = _hostFiles.applicationSupportDirectory();
-    if (!list || own == nullptr || !support) return false;
+    if (own == nullptr || !support) return nullptr;
     for (const std::string& needed : {*support + settingsFolder, own->path()}) {
         if (_hostFiles.kindAtPath(needed) == HostFileKind::none) _hostFiles.createDirectory(needed);
     }
+    return own;
+}
+
+std::optional<std::string> PaletteFileStore::writeNewFile(
+    const std::shared_ptr<HostColorList>& list, const std::string& text)
+{
+    PaletteFolder* own = writableFolder();
+    if (own == nullptr) return std::nullopt;
+    const std::string fileName = unusedFileName(*own, fileNameOfList(list->name()));
+    std::string path = own->pathOfFile(fileName);
+    _isCatalogueCurrent = false;
+    if (!_hostFiles.writeAtomically(path, text)) return std::nullopt;
+    own->setListInFile(fileName, list);
+    return path;
+}
+
+bool PaletteFileStore::replaceFile(const std::string& path,
+                                   const std::shared_ptr<HostColorList>& list,
+                                   const std::string& text)
+{
+    PaletteFolder* own = ownFolder();
+    const std::size_t slash = path.rfind('/');
+    if (own == nullptr || slash == std::string::npos || path.substr(0, slash) != own->path()) {
+        return false;
+    }
+    _isCatalogueCurrent = false;
+    if (!_hostFiles.writeAtomically(path, text)) return false;
+    own->setListInFile(path.substr(slash + 1), list);
+    return true;
+}
+
+bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list)
+{
+    PaletteFolder* own = list ? writableFolder() : nullptr;
+    if (own == nullptr) return false;
     _isCatalogueCurrent = false;
     const std::string fileName = fileNameForSaving(*own, list->name());
     if (!_hostFiles.writeAtomically(own->pathOfFile(fileName), paletteText(*list))) return false;

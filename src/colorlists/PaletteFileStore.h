@@ -8,6 +8,19 @@
 
 namespace vantorel {
 
+/// A palette as it is listed.
+struct ListedPalette {
+    /// No other listed palette has it.
+    std::u16string name;
+    /// Empty for one of the user's own.
+    std::u16string program;
+    std::string path;
+    /// Of the file, as `HostFiles::versionAtPath`, at the last look.
+    std::uint64_t version = 0;
+
+    [[nodiscard]] bool isOwn() const { return program.empty(); }
+};
+
 /// The colour lists in palette files, one a file: those in the user's own folder,
 /// `Vantorel/Palettes` in the folder of the user's data, and those that other programs have
 /// installed, which are only read (`PalettePlaces`; `PaletteCatalogue` tells their names). Names
@@ -33,6 +46,22 @@ public:
     /// a file that holds anything else, even one that cannot be read, is somebody's work and stays.
     bool writeColorList(const std::shared_ptr<HostColorList>& list) override;
 
+    // For who edits the files, and so must know what stands where. Only files of our own folder are
+    // ever written.
+
+    /// Looks again, as `availableColorLists`.
+    [[nodiscard]] std::vector<ListedPalette> listedPalettes();
+    /// The folders that palettes come from, our own first, whether or not they exist. Those of
+    /// other programs are known after the first look.
+    [[nodiscard]] std::vector<std::string> folders();
+    /// Writes `text` into a file of our own folder that is not there yet, and installs `list` as
+    /// what it holds. The file's path; nothing when it could not be written.
+    std::optional<std::string> writeNewFile(const std::shared_ptr<HostColorList>& list,
+                                            const std::string& text);
+    /// The same into a file of our own folder that is replaced. False, too, for any other path.
+    bool replaceFile(const std::string& path, const std::shared_ptr<HostColorList>& list,
+                     const std::string& text);
+
     /// The file of a list by its name: no name leads out of the folder, into a hidden file, or
     /// beyond what file systems take.
     [[nodiscard]] static std::string fileNameOfList(const std::u16string& name);
@@ -40,6 +69,10 @@ public:
 private:
     /// Null when the user has no folder of data.
     [[nodiscard]] PaletteFolder* ownFolder();
+    /// Our own folder, made where it is missing; null where that is not possible.
+    [[nodiscard]] PaletteFolder* writableFolder();
+    /// A file that is not there yet, its name as near to `usual` as can be.
+    [[nodiscard]] std::string unusedFileName(const PaletteFolder& own, const std::string& usual);
     /// Whether a name that is not in the catalogue may have come.
     [[nodiscard]] bool mustLookAgain();
     void lookAgain();

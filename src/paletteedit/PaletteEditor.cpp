@@ -1,0 +1,408 @@
+#include "paletteedit/PaletteEditor.h"
+
+#include "colorlists/PaletteFile.h"
+#include "host/HostText.h"
+#include "paletteedit/FreeNames.h"
+#include "paletteedit/PaletteMerge.h"
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+std::u16string fallbackName(const std::string& path)
+{
+    return PaletteFolder::fallbackListName(path.substr(path.rfind('/') + 1));
+}
+
+/// Whether a palette file says what `paletteText` would not write again.
+bool holdsOtherLines(const std::string& bytes, const PaletteReading& reading)
+{
+    if (!reading.skipped.empty()) return true;
+    std::size_t at = 0;
+    while ((at = bytes.find('#', at)) != std::string::npos) {
+        const std::size_t lineStart = bytes.find_last_of("\r\n", at) + 1;
+        const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", at), bytes.size());
+        const bool beginsLine = bytes.find_first_not_of(" \t", lineStart) == at;
+        // Programs put a lone "#" below the head; it says nothing.
+        const std::size_t text = bytes.find_first_not_of("# \t", at);
+        if (beginsLine && text < lineEnd) return true;
+        at = lineEnd;
+    }
+    return false;
+}
+
+PaletteState stateOf(std::u16string name, PaletteEntries entries)
+{
+    return {std::move(name), std::make_shared<const PaletteEntries>(std::move(entries)), nullptr};
+}
+
+/// The file as it was where it is known and still right, else one in the strict form.
+std::string textOfState(const PaletteState& state, const HostColorList& list)
+{
+    const bool isRight = state.bytes != nullptr && paletteName(*state.bytes, {}) == state.name;
+    return isRight ? *state.bytes : paletteText(list);
+}
+
+}  // namespace
+
+PaletteEditor::PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile)
+    : _files(files), _store(store), _removeFile(std::move(removeFile))
+{
+    lookAgain();
+}
+
+PaletteEditor::Record* PaletteEditor::recordOf(PaletteId id)
+{
+    const auto found = _records.find(id);
+    return found != _records.end() ? &found->second : nullptr;
+}
+
+PaletteId PaletteEditor::idOfPath(const std::string& path)
+{
+    const auto [found, isNew] = _idsOfPaths.try_emplace(path, _lastId + 1);
+    if (isNew) ++_lastId;
+    return found->second;
+}
+
+void PaletteEditor::readIfChanged(Record& record)
+{
+    // The version first: what changes behind it is seen the next time.
+    const std::uint64_t version = _files.versionAtPath(record.path);
+    if (version != 0 && version == record.version) return;
+    record.version = version;
+    record.state.reset();
+    record.hasOtherLines = false;
+    const auto bytes = version != 0 ? _files.contentsAtPath(record.path) : std::nullopt;
+    const auto reading = bytes ? readPalette(*bytes, fallbackName(record.path)) : std::nullopt;
+    if (!reading) return;
+    record.state = stateOf(reading->list->name(), entriesOfList(*reading->list));
+    record.hasOtherLines = holdsOtherLines(*bytes, *reading);
+    if (record.hasOtherLines) record.state->bytes = std::make_shared<const std::string>(*bytes);
+}
+
+void PaletteEditor::lookAgain()
+{
+    _palettes.clear();
+    for (ListedPalette& listed : _store.listedPalettes()) {
+        const PaletteId id = idOfPath(listed.path);
+        Record& record = _records[id];
+        record.path = listed.path;
+        record.program = listed.program;
+        _palettes.push_back({id, std::move(listed.name), listed.program, listed.path});
+    }
+}
+
+std::vector<EditablePalette> PaletteEditor::refresh()
+{
+    const std::vector<EditablePalette> before = _palettes;
+    lookAgain();
+    std::vector<EditablePalette> changed;
+    for (const EditablePalette& old : before) {
+        Record* record = recordOf(old.id);
+        if (record == nullptr) continue;
+        const EditablePalette* now = palette(old.id);
+        const bool wasRead = record->state.has_value();
+        const auto entries = wasRead ? record->state->entries : nullptr;
+        if (wasRead) readIfChanged(*record);
+        const bool hasOtherEntries =
+            wasRead && (!record->state || *record->state->entries != *entries);
+        if (now == nullptr || now->name != old.name || hasOtherEntries) changed.push_back(old);
+    }
+    return changed;
+}
+
+const EditablePalette* PaletteEditor::palette(PaletteId id) const
+{
+    const auto found = std::find_if(_palettes.begin(), _palettes.end(),
+                                    [id](const auto& palette) { return palette.id == id; });
+    return found != _palettes.end() ? &*found : nullptr;
+}
+
+const PaletteEntries& PaletteEditor::entriesOf(PaletteId id)
+{
+    static const PaletteEntries none;
+    Record* record = recordOf(id);
+    if (record == nullptr) return none;
+    if (!record->state) readIfChanged(*record);
+    return record->state ? *record->state->entries : none;
+}
+
+std::u16string PaletteEditor::freeListName(const std::u16string& wanted, PaletteId except,
+                                           Among among) const
+{
+    FreeNames names;
+    for (const EditablePalette& listed : _palettes) {
+        if (listed.id == except || (among == Among::ownLists && !listed.isOwn())) continue;
+        names.use(listed.name);
+    }
+    return names.take(wanted);
+}
+
+EditOutcome PaletteEditor::add(const std::u16string& name, const PaletteEntries& entries)
+{
+    const std::u16string wanted = tidyName(name);
+    if (wanted.empty()) return {};
+    lookAgain();
+    return doFirst({++_lastId, std::nullopt, stateOf(wanted, entries)});
+}
+
+EditOutcome PaletteEditor::rename(PaletteId id, const std::u16string& name)
+{
+    Record* record = recordOf(id);
+    const std::u16string wanted = tidyName(name);
+    if (record == nullptr || wanted.empty()) return {};
+    static_cast<void>(entriesOf(id));
+    if (!record->state || record->state->name == wanted) return {};
+    PaletteState after = *record->state;
+    after.name = wanted;
+    after.bytes = nullptr;
+    if (record->program.empty()) return doFirst({id, record->state, after});
+    EditOutcome outcome = doFirst({++_lastId, std::nullopt, after});
+    if (outcome.done) {
+        outcome.remarks.push_back({EditRemark::copiedFirst, recordOf(outcome.list)->state->name});
+    }
+    return outcome;
+}
+
+EditOutcome PaletteEditor::remove(PaletteId id)
+{
+    Record* record = recordOf(id);
+    if (record == nullptr || !record->program.empty()) return {};
+    static_cast<void>(entriesOf(id));
+    if (!record->state) return {};
+    return doFirst({id, record->state, std::nullopt});
+}
+
+EditOutcome PaletteEditor::setEntries(PaletteId id, PaletteEntries entries)
+{
+    Record* record = recordOf(id);
+    if (record == nullptr) return {};
+    const PaletteEntries& old = entriesOf(id);
+    if (!record->state || old == entries) return {false, id, {}};
+    if (record->program.empty()) {
+        return doFirst({id, record->state, stateOf(record->state->name, std::move(entries))});
+    }
+    // The plain name, which the other program's list leaves to it as soon as the two differ.
+    std::u16string name = tidyName(record->state->name);
+    const bool ownHasIt =
+        name.empty() || std::any_of(_palettes.begin(), _palettes.end(), [&](const auto& listed) {
+            return listed.isOwn() && listed.name == name;
+        });
+    if (ownHasIt)
+        name = freeListName(name.empty() ? fallbackName(record->path) : name, 0, Among::allLists);
+    EditStep step{++_lastId, std::nullopt, stateOf(name, std::move(entries))};
+    EditOutcome outcome;
+    auto done = commitNew(step.list, *step.after, outcome);
+    lookAgain();
+    if (!done) return outcome;
+    outcome.done = true;
+    outcome.list = step.list;
+    outcome.remarks.push_back({EditRemark::copiedFirst, name});
+    _history.record(std::move(*done));
+    return outcome;
+}
+
+EditOutcome PaletteEditor::doFirst(const EditStep& step)
+{
+    EditOutcome outcome;
+    EditStep wanted = step;
+    const bool getsNewName =
+        wanted.after && (!wanted.before || wanted.before->name != wanted.after->name);
+    if (getsNewName) {
+        const std::u16string free = freeListName(wanted.after->name, step.list, Among::allLists);
+        if (free != wanted.after->name) outcome.remarks.push_back({EditRemark::otherName, free});
+        wanted.after->name = free;
+    }
+    auto done = commit(wanted, Occasion::first, outcome);
+    lookAgain();
+    if (!done) {
+        outcome.list = step.list;
+        return outcome;
+    }
+    outcome.done = true;
+    outcome.list = done->after ? done->list : 0;
+    _history.record(std::move(*done));
+    return outcome;
+}
+
+EditOutcome PaletteEditor::doAgain(const EditStep& step, void (EditHistory::*move)())
+{
+    EditOutcome outcome;
+    const auto done = commit(step, Occasion::again, outcome);
+    lookAgain();
+    outcome.list = step.list;
+    if (!done) return outcome;
+    outcome.done = true;
+    if (!done->after) outcome.list = 0;
+    (_history.*move)();
+    return outcome;
+}
+
+EditOutcome PaletteEditor::undo()
+{
+    if (!canUndo()) return {};
+    const EditStep& step = _history.lastDone();
+    return doAgain({step.list, step.after, step.before}, &EditHistory::moveToUndone);
+}
+
+EditOutcome PaletteEditor::redo()
+{
+    if (!canRedo()) return {};
+    const EditStep step = _history.lastUndone();
+    return doAgain(step, &EditHistory::moveToDone);
+}
+
+std::optional<EditStep> PaletteEditor::commit(const EditStep& step, Occasion occasion,
+                                              EditOutcome& outcome)
+{
+    if (!step.after) return commitRemoval(step, occasion, outcome);
+    if (step.before) return commitChange(step, occasion, outcome);
+    PaletteState state = *step.after;
+    if (occasion == Occasion::again) {
+        const Record* record = recordOf(step.list);
+        // It was not removed when the step was undone.
+        if (record != nullptr && _files.versionAtPath(record->path) != 0) return step;
+        state.name = freeListName(state.name, 0, Among::ownLists);
+        if (state.name != step.after->name)
+            outcome.remarks.push_back({EditRemark::otherName, state.name});
+    }
+    return commitNew(step.list, std::move(state), outcome);
+}
+
+std::optional<EditStep> PaletteEditor::commitNew(PaletteId id, PaletteState state,
+                                                 EditOutcome& outcome)
+{
+    const auto list = listOfEntries(state.name, *state.entries);
+    const std::string text = textOfState(state, *list);
+    if (state.bytes != nullptr && *state.bytes != text) state.bytes = nullptr;
+    const auto path = _store.writeNewFile(list, text);
+    if (!path) {
+        outcome.remarks.push_back({EditRemark::notSaved, state.name});
+        return std::nullopt;
+    }
+    Record record;
+    record.path = *path;
+    record.version = _files.versionAtPath(*path);
+    record.hasOtherLines = state.bytes != nullptr;
+    record.state = state;
+    // A file that is no longer what was just written is read when somebody asks.
+    if (_files.contentsAtPath(*path) != text) record.version = 0;
+    _records[id] = std::move(record);
+    _idsOfPaths[*path] = id;
+    return EditStep{id, std::nullopt, std::move(state)};
+}
+
+std::optional<EditStep> PaletteEditor::commitRemoval(const EditStep& step, Occasion occasion,
+                                                     EditOutcome& outcome)
+{
+    Record* record = recordOf(step.list);
+    if (record != nullptr) readIfChanged(*record);
+    const bool again = occasion == Occasion::again;
+    if (record == nullptr || record->version == 0) {
+        // Gone already; the step has nothing left to do.
+        return EditStep{step.list, step.before, std::nullopt};
+    }
+    if (!record->state || *record->state->entries != *step.before->entries) {
+        outcome.remarks.push_back({EditRemark::changedMeanwhile, step.before->name});
+        // The step counts as undone all the same: nobody could ever undo those before it.
+        if (again) return EditStep{step.list, step.before, step.before};
+        return std::nullopt;
+    }
+    const PaletteState before = *record->state;
+    if (!_removeFile(record->path)) {
+        outcome.remarks.push_back({EditRemark::notRemoved, before.name});
+        return std::nullopt;
+    }
+    _idsOfPaths.erase(record->path);
+    _records.erase(step.list);
+    return EditStep{step.list, before, std::nullopt};
+}
+
+std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasion occasion,
+                                                    EditOutcome& outcome)
+{
+    Record* record = recordOf(step.list);
+    if (record != nullptr) readIfChanged(*record);
+    const bool isGone = record == nullptr || record->version == 0;
+    if (isGone || !record->state) {
+        // Not a palette any more: what stands there now is somebody's work.
+        PaletteState state = *step.after;
+        state.name = freeListName(state.name, step.list, Among::ownLists);
+        outcome.remarks.push_back(
+            {isGone ? EditRemark::madeAgain : EditRemark::keptBoth, state.name});
+        if (record != nullptr) _idsOfPaths.erase(record->path);
+        auto made = commitNew(step.list, std::move(state), outcome);
+        if (made) made->before = step.before;
+        return made;
+    }
+    const PaletteState now = *record->state;
+    PaletteState wanted = *step.after;
+    if (*now.entries != *step.before->entries) {
+        PaletteMerge merge = mergePalettes(*step.before->entries, *wanted.entries, *now.entries);
+        if (!merge.contradictions.empty() && occasion == Occasion::first) {
+            wanted.name = freeListName(wanted.name, 0, Among::allLists);
+            outcome.remarks.push_back({EditRemark::keptBoth, wanted.name});
+            return commitNew(++_lastId, std::move(wanted), outcome);
+        }
+        if (!merge.contradictions.empty()) {
+            outcome.remarks.push_back({EditRemark::partlyUndone, now.name});
+        } else if (occasion == Occasion::first) {
+            outcome.remarks.push_back({EditRemark::merged, now.name});
+        }
+        wanted.entries = std::make_shared<const PaletteEntries>(std::move(merge.entries));
+        wanted.bytes = nullptr;
+    }
+    if (step.before->name == step.after->name) wanted.name = now.name;
+    if (occasion == Occasion::again && wanted.name != now.name)
+        wanted.name = freeListName(wanted.name, step.list, Among::ownLists);
+    if (!save(step.list, *record, wanted, outcome)) return std::nullopt;
+    return EditStep{step.list, now, wanted};
+}
+
+bool PaletteEditor::keepOriginal(const Record& record, EditOutcome& outcome)
+{
+    const std::string path = record.path + "~";
+    if (!record.hasOtherLines || !record.state || record.state->bytes == nullptr) return true;
+    if (_files.contentsAtPath(path) == *record.state->bytes) return true;
+    if (!_files.writeAtomically(path, *record.state->bytes)) return false;
+    outcome.remarks.push_back({EditRemark::keptOriginal, record.state->name});
+    return true;
+}
+
+bool PaletteEditor::save(PaletteId id, Record& record, const PaletteState& state,
+                         EditOutcome& outcome)
+{
+    const auto list = listOfEntries(state.name, *state.entries);
+    const std::string text = textOfState(state, *list);
+    bool saved = keepOriginal(record, outcome);
+    std::string path = record.path;
+    if (saved && state.name == record.state->name) {
+        saved = _store.replaceFile(path, list, text);
+    } else if (saved) {
+        // Written before the old one is removed: whatever happens in between, the list is there.
+        const auto newPath = _store.writeNewFile(list, text);
+        saved = newPath.has_value();
+        if (saved) {
+            _idsOfPaths.erase(path);
+            if (!_removeFile(path))
+                outcome.remarks.push_back({EditRemark::oldFileStayed, record.state->name});
+            path = *newPath;
+        }
+    }
+    if (!saved) {
+        outcome.remarks.push_back({EditRemark::notSaved, record.state->name});
+        return false;
+    }
+    record.path = path;
+    _idsOfPaths[path] = id;
+    record.version = _files.versionAtPath(path);
+    record.state = state;
+    if (record.state->bytes != nullptr && *record.state->bytes != text)
+        record.state->bytes = nullptr;
+    record.hasOtherLines = record.state->bytes != nullptr;
+    if (_files.contentsAtPath(path) != text) record.version = 0;
+    return true;
+}
+
+}  // namespace vantorel

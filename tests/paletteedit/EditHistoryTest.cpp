@@ -1,0 +1,71 @@
+#include "paletteedit/EditHistory.h"
+
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+EditStep stepWithEntries(PaletteId list, std::size_t count)
+{
+    const auto entries =
+        std::make_shared<const PaletteEntries>(count, PaletteEntry(u"a", HostColor::blackColor()));
+    return {list, std::nullopt, PaletteState{u"list", entries, nullptr}};
+}
+
+TEST(EditHistoryTest, StepsComeBackInReverse)
+{
+    EditHistory history;
+    for (PaletteId list : {1U, 2U, 3U})
+        history.record(stepWithEntries(list, 1));
+    EXPECT_EQ(history.lastDone().list, 3U);
+    history.moveToUndone();
+    history.moveToUndone();
+    EXPECT_EQ(history.lastDone().list, 1U);
+    EXPECT_EQ(history.lastUndone().list, 2U);
+    history.moveToDone();
+    EXPECT_EQ(history.lastDone().list, 2U);
+    EXPECT_EQ(history.lastUndone().list, 3U);
+    history.record(stepWithEntries(4, 1));
+    EXPECT_FALSE(history.canRedo()) << "a new step ends what could be redone";
+}
+
+TEST(EditHistoryTest, OnlyTheOldestStepsAreForgotten)
+{
+    EditHistory history;
+    for (PaletteId list = 1; list <= EditHistory::mostSteps + 10; ++list)
+        history.record(stepWithEntries(list, 1));
+    std::size_t count = 0;
+    PaletteId last = 0;
+    for (; history.canUndo(); ++count) {
+        last = history.lastDone().list;
+        history.moveToUndone();
+    }
+    EXPECT_EQ(count, EditHistory::mostSteps);
+    EXPECT_EQ(last, 11U);
+}
+
+TEST(EditHistoryTest, StepsOfHugeListsDoNotFillTheMemory)
+{
+    EditHistory history;
+    for (PaletteId list = 1; list <= 20; ++list)
+        history.record(stepWithEntries(list, EditHistory::mostEntries / 10));
+    std::size_t count = 0;
+    for (; history.canUndo(); ++count)
+        history.moveToUndone();
+    EXPECT_EQ(count, 10U);
+}
+
+TEST(EditHistoryTest, ThirtyThousandEntriesCanBeChangedTwoHundredTimes)
+{
+    EditHistory history;
+    const auto entries = stepWithEntries(1, 30000).after->entries;
+    for (int i = 0; i < 200; ++i)
+        history.record({1, std::nullopt, PaletteState{u"list", entries, nullptr}});
+    int count = 0;
+    for (; history.canUndo(); ++count)
+        history.moveToUndone();
+    EXPECT_EQ(count, 200);
+}
+
+}  // namespace
+}  // namespace vantorel
