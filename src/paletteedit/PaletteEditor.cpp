@@ -217,7 +217,7 @@ EditOutcome PaletteEditor::doFirst(const EditStep& step)
     auto done = commit(wanted, Occasion::first, outcome);
     lookAgain();
     if (!done) {
-        outcome.list = step.list;
+        outcome.list = palette(step.list) != nullptr ? step.list : 0;
         return outcome;
     }
     outcome.done = true;
@@ -231,10 +231,9 @@ EditOutcome PaletteEditor::doAgain(const EditStep& step, void (EditHistory::*mov
     EditOutcome outcome;
     const auto done = commit(step, Occasion::again, outcome);
     lookAgain();
-    outcome.list = step.list;
+    outcome.done = done.has_value();
+    outcome.list = palette(step.list) != nullptr ? step.list : 0;
     if (!done) return outcome;
-    outcome.done = true;
-    if (!done->after) outcome.list = 0;
     (_history.*move)();
     return outcome;
 }

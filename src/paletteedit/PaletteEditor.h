@@ -38,7 +38,7 @@ enum class EditRemark {
 
 struct EditOutcome {
     bool done = false;
-    /// The list to look at now; 0 where the step has removed it.
+    /// The list to look at now; 0 where there is none, as after its removal.
     PaletteId list = 0;
     struct Remark {
         EditRemark kind;

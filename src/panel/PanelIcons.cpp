@@ -53,4 +53,42 @@ QIcon palettesPageIcon()
         R"(<path d="M2.500 4h2M2.500 8h2M2.500 12h2M7 4h6.500M7 8h6.500M7 12h6.500"/>)");
 }
 
+QIcon addIcon()
+{
+    return iconFromStrokes(R"(<path d="M8 3v10M3 8h10"/>)");
+}
+
+QIcon removeIcon()
+{
+    return iconFromStrokes(R"(<path d="M3 8h10"/>)");
+}
+
+QIcon recolorIcon()
+{
+    return iconFromStrokes(
+        R"(<path d="M8 2.500c2.500 3 4 4.800 4 7a4 4 0 0 1-8 0c0-2.200 1.500-4 4-7z"/>)"
+        R"(<path d="M4.300 9.500h7.400" stroke-width="1"/>)");
+}
+
+QIcon undoIcon()
+{
+    return iconFromStrokes(R"(<path d="M5.500 3L2.500 6l3 3M2.500 6h7a3.500 3.500 0 0 1 0 7H6"/>)");
+}
+
+QIcon redoIcon()
+{
+    return iconFromStrokes(R"(<path d="M10.500 3l3 3-3 3M13.500 6h-7a3.500 3.500 0 0 0 0 7H10"/>)");
+}
+
+QIcon moreIcon()
+{
+    return iconFromStrokes(R"(<path d="M3.500 8h.01M8 8h.01M12.500 8h.01" stroke-width="2.200"/>)");
+}
+
+QIcon lockIcon()
+{
+    return iconFromStrokes(
+        R"(<rect x="3.500" y="7" width="9" height="6.500" rx="1"/><path d="M5.500 7V5a2.500 2.500 0 0 1 5 0v2"/>)");
+}
+
 }  // namespace vantorel

@@ -12,4 +12,14 @@ namespace vantorel {
 [[nodiscard]] QIcon dialogPageIcon();
 [[nodiscard]] QIcon palettesPageIcon();
 
+// Of the palettes' page.
+
+[[nodiscard]] QIcon addIcon();
+[[nodiscard]] QIcon removeIcon();
+[[nodiscard]] QIcon recolorIcon();
+[[nodiscard]] QIcon undoIcon();
+[[nodiscard]] QIcon redoIcon();
+[[nodiscard]] QIcon moreIcon();
+[[nodiscard]] QIcon lockIcon();
+
 }  // namespace vantorel

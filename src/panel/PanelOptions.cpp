@@ -77,6 +77,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     const auto color = option(
         "color", "Start with this colour: #rgb, #rrggbb, #rrggbbaa, rgb(r, g, b) or a CSS name.",
         "TEXT");
+    const auto page = option("page", "Start with this page: hex, dialog or palettes.", "PAGE");
     const auto mode =
         option("mode", "Start in this mode of the hex page: slider, palette or wheel.", "MODE");
     const auto size = option("size", "Size of the page in points, e.g. 260x340.", "WxH");
@@ -113,8 +114,8 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     parser.setApplicationDescription(QStringLiteral(
         "A colour panel with pages by plug-ins. Where one runs already it is shown, "
         "and does what --color, --pick, --pick-and-copy, --copy and --copy-as say."));
-    parser.addOptions({color, mode, size, screenshot, face, theme, data, plugin, printColor, pick,
-                       pickAndCopy, copy, copyAs, another, help, version});
+    parser.addOptions({color, page, mode, size, screenshot, face, theme, data, plugin, printColor,
+                       pick, pickAndCopy, copy, copyAs, another, help, version});
     if (!parser.parse(arguments)) return refusal(parser.errorText());
     if (parser.isSet(help)) return {{}, 0, parser.helpText()};
     if (parser.isSet(version)) {
@@ -132,6 +133,12 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         if (!options.color)
             return refusal(QStringLiteral("--color: \"%1\" is no colour; try #ff8000")
                                .arg(parser.value(color)));
+    }
+    if (parser.isSet(page)) {
+        options.page = parser.value(page);
+        if (!QStringList{"hex", "dialog", "palettes"}.contains(*options.page))
+            return refusal(
+                QStringLiteral("--page is hex, dialog or palettes, not \"%1\"").arg(*options.page));
     }
     if (parser.isSet(mode)) {
         options.mode = parser.value(mode);

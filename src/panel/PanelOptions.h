@@ -13,6 +13,8 @@ namespace vantorel {
 /// What the command line says.
 struct PanelOptions {
     std::optional<QColor> color;
+    /// hex, dialog or palettes
+    std::optional<QString> page;
     /// slider, palette or wheel
     std::optional<QString> mode;
     /// The size of the page, in points.

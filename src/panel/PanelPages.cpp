@@ -24,6 +24,11 @@ PluginPage::~PluginPage()
     delete _message.data();
 }
 
+QString PluginPage::key() const
+{
+    return QString::fromUtf8(_plugin.plugin().identifier).section(u'.', -1);
+}
+
 QString PluginPage::name() const
 {
     return QString::fromUtf8(_plugin.plugin().displayName);

@@ -22,6 +22,8 @@ class PanelPage {
 public:
     virtual ~PanelPage() = default;
 
+    /// Stands for the page on the command line; the same in every language.
+    [[nodiscard]] virtual QString key() const = 0;
     [[nodiscard]] virtual QString name() const = 0;
     [[nodiscard]] virtual QString toolTip() const = 0;
     [[nodiscard]] virtual QIcon icon() const = 0;
@@ -50,6 +52,8 @@ public:
     PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker);
     ~PluginPage() override;
 
+    /// The last part of the plug-in's identifier: "hex" of "org.vantorel.hex".
+    [[nodiscard]] QString key() const override;
     [[nodiscard]] QString name() const override;
     [[nodiscard]] QString toolTip() const override;
     [[nodiscard]] QIcon icon() const override;
@@ -79,6 +83,7 @@ public:
     explicit DialogPage(std::function<void(const QColor&)> colorChosen);
     ~DialogPage() override;
 
+    [[nodiscard]] QString key() const override { return QStringLiteral("dialog"); }
     [[nodiscard]] QString name() const override;
     [[nodiscard]] QString toolTip() const override;
     [[nodiscard]] QIcon icon() const override;

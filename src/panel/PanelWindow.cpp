@@ -3,6 +3,7 @@
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
+#include "panel/PalettesPage.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -102,6 +103,12 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins,
     }
     addPage(std::make_unique<DialogPage>(
         [this](const QColor& chosen) { chooseColor(hostColorFrom(chosen)); }));
+    // An entry tells no opacity, so the panel's stays.
+    addPage(std::make_unique<PalettesPage>(
+        QtColorPanel::desktop().files(), QtColorPanel::desktop().colorLists(),
+        [this](const HostColor& chosen) {
+            chooseColor(chosen.colorWithAlphaComponent(_color.alphaComponent()));
+        }));
 }
 
 void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
@@ -169,6 +176,16 @@ void PanelWindow::orderTabs()
             last = widget;
         }
     }
+}
+
+bool PanelWindow::showPageWithKey(const QString& key)
+{
+    for (int i = 0; i < pageCount(); ++i) {
+        if (_pages[static_cast<std::size_t>(i)]->key() != key) continue;
+        showPage(i);
+        return true;
+    }
+    return false;
 }
 
 void PanelWindow::chooseColor(const HostColor& color)

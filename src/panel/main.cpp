@@ -57,6 +57,10 @@ void applyOptions(PanelWindow& window, const PanelOptions& options)
         window.addColorObserver(
             [](const HostColor& color) { print(stdout, cssNameOf(qColorFrom(color)) + u'\n'); });
     }
+    if (options.page && !window.showPageWithKey(*options.page)) {
+        print(stderr, QStringLiteral("vantorel-panel: --page: the page \"%1\" is missing\n")
+                          .arg(*options.page));
+    }
     if (options.size) window.resizeToPage(*options.size);
     if (options.color) window.chooseColor(hostColorFrom(*options.color));
     if (options.mode == QLatin1String("slider")) sendAction(window, "sliderViewModeAction");

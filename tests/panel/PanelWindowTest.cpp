@@ -144,7 +144,7 @@ TEST_F(PanelWindowTest, NothingOverlapsAtAnySize)
 
 TEST_F(PanelWindowTest, TheOtherPageFollowsTheColour)
 {
-    ASSERT_EQ(_window->pageCount(), 2);
+    ASSERT_EQ(_window->pageCount(), 3);
     _window->chooseColor(HostColor::colorWithCalibratedRed(0, 0, 1, 0.5));
     _window->showPage(1);
     auto* dialog = _window->findChild<QColorDialog*>();
@@ -165,7 +165,7 @@ TEST(PanelPluginsTest, OnesThatMakeNoPageAreNamedAndTheRestWorks)
     EXPECT_TRUE(search.problems.empty());
     std::vector<std::string> problems;
     PanelWindow window(desktop, search.plugins, problems);
-    EXPECT_EQ(window.pageCount(), 2) << "the good one's and the panel's own";
+    EXPECT_EQ(window.pageCount(), 3) << "the good one's and the panel's own";
     ASSERT_EQ(problems.size(), 2U);
     EXPECT_THAT(problems[0], testing::HasSubstr("throwing-plugin.so is left out"));
     EXPECT_THAT(problems[0], testing::HasSubstr("on purpose"));

@@ -12,7 +12,7 @@ class QtDesktop final : public HostDesktop {
 public:
     QtDesktop();
 
-    HostColorListStore& colorLists() override { return _colorLists; }
+    PaletteFileStore& colorLists() override { return _colorLists; }
     HostFiles& files() override { return _files; }
     HostInterfaceFactory& interfaceFactory() override { return _factory; }
     [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,

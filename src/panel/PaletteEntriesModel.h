@@ -1,0 +1,57 @@
+#pragma once
+
+#include "paletteedit/PaletteEntry.h"
+
+#include <QAbstractListModel>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace vantorel {
+
+/// The entries of a list for a view, or those of them that a filter lets through. Rows count what
+/// is shown, places count the entries of the list.
+class PaletteEntriesModel final : public QAbstractListModel {
+public:
+    /// A new name that the user has typed for the entry at a place.
+    using Rename = std::function<void(std::size_t place, const QString& name)>;
+
+    explicit PaletteEntriesModel(QObject* parent) : QAbstractListModel(parent) {}
+
+    enum Role { colorRole = Qt::UserRole, hexRole };
+
+    void setRename(Rename rename) { _rename = std::move(rename); }
+    void setEntries(const PaletteEntries& entries);
+    /// Shows only entries with the text in their name, in any letter case, or with a hex code that
+    /// begins with it. Empty shows all.
+    void setFilter(const QString& filter);
+
+    [[nodiscard]] const PaletteEntries& entries() const { return _entries; }
+    [[nodiscard]] std::size_t placeOfRow(int row) const
+    {
+        return _places[static_cast<std::size_t>(row)];
+    }
+    /// -1 for an entry that is not shown.
+    [[nodiscard]] int rowOfPlace(std::size_t place) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// The colours as colours and text, for other programs.
+    [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] Qt::DropActions supportedDragActions() const override;
+
+private:
+    [[nodiscard]] std::vector<std::size_t> shownPlaces(const PaletteEntries& entries) const;
+
+    PaletteEntries _entries;
+    QString _filter;
+    /// Ascending.
+    std::vector<std::size_t> _places;
+    Rename _rename;
+};
+
+}  // namespace vantorel

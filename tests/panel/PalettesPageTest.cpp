@@ -1,0 +1,544 @@
+#include "PanelWindowFixture.h"
+#include "ScopedEnvironment.h"
+#include "panel/PalettesPage.h"
+
+#include <gmock/gmock.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <unistd.h>
+
+namespace vantorel {
+namespace {
+
+HostColor rgb(int red, int green, int blue, double alpha = 1)
+{
+    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
+}
+
+/// Folders of a user who has two lists, and Krita with one.
+class UserFolders {
+protected:
+    UserFolders()
+    {
+        _environment.set("XDG_DATA_HOME", at("data").toStdString());
+        _environment.set("XDG_CONFIG_HOME", at("config").toStdString());
+        _environment.set("XDG_DATA_DIRS", at("machine").toStdString());
+        _environment.set("XDG_CONFIG_DIRS", at("machine").toStdString());
+        // So that the tests about permissions can act as another user.
+        QFile::setPermissions(_folder.path(), QFile::Permissions(0x7755));
+        for (const char* path : {"data/Vantorel/Palettes", "data/krita/palettes", "elsewhere"})
+            QDir().mkpath(at(path));
+        put("data/Vantorel/Palettes/Reds.gpl", reds);
+        put("data/Vantorel/Palettes/Blues.gpl",
+            "GIMP Palette\nName: Blues\nColumns: 0\n  0   0 255\tblue\n");
+        // Built in; a process that has made it once does not make it again.
+        put("data/Vantorel/Palettes/CSS Keyword.gpl",
+            "GIMP Palette\nName: CSS Keyword\nColumns: 0\n  0   0 128\tNavy\n");
+        put("data/krita/palettes/Web.gpl", "GIMP Palette\nName: Web\n  0 128 128\tteal\n");
+    }
+
+    [[nodiscard]] QString at(const QString& path) const { return _folder.filePath(path); }
+    void put(const QString& path, const QByteArray& bytes) const
+    {
+        QFile file(at(path));
+        file.open(QIODevice::WriteOnly);
+        file.write(bytes);
+    }
+    /// What a file holds, one row a colour as "name=ff0000"; "none" when there is none.
+    [[nodiscard]] std::string rowsAt(const QString& path) const
+    {
+        QFile file(at(path));
+        if (!file.open(QIODevice::ReadOnly)) return "none";
+        QStringList rows;
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            const QList<QByteArray> parts = line.split('\t');
+            if (parts.size() != 2) continue;
+            const QList<QByteArray> numbers = parts.front().simplified().split(' ');
+            rows.append(
+                QString::fromUtf8(parts.back()) + u'=' +
+                QColor(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt()).name().mid(1));
+        }
+        return rows.join(u' ').toStdString();
+    }
+    [[nodiscard]] std::string own(const QString& name) const
+    {
+        return rowsAt("data/Vantorel/Palettes/" + name + ".gpl");
+    }
+
+    static constexpr const char* reds =
+        "GIMP Palette\nName: Reds\nColumns: 0\n255   0   0\tred\n192   0   0\tdark\n"
+        "128   0   0\tdarker\n 64   0   0\tdarkest\n";
+
+    QTemporaryDir _folder;
+    ScopedEnvironment _environment;
+};
+
+class PalettesPageTest : protected UserFolders, public PanelWindowFixture {
+protected:
+    void SetUp() override
+    {
+        PanelWindowFixture::SetUp();
+        ASSERT_TRUE(_window->showPageWithKey("palettes"));
+        show("Reds");
+        view()->setFocus();
+        _window->chooseColor(rgb(1, 2, 3));
+    }
+
+    [[nodiscard]] PaletteEntriesView* view() const
+    {
+        return static_cast<PaletteEntriesView*>(child<QWidget>("paletteEntries"));
+    }
+    [[nodiscard]] QComboBox* lists() const { return child<QComboBox>("paletteLists"); }
+    [[nodiscard]] PalettesWidget* page() const
+    {
+        return static_cast<PalettesWidget*>(child<QWidget>("palettesPage"));
+    }
+    [[nodiscard]] std::string remark() const
+    {
+        return child<QLabel>("paletteRemark")->text().toStdString();
+    }
+    [[nodiscard]] std::string shownList() const { return lists()->currentText().toStdString(); }
+    [[nodiscard]] std::string shownNames() const
+    {
+        QStringList names;
+        for (int row = 0; row < view()->model()->rowCount(); ++row)
+            names.append(view()->model()->index(row, 0).data().toString());
+        return names.join(u' ').toStdString();
+    }
+    void show(const QString& list) const
+    {
+        const int index = lists()->findText(list);
+        ASSERT_GE(index, 0) << list.toStdString();
+        lists()->setCurrentIndex(index);
+        emit lists()->activated(index);
+    }
+    [[nodiscard]] QPoint middleOf(int row) const
+    {
+        return view()->visualRect(view()->model()->index(row, 0)).center();
+    }
+    void click(int row, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, middleOf(row));
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    [[nodiscard]] QAction* command(const char* text) const
+    {
+        for (QAction* action : page()->findChildren<QAction*>()) {
+            if (action->text() == QLatin1String(text)) return action;
+        }
+        return nullptr;
+    }
+    /// Types into the field that a command has opened.
+    void typeName(const QString& name) const
+    {
+        auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(field, nullptr);
+        field->selectAll();
+        QTest::keyClicks(field, name);
+        QTest::keyClick(field, Qt::Key_Return);
+        // A row takes the name once its field has seen the key.
+        QApplication::processEvents();
+    }
+    static bool drop(QWidget* target, const QMimeData& data, QPoint at)
+    {
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        if (!enter.isAccepted()) return false;
+        QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &event);
+        return event.isAccepted();
+    }
+};
+
+TEST_F(PalettesPageTest, AClickTakesAColourAndKeepsTheOpacity)
+{
+    _window->chooseColor(rgb(1, 2, 3, 0.5));
+    click(1);
+    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(192, 0, 0, 128));
+    press(Qt::Key_Down);
+    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(192, 0, 0, 128)) << "moving takes nothing";
+    press(Qt::Key_Return);
+    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(128, 0, 0, 128));
+    click(0, Qt::ControlModifier);
+    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(128, 0, 0, 128)) << "selecting takes nothing";
+    EXPECT_EQ(view()->selectedPlaces(), (std::vector<std::size_t>{0, 2}));
+}
+
+TEST_F(PalettesPageTest, AnAddedColourAsksForItsName)
+{
+    _window->chooseColor(rgb(0, 255, 0, 0.5));
+    click(1, Qt::ControlModifier);
+    press(Qt::Key_Insert);
+    EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 #00FF00=00ff00 darker=800000 darkest=400000");
+    EXPECT_THAT(remark(), testing::HasSubstr("opacity"));
+    typeName("green");
+    EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 green=00ff00 darker=800000 darkest=400000");
+    _window->chooseColor(rgb(250, 0, 0));
+    command("Add the panel's colour")->trigger();
+    EXPECT_EQ(static_cast<QLineEdit*>(QApplication::focusWidget())->text(), "red 2")
+        << "the nearest name";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(own("Reds"),
+              "red=ff0000 dark=c00000 green=00ff00 red 2=fa0000 darker=800000 darkest=400000");
+}
+
+TEST_F(PalettesPageTest, SeveralColoursAreMovedRecolouredAndRemoved)
+{
+    click(1, Qt::ControlModifier);
+    click(2, Qt::ControlModifier);
+    press(Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(own("Reds"), "dark=c00000 darker=800000 red=ff0000 darkest=400000");
+    press(Qt::Key_Down, Qt::AltModifier);
+    press(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(own("Reds"), "red=ff0000 darkest=400000 dark=c00000 darker=800000");
+    EXPECT_EQ(view()->selectedPlaces(), (std::vector<std::size_t>{2, 3})) << "they stay selected";
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(own("Reds"), "red=ff0000 darkest=400000 dark=010203 darker=010203");
+    press(Qt::Key_Delete);
+    EXPECT_EQ(own("Reds"), "red=ff0000 darkest=400000");
+    press(Qt::Key_Delete);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(own("Reds"), "");
+    EXPECT_THAT(child<QLabel>("paletteEmptyNote")->text().toStdString(),
+                testing::HasSubstr("empty"));
+}
+
+TEST_F(PalettesPageTest, UndoAndRedoAreThePagesOwn)
+{
+    click(0);
+    const QColor chosen = _window->chosenColor();
+    press(Qt::Key_Delete);
+    press(Qt::Key_Delete);
+    for (QWidget* focus : {static_cast<QWidget*>(view()), static_cast<QWidget*>(lists()),
+                           child<QWidget>("paletteMenuButton"), child<QWidget>("paletteFilter")}) {
+        SCOPED_TRACE(focus->objectName().toStdString());
+        focus->setFocus();
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(own("Reds"), "dark=c00000 darker=800000 darkest=400000");
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000");
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(_window->chosenColor(), chosen) << "also with nothing left to undo";
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
+        EXPECT_EQ(_window->chosenColor(), chosen);
+    }
+    auto* filter = child<QLineEdit>("paletteFilter");
+    QTest::keyClicks(filter, "dark");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(filter->text(), "") << "typing is undone first";
+    EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
+    _window->showPage(0);
+    _window->setFocus();
+    QTest::keyClick(_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(_window->chosenColor(), chosen) << "elsewhere it is the panel's";
+    EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
+}
+
+TEST_F(PalettesPageTest, ListsAreMadeRenamedCopiedAndRemoved)
+{
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(own("New list"), "");
+    typeName("Greens");
+    EXPECT_EQ(own("New list"), "none");
+    EXPECT_EQ(own("Greens"), "");
+    EXPECT_EQ(shownList(), "Greens");
+    show("Reds");
+    view()->setFocus();
+    press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(own("Reds copy"), own("Reds"));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(shownList(), "Reds copy");
+    press(Qt::Key_F2, Qt::ShiftModifier);
+    typeName("Blues");
+    EXPECT_EQ(shownList(), "Blues 2");
+    EXPECT_THAT(remark(), testing::HasSubstr("\"Blues 2\""));
+    command("Remove the list")->trigger();
+    EXPECT_EQ(own("Blues 2"), "none");
+    EXPECT_NE(own("Blues"), "none");
+    EXPECT_THAT(remark(), testing::HasSubstr("Undo"));
+    command("Undo")->trigger();
+    EXPECT_EQ(own("Blues 2"), own("Reds"));
+    EXPECT_EQ(shownList(), "Blues 2");
+}
+
+TEST_F(PalettesPageTest, ColoursAreRenamedInTheirRow)
+{
+    click(1);
+    press(Qt::Key_F2);
+    typeName("red");
+    EXPECT_EQ(own("Reds"), "red=ff0000 red 2=c00000 darker=800000 darkest=400000");
+    EXPECT_THAT(remark(), testing::HasSubstr("taken"));
+    click(2);
+    QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, middleOf(2));
+    typeName("  tomato ");
+    EXPECT_EQ(own("Reds"), "red=ff0000 red 2=c00000 tomato=800000 darkest=400000");
+    EXPECT_EQ(shownNames(), "red red 2 tomato darkest");
+}
+
+TEST_F(PalettesPageTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
+{
+    show("Web (Krita)");
+    EXPECT_TRUE(child<QLabel>("paletteOwnership")->isVisible());
+    EXPECT_FALSE(command("Remove the list")->isEnabled());
+    const std::string before = rowsAt("data/krita/palettes/Web.gpl");
+    click(0);
+    view()->setFocus();
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(own("Web"), "none") << "the same colour is no change";
+    _window->chooseColor(rgb(9, 9, 9));
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(own("Web"), "teal=090909");
+    EXPECT_EQ(shownList(), "Web");
+    EXPECT_FALSE(child<QLabel>("paletteOwnership")->isVisible());
+    EXPECT_THAT(remark(), testing::HasSubstr("of your own"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(own("Web"), "none");
+    EXPECT_EQ(rowsAt("data/krita/palettes/Web.gpl"), before);
+}
+
+TEST_F(PalettesPageTest, WhatOthersChangeShowsByItself)
+{
+    click(2, Qt::ControlModifier);
+    // Some programs replace a file, some write into it.
+    put("data/Vantorel/Palettes/.new", "GIMP Palette\nName: Reds\n9 9 9\tnew\n128 0 0\tdarker\n");
+    ASSERT_EQ(::rename(at("data/Vantorel/Palettes/.new").toLocal8Bit().constData(),
+                       at("data/Vantorel/Palettes/Reds.gpl").toLocal8Bit().constData()),
+              0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownNames() == "new darker"; }));
+    EXPECT_EQ(view()->selectedPlaces(), (std::vector<std::size_t>{1})) << "the same as before";
+    EXPECT_THAT(remark(), testing::HasSubstr("another program"));
+    put("data/Vantorel/Palettes/Reds.gpl", "GIMP Palette\nName: Reds\n9 9 9\twritten in place\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownNames() == "written in place"; }));
+    put("data/Vantorel/Palettes/Added.gpl", "GIMP Palette\nName: Added\n9 9 9\tx\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lists()->findText("Added") >= 0; }));
+    EXPECT_EQ(shownList(), "Reds");
+    QFile::remove(at("data/Vantorel/Palettes/Reds.gpl"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownList() == "Added"; }));
+    EXPECT_THAT(remark(), testing::HasSubstr("removed by another program"));
+}
+
+TEST_F(PalettesPageTest, ChangesOfBothAreMerged)
+{
+    // No event loop runs in between, so the page cannot know.
+    put("data/Vantorel/Palettes/Reds.gpl",
+        QByteArray(reds).replace("192", "190").append("  9   9   9\ttheirs\n"));
+    click(0, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(own("Reds"), "dark=be0000 darker=800000 darkest=400000 theirs=090909");
+    EXPECT_THAT(remark(), testing::HasSubstr("both changes"));
+    EXPECT_EQ(shownNames(), "dark darker darkest theirs");
+}
+
+TEST_F(PalettesPageTest, FilesAreImportedByDrop)
+{
+    put("elsewhere/a.gpl", "GIMP Palette\nName: Reds\n1 2 3\tfirst\nnonsense\n");
+    put("elsewhere/b.colors", "KDE RGB Palette\n4 5 6 second\n");
+    put("elsewhere/c.gpl", "a shopping list");
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(at("elsewhere/a.gpl")), QUrl::fromLocalFile(at("elsewhere/b.colors")),
+         QUrl::fromLocalFile(at("elsewhere/c.gpl")), QUrl::fromLocalFile(at("elsewhere"))});
+    EXPECT_TRUE(drop(page(), data, {50, 50}));
+    EXPECT_EQ(own("Reds 2"), "first=010203");
+    EXPECT_EQ(own("b"), "second=040506");
+    for (const char* part :
+         {"\"Reds 2\" has been imported", "\"b\" has been imported", "left out: 1",
+          "\"c.gpl\" is no palette", "\"elsewhere\" cannot be read"}) {
+        EXPECT_THAT(remark(), testing::HasSubstr(part));
+    }
+    EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(own("Reds 2") + own("b"), "nonenone");
+}
+
+TEST_F(PalettesPageTest, ColoursAreDroppedBetweenRows)
+{
+    QMimeData data;
+    data.setText("#00ff00");
+    const QRect second = view()->visualRect(view()->model()->index(1, 0));
+    EXPECT_TRUE(drop(view()->viewport(), data, second.topLeft() + QPoint(5, 2)));
+    EXPECT_EQ(own("Reds"), "red=ff0000 #00FF00=00ff00 dark=c00000 darker=800000 darkest=400000");
+    data.setText("no colour");
+    EXPECT_FALSE(drop(view()->viewport(), data, second.topLeft()));
+    EXPECT_EQ(own("Reds"), "red=ff0000 #00FF00=00ff00 dark=c00000 darker=800000 darkest=400000");
+    EXPECT_NE(remark(), "");
+}
+
+TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
+{
+    page()->saveCopy(at("elsewhere/copy.gpl"));
+    QFile file(at("elsewhere/copy.gpl"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray(reds));
+    page()->saveCopy(at("no/such/folder/copy.gpl"));
+    EXPECT_THAT(remark(), testing::HasSubstr("could not be written"));
+}
+
+/// Acts as a user who may not write into the folders that the test has made.
+class ReadOnlyFolder {
+public:
+    explicit ReadOnlyFolder(const QString& path) : _path(path)
+    {
+        setMode("a-w");
+        if (::geteuid() == 0) _isOtherUser = ::seteuid(65534) == 0;
+    }
+    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
+    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+    ~ReadOnlyFolder()
+    {
+        if (_isOtherUser && ::seteuid(0) != 0) std::abort();
+        setMode("u+w");
+    }
+
+private:
+    void setMode(const char* change) const
+    {
+        QFile::Permissions mode = QFile::permissions(_path);
+        const bool writable = change[0] == 'u';
+        mode.setFlag(QFile::WriteOwner, writable);
+        mode.setFlag(QFile::WriteUser, writable);
+        QFile::setPermissions(_path, mode);
+    }
+
+    QString _path;
+    bool _isOtherUser = false;
+};
+
+TEST_F(PalettesPageTest, AFolderThatCannotBeWrittenLosesNothing)
+{
+    const std::string before = own("Reds");
+    {
+        const ReadOnlyFolder folder(at("data/Vantorel/Palettes"));
+        click(0, Qt::ControlModifier);
+        press(Qt::Key_Delete);
+        EXPECT_THAT(remark(), testing::HasSubstr("\"Reds\" could not be saved"));
+        EXPECT_THAT(remark(), testing::HasSubstr(at("data/Vantorel/Palettes").toStdString()));
+        EXPECT_EQ(shownNames(), "red dark darker darkest");
+        command("Remove the list")->trigger();
+        EXPECT_THAT(remark(), testing::HasSubstr("could not be removed"));
+        EXPECT_EQ(shownList(), "Reds");
+        press(Qt::Key_N, Qt::ControlModifier);
+        EXPECT_THAT(remark(), testing::HasSubstr("could not be saved"));
+        EXPECT_FALSE(command("Undo")->isEnabled());
+    }
+    EXPECT_EQ(own("Reds"), before);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(own("Reds"), "dark=c00000 darker=800000 darkest=400000") << "it works again";
+}
+
+TEST_F(PalettesPageTest, ThirtyThousandColoursAreFilteredAndPaintedAsTheyAreSeen)
+{
+    QByteArray text = "GIMP Palette\nName: Many\n";
+    for (int i = 0; i < 30000; ++i)
+        text += QByteArray::number(i % 256) + " 0 " + QByteArray::number(i / 256) + "\tcolour " +
+                QByteArray::number(i) + "\n";
+    put("data/Vantorel/Palettes/Many.gpl", text);
+    page()->importFiles({});
+    _window->showPage(0);
+    _window->showPageWithKey("palettes");
+    show("Many");
+    view()->setFocus();
+    EXPECT_EQ(view()->model()->rowCount(), 30000);
+    auto* filter = child<QLineEdit>("paletteFilter");
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), filter);
+    struct Row {
+        const char* typed;
+        const char* shown;
+    };
+    for (const Row& row : {Row{"OLOUR 29999", "colour 29999"}, Row{"#2f0075", "colour 29999"},
+                           Row{"2F0075", "colour 29999"}, Row{"nothing", ""}}) {
+        filter->setText(row.typed);
+        EXPECT_EQ(shownNames(), row.shown) << row.typed;
+    }
+    filter->setText("colour 2999");
+    EXPECT_EQ(child<QLabel>("paletteCount")->text().remove(u',').remove(u'.'), "11 of 30000");
+    press(Qt::Key_Down);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(view()->model()->rowCount(), 0) << "what is not shown is not removed";
+    filter->clear();
+    EXPECT_EQ(view()->model()->rowCount(), 29989);
+    view()->scrollToBottom();
+    EXPECT_FALSE(_window->grab().isNull());
+    EXPECT_TRUE(view()->viewport()->rect().intersects(
+        view()->visualRect(view()->model()->index(29988, 0))));
+}
+
+TEST_F(PalettesPageTest, ThePickersPageShowsTheChanges)
+{
+    // "CSS Keyword" is the naming list of a new user.
+    show("CSS Keyword");
+    view()->setFocus();
+    _window->chooseColor(rgb(1, 2, 3));
+    command("Add the panel's colour")->trigger();
+    typeName("ink");
+    press(Qt::Key_N, Qt::ControlModifier);
+    typeName("Fresh");
+    command("Add the panel's colour")->trigger();
+    typeName("first");
+    _window->showPage(0);
+    const auto shownName = [this] {
+        return QAccessible::queryAccessibleInterface(child<QWidget>("hexColorNamePopUp"))
+            ->text(QAccessible::Value)
+            .toStdString();
+    };
+    EXPECT_EQ(shownName(), "ink");
+    _window->showPageWithKey("palettes");
+    show("CSS Keyword");
+    view()->selectPlaces({1});
+    view()->setFocus();
+    press(Qt::Key_F2);
+    typeName("soot");
+    _window->showPage(0);
+    EXPECT_EQ(shownName(), "soot");
+    EXPECT_THAT(_desktop.colorLists().availableColorLists(), testing::Contains(u"Fresh"));
+}
+
+TEST_F(PalettesPageTest, EverythingFitsAtAnySize)
+{
+    show("Web (Krita)");
+    for (const QSize size : {QSize(212, 220), QSize(260, 340), QSize(900, 700)}) {
+        _window->resizeToPage(size);
+        QApplication::processEvents();
+        EXPECT_EQ(page()->size(), size);
+        QList<QWidget*> shown;
+        for (QObject* object : page()->children()) {
+            auto* widget = qobject_cast<QWidget*>(object);
+            if (widget != nullptr && widget->isVisible() && !widget->isWindow())
+                shown.append(widget);
+        }
+        EXPECT_GE(view()->height(), 60);
+        for (const QWidget* one : shown) {
+            EXPECT_TRUE(page()->rect().contains(one->geometry()))
+                << one->objectName().toStdString() << " at " << size.width();
+            EXPECT_TRUE(!one->toolTip().isEmpty() || one->focusPolicy() == Qt::NoFocus ||
+                        one == view())
+                << one->objectName().toStdString();
+            EXPECT_TRUE(!one->accessibleName().isEmpty() || one->focusPolicy() == Qt::NoFocus)
+                << one->objectName().toStdString();
+            for (const QWidget* other : shown) {
+                EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()))
+                    << one->objectName().toStdString() << " and "
+                    << other->objectName().toStdString() << " at " << size.width();
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vantorel
