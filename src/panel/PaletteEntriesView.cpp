@@ -206,7 +206,8 @@ void PaletteEntriesView::renameAt(std::size_t place)
 {
     const int row = _model.rowOfPlace(place);
     if (row < 0) return;
-    setCurrentIndex(_model.index(row));
+    // Not by `setCurrentIndex`, which heeds the modifier keys that are down just now.
+    selectionModel()->setCurrentIndex(_model.index(row), QItemSelectionModel::ClearAndSelect);
     edit(_model.index(row));
 }
 

@@ -35,6 +35,13 @@ QString shownName(const EditablePalette& palette)
     return QStringLiteral("%1 (%2)").arg(name, program);
 }
 
+QColor mixed(const QColor& ground, const QColor& color, double share)
+{
+    const auto channel = [share](int from, int to) { return qRound(from + (to - from) * share); };
+    return {channel(ground.red(), color.red()), channel(ground.green(), color.green()),
+            channel(ground.blue(), color.blue())};
+}
+
 /// The first of a folder and those around it that exists.
 std::string nearestFolder(const HostFiles& files, std::string path)
 {
@@ -231,9 +238,10 @@ void PalettesWidget::showLists()
         _lists->removeItem(_lists->count() - 1);
     }
     if (_editor.palette(_list) == nullptr) {
-        // The neighbour of one that has gone; a separator has no list.
-        _list = _lists->itemData(std::min(place, _lists->count() - 1)).toULongLong();
-        if (_list == 0) _list = _lists->itemData(0).toULongLong();
+        // The neighbour of one that has gone; a separator, which has no list, stands behind one.
+        const int next = std::min(place, _lists->count() - 1);
+        _list = _lists->itemData(next).toULongLong();
+        if (_list == 0) _list = _lists->itemData(next - 1).toULongLong();
     }
     _lists->setCurrentIndex(_lists->findData(QVariant::fromValue(_list)));
     _lists->setEnabled(_lists->count() > 0);
@@ -312,10 +320,12 @@ void PalettesWidget::showRemark(const QString& text, RemarkKind kind)
     _remark->setVisible(!text.isEmpty());
     _remarkTimer.stop();
     if (text.isEmpty()) return;
-    _remark->setBackgroundRole(kind == RemarkKind::failure ? QPalette::Highlight
-                                                           : QPalette::AlternateBase);
-    _remark->setForegroundRole(kind == RemarkKind::failure ? QPalette::HighlightedText
-                                                           : QPalette::Text);
+    QPalette colors = palette();
+    const QColor ground = colors.color(QPalette::Window);
+    colors.setColor(QPalette::Window, kind == RemarkKind::failure
+                                          ? mixed(ground, QColor(220, 50, 30), 0.25)
+                                          : mixed(ground, colors.color(QPalette::Highlight), 0.15));
+    _remark->setPalette(colors);
     // What went wrong stays until something else is done.
     if (kind == RemarkKind::news) _remarkTimer.start(remarkTime);
     QAccessibleEvent event(_remark, QAccessible::Alert);
