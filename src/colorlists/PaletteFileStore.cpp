@@ -117,16 +117,38 @@ const PaletteCatalogue::Entry* PaletteFileStore::entryNamed(const std::u16string
     return entry;
 }
 
+bool PaletteFileStore::isInUsualFile(PaletteFolder& own, const std::u16string& name)
+{
+    const PaletteFolder::File* file = own.lookAtFile(fileNameOfList(name));
+    return file != nullptr && file->isPalette && file->listName == name;
+}
+
+std::optional<std::string> PaletteFileStore::pathOfOwnList(const std::u16string& name)
+{
+    PaletteFolder* own = ownFolder();
+    if (own == nullptr) return std::nullopt;
+    if (isInUsualFile(*own, name)) return own->pathOfFile(fileNameOfList(name));
+    own->lookAgain();
+    for (const auto& [fileName, file] : own->files()) {
+        if (file.isPalette && file.listName == name) return own->pathOfFile(fileName);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> PaletteFileStore::pathOfList(const std::u16string& name)
+{
+    if (auto path = pathOfOwnList(name)) return path;
+    const auto* entry = entryNamed(name);
+    if (entry == nullptr) return std::nullopt;
+    return entry->path();
+}
+
 std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
 {
     // The usual case first: a list in our file that its name says, of which nothing else need be
     // known.
     if (PaletteFolder* own = ownFolder()) {
-        const std::string fileName = fileNameOfList(name);
-        const PaletteFolder::File* file = own->lookAtFile(fileName);
-        if (file != nullptr && file->isPalette && file->listName == name) {
-            return own->listInFile(fileName);
-        }
+        if (isInUsualFile(*own, name)) return own->listInFile(fileNameOfList(name));
     }
     const auto* entry = entryNamed(name);
     return entry != nullptr ? entry->folder->listInFile(entry->fileName, name) : nullptr;

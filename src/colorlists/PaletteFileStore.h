@@ -61,6 +61,10 @@ public:
     /// The same into a file of our own folder that is replaced. False, too, for any other path.
     bool replaceFile(const std::string& path, const std::shared_ptr<HostColorList>& list,
                      const std::string& text);
+    /// The file that a list is read from; nothing when there is no list of that name.
+    [[nodiscard]] std::optional<std::string> pathOfList(const std::u16string& name);
+    /// The same among the user's own lists alone; other folders are not looked at.
+    [[nodiscard]] std::optional<std::string> pathOfOwnList(const std::u16string& name);
 
     /// The file of a list by its name: no name leads out of the folder, into a hidden file, or
     /// beyond what file systems take.
@@ -73,6 +77,8 @@ private:
     [[nodiscard]] PaletteFolder* writableFolder();
     /// A file that is not there yet, its name as near to `usual` as can be.
     [[nodiscard]] std::string unusedFileName(const PaletteFolder& own, const std::string& usual);
+    /// Whether the file that the name of a list of our own says holds that list.
+    [[nodiscard]] static bool isInUsualFile(PaletteFolder& own, const std::u16string& name);
     /// Whether a name that is not in the catalogue may have come.
     [[nodiscard]] bool mustLookAgain();
     void lookAgain();
