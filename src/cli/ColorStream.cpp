@@ -1,0 +1,161 @@
+#include "cli/ColorStream.h"
+
+#include "cli/Failure.h"
+#include "cli/LineReader.h"
+#include "cli/Terminal.h"
+
+#include <unistd.h>
+
+#include <chrono>
+
+namespace vantorel {
+namespace {
+
+/// Tells on standard error how far a long stream has come. A terminal that gets the output anyway
+/// needs no more than that.
+class Progress {
+public:
+    Progress()
+        : _isShown(isTerminal(STDERR_FILENO) && !isTerminal(STDIN_FILENO) &&
+                   !isTerminal(STDOUT_FILENO))
+    {
+    }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress() { clear(); }
+
+    void update(std::uint64_t lines)
+    {
+        if (!_isShown) return;
+        const auto now = std::chrono::steady_clock::now();
+        if (now - _last < std::chrono::milliseconds(200)) return;
+        _last = now;
+        print("\r" + std::to_string(lines) + " lines");
+        _hasPrinted = true;
+    }
+    /// Before anything else is written there.
+    void clear()
+    {
+        if (_hasPrinted) print("\r\x1b[K");
+        _hasPrinted = false;
+    }
+
+private:
+    static void print(const std::string& text)
+    {
+        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text.data(), text.size());
+    }
+
+    bool _isShown;
+    bool _hasPrinted = false;
+    std::chrono::steady_clock::time_point _last = std::chrono::steady_clock::now();
+};
+
+/// Messages about lines; a file that is no text can have millions of them.
+class LineComplaints {
+public:
+    LineComplaints(Progress& progress, Output& output) : _progress(progress), _output(output) {}
+
+    void add(std::uint64_t number, const std::string& what, const std::string& right)
+    {
+        constexpr std::uint64_t mostTold = 100;
+        if (++_count > mostTold) {
+            ++_untold;
+            return;
+        }
+        // In the order of the lines, where both can be seen.
+        _output.flush();
+        _progress.clear();
+        complain("standard input, line " + std::to_string(number) + ": " + what, right);
+    }
+    void finish()
+    {
+        if (_untold == 0) return;
+        _output.flush();
+        _progress.clear();
+        complain(
+            "standard input has " + std::to_string(_untold) + " more lines that are no colours",
+            "give one colour a line");
+    }
+    [[nodiscard]] bool isEmpty() const { return _count == 0; }
+
+private:
+    Progress& _progress;
+    Output& _output;
+    std::uint64_t _count = 0;
+    std::uint64_t _untold = 0;
+};
+
+bool isBlank(std::string_view line)
+{
+    return line.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& output)
+{
+    LineReader lines(STDIN_FILENO);
+    Progress progress;
+    LineComplaints complaints(progress, output);
+    const auto beforeReading = [&] {
+        // What the next read waits for may depend on what has been written.
+        output.flush();
+        progress.update(lines.number());
+    };
+    std::string_view line;
+    for (;;) {
+        switch (lines.next(line, beforeReading)) {
+            case LineReader::Result::line:
+                if (const auto plain = readPlainHex(line)) {
+                    writer.write(output, *plain, true);
+                } else if (!isBlank(line)) {
+                    const ColorTextReading reading = reader.read(line);
+                    if (reading.color) {
+                        writer.write(output, *reading.color, true);
+                    } else {
+                        const Complaint complaint = complaintFromSentence(reading.error);
+                        complaints.add(lines.number(), complaint.what, complaint.right);
+                    }
+                }
+                break;
+            case LineReader::Result::tooLong:
+                complaints.add(lines.number(), "the line is longer than 64 KiB",
+                               "give one colour a line");
+                break;
+            case LineReader::Result::end:
+                complaints.finish();
+                return complaints.isEmpty();
+            case LineReader::Result::failed:
+                output.flush();
+                throw Failure{"standard input cannot be read",
+                              "give colours as arguments, or a file or program to read from"};
+        }
+    }
+}
+
+}  // namespace
+
+bool writeColors(const std::vector<std::string>& arguments, ColorTextReader& reader,
+                 ColorWriter& writer, Output& output)
+{
+    if (arguments.empty()) return writeStandardInput(reader, writer, output);
+    bool areAllColors = true;
+    for (const std::string& argument : arguments) {
+        if (argument == "-") {
+            areAllColors = writeStandardInput(reader, writer, output) && areAllColors;
+            continue;
+        }
+        const ColorTextReading reading = reader.read(argument);
+        if (reading.color) {
+            writer.write(output, *reading.color, false);
+            continue;
+        }
+        areAllColors = false;
+        // So that the message stands where the colour would.
+        output.flush();
+        const Complaint complaint = complaintFromSentence(reading.error);
+        complain(complaint.what, complaint.right);
+    }
+    return areAllColors;
+}
+
+}  // namespace vantorel

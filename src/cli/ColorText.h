@@ -1,0 +1,86 @@
+#pragma once
+
+#include "color/QTXHexColorSpec.h"
+#include "host/HostColor.h"
+#include "host/HostColorList.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vantorel {
+
+/// A colour in 8 bits, to which it has been rounded as browsers do.
+struct ByteColor {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    /// 0..1
+    double alpha = 1;
+    /// What was written lies outside sRGB, and this is the nearest colour inside.
+    bool wasOutsideSRGB = false;
+
+    [[nodiscard]] QTXHexColorSpec spec() const;
+    [[nodiscard]] HostColor hostColor() const;
+};
+
+[[nodiscard]] ByteColor byteColorOf(const HostColor& color);
+
+struct ColorTextReading {
+    std::optional<ByteColor> color;
+    /// As `CSSColorReading::error`, in UTF-8.
+    std::string error;
+};
+
+/// Reads colours as they are typed: a hex code, any form of CSS, what the picker's fields take, and
+/// names of a colour list.
+class ColorTextReader {
+public:
+    using FindList = std::function<std::shared_ptr<HostColorList>()>;
+
+    /// `findList` gives the list whose names count, or null; it is asked once, and not before a
+    /// text is nothing else.
+    explicit ColorTextReader(FindList findList) : _findList(std::move(findList)) {}
+
+    /// Texts of any length; takes time in proportion to it.
+    [[nodiscard]] ColorTextReading read(std::string_view utf8);
+
+private:
+    [[nodiscard]] std::optional<HostColor> colorInList(const std::u16string& name);
+
+    FindList _findList;
+    bool _hasList = false;
+    std::shared_ptr<HostColorList> _list;
+};
+
+/// The value of each hex digit; 0xFF for every other byte.
+extern const std::array<std::uint8_t, 256> hexDigitValues;
+
+/// Reads six or three hex digits behind "#" or without it, as `ColorTextReader` does, but fast.
+/// Nothing for any other text, which may be a colour all the same.
+[[nodiscard]] inline std::optional<ByteColor> readPlainHex(std::string_view text)
+{
+    if (text.starts_with('#')) text.remove_prefix(1);
+    const auto digit = [text](std::size_t place) {
+        return hexDigitValues[static_cast<unsigned char>(text[place])];
+    };
+    if (text.size() == 6) {
+        const std::uint8_t all = digit(0) | digit(1) | digit(2) | digit(3) | digit(4) | digit(5);
+        if (all > 15) return std::nullopt;
+        const auto byte = [&](std::size_t place) {
+            return static_cast<std::uint8_t>(digit(place) << 4 | digit(place + 1));
+        };
+        return ByteColor{byte(0), byte(2), byte(4)};
+    }
+    if (text.size() != 3 || (digit(0) | digit(1) | digit(2)) > 15) return std::nullopt;
+    const auto doubled = [&](std::size_t place) {
+        return static_cast<std::uint8_t>(digit(place) * 17);
+    };
+    return ByteColor{doubled(0), doubled(1), doubled(2)};
+}
+
+}  // namespace vantorel

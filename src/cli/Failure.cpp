@@ -1,0 +1,54 @@
+#include "cli/Failure.h"
+
+#include "host/HostText.h"
+
+#include <unistd.h>
+
+namespace vantorel {
+
+std::string harmlessLine(std::string_view utf8)
+{
+    std::u16string text = utf16FromUtf8(utf8);
+    for (char16_t& c : text) {
+        // Those from U+0080 on are commands to some terminals, too.
+        if (c < 0x20 || (c >= 0x7F && c < 0xA0)) c = u' ';
+    }
+    return utf8FromUtf16(text);
+}
+
+void complain(std::string_view what, std::string_view right)
+{
+    std::string line = "vantorel: " + harmlessLine(what);
+    if (!right.empty()) line.append(": ").append(harmlessLine(right));
+    line += '\n';
+    // There is nowhere to tell that standard error is closed.
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line.data(), line.size());
+}
+
+Complaint complaintFromSentence(std::string_view sentence)
+{
+    if (sentence.ends_with('.')) sentence.remove_suffix(1);
+    bool isQuoted = false;
+    for (std::size_t i = 0; i < sentence.size(); ++i) {
+        if (sentence[i] == '"') isQuoted = !isQuoted;
+        if (isQuoted || !sentence.substr(i).starts_with("; ")) continue;
+        return {std::string(sentence.substr(0, i)), std::string(sentence.substr(i + 2))};
+    }
+    return {std::string(sentence), {}};
+}
+
+std::string quotedText(std::string_view utf8)
+{
+    constexpr std::size_t mostBytes = 60;
+    std::string text(utf8.substr(0, mostBytes));
+    if (utf8.size() > mostBytes) {
+        // Not half a character.
+        while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80)
+            text.pop_back();
+        if (!text.empty() && static_cast<unsigned char>(text.back()) >= 0xC0) text.pop_back();
+        text += "...";
+    }
+    return '"' + harmlessLine(text) + '"';
+}
+
+}  // namespace vantorel

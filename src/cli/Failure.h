@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vantorel {
+
+inline constexpr int failureStatus = 1;
+inline constexpr int usageStatus = 2;
+
+/// Ends a command. `what` is wrong and `right` would be right; both are UTF-8, and may hold what
+/// somebody else has written.
+struct Failure {
+    std::string what;
+    std::string right;
+    int status = failureStatus;
+};
+
+/// Ends a command about which all has been said, or that has nobody left to say it to.
+struct SilentFailure {
+    int status = failureStatus;
+};
+
+/// A text as one line that cannot command a terminal: control characters become blanks, and what is
+/// no UTF-8 becomes U+FFFD.
+[[nodiscard]] std::string harmlessLine(std::string_view utf8);
+
+/// Writes "vantorel: WHAT: RIGHT" to standard error; without the second part where `right` is
+/// empty.
+void complain(std::string_view what, std::string_view right);
+
+/// The form of error messages out of a sentence that parts what is wrong from what would be right
+/// by a semicolon, as the reader of CSS colours writes them.
+struct Complaint {
+    std::string what;
+    std::string right;
+};
+[[nodiscard]] Complaint complaintFromSentence(std::string_view sentence);
+
+/// A text in quotation marks: the beginning of a long one.
+[[nodiscard]] std::string quotedText(std::string_view utf8);
+
+}  // namespace vantorel

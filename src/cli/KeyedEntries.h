@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/HostColorList.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace vantorel {
+
+/// Adds colours to a list under keys of their own, so that none is lost: one without a name is
+/// "Untitled", a name that comes again gets a number behind it.
+class KeyedEntries {
+public:
+    /// `list` must outlive this object.
+    explicit KeyedEntries(HostColorList& list) : _list(list) {}
+
+    void add(const HostColor& color, std::u16string name)
+    {
+        if (name.empty()) name = u"Untitled";
+        std::u16string key = name;
+        while (_list.colorWithKey(key)) {
+            const std::string number =
+                std::to_string(++_lastNumber.try_emplace(name, 1).first->second);
+            key = name + u" " + std::u16string(number.begin(), number.end());
+        }
+        _list.setColor(color, key);
+    }
+
+private:
+    HostColorList& _list;
+    std::unordered_map<std::u16string, std::size_t> _lastNumber;
+};
+
+}  // namespace vantorel

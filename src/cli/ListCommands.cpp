@@ -1,0 +1,260 @@
+#include "cli/Commands.h"
+#include "cli/Failure.h"
+#include "cli/Json.h"
+#include "cli/ListReader.h"
+#include "cli/ListTexts.h"
+#include "cli/Pictures.h"
+#include "cli/SwatchExchange.h"
+#include "cli/Terminal.h"
+#include "colorlists/PaletteFile.h"
+#include "csscolor/CSSColorWriter.h"
+#include "host/HostText.h"
+#include "view/WheelGeometry.h"
+
+#include <unistd.h>
+
+#include <charconv>
+
+namespace vantorel {
+namespace {
+
+constexpr HostSize usualPicture{640, 480};
+
+std::string utf8Line(const std::u16string& text)
+{
+    return harmlessLine(utf8FromUtf16(text));
+}
+
+std::optional<int> wholeNumber(std::string_view text)
+{
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+HostSize pictureSize(const CommandLine& commandLine)
+{
+    if (!commandLine.size) return usualPicture;
+    const std::string& text = *commandLine.size;
+    const std::size_t parting = std::min(text.find('x'), text.size());
+    const auto width = wholeNumber(std::string_view(text).substr(0, parting));
+    const auto height =
+        wholeNumber(std::string_view(text).substr(std::min(parting + 1, text.size())));
+    const auto fits = [](std::optional<int> length) {
+        return length && *length >= smallestPicture && *length <= largestPicture;
+    };
+    if (!fits(width) || !fits(height)) {
+        throw Failure{"--size is " + quotedText(text),
+                      "it can be from 8x8 to 16384x16384, such as 640x480", usageStatus};
+    }
+    return {static_cast<double>(*width), static_cast<double>(*height)};
+}
+
+int ringCount(Session& session, const CommandLine& commandLine)
+{
+    if (!commandLine.rings) return drawnRingCount(session.settings().nColorCubeRings());
+    const auto rings = wholeNumber(*commandLine.rings);
+    if (!rings || drawnRingCount(*rings) != *rings) {
+        throw Failure{"--rings is " + quotedText(*commandLine.rings),
+                      "it can be a whole number from " + std::to_string(fewestDrawnRings) + " to " +
+                          std::to_string(mostDrawnRings),
+                      usageStatus};
+    }
+    return *rings;
+}
+
+/// A terminal that is sent such bytes may do anything.
+void refuseBytesOnTerminal(const std::string& path)
+{
+    if (path != "-" || !isTerminal(STDOUT_FILENO)) return;
+    throw Failure{"the bytes of this format are nothing for a terminal",
+                  "name a file, or send them into one"};
+}
+
+std::string exportedBytes(const std::shared_ptr<HostColorList>& list, const std::string& format)
+{
+    if (format == "gpl") return paletteText(*list);
+    if (format == "css") return cssText(*list);
+    if (format == "scss") return scssText(*list);
+    if (format == "json") return jsonText(*list);
+    if (format == "ase") return swatchExchangeBytes(*list);
+    if (format == "svg") return paletteSvg(list, usualPicture);
+    return plainText(*list);
+}
+
+bool haveSameColors(const HostColorList& left, const HostColorList& right)
+{
+    // As files hold them.
+    return plainText(left) == plainText(right);
+}
+
+std::shared_ptr<HostColorList> renamed(const HostColorList& list, const std::u16string& name)
+{
+    auto result = std::make_shared<HostColorList>(name);
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i)
+        result->setColor(list.colorAtIndex(i), list.allKeys()[i]);
+    return result;
+}
+
+/// Saves the list of one file, or says why not.
+void importList(Session& session, const CommandLine& commandLine, const std::string& path)
+{
+    const auto bytes = session.files().contentsAtPath(path);
+    if (!bytes) {
+        throw Failure{quotedText(path) + " cannot be read",
+                      "name a file of at most 64 MiB that may be read"};
+    }
+    ColorListReading reading = readColorList(*bytes, path);
+    if (!reading.list) throw Failure{quotedText(path) + ": " + reading.what, reading.right};
+    std::shared_ptr<HostColorList> list = reading.list;
+    if (commandLine.newName) list = renamed(*list, utf16FromUtf8(*commandLine.newName));
+    const std::string name = utf8Line(list->name());
+
+    // Only what would be replaced counts: lists of other programs have places of their own.
+    PaletteFileStore store(session.files());
+    const bool isOwn = store.pathOfOwnList(list->name()).has_value();
+    const auto known = isOwn ? store.colorListNamed(list->name()) : nullptr;
+    const std::string count = std::to_string(list->allKeys().size()) + " colours";
+    if (known && haveSameColors(*known, *list)) {
+        session.output().write("\"" + name + "\" is there already: " + count + "\n");
+        return;
+    }
+    if (isOwn && !commandLine.yes) {
+        if (!canAsk()) {
+            throw Failure{"a list " + quotedText(name) + " with other colours is there",
+                          "\"--yes\" replaces it, \"--name NAME\" gives the new one another name"};
+        }
+        session.output().flush();
+        if (!confirms("Replace the list \"" + name + "\"?")) {
+            throw Failure{quotedText(path) + " is not imported",
+                          "\"--name NAME\" gives it another name"};
+        }
+    }
+    if (!store.writeColorList(list)) {
+        throw Failure{"the list " + quotedText(name) + " cannot be saved",
+                      "the folder of your data must be there and may be written to"};
+    }
+    session.output().write("\"" + name + "\": " + count + " from " + harmlessLine(path) + "\n");
+    if (reading.skipped > 0) {
+        session.output().flush();
+        complain(quotedText(path) + ": " + std::to_string(reading.skipped) +
+                     " lines or entries were left out",
+                 "each holds one colour");
+    }
+}
+
+}  // namespace
+
+int tellLists(Session& session, const CommandLine& commandLine)
+{
+    for (const std::u16string& name : session.lists().names()) {
+        const auto list = session.lists().listNamed(name);
+        // Gone since the look at the folder.
+        if (!list) continue;
+        const auto path = session.lists().pathOfList(name);
+        const std::string count = std::to_string(list->allKeys().size());
+        std::string line;
+        if (commandLine.json) {
+            line = "{";
+            appendJsonKey(line, "name");
+            appendJson(line, name);
+            appendJsonKey(line, "count");
+            line += count;
+            appendJsonKey(line, "place");
+            if (path) {
+                appendJson(line, std::string_view(*path));
+            } else {
+                line += "null";
+            }
+            line += '}';
+        } else {
+            line =
+                count + '\t' + utf8Line(name) + '\t' + (path ? harmlessLine(*path) : "(built in)");
+        }
+        session.output().write(line + '\n');
+    }
+    return 0;
+}
+
+int tellList(Session& session, const CommandLine& commandLine)
+{
+    if (commandLine.operands.empty()) {
+        throw Failure{"there is no NAME",
+                      "\"vantorel lists\" tells the lists, \"vantorel list --help\" "
+                      "what can be done with one",
+                      usageStatus};
+    }
+    const auto list = session.lists().requiredList(commandLine.operands.front());
+    if (commandLine.json) {
+        session.output().write(jsonText(*list));
+        return 0;
+    }
+    const bool swatches = showsSwatches();
+    for (std::size_t i = 0; i < list->allKeys().size(); ++i) {
+        const ByteColor color = byteColorOf(list->colorAtIndex(i));
+        if (swatches) session.output().write(swatchOf(color));
+        session.output().write(utf8FromUtf16(hexText(color.hostColor()).value_or(u"")));
+        session.output().write('\t' + utf8Line(list->allKeys()[i]) + '\n');
+    }
+    return 0;
+}
+
+int importLists(Session& session, const CommandLine& commandLine)
+{
+    if (commandLine.newName && commandLine.operands.size() > 1) {
+        throw Failure{
+            "--name is given for " + std::to_string(commandLine.operands.size()) + " files",
+            "it goes with one FILE", usageStatus};
+    }
+    if (commandLine.newName && commandLine.newName->empty())
+        throw Failure{"--name is empty", "give the list a name", usageStatus};
+    int status = 0;
+    for (const std::string& file : commandLine.operands) {
+        try {
+            importList(session, commandLine, absolutePath(file));
+        } catch (const Failure& failure) {
+            // The files do not depend on each other.
+            session.output().flush();
+            complain(failure.what, failure.right);
+            status = failureStatus;
+        }
+    }
+    return status;
+}
+
+int exportList(Session& session, const CommandLine& commandLine)
+{
+    const auto list = session.lists().requiredList(commandLine.operands.front());
+    const std::string path = commandLine.output.value_or("-");
+    if (commandLine.format == "ase") refuseBytesOnTerminal(path);
+    writeFile(session.output(), path, exportedBytes(list, *commandLine.format));
+    return 0;
+}
+
+int drawWheel(Session& session, const CommandLine& commandLine)
+{
+    const int rings = ringCount(session, commandLine);
+    writeFile(session.output(), *commandLine.svg, wheelSvg(rings, pictureSize(commandLine)));
+    return 0;
+}
+
+int drawPalette(Session& session, const CommandLine& commandLine)
+{
+    if (!commandLine.svg && !commandLine.png)
+        throw Failure{"there is no file to write", "give --svg FILE or --png FILE", usageStatus};
+    const HostSize size = pictureSize(commandLine);
+    const auto list = session.lists().requiredList(commandLine.operands.front());
+    if (commandLine.svg) {
+        writeFile(session.output(), *commandLine.svg, paletteSvg(list, size));
+        return 0;
+    }
+    refuseBytesOnTerminal(*commandLine.png);
+    const std::string png = palettePng(list, size);
+    if (png.empty())
+        throw Failure{"the picture cannot be made", "a smaller --size needs less room"};
+    writeFile(session.output(), *commandLine.png, png);
+    return 0;
+}
+
+}  // namespace vantorel

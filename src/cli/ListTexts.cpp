@@ -1,0 +1,116 @@
+#include "cli/ListTexts.h"
+
+#include "cli/ColorText.h"
+#include "cli/Failure.h"
+#include "cli/Json.h"
+#include "csscolor/CSSColorWriter.h"
+#include "host/HostText.h"
+
+#include <unordered_map>
+
+namespace vantorel {
+namespace {
+
+std::string hexOf(const HostColor& color)
+{
+    // Lists are opaque.
+    const ByteColor bytes = byteColorOf(color);
+    return utf8FromUtf16(hexText(bytes.hostColor().colorWithAlphaComponent(1)).value_or(u""));
+}
+
+std::string lineOf(const std::u16string& name)
+{
+    return harmlessLine(utf8FromUtf16(name));
+}
+
+/// A name that cannot end the comment that it stands in.
+std::string commentOf(const std::u16string& name)
+{
+    std::string text = lineOf(name);
+    for (std::size_t i = text.find("*/"); i != std::string::npos; i = text.find("*/", i))
+        text.replace(i, 2, "* /");
+    return text;
+}
+
+/// Identifiers of CSS out of names, each of its own.
+class Identifiers {
+public:
+    std::string identifierOf(const std::u16string& name)
+    {
+        std::string base;
+        for (const char c : lineOf(name)) {
+            const bool isCapital = c >= 'A' && c <= 'Z';
+            const bool isPlain = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
+                                 static_cast<unsigned char>(c) >= 0x80;
+            if (isCapital) {
+                base += static_cast<char>(c - 'A' + 'a');
+            } else if (isPlain) {
+                base += c;
+            } else if (!base.empty() && base.back() != '-') {
+                base += '-';
+            }
+        }
+        while (base.ends_with('-'))
+            base.pop_back();
+        if (base.empty()) base = "color";
+        // A variable of SCSS cannot begin with a digit.
+        if (base.front() >= '0' && base.front() <= '9') base.insert(0, "color-");
+        std::string identifier = base;
+        while (_taken.contains(identifier))
+            identifier = base + "-" + std::to_string(++_taken[base]);
+        _taken.try_emplace(identifier, 1);
+        return identifier;
+    }
+
+private:
+    std::unordered_map<std::string, int> _taken;
+};
+
+}  // namespace
+
+std::string cssText(const HostColorList& list)
+{
+    std::string text = "/* " + commentOf(list.name()) + " */\n:root {\n";
+    Identifiers identifiers;
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
+        const std::u16string& key = list.allKeys()[i];
+        text += "  --" + identifiers.identifierOf(key) + ": " + hexOf(list.colorAtIndex(i)) +
+                "; /* " + commentOf(key) + " */\n";
+    }
+    return text + "}\n";
+}
+
+std::string scssText(const HostColorList& list)
+{
+    std::string text = "// " + lineOf(list.name()) + "\n";
+    Identifiers identifiers;
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
+        const std::u16string& key = list.allKeys()[i];
+        text += "$" + identifiers.identifierOf(key) + ": " + hexOf(list.colorAtIndex(i)) + "; // " +
+                lineOf(key) + "\n";
+    }
+    return text;
+}
+
+std::string jsonText(const HostColorList& list)
+{
+    std::string json = "{\n  \"name\": ";
+    appendJson(json, list.name());
+    json += ",\n  \"colors\": [";
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
+        json += i == 0 ? "\n    {\"name\": " : ",\n    {\"name\": ";
+        appendJson(json, list.allKeys()[i]);
+        json += ", \"hex\": \"" + hexOf(list.colorAtIndex(i)) + "\"}";
+    }
+    return json + "\n  ]\n}\n";
+}
+
+std::string plainText(const HostColorList& list)
+{
+    std::string text;
+    for (std::size_t i = 0; i < list.allKeys().size(); ++i)
+        text += hexOf(list.colorAtIndex(i)) + '\t' + lineOf(list.allKeys()[i]) + '\n';
+    return text;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,108 @@
+#include "cli/Output.h"
+
+#include "cli/Failure.h"
+#include "hosts/posix/PosixFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstring>
+
+namespace vantorel {
+namespace {
+
+bool writeAll(int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+mode_t usualFileMode()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+/// For pipes and devices, which cannot be replaced.
+bool writeInto(const std::string& path, std::string_view bytes)
+{
+    const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    if (file < 0) return false;
+    const bool written = writeAll(file, bytes);
+    return ::close(file) == 0 && written;
+}
+
+}  // namespace
+
+void Output::write(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        if (_used == _buffer.size()) flush();
+        const std::size_t count = std::min(bytes.size(), _buffer.size() - _used);
+        std::memcpy(_buffer.data() + _used, bytes.data(), count);
+        _used += count;
+        bytes.remove_prefix(count);
+    }
+}
+
+void Output::flush()
+{
+    const std::string_view bytes(_buffer.data(), _used);
+    _used = 0;
+    if (writeAll(STDOUT_FILENO, bytes)) return;
+    if (errno == EPIPE) throw SilentFailure{};
+    throw Failure{std::string("standard output cannot be written (") + std::strerror(errno) + ")",
+                  "give it a file with room or a program that reads"};
+}
+
+void occupyClosedStreams()
+{
+    // Each is opened the wrong way round.
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
+        [[maybe_unused]] const int taken =
+            ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
+std::string absolutePath(const std::string& path)
+{
+    if (path.starts_with('/')) return path;
+    char folder[PATH_MAX];
+    if (::getcwd(folder, sizeof folder) == nullptr) return path;
+    return std::string(folder) + "/" + path;
+}
+
+void writeFile(Output& output, const std::string& path, std::string_view bytes)
+{
+    if (path == "-") {
+        output.write(bytes);
+        return;
+    }
+    struct stat status {};
+    const bool exists = ::stat(path.c_str(), &status) == 0;
+    bool written = false;
+    if (exists && !S_ISREG(status.st_mode)) {
+        written = writeInto(path, bytes);
+    } else {
+        const std::string target = absolutePath(path);
+        written = PosixFiles(std::string("/")).writeAtomically(target, std::string(bytes));
+        // Its usual mode is for what belongs to the user alone.
+        if (written && !exists) ::chmod(target.c_str(), usualFileMode());
+    }
+    if (!written) {
+        throw Failure{quotedText(path) + " cannot be written",
+                      "name a file in a folder that exists and may be written to"};
+    }
+}
+
+}  // namespace vantorel

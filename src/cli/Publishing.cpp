@@ -1,0 +1,173 @@
+#include "cli/Publishing.h"
+
+#include "cli/ReadOnlyFiles.h"
+#include "colorlists/PaletteFile.h"
+#include "colorlists/PaletteFileStore.h"
+#include "colorlists/PalettePlaces.h"
+#include "host/HostText.h"
+#include "plist/PropertyListReader.h"
+#include "plist/PropertyListWriter.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+constexpr const char16_t* publishesKey = u"Publishes";
+constexpr const char16_t* pathKey = u"Path";
+constexpr const char16_t* writtenKey = u"Written";
+constexpr const char16_t* beforeKey = u"Before";
+
+std::optional<std::string> bytesForKey(const PropertyList& dictionary, const char16_t* key)
+{
+    const PropertyList* value = dictionary.valueForKey(key);
+    if (value == nullptr || value->data() == nullptr) return std::nullopt;
+    return *value->data();
+}
+
+PropertyList propertyListOf(const PublishedFile& file)
+{
+    PropertyList dictionary(PropertyList::Dictionary{});
+    dictionary.setValue(PropertyList::data(file.path), pathKey);
+    dictionary.setValue(PropertyList::data(file.written), writtenKey);
+    if (file.before) dictionary.setValue(PropertyList::data(*file.before), beforeKey);
+    return dictionary;
+}
+
+std::optional<PublishedFile> publishedFileOf(const PropertyList& dictionary)
+{
+    auto path = bytesForKey(dictionary, pathKey);
+    auto written = bytesForKey(dictionary, writtenKey);
+    if (!path || !written) return std::nullopt;
+    return PublishedFile{*path, *written, bytesForKey(dictionary, beforeKey)};
+}
+
+/// Whether a link stands at a path; `HostFiles` follows links.
+bool isLink(const std::string& path)
+{
+    char byte = 0;
+    return ::readlink(path.c_str(), &byte, 1) >= 0;
+}
+
+}  // namespace
+
+PublishPlan planPublish(HostFiles& files, const HostColorList& list)
+{
+    // Nothing is published for everybody on the machine, nor into a folder of the user's that only
+    // stands in for one of the machine's.
+    ReadOnlyFiles own(files, ReadOnlyFiles::Places::usersOwn);
+    PalettePlaces places(own, {});
+    places.lookAgain();
+    const std::string bytes = paletteText(list);
+    PublishPlan plan;
+    std::vector<std::string> seenFolders;
+    for (const auto& folder : places.folders()) {
+        const std::string& folderPath = folder->palettes.path();
+        if (files.kindAtPath(folderPath) != HostFileKind::folder) continue;
+        // Versions of a program can share a folder by a link.
+        const std::string identity = files.identityAtPath(folderPath);
+        if (std::find(seenFolders.begin(), seenFolders.end(), identity) != seenFolders.end())
+            continue;
+        seenFolders.push_back(identity);
+        PublishPlan::Target target;
+        target.program = folder->program;
+        target.file.path =
+            folder->palettes.pathOfFile(PaletteFileStore::fileNameOfList(list.name()));
+        target.file.written = bytes;
+        const std::string& path = target.file.path;
+        if (files.kindAtPath(path) != HostFileKind::none) {
+            target.file.before = files.contentsAtPath(path);
+            target.isBlocked = !target.file.before;
+        } else {
+            // Behind a link that leads nowhere a file would come up in a strange place.
+            target.isBlocked = isLink(path);
+        }
+        target.isAsWanted = target.file.before == bytes;
+        plan.targets.push_back(std::move(target));
+    }
+    return plan;
+}
+
+PublishRecords::PublishRecords(HostFiles& files, const std::u16string& listName) : _files(files)
+{
+    const auto dataHome = files.baseDirectories().dataHome;
+    if (!dataHome) return;
+    _path =
+        *dataHome + "/Vantorel/Published/" + PaletteFileStore::fileNameOfList(listName) + ".plist";
+    const auto bytes = files.contentsAtPath(*_path);
+    if (!bytes) return;
+    const auto record = parsePropertyList(utf16FromUtf8(*bytes));
+    const PropertyList* publishes = record ? record->valueForKey(publishesKey) : nullptr;
+    if (publishes == nullptr || publishes->array() == nullptr) return;
+    for (const PropertyList& element : *publishes->array()) {
+        if (element.array() == nullptr) continue;
+        Publish publish;
+        for (const PropertyList& file : *element.array()) {
+            if (auto published = publishedFileOf(file)) publish.push_back(std::move(*published));
+        }
+        if (!publish.empty()) _publishes.push_back(std::move(publish));
+    }
+}
+
+std::optional<PublishRecords::Publish> PublishRecords::latest() const
+{
+    if (_publishes.empty()) return std::nullopt;
+    return _publishes.back();
+}
+
+bool PublishRecords::add(const Publish& publish)
+{
+    _publishes.push_back(publish);
+    if (_publishes.size() > mostKept) _publishes.erase(_publishes.begin());
+    return save();
+}
+
+bool PublishRecords::replaceLatest(const Publish& publish)
+{
+    if (_publishes.empty()) return false;
+    if (publish.empty()) {
+        _publishes.pop_back();
+    } else {
+        _publishes.back() = publish;
+    }
+    return save();
+}
+
+bool PublishRecords::save() const
+{
+    const auto support = _files.applicationSupportDirectory();
+    if (!_path || !support) return false;
+    if (_publishes.empty()) return ::unlink(_path->c_str()) == 0;
+    for (const std::string& folder : {*support + "/Vantorel", *support + "/Vantorel/Published"}) {
+        if (_files.kindAtPath(folder) == HostFileKind::none) _files.createDirectory(folder);
+    }
+    PropertyList::Array publishes;
+    for (const Publish& publish : _publishes) {
+        PropertyList::Array entries;
+        for (const PublishedFile& file : publish)
+            entries.push_back(propertyListOf(file));
+        publishes.emplace_back(std::move(entries));
+    }
+    PropertyList record(PropertyList::Dictionary{});
+    record.setValue(PropertyList(std::move(publishes)), publishesKey);
+    return _files.writeAtomically(*_path, utf8FromUtf16(propertyListText(record)));
+}
+
+TakenBack takeBack(HostFiles& files, const PublishedFile& file)
+{
+    if (files.kindAtPath(file.path) == HostFileKind::none) {
+        return file.before ? TakenBack::changedSince : TakenBack::nothingToDo;
+    }
+    const auto now = files.contentsAtPath(file.path);
+    if (now && now == file.before) return TakenBack::nothingToDo;
+    if (now != file.written) return TakenBack::changedSince;
+    if (file.before) {
+        return files.writeAtomically(file.path, *file.before) ? TakenBack::restored
+                                                              : TakenBack::failed;
+    }
+    return ::unlink(file.path.c_str()) == 0 ? TakenBack::removed : TakenBack::failed;
+}
+
+}  // namespace vantorel

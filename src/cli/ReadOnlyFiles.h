@@ -1,0 +1,62 @@
+#pragma once
+
+#include "host/HostFiles.h"
+
+namespace vantorel {
+
+/// The files of a host, of which nothing is made or changed, not even the folder of the user's
+/// data: a command that tells something leaves no trace.
+class ReadOnlyFiles final : public HostFiles {
+public:
+    /// Base directories that are told: all, or only those of the user.
+    enum class Places { all, usersOwn };
+
+    /// `files` must outlive this object.
+    explicit ReadOnlyFiles(const HostFiles& files, Places places = Places::all)
+        : _files(files), _places(places)
+    {
+    }
+
+    [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override
+    {
+        return _files.baseDirectories().dataHome;
+    }
+    [[nodiscard]] HostBaseDirectories baseDirectories() const override
+    {
+        HostBaseDirectories directories = _files.baseDirectories();
+        if (_places == Places::usersOwn) {
+            directories.configDirectories.clear();
+            directories.dataDirectories.clear();
+        }
+        return directories;
+    }
+    [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override
+    {
+        return _files.kindAtPath(path);
+    }
+    [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override
+    {
+        return _files.versionAtPath(path);
+    }
+    [[nodiscard]] std::string identityAtPath(const std::string& path) const override
+    {
+        return _files.identityAtPath(path);
+    }
+    bool createDirectory(const std::string&) override { return false; }
+    [[nodiscard]] std::vector<std::string> contentsOfDirectory(
+        const std::string& path) const override
+    {
+        return _files.contentsOfDirectory(path);
+    }
+    [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override
+    {
+        return _files.contentsAtPath(path);
+    }
+    bool writeAtomically(const std::string&, const std::string&) override { return false; }
+
+private:
+    const HostFiles& _files;
+    Places _places;
+};
+
+}  // namespace vantorel

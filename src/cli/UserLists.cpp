@@ -1,0 +1,96 @@
+#include "cli/UserLists.h"
+
+#include "cli/Failure.h"
+#include "colorlists/QTXHexColorLists.h"
+#include "host/HostText.h"
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+bool isBuiltIn(const std::u16string& name)
+{
+    const auto& names = allHexColorListNames();
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// Has no lists and saves none, so that built-in lists are built.
+class EmptyStore final : public HostColorListStore {
+public:
+    [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(const std::u16string&) override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] std::vector<std::u16string> availableColorLists() override { return {}; }
+    bool writeColorList(const std::shared_ptr<HostColorList>&) override { return false; }
+};
+
+std::shared_ptr<HostColorList> builtInList(const std::u16string& name)
+{
+    EmptyStore store;
+    const int token = hexColorListFromString(name);
+    if (token == hexColorListFromString(u"Browser Safe")) {
+        buildWebSafeList(store);
+    } else if (token == hexColorListFromString(u"SVG Keyword")) {
+        buildSVGKeywordList(store);
+    } else {
+        buildCSSKeywordList(store);
+    }
+    return hexColorListWithToken(token);
+}
+
+}  // namespace
+
+/// Whether the user's own folder has a list. Other programs' folders are not looked at: a list of
+/// theirs does not take the place of a built-in one.
+bool UserLists::isSaved(const std::u16string& name)
+{
+    const auto path = _store.pathOfOwnList(name);
+    return path.has_value();
+}
+
+std::shared_ptr<HostColorList> UserLists::listNamed(const std::u16string& name)
+{
+    if (isBuiltIn(name) && !isSaved(name)) return builtInList(name);
+    return _store.colorListNamed(name);
+}
+
+std::shared_ptr<HostColorList> UserLists::requiredList(const std::string& utf8Name)
+{
+    const std::u16string name = utf16FromUtf8(utf8Name);
+    auto list = listNamed(name);
+    if (!list) {
+        throw Failure{"there is no colour list " + quotedText(utf8Name),
+                      "\"vantorel lists\" tells which there are"};
+    }
+    return list;
+}
+
+std::vector<std::u16string> UserLists::names()
+{
+    std::vector<std::u16string> names = _store.availableColorLists();
+    for (const std::u16string& name : allHexColorListNames()) {
+        const auto place = std::lower_bound(names.begin(), names.end(), name);
+        if (place == names.end() || *place != name) names.insert(place, name);
+    }
+    return names;
+}
+
+std::optional<std::string> UserLists::pathOfList(const std::u16string& name)
+{
+    if (isBuiltIn(name)) return _store.pathOfOwnList(name);
+    return _store.pathOfList(name);
+}
+
+std::u16string ColorNamer::title(const ColorNameMatch& match) const
+{
+    if (match.exactPlace) return _list->allKeys()[*match.exactPlace];
+    std::vector<std::u16string> keys;
+    keys.reserve(match.closePlaces.size());
+    for (const std::size_t place : match.closePlaces)
+        keys.push_back(_list->allKeys()[place]);
+    return closeTitle(keys);
+}
+
+}  // namespace vantorel
