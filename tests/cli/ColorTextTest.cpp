@@ -1,0 +1,65 @@
+#include "cli/ColorText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace vantorel;
+
+std::string codeOf(const std::optional<ByteColor>& color)
+{
+    if (!color) return "none";
+    char text[8];
+    std::snprintf(text, sizeof text, "%02x%02x%02x", unsigned{color->red}, unsigned{color->green},
+                  unsigned{color->blue});
+    return text;
+}
+
+TEST(ColorTextTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
+{
+    ColorTextReader reader([] { return nullptr; });
+    // A blank goes the slow way, to the same end.
+    for (std::uint32_t value = 0; value < 0x1000000; value += 4099) {
+        char text[16];
+        std::snprintf(text, sizeof text, "#%06X", value);
+        const auto fast = readPlainHex(text);
+        ASSERT_TRUE(fast) << text;
+        EXPECT_EQ(codeOf(fast), codeOf(reader.read(std::string(" ") + text).color)) << text;
+    }
+    for (const char* text : {"", "#", "#1", "12", "1234", "#12345", "#1234567", "12345678",
+                             "#12345g", "##1234", "#12 456", "ggg", "\xFF\xFF\xFF"})
+        EXPECT_FALSE(readPlainHex(text)) << text;
+}
+
+TEST(ColorTextTest, ChannelsAreRoundedAsBrowsersDo)
+{
+    const auto codeOfChannel = [](double channel) {
+        return int{byteColorOf(HostColor::colorWithCalibratedRed(channel, 0, 0, 1)).red};
+    };
+    EXPECT_EQ(codeOfChannel(127.49 / 255), 127);
+    EXPECT_EQ(codeOfChannel(127.51 / 255), 128);
+    EXPECT_EQ(codeOfChannel(-1), 0);
+    EXPECT_EQ(codeOfChannel(7), 255);
+    EXPECT_EQ(codeOfChannel(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(byteColorOf(HostColor::colorWithCalibratedRed(0, 0, 0, -3)).alpha, 0);
+}
+
+TEST(ColorTextTest, AListIsAskedForOnceAndOnlyForItsNames)
+{
+    int asked = 0;
+    const auto list = std::make_shared<HostColorList>(u"List");
+    list->setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 1), u"orange");
+    list->setColor(HostColor::colorWithCalibratedRed(0, 1, 0, 1), u"Moss rgb(1,2,3)");
+    ColorTextReader reader([&] {
+        ++asked;
+        return list;
+    });
+    EXPECT_EQ(codeOf(reader.read("orange").color), "ffa500");
+    EXPECT_EQ(codeOf(reader.read("#123").color), "112233");
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(codeOf(reader.read("moss RGB(1,2,3)").color), "00ff00");
+    EXPECT_EQ(codeOf(reader.read("nothing").color), "none");
+    EXPECT_EQ(asked, 1);
+}
+
+}  // namespace

@@ -1,0 +1,65 @@
+#include "cli/ListReader.h"
+#include "cli/ListTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace vantorel;
+
+std::shared_ptr<HostColorList> listWithName(const std::u16string& name)
+{
+    auto list = std::make_shared<HostColorList>(u"List");
+    list->setColor(HostColor::blackColor(), u"first");
+    list->setColor(HostColor::colorWithCalibratedRed(1 / 255.0, 2 / 255.0, 3 / 255.0, 1), name);
+    list->setColor(HostColor::whiteColor(), u"last");
+    return list;
+}
+
+using Row = std::pair<const char*, std::string (*)(const HostColorList&)>;
+constexpr Row formats[] = {
+    {"x.css", cssText}, {"x.scss", scssText}, {"x.json", jsonText}, {"x.txt", plainText}};
+
+TEST(ListFormatsTest, NamesThatLookLikeTheFormatComeBack)
+{
+    for (const char16_t* name :
+         {u"a",    u"a;b",    u"}",          u"{", u"--x: red;", u"$x: red;", u"// y",
+          u"/* z", u"\"",     u"\\",         u"'", u"#ff0000",   u"a\tb",     u"]",
+          u":",    u"\u00e9", u"\U0001F3A8", u"*", u"/",         u"\uFFFF"}) {
+        const auto list = listWithName(name);
+        for (const auto& [file, write] : formats) {
+            const auto reading = readColorList(write(*list), file);
+            ASSERT_TRUE(reading.list) << file;
+            ASSERT_EQ(reading.list->allKeys().size(), 3U) << file;
+            // A tab is a control character, so it has become a blank; JSON can hold it.
+            const bool isChanged = std::u16string(name) == u"a\tb" && std::string(file) != "x.json";
+            EXPECT_EQ(reading.list->allKeys()[1], isChanged ? u"a b" : name) << file;
+            EXPECT_EQ(reading.list->colorAtIndex(1), list->colorAtIndex(1)) << file;
+            EXPECT_EQ(reading.skipped, 0U) << file;
+        }
+    }
+}
+
+TEST(ListFormatsTest, IdentifiersAreEachOfTheirOwn)
+{
+    HostColorList list(u"L");
+    for (const char16_t* key :
+         {u"A b", u"a-b", u"a b!", u"a-b-2", u"2", u"color-2", u"!", u"color"})
+        list.setColor(HostColor::blackColor(), key);
+    const std::string text = scssText(list);
+    for (const char* line : {"\n$a-b: ", "\n$a-b-2: ", "\n$a-b-3: ", "\n$a-b-2-2: ", "\n$color-2: ",
+                             "\n$color-2-2: ", "\n$color: ", "\n$color-3: "})
+        EXPECT_NE(text.find(line), std::string::npos) << line << text;
+}
+
+TEST(ListFormatsTest, WhatIsNoColourIsCounted)
+{
+    const auto css = readColorList(":root { --a: red; --b: 12px; --c: var(--a); }", "x.css");
+    ASSERT_TRUE(css.list);
+    EXPECT_EQ(css.list->allKeys().size(), 1U);
+    EXPECT_EQ(css.skipped, 2U);
+    EXPECT_EQ(css.list->name(), u"x");
+    EXPECT_EQ(readColorList("red\nredd\n", "/a/b.c/names").list->name(), u"names");
+}
+
+}  // namespace

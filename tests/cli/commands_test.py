@@ -1,0 +1,294 @@
+#!/usr/bin/env python3
+"""Every command and option: what it writes, and how it refuses what is wrong.
+
+    commands_test.py PROGRAM
+"""
+import json
+import re
+import unittest
+
+from program import PROGRAM, ProgramTest, os, shutil, subprocess, sys
+
+SETTINGS = """{
+    EntryForm = Lowercase;
+    UsePoundSign = NO;
+    HexColorLlst = "SVG Keyword";
+    NColorCubeRings = 3;
+    CodeSnippets = ({NameSnippet = "Mine"; FormatSnippet = "mine(%d, %d, %d)"; VarsSnippet = rgbFixed;});
+}
+"""
+
+# Arguments, standard input, what standard output is (or, as a pattern, holds).
+EXAMPLES = [
+    (["show", "#ff8000"], "", re.compile(r"\Ahex: #FF8000\nrgb: rgb\(255, 128, 0\)\nhsl: hsl\(30.12 100% 50%\)\n")),
+    (["show", "red"], "", re.compile(r"components:\n  Hex: FF 00 00\n  Integer: 255 0 0\n  Fraction: 1.000 0.000 0.000\n")),
+    (["show", "red"], "", re.compile(r"name \(CSS Keyword\): red\n")),
+    (["show", "red"], "", re.compile(r"\nsnippets:\n  ObjC fraction: .*\n(  .*\n){10}  VBasic: RGB\(255, 0, 0\)\n\Z")),
+    (["show", "#0008"], "", re.compile(r"\Ahex: #00000088\nrgb: rgba\(0, 0, 0, 0.533\)\n")),
+    (["show", "red", "blue"], "", re.compile(r"VBasic: RGB\(255, 0, 0\)\n\nhex: #0000FF\n")),
+    (["show", "--list", "SVG Keyword", "salmon"], "", re.compile(r"name \(SVG Keyword\): salmon\n")),
+    (["show", "--snippet", "VBasic", "#ff8000"], "", "RGB(255, 128, 0)\n"),
+    (["show", "--snippet=Java NSInteger A", "rgb(255 128 0 / 50%)"], "", "Color(0x7fff8000)\n"),
+    (["show", "--lowercase", "#FF8000"], "", re.compile(r"\Ahex: #ff8000\n")),
+    (["show", "--uppercase", "#ff8000"], "", re.compile(r"\Ahex: #FF8000\n")),
+    (["show", "--no-pound-sign", "#ff8000"], "", re.compile(r"\Ahex: FF8000\n")),
+    (["show", "--pound-sign", "#ff8000"], "", re.compile(r"\Ahex: #FF8000\n")),
+    (["show", "--json", "#ff8000"], "", re.compile(r'\A\{"hex":"#FF8000","rgb":"rgb\(255, 128, 0\)",.*\}\n\Z')),
+    (["show"], "#ff8000\n\n  \nf80\r\nrgb(1,2,3)\norange", "#FF8000\trgb(255, 128, 0)\n#FF8800\trgb(255, 136, 0)\n"
+     "#010203\trgb(1, 2, 3)\n#FFA500\trgb(255, 165, 0)\n"),
+    (["show", "-"], "#12345680\n", "#12345680\trgba(18, 52, 86, 0.502)\n"),
+    (["show", "--lowercase", "--no-pound-sign"], "#AB0\n", "aabb00\trgb(170, 187, 0)\n"),
+    (["show", "--list", "CSS Keyword"], "red\n#fe0000\n#123\n", "#FF0000\trgb(255, 0, 0)\tred\n"
+     "#FE0000\trgb(254, 0, 0)\t* red\n#112233\trgb(17, 34, 51)\tNo Match\n"),
+    (["show", "--snippet", "VBasic"], "#010203\n", "RGB(1, 2, 3)\n"),
+    (["show"], "", ""),
+    (["name", "red", "#fe0101", "#123"], "", "red\n* red\nNo Match\n"),
+    (["name", "--list", "SVG Keyword", "#ffa500"], "", "orange\n"),
+    (["name"], "#ff0000\n#00f\n", "red\nblue\n"),
+    (["name", "--json", "#fe0101"], "", '{"list":"CSS Keyword","exact":null,"close":["red"]}\n'),
+    (["lists"], "", "216\tBrowser Safe\t(built in)\n17\tCSS Keyword\t(built in)\n146\tSVG Keyword\t(built in)\n"),
+    (["lists", "--json"], "", re.compile(r'\{"name":"CSS Keyword","count":17,"place":null\}\n')),
+    (["list", "CSS Keyword"], "", re.compile(r"\A#800000\tmaroon\n(#[0-9a-f]{6}\t[a-z]+\n){16}\Z")),
+    (["list", "--json", "CSS Keyword"], "", re.compile(r'\A\{\n  "name": "CSS Keyword",\n')),
+    (["list", "export", "--format", "txt", "CSS Keyword"], "", re.compile(r"\A#800000\tmaroon\n")),
+    (["list", "export", "CSS Keyword", "--format", "css", "--output", "-"], "", re.compile(r":root \{\n  --maroon: #800000; /\* maroon \*/\n")),
+    (["snippets"], "", re.compile(r"\AObjC fraction\trgbaFloats\t\[NSColor (.*\n){12}\Z")),
+    (["snippets", "--json"], "", re.compile(r'\{"name":"VBasic","format":"RGB\(%d, %d, %d\)","variables":"rgbFixed"\}\n\Z')),
+    (["contrast", "white", "#767676"], "", "ratio: 4.54\nnormal text AA: passes\nnormal text AAA: fails\n"
+     "large text AA: passes\nlarge text AAA: passes\ncomponents AA: passes\n"),
+    (["contrast", "white", "#777777"], "", re.compile(r"\Aratio: 4.47\nnormal text AA: fails\n")),
+    (["contrast", "--json", "black", "white"], "", re.compile(r'\A\{"ratio":21.00,"normal text AA":true,')),
+    (["wheel", "--rings", "2", "--svg", "-"], "", re.compile(r"\A<\?xml (.*\n){5}(<path .*/>\n){24}</g>\n</svg>\n\Z")),
+    (["wheel", "--svg", "-", "--size", "100x50"], "", re.compile(r'width="100" height="50"')),
+    (["palette", "CSS Keyword", "--svg", "-"], "", re.compile(r"(<rect x=.*</rect>\n){17}")),
+    (["completions", "bash"], "", re.compile(r"complete .*vantorel\n\Z")),
+    (["completions", "zsh"], "", re.compile(r"\A#compdef vantorel\n")),
+    (["completions", "fish"], "", re.compile(r"complete -c vantorel -f\n")),
+    (["manpage"], "", re.compile(r"\A\.TH VANTOREL 1 ")),
+    (["--version"], "", re.compile(r"\Avantorel \d+\.\d+\.\d+\n\Z")),
+    (["--help"], "", re.compile(r"\AUsage: vantorel COMMAND")),
+    (["-h"], "", re.compile(r"\AUsage: vantorel COMMAND")),
+]
+
+# Options that other tests or test files try.
+TRIED_ELSEWHERE = {"list import": {"--name", "--yes"}, "list publish": {"--yes", "--undo"},
+                   "palette": {"--png", "--size"}, "pick": {"--copy"}, "list export": {"--output"}}
+
+USAGE_ERRORS = [
+    ([], "there is no command"),
+    (["shw"], '"shw" is no command'),
+    (["--foo"], '"--foo"'),
+    (["show", "--foo", "red"], '"--foo" does not belong to "vantorel show"'),
+    (["show", "--list"], "--list has no value"),
+    (["list", "x", "import", "y"], '"x" stands before the command'),
+    (["list", "--json", "import", "y"], "--json stands before the command"),
+    (["show", "red", "--version"], '"--version" does not belong to "vantorel show"'),
+    (["show", "--lowercase", "--uppercase", "red"], "--lowercase"),
+    (["show", "--pound-sign", "--no-pound-sign", "red"], "--pound-sign"),
+    (["lists", "more"], '"more" is one argument too many'),
+    (["list"], "there is no NAME"),
+    (["list", "a", "b"], '"b" is one argument too many'),
+    (["list", "import"], "there is no FILE"),
+    (["list", "import", "--name", "x", "a", "b"], "--name is given for 2 files"),
+    (["list", "import", "--name", "", "a"], "--name is empty"),
+    (["list", "export", "x"], "--format is required"),
+    (["list", "export", "--format", "css"], "there is no NAME"),
+    (["list", "export", "x", "--format", "pdf"], '--format is "pdf": it can be gpl, css, scss, json, ase, svg or txt'),
+    (["list", "publish"], "there is no NAME"),
+    (["contrast", "red"], "there is no COLOR"),
+    (["contrast", "red", "red", "red"], '"red" is one argument too many'),
+    (["wheel"], "--svg is required"),
+    (["wheel", "--svg", "-", "--rings", "1"], '--rings is "1": it can be a whole number from 2 to 128'),
+    (["wheel", "--svg", "-", "--rings", "129"], "--rings"),
+    (["wheel", "--svg", "-", "--rings", "8.5"], "--rings"),
+    (["wheel", "--svg", "-", "--size", "7x100"], '--size is "7x100"'),
+    (["wheel", "--svg", "-", "--size", "100"], "--size"),
+    (["wheel", "--svg", "-", "--size", "100x"], "--size"),
+    (["wheel", "--svg", "-", "--size", "16385x8"], "--size"),
+    (["palette", "CSS Keyword"], "give --svg FILE or --png FILE"),
+    (["palette", "CSS Keyword", "--svg", "-", "--png", "-"], "--svg"),
+    (["completions", "tcsh"], 'SHELL is "tcsh": it can be bash, zsh or fish'),
+    (["completions"], "there is no SHELL"),
+    (["manpage", "x"], '"x" is one argument too many'),
+    (["pick", "x"], '"x" is one argument too many'),
+]
+
+ERRORS = [
+    (["show", "nope"], '"nope" is no colour name of CSS: write a colour'),
+    (["show", ""], "no colour"),
+    (["show", "[red,blue]"], '"[" is no colour'),
+    (["show", "red", "--list", "Nope"], 'there is no colour list "Nope"'),
+    (["show", "red", "--snippet", "Nope"], 'there is no snippet "Nope"'),
+    (["name", "red", "--list", ""], 'there is no colour list ""'),
+    (["list", "Nope"], 'there is no colour list "Nope"'),
+    (["list", "--", "import"], 'there is no colour list "import"'),
+    (["list", "export", "Nope", "--format", "css"], 'there is no colour list "Nope"'),
+    (["list", "export", "CSS Keyword", "--format", "css", "--output", "/nowhere/x.css"], '"/nowhere/x.css" cannot be written'),
+    (["list", "publish", "Nope"], 'there is no colour list "Nope"'),
+    (["list", "publish", "CSS Keyword"], "no graphics program has a folder"),
+    (["list", "publish", "--undo", "CSS Keyword"], "has not been published"),
+    (["list", "import", "/nowhere/x.gpl"], '"/nowhere/x.gpl" cannot be read'),
+    (["list", "import", "/"], '"/" cannot be read'),
+    (["contrast", "red", "nope"], '"nope" is no colour name'),
+    (["palette", "Nope", "--svg", "-"], 'there is no colour list "Nope"'),
+    (["wheel", "--svg", "/nowhere/x.svg"], "cannot be written"),
+]
+
+PICKERS_TEXTS = [
+    ("ff8000", "FF8000"), ("#ff8000", "FF8000"), ("f80", "FF8800"), ("#f80", "FF8800"), ("a", "AAAAAA"),
+    ("#a", "AAAAAA"), ("RGB(255, 128, 0);", "FF8000"), ("rgb(255, 128, 0", "FF8000"),
+    ("orange: rgb(255, 165, 0);", "FFA500"), ("Rgb(1 2,3) and more", "010203"),
+    (" #ff8000 ", "FF8000"), ("hsl(30 100% 50%)", "FF8000"), ("hwb(30 0% 0%)", "FF8000"), ("rgb(50% 50% 50%)", "808080"),
+    ("oklch(73.189% 0.1858 52.985)", "FF8000"), ("color(display-p3 0 1 0)", "00FB29"), ("REBECCAPURPLE", "663399"),
+    ("lab(50% 0 0)", "777777"), ("transparent", "00000000"), ("#12345678", "12345678"),
+]
+
+
+class Commands(ProgramTest):
+    def test_examples_give_what_they_say(self):
+        for arguments, stdin, expected in EXAMPLES:
+            with self.subTest(arguments=arguments, stdin=stdin):
+                told = self.told(*arguments, stdin=stdin)
+                if isinstance(expected, str):
+                    self.assertEqual(told, expected)
+                else:
+                    self.assertRegex(told, expected)
+
+    def test_telling_leaves_no_trace(self):
+        for arguments, stdin, _ in EXAMPLES:
+            self.run_program(*arguments, stdin=stdin)
+        self.assertEqual(self.files_at_home(), [])
+
+    def test_wrong_command_lines_end_with_2(self):
+        for arguments, message in USAGE_ERRORS:
+            with self.subTest(arguments=arguments):
+                self.assertIn(message, self.refusal(2, *arguments))
+
+    def test_failures_end_with_1(self):
+        for arguments, message in ERRORS:
+            with self.subTest(arguments=arguments):
+                self.assertIn(message, self.refusal(1, *arguments))
+
+    def test_the_texts_of_the_picker_are_read(self):
+        for text, code in PICKERS_TEXTS:
+            with self.subTest(text=text):
+                self.assertEqual(self.told("show", "--json", "--no-pound-sign", "--", text).split('"')[3], code)
+
+    def test_each_colour_is_shown_though_another_is_none(self):
+        run = self.run_program("show", "--snippet", "VBasic", "red", "nope", "blue")
+        self.assertEqual((run.returncode, run.stdout), (1, b"RGB(255, 0, 0)\nRGB(0, 0, 255)\n"))
+        self.assertEqual(run.stderr.count(b"\n"), 1)
+
+    def test_json_holds_everything(self):
+        report = json.loads(self.told("show", "--json", "color(display-p3 0 1 0 / 0.25)"))
+        self.assertEqual(report["hex"], "#00FB2940")
+        self.assertEqual((report["red"], report["green"], report["blue"], report["alpha"]), (0, 251, 41, 0.25))
+        self.assertIs(report["outsideSRGB"], True)
+        self.assertEqual(report["components"], {"Hex": ["00", "FB", "29"], "Integer": ["0", "251", "41"],
+                                                "Fraction": ["0.000", "0.984", "0.161"]})
+        self.assertEqual([snippet["name"] for snippet in report["snippets"]][-1], "VBasic")
+
+    def test_settings_are_followed(self):
+        self.write_settings(SETTINGS)
+        self.assertEqual(self.told("show", "#FFA500"), "hex: ffa500\nrgb: rgb(255, 165, 0)\nhsl: hsl(38.82 100% 50%)\n"
+                         "oklch: oklch(79.269% 0.17103 70.67)\ncomponents:\n  Hex: ff a5 00\n  Integer: 255 165 0\n"
+                         "  Fraction: 1.000 0.647 0.000\nname (SVG Keyword): orange\nsnippets:\n  Mine: mine(255, 165, 0)\n")
+        self.assertEqual(self.told("name", "orange"), "orange\n")
+        self.assertEqual(self.told("snippets"), "Mine\trgbFixed\tmine(%d, %d, %d)\n")
+        self.assertEqual(self.told("show", stdin="#FFA500\n"), "ffa500\trgb(255, 165, 0)\n")
+        self.assertEqual(self.told("show", "--uppercase", "--pound-sign", stdin="#ffa500\n"), "#FFA500\trgb(255, 165, 0)\n")
+        self.assertEqual(self.told("wheel", "--svg", "-").count("<path"), 6 * 9)
+
+    def test_damaged_settings_are_the_usual_ones_and_stay(self):
+        for damage in (b"{ EntryForm = ", b"\xff\x00\xfe", b""):
+            path = self.write_settings(damage)
+            self.assertTrue(self.told("show", "#f80").startswith("hex: #FF8800\n"))
+            self.assertEqual(self.read(path), damage)
+
+    def test_names_of_the_users_lists_are_colours(self):
+        self.write_list("Mine", ["255 128 0\tPumpkin Pie", "1 2 3\tink"])
+        self.write_settings("{HexColorLlst = Mine;}")
+        self.assertEqual(self.told("show", "--snippet", "VBasic", "Pumpkin Pie", "pumpkin pie", "INK"),
+                         "RGB(255, 128, 0)\nRGB(255, 128, 0)\nRGB(1, 2, 3)\n")
+        self.assertEqual(self.told("name", "#ff8000"), "Pumpkin Pie\n")
+
+    def test_a_naming_list_that_is_missing_is_no_failure(self):
+        self.write_settings("{HexColorLlst = Gone;}")
+        self.assertNotIn("name", self.told("show", "red"))
+        self.assertIn("no colour list to name colours by", self.refusal(1, "name", "red"))
+
+    def test_every_option_in_help_is_tried(self):
+        commands = re.findall(r"^  ([a-z]+)  ", self.told("--help"), re.M)
+        self.assertEqual(len(commands), 13)
+        for command in commands + ["list import", "list export", "list publish"]:
+            if command == "panel":
+                continue
+            text = self.told(*command.split(), "--help")
+            self.assertTrue(text.startswith(f"Usage: vantorel {command}"), text)
+            self.assertLessEqual(max(map(len, text.splitlines())), 79)
+            options = set(re.findall(r"^  (?:-h, )?(--[a-z-]+)", text, re.M)) - {"--help"}
+            tried = {argument.split("=")[0] for arguments, _, _ in EXAMPLES
+                     if arguments[:len(command.split())] == command.split() for argument in arguments}
+            self.assertEqual(options - tried - TRIED_ELSEWHERE.get(command, set()), set(), command)
+
+    def test_names_cannot_command_a_terminal(self):
+        self.write_list("Evil\x1b[2J", ["255 0 0\tred\x1b]0;x\x07\u009b1m"], "evil.gpl")
+        for arguments in (["lists"], ["list", "Evil\x1b[2J"], ["name", "red", "--list", "Evil\x1b[2J"],
+                          ["show", "red", "--list", "Evil\x1b[2J"]):
+            told = self.told(*arguments)
+            self.assertNotRegex(told, "[\x00-\x08\x0b-\x1f\x7f-\x9f]", arguments)
+        self.assertNotIn("\x1b", self.refusal(1, "list", "\x1b[2J"))
+
+
+class Panel(ProgramTest):
+    SCRIPT = '#!/bin/sh\nprintf "%s\\n" "$@"\nexit 7\n'
+
+    def setUp(self):
+        super().setUp()
+        self.bin = os.path.join(self.root, "bin")
+        self.other = os.path.join(self.root, "other")
+        os.mkdir(self.bin)
+        os.mkdir(self.other)
+        self.copy = os.path.join(self.bin, "vantorel")
+        shutil.copy(PROGRAM, self.copy)
+        self.environment["PATH"] = self.other + ":/usr/bin:/bin"
+
+    def run_copy(self, *arguments):
+        run = subprocess.run([self.copy, *arguments], capture_output=True, env=self.environment, timeout=60)
+        return run.returncode, run.stdout.decode(), run.stderr.decode()
+
+    def put_panel(self, folder, script=SCRIPT):
+        os.chmod(self.write(os.path.join(folder, "vantorel-panel"), script), 0o755)
+
+    def test_arguments_output_and_status_are_handed_on(self):
+        self.put_panel(self.bin)
+        for arguments, handed_on in [(["pick"], "--pick\n"), (["pick", "--copy"], "--pick-and-copy\n"), (["choose"], "--choose\n"),
+                                     (["choose", "rgb(255 128 0 / 50%)"], "--choose\n--color\n#ff800080\n"),
+                                     (["panel"], "\n"), (["panel", "--size", "1x2", "--help", "--"], "--size\n1x2\n--help\n--\n")]:
+            with self.subTest(arguments=arguments):
+                self.assertEqual(self.run_copy(*arguments), (7, handed_on, ""))
+
+    def test_the_panel_beside_the_program_comes_before_that_in_path(self):
+        self.put_panel(self.bin, "#!/bin/sh\necho beside\n")
+        self.put_panel(self.other, "#!/bin/sh\necho path\n")
+        self.assertEqual(self.run_copy("panel"), (0, "beside\n", ""))
+        os.remove(os.path.join(self.bin, "vantorel-panel"))
+        self.assertEqual(self.run_copy("panel"), (0, "path\n", ""))
+
+    def test_a_missing_panel_is_told(self):
+        os.mkdir(os.path.join(self.bin, "vantorel-panel"))
+        self.write(os.path.join(self.other, "vantorel-panel"), "not executable")
+        for arguments in (["pick"], ["choose", "red"], ["panel", "--help"]):
+            status, told, message = self.run_copy(*arguments)
+            self.assertEqual((status, told), (1, ""))
+            self.assertEqual(message, "vantorel: the program vantorel-panel is missing: install it beside vantorel or in "
+                                      "a folder of PATH\n")
+
+    def test_a_panel_that_cannot_be_run_is_told(self):
+        self.put_panel(self.bin, "#!/nowhere\n")
+        self.assertEqual(self.run_copy("panel")[0], 1)
+        self.assertIn("cannot be run", self.run_copy("panel")[2])
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,172 @@
+#!/usr/bin/env python3
+"""Input and surroundings that nobody wants.
+
+    hostile_test.py PROGRAM
+"""
+import contextlib
+import random
+import resource
+import signal
+import subprocess
+import unittest
+
+from program import PROGRAM, ProgramTest, os, sys
+
+LONGEST_LINE = 65536
+
+
+class Hostile(ProgramTest):
+    def test_a_line_that_is_too_long_is_passed_over(self):
+        for longer in (1, 300000, 2000000):
+            for ending in ("\n#010203\n", ""):
+                with self.subTest(longer=longer, ending=ending):
+                    run = self.run_program("show", stdin="red\n" + " " * (LONGEST_LINE + longer) + ending)
+                    self.assertEqual(run.stderr, b"vantorel: standard input, line 2: the line is longer than 64 KiB: "
+                                                 b"give one colour a line\n")
+                    self.assertEqual((run.returncode, run.stdout.count(b"\n")), (1, 2 if ending else 1))
+
+    def test_the_longest_line_is_read(self):
+        line = "#010203" + " " * (LONGEST_LINE - 7)
+        self.assertEqual(self.told("show", stdin=line + "\n" + line), "#010203\trgb(1, 2, 3)\n" * 2)
+
+    def test_lines_come_in_any_pieces(self):
+        process = subprocess.Popen([PROGRAM, "show"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=self.environment, bufsize=0)
+        for piece in (b"#0", b"10203\n#", b"0", b"40506", b"\n\n"):
+            process.stdin.write(piece)
+        # What has been asked is answered before the next question.
+        self.assertEqual(os.read(process.stdout.fileno(), 1000)[:8], b"#010203\t")
+        rest, _ = process.communicate(b"red")
+        self.assertTrue(rest.endswith(b"#FF0000\trgb(255, 0, 0)\n"))
+        self.assertEqual(process.returncode, 0)
+
+    def test_bytes_that_are_no_text_are_told_and_end_well(self):
+        generator = random.Random(4)
+        for stdin in (bytes(range(256)), generator.randbytes(200000), b"\0" * 100000, b"\n" * 100000, b"\xff\xfe#\0f\0", b"\0"):
+            for command in ("show", "name"):
+                run = self.run_program(command, stdin=stdin)
+                self.assertIn(run.returncode, (0, 1))
+                # Not as many messages as there are lines.
+                self.assertLessEqual(run.stderr.count(b"\n"), 101)
+                self.assertNotRegex(run.stderr, rb"[\x00-\x09\x0b-\x1f\x7f]")
+
+    def test_messages_are_counted_beyond_a_hundred(self):
+        run = self.run_program("show", stdin="x\n" * 1234 + "red\n")
+        self.assertEqual(run.stderr.splitlines()[-1],
+                         b"vantorel: standard input has 1134 more lines that are no colours: give one colour a line")
+        self.assertEqual((run.returncode, run.stdout), (1, b"#FF0000\trgb(255, 0, 0)\n"))
+
+    def test_giant_arguments(self):
+        for text in ("#" + "f" * 100000, "rgb(" * 30000, "x" * 130000, "rgb(" + "9" * 100000 + " 0 0)"):
+            run = self.run_program("show", "--", text)
+            self.assertIn(run.returncode, (0, 1))
+            self.assertLess(len(run.stderr), 400)
+
+    def test_arguments_that_are_no_text(self):
+        run = subprocess.run([PROGRAM, b"show", b"\xff\x1b[2J\n"], capture_output=True, env=self.environment)
+        self.assertEqual((run.returncode, run.stdout), (1, b""))
+        self.assertEqual((run.stderr.count(b"\n"), run.stderr.count(b"\x1b")), (1, 0))
+
+    def test_a_stream_needs_little_memory(self):
+        limit = 64 << 20
+        if self.is_sanitized():
+            self.skipTest("sanitizers need address space of their own")
+        lines = b"#12ab9f\nrgb(1 2 3)\n" * 500000
+        run = self.run_program("show", stdin=lines, preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (limit, limit)))
+        self.assertEqual((run.returncode, run.stdout.count(b"\n")), (0, 1000000))
+        run = self.run_program("show", stdin=b"x" * (limit * 2),
+                               preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (limit, limit)))
+        self.assertEqual((run.returncode, run.stderr.count(b"\n")), (1, 1))
+
+    def is_sanitized(self):
+        with open(PROGRAM, "rb") as file:
+            return b"__asan_init" in file.read()
+
+    def test_a_reader_that_goes_away_ends_it_quietly(self):
+        for arguments, stdin in ((["show"], b"#ff8000\n" * 1000000), (["wheel", "--rings", "128", "--svg", "-"], b"")):
+            for restore in (True, False):
+                process = subprocess.Popen([PROGRAM, *arguments], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                           stderr=subprocess.PIPE, env=self.environment, restore_signals=restore)
+                if stdin:
+                    process.stdin.write(stdin[:16])
+                    process.stdin.flush()
+                process.stdout.read(10)
+                process.stdout.close()
+                try:
+                    process.stdin.write(stdin)
+                except BrokenPipeError:
+                    pass
+                with contextlib.suppress(BrokenPipeError):
+                    process.stdin.close()
+                self.assertEqual(process.stderr.read(), b"")
+                process.stderr.close()
+                # Where the signal is ignored there is a status to tell it.
+                self.assertEqual(process.wait(60), -signal.SIGPIPE if restore else 1)
+
+    def test_standard_output_that_cannot_be_written(self):
+        for redirection in (">&-", "> /dev/full"):
+            for arguments in ("show red", "lists", "--help", "--version", "manpage", "completions zsh", "contrast red blue"):
+                run = self.shell(f'"$0" {arguments} {redirection}')
+                self.assertEqual(run.returncode, 1, (redirection, arguments))
+                self.assertRegex(run.stderr.decode(), r"\Avantorel: standard output cannot be written \(.*\): .*\n\Z")
+
+    def test_standard_input_that_cannot_be_read(self):
+        for redirection in ("<&-", "< /"):
+            run = self.shell(f'"$0" show {redirection}')
+            self.assertEqual((run.returncode, run.stderr.decode()),
+                             (1, "vantorel: standard input cannot be read: give colours as arguments, or a file or program "
+                                 "to read from\n"))
+
+    def test_no_message_lands_in_a_file(self):
+        # Standard error is closed, so the next file that is opened would get its number.
+        file = os.path.join(self.root, "x.css")
+        run = self.shell(f'"$0" list export "CSS Keyword" --format css --output {file} 2>&- <&-; "$0" show nope 2>&-')
+        self.assertEqual(run.returncode, 1)
+        self.assertTrue(self.read(file).endswith(b"}\n"))
+
+    def shell(self, command):
+        return subprocess.run(["sh", "-c", command, PROGRAM], capture_output=True, env=self.environment, timeout=60)
+
+    def test_without_a_home_the_usual_settings_count(self):
+        self.environment["HOME"] = "nowhere"
+        usual = self.told("show", "red")
+        for home in ("/nowhere", "/dev/null", self.path("missing")):
+            self.environment["HOME"] = home
+            self.assertEqual(self.told("show", "red"), usual)
+            self.assertEqual(len(self.told("lists").splitlines()), 3)
+        self.assertEqual(self.files_at_home(), [])
+
+    def test_what_needs_a_home_tells_so(self):
+        file = self.write(os.path.join(self.root, "x.txt"), "red\tr\n")
+        self.environment["HOME"] = "/dev/null"
+        self.assertIn("cannot be saved", self.refusal(1, "list", "import", file))
+
+    def test_a_home_that_may_only_be_read(self):
+        if os.geteuid() == 0:
+            self.skipTest("root may write anywhere")
+        self.write_list("Mine", ["1 2 3\tone"])
+        file = self.write(os.path.join(self.root, "x.txt"), "red\tr\n")
+        for folder, _, _ in os.walk(self.home):
+            os.chmod(folder, 0o500)
+        self.assertEqual(self.told("list", "Mine"), "#010203\tone\n")
+        self.assertIn("cannot be saved", self.refusal(1, "list", "import", file))
+
+    def test_lists_that_are_damaged_or_strange(self):
+        folder = self.path(".local/share/Vantorel/Palettes")
+        self.write(os.path.join(folder, "a.gpl"), b"\0" * 1000)
+        self.write(os.path.join(folder, "b.gpl"), b"GIMP Palette\nName: B\n" + b"x\n" * 10000 + b"1 2 3\tone\n")
+        os.mkfifo(os.path.join(folder, "c.gpl"))
+        os.symlink("d.gpl", os.path.join(folder, "d.gpl"))
+        os.mkdir(os.path.join(folder, "e.gpl"))
+        self.assertEqual(self.told("list", "B"), "#010203\tone\n")
+        self.assertEqual(len(self.told("lists").splitlines()), 4)
+
+    def test_snippets_with_hostile_formats(self):
+        self.write_settings('{CodeSnippets = ({NameSnippet = "x\\033[2J"; FormatSnippet = "%n%s%999999999d%*d\\033]0;";'
+                            ' VarsSnippet = rgbFixed;}, {NameSnippet = y;});}')
+        told = self.told("show", "red")
+        self.assertNotIn("\x1b", told)
+        self.assertIn("  y: ??\n", told)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,183 @@
+#!/usr/bin/env python3
+"""Publishing colour lists to graphics programs, and taking that back.
+
+    publish_test.py PROGRAM
+"""
+import pty
+import subprocess
+import unittest
+
+from program import PROGRAM, ProgramTest, os, sys
+
+PLACES = [".config/GIMP/2.10/palettes", ".config/GIMP/2.99/palettes", ".config/GIMP/3.0/palettes", ".config/inkscape/palettes",
+          ".local/share/krita/palettes", ".config/colors"]
+STRICT = b"GIMP Palette\nName: Mine\nColumns: 0\n  1   2   3\tone\n"
+
+
+class Publishing(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.write_list("Mine", ["1 2 3\tone"])
+
+    def make_places(self, *places):
+        for place in places:
+            os.makedirs(self.path(place), exist_ok=True)
+
+    def target(self, place):
+        return self.path(place, "Mine.gpl")
+
+    def answer(self, text, *arguments):
+        """The status and what a person sees who answers at a terminal."""
+        controller, terminal = pty.openpty()
+        process = subprocess.Popen([PROGRAM, *arguments], stdin=terminal, stdout=terminal, stderr=terminal, env=self.environment)
+        os.close(terminal)
+        os.write(controller, text.encode())
+        seen = b""
+        while True:
+            try:
+                chunk = os.read(controller, 4096)
+            except OSError:
+                break
+            if not chunk:
+                break
+            seen += chunk
+        os.close(controller)
+        return process.wait(60), seen.decode()
+
+    def test_each_programs_own_folder_that_exists_gets_a_strict_file(self):
+        for i, place in enumerate(PLACES):
+            with self.subTest(place=place):
+                self.make_places(place)
+                told = self.told("list", "publish", "Mine")
+                self.assertEqual(self.read(self.target(place)), STRICT)
+                self.assertIn(self.target(place), told)
+                self.assertEqual(told.count("written for "), 1)
+                self.assertEqual(told.count("already there: "), i)
+
+    def test_nothing_is_made_where_a_program_has_no_folder(self):
+        self.make_places(".config/GIMP/2.10", ".config/inkscape", ".config/inkscape/palettes")
+        self.told("list", "publish", "Mine")
+        self.assertEqual(os.listdir(self.path(".config/GIMP/2.10")), [])
+
+    def test_nothing_is_published_for_the_whole_machine(self):
+        self.environment["XDG_DATA_DIRS"] = self.path(".local/share/exports")
+        self.make_places(".local/share/exports/gimp/2.0/palettes", PLACES[0])
+        self.told("list", "publish", "Mine")
+        self.assertEqual(os.listdir(self.path(".local/share/exports/gimp/2.0/palettes")), [])
+
+    def test_what_was_made_is_removed_again(self):
+        self.make_places(*PLACES)
+        before = self.files_at_home()
+        self.told("list", "publish", "Mine")
+        self.assertEqual(self.told("list", "publish", "Mine", "--undo").count("removed: "), len(PLACES))
+        self.assertEqual(set(self.files_at_home()) - set(before), {".local/share/Vantorel/Published"})
+        self.assertIn("has not been published", self.refusal(1, "list", "publish", "--undo", "Mine"))
+
+    def test_a_file_that_differs_is_replaced_only_on_demand_and_restored(self):
+        self.make_places(*PLACES[:2])
+        for old in (b"GIMP Palette\nName: M\xfcne\n0 0 0\told\n", b"", bytes(range(256))):
+            with self.subTest(old=old[:20]):
+                path = self.write(self.target(PLACES[0]), old)
+                message = self.refusal(1, "list", "publish", "Mine")
+                self.assertIn('is there and differs: "--yes" replaces it', message)
+                self.assertEqual(self.read(path), old)
+                # The folder that has none got its file all the same.
+                self.assertEqual(self.read(self.target(PLACES[1])), STRICT)
+                self.assertIn("replaced for GIMP", self.told("list", "publish", "Mine", "--yes"))
+                self.assertEqual(self.read(path), STRICT)
+                self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"restored: {path}\n")
+                self.assertEqual(self.read(path), old)
+                # The publish before that.
+                self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"removed: {self.target(PLACES[1])}\n")
+
+    def test_at_a_terminal_it_asks(self):
+        self.make_places(PLACES[0])
+        path = self.write(self.target(PLACES[0]), "old")
+        for answer in ("n\n", "\n", "\x04", "nonsense\n"):
+            status, seen = self.answer(answer, "list", "publish", "Mine")
+            self.assertIn("which differs? [y/N]", seen)
+            self.assertEqual((status, self.read(path)), (0, b"old"), answer)
+        status, seen = self.answer("y\n", "list", "publish", "Mine")
+        self.assertEqual((status, self.read(path)), (0, STRICT))
+        status, seen = self.answer("", "list", "publish", "--undo", "Mine")
+        self.assertEqual((status, self.read(path)), (0, b"old"))
+
+    def test_import_asks_too(self):
+        other = self.write(os.path.join(self.root, "o.gpl"), "GIMP Palette\nName: Mine\n9 9 9\tnine\n")
+        status, seen = self.answer("n\n", "list", "import", other)
+        self.assertEqual((status, self.told("list", "Mine")), (1, "#010203\tone\n"))
+        status, seen = self.answer("yes\n", "list", "import", other)
+        self.assertEqual((status, self.told("list", "Mine")), (0, "#090909\tnine\n"))
+
+    def test_a_file_that_was_changed_since_stays(self):
+        self.make_places(*PLACES[:3])
+        self.write(self.target(PLACES[2]), "old")
+        self.told("list", "publish", "--yes", "Mine")
+        self.write(self.target(PLACES[0]), STRICT + b"9 9 9\tmy own\n")
+        self.write(self.target(PLACES[2]), "changed")
+        run = self.run_program("list", "publish", "--undo", "Mine")
+        self.assertEqual((run.returncode, run.stdout.decode()), (1, f"removed: {self.target(PLACES[1])}\n"))
+        self.assertEqual(run.stderr.decode().count("has been changed since"), 2)
+        self.assertEqual(self.read(self.target(PLACES[0])), STRICT + b"9 9 9\tmy own\n")
+        # Once it is as it was published, it can be taken back after all.
+        self.write(self.target(PLACES[2]), STRICT)
+        self.write(self.target(PLACES[0]), STRICT)
+        self.told("list", "publish", "--undo", "Mine")
+        self.assertEqual(self.read(self.target(PLACES[2])), b"old")
+
+    def test_a_file_that_is_gone_is_no_trouble(self):
+        self.make_places(*PLACES[:2])
+        self.told("list", "publish", "Mine")
+        os.remove(self.target(PLACES[0]))
+        self.assertIn("already as it was", self.told("list", "publish", "--undo", "Mine"))
+
+    def test_a_list_that_is_gone_can_be_taken_back(self):
+        self.make_places(PLACES[0])
+        self.told("list", "publish", "Mine")
+        os.remove(self.path(".local/share/Vantorel/Palettes/Mine.gpl"))
+        self.told("list", "publish", "--undo", "Mine")
+        self.assertEqual(os.listdir(self.path(PLACES[0])), [])
+
+    def test_folders_and_dangling_links_are_left_alone(self):
+        self.make_places(*PLACES[:3])
+        os.mkdir(self.target(PLACES[0]))
+        os.symlink("/nowhere/x", self.target(PLACES[1]))
+        run = self.run_program("list", "publish", "--yes", "Mine")
+        self.assertEqual(run.returncode, 1)
+        self.assertEqual(run.stderr.decode().count("cannot be replaced"), 2)
+        self.assertEqual(self.read(self.target(PLACES[2])), STRICT)
+
+    def test_versions_that_share_a_folder_get_one_file(self):
+        self.make_places(PLACES[0])
+        os.symlink("2.10", self.path(".config/GIMP/2.8"))
+        self.assertEqual(len(self.told("list", "publish", "Mine").splitlines()), 1)
+
+    def test_a_folder_that_cannot_be_written_to_is_told(self):
+        if os.geteuid() == 0:
+            self.skipTest("root may write anywhere")
+        self.make_places(*PLACES[:2])
+        os.chmod(self.path(PLACES[0]), 0o500)
+        run = self.run_program("list", "publish", "Mine")
+        self.assertEqual(run.returncode, 1)
+        self.assertIn(b"cannot be written", run.stderr)
+        self.assertEqual(self.told("list", "publish", "--undo", "Mine"), f"removed: {self.target(PLACES[1])}\n")
+
+    def test_names_do_not_lead_out_of_the_folder(self):
+        self.make_places(PLACES[0])
+        self.write_list("../../evil", ["1 2 3\tone"], "evil.gpl")
+        self.told("list", "publish", "../../evil")
+        self.assertEqual(os.listdir(self.path(PLACES[0])), ["%2E.%2F..%2Fevil.gpl"])
+        self.told("list", "publish", "--undo", "../../evil")
+        self.assertEqual(os.listdir(self.path(PLACES[0])), [])
+
+    def test_a_damaged_record_is_as_none(self):
+        self.make_places(PLACES[0])
+        self.told("list", "publish", "Mine")
+        record = self.path(".local/share/Vantorel/Published/Mine.gpl.plist")
+        self.write(record, b"{Publishes = (((")
+        self.assertIn("has not been published", self.refusal(1, "list", "publish", "--undo", "Mine"))
+        self.assertEqual(self.read(self.target(PLACES[0])), STRICT)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+"""What differs at a terminal: swatches, progress, and what must not be sent there.
+
+    terminal_test.py PROGRAM
+"""
+import pty
+import subprocess
+import time
+import unittest
+
+from program import PROGRAM, ProgramTest, os, sys
+
+SWATCH = "\x1b[48;2;255;128;0m      \x1b[0m "
+
+
+class Terminal(ProgramTest):
+    def at_terminal(self, *arguments, **variables):
+        """The status, and what appears, when standard output is a terminal."""
+        controller, terminal = pty.openpty()
+        process = subprocess.Popen([PROGRAM, *arguments], stdin=subprocess.DEVNULL, stdout=terminal, stderr=terminal,
+                                   env={**self.environment, **variables})
+        os.close(terminal)
+        seen = b""
+        try:
+            while chunk := os.read(controller, 65536):
+                seen += chunk
+        except OSError:
+            pass
+        os.close(controller)
+        return process.wait(60), seen.decode().replace("\r\n", "\n")
+
+    def test_swatches_need_a_terminal_that_shows_them(self):
+        for depth in ("truecolor", "24bit"):
+            for arguments in (["show", "#ff8000"], ["show", "#ff8000", "#fff"]):
+                status, seen = self.at_terminal(*arguments, COLORTERM=depth, TERM="xterm")
+                self.assertEqual((status, seen[:len(SWATCH) + 5]), (0, SWATCH + "hex: "))
+        for variables in ({}, {"COLORTERM": "yes"}, {"COLORTERM": "truecolor", "NO_COLOR": "1"},
+                          {"COLORTERM": "truecolor", "TERM": "dumb"}):
+            self.assertNotIn("\x1b", self.at_terminal("show", "#ff8000", **variables)[1], variables)
+        # Set but empty is as good as not set.
+        self.assertIn("\x1b", self.at_terminal("show", "red", COLORTERM="truecolor", NO_COLOR="")[1])
+        self.assertIn("\x1b[48;2;255;0;0m", self.at_terminal("list", "CSS Keyword", COLORTERM="truecolor")[1])
+
+    def test_a_pipe_gets_plain_text(self):
+        self.environment["COLORTERM"] = "truecolor"
+        self.assertNotIn("\x1b", self.told("show", "#ff8000"))
+
+    def test_a_swatch_lies_over_white(self):
+        self.assertIn("\x1b[48;2;255;128;128m", self.at_terminal("show", "rgb(255 0 0 / 50%)", COLORTERM="truecolor")[1])
+
+    def test_bytes_are_not_sent_to_a_terminal(self):
+        for arguments in (["list", "export", "CSS Keyword", "--format", "ase"], ["palette", "CSS Keyword", "--png", "-"]):
+            status, seen = self.at_terminal(*arguments)
+            self.assertEqual(status, 1)
+            self.assertTrue(seen.startswith("vantorel: "), seen)
+
+    def progress_of(self, stdout):
+        controller, terminal = pty.openpty()
+        process = subprocess.Popen([PROGRAM, "show"], stdin=subprocess.PIPE, stdout=stdout(terminal), stderr=terminal,
+                                   env=self.environment)
+        os.close(terminal)
+        for _ in range(4):
+            process.stdin.write(b"#ff8000\n" * 10)
+            process.stdin.flush()
+            time.sleep(0.15)
+        process.stdin.close()
+        seen = b""
+        try:
+            while chunk := os.read(controller, 65536):
+                seen += chunk
+        except OSError:
+            pass
+        os.close(controller)
+        self.assertEqual(process.wait(60), 0)
+        return seen
+
+    def test_progress_is_told_to_a_person_who_sees_nothing_else(self):
+        seen = self.progress_of(lambda terminal: subprocess.DEVNULL)
+        self.assertRegex(seen, rb"\r\d+ lines")
+        self.assertTrue(seen.endswith(b"\r\x1b[K"))
+        self.assertNotIn(b"lines", self.progress_of(lambda terminal: terminal))
+
+    def test_progress_is_not_told_to_a_file(self):
+        self.assertEqual(self.run_program("show", stdin=b"#ff8000\n" * 100000).stderr, b"")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+"""The manual page and the completions, as the programs that read them take them.
+
+    told_test.py PROGRAM
+"""
+import re
+import shutil
+import subprocess
+import unittest
+
+from program import PROGRAM, ProgramTest, os, sys
+
+
+class Told(ProgramTest):
+    def commands(self):
+        names = re.findall(r"^  ([a-z]+)  ", self.told("--help"), re.M)
+        return names + [f"list {name}" for name in ("import", "export", "publish")]
+
+    def need(self, program):
+        if shutil.which(program) is None:
+            self.skipTest(program + " is not installed")
+
+    def test_the_manual_page_tells_every_command_and_option(self):
+        page = self.told("manpage").replace("\\-", "-")
+        for command in self.commands():
+            section = re.search(rf"^\.SS vantorel {command}\b(.*?)(?=^\.S[SH])", page, re.M | re.S)
+            self.assertIsNotNone(section, command)
+            if command == "panel":
+                continue
+            for option in re.findall(r"^  (?:-h, )?(--[a-z-]+)", self.told(*command.split(), "--help"), re.M):
+                if option != "--help":
+                    self.assertIn(".B " + option, section.group(0), command)
+
+    def test_man_finds_nothing_to_warn_of(self):
+        self.need("man")
+        page = self.write(os.path.join(self.root, "vantorel.1"), self.told("manpage"))
+        run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, timeout=60,
+                             env={**self.environment, "LC_ALL": "C.UTF-8", "MANWIDTH": "80", "MAN_DISABLE_SECCOMP": "1"})
+        self.assertEqual((run.returncode, run.stderr), (0, b""))
+        self.assertIn(b"vantorel list export --format FORMAT [OPTION...] NAME", run.stdout.replace(b"\xe2\x80\x90", b"-"))
+
+    def test_mandoc_finds_nothing_to_warn_of(self):
+        self.need("mandoc")
+        page = self.write(os.path.join(self.root, "vantorel.1"), self.told("manpage"))
+        # The page has no date, so that a build can be repeated.
+        run = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", page], capture_output=True, timeout=60)
+        problems = [line for line in run.stdout.decode().splitlines() if "missing date" not in line]
+        self.assertEqual(problems, [])
+
+    def complete_in_bash(self, *words):
+        script = self.told("completions", "bash")
+        lines = " ".join("'" + word + "'" for word in ("vantorel",) + words)
+        run = subprocess.run(["bash", "-c", f"{script}\nCOMP_WORDS=({lines}); COMP_CWORD={len(words)}; _vantorel\n"
+                              'printf "%s\\n" "${COMPREPLY[@]}"'], capture_output=True, cwd=self.root, env=self.environment, timeout=60)
+        self.assertEqual(run.stderr, b"")
+        return set(run.stdout.decode().split())
+
+    def test_bash_completes_commands_options_and_values(self):
+        self.need("bash")
+        self.write(os.path.join(self.root, "palette.gpl"), "x")
+        for words, completions in [
+            (("sh",), {"show"}), (("show", "--l"), {"--lowercase", "--list"}), (("list", "p"), {"publish", "palette.gpl"} - {"palette.gpl"}),
+            (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help"}),
+            (("list", "import", "pal"), {"palette.gpl"}), (("palette", "x", "--svg", "pal"), {"palette.gpl"}),
+            (("show", "--list", ""), set()), (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}),
+        ]:
+            with self.subTest(words=words):
+                self.assertEqual(self.complete_in_bash(*words), completions)
+
+    def test_bash_knows_every_command(self):
+        self.need("bash")
+        for command in self.commands():
+            self.assertIn(command.split()[-1], self.complete_in_bash(*command.split()[:-1], ""), command)
+
+    def complete_in_fish(self, line):
+        script = self.write(os.path.join(self.root, "vantorel.fish"), self.told("completions", "fish"))
+        run = subprocess.run(["fish", "--no-config", "-c", f"source {script}; complete -C'{line}'"], capture_output=True,
+                             env=self.environment, cwd=self.root, timeout=60)
+        self.assertEqual(run.stderr, b"")
+        return {row.split("\t")[0] for row in run.stdout.decode().splitlines()}
+
+    def test_fish_completes_commands_options_and_values(self):
+        self.need("fish")
+        self.write(os.path.join(self.root, "palette.gpl"), "x")
+        self.assertEqual({name for name in self.complete_in_fish("vantorel ") if not name.startswith("-")},
+                         {name for name in self.commands() if " " not in name})
+        self.assertEqual(self.complete_in_fish("vantorel show --lo"), {"--lowercase"})
+        self.assertEqual(self.complete_in_fish("vantorel list export --format s"), {"scss", "svg"})
+        self.assertEqual(self.complete_in_fish("vantorel list imp"), {"import"})
+        self.assertEqual(self.complete_in_fish("vantorel completions "), {"bash", "zsh", "fish"})
+        self.assertEqual(self.complete_in_fish("vantorel list import pal"), {"palette.gpl"})
+
+    def test_zsh_loads_the_completions(self):
+        self.need("zsh")
+        script = self.write(os.path.join(self.root, "_vantorel"), self.told("completions", "zsh"))
+        run = subprocess.run(["zsh", "-f", "-c", f"autoload -Uz compinit && compinit -u -D && source {script} && "
+                              "print $_comps[vantorel] && whence -w _vantorel_list_export"],
+                             capture_output=True, env=self.environment, timeout=60)
+        self.assertEqual((run.stderr, run.stdout), (b"", b"_vantorel\n_vantorel_list_export: function\n"))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
