@@ -223,8 +223,9 @@ int main(int argc, char** argv)
 
     int status = 0;
     if (staysHidden) {
-        QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
         QTimer::singleShot(0, &requests, [&] {
+            // Not sooner: while the order waits there is nothing under way.
+            QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
             requests.carryOut(order, [&](const PanelAnswer& answer) {
                 status = report(order, answer);
                 caller->release(status);

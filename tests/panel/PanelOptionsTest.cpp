@@ -45,6 +45,39 @@ TEST(PanelOptionsTest, EveryOptionIsRead)
     EXPECT_EQ(line.options.dataFolder, QDir::currentPath());
 }
 
+struct StepRow {
+    QStringList arguments;
+    PanelOrder::Step step;
+    const char* form;
+};
+
+class StepTest : public testing::TestWithParam<StepRow> {};
+
+TEST_P(StepTest, IsWhatTheOptionSays)
+{
+    const auto line =
+        readCommandLine(QStringList{"p", "--new", "--color", "red"} + GetParam().arguments);
+    ASSERT_FALSE(line.exitStatus.has_value());
+    EXPECT_EQ(line.options.step, GetParam().step);
+    EXPECT_EQ(line.options.copyForm, GetParam().form);
+    EXPECT_TRUE(line.options.another);
+    EXPECT_TRUE(line.options.forStartsOnly.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, StepTest,
+    testing::Values(StepRow{{}, PanelOrder::Step::show, ""},
+                    StepRow{{"--pick"}, PanelOrder::Step::pick, ""},
+                    StepRow{{"--pick-and-copy"}, PanelOrder::Step::pickAndCopy, ""},
+                    StepRow{{"--copy"}, PanelOrder::Step::copy, ""},
+                    StepRow{{"--copy-as", "HSL (CSS)"}, PanelOrder::Step::copy, "HSL (CSS)"}));
+
+TEST(PanelOptionsTest, WhatOnlyAStartCanFollowIsListed)
+{
+    const auto line = readCommandLine({"p", "--print-color", "--size", "1x1", "--color", "red"});
+    EXPECT_EQ(line.options.forStartsOnly, (QStringList{"--size", "--print-color"}));
+}
+
 class BadOptionTest : public testing::TestWithParam<QStringList> {};
 
 TEST_P(BadOptionTest, SaysWhatIsWrong)
@@ -55,13 +88,14 @@ TEST_P(BadOptionTest, SaysWhatIsWrong)
     EXPECT_TRUE(line.message.endsWith("\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, BadOptionTest,
-                         testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
-                                         QStringList{"--size", "260"},
-                                         QStringList{"--data", "/no/such"},
-                                         QStringList{"--theme", "x"}, QStringList{"--face", "x"},
-                                         QStringList{"--nothing"}, QStringList{"stray"},
-                                         QStringList{"--color"}));
+INSTANTIATE_TEST_SUITE_P(
+    Lines, BadOptionTest,
+    testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
+                    QStringList{"--size", "260"}, QStringList{"--data", "/no/such"},
+                    QStringList{"--theme", "x"}, QStringList{"--face", "x"},
+                    QStringList{"--pick", "--copy"}, QStringList{"--copy", "--copy-as", "x"},
+                    QStringList{"--pick", "--screenshot", "f.png"}, QStringList{"--copy-as"},
+                    QStringList{"--nothing"}, QStringList{"stray"}, QStringList{"--color"}));
 
 TEST(PanelOptionsTest, HelpAndVersionEndWell)
 {

@@ -1,0 +1,116 @@
+#include "PanelWindowFixture.h"
+#include "panel/PanelNames.h"
+#include "panel/PanelRequests.h"
+
+#include <QSignalSpy>
+
+namespace vantorel {
+namespace {
+
+using Kind = PanelRefusal::Kind;
+using Outcome = ScreenPickResult::Outcome;
+
+/// Answers when the test says so.
+class HeldScreenPicker final : public ScreenPicker {
+public:
+    void start(QWidget*, Callback done) override
+    {
+        cancel();
+        _done = std::move(done);
+    }
+    void cancel() override { answer({}); }
+    [[nodiscard]] bool isPicking() const override { return _done != nullptr; }
+    void answer(const ScreenPickResult& result)
+    {
+        if (const auto done = std::exchange(_done, nullptr)) done(result);
+    }
+
+private:
+    Callback _done;
+};
+
+class PanelRequestsTest : public PanelWindowFixture {
+protected:
+    void SetUp() override
+    {
+        PanelWindowFixture::SetUp();
+        auto picker = std::make_unique<HeldScreenPicker>();
+        _picker = picker.get();
+        _window->setScreenPicker(std::move(picker));
+        _requests = std::make_unique<PanelRequests>(*_window);
+    }
+    PanelRequests::Done keep()
+    {
+        return [this](const PanelAnswer& answer) { _answers.push_back(answer); };
+    }
+
+    HeldScreenPicker* _picker = nullptr;
+    std::unique_ptr<PanelRequests> _requests;
+    std::vector<PanelAnswer> _answers;
+};
+
+TEST_F(PanelRequestsTest, APickIsAnsweredWithTheColourThatWasPicked)
+{
+    _requests->pick(false, keep());
+    EXPECT_TRUE(_answers.empty());
+    _picker->answer({Outcome::picked, HostColor::blackColor(), {}});
+    EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("#000000")});
+    EXPECT_EQ(_requests->color(), "#000000");
+}
+
+TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
+{
+    _requests->pick(false, keep());
+    _requests->pick(false, keep());
+    ASSERT_EQ(_answers.size(), 1U);
+    EXPECT_EQ(std::get<PanelRefusal>(_answers[0]).kind, Kind::cancelled);
+    _requests->cancelPick();
+    ASSERT_EQ(_answers.size(), 2U);
+}
+
+TEST_F(PanelRequestsTest, APickThatIsNotPossibleSaysWhy)
+{
+    _requests->pick(true, keep());
+    _picker->answer({Outcome::notPossible, HostColor::blackColor(), "No screen."});
+    const PanelRefusal expected{Kind::notPossible, "No screen."};
+    EXPECT_EQ(_answers, std::vector<PanelAnswer>{expected});
+}
+
+TEST_F(PanelRequestsTest, AnOrderSetsTheColourBeforeItsStep)
+{
+    _requests->carryOut({PanelOrder::Step::copy, "lime", "HSL (CSS)", {}}, keep());
+    EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("hsl(120 100% 50%)")});
+}
+
+TEST_F(PanelRequestsTest, AnOrderWithABadColourDoesNothingElse)
+{
+    _requests->carryOut({PanelOrder::Step::pick, "nonsense", {}, {}}, keep());
+    ASSERT_EQ(_answers.size(), 1U);
+    EXPECT_EQ(std::get<PanelRefusal>(_answers[0]).kind, Kind::notAColor);
+    EXPECT_FALSE(_picker->isPicking());
+}
+
+TEST_F(PanelRequestsTest, APanelWithoutAWindowEndsWhenAllIsAnswered)
+{
+    QSignalSpy nothingLeft(_requests.get(), &PanelRequests::nothingLeft);
+    _requests->pick(false, keep());
+    _picker->cancel();
+    EXPECT_EQ(nothingLeft.count(), 0) << "the window is shown";
+    _window->hide();
+    _requests->pick(false, keep());
+    _requests->pick(false, keep());
+    EXPECT_EQ(nothingLeft.count(), 0) << "a pick is under way";
+    _picker->cancel();
+    EXPECT_EQ(nothingLeft.count(), 1);
+}
+
+TEST(PanelNamesTest, EveryRefusalIsReadBackFromItsErrorName)
+{
+    for (Kind kind : {Kind::notAColor, Kind::noSuchForm, Kind::cancelled, Kind::notPossible})
+        EXPECT_EQ(refusalKindFor(errorNameFor(kind)), kind);
+    EXPECT_EQ(errorNameFor(Kind::notAColor), "org.vantorel.ColorPanel1.Error.NotAColor");
+    EXPECT_EQ(refusalKindFor("org.freedesktop.DBus.Error.NoReply"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace vantorel
