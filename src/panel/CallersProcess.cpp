@@ -65,7 +65,7 @@ void CallersProcess::release(int status)
     prctl(PR_SET_PDEATHSIG, 0);
     setsid();
     // What the program prints from here on may find nobody.
-    signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(signal(SIGPIPE, SIG_IGN));
     [[maybe_unused]] const int moved = chdir("/");
     // Before the word, so that the caller finds all of the output.
     const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
