@@ -29,7 +29,7 @@ int scaled(int points)
 
 QString shownName(const EditablePalette& palette)
 {
-    const QString name = qStringFrom(palette.name);
+    QString name = qStringFrom(palette.name);
     const QString program = qStringFrom(palette.program);
     if (palette.isOwn() || name.contains(u'(' + program)) return name;
     return QStringLiteral("%1 (%2)").arg(name, program);

@@ -185,6 +185,7 @@ void PalettesWidget::takeEdit(EntryEdit edit)
 {
     const std::vector<std::size_t> places = edit.places;
     std::vector<std::u16string> names;
+    names.reserve(places.size());
     for (const std::size_t place : places)
         names.push_back(edit.entries[place].name());
     const EditOutcome outcome = _editor.setEntries(_list, std::move(edit.entries));
