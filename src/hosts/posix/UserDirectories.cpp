@@ -17,7 +17,8 @@ std::string withoutEndSlash(std::string_view path)
     return std::string(path);
 }
 
-/// The absolute paths in a list that ":" separates; others have no meaning, says the specification.
+/// The absolute paths in a list that ":" separates; others have no meaning (freedesktop base
+/// directories).
 std::vector<std::string> absolutePaths(std::string_view list)
 {
     std::vector<std::string> paths;
