@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// The base directories of the freedesktop specification: absolute paths without a "/" at their
+/// The base directories of the desktop (freedesktop): absolute paths without a "/" at their
 /// end, the most important first. They need not exist.
 struct HostBaseDirectories {
     std::optional<std::string> configHome;
