@@ -1,7 +1,7 @@
 #include "cli/ListReader.h"
 
 #include "cli/ColorText.h"
-#include "cli/KeyedEntries.h"
+#include "colorlists/KeyedEntries.h"
 #include "cli/LineReader.h"
 #include "cli/SwatchExchange.h"
 #include "colorlists/PaletteFile.h"

@@ -1,7 +1,7 @@
 #include "cli/SwatchExchange.h"
 
 #include "cli/ColorText.h"
-#include "cli/KeyedEntries.h"
+#include "colorlists/KeyedEntries.h"
 #include "csscolor/ColorConversions.h"
 #include "csscolor/GamutMapping.h"
 

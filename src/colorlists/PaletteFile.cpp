@@ -1,12 +1,12 @@
 #include "colorlists/PaletteFile.h"
 
+#include "colorlists/KeyedEntries.h"
 #include "host/HostText.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <unordered_map>
 
 namespace vantorel {
 namespace {
@@ -94,28 +94,6 @@ std::u16string rowName(std::string_view rest)
     return decoded(trimmed(rest));
 }
 
-/// Adds colours under keys of their own.
-class KeyedColors {
-public:
-    explicit KeyedColors(HostColorList& list) : _list(list) {}
-
-    void add(const HostColor& color, std::u16string name)
-    {
-        if (name.empty()) name = u"Untitled";
-        std::u16string key = name;
-        while (_list.colorWithKey(key)) {
-            const std::string number =
-                std::to_string(++_lastNumber.try_emplace(name, 1).first->second);
-            key = name + u" " + std::u16string(number.begin(), number.end());
-        }
-        _list.setColor(color, key);
-    }
-
-private:
-    HostColorList& _list;
-    std::unordered_map<std::u16string, std::size_t> _lastNumber;
-};
-
 std::string harmless(const std::u16string& name)
 {
     std::u16string result = name;
@@ -146,7 +124,7 @@ std::optional<PaletteReading> readPalette(std::string_view bytes,
     if (!name) return std::nullopt;
     PaletteReading reading;
     reading.list = std::make_shared<HostColorList>(*name);
-    KeyedColors colors(*reading.list);
+    KeyedEntries colors(*reading.list);
 
     Lines lines(bytes);
     readHead(lines);
