@@ -36,7 +36,7 @@ EXAMPLES = [
     (["show", "--json", "#ff8000"], "", re.compile(r'\A\{"hex":"#FF8000","rgb":"rgb\(255, 128, 0\)",.*\}\n\Z')),
     (["show"], "#ff8000\n\n  \nf80\r\nrgb(1,2,3)\norange", "#FF8000\trgb(255, 128, 0)\n#FF8800\trgb(255, 136, 0)\n"
      "#010203\trgb(1, 2, 3)\n#FFA500\trgb(255, 165, 0)\n"),
-    (["show", "-"], "#12345680\n", "#12345680\trgba(18, 52, 86, 0.502)\n"),
+    (["show", "-"], "#12345680\n", "#12345680\trgba(18, 52, 86, 0.5)\n"),
     (["show", "--lowercase", "--no-pound-sign"], "#AB0\n", "aabb00\trgb(170, 187, 0)\n"),
     (["show", "--list", "CSS Keyword"], "red\n#fe0000\n#123\n", "#FF0000\trgb(255, 0, 0)\tred\n"
      "#FE0000\trgb(254, 0, 0)\t* red\n#112233\trgb(17, 34, 51)\tNo Match\n"),
