@@ -30,7 +30,7 @@ EXAMPLE_COLOR = [1, 127 / 255, 80 / 255, 1]
 EXAMPLE_COMPONENTS = [255, 127, 80]
 OPEN = {"op": "open", "panel": [0, 0, 320, 372], "color": EXAMPLE_COLOR}
 # A panel gives its page this many points less at the top and the bottom.
-TOP_BAR, WINDOW = 32, (320, 402)
+TOP_BAR, WINDOW = 32, (320, 426)
 LARGEST_PICTURE = 60_000
 
 
