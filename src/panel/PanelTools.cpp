@@ -47,6 +47,8 @@ PanelTools::PanelTools(QWidget* parent)
       _pick(newButton(this)),
       _copy(newButton(this))
 {
+    _well->setObjectName(QStringLiteral("colorWell"));
+    _backgroundWell->setObjectName(QStringLiteral("backgroundWell"));
     _recent->setObjectName(QStringLiteral("recentColors"));
     _contrast->setObjectName(QStringLiteral("contrast"));
     const double scale = textScale();

@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMenu>
 #include <QSlider>
 #include <QToolButton>
+
+#include <array>
 
 namespace vantorel {
 namespace {
@@ -104,6 +107,36 @@ INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
                                          PasteRow{"hwb(210 0% 0%)", QColor(0, 128, 255)},
                                          PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
                                          PasteRow{"navy", QColor(0, 0, 128)}));
+
+TEST_F(PanelCommandsTest, TheWellsTakeDrops)
+{
+    const auto drop = [&](const char* well, QMimeData& data) {
+        auto* target = child<QWidget>(well);
+        const QPoint middle = target->rect().center();
+        QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &enter);
+        if (!enter.isAccepted()) return false;
+        QDropEvent dropped(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &dropped);
+        return dropped.isAccepted();
+    };
+    QMimeData text;
+    text.setText(QStringLiteral("oklch(0 0 0)\0").append(QChar(u'\0')));
+    EXPECT_TRUE(drop("colorWell", text)) << "some programs end a text with a NUL";
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 0));
+
+    QMimeData words;
+    const std::array<quint16, 4> channels{0xFFFF, 0x8080, 0, 0xFFFF};
+    words.setData("application/x-color",
+                  QByteArray(reinterpret_cast<const char*>(channels.data()), sizeof channels));
+    EXPECT_TRUE(drop("backgroundWell", words));
+    EXPECT_EQ(qColorFrom(_window->background()).rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 0)) << "the other well stays";
+
+    QMimeData picture;
+    picture.setData("image/png", "x");
+    EXPECT_FALSE(drop("colorWell", picture));
+}
 
 TEST_F(PanelCommandsTest, PasteTakesTheColourBeforeTheText)
 {
@@ -267,6 +300,22 @@ TEST_F(PanelCommandsTest, TabGoesFromTheBarThroughThePageToTheTools)
     EXPECT_LT(place("Swap colour and background"), place("Copy"));
     EXPECT_LT(place("Copy"), place("Commands")) << names.join(", ").toStdString();
     EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
+}
+
+TEST_F(PanelCommandsTest, FromRightToLeftBarAndToolsAreMirrored)
+{
+    _window->setLayoutDirection(Qt::RightToLeft);
+    QApplication::processEvents();
+    _window->grab();
+    const auto right = [&](const char* name) {
+        QWidget* widget = child<QWidget>(name);
+        return widget->mapTo(_window.get(), widget->rect().topRight()).x();
+    };
+    EXPECT_GT(right("colorWell"), right("backgroundWell"));
+    auto& row = static_cast<RecentColors&>(*child<QWidget>("recentColors"));
+    EXPECT_EQ(row.rectOfColor(0).right(), row.width() - 1);
+    EXPECT_EQ(row.indexAt(row.rectOfColor(0).center()), 0);
+    EXPECT_EQ(child<QWidget>("_fullHexText")->x(), 10) << "a page has places of its own";
 }
 
 TEST_F(PanelCommandsTest, EveryControlHasAToolTipAndAName)
