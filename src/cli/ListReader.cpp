@@ -1,9 +1,9 @@
 #include "cli/ListReader.h"
 
 #include "cli/ColorText.h"
-#include "colorlists/KeyedEntries.h"
 #include "cli/LineReader.h"
 #include "cli/SwatchExchange.h"
+#include "colorlists/KeyedEntries.h"
 #include "colorlists/PaletteFile.h"
 #include "csscolor/CSSColorReader.h"
 #include "host/HostText.h"
