@@ -300,6 +300,7 @@ class OtherBusTest(ServiceTest):
     def test_the_end_of_the_bus_is_told_of(self):
         panel = self.session.start_panel("--print-color", "--color", RED)
         self.session.bus.kill()
+        self.session.bus.wait()
         self.assertRegex(panel.stderr.readline(), "session bus has gone")
         self.assertIsNone(panel.poll())
         close_window()
