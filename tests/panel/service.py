@@ -270,6 +270,8 @@ class SecondStartTest(ServiceTest):
 
     def test_it_does_not_wait_for_a_panel_that_hangs(self):
         stopped = self.session.start_panel("--color", RED)
+        # The name comes first; a panel that is stopped before its window is there never shows it.
+        eventually(shown_windows, "the first window")
         os.kill(stopped.pid, signal.SIGSTOP)
         self.addCleanup(os.kill, stopped.pid, signal.SIGCONT)
         second = self.session.start("--print-color", "--color", "lime")
