@@ -137,7 +137,13 @@ class BusSession:
         return reply.unpack()[0]
 
     def owner(self):
-        return self.ask_bus("GetNameOwner", NAME) if self.ask_bus("NameHasOwner", NAME) else None
+        # One question: between two of them the panel may end.
+        try:
+            return self.ask_bus("GetNameOwner", NAME)
+        except GLib.Error as error:
+            if "NameHasNoOwner" in error.message or "no such name" in error.message:
+                return None
+            raise
 
     def process_of(self, name):
         return self.ask_bus("GetConnectionUnixProcessID", name)
