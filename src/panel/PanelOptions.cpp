@@ -88,10 +88,11 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     const auto face = option("face", "Show this face of the hex page: colors or settings.", "FACE");
     const auto theme =
         option("theme", "Colours of the window in place of the desktop's: light or dark.", "THEME");
-    const auto data = option("data",
-                             "Keep settings and colour lists under DIR/Vantorel, not with the "
-                             "user's own; DIR must exist.",
-                             "DIR");
+    const auto data = option(
+        "data",
+        "Keep settings, colour lists and the panel's own memory under DIR/Vantorel, not with the "
+        "user's own; DIR must exist.",
+        "DIR");
     const auto plugin =
         option("plugin", "Load this picker plug-in, too. May be given more than once.", "FILE");
     const auto printColor =

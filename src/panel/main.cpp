@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -159,7 +160,11 @@ int main(int argc, char** argv)
     std::optional<CallersProcess> caller;
     if (staysHidden) caller.emplace();
 
-    if (options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
+    if (options.dataFolder) {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
+        // The configuration's folder stays: it also leads to the palettes of other programs.
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, *options.dataFolder);
+    }
     const std::string userData = PosixFiles().applicationSupportDirectory().value_or("");
     QTemporaryDir scratch;
     if (options.screenshot) {
