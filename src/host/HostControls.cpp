@@ -49,20 +49,6 @@ void HostPopUpButton::insertItem(HostMenuItem item, int index)
     menuDidChange();
 }
 
-std::optional<HostMenuItem> HostPopUpButton::takeItem(int index)
-{
-    if (!isItem(index)) return std::nullopt;
-    HostMenuItem item = std::move(_menu[static_cast<std::size_t>(index)]);
-    _menu.erase(_menu.begin() + index);
-    if (_selected == index) {
-        _selected = noItem;
-    } else if (_selected > index) {
-        --_selected;
-    }
-    menuDidChange();
-    return item;
-}
-
 void HostPopUpButton::setTitleOfItem(int index, const std::u16string& title)
 {
     if (!isItem(index)) return;

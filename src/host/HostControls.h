@@ -103,8 +103,6 @@ public:
     void addItemsWithTitles(const std::vector<std::u16string>& titles);
     /// `index` is clamped to the items that there are; the selected item stays selected.
     void insertItem(HostMenuItem item, int index);
-    /// Nothing for an index out of range. Taking the selected item leaves nothing selected.
-    std::optional<HostMenuItem> takeItem(int index);
     void setTitleOfItem(int index, const std::u16string& title);
     /// Moves the items at `indexes`, each of which must be one and come once, in the order given to
     /// where the item at `to` stands among the others. The selected item stays selected. Takes one
