@@ -6,7 +6,7 @@
 function(vantorel_warnings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wpedantic -Wnon-virtual-dtor -Werror
-    # g++ 12 sees overlaps in std::u16string concatenation that are not there.
+    # g++ 12 sees overlaps in string concatenation that are not there.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endfunction()
 
@@ -19,10 +19,10 @@ function(_vantorel_include_root folder out)
   set(${out} "${root}" PARENT_SCOPE)
 endfunction()
 
-# vantorel_layer(FOLDER SOURCES file... [USES layer...])
+# vantorel_layer(FOLDER [QT] SOURCES file... [USES layer...])
 # Makes the static library vantorel_FOLDER ("/" becomes "_") from files of src/FOLDER.
 function(vantorel_layer folder)
-  cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(arg "QT" "" "SOURCES;USES" ${ARGN})
   string(REPLACE "/" "_" name "${folder}")
   set(target "vantorel_${name}")
   add_library(${target} STATIC ${arg_SOURCES})
@@ -33,4 +33,9 @@ function(vantorel_layer folder)
     target_link_libraries(${target} PUBLIC vantorel_${used_name})
   endforeach()
   vantorel_warnings(${target})
+  if(arg_QT)
+    vantorel_precompile(${target} QT)
+  else()
+    vantorel_precompile(${target})
+  endif()
 endfunction()

@@ -54,7 +54,7 @@ std::string PaletteFileStore::fileNameOfList(const std::u16string& name)
             base += "0123456789ABCDEF"[c & 15];
         }
     }
-    if (base.empty()) base = "%";
+    if (base.empty()) base += '%';
     if (base.size() > longestBaseName) {
         base.resize(longestBaseName);
         base += '%' + hashText(utf8);
