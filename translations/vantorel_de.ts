@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
+    <name>ChoiceBar</name>
+    <message>
+        <source>Choose</source>
+        <translation>Wählen</translation>
+    </message>
+</context>
+<context>
     <name>ColorClipboard</name>
     <message>
         <source>That is a long text, not a colour.</source>
@@ -421,6 +428,10 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Copied: %1</source>
         <translation>Kopiert: %1</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Eine Farbe wählen</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,8 @@ QString readStep(const QCommandLineParser& parser, PanelOptions& options)
         given.append(QStringLiteral("--") + QLatin1String(name));
         options.step = step;
     }
+    options.choice = parser.isSet(QStringLiteral("choose"));
+    if (options.choice) given.append(QStringLiteral("--choose"));
     options.copyForm = parser.value(QStringLiteral("copy-as"));
     if (options.screenshot && !given.isEmpty()) given.append(QStringLiteral("--screenshot"));
     if (given.size() < 2) return {};
@@ -107,6 +109,10 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
                              "would carry it, print the text, and end.");
     const auto copyAs =
         option("copy-as", "The same in the form that has this name in the panel's menu.", "FORM");
+    const auto choose =
+        option("choose",
+               "Let the user choose one colour in a panel of its own, print it as a drag out of "
+               "the panel would carry it, and end. Status: 0 chosen, 1 cancelled, 3 not possible.");
     const auto another = option("new", "Start a panel even where one runs already.");
     const auto help = option("help", "Show this help and end.");
     const auto version = option("version", "Show the version and end.");
@@ -116,7 +122,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         "A colour panel with pages by plug-ins. Where one runs already it is shown, "
         "and does what --color, --pick, --pick-and-copy, --copy and --copy-as say."));
     parser.addOptions({color, page, mode, size, screenshot, face, theme, data, plugin, printColor,
-                       pick, pickAndCopy, copy, copyAs, another, help, version});
+                       pick, pickAndCopy, copy, copyAs, choose, another, help, version});
     if (!parser.parse(arguments)) return refusal(parser.errorText());
     if (parser.isSet(help)) return {{}, 0, parser.helpText()};
     if (parser.isSet(version)) {

@@ -25,6 +25,8 @@ struct PanelOptions {
     std::optional<QString> dataFolder;
     bool settingsFace = false;
     bool printColor = false;
+    /// Let the user choose one colour, print it and end.
+    bool choice = false;
     QStringList plugins;
     PanelOrder::Step step = PanelOrder::Step::show;
     /// With the step `copy`: as in `PanelOrder`.

@@ -7,7 +7,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 #include <array>
@@ -20,6 +23,7 @@ namespace {
 constexpr int topBarPoints = 32;
 constexpr int toolsPoints = 54;
 constexpr int problemsPoints = 20;
+constexpr int choicePoints = 42;
 constexpr QSize firstPageSize{260, 340};
 
 int scaled(int points)
@@ -144,19 +148,20 @@ void PanelWindow::showPage(int index)
     page.show(*_holder);
     pageDidAppear();
     page.setColor(_color);
-    const QSize least = scaled(page.minimumSize() + QSize(0, topBarPoints + toolsPoints));
+    const QSize least = scaled(page.minimumSize() + barsPoints());
     setMinimumSize(least);
     resize(size().expandedTo(least));
     layOut();
     orderTabs();
 }
 
-/// Tab goes as one reads: the bar above, the page, the tools below. By itself it would go in the
+/// Tab goes as one reads: the bar above, the page, what is below. By itself it would go in the
 /// order in which things were made, and pages are made when they are shown first.
 void PanelWindow::orderTabs()
 {
-    const std::array<const QWidget*, 3> groups{_topBar, _holder->widget(), _tools};
-    std::array<std::vector<QWidget*>, 3> members;
+    std::vector<const QWidget*> groups{_topBar, _holder->widget(), _tools};
+    if (_choiceBar != nullptr) groups.push_back(_choiceBar);
+    std::vector<std::vector<QWidget*>> members(groups.size());
     for (QWidget* widget = nextInFocusChain(); widget != this;
          widget = widget->nextInFocusChain()) {
         if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
@@ -246,8 +251,13 @@ void PanelWindow::showRemark(const QString& remark)
 
 void PanelWindow::resizeToPage(QSize points)
 {
-    resize(scaled(points + QSize(0, topBarPoints + toolsPoints)));
+    resize(scaled(points + barsPoints()));
     layOut();
+}
+
+QSize PanelWindow::barsPoints() const
+{
+    return {0, topBarPoints + toolsPoints + (_choiceBar != nullptr ? choicePoints : 0)};
 }
 
 HostRect PanelWindow::frame() const
@@ -277,9 +287,12 @@ void PanelWindow::layOut()
     const int topBarHeight = scaled(topBarPoints);
     const int toolsHeight = scaled(toolsPoints);
     const int problems = _problems->isVisibleTo(this) ? scaled(problemsPoints) : 0;
-    const int pageHeight = std::max(0, height() - topBarHeight - toolsHeight - problems);
+    const int choice = _choiceBar != nullptr ? scaled(choicePoints) : 0;
+    const int pageHeight = std::max(0, height() - topBarHeight - toolsHeight - choice - problems);
     _topBar->setGeometry(0, 0, width(), topBarHeight);
     _tools->setGeometry(0, topBarHeight + pageHeight, width(), toolsHeight);
+    if (_choiceBar != nullptr)
+        _choiceBar->setGeometry(0, topBarHeight + pageHeight + toolsHeight, width(), choice);
     _problems->setGeometry(0, height() - problems, width(), problems);
     const HostRect page{0, 0, width() / textScale(), pageHeight / textScale()};
     _holder->widget()->setGeometry(0, topBarHeight, width(), pageHeight);
@@ -292,6 +305,51 @@ void PanelWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     layOut();
+}
+
+void PanelWindow::askForChoice()
+{
+    setWindowTitle(tr("Choose a colour"));
+    setWindowFlags((windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
+    _choiceBar = new ChoiceBar(
+        this, [this] { choose(); }, [this] { close(); });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* accept = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+        connect(accept, &QShortcut::activated, this, [this] { choose(); });
+    }
+    setMinimumHeight(minimumHeight() + scaled(choicePoints));
+    resize(width(), height() + scaled(choicePoints));
+    layOut();
+    orderTabs();
+}
+
+void PanelWindow::choose()
+{
+    // What was typed counts, also when it was not yet entered.
+    if (currentPicker() != nullptr) {
+        for (QLineEdit* field : _holder->widget()->findChildren<QLineEdit*>()) {
+            if (field->isVisible() && field->isModified()) emit field->returnPressed();
+        }
+    }
+    // The panel's own pages know no settings, and the window is about to close.
+    if (currentPicker() == nullptr) showPage(0);
+    _history.remember(_color);
+    _choice = draggedText();
+    close();
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent* event)
+{
+    // What a control has used does not come here, except for Enter in a text field.
+    const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (_choiceBar != nullptr && event->key() == Qt::Key_Escape) {
+        close();
+    } else if (_choiceBar != nullptr && enters &&
+               qobject_cast<QLineEdit*>(focusWidget()) == nullptr) {
+        choose();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void PanelWindow::closeEvent(QCloseEvent* event)

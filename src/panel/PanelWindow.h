@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtColorPanel.h"
 #include "hosts/qt/QtView.h"
+#include "panel/ChoiceBar.h"
 #include "panel/ColorHistory.h"
 #include "panel/PanelCommands.h"
 #include "panel/PanelMemory.h"
@@ -16,6 +17,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vantorel {
@@ -59,8 +61,18 @@ public:
         _colorObservers.push_back(std::move(observer));
     }
 
+    /// Makes the panel a dialog for one colour, with buttons to choose and to cancel. Its window
+    /// closes with either. To be called once, before the window is shown.
+    void askForChoice();
+    /// What a drag would carry, if the user has chosen; nothing while that is open, or when the
+    /// window was closed without.
+    [[nodiscard]] const std::optional<QString>& choice() const { return _choice; }
+
     // What the commands do (PanelWindowCommands.cpp).
 
+    /// The colour as a drag out of the panel carries it: the text that the settings ask for, or
+    /// the hex code.
+    [[nodiscard]] QString draggedText() const;
     void copyColor();
     void copyHexCode();
     void copyText(const QString& text);
@@ -90,6 +102,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -109,7 +122,9 @@ private:
     void stepPage(int step);
     void orderTabs();
     void layOut();
-    [[nodiscard]] int toolsHeight() const;
+    /// What the window has besides the page, in points.
+    [[nodiscard]] QSize barsPoints() const;
+    void choose();
     void showHistory();
     void takeOffer(const ColorOffer& offer, const std::function<void(const HostColor&)>& take);
     void fillCopyMenu(QMenu& menu);
@@ -123,6 +138,9 @@ private:
     PanelTopBar* _topBar = nullptr;
     PanelTools* _tools = nullptr;
     QLabel* _problems = nullptr;
+    /// Null in a panel that is no dialog.
+    ChoiceBar* _choiceBar = nullptr;
+    std::optional<QString> _choice;
     std::unique_ptr<PanelCommands> _commands;
     std::unique_ptr<ScreenPicker> _screenPicker;
 

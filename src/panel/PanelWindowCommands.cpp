@@ -63,15 +63,19 @@ void PanelWindow::copyText(const QString& text)
     showRemark(tr("Copied: %1").arg(text));
 }
 
-void PanelWindow::copyColor()
+QString PanelWindow::draggedText() const
 {
     const HostColorPicker* picker = currentPicker();
-    const auto carried = picker != nullptr ? picker->dragText() : std::nullopt;
-    if (carried) {
-        copyText(qStringFrom(*carried));
-    } else {
-        copyHexCode();
+    if (picker != nullptr) {
+        if (const auto carried = picker->dragText()) return qStringFrom(*carried);
     }
+    const auto texts = colorTexts();
+    return texts.empty() ? QString() : qStringFrom(texts.front().text);
+}
+
+void PanelWindow::copyColor()
+{
+    if (const QString text = draggedText(); !text.isEmpty()) copyText(text);
 }
 
 void PanelWindow::copyHexCode()

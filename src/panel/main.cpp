@@ -142,6 +142,19 @@ std::optional<int> takePlace(PanelService& service, const RunningPanel& running,
     return std::nullopt;
 }
 
+/// Returns the exit status.
+int letUserChoose(PanelWindow& window, PanelMemory recalled)
+{
+    window.show();
+    QApplication::exec();
+    if (!window.choice()) return cancelled;
+    // It was shown for one colour: beside that colour nothing of the user's own panel changes.
+    recalled.recent = window.memory().recent;
+    writePanelMemory(recalled);
+    print(stdout, *window.choice() + u'\n');
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -157,6 +170,8 @@ int main(int argc, char** argv)
     const PanelOptions& options = commandLine.options;
     const PanelOrder order = orderFrom(options, activationTokenOfThisStart());
     const bool staysHidden = order.step != PanelOrder::Step::show;
+    // A caller waits for it, so it is neither handed over nor found by other starts.
+    const bool isAlone = options.screenshot || options.choice;
     std::optional<CallersProcess> caller;
     if (staysHidden) caller.emplace();
 
@@ -166,18 +181,19 @@ int main(int argc, char** argv)
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, *options.dataFolder);
     }
     const std::string userData = PosixFiles().applicationSupportDirectory().value_or("");
-    QTemporaryDir scratch;
+    std::optional<QTemporaryDir> scratch;
     if (options.screenshot) {
+        scratch.emplace();
         // A picture is taken beside the user's own panel and settings, not with them.
         // What other programs have installed must not show in it, either.
         for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"})
-            qputenv(variable, QFile::encodeName(scratch.path()));
-        if (!options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(scratch.path()));
+            qputenv(variable, QFile::encodeName(scratch->path()));
+        if (!options.dataFolder) qputenv("XDG_DATA_HOME", QFile::encodeName(scratch->path()));
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         print(stderr, QStringLiteral("vantorel-panel: there is no display (neither WAYLAND_DISPLAY "
                                      "nor DISPLAY is set); --screenshot FILE works without one\n"));
-        return staysHidden ? notPossible : failure;
+        return staysHidden || options.choice ? notPossible : failure;
     }
 
     QApplication application(argc, argv);
@@ -190,7 +206,7 @@ int main(int argc, char** argv)
 
     auto contact = RunningPanel::Contact::none;
     std::optional<RunningPanel> running;
-    if (!options.screenshot) running.emplace(QDBusConnection::sessionBus());
+    if (!isAlone) running.emplace(QDBusConnection::sessionBus());
     if (running && !options.another) {
         if (const auto status = handOver(*running, order, options, contact)) return *status;
     }
@@ -214,7 +230,9 @@ int main(int argc, char** argv)
     }
     const PanelMemory recalled = readPanelMemory();
     window.recall(recalled);
+    if (options.choice) window.askForChoice();
     applyOptions(window, options);
+    if (options.choice) return letUserChoose(window, recalled);
 
     PanelRequests requests(window);
     PanelService service(window, requests, QDBusConnection::sessionBus());

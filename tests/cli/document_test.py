@@ -34,7 +34,8 @@ class Document(ProgramTest):
         bin_folder = os.path.join(self.root, "bin")
         os.mkdir(bin_folder)
         shutil.copy(PROGRAM, os.path.join(bin_folder, "vantorel"))
-        os.chmod(self.write(os.path.join(bin_folder, "vantorel-panel"), "#!/bin/sh\necho '#ff8000ff'\n"), 0o755)
+        user = "#!/bin/sh\n# Picks #ff8000, and chooses what is offered.\n[ \"$1\" = --choose ] && echo \"$3\" || echo '#ff8000'\n"
+        os.chmod(self.write(os.path.join(bin_folder, "vantorel-panel"), user), 0o755)
         self.environment["PATH"] = bin_folder + ":" + self.environment["PATH"]
         os.makedirs(self.path(".config/GIMP/2.10/palettes"))
         self.write(self.path("brand.txt"), "#ff8000\tPumpkin\n#102030\tInk\n")

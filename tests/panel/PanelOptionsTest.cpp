@@ -45,6 +45,14 @@ TEST(PanelOptionsTest, EveryOptionIsRead)
     EXPECT_EQ(line.options.dataFolder, QDir::currentPath());
 }
 
+TEST(PanelOptionsTest, ChoosingIsNoOrderToAPanelThatRuns)
+{
+    const auto line = readCommandLine({"p", "--choose", "--color", "red"});
+    ASSERT_FALSE(line.exitStatus.has_value());
+    EXPECT_TRUE(line.options.choice);
+    EXPECT_EQ(line.options.step, PanelOrder::Step::show);
+}
+
 struct StepRow {
     QStringList arguments;
     PanelOrder::Step step;
@@ -93,7 +101,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
                     QStringList{"--size", "260"}, QStringList{"--data", "/no/such"},
                     QStringList{"--theme", "x"}, QStringList{"--face", "x"},
-                    QStringList{"--pick", "--copy"}, QStringList{"--copy", "--copy-as", "x"},
+                    QStringList{"--pick", "--copy"}, QStringList{"--choose", "--pick"},
+                    QStringList{"--choose", "--screenshot", "f.png"},
+                    QStringList{"--copy", "--copy-as", "x"},
                     QStringList{"--pick", "--screenshot", "f.png"}, QStringList{"--copy-as"},
                     QStringList{"--nothing"}, QStringList{"stray"}, QStringList{"--color"}));
 

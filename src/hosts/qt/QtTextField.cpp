@@ -83,10 +83,14 @@ protected:
     {
         if (!event->matches(QKeySequence::Cancel)) {
             QLineEdit::keyPressEvent(event);
-        } else if (_owner._entryGivenUp) {
+        } else if (_owner._entryGivenUp && isModified()) {
             // A copy: the reaction may set another one.
             const auto reaction = _owner._entryGivenUp;
             reaction();
+            setModified(false);
+        } else {
+            // There is nothing to give up here.
+            event->ignore();
         }
     }
 
@@ -155,9 +159,15 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAccessibleName(qStringFrom(description.accessibleName));
     // Not `textEdited`: what an assistive program enters for the user counts as typed, too.
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
-        if (!_textIsBeingSet) sendTextDidChange();
+        if (_textIsBeingSet) return;
+        sendTextDidChange();
+        // The typing may have completed the text, which does not end it.
+        lineEdit()->setModified(true);
     });
-    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { sendAction(); });
+    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] {
+        sendAction();
+        lineEdit()->setModified(false);
+    });
 }
 
 QLineEdit* QtTextField::lineEdit() const

@@ -1,0 +1,113 @@
+#include "PanelWindowFixture.h"
+#include "hosts/qt/QtColors.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+namespace vantorel {
+namespace {
+
+/// A panel that is asked for one colour.
+class ChoiceTest : public PanelWindowFixture {
+protected:
+    void SetUp() override
+    {
+        PanelWindowFixture::SetUp();
+        _window->askForChoice();
+        _window->show();
+        _window->chooseColor(hostColorFrom(QColor(16, 32, 48)));
+    }
+
+    QPushButton* button(QDialogButtonBox::ButtonRole role)
+    {
+        auto* box = _window->findChild<QDialogButtonBox*>();
+        for (QAbstractButton* each : box->buttons()) {
+            if (box->buttonRole(each) == role) return qobject_cast<QPushButton*>(each);
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(ChoiceTest, IsOpenWhileTheWindowIs)
+{
+    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_TRUE(_window->isVisible());
+}
+
+TEST_F(ChoiceTest, TheButtonChoosesWhatIsShown)
+{
+    QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
+    EXPECT_EQ(_window->choice(), "#102030");
+    EXPECT_FALSE(_window->isVisible());
+    EXPECT_EQ(_window->memory().recent.front(), hostColorFrom(QColor(16, 32, 48)))
+        << "what was chosen was used";
+}
+
+TEST_F(ChoiceTest, WhatWasTypedAndNotYetEnteredCounts)
+{
+    auto* field = child<QLineEdit>("_fullHexText");
+    QTest::mouseClick(field, Qt::LeftButton);
+    field->selectAll();
+    QTest::keyClicks(field, "f80");
+    QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
+    EXPECT_EQ(_window->choice(), "#FF8800");
+}
+
+TEST_F(ChoiceTest, TheOtherButtonChoosesNothing)
+{
+    QTest::mouseClick(button(QDialogButtonBox::RejectRole), Qt::LeftButton);
+    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_FALSE(_window->isVisible());
+}
+
+TEST_F(ChoiceTest, ClosingTheWindowChoosesNothing)
+{
+    _window->close();
+    EXPECT_EQ(_window->choice(), std::nullopt);
+}
+
+TEST_F(ChoiceTest, EnterInAFieldTakesTheTextAndChoosesNothingYet)
+{
+    auto* field = child<QLineEdit>("_fullHexText");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "f80");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(_window->isVisible());
+    EXPECT_EQ(_window->chosenColor(), QColor(0xFF, 0x88, 0));
+}
+
+TEST_F(ChoiceTest, TheFirstEscapeInAFieldTakesTheTypingBackAndTheNextCancels)
+{
+    auto* field = child<QLineEdit>("_fullHexText");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "f80");
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(field->text(), "#102030");
+    EXPECT_TRUE(_window->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(_window->isVisible());
+    EXPECT_EQ(_window->choice(), std::nullopt);
+}
+
+TEST_F(ChoiceTest, ThePanelsOwnPagesChooseInTheSameForm)
+{
+    ASSERT_TRUE(_window->showPageWithKey("dialog"));
+    QTest::keyClick(_window.get(), Qt::Key_Return);
+    EXPECT_EQ(_window->choice(), "#102030");
+}
+
+TEST_F(ChoiceTest, NothingOfThePageIsHiddenByTheButtons)
+{
+    const QWidget* box = _window->findChild<QDialogButtonBox*>();
+    const QWidget* hex = child<QWidget>("_fullHexText");
+    _window->resize(_window->minimumSize());
+    const QRect buttons(box->mapTo(_window.get(), QPoint()), box->size());
+    EXPECT_TRUE(_window->rect().contains(buttons));
+    EXPECT_FALSE(buttons.intersects(QRect(hex->mapTo(_window.get(), QPoint()), hex->size())));
+    EXPECT_GE(buttons.height(), box->sizeHint().height());
+}
+
+}  // namespace
+}  // namespace vantorel
