@@ -10,9 +10,6 @@
 #include <QSignalBlocker>
 
 namespace vantorel {
-namespace {
-
-}  // namespace
 
 PluginPage::PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker)
     : _plugin(plugin), _picker(std::move(picker))
@@ -54,7 +51,12 @@ void PluginPage::show(HostView& holder)
 {
     if (!_viewWasAskedFor) {
         _viewWasAskedFor = true;
-        _view = _picker->provideNewView(true);
+        try {
+            _view = _picker->provideNewView(true);
+        } catch (...) {
+            // It may be anybody's; the other pages must stay.
+            _view = nullptr;
+        }
         if (_view == nullptr) {
             _message = new QLabel(tr("The page \"%1\" could not be made. Its interface file is "
                                      "missing or damaged; installing %2 again may help.")

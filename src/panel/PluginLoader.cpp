@@ -1,5 +1,7 @@
 #include "panel/PluginLoader.h"
 
+#include "panel/FileTrust.h"
+
 #include <dlfcn.h>
 
 #include <algorithm>
@@ -51,11 +53,19 @@ private:
 /// The plug-in of a library; null, with a reason, when it has none that fits.
 const HostPlugin* pluginOfLibrary(const std::string& file, std::string& reason)
 {
+    reason = whyNotTrusted(file);
+    if (!reason.empty()) return nullptr;
+    std::error_code error;
+    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
+        // A pipe would keep the panel waiting.
+        reason = "it is no file";
+        return nullptr;
+    }
     // Never closed: see LoadedPlugin.
     void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) {
-        const char* error = ::dlerror();
-        reason = error != nullptr ? error : "it cannot be loaded";
+        const char* message = ::dlerror();
+        reason = message != nullptr ? message : "it cannot be loaded";
         return nullptr;
     }
     const auto* abi = static_cast<const std::uint32_t*>(::dlsym(library, "vantorelPluginABI"));
@@ -153,6 +163,10 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
 {
     PluginSearch search;
     for (const std::string& folder : folders) {
+        if (const std::string reason = whyNotTrusted(folder); !reason.empty()) {
+            search.problems.push_back(folder + " is left out: " + reason);
+            continue;
+        }
         for (const std::string& file : librariesIn(folder))
             load(file, search);
     }

@@ -46,7 +46,8 @@ struct PluginSearch {
                                                      const std::string& userDataFolder);
 
 /// Loads every `.so` file of the folders, in order and each by name, and then the given files. Of
-/// two plug-ins with the same identifier the first counts.
+/// two plug-ins with the same identifier the first counts. Folders and files that other users could
+/// change are left out.
 [[nodiscard]] PluginSearch loadPlugins(const std::vector<std::string>& folders,
                                        const std::vector<std::string>& files);
 
