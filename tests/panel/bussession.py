@@ -76,7 +76,7 @@ class BusSession:
         self.folder = os.path.join(scratch, str(time.monotonic_ns()))
         os.mkdir(self.folder)
         self.bus = subprocess.Popen(
-            ["dbus-daemon", "--session", "--nofork", "--print-address=1"],
+            ["dbus-daemon", "--session", "--nofork", "--print-address=1", f"--address=unix:path={self.folder}/bus"],
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         self.address = self.bus.stdout.readline().strip()
         self.environment = dict(
