@@ -3,8 +3,9 @@ PRESETS ?= release sanitize
 COLOR ?= \#ff8000
 
 SECONDS ?= 60
+EVENTS ?= 1000000
 
-.PHONY: run build test bench fuzz format check screenshots clean packages
+.PHONY: run build test bench endurance fuzz format check screenshots clean packages
 
 run: build
 	@tools/run-panel "$(COLOR)"
@@ -31,6 +32,9 @@ fuzz: packages
 	@cmake --preset fuzz > /dev/null
 	@cmake --build --preset fuzz
 	@tools/run-fuzzers $(SECONDS)
+
+endurance: build
+	@tools/run-endurance $(EVENTS)
 
 screenshots: build
 	@tools/make-screenshots

@@ -1,5 +1,6 @@
 #include "FuzzTexts.h"
 #include "hosts/headless/MemoryFiles.h"
+#include "plist/PropertyListReader.h"
 #include "settings/SettingsFile.h"
 
 /// Whatever the settings file holds, the settings that were read from it are written and read back
@@ -10,11 +11,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MemoryFiles files;
     files.createDirectory("/home/user/.local/share/Vantorel");
     const std::string path = *hexColorPickerDefaultsFileName(files);
-    files.writeAtomically(path, std::string(bytesFrom(data, size)));
+    const std::string bytes(bytesFrom(data, size));
+    files.writeAtomically(path, bytes);
     QTXHexSettings settings;
     initializeDefaults(files, settings);
     require(!settings.codeSnippets().empty());
     static_cast<void>(settings.codeSnippet());
+    // What was not read leaves the settings of a first start, which are always the same.
+    if (!isWellFormedUtf8(bytes) || !parsePropertyList(utf16FromUtf8(bytes))) return 0;
     writeDefaults(files, settings);
     const auto written = files.contentsAtPath(path);
     QTXHexSettings again;

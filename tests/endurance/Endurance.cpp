@@ -1,0 +1,95 @@
+#include "Endurance.h"
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <vector>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
+
+namespace vantorel {
+namespace {
+
+/// What the program has asked for and not given back. The size of the process says less: it depends
+/// on what the allocator keeps.
+std::size_t allocatedBytes()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    const struct mallinfo2 info = ::mallinfo2();
+    return info.uordblks + info.hblkhd;
+#endif
+}
+
+std::size_t openHandles()
+{
+    const std::filesystem::directory_iterator folder("/proc/self/fd");
+    return static_cast<std::size_t>(std::distance(begin(folder), end(folder)));
+}
+
+struct Sample {
+    double event = 0;
+    double bytes = 0;
+};
+
+/// By least squares.
+double slopeOf(const std::vector<Sample>& samples)
+{
+    const auto count = static_cast<double>(samples.size());
+    Sample mean;
+    for (const Sample& sample : samples) {
+        mean.event += sample.event / count;
+        mean.bytes += sample.bytes / count;
+    }
+    double products = 0;
+    double squares = 0;
+    for (const Sample& sample : samples) {
+        products += (sample.event - mean.event) * (sample.bytes - mean.bytes);
+        squares += (sample.event - mean.event) * (sample.event - mean.event);
+    }
+    return squares > 0 ? products / squares : 0;
+}
+
+}  // namespace
+
+std::size_t eventsToEndure(std::size_t usual)
+{
+    const char* wish = std::getenv("VANTOREL_EVENTS");
+    const std::size_t events = wish != nullptr ? std::strtoull(wish, nullptr, 10) : 0;
+    return events > 0 ? events : usual;
+}
+
+Endurance endure(std::size_t events, const std::function<void()>& act,
+                 const std::function<void()>& settle)
+{
+    constexpr std::size_t sampleCount = 1000;
+    const std::size_t step = std::max<std::size_t>(1, events / sampleCount);
+    std::vector<Sample> samples;
+    samples.reserve(events / step + 1);
+    Endurance result{events, 0, 0, 0};
+    for (std::size_t i = 0; i < events; ++i) {
+        act();
+        if (i < events / 10) continue;
+        if (i == events / 10) result.handlesBefore = openHandles();
+        if (i % step != 0) continue;
+        settle();
+        samples.push_back({static_cast<double>(i), static_cast<double>(allocatedBytes())});
+    }
+    result.bytesPerEvent = slopeOf(samples);
+    result.handlesAfter = openHandles();
+    std::printf(
+        "%zu events; after the first tenth %.0f bytes in use, at the end %.0f: %.4f bytes "
+        "an event; handles %zu, then %zu\n",
+        events, samples.front().bytes, samples.back().bytes, result.bytesPerEvent,
+        result.handlesBefore, result.handlesAfter);
+    return result;
+}
+
+}  // namespace vantorel
