@@ -15,7 +15,8 @@ namespace vantorel {
 /// What the commands work with. Settings and lists are read when they are asked for first.
 class Session {
 public:
-    Session() = default;
+    /// What cannot be written is told with the system's reason.
+    Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 

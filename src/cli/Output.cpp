@@ -2,6 +2,7 @@
 
 #include "cli/Failure.h"
 #include "hosts/posix/PosixFiles.h"
+#include "hosts/posix/SystemCalls.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -17,28 +18,22 @@ namespace {
 bool writeAll(int descriptor, std::string_view bytes)
 {
     while (!bytes.empty()) {
-        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR) continue;
+        const ssize_t count =
+            uninterrupted([&] { return ::write(descriptor, bytes.data(), bytes.size()); });
         if (count <= 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
 }
 
-mode_t usualFileMode()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
-}
-
 /// For pipes and devices, which cannot be replaced.
 bool writeInto(const std::string& path, std::string_view bytes)
 {
-    const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    const int file = uninterrupted([&] { return ::open(path.c_str(), O_WRONLY | O_CLOEXEC); });
     if (file < 0) return false;
     const bool written = writeAll(file, bytes);
-    return ::close(file) == 0 && written;
+    // Interrupted, it is closed all the same.
+    return (::close(file) == 0 || errno == EINTR) && written;
 }
 
 }  // namespace
@@ -94,10 +89,8 @@ void writeFile(Output& output, const std::string& path, std::string_view bytes)
     if (exists && !S_ISREG(status.st_mode)) {
         written = writeInto(path, bytes);
     } else {
-        const std::string target = absolutePath(path);
-        written = PosixFiles(std::string("/")).writeAtomically(target, std::string(bytes));
-        // Its usual mode is for what belongs to the user alone.
-        if (written && !exists) ::chmod(target.c_str(), usualFileMode());
+        written =
+            PosixFiles(std::string("/")).writeForOthers(absolutePath(path), std::string(bytes));
     }
     if (!written) {
         throw Failure{quotedText(path) + " cannot be written",

@@ -53,6 +53,11 @@ public:
         return _files.contentsAtPath(path);
     }
     bool writeAtomically(const std::string&, const std::string&) override { return false; }
+    HostFileCreation createAtomically(const std::string&, const std::string&) override
+    {
+        return HostFileCreation::failed;
+    }
+    bool writeForOthers(const std::string&, const std::string&) override { return false; }
 
 private:
     const HostFiles& _files;

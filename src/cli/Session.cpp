@@ -1,8 +1,19 @@
 #include "cli/Commands.h"
+#include "cli/Failure.h"
 
 #include "settings/SettingsFile.h"
 
 namespace vantorel {
+
+Session::Session()
+{
+    _files.setComplaint([this](const auto& path, auto trouble, const auto& reason) {
+        // What is missing of an answer is told by the command that wanted it.
+        if (trouble == PosixFiles::Trouble::reading) return;
+        _output.flush();
+        complain(quotedText(path) + " cannot be written", reason);
+    });
+}
 
 const QTXHexSettings& Session::settings()
 {

@@ -7,6 +7,7 @@
 #include "settings/SettingsFile.h"
 
 #include <filesystem>
+#include <iostream>
 
 /// A picker's life: opening, closing, and what happens around it.
 namespace vantorel {
@@ -37,7 +38,12 @@ std::unique_ptr<HostFiles> filesFrom(const Json& request)
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
     if (error) throw DriverError("home is no path: " + error.message());
-    return std::make_unique<PosixFiles>(absolute.lexically_normal().string());
+    auto files = std::make_unique<PosixFiles>(absolute.lexically_normal().string());
+    files->setComplaint([](const auto& name, auto trouble, const auto& reason) {
+        std::cerr << "vantorel-driver: " << name << ' ' << PosixFiles::textOf(trouble) << ": "
+                  << reason << '\n';
+    });
+    return files;
 }
 
 DriverPanel::Options optionsFrom(const Json& request)

@@ -18,6 +18,8 @@ struct HostBaseDirectories {
 
 enum class HostFileKind { none, file, folder };
 
+enum class HostFileCreation { made, pathIsTaken, failed };
+
 /// The files of the user. Paths are absolute, in the file system's own bytes, parts joined by "/".
 /// Nothing here throws for what the disk does: failures are in the results.
 class HostFiles {
@@ -32,7 +34,8 @@ public:
     /// leads to differs from machine to machine.
     [[nodiscard]] virtual HostBaseDirectories baseDirectories() const { return {}; }
 
-    /// What stands at a path, links followed.
+    /// What stands at a path, links followed. `none` is certain: where it cannot be told what
+    /// stands there, it counts as a file, so that nobody puts another in its place.
     [[nodiscard]] virtual HostFileKind kindAtPath(const std::string& path) const = 0;
     /// A number that changes when the file, or the list of names in the folder, at a path does; 0
     /// when there is nothing. It tells only whether to look again.
@@ -49,8 +52,16 @@ public:
     /// The bytes of a file; nothing when it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> contentsAtPath(
         const std::string& path) const = 0;
-    /// Replaces the whole file at once: a reader, or a crash, sees the old bytes or the new ones.
+    /// Replaces the whole file at once: a reader, or a crash, sees the old bytes or the new ones. A
+    /// new file is readable by the user alone; one that was there keeps its permissions.
     virtual bool writeAtomically(const std::string& path, const std::string& bytes) = 0;
+    /// The same where nothing stands, not even a link: of several programs that make one file at
+    /// the same time one succeeds, and nothing is replaced.
+    virtual HostFileCreation createAtomically(const std::string& path,
+                                              const std::string& bytes) = 0;
+    /// As `writeAtomically`, for a file that the user names or that another program reads: a new
+    /// one gets the permissions that files of the user's programs usually get.
+    virtual bool writeForOthers(const std::string& path, const std::string& bytes) = 0;
 };
 
 /// The resources that came with a plug-in, by name.

@@ -345,8 +345,8 @@ void PalettesWidget::importFiles(const QStringList& paths)
 void PalettesWidget::saveCopy(const QString& path)
 {
     const std::u16string name = u16From(nameOfList());
-    const bool saved = _files.writeAtomically(QFile::encodeName(path).toStdString(),
-                                              paletteText(*listOfEntries(name, entries())));
+    const bool saved = _files.writeForOthers(QFile::encodeName(path).toStdString(),
+                                             paletteText(*listOfEntries(name, entries())));
     showRemark(saved ? tr("Saved as %1.").arg(path)
                      : tr("%1 could not be written. May you write there, and is there room on the "
                           "disk?")

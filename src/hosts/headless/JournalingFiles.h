@@ -52,6 +52,14 @@ public:
         if (written && path.ends_with("/Settings.plist")) _journal.emplace_back(SettingsWritten{});
         return written;
     }
+    HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override
+    {
+        return _files->createAtomically(path, bytes);
+    }
+    bool writeForOthers(const std::string& path, const std::string& bytes) override
+    {
+        return _files->writeForOthers(path, bytes);
+    }
 
 private:
     std::unique_ptr<HostFiles> _files;

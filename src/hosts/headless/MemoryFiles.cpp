@@ -83,6 +83,12 @@ bool MemoryFiles::writeAtomically(const std::string& path, const std::string& by
     return kindAtPath(path) != HostFileKind::folder && put(path, HostFileKind::file, bytes);
 }
 
+HostFileCreation MemoryFiles::createAtomically(const std::string& path, const std::string& bytes)
+{
+    if (kindAtPath(path) != HostFileKind::none) return HostFileCreation::pathIsTaken;
+    return put(path, HostFileKind::file, bytes) ? HostFileCreation::made : HostFileCreation::failed;
+}
+
 void MemoryFiles::remove(const std::string& path)
 {
     if (_entries.count(path) == 0) return;

@@ -25,6 +25,12 @@ public:
         const std::string& path) const override;
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
+    HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
+    /// There are no permissions here.
+    bool writeForOthers(const std::string& path, const std::string& bytes) override
+    {
+        return writeAtomically(path, bytes);
+    }
 
     void setBaseDirectories(HostBaseDirectories directories)
     {

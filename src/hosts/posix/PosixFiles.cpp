@@ -1,5 +1,7 @@
 #include "hosts/posix/PosixFiles.h"
 
+#include "hosts/posix/AtomicWrite.h"
+#include "hosts/posix/SystemCalls.h"
 #include "hosts/posix/UserDirectories.h"
 
 #include <dirent.h>
@@ -10,74 +12,45 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <memory>
+#include <system_error>
 
 namespace vantorel {
 namespace {
 
 constexpr mode_t ownFolderMode = 0700;
-constexpr mode_t ownFileMode = 0600;
 
-/// A file descriptor that is closed at the end.
-class Descriptor {
-public:
-    explicit Descriptor(int value) : _value(value) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor()
-    {
-        if (_value >= 0) ::close(_value);
-    }
-    [[nodiscard]] int value() const { return _value; }
-    explicit operator bool() const { return _value >= 0; }
+/// 0, or the error number.
+int makeFolder(const std::string& path)
+{
+    const int made = uninterrupted([&] { return ::mkdir(path.c_str(), ownFolderMode); });
+    if (made != 0) return errno;
+    // What is written into it next must not be lost with it.
+    synchronizeFolder(folderOfPath(path));
+    return 0;
+}
 
-private:
-    int _value;
-};
-
-bool makeFolders(const std::string& path)
+void makeFolders(const std::string& path)
 {
     for (std::size_t end = path.find('/', 1); end != std::string::npos;
          end = path.find('/', end + 1)) {
-        ::mkdir(path.substr(0, end).c_str(), ownFolderMode);
+        makeFolder(path.substr(0, end));
     }
-    return ::mkdir(path.c_str(), ownFolderMode) == 0 || errno == EEXIST;
+    makeFolder(path);
 }
 
-/// The path itself, or where the link at it leads; a dangling link leads to where the file will be,
-/// a circle of links nowhere.
-std::optional<std::string> withLinksFollowed(std::string path)
+DIR* openFolder(const std::string& path)
 {
-    constexpr int mostLinks = 40;
-    for (int i = 0; i < mostLinks; ++i) {
-        std::array<char, PATH_MAX> target{};
-        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
-        if (length <= 0) return path;
-        std::string next(target.data(), static_cast<std::size_t>(length));
-        if (next.front() != '/') next.insert(0, path, 0, path.rfind('/') + 1);
-        path = std::move(next);
-    }
-    return std::nullopt;
+    DIR* folder = ::opendir(path.c_str());
+    while (folder == nullptr && errno == EINTR)
+        folder = ::opendir(path.c_str());
+    return folder;
 }
 
-bool writeAll(int file, const std::string& bytes)
+/// Whether what was to be looked at is not there, as against cannot be told.
+bool isMissing(int error)
 {
-    std::size_t written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count = ::write(file, bytes.data() + written, bytes.size() - written);
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) return false;
-        written += static_cast<std::size_t>(count);
-    }
-    return true;
-}
-
-void synchronizeFolder(const std::string& path)
-{
-    const Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder) ::fsync(folder.value());
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
 }
 
 }  // namespace
@@ -106,14 +79,19 @@ std::optional<std::string> PosixFiles::applicationSupportDirectory() const
 HostFileKind PosixFiles::kindAtPath(const std::string& path) const
 {
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return HostFileKind::none;
+    if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) {
+        if (isMissing(errno)) return HostFileKind::none;
+        // Nobody may take the place of a file for free because the disk would not tell.
+        complain(path, Trouble::reading, errno);
+        return HostFileKind::file;
+    }
     return S_ISDIR(status.st_mode) ? HostFileKind::folder : HostFileKind::file;
 }
 
 std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
 {
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return 0;
+    if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) return 0;
     std::uint64_t version = 0xcbf29ce484222325U;
     for (const auto part :
          {static_cast<std::uint64_t>(status.st_mtim.tv_sec),
@@ -130,43 +108,60 @@ std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
 std::string PosixFiles::identityAtPath(const std::string& path) const
 {
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return {};
+    if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) return {};
     return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
 }
 
 bool PosixFiles::createDirectory(const std::string& path)
 {
-    return ::mkdir(path.c_str(), ownFolderMode) == 0;
+    const int error = makeFolder(path);
+    if (error != 0 && error != EEXIST) complain(path, Trouble::writing, error);
+    return error == 0;
 }
 
 std::vector<std::string> PosixFiles::contentsOfDirectory(const std::string& path) const
 {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path.c_str()), ::closedir);
-    if (!folder) return names;
-    while (const dirent* entry = ::readdir(folder.get())) {
-        const std::string name = entry->d_name;
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(openFolder(path), ::closedir);
+    if (!folder) {
+        if (!isMissing(errno)) complain(path, Trouble::reading, errno);
+        return names;
+    }
+    errno = 0;
+    for (const dirent* entry = ::readdir(folder.get()); entry != nullptr || errno == EINTR;
+         errno = 0, entry = ::readdir(folder.get())) {
+        const std::string name = entry != nullptr ? entry->d_name : ".";
         if (name != "." && name != "..") names.push_back(name);
     }
+    if (errno != 0) complain(path, Trouble::reading, errno);
     std::sort(names.begin(), names.end());
     return names;
 }
 
 std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) const
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const Descriptor file(
+        uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
     struct stat status {};
-    if (!file || ::fstat(file.value(), &status) != 0 || !S_ISREG(status.st_mode) ||
-        static_cast<std::uint64_t>(status.st_size) > largestFile) {
+    if (!file || uninterrupted([&] { return ::fstat(file.value(), &status); }) != 0) {
+        if (!isMissing(errno)) complain(path, Trouble::reading, errno);
+        return std::nullopt;
+    }
+    if (!S_ISREG(status.st_mode)) return std::nullopt;
+    if (static_cast<std::uint64_t>(status.st_size) > largestFile) {
+        complain(path, Trouble::reading, EFBIG);
         return std::nullopt;
     }
     std::string bytes;
     bytes.reserve(static_cast<std::size_t>(status.st_size));
     std::array<char, 65536> buffer{};
     while (true) {
-        const ssize_t count = ::read(file.value(), buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return std::nullopt;
+        const ssize_t count =
+            uninterrupted([&] { return ::read(file.value(), buffer.data(), buffer.size()); });
+        if (count < 0) {
+            complain(path, Trouble::reading, errno);
+            return std::nullopt;
+        }
         if (count == 0) return bytes;
         bytes.append(buffer.data(), static_cast<std::size_t>(count));
         // It may grow while it is read.
@@ -176,25 +171,39 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
 
 bool PosixFiles::writeAtomically(const std::string& path, const std::string& bytes)
 {
-    const std::optional<std::string> target = withLinksFollowed(path);
-    if (!target) return false;
-    std::string temporary = *target + ".XXXXXX";
-    struct stat replaced {};
-    const bool replaces = ::stat(target->c_str(), &replaced) == 0;
-    if (replaces && !S_ISREG(replaced.st_mode)) return false;
+    return write(path, bytes, {}) == 0;
+}
 
-    const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (!file) return false;
-    const bool written =
-        ::fchmod(file.value(), replaces ? replaced.st_mode & 07777 : ownFileMode) == 0 &&
-        writeAll(file.value(), bytes) && ::fsync(file.value()) == 0 &&
-        ::rename(temporary.c_str(), target->c_str()) == 0;
-    if (!written) {
-        ::unlink(temporary.c_str());
-        return false;
-    }
-    synchronizeFolder(target->substr(0, target->rfind('/')));
-    return true;
+HostFileCreation PosixFiles::createAtomically(const std::string& path, const std::string& bytes)
+{
+    const int error = write(path, bytes, {.existing = AtomicWrite::Existing::refused});
+    if (error == 0) return HostFileCreation::made;
+    return error == EEXIST ? HostFileCreation::pathIsTaken : HostFileCreation::failed;
+}
+
+bool PosixFiles::writeForOthers(const std::string& path, const std::string& bytes)
+{
+    return write(path, bytes, {.readers = AtomicWrite::Readers::usual}) == 0;
+}
+
+int PosixFiles::write(const std::string& path, const std::string& bytes, AtomicWrite manner)
+{
+    const int error = _writer.write(path, bytes, manner);
+    if (error != 0 && error != EEXIST) complain(path, Trouble::writing, error);
+    return error;
+}
+
+void PosixFiles::complain(const std::string& path, Trouble trouble, int error) const
+{
+    // Programs look at the same files again and again.
+    if (!_complaint || (trouble == Trouble::reading && !_toldUnreadable.insert(path).second))
+        return;
+    _complaint(path, trouble, std::generic_category().message(error));
+}
+
+std::string PosixFiles::textOf(Trouble trouble)
+{
+    return trouble == Trouble::reading ? "cannot be read" : "cannot be written";
 }
 
 }  // namespace vantorel

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "host/HostFiles.h"
+#include "hosts/posix/AtomicWrite.h"
+
+#include <functional>
+#include <set>
 
 namespace vantorel {
 
@@ -19,6 +23,7 @@ public:
     /// Makes the folder when it is missing.
     [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override;
     [[nodiscard]] HostBaseDirectories baseDirectories() const override { return _baseDirectories; }
+    /// A file, too, where the disk does not tell.
     [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override;
     [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override;
     [[nodiscard]] std::string identityAtPath(const std::string& path) const override;
@@ -27,14 +32,30 @@ public:
         const std::string& path) const override;
     /// Regular files only, so that it never waits for a pipe, and none above `largestFile`.
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
-    /// Through a new file in the same folder, which is synchronised with the disk and then renamed.
-    /// A file that is replaced hands its permissions on; a link is followed, and stays. Links that
-    /// lead in a circle are a failure.
+    /// By an `AtomicWriter`, as are the two below.
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
+    HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
+    bool writeForOthers(const std::string& path, const std::string& bytes) override;
+
+    enum class Trouble { reading, writing };
+    /// `complaint` is told of each file or folder that stands there and could not be read, or that
+    /// could not be written or made, with the system's reason in English; of what cannot be read
+    /// only once. Pages do not tell of all that fails, so that a host should.
+    using Complaint =
+        std::function<void(const std::string& path, Trouble trouble, const std::string& reason)>;
+    void setComplaint(Complaint complaint) { _complaint = std::move(complaint); }
+    /// The two as a sentence's end: "cannot be read".
+    [[nodiscard]] static std::string textOf(Trouble trouble);
 
 private:
+    int write(const std::string& path, const std::string& bytes, AtomicWrite manner);
+    void complain(const std::string& path, Trouble trouble, int error) const;
+
     HostBaseDirectories _baseDirectories;
     std::optional<std::string> _applicationSupportDirectory;
+    Complaint _complaint;
+    mutable std::set<std::string> _toldUnreadable;
+    AtomicWriter _writer;
 };
 
 }  // namespace vantorel

@@ -33,7 +33,12 @@ private:
 
 }  // namespace
 
-QtDesktop::QtDesktop() : _colorLists(_files, [this](const std::u16string& line) { log(line); }) {}
+QtDesktop::QtDesktop() : _colorLists(_files, [this](const std::u16string& line) { log(line); })
+{
+    _files.setComplaint([this](const auto& path, auto trouble, const auto& reason) {
+        log(utf16FromUtf8(path + " " + PosixFiles::textOf(trouble) + ": " + reason));
+    });
+}
 
 std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::function<void()> reaction)
 {
