@@ -78,7 +78,7 @@ void QTXHexColorPicker::awakeFromNib()
     // Asked before the settings file is read, so it is always yes here: the built-in lists are
     // looked up at every start, whatever the file says.
     if (_hexSettings.createColorLists()) checkAndInstallColorLists(desktop.colorLists());
-    initializeDefaults(desktop.files(), _hexSettings);
+    _isSettingsFileTakenIn = initializeDefaults(desktop.files(), _hexSettings);
     buildColorListsPopup();
     syncListColorNames();
     syncPanel();

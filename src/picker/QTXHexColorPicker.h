@@ -186,6 +186,8 @@ private:
     /// Set until the interface is awake: start-up itself never writes the settings file, apart from
     /// making it when it is missing.
     bool __holdOffDefaultsStore = true;
+    /// Otherwise the file is kept beside the one that takes its place.
+    bool _isSettingsFileTakenIn = true;
     std::u16string _noMatchString;
     ColorNamesPopUpFiller _colorNamesFiller;
     ColorListIndex _namingIndex;

@@ -13,7 +13,11 @@ constexpr std::int64_t mostCubeRings = 17;
 
 void QTXHexColorPicker::storeDefaults()
 {
-    if (!__holdOffDefaultsStore) writeDefaults(colorPanel().desktop().files(), _hexSettings);
+    if (__holdOffDefaultsStore) return;
+    HostFiles& files = colorPanel().desktop().files();
+    if (!_isSettingsFileTakenIn && !keepDefaultsFile(files)) return;
+    _isSettingsFileTakenIn = true;
+    writeDefaults(files, _hexSettings);
 }
 
 void QTXHexColorPicker::entryFormAction(HostControl* sender)

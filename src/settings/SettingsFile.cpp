@@ -17,14 +17,13 @@ std::optional<std::string> defaultsFolderName(const HostFiles& files)
     return folder;
 }
 
-/// What the bytes of a settings file say, as far as they say anything.
-PropertyList dictionaryFromData(const std::optional<std::string>& bytes)
+/// What the bytes of a settings file say; nothing where they say nothing.
+std::optional<PropertyList> dictionaryFromData(const std::string& bytes)
 {
-    if (bytes && bytes->size() <= largestSettingsFile && isWellFormedUtf8(*bytes)) {
-        auto parsed = parsePropertyList(utf16FromUtf8(*bytes));
-        if (parsed && parsed->dictionary() != nullptr) return std::move(*parsed);
-    }
-    return PropertyList(PropertyList::Dictionary{});
+    if (bytes.size() > largestSettingsFile || !isWellFormedUtf8(bytes)) return std::nullopt;
+    auto parsed = parsePropertyList(utf16FromUtf8(bytes));
+    if (!parsed || parsed->dictionary() == nullptr) return std::nullopt;
+    return parsed;
 }
 
 }  // namespace
@@ -41,11 +40,16 @@ std::string settingsData(const QTXHexSettings& settings)
     return utf8FromUtf16(propertyListText(settings.propertyListRepresentation()));
 }
 
-void readDefaults(const HostFiles& files, QTXHexSettings& settings)
+bool readDefaults(const HostFiles& files, QTXHexSettings& settings)
 {
     const auto path = hexColorPickerDefaultsFileName(files);
-    if (!path) return;
-    settings.loadPropertyListRepresentation(dictionaryFromData(files.contentsAtPath(*path)));
+    if (!path) return true;
+    const auto bytes = files.contentsAtPath(*path);
+    const auto dictionary = bytes ? dictionaryFromData(*bytes) : std::nullopt;
+    settings.loadPropertyListRepresentation(
+        dictionary.value_or(PropertyList(PropertyList::Dictionary{})));
+    if (bytes) return dictionary.has_value() || bytes->empty();
+    return files.kindAtPath(*path) == HostFileKind::none;
 }
 
 void writeDefaults(HostFiles& files, const QTXHexSettings& settings)
@@ -54,19 +58,28 @@ void writeDefaults(HostFiles& files, const QTXHexSettings& settings)
     if (path) files.writeAtomically(*path, settingsData(settings));
 }
 
-void initializeDefaults(HostFiles& files, QTXHexSettings& settings)
+bool keepDefaultsFile(HostFiles& files)
+{
+    const auto path = hexColorPickerDefaultsFileName(files);
+    // A folder does not give way to a file, so it is safe, too.
+    if (!path || files.kindAtPath(*path) != HostFileKind::file) return true;
+    const auto bytes = files.contentsAtPath(*path);
+    return bytes && files.writeAtomically(*path + "~", *bytes);
+}
+
+bool initializeDefaults(HostFiles& files, QTXHexSettings& settings)
 {
     const auto folder = defaultsFolderName(files);
     const auto path = hexColorPickerDefaultsFileName(files);
-    if (!folder || !path) return;
+    if (!folder || !path) return true;
     const bool folderWasThere = files.kindAtPath(*folder) == HostFileKind::folder;
     if (!folderWasThere) files.createDirectory(*folder);
-    if (files.kindAtPath(*folder) != HostFileKind::folder) return;
+    if (files.kindAtPath(*folder) != HostFileKind::folder) return false;
     if (files.kindAtPath(*path) == HostFileKind::none) {
         writeDefaults(files, settings);
-    } else if (folderWasThere) {
-        readDefaults(files, settings);
+        return true;
     }
+    return folderWasThere && readDefaults(files, settings);
 }
 
 }  // namespace vantorel
