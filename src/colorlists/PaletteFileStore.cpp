@@ -13,6 +13,8 @@ constexpr const char* palettesFolder = "/Palettes";
 constexpr std::string_view fileEnding = ".gpl";
 /// File systems take 255 bytes a name; the rest is for the ending and a temporary file's.
 constexpr std::size_t longestBaseName = 200;
+/// Where this many are taken, the disk does not tell which are free.
+constexpr int mostFilesOfAName = 10000;
 
 bool isSafe(unsigned char c)
 {
@@ -160,10 +162,11 @@ std::vector<std::u16string> PaletteFileStore::availableColorLists()
     return _catalogue.names();
 }
 
-std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u16string& name)
+std::optional<std::string> PaletteFileStore::fileNameOfSaved(PaletteFolder& own,
+                                                             const std::u16string& name)
 {
     own.lookAgain();
-    std::string usual = fileNameOfList(name);
+    const std::string usual = fileNameOfList(name);
     // A name can hold more than a file tells; what counts is how it would be read there.
     const auto nameInFile = [&](const std::string& fileName) {
         return paletteName(paletteText(HostColorList(name)),
@@ -179,19 +182,14 @@ std::string PaletteFileStore::fileNameForSaving(PaletteFolder& own, const std::u
         own.files().begin(), own.files().end(),
         [&](const auto& entry) { return entry.second.isPalette && entry.second.listName == name; });
     if (elsewhere != own.files().end()) return elsewhere->first;
-
-    return unusedFileName(own, usual);
+    return std::nullopt;
 }
 
-std::string PaletteFileStore::unusedFileName(const PaletteFolder& own, const std::string& usual)
+std::string PaletteFileStore::numberedFileName(const std::string& usual, int number)
 {
-    std::string fileName = usual;
-    for (int number = 2; _hostFiles.kindAtPath(own.pathOfFile(fileName)) != HostFileKind::none;
-         ++number) {
-        fileName = usual.substr(0, usual.size() - fileEnding.size());
-        fileName.append(" ").append(std::to_string(number)).append(fileEnding);
-    }
-    return fileName;
+    if (number == 1) return usual;
+    std::string fileName = usual.substr(0, usual.size() - fileEnding.size());
+    return fileName.append(" ").append(std::to_string(number)).append(fileEnding);
 }
 
 std::vector<ListedPalette> PaletteFileStore::listedPalettes()
@@ -231,12 +229,22 @@ std::optional<std::string> PaletteFileStore::writeNewFile(
 {
     PaletteFolder* own = writableFolder();
     if (own == nullptr) return std::nullopt;
-    const std::string fileName = unusedFileName(*own, fileNameOfList(list->name()));
-    std::string path = own->pathOfFile(fileName);
     _isCatalogueCurrent = false;
-    if (!_hostFiles.writeAtomically(path, text)) return std::nullopt;
-    own->setListInFile(fileName, list);
-    return path;
+    const std::string usual = fileNameOfList(list->name());
+    for (int number = 1; number <= mostFilesOfAName; ++number) {
+        const std::string fileName = numberedFileName(usual, number);
+        std::string path = own->pathOfFile(fileName);
+        switch (_hostFiles.createAtomically(path, text)) {
+            case HostFileCreation::made:
+                own->setListInFile(fileName, list);
+                return path;
+            case HostFileCreation::pathIsTaken:
+                break;
+            case HostFileCreation::failed:
+                return std::nullopt;
+        }
+    }
+    return std::nullopt;
 }
 
 bool PaletteFileStore::replaceFile(const std::string& path,
@@ -259,11 +267,24 @@ bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list
     PaletteFolder* own = list ? writableFolder() : nullptr;
     if (own == nullptr) return false;
     _isCatalogueCurrent = false;
-    const std::string fileName = fileNameForSaving(*own, list->name());
-    if (!_hostFiles.writeAtomically(own->pathOfFile(fileName), paletteText(*list))) return false;
-    // The list in hand goes on being the installed one.
-    own->setListInFile(fileName, list);
-    return true;
+    const std::string text = paletteText(*list);
+    const std::string usual = fileNameOfList(list->name());
+    for (int number = 1; number <= mostFilesOfAName; ++number) {
+        // Asked each time: whoever was faster may have saved the same list.
+        const auto saved = fileNameOfSaved(*own, list->name());
+        const std::string fileName = saved.value_or(numberedFileName(usual, number));
+        const std::string path = own->pathOfFile(fileName);
+        const auto creation =
+            saved ? (_hostFiles.writeAtomically(path, text) ? HostFileCreation::made
+                                                            : HostFileCreation::failed)
+                  : _hostFiles.createAtomically(path, text);
+        if (creation == HostFileCreation::failed) return false;
+        if (creation == HostFileCreation::pathIsTaken) continue;
+        // The list in hand goes on being the installed one.
+        own->setListInFile(fileName, list);
+        return true;
+    }
+    return false;
 }
 
 }  // namespace vantorel

@@ -75,8 +75,8 @@ private:
     [[nodiscard]] PaletteFolder* ownFolder();
     /// Our own folder, made where it is missing; null where that is not possible.
     [[nodiscard]] PaletteFolder* writableFolder();
-    /// A file that is not there yet, its name as near to `usual` as can be.
-    [[nodiscard]] std::string unusedFileName(const PaletteFolder& own, const std::string& usual);
+    /// `usual` with a number behind it, except for 1.
+    [[nodiscard]] static std::string numberedFileName(const std::string& usual, int number);
     /// Whether the file that the name of a list of our own says holds that list.
     [[nodiscard]] static bool isInUsualFile(PaletteFolder& own, const std::u16string& name);
     /// Whether a name that is not in the catalogue may have come.
@@ -86,7 +86,9 @@ private:
     [[nodiscard]] const PaletteCatalogue::Entry* rememberedEntry(const std::u16string& name) const;
     /// What a name is resolved to now; null when no list has it.
     [[nodiscard]] const PaletteCatalogue::Entry* entryNamed(const std::u16string& name);
-    [[nodiscard]] std::string fileNameForSaving(PaletteFolder& own, const std::u16string& name);
+    /// The file that a list of our own is in, and so is saved to; nothing for a new list.
+    [[nodiscard]] std::optional<std::string> fileNameOfSaved(PaletteFolder& own,
+                                                             const std::u16string& name);
 
     HostFiles& _hostFiles;
     Log _log;

@@ -81,6 +81,8 @@ void PaletteFolder::refresh(const std::string& fileName, File& file)
     file = {};
     file.version = version;
     const auto bytes = _hostFiles.contentsAtPath(path);
+    // A disk that has failed once may answer the next time, though nothing has changed on it.
+    if (!bytes) file.version = 0;
     auto name = bytes ? listNameIn(*bytes, fileName) : std::nullopt;
     if (!name) return;
     file.isPalette = true;

@@ -24,7 +24,7 @@ public:
     enum class Owner { ourselves, anotherProgram };
 
     struct File {
-        /// 0 where there is nothing, as behind a link that leads nowhere (yet).
+        /// 0 where there is nothing that can be read, as behind a link that leads nowhere (yet).
         std::uint64_t version = 0;
         /// Files that are none are kept in mind, too: they may be repaired in their place.
         bool isPalette = false;

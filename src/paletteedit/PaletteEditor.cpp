@@ -81,6 +81,11 @@ void PaletteEditor::readIfChanged(Record& record)
     if (record.hasOtherLines) record.state->bytes = std::make_shared<const std::string>(*bytes);
 }
 
+bool PaletteEditor::cannotBeLookedAt(const Record& record) const
+{
+    return record.version == 0 && _files.kindAtPath(record.path) != HostFileKind::none;
+}
+
 void PaletteEditor::lookAgain()
 {
     _palettes.clear();
@@ -298,6 +303,10 @@ std::optional<EditStep> PaletteEditor::commitRemoval(const EditStep& step, Occas
     Record* record = recordOf(step.list);
     if (record != nullptr) readIfChanged(*record);
     const bool again = occasion == Occasion::again;
+    if (record != nullptr && cannotBeLookedAt(*record)) {
+        outcome.remarks.push_back({EditRemark::notRemoved, step.before->name});
+        return std::nullopt;
+    }
     if (record == nullptr || record->version == 0) {
         // Gone already; the step has nothing left to do.
         return EditStep{step.list, step.before, std::nullopt};
@@ -323,6 +332,10 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
 {
     Record* record = recordOf(step.list);
     if (record != nullptr) readIfChanged(*record);
+    if (record != nullptr && cannotBeLookedAt(*record)) {
+        outcome.remarks.push_back({EditRemark::notSaved, step.after->name});
+        return std::nullopt;
+    }
     const bool isGone = record == nullptr || record->version == 0;
     if (isGone || !record->state) {
         // Not a palette any more: what stands there now is somebody's work.

@@ -112,6 +112,9 @@ private:
     Record* recordOf(PaletteId id);
     PaletteId idOfPath(const std::string& path);
     void readIfChanged(Record& record);
+    /// Whether the disk does not tell what is at its path. That must not be taken for a list that
+    /// has gone.
+    [[nodiscard]] bool cannotBeLookedAt(const Record& record) const;
     void lookAgain();
     /// A list of the user's own takes its name from one of another program, which is then listed
     /// with the program's name; that is no surprise only where it has had the name before.
