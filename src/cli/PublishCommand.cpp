@@ -22,6 +22,10 @@ void complainInOrder(Session& session, const std::string& what, const std::strin
 int takeListBack(Session& session, const std::u16string& name)
 {
     PublishRecords records(session.files(), name);
+    if (!records.isReadable()) {
+        throw Failure{"the record of what was published cannot be read",
+                      "the folder of your data may be read by you"};
+    }
     const auto latest = records.latest();
     if (!latest) {
         throw Failure{"the list " + quotedText(utf8FromUtf16(name)) + " has not been published",
@@ -98,6 +102,13 @@ int publishList(Session& session, const CommandLine& commandLine)
                 tell(session, "left as it is", target.file.path);
                 continue;
             }
+            // The answer can take a while.
+            if (session.files().contentsAtPath(target.file.path) != target.file.before) {
+                complainInOrder(session, quotedText(target.file.path) + " has just been changed",
+                                "publish once more");
+                status = failureStatus;
+                continue;
+            }
             publish.push_back(target.file);
         }
     }
@@ -114,7 +125,7 @@ int publishList(Session& session, const CommandLine& commandLine)
             return file.path == target.file.path;
         };
         if (std::find_if(publish.begin(), publish.end(), isPlanned) == publish.end()) continue;
-        if (session.files().writeAtomically(target.file.path, target.file.written)) {
+        if (session.files().writeForOthers(target.file.path, target.file.written)) {
             session.output().write((target.file.before ? "replaced for " : "written for ") +
                                    harmlessLine(describe(target)) + '\n');
             written.push_back(target.file);

@@ -5,6 +5,7 @@
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/PalettePlaces.h"
 #include "host/HostText.h"
+#include "hosts/posix/FileRemoval.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 
@@ -97,18 +98,30 @@ PublishRecords::PublishRecords(HostFiles& files, const std::u16string& listName)
     _path =
         *dataHome + "/Vantorel/Published/" + PaletteFileStore::fileNameOfList(listName) + ".plist";
     const auto bytes = files.contentsAtPath(*_path);
-    if (!bytes) return;
-    const auto record = parsePropertyList(utf16FromUtf8(*bytes));
+    if (bytes) {
+        read(*bytes);
+    } else {
+        _isReadable = files.kindAtPath(*_path) == HostFileKind::none;
+    }
+}
+
+void PublishRecords::read(const std::string& bytes)
+{
+    const auto record = parsePropertyList(utf16FromUtf8(bytes));
     const PropertyList* publishes = record ? record->valueForKey(publishesKey) : nullptr;
-    if (publishes == nullptr || publishes->array() == nullptr) return;
-    for (const PropertyList& element : *publishes->array()) {
-        if (element.array() == nullptr) continue;
+    bool isWhole = publishes != nullptr && publishes->array() != nullptr;
+    static const PropertyList::Array none;
+    for (const PropertyList& element : isWhole ? *publishes->array() : none) {
         Publish publish;
-        for (const PropertyList& file : *element.array()) {
-            if (auto published = publishedFileOf(file)) publish.push_back(std::move(*published));
+        for (const PropertyList& file : element.array() != nullptr ? *element.array() : none) {
+            auto published = publishedFileOf(file);
+            isWhole = isWhole && published.has_value();
+            if (published) publish.push_back(std::move(*published));
         }
+        isWhole = isWhole && !publish.empty();
         if (!publish.empty()) _publishes.push_back(std::move(publish));
     }
+    if (!isWhole) _damaged = bytes;
 }
 
 std::optional<PublishRecords::Publish> PublishRecords::latest() const
@@ -138,8 +151,10 @@ bool PublishRecords::replaceLatest(const Publish& publish)
 bool PublishRecords::save() const
 {
     const auto support = _files.applicationSupportDirectory();
-    if (!_path || !support) return false;
-    if (_publishes.empty()) return ::unlink(_path->c_str()) == 0;
+    // It may hold the only copies of what was replaced.
+    if (!_path || !support || !_isReadable) return false;
+    if (_damaged && !_files.writeAtomically(*_path + "~", *_damaged)) return false;
+    if (_publishes.empty()) return removeFile(*_path);
     for (const std::string& folder : {*support + "/Vantorel", *support + "/Vantorel/Published"}) {
         if (_files.kindAtPath(folder) == HostFileKind::none) _files.createDirectory(folder);
     }
@@ -167,7 +182,7 @@ TakenBack takeBack(HostFiles& files, const PublishedFile& file)
         return files.writeAtomically(file.path, *file.before) ? TakenBack::restored
                                                               : TakenBack::failed;
     }
-    return ::unlink(file.path.c_str()) == 0 ? TakenBack::removed : TakenBack::failed;
+    return removeFile(file.path) ? TakenBack::removed : TakenBack::failed;
 }
 
 }  // namespace vantorel

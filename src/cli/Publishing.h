@@ -45,6 +45,8 @@ public:
 
     using Publish = std::vector<PublishedFile>;
 
+    /// False while a record is there that the disk does not give; then nothing is recorded.
+    [[nodiscard]] bool isReadable() const { return _isReadable; }
     /// Nothing when nothing has been published.
     [[nodiscard]] std::optional<Publish> latest() const;
     /// False when the record cannot be written.
@@ -56,10 +58,15 @@ private:
     /// More are forgotten, the oldest first.
     static constexpr std::size_t mostKept = 20;
 
+    void read(const std::string& bytes);
     [[nodiscard]] bool save() const;
 
     HostFiles& _files;
     std::optional<std::string> _path;
+    bool _isReadable = true;
+    /// A record that is not understood whole; it is kept, with a "~", before another takes its
+    /// place.
+    std::optional<std::string> _damaged;
     std::vector<Publish> _publishes;
 };
 
