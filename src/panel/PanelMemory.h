@@ -23,7 +23,8 @@ struct PanelMemory {
 /// From `Vantorel/panel.ini` in the folder of the user's configuration; what is missing or damaged
 /// there has the values above.
 [[nodiscard]] PanelMemory readPanelMemory();
-/// A failure is nothing to trouble the user with: the next start is as the first.
-void writePanelMemory(const PanelMemory& memory);
+/// The whole file at once. False where it could not be written, of which a line has been written to
+/// standard error; what was kept before is still there.
+bool writePanelMemory(const PanelMemory& memory);
 
 }  // namespace vantorel

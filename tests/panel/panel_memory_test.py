@@ -1,0 +1,66 @@
+#!/usr/bin/env python3
+"""The panel's memory: calls that fail, processes that are killed, several at once, and who may read it.
+
+    panel_memory_test.py LIBRARY PANEL_MEMORY_CHANGES
+"""
+import os
+import random
+import subprocess
+import sys
+import time
+import unittest
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
+from failing_calls import FailingCallsTest  # noqa: E402
+
+LIBRARY, CHANGES = sys.argv[1:3]
+MEMORY = ".config/Vantorel/panel.ini"
+KILLS = 40
+ROUNDS = 15
+
+
+class PanelMemory(FailingCallsTest):
+    library = LIBRARY
+
+    def test_calls_that_fail(self):
+        self.check_command(lambda home: home.run([CHANGES, "1"]), [CHANGES, "200"])
+
+    def test_it_is_read_as_it_was_written(self):
+        with self.home as home:
+            for shade in range(0, 256, 5):
+                home.run([CHANGES, str(shade)])
+                written = home.read(MEMORY)
+                run = home.run([CHANGES])
+                self.assertEqual((run.status, home.read(MEMORY)), (0, written), run.complaint)
+
+    def test_a_killed_panel_leaves_it_whole(self):
+        rand = random.Random(3)
+        with self.home as home:
+            home.run([CHANGES, "1"])
+            for i in range(KILLS):
+                process = subprocess.Popen([CHANGES, str(i), "keep-on"], env=home.environment(), stderr=subprocess.DEVNULL)
+                time.sleep(rand.uniform(0.01, 0.05))
+                process.kill()
+                process.wait()
+                self.assertEqual(home.run([CHANGES]).status, 0, "not whole")
+                self.assertEqual(home.names(), [".config", ".config/Vantorel", MEMORY])
+
+    def test_several_at_once(self):
+        with self.home as home:
+            for i in range(ROUNDS):
+                writers = [subprocess.Popen([CHANGES, str(4 * i + k)], env=home.environment()) for k in range(4)]
+                self.assertEqual([writer.wait(60) for writer in writers], [0] * 4)
+                self.assertEqual(home.run([CHANGES]).status, 0, "not whole")
+
+    def test_it_is_the_users_alone(self):
+        for mask in (0o000, 0o022, 0o077):
+            with self.home as home:
+                home.run([CHANGES, "1"], umask=mask)
+                self.assertEqual([home.mode(name) for name in home.names()], [0o700, 0o700, 0o600])
+                os.chmod(home.at(MEMORY), 0o640)
+                home.run([CHANGES, "2"], umask=mask)
+                self.assertEqual(home.mode(MEMORY), 0o640)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:])
