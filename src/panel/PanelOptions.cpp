@@ -41,7 +41,8 @@ QString readStep(const QCommandLineParser& parser, PanelOptions& options)
     options.choice = parser.isSet(QStringLiteral("choose"));
     if (options.choice) given.append(QStringLiteral("--choose"));
     options.copyForm = parser.value(QStringLiteral("copy-as"));
-    if (options.screenshot && !given.isEmpty()) given.append(QStringLiteral("--screenshot"));
+    if (options.screenshot) given.append(QStringLiteral("--screenshot"));
+    if (parser.isSet(QStringLiteral("service"))) given.append(QStringLiteral("--service"));
     if (given.size() < 2) return {};
     return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
 }
@@ -79,7 +80,8 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     const auto color = option(
         "color", "Start with this colour: #rgb, #rrggbb, #rrggbbaa, rgb(r, g, b) or a CSS name.",
         "TEXT");
-    const auto page = option("page", "Start with this page: hex, dialog or palettes.", "PAGE");
+    const auto page = option(
+        "page", "Start with this page: hex, dialog, palettes, or one of another plug-in.", "PAGE");
     const auto mode =
         option("mode", "Start in this mode of the hex page: slider, palette or wheel.", "MODE");
     const auto size = option("size", "Size of the page in points, e.g. 260x340.", "WxH");
@@ -114,6 +116,9 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
                "Let the user choose one colour in a panel of its own, print it as a drag out of "
                "the panel would carry it, and end. Status: 0 chosen, 1 cancelled, 3 not possible.");
     const auto another = option("new", "Start a panel even where one runs already.");
+    const auto service = option("service",
+                                "Start without a window, do what is asked over D-Bus, and end when "
+                                "nobody asks any more: how the session bus starts the panel.");
     const auto help = option("help", "Show this help and end.");
     const auto version = option("version", "Show the version and end.");
 
@@ -122,7 +127,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         "A colour panel with pages by plug-ins. Where one runs already it is shown, "
         "and does what --color, --pick, --pick-and-copy, --copy and --copy-as say."));
     parser.addOptions({color, page, mode, size, screenshot, face, theme, data, plugin, printColor,
-                       pick, pickAndCopy, copy, copyAs, choose, another, help, version});
+                       pick, pickAndCopy, copy, copyAs, choose, another, service, help, version});
     if (!parser.parse(arguments)) return refusal(parser.errorText());
     if (parser.isSet(help)) return {{}, 0, parser.helpText()};
     if (parser.isSet(version)) {
@@ -141,12 +146,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
             return refusal(QStringLiteral("--color: \"%1\" is no colour; try #ff8000")
                                .arg(parser.value(color)));
     }
-    if (parser.isSet(page)) {
-        options.page = parser.value(page);
-        if (!QStringList{"hex", "dialog", "palettes"}.contains(*options.page))
-            return refusal(
-                QStringLiteral("--page is hex, dialog or palettes, not \"%1\"").arg(*options.page));
-    }
+    if (parser.isSet(page)) options.page = parser.value(page);
     if (parser.isSet(mode)) {
         options.mode = parser.value(mode);
         if (!QStringList{"slider", "palette", "wheel"}.contains(*options.mode))
@@ -182,7 +182,8 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     options.printColor = parser.isSet(printColor);
     options.plugins = parser.values(plugin);
     options.another = parser.isSet(another);
-    for (const auto& each : {mode, size, face, theme, data, plugin, printColor}) {
+    options.service = parser.isSet(service);
+    for (const auto& each : {page, mode, size, face, theme, data, plugin, printColor}) {
         if (parser.isSet(each))
             options.forStartsOnly.append(QStringLiteral("--") + each.names().front());
     }

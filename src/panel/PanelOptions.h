@@ -13,7 +13,7 @@ namespace vantorel {
 /// What the command line says.
 struct PanelOptions {
     std::optional<QColor> color;
-    /// hex, dialog or palettes
+    /// The key of a page; which ones there are depends on the plug-ins.
     std::optional<QString> page;
     /// slider, palette or wheel
     std::optional<QString> mode;
@@ -33,6 +33,8 @@ struct PanelOptions {
     QString copyForm;
     /// Start a panel even where one runs.
     bool another = false;
+    /// Start without a window, for calls over D-Bus.
+    bool service = false;
     /// The options given that a panel that runs already cannot follow, as they are written.
     QStringList forStartsOnly;
 };

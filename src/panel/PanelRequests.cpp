@@ -156,10 +156,15 @@ void PanelRequests::finish(const Done& done, const PanelAnswer& answer)
     lookWhetherNothingIsLeft();
 }
 
-void PanelRequests::lookWhetherNothingIsLeft()
+bool PanelRequests::isNothingLeft() const
 {
     const bool copied = QApplication::clipboard()->ownsClipboard();
-    if (!_window.isVisible() && _underWay == 0 && !copied) emit nothingLeft();
+    return !_window.isVisible() && _underWay == 0 && !copied;
+}
+
+void PanelRequests::lookWhetherNothingIsLeft()
+{
+    if (isNothingLeft()) emit nothingLeft();
 }
 
 }  // namespace vantorel

@@ -36,11 +36,13 @@ public:
     void cancelPick();
     /// Puts the colour on the clipboard and answers with the text that stands for it there.
     void copy(const QString& form, Done done);
+    /// Whether a panel without a window has nothing left to do.
+    [[nodiscard]] bool isNothingLeft() const;
     /// Does all that is ordered.
     void carryOut(const PanelOrder& order, Done done);
 
 signals:
-    /// A panel without a window has nothing left to do.
+    /// `isNothingLeft` has become true, or is so still.
     void nothingLeft();
 
 private:

@@ -103,6 +103,13 @@ void PanelService::waitForName()
     _bus.interface()->registerService(panelBusName, QDBusConnectionInterface::QueueService);
 }
 
+void PanelService::releaseName()
+{
+    if (!_bus.isConnected()) return;
+    disconnect(_bus.interface(), &QDBusConnectionInterface::serviceUnregistered, this, nullptr);
+    _bus.interface()->unregisterService(panelBusName);
+}
+
 ColorChannels PanelService::channels() const
 {
     const auto color = _window.chosenHostColor().calibratedRGB().value_or(HostColor::Components{});
@@ -112,17 +119,20 @@ ColorChannels PanelService::channels() const
 
 void PanelService::Show()
 {
+    emit called();
     _requests.show({});
 }
 
 void PanelService::Activate(const QVariantMap& platformData)
 {
+    emit called();
     _requests.show(
         {tokenIn(platformData, activationTokenKey), tokenIn(platformData, startupIDKey)});
 }
 
 void PanelService::SetColor(const QString& color)
 {
+    emit called();
     const PanelAnswer answer = _requests.setColor(color);
     if (const auto* refusal = std::get_if<PanelRefusal>(&answer))
         sendErrorReply(errorNameFor(refusal->kind), refusal->sentence);
@@ -130,6 +140,7 @@ void PanelService::SetColor(const QString& color)
 
 QString PanelService::GetColor() const
 {
+    emit called();
     return _requests.color();
 }
 
@@ -154,6 +165,7 @@ QString PanelService::Copy(const QString& form)
 
 int PanelService::keepCall()
 {
+    emit called();
     setDelayedReply(true);
     // Watched until it leaves, since it may well call again.
     _callers.addWatchedService(message().service());

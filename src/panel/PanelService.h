@@ -43,6 +43,8 @@ public:
     [[nodiscard]] Claim claimName();
     /// Takes the name when those who have it now have left.
     void waitForName();
+    /// Gives the name up, and returns when no more calls can come.
+    void releaseName();
 
     [[nodiscard]] ColorChannels channels() const;
 
@@ -57,6 +59,8 @@ public:
 
 signals:
     void ColorChanged(const QString& color);
+    /// Somebody has asked something.
+    void called() const;
     /// Other programs cannot reach the panel any more; `why` is one sentence for the user.
     void unreachable(const QString& why);
 

@@ -56,7 +56,8 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     makeCommands();
 
     addPages(plugins, problems);
-    if (!_pages.empty()) setWindowIcon(_pages.front()->icon());
+    const QIcon standIn = _pages.empty() ? QIcon() : _pages.front()->icon();
+    setWindowIcon(QIcon::fromTheme(QStringLiteral("org.vantorel.ColorPanel"), standIn));
     resizeToPage(firstPageSize);
     showPage(0);
     _tools->setColor(_color);
@@ -191,6 +192,14 @@ bool PanelWindow::showPageWithKey(const QString& key)
         return true;
     }
     return false;
+}
+
+QStringList PanelWindow::pageKeys() const
+{
+    QStringList keys;
+    for (const auto& page : _pages)
+        keys.append(page->key());
+    return keys;
 }
 
 void PanelWindow::chooseColor(const HostColor& color)

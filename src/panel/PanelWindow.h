@@ -43,6 +43,7 @@ public:
     void showPage(int index);
     /// False when there is no page of that key.
     bool showPageWithKey(const QString& key);
+    [[nodiscard]] QStringList pageKeys() const;
     [[nodiscard]] int pageCount() const { return static_cast<int>(_pages.size()); }
     [[nodiscard]] int currentPageIndex() const { return _currentPage; }
     /// The picker of the page on show; null for the panel's own pages.

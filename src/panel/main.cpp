@@ -9,6 +9,7 @@
 #include "panel/PanelWindow.h"
 #include "panel/PluginLoader.h"
 #include "panel/RunningPanel.h"
+#include "panel/ServiceLifetime.h"
 
 #include <QApplication>
 #include <QFile>
@@ -52,15 +53,18 @@ QString cssNameOf(const QColor& color)
     return u'#' + argb.mid(3) + argb.mid(1, 2);
 }
 
-void applyOptions(PanelWindow& window, const PanelOptions& options)
+/// False when the page that is asked for is missing; the rest is done.
+bool applyOptions(PanelWindow& window, const PanelOptions& options)
 {
     if (options.printColor) {
         window.addColorObserver(
             [](const HostColor& color) { print(stdout, cssNameOf(qColorFrom(color)) + u'\n'); });
     }
-    if (options.page && !window.showPageWithKey(*options.page)) {
-        print(stderr, QStringLiteral("vantorel-panel: --page: the page \"%1\" is missing\n")
-                          .arg(*options.page));
+    const bool hasPage = !options.page || window.showPageWithKey(*options.page);
+    if (!hasPage) {
+        print(stderr,
+              QStringLiteral("vantorel-panel: --page: there is no page \"%1\"; there are: %2\n")
+                  .arg(*options.page, window.pageKeys().join(QStringLiteral(", "))));
     }
     if (options.size) window.resizeToPage(*options.size);
     if (options.color) window.chooseColor(hostColorFrom(*options.color));
@@ -68,6 +72,7 @@ void applyOptions(PanelWindow& window, const PanelOptions& options)
     if (options.mode == QLatin1String("palette")) sendAction(window, "paletteViewModeAction");
     if (options.mode == QLatin1String("wheel")) sendAction(window, "cubeViewModeAction");
     if (options.settingsFace) sendAction(window, "settingsButtonAction");
+    return hasPage;
 }
 
 int saveScreenshot(PanelWindow& window, const QString& file)
@@ -135,6 +140,8 @@ std::optional<int> takePlace(PanelService& service, const RunningPanel& running,
     constexpr int mostAttempts = 3;
     for (int i = 0; i < mostAttempts; ++i) {
         if (service.claimName() != PanelService::Claim::taken) return std::nullopt;
+        // Who called gets the answer of the other.
+        if (options.service) return 0;
         if (options.another || contact != RunningPanel::Contact::none) break;
         if (const auto status = handOver(running, order, options, contact)) return status;
     }
@@ -207,7 +214,7 @@ int main(int argc, char** argv)
     auto contact = RunningPanel::Contact::none;
     std::optional<RunningPanel> running;
     if (!isAlone) running.emplace(QDBusConnection::sessionBus());
-    if (running && !options.another) {
+    if (running && !options.another && !options.service) {
         if (const auto status = handOver(*running, order, options, contact)) return *status;
     }
 
@@ -225,7 +232,7 @@ int main(int argc, char** argv)
     }
     if (!search.problems.empty()) window.showProblems(search.problems);
     if (options.screenshot) {
-        applyOptions(window, options);
+        if (!applyOptions(window, options)) return usageError;
         return saveScreenshot(window, *options.screenshot);
     }
     const PanelMemory recalled = readPanelMemory();
@@ -245,6 +252,7 @@ int main(int argc, char** argv)
     if (const QString remark = RunningPanel::remarkOn(contact); !remark.isEmpty()) tell(remark);
 
     int status = 0;
+    std::optional<ServiceLifetime> lifetime;
     if (staysHidden) {
         QTimer::singleShot(0, &requests, [&] {
             // Not sooner: while the order waits there is nothing under way.
@@ -254,6 +262,9 @@ int main(int argc, char** argv)
                 caller->release(status);
             });
         });
+    } else if (options.service) {
+        lifetime.emplace(service, requests);
+        QObject::connect(&*lifetime, &ServiceLifetime::ended, &QApplication::quit);
     } else {
         window.show();
     }

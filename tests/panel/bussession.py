@@ -17,9 +17,9 @@ PATIENCE = 40  # seconds
 RED = "#ff0000"
 
 
-def eventually(condition, what):
+def eventually(condition, what, patience=PATIENCE):
     """Waits until the condition holds, and returns what it gives."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + patience
     while True:
         result = condition()
         if result:
