@@ -1,0 +1,49 @@
+#!/usr/bin/env python3
+"""An installation for another place than the one it is written to, as packages are made.
+
+    destination_test.py TREE SOURCES BUILD
+"""
+import os
+
+from installedtree import BUILD, SOURCES, TREE, TreeTest, main, text_of
+
+PREFIX = "/opt/vantorel"
+
+
+def files_below(folder):
+    return sorted(os.path.relpath(os.path.join(place, name), folder)
+                  for place, _, names in os.walk(folder) for name in names)
+
+
+class DestinationTest(TreeTest):
+    def setUp(self):
+        super().setUp()
+        self.destination = os.path.join(self.scratch, "destination")
+        self.environment["DESTDIR"] = self.destination
+        self.passes("cmake", "--install", BUILD, "--prefix", PREFIX)
+
+    def test_all_files_come_below_the_destination_and_the_prefix(self):
+        here = files_below(self.destination)
+        self.assertEqual(here, [os.path.join(PREFIX, name)[1:] for name in files_below(TREE)])
+        self.assertIn("opt/vantorel/bin/vantorel", here)
+
+    def test_no_file_tells_of_the_destination_or_of_the_build(self):
+        for name in files_below(self.destination):
+            path = os.path.join(self.destination, name)
+            if not name.endswith((".so", ".a", ".png")) and "/bin/" not in name and not os.path.islink(path):
+                for folder in (self.destination, BUILD, SOURCES):
+                    self.assertNotIn(folder, text_of(path), name)
+
+    def test_the_bus_is_told_of_the_prefix(self):
+        service = text_of(f"{self.destination}{PREFIX}/share/dbus-1/services/org.vantorel.ColorPanel.service")
+        self.assertIn(f"Exec={PREFIX}/bin/vantorel-panel --service\n", service)
+
+    def test_no_link_leads_out_of_the_tree(self):
+        links = [name for name in files_below(self.destination) if os.path.islink(os.path.join(self.destination, name))]
+        for name in links:
+            path = os.path.realpath(os.path.join(self.destination, name))
+            self.assertTrue(path.startswith(os.path.realpath(self.destination) + "/") and os.path.exists(path), name)
+
+
+if __name__ == "__main__":
+    main()

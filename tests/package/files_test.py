@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""What is installed, as the programs of the desktop and the shells take it.
+
+    files_test.py TREE SOURCES BUILD
+"""
+import configparser
+import os
+import re
+import xml.etree.ElementTree as ElementTree
+
+from installedtree import SOURCES, TREE, TreeTest, main, text_of
+
+ID = "org.vantorel.ColorPanel"
+DESKTOP = f"{TREE}/share/applications/{ID}.desktop"
+METAINFO = f"{TREE}/share/metainfo/{ID}.metainfo.xml"
+ICONS = f"{TREE}/share/icons/hicolor"
+LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
+
+
+def ini(path):
+    parser = configparser.RawConfigParser(delimiters="=")
+    parser.optionxform = str
+    parser.read(path, encoding="utf-8")
+    return parser
+
+
+class DesktopTest(TreeTest):
+    def test_the_desktop_file_is_one(self):
+        self.assertEqual(self.passes("desktop-file-validate", DESKTOP), "")
+
+    def test_the_metainfo_is_one(self):
+        self.passes("appstreamcli", "validate", "--no-net", METAINFO)
+
+    def test_each_text_of_the_desktop_file_is_there_in_german(self):
+        file = ini(DESKTOP)
+        for section in file.sections():
+            for key in ("Name", "GenericName", "Comment", "Keywords"):
+                if file.has_option(section, key):
+                    self.assertTrue(file.has_option(section, key + "[de]") or file[section][key] == "Vantorel", (section, key))
+
+    def test_each_text_of_the_metainfo_is_there_in_german(self):
+        root = ElementTree.parse(METAINFO).getroot()
+        for tag in ("summary", "p", "li"):
+            languages = [each.get(LANGUAGE) for each in root.iter(tag)]
+            self.assertEqual(languages, [None, "de"] * (len(languages) // 2), tag)
+
+    def test_the_metainfo_chooses_no_licence_for_the_program(self):
+        self.assertIsNone(ElementTree.parse(METAINFO).getroot().find("project_license"))
+
+    def test_what_the_desktop_file_starts_is_there_and_knows_its_options(self):
+        file = ini(DESKTOP)
+        actions = file["Desktop Entry"]["Actions"].rstrip(";").split(";")
+        self.assertEqual({"Desktop Entry"} | {"Desktop Action " + name for name in actions}, set(file.sections()))
+        for section in file.sections():
+            program, *options = file[section]["Exec"].split()
+            path = os.path.join(TREE, "bin", program)
+            self.assertTrue(os.access(path, os.X_OK), path)
+            offered = re.findall(r"^  (--[a-z-]+)", self.passes(path, "--help"), re.M)
+            self.assertLessEqual(set(options), set(offered))
+
+    def test_the_icons_are_where_their_sizes_lead(self):
+        self.assertEqual(ini(DESKTOP)["Desktop Entry"]["Icon"], ID)
+        for path, size in [(f"16x16/apps/{ID}.svg", "16"), (f"scalable/apps/{ID}.svg", "128"), (f"symbolic/apps/{ID}-symbolic.svg", "16")]:
+            root = ElementTree.parse(f"{ICONS}/{path}").getroot()
+            self.assertEqual((root.get("width"), root.get("height")), (size, size), path)
+
+    def test_the_symbolic_icon_is_made_of_fills_which_desktops_recolour(self):
+        for each in ElementTree.parse(f"{ICONS}/symbolic/apps/{ID}-symbolic.svg").getroot().iter():
+            self.assertIsNone(each.get("stroke"))
+
+    def test_the_bus_finds_the_panel(self):
+        service = ini(f"{TREE}/share/dbus-1/services/{ID}.service")["D-BUS Service"]
+        program, option = service["Exec"].split()
+        self.assertEqual((service["Name"], option), (ID, "--service"))
+        self.assertTrue(os.path.samefile(program, f"{TREE}/bin/vantorel-panel"))
+
+    def test_the_interface_on_the_bus_is_described(self):
+        root = ElementTree.parse(f"{TREE}/share/dbus-1/interfaces/{ID}1.xml").getroot()
+        self.assertEqual(root.find("interface").get("name"), ID + "1")
+
+
+class VersionTest(TreeTest):
+    def test_all_that_tell_the_version_tell_the_same(self):
+        version = re.search(r"^project\(Vantorel VERSION ([0-9.]+)", text_of(f"{SOURCES}/CMakeLists.txt"), re.M).group(1)
+        releases = ElementTree.parse(METAINFO).getroot().iter("release")
+        self.assertEqual(next(releases).get("version"), version)
+        self.assertEqual(self.passes(f"{TREE}/bin/vantorel-panel", "--version"), f"vantorel-panel {version}\n")
+        changelog = text_of(f"{SOURCES}/debian/changelog")
+        self.assertEqual(re.match(r"vantorel \(([^)]+)\)", changelog).group(1), version)
+
+
+class ManualPageTest(TreeTest):
+    def test_mandoc_finds_nothing_to_warn_of(self):
+        self.need("mandoc")
+        for name in ("vantorel", "vantorel-panel"):
+            run = self.run_tool("mandoc", "-T", "lint", "-W", "warning", f"{TREE}/share/man/man1/{name}.1")
+            # The pages have no date, so that a build can be repeated.
+            self.assertEqual([line for line in run.stdout.splitlines() if "missing date" not in line], [], name)
+
+    def test_the_panels_page_tells_every_option_with_its_whole_text(self):
+        help_text = self.passes(f"{TREE}/bin/vantorel-panel", "--help")
+        self.need("mandoc")
+        page = self.passes("mandoc", "-T", "ascii", "-O", "width=200", f"{TREE}/share/man/man1/vantorel-panel.1")
+        words = re.sub(r".\x08", "", page).split()
+        for option, text in re.findall(r"^  (--[a-z-]+)(?: <[^>]+>)? +(.*(?:\n {6,}.*)*)", help_text, re.M):
+            start = words.index(option, words.index("OPTIONS"))
+            told = " ".join(words[start:start + 60])
+            self.assertIn(" ".join(text.split()), told)
+
+
+class CompletionTest(TreeTest):
+    def test_bash_loads_the_completions(self):
+        told = self.passes("bash", "-c", f"source '{TREE}/share/bash-completion/completions/vantorel' && complete -p vantorel")
+        self.assertRegex(told, r"^complete .*_vantorel vantorel\n$")
+
+    def test_zsh_finds_the_completions_by_their_name(self):
+        told = self.passes("zsh", "-f", "-c", f"fpath=('{TREE}/share/zsh/vendor-completions' $fpath); "
+                           "autoload -Uz compinit && compinit -u -D && print $_comps[vantorel]")
+        self.assertEqual(told, "_vantorel\n")
+
+    def test_fish_loads_the_completions(self):
+        told = self.passes("fish", "--no-config", "-c",
+                           f"source '{TREE}/share/fish/vendor_completions.d/vantorel.fish'; complete -C'vantorel sho'")
+        self.assertTrue(told.startswith("show"), told)
+
+
+if __name__ == "__main__":
+    main()

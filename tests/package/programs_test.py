@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+"""The installed programs, started from the tree they were installed into.
+
+    programs_test.py TREE SOURCES BUILD
+"""
+import os
+
+from installedtree import TREE, TreeTest, main
+
+VANTOREL = f"{TREE}/bin/vantorel"
+PANEL = f"{TREE}/bin/vantorel-panel"
+RESOURCES = f"{TREE}/lib/vantorel/pickers/QTXHexColorPicker.resources"
+
+
+class ProgramsTest(TreeTest):
+    def picture(self, *options):
+        file = os.path.join(self.scratch, "picture.png")
+        run = self.run_tool(PANEL, "--screenshot", file, *options)
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
+        with open(file, "rb") as opened:
+            return opened.read()
+
+    def test_the_command_line_shows_a_colour(self):
+        told = self.passes(VANTOREL, "show", "#ff8000")
+        self.assertTrue(told.startswith("hex: #FF8000\nrgb: rgb(255, 128, 0)\n"), told)
+
+    def test_the_panel_finds_its_installed_page(self):
+        pictures = {self.picture("--page", page) for page in ("hex", "dialog", "palettes")}
+        self.assertEqual(len(pictures), 3, "each page looks its own way")
+        for picture in pictures:
+            self.assertTrue(picture.startswith(b"\x89PNG"))
+
+    def test_a_page_that_no_plug_in_has_is_refused(self):
+        run = self.run_tool(PANEL, "--screenshot", "picture.png", "--page", "tints")
+        self.assertEqual(run.returncode, 2)
+        self.assertIn('there is no page "tints"; there are: hex, dialog, palettes', run.stderr)
+
+    def test_the_help_button_finds_the_manual_and_its_pictures_in_a_tree_that_was_moved(self):
+        for name in ("supportManual.htm", "pictures"):
+            self.assertTrue(os.path.samefile(f"{RESOURCES}/{name}", f"{TREE}/share/doc/vantorel/{name}"))
+        self.assertIn("settings.png", os.listdir(f"{RESOURCES}/pictures"))
+
+    def test_the_programs_know_no_other_folder_for_their_libraries(self):
+        self.need("readelf")
+        for file in (VANTOREL, PANEL, f"{TREE}/lib/vantorel/pickers/QTXHexColorPicker.so"):
+            self.assertNotRegex(self.passes("readelf", "-d", file), "RPATH|RUNPATH")
+
+
+if __name__ == "__main__":
+    main()
