@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""A published list, opened by GIMP itself. Skipped where GIMP is not installed: it is large.
+
+    gimp_test.py PROGRAM
+
+By hand: tests/cli/gimp_test.py build/release/bin/vantorel prints what GIMP tells of each palette.
+"""
+import re
+import shutil
+
+from program import ProgramTest, subprocess, sys, unittest
+
+GIMP = shutil.which("gimp-console")
+
+# GIMP writes its messages to standard error, one and an empty line each.
+TELL = """
+(define (tell name)
+  (let ((count (car (gimp-palette-get-info name))) (i 0))
+    (gimp-message (string-append "palette " name))
+    (while (< i count)
+      (let ((color (car (gimp-palette-entry-get-color name i))))
+        (gimp-message (string-append
+          (number->string (car color)) " " (number->string (cadr color)) " " (number->string (caddr color)) " "
+          (car (gimp-palette-entry-get-name name i)))))
+      (set! i (+ i 1)))))
+"""
+
+LISTS = {
+    "brand": [(255, 128, 0, "Pumpkin"), (16, 32, 48, "Ink"), (0, 0, 0, "Black"), (255, 255, 255, "White")],
+    "Käse & Öl": [(250, 200, 60, "Ümläute"), (1, 2, 3, 'A "quoted" name'), (7, 8, 9, "two  blanks # and a sign")],
+    "thousand": [(i % 256, i // 4, 255 - i % 200, f"colour {i}") for i in range(1000)],
+}
+
+
+class GimpTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        if GIMP is None:
+            print("skipped: gimp-console is not installed")
+            sys.exit(77)
+        self.environment["LC_ALL"] = "C.UTF-8"
+        # Where GIMP looks for what it is made of; the palettes of the machine come with it.
+        self.environment["XDG_DATA_DIRS"] = "/usr/local/share:/usr/share"
+        # The first start makes the folder for palettes of one's own.
+        self.gimp()
+
+    def gimp(self, *batches):
+        words = [GIMP, "--no-interface", "--console-messages"]
+        for batch in (*batches, "(gimp-quit 0)"):
+            words += ["--batch", batch]
+        run = subprocess.run(words, capture_output=True, env=self.environment, timeout=200, check=True)
+        return run.stdout.decode() + run.stderr.decode()
+
+    def palettes_in_gimp(self):
+        """The colours of each list in their order; none where GIMP knows no such palette."""
+        # No batch knows what another has defined.
+        told = self.gimp(*(f'{TELL} (tell "{name}")' for name in LISTS))
+        palettes = {name: None for name in re.findall(r"Palette '(.*)' not found", told)}
+        for line in re.findall(r"script-fu-Warning: (.*)", told):
+            name = line.removeprefix("palette ")
+            if name != line:
+                palettes[name] = colors = []
+                continue
+            if len(colors) < 4:
+                print(f"GIMP, {list(palettes)[-1]}: {line}")
+            red, green, blue, entry = line.split(" ", 3)
+            colors.append((int(red), int(green), int(blue), entry))
+        return palettes
+
+    def test_gimp_opens_what_was_published_and_misses_what_was_taken_back(self):
+        for name, colors in LISTS.items():
+            self.write_list(name, [f"{r} {g} {b}\t{entry}" for r, g, b, entry in colors])
+        self.assertEqual(self.palettes_in_gimp(), dict.fromkeys(LISTS))
+        for name in LISTS:
+            self.assertIn("written for GIMP: ", self.told("list", "publish", name))
+        self.assertEqual(self.palettes_in_gimp(), LISTS)
+        for name in LISTS:
+            self.told("list", "publish", name, "--undo")
+        self.assertEqual(self.palettes_in_gimp(), dict.fromkeys(LISTS))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
