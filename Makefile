@@ -2,10 +2,12 @@
 PRESETS ?= release sanitize
 COLOR ?= \#ff8000
 
+PREFIX ?= /usr/local
+
 SECONDS ?= 60
 EVENTS ?= 1000000
 
-.PHONY: run build test bench endurance fuzz format check screenshots clean packages
+.PHONY: run build test install deb test-deb bench endurance fuzz format check screenshots clean packages
 
 run: build
 	@tools/run-panel "$(COLOR)"
@@ -16,6 +18,18 @@ build: packages
 
 test: packages
 	@tools/run-tests $(PRESETS)
+
+# DESTDIR=FOLDER installs below a folder, for a tree that goes elsewhere.
+install: packages
+	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" > /dev/null
+	@cmake --build --preset release --target vantorel-told vantorel-panel-told
+	@DESTDIR="$(DESTDIR)" cmake --install build/release --strip
+
+deb: packages
+	@tools/make-deb
+
+test-deb: deb
+	@tests/package/deb-test build/deb
 
 bench: build
 	@tools/run-benchmarks
