@@ -104,7 +104,9 @@ INSTANTIATE_TEST_SUITE_P(
                     QStringList{"--pick", "--copy"}, QStringList{"--choose", "--pick"},
                     QStringList{"--choose", "--screenshot", "f.png"},
                     QStringList{"--copy", "--copy-as", "x"},
-                    QStringList{"--pick", "--screenshot", "f.png"}, QStringList{"--copy-as"},
+                    QStringList{"--pick", "--screenshot", "f.png"},
+                    QStringList{"--service", "--pick"}, QStringList{"--service", "--choose"},
+                    QStringList{"--service", "--screenshot", "f.png"}, QStringList{"--copy-as"},
                     QStringList{"--nothing"}, QStringList{"stray"}, QStringList{"--color"}));
 
 TEST(PanelOptionsTest, HelpAndVersionEndWell)
