@@ -23,6 +23,12 @@ double difference(const ColorTriple& oklab1, const ColorTriple& oklab2)
     return std::hypot(oklab1[0] - oklab2[0], oklab1[1] - oklab2[1], oklab1[2] - oklab2[2]);
 }
 
+/// Between a colour, which is given in both spaces, and what clipping makes of it.
+double differenceByClipping(const ColorTriple& linear, const ColorTriple& oklab)
+{
+    return difference(oklabFromXYZ(xyzFromLinearSRGB(clippedToSRGB(linear))), oklab);
+}
+
 }  // namespace
 
 bool isOutsideSRGB(const ColorTriple& srgb)
@@ -51,35 +57,38 @@ ColorTriple srgbByReducedChroma(const ColorTriple& oklab)
     if (origin[0] >= 1) return {1, 1, 1};
     if (origin[0] <= 0) return {0, 0, 0};
 
-    ColorTriple clipped = clippedToSRGB(srgbFromOklab(origin));
-    if (difference(oklabFromSRGB(clipped), origin) < justNoticeableDifference) return clipped;
-
-    // This ends for any chroma, since all chromas that become the smallest one are those of colours
-    // near sRGB, below 1, where the precision is within the reach of a double.
-    const ColorTriple polar = polarFromRectangular(origin);
-    double smallest = 0;
-    double largest = polar[1];
-    bool smallestFits = true;
-    while (largest - smallest > chromaPrecision) {
-        const double chroma = (smallest + largest) / 2;
-        const ColorTriple current = rectangularFromPolar({polar[0], chroma, polar[2]});
-        const ColorTriple currentSRGB = srgbFromOklab(current);
-        if (smallestFits && fitsWithin(currentSRGB, 0)) {
-            smallest = chroma;
-            continue;
-        }
-        clipped = clippedToSRGB(currentSRGB);
-        const double distance = difference(oklabFromSRGB(clipped), current);
-        if (distance >= justNoticeableDifference) {
-            largest = chroma;
-        } else if (justNoticeableDifference - distance < chromaPrecision) {
-            break;
-        } else {
-            smallestFits = false;
-            smallest = chroma;
+    // A channel is cut at the same colours in linear light as it is stored, so the search needs
+    // none of the powers that lead from the one to the other, which would take most of its time.
+    ColorTriple linear = linearSRGBFromXYZ(xyzFromOklab(origin));
+    if (differenceByClipping(linear, origin) >= justNoticeableDifference) {
+        // This ends for any chroma, since all chromas that become the smallest one are those of
+        // colours near sRGB, below 1, where the precision is within the reach of a double.
+        const ColorTriple polar = polarFromRectangular(origin);
+        const ColorTriple direction = rectangularFromPolar({polar[0], 1, polar[2]});
+        double smallest = 0;
+        double largest = polar[1];
+        bool smallestFits = true;
+        while (largest - smallest > chromaPrecision) {
+            const double chroma = (smallest + largest) / 2;
+            const ColorTriple current{polar[0], chroma * direction[1], chroma * direction[2]};
+            const ColorTriple currentLinear = linearSRGBFromXYZ(xyzFromOklab(current));
+            if (smallestFits && fitsWithin(currentLinear, 0)) {
+                smallest = chroma;
+                continue;
+            }
+            linear = currentLinear;
+            const double distance = differenceByClipping(linear, current);
+            if (distance >= justNoticeableDifference) {
+                largest = chroma;
+            } else if (justNoticeableDifference - distance < chromaPrecision) {
+                break;
+            } else {
+                smallestFits = false;
+                smallest = chroma;
+            }
         }
     }
-    return clipped;
+    return clippedToSRGB(srgbFromLinear(linear));
 }
 
 }  // namespace vantorel

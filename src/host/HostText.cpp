@@ -1,7 +1,9 @@
 #include "host/HostText.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 namespace vantorel {
 namespace {
@@ -65,10 +67,20 @@ void appendUtf8(std::string& text, char32_t character)
     }
 }
 
+/// Most texts are plain ASCII, which is the same in both forms.
+template <class Text>
+bool isASCII(Text text)
+{
+    return std::ranges::all_of(text, [](auto unit) {
+        return static_cast<std::make_unsigned_t<decltype(unit)>>(unit) < 0x80;
+    });
+}
+
 }  // namespace
 
 std::u16string utf16FromUtf8(std::string_view utf8)
 {
+    if (isASCII(utf8)) return {utf8.begin(), utf8.end()};
     std::u16string result;
     result.reserve(utf8.size());
     for (std::size_t i = 0; i < utf8.size();) {
@@ -103,6 +115,7 @@ bool isWellFormedUtf8(std::string_view utf8)
 
 std::string utf8FromUtf16(std::u16string_view utf16)
 {
+    if (isASCII(utf16)) return {utf16.begin(), utf16.end()};
     std::string result;
     result.reserve(utf16.size());
     for (std::size_t i = 0; i < utf16.size(); ++i) {
