@@ -33,6 +33,7 @@ test-deb: deb
 
 bench: build
 	@tools/run-benchmarks
+	@tools/bench-programs
 
 format: packages
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
