@@ -17,12 +17,16 @@ public:
     void add(const HostColor& color, std::u16string name)
     {
         if (name.empty()) name = u"Untitled";
-        std::u16string key = name;
-        while (_list.colorWithKey(key)) {
+        if (!_list.colorWithKey(name)) {
+            _list.setColor(color, name);
+            return;
+        }
+        std::u16string key;
+        do {
             const std::string number =
                 std::to_string(++_lastNumber.try_emplace(name, 1).first->second);
             key = name + u" " + std::u16string(number.begin(), number.end());
-        }
+        } while (_list.colorWithKey(key));
         _list.setColor(color, key);
     }
 

@@ -104,6 +104,7 @@ std::u16string utf16FromUtf8(std::string_view utf8)
 
 bool isWellFormedUtf8(std::string_view utf8)
 {
+    if (isASCII(utf8)) return true;
     for (std::size_t i = 0; i < utf8.size();) {
         char32_t character = 0;
         const std::size_t length = decodeSequence(utf8, i, character);
