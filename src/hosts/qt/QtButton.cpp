@@ -22,28 +22,41 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QPalette palette = _ground ? _ground->palette() : QApplication::palette();
-        const QColor color = palette.color(group, QPalette::ButtonText);
         QByteArray colored = _svg;
-        colored.replace("currentColor", color.name().toLatin1());
+        colored.replace("currentColor", color(mode).name().toLatin1());
         QSvgRenderer(colored).render(painter, rect);
     }
 
+    /// Buttons ask whenever they are painted, and reading the icons anew took half of the time of
+    /// painting the panel.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
+        const QRgb wanted = color(mode).rgba();
+        if (_drawn.size() == size && _drawnColor == wanted) return _drawn;
         QPixmap result(size);
         result.fill(Qt::transparent);
         QPainter painter(&result);
         paint(&painter, QRect(QPoint(), size), mode, state);
+        painter.end();
+        _drawn = result;
+        _drawnColor = wanted;
         return result;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(_svg, _ground); }
 
 private:
+    [[nodiscard]] QColor color(QIcon::Mode mode) const
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QPalette palette = _ground ? _ground->palette() : QApplication::palette();
+        return palette.color(group, QPalette::ButtonText);
+    }
+
     QByteArray _svg;
     QPointer<const QWidget> _ground;
+    QPixmap _drawn;
+    QRgb _drawnColor = 0;
 };
 
 QAbstractButton* makeButton(const HostControlDescription& description)
