@@ -1,7 +1,6 @@
 #include "hosts/qt/QtCanvas.h"
 
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QFontMetricsF>
@@ -9,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace vantorel {
 namespace {
@@ -51,21 +49,41 @@ QPainterPath painterPath(const HostBezierPath& path, Place place)
 }
 
 /// Whether a path is one closed polygon. If so, its corners are in `corners`.
-bool loadPolygon(const HostBezierPath& path, HostRect bounds, std::vector<QPointF>& corners)
+template <typename Place>
+bool loadPolygon(const HostBezierPath& path, Place place, std::vector<QPointF>& corners)
 {
     const auto& elements = path.elements();
     if (elements.size() < 4 || elements.back().kind != Kind::close) return false;
     corners.clear();
     for (std::size_t i = 0; i + 1 < elements.size(); ++i) {
         if (elements[i].kind != (i == 0 ? Kind::moveTo : Kind::lineTo)) return false;
-        corners.push_back(widgetPoint(elements[i].point, bounds));
+        corners.push_back(place(elements[i].point));
     }
     return true;
 }
 
 }  // namespace
 
-QtCanvas::QtCanvas(QPainter& painter, HostRect bounds) : _painter(painter), _bounds(bounds) {}
+QtCanvas::QtCanvas(QPainter& painter, HostRect bounds)
+    : _painter(painter),
+      _bounds(bounds),
+      _scale(textScale()),
+      // Fills end on whole pixels, which may lie beyond their edges.
+      _dirty(painter.hasClipping()
+                 ? std::optional(painter.clipBoundingRect().adjusted(-1, -1, 1, 1))
+                 : std::nullopt)
+{
+}
+
+QPointF QtCanvas::placed(HostPoint point) const
+{
+    return {(point.x - _bounds.x) * _scale, (_bounds.maxY() - point.y) * _scale};
+}
+
+QRectF QtCanvas::placed(HostRect rect) const
+{
+    return {placed(HostPoint{rect.x, rect.maxY()}), placed(HostPoint{rect.maxX(), rect.y})};
+}
 
 // The painter does work for each setting, also where it changes nothing; a wheel has two thousand
 // cells.
@@ -82,16 +100,17 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
     if (!brush.isValid() || path.isEmpty()) return;
     setAntialiasing(false);
     if (const auto rect = uprightRect(path)) {
-        _painter.fillRect(widgetRect(*rect, _bounds), brush);
+        const QRectF place = placed(*rect);
+        if (!_dirty || _dirty->intersects(place)) _painter.fillRect(place, brush);
         return;
     }
     if (_painter.pen().style() != Qt::NoPen) _painter.setPen(Qt::NoPen);
     _painter.setBrush(brush);
-    if (loadPolygon(path, _bounds, _corners)) {
+    const auto place = [this](HostPoint point) { return placed(point); };
+    if (loadPolygon(path, place, _corners)) {
         _painter.drawPolygon(_corners.data(), static_cast<int>(_corners.size()), Qt::WindingFill);
     } else {
-        _painter.drawPath(
-            painterPath(path, [&](HostPoint point) { return widgetPoint(point, _bounds); }));
+        _painter.drawPath(painterPath(path, place));
     }
 }
 
@@ -100,7 +119,7 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
 void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& color)
 {
     const qreal ratio = _painter.device()->devicePixelRatioF();
-    const qreal pixels = std::max(1.0, std::round(lineWidth * textScale() * ratio));
+    const qreal pixels = std::max(1.0, std::round(lineWidth * _scale * ratio));
     // From the edge between pixels where a fill ends too, so that lines of two widths on one
     // rectangle lie evenly within each other; the pixel in the middle of an odd width is inside.
     const auto outerEdge = [&](qreal edge, qreal outwards) {
@@ -125,10 +144,10 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     const QColor brush = qColorFrom(color);
     if (!brush.isValid() || path.isEmpty()) return;
     if (const auto rect = uprightRect(path)) {
-        strokeRect(widgetRect(*rect, _bounds), path.lineWidth(), brush);
+        strokeRect(placed(*rect), path.lineWidth(), brush);
         return;
     }
-    QPen pen(brush, path.lineWidth() * textScale());
+    QPen pen(brush, path.lineWidth() * _scale);
     pen.setJoinStyle(Qt::MiterJoin);
     setAntialiasing(true);
     _painter.setBrush(Qt::NoBrush);
@@ -138,7 +157,7 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     const bool isOpen = path.elements().back().kind != Kind::close;
     const qreal ratio = _painter.device()->devicePixelRatioF();
     _painter.drawPath(painterPath(path, [&](HostPoint point) {
-        const QPointF exact = widgetPoint(point, _bounds);
+        const QPointF exact = placed(point);
         if (!isOpen) return exact;
         const auto snapped = [&](qreal x) { return (std::floor(x * ratio) + 0.5) / ratio; };
         return QPointF(snapped(exact.x()), snapped(exact.y()));
@@ -153,7 +172,7 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
     if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
     _painter.setFont(font);
     _painter.setPen(qColorFrom(text.color));
-    const QPointF lowerLeft = widgetPoint(at, _bounds);
+    const QPointF lowerLeft = placed(at);
     qreal baseline =
         lowerLeft.y() - metrics.height() * static_cast<qreal>(lines.size()) + metrics.ascent();
     for (const QString& line : lines) {

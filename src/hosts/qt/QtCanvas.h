@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QPointF>
 
+#include <optional>
 #include <vector>
 
 namespace vantorel {
@@ -22,11 +23,17 @@ public:
     void drawText(const HostText& text, HostPoint at) override;
 
 private:
+    /// As `widgetPoint` and `widgetRect`, which look up the scale each time.
+    [[nodiscard]] QPointF placed(HostPoint point) const;
+    [[nodiscard]] QRectF placed(HostRect rect) const;
     void setAntialiasing(bool on);
     void strokeRect(const QRectF& rect, double lineWidth, const QColor& color);
 
     QPainter& _painter;
     HostRect _bounds;
+    double _scale;
+    /// What lies outside need not be painted; empty when everything must.
+    std::optional<QRectF> _dirty;
     std::vector<QPointF> _corners;  ///< of the polygon that is painted; its storage stays
 };
 
