@@ -14,16 +14,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr uid_t administrator = 0;
+
 enum class Sticky { counts, doesNotCount };
 
-/// A group that nobody but the user is in, as many systems make one for each user, or the
-/// administrator's.
-bool isGroupOfTheUserAlone(gid_t group)
+/// A group that nobody but the user is in, as many systems make one for each user.
+bool isGroupOfTheUserAlone(gid_t group, uid_t user)
 {
-    if (group == 0) return true;
-    const struct passwd* user = ::getpwuid(::geteuid());
-    if (user == nullptr || user->pw_gid != group) return false;
-    const std::string name = user->pw_name;
+    const struct passwd* account = ::getpwuid(user);
+    if (account == nullptr || account->pw_gid != group) return false;
+    const std::string name = account->pw_name;
     const struct group* row = ::getgrgid(group);
     if (row == nullptr || name != row->gr_name) return false;
     for (char** member = row->gr_mem; *member != nullptr; ++member) {
@@ -37,19 +37,21 @@ std::string inQuotes(const fs::path& path)
     return '"' + path.string() + '"';
 }
 
-std::string whyOthersCanWrite(const fs::path& path, const struct stat& status, Sticky sticky)
+std::string whyOthersCanWrite(const fs::path& path, const struct stat& status, Sticky sticky,
+                              uid_t user)
 {
     if (sticky == Sticky::counts && (status.st_mode & S_ISVTX) != 0) return {};
     if ((status.st_mode & S_IWOTH) != 0)
         return "all users can write to " + inQuotes(path) + "; \"chmod o-w\" would change that";
-    if ((status.st_mode & S_IWGRP) != 0 && !isGroupOfTheUserAlone(status.st_gid))
+    if ((status.st_mode & S_IWGRP) != 0 && status.st_uid != administrator &&
+        !isGroupOfTheUserAlone(status.st_gid, user))
         return "a group can write to " + inQuotes(path) + "; \"chmod g-w\" would change that";
     return {};
 }
 
-std::string whyOwnerIsNotTrusted(const fs::path& path, const struct stat& status)
+std::string whyOwnerIsNotTrusted(const fs::path& path, const struct stat& status, uid_t user)
 {
-    if (status.st_uid == 0 || status.st_uid == ::geteuid()) return {};
+    if (status.st_uid == administrator || status.st_uid == user) return {};
     return inQuotes(path) + " belongs to another user";
 }
 
@@ -62,11 +64,11 @@ std::optional<struct stat> statusOf(const fs::path& path)
 
 /// Who can write to a folder above can put another one in this one's place. Who owns it is not
 /// asked: it is a matter of where the user keeps things.
-std::string whyFoldersAboveAreNotTrusted(const fs::path& folder)
+std::string whyFoldersAboveAreNotTrusted(const fs::path& folder, uid_t user)
 {
     for (fs::path above = folder.parent_path(); !above.empty(); above = above.parent_path()) {
         if (const auto status = statusOf(above)) {
-            std::string reason = whyOthersCanWrite(above, *status, Sticky::counts);
+            std::string reason = whyOthersCanWrite(above, *status, Sticky::counts, user);
             if (!reason.empty()) return reason;
         }
         if (above == above.parent_path()) break;
@@ -88,12 +90,17 @@ std::vector<fs::path> waysTo(const std::string& path)
 
 std::string whyNotTrusted(const std::string& path)
 {
+    return whyNotTrusted(path, ::geteuid());
+}
+
+std::string whyNotTrusted(const std::string& path, uid_t user)
+{
     for (const fs::path& way : waysTo(path)) {
         const auto status = statusOf(way);
         if (!status) continue;
-        std::string reason = whyOwnerIsNotTrusted(way, *status);
-        if (reason.empty()) reason = whyOthersCanWrite(way, *status, Sticky::doesNotCount);
-        if (reason.empty()) reason = whyFoldersAboveAreNotTrusted(way);
+        std::string reason = whyOwnerIsNotTrusted(way, *status, user);
+        if (reason.empty()) reason = whyOthersCanWrite(way, *status, Sticky::doesNotCount, user);
+        if (reason.empty()) reason = whyFoldersAboveAreNotTrusted(way, user);
         if (!reason.empty()) return reason;
     }
     return {};

@@ -90,14 +90,17 @@ TEST_F(FileTrustTest, WhatBelongsToAnotherUserIsNotTrusted)
     EXPECT_THAT(whyNotTrusted(_file), HasSubstr("belongs to another user"));
 }
 
-TEST_F(FileTrustTest, AGroupOfOthersIsNotTrusted)
+TEST_F(FileTrustTest, AGroupIsTrustedWhenTheAdministratorHasChosenIt)
 {
-    constexpr gid_t others = 65534;
-    if (::chown(_folder.c_str(), static_cast<uid_t>(-1), others) != 0)
+    constexpr uid_t user = 54321;
+    constexpr gid_t group = 65534;
+    if (::chown(_folder.c_str(), user, group) != 0)
         GTEST_SKIP() << "needs the administrator's rights";
-    EXPECT_EQ(whyNotTrusted(_folder), "");
+    EXPECT_EQ(whyNotTrusted(_folder, user), "");
     setMode(_folder, 0775);
-    EXPECT_THAT(whyNotTrusted(_folder), HasSubstr("a group can write to"));
+    EXPECT_THAT(whyNotTrusted(_folder, user), HasSubstr("a group can write to"));
+    ASSERT_EQ(::chown(_folder.c_str(), 0, group), 0);
+    EXPECT_EQ(whyNotTrusted(_folder, user), "");
 }
 
 TEST_F(FileTrustTest, PluginsFromSuchAFolderAreNotLoaded)
