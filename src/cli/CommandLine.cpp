@@ -350,7 +350,7 @@ std::string lowerFirst(std::string text)
     std::string what = lowerFirst(error.what());
     // "--list: 1 required NAME missing" has a colon of its own.
     if (error.get_name() == "ArgumentMismatch")
-        what = what.substr(0, what.find(':')) + " has no value";
+        what.replace(std::min(what.find(':'), what.size()), std::string::npos, " has no value");
     throw Failure{what, advice, usageStatus};
 }
 

@@ -54,7 +54,7 @@ bool isLink(const std::string& path)
 
 }  // namespace
 
-PublishPlan planPublish(HostFiles& files, const HostColorList& list)
+PublishPlan planPublish(const HostFiles& files, const HostColorList& list)
 {
     // Nothing is published for everybody on the machine, nor into a folder of the user's that only
     // stands in for one of the machine's.

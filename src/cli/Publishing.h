@@ -34,7 +34,7 @@ struct PublishPlan {
 };
 
 /// The files for a list: one in each folder for the user's own palettes that exists.
-[[nodiscard]] PublishPlan planPublish(HostFiles& files, const HostColorList& list);
+[[nodiscard]] PublishPlan planPublish(const HostFiles& files, const HostColorList& list);
 
 /// The records of what was published, the latest last, under the user's data. A record is written
 /// before the files, so that what they replace is safe whatever happens.

@@ -38,6 +38,8 @@ public:
 
     /// The actions and menus belong to `window`.
     PanelCommands(QWidget& window, Reactions reactions);
+    PanelCommands(const PanelCommands&) = delete;
+    PanelCommands& operator=(const PanelCommands&) = delete;
 
     [[nodiscard]] QAction& copy() const { return *_copy; }
     [[nodiscard]] QAction& undo() const { return *_undo; }

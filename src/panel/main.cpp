@@ -41,7 +41,7 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-void sendAction(PanelWindow& window, const char* name)
+void sendAction(const PanelWindow& window, const char* name)
 {
     if (HostColorPicker* picker = window.currentPicker()) picker->performAction(name, nullptr);
 }

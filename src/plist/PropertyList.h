@@ -16,10 +16,13 @@ public:
     using Dictionary = std::vector<std::pair<std::u16string, PropertyList>>;
 
     PropertyList() = default;
+    // Arrays and dictionaries are written down as lists of plain values.
+    // NOLINTBEGIN(google-explicit-constructor)
     PropertyList(std::u16string string) : _value(std::move(string)) {}
     PropertyList(const char16_t* string) : _value(std::u16string(string)) {}
     PropertyList(Array array) : _value(std::move(array)) {}
     PropertyList(Dictionary dictionary) : _value(std::move(dictionary)) {}
+    // NOLINTEND(google-explicit-constructor)
     [[nodiscard]] static PropertyList data(std::string bytes)
     {
         PropertyList result;

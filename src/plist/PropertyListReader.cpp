@@ -27,9 +27,13 @@ bool isBare(char16_t c)
 std::optional<unsigned> digitOf(char16_t c, unsigned base)
 {
     unsigned value = base;
-    if (c >= u'0' && c <= u'9') value = c - unsigned{u'0'};
-    if (c >= u'A' && c <= u'F') value = c - unsigned{u'A'} + 10;
-    if (c >= u'a' && c <= u'f') value = c - unsigned{u'a'} + 10;
+    if (c >= u'0' && c <= u'9') {
+        value = static_cast<unsigned>(c - u'0');
+    } else if (c >= u'A' && c <= u'F') {
+        value = static_cast<unsigned>(c - u'A' + 10);
+    } else if (c >= u'a' && c <= u'f') {
+        value = static_cast<unsigned>(c - u'a' + 10);
+    }
     if (value >= base) return std::nullopt;
     return value;
 }

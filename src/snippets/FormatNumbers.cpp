@@ -48,9 +48,9 @@ std::u16string signText(bool negative, const FormatField& field)
 /// precision zero.
 std::u16string wholeDigits(std::uint64_t value, int base, const FormatField& field)
 {
-    std::array<char, 64> buffer{};
     std::u16string digits;
     if (value != 0 || field.precision.value_or(1) != 0) {
+        std::array<char, 64> buffer{};
         const auto [end, error] =
             std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, base);
         digits = widened({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
