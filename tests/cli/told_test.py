@@ -8,7 +8,7 @@ import shutil
 import subprocess
 import unittest
 
-from program import PROGRAM, ProgramTest, os, sys
+from program import ProgramTest, os, sys
 
 
 class Told(ProgramTest):

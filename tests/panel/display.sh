@@ -1,5 +1,7 @@
+# shellcheck shell=bash
 # What the tests on a real window share: an X server, a home and a panel of their own. To be sourced,
 # with `panel` set to the program.
+: "${panel:?the panel program}"
 
 need() {
     for tool in "$@"; do
@@ -33,13 +35,15 @@ eventually() {
 # Without -noreset it turns programs away for a moment whenever the last one has left.
 Xvfb -noreset -displayfd 3 -screen 0 1000x800x24 3> "$scratch/display" > "$scratch/xvfb.log" 2>&1 &
 eventually test -s "$scratch/display" || fail "no X server has come"
-export DISPLAY=":$(cat "$scratch/display")"
+DISPLAY=":$(cat "$scratch/display")"
+export DISPLAY
 
 # start_panel OPTION...: sets `panel_id` and `window`; the page is 260 by 340.
 start_panel() {
     # What other programs have installed on the machine is none of the test's business.
     env XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine" \
         "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
+    # shellcheck disable=SC2034  # for the tests that stop it
     panel_id=$!
     window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Colour$' | head -n 1)
     [ -n "$window" ] || fail "no window has come"

@@ -12,7 +12,7 @@ import xml.etree.ElementTree as ElementTree
 
 from gi.repository import Gio, GLib
 
-from bussession import INTERFACE, NAME, PATH, PROPERTIES, RED, BusSession, close_window, eventually, shown_windows, xdotool
+from bussession import INTERFACE, NAME, PROPERTIES, RED, BusSession, close_window, eventually, shown_windows, xdotool
 
 PANEL, SCRATCH = os.path.abspath(sys.argv[1]), sys.argv[2]
 DESCRIPTION = os.path.join(os.path.dirname(__file__), "../../src/panel/org.vantorel.ColorPanel1.xml")
