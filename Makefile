@@ -7,7 +7,7 @@ PREFIX ?= /usr/local
 SECONDS ?= 60
 EVENTS ?= 1000000
 
-.PHONY: run build test install deb test-deb bench endurance fuzz format check screenshots clean packages
+.PHONY: run build test install deb test-deb bench endurance fuzz format check coverage screenshots clean packages
 
 run: build
 	@tools/run-panel "$(COLOR)"
@@ -39,9 +39,10 @@ format: packages
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
 check: packages
-	@cmake --preset clang > /dev/null
-	@git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
-	@git ls-files 'src/*.cpp' | xargs -P "$$(nproc)" -n 4 clang-tidy --quiet -p build/clang
+	@tools/run-checks
+
+coverage: packages
+	@tools/run-coverage
 
 fuzz: packages
 	@cmake --preset fuzz > /dev/null
