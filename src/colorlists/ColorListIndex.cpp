@@ -19,7 +19,8 @@ using Steps = std::array<std::int16_t, 3>;
 
 std::size_t cellIndex(int red, int green, int blue)
 {
-    return static_cast<std::size_t>((red * cellsAcross + green) * cellsAcross + blue);
+    const int index = (red * cellsAcross + green) * cellsAcross + blue;
+    return static_cast<std::size_t>(index);
 }
 
 std::size_t cellOf(const Steps& steps)

@@ -39,6 +39,7 @@ template <class Value, std::size_t count>
 std::vector<std::u16string> namesOfValues(const std::array<DisplayName<Value>, count>& table)
 {
     std::vector<std::u16string> names;
+    names.reserve(count);
     for (const auto& row : table)
         names.emplace_back(row.name);
     return names;
