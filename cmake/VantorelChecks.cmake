@@ -4,9 +4,13 @@ option(VANTOREL_CLANG_TIDY "Let clang-tidy look at each file that is compiled" O
 
 if(VANTOREL_CLANG_TIDY)
   find_program(VANTOREL_CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
-  set(choice "${PROJECT_SOURCE_DIR}/.clang-tidy")
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${choice}")
-  file(MD5 "${choice}" digest)
+  set(digests "")
+  foreach(choice IN ITEMS .clang-tidy tests/.clang-tidy)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${choice}")
+    file(MD5 "${PROJECT_SOURCE_DIR}/${choice}" digest)
+    string(APPEND digests ${digest})
+  endforeach()
+  string(MD5 digest "${digests}")
   # A changed command makes a file be looked at again, so the choice of checks is part of it.
   set(CMAKE_CXX_CLANG_TIDY "${VANTOREL_CLANG_TIDY_PROGRAM}" --quiet --extra-arg=-DVANTOREL_CHECKS_${digest})
   # What is generated is not ours to mend. A choice of no check at all is an error.
