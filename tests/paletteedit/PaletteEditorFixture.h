@@ -44,7 +44,7 @@ protected:
         if (!reading) return "no palette";
         return utf8FromUtf16(reading->list->name()) + ": " + textOf(entriesOfList(*reading->list));
     }
-    [[nodiscard]] PaletteId idOf(PaletteEditor& editor, const std::string& name) const
+    [[nodiscard]] PaletteId idOf(const PaletteEditor& editor, const std::string& name) const
     {
         for (const EditablePalette& palette : editor.palettes()) {
             if (palette.name == utf16FromUtf8(name)) return palette.id;

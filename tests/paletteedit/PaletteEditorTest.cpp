@@ -1,6 +1,7 @@
 #include "PaletteEditorFixture.h"
 
 #include <functional>
+#include <vector>
 
 namespace vantorel {
 namespace {
@@ -198,15 +199,16 @@ TEST_F(PaletteEditorTest, WhatCannotBeSavedIsNotDone)
         std::function<EditOutcome()> step;
         EditRemark remark;
     };
-    for (const Row& row : {
-             Row{"change", [&] { return editor.setEntries(reds, {}); }, EditRemark::notSaved},
-             Row{"rename", [&] { return editor.rename(reds, u"x"); }, EditRemark::notSaved},
-             Row{"make", [&] { return editor.add(u"x", {}); }, EditRemark::notSaved},
-             Row{"remove", [&] { return editor.remove(reds); }, EditRemark::notRemoved},
-             Row{"copy first", [&] { return editor.setEntries(idOf(editor, "Web"), {}); },
-                 EditRemark::notSaved},
-             Row{"undo", [&] { return editor.undo(); }, EditRemark::notSaved},
-         }) {
+    const std::vector<Row> rows{
+        Row{"change", [&] { return editor.setEntries(reds, {}); }, EditRemark::notSaved},
+        Row{"rename", [&] { return editor.rename(reds, u"x"); }, EditRemark::notSaved},
+        Row{"make", [&] { return editor.add(u"x", {}); }, EditRemark::notSaved},
+        Row{"remove", [&] { return editor.remove(reds); }, EditRemark::notRemoved},
+        Row{"copy first", [&] { return editor.setEntries(idOf(editor, "Web"), {}); },
+            EditRemark::notSaved},
+        Row{"undo", [&] { return editor.undo(); }, EditRemark::notSaved},
+    };
+    for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         const EditOutcome outcome = row.step();
         EXPECT_FALSE(outcome.done);

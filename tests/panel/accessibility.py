@@ -235,7 +235,7 @@ def main():
         if panel.poll() is not None:
             sys.exit("the panel has ended")
     finally:
-        panel.kill()
+        panel.terminate()
         panel.wait()
     print("the panel is accessible")
 

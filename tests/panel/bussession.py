@@ -117,8 +117,14 @@ class BusSession:
 
     def close(self):
         for process in self.started:
-            process.kill()
-            process.communicate()
+            # Not SIGKILL, after which counts of coverage would be lost; one that a test has stopped
+            # takes nothing else.
+            process.terminate()
+            try:
+                process.communicate(timeout=5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.communicate()
         if self.bus.poll() is None and self.owner():
             left = self.process_of(NAME)
             if left != os.getpid():  # a panel that went to the background

@@ -2,6 +2,7 @@
 /// lost: they are written when a program ends by itself.
 #include <unistd.h>
 #include <csignal>
+#include <cstdlib>
 
 extern "C" void __gcov_dump();
 
@@ -13,8 +14,15 @@ void writeCountsAndEnd(int signal)
     ::_exit(128 + signal);
 }
 
+/// While counts are being written at the end of the program, a signal would cut the file short.
+void ignoreTermination()
+{
+    std::signal(SIGTERM, SIG_IGN);
+}
+
 [[maybe_unused]] const bool installed = [] {
-    return std::signal(SIGTERM, writeCountsAndEnd) != SIG_ERR;
+    return std::atexit(ignoreTermination) == 0 &&
+           std::signal(SIGTERM, writeCountsAndEnd) != SIG_ERR;
 }();
 
 }  // namespace
