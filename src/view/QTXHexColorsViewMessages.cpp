@@ -9,12 +9,12 @@ constexpr double fadingStep = 0.05;
 
 /// What sets a warning apart from a plain message.
 struct MessageStyle {
-    double pointSize;
+    double pointSize = 0;
     HostColor color;
     /// While the opacity is above this, the message is at rest for longer.
-    double restingAbove;
-    double restingSeconds;
-    double fadingSeconds;
+    double restingAbove = 0;
+    double restingSeconds = 0;
+    double fadingSeconds = 0;
 };
 
 constexpr MessageStyle plainStyle{12.0, HostColor::colorWithCalibratedRed(0, 0, 1, 1), 0.55, 0.9,

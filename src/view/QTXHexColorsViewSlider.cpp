@@ -56,7 +56,7 @@ void QTXHexColorsView::drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& col
 void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpec, int component,
                                              int digit, HostCanvas& canvas)
 {
-    const auto savedComponent = colorSpec.componentWithIndex(component);
+    const auto before = colorSpec.componentWithIndex(component);
     const int chosen =
         static_cast<int>(colorSpec.colorSubComponentWithComponentIndex(component, digit));
 
@@ -84,7 +84,7 @@ void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpe
                                                    : hexColorsSelectedColorWithoutMatchColorS);
     }
 
-    colorSpec.setComponent(savedComponent, component);
+    colorSpec.setComponent(before, component);
 }
 
 /// Two lines from a high digit's cursor towards the low-digit column beside it, to show that the
