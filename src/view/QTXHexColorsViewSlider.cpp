@@ -56,7 +56,7 @@ void QTXHexColorsView::drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& col
 void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpec, int component,
                                              int digit, HostCanvas& canvas)
 {
-    const auto before = colorSpec.componentWithIndex(component);
+    const auto savedComponent = colorSpec.componentWithIndex(component);
     const int chosen =
         static_cast<int>(colorSpec.colorSubComponentWithComponentIndex(component, digit));
 
@@ -84,7 +84,9 @@ void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpe
                                                    : hexColorsSelectedColorWithoutMatchColorS);
     }
 
-    colorSpec.setComponent(before, component);
+    // Only the name of the second one, which is an index, is what the first parameter is called.
+    // NOLINTNEXTLINE(readability-suspicious-call-argument)
+    colorSpec.setComponent(savedComponent, component);
 }
 
 /// Two lines from a high digit's cursor towards the low-digit column beside it, to show that the
