@@ -67,7 +67,7 @@ std::string bashScript(const CommandDescription& program)
             words.insert(words.end(), option.names.begin(), option.names.end());
             if (option.value.empty()) continue;
             for (const std::string& name : option.names) {
-                valueCases += "        " + quoted(path + " " + name) + ") ";
+                valueCases.append("        ").append(quoted(path + " " + name)).append(") ");
                 if (option.takesFile()) {
                     valueCases += "mapfile -t COMPREPLY < <(compgen -f -- \"$current\"); ";
                 } else if (!option.choices.empty()) {

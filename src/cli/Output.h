@@ -34,7 +34,7 @@ private:
 
     std::size_t _used = 0;
     // Not initialised: a short command touches one page of it.
-    std::array<char, bufferSize> _buffer;
+    std::array<char, bufferSize> _buffer{};
 };
 
 /// Takes the numbers of standard streams that are closed, so that no file that is opened later gets
