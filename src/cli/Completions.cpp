@@ -67,7 +67,8 @@ std::string bashScript(const CommandDescription& program)
             words.insert(words.end(), option.names.begin(), option.names.end());
             if (option.value.empty()) continue;
             for (const std::string& name : option.names) {
-                valueCases.append("        ").append(quoted(path + " " + name)).append(") ");
+                const std::string optionOfCommand = std::string(path).append(" ").append(name);
+                valueCases.append("        ").append(quoted(optionOfCommand)).append(") ");
                 if (option.takesFile()) {
                     valueCases += "mapfile -t COMPREPLY < <(compgen -f -- \"$current\"); ";
                 } else if (!option.choices.empty()) {

@@ -8,6 +8,7 @@ namespace vantorel {
 
 /// Standard output, gathered in a buffer. What cannot be written ends the command by a `Failure`; a
 /// reader who went away ends it silently.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): see _buffer.
 class Output {
 public:
     Output() = default;
@@ -34,7 +35,7 @@ private:
 
     std::size_t _used = 0;
     // Not initialised: a short command touches one page of it.
-    std::array<char, bufferSize> _buffer{};
+    std::array<char, bufferSize> _buffer;
 };
 
 /// Takes the numbers of standard streams that are closed, so that no file that is opened later gets

@@ -133,7 +133,7 @@ Json DriverSession::action(const Json& request)
     HostControl* sender = control != nullptr && !control->is_null()
                               ? &controlNamed<HostControl>(current(), request, "control", "control")
                               : nullptr;
-    if (!current().picker().hasAction(name)) {
+    if (!QTXHexColorPicker::hasAction(name)) {
         throw DriverError("no action is called \"" + name + "\"");
     }
     current().endEditing();
