@@ -56,7 +56,8 @@ std::string_view baseName(std::string_view path)
 std::u16string nameFromFile(std::string_view fileName)
 {
     const std::string_view base = baseName(fileName);
-    return utf16FromUtf8(base.substr(0, base.rfind('.') == 0 ? base.npos : base.rfind('.')));
+    return utf16FromUtf8(
+        base.substr(0, base.rfind('.') == 0 ? std::string_view::npos : base.rfind('.')));
 }
 
 /// Custom properties and variables, wherever they stand. A comment on the line of a declaration, or
