@@ -50,8 +50,8 @@ public:
     void loadColorMatrixSize();
     /// Uses the size that `loadColorMatrixSize` took last.
     [[nodiscard]] HostRect colorMatrixRectWithComponent(int component, int digit, int value) const;
-    /// False, with the results untouched, when no cell lies under the point.
-    bool getComponent(int& component, int& digit, int& value, HostPoint fromHitPoint);
+    /// Component, digit and value of the cell under a point; nothing between the columns and outside.
+    [[nodiscard]] std::optional<SliderCell> getComponent(HostPoint fromHitPoint);
 
     // Palette mode (QTXHexColorsViewPalette.cpp).
 

@@ -22,15 +22,11 @@ HostRect QTXHexColorsView::colorMatrixRectWithComponent(int component, int digit
     return sliderCellRect(colorMatrixRect(), __colorMatrixRectSize, {component, digit, value});
 }
 
-bool QTXHexColorsView::getComponent(int& component, int& digit, int& value, HostPoint fromHitPoint)
+std::optional<SliderCell> QTXHexColorsView::getComponent(HostPoint fromHitPoint)
 {
     const auto cell = sliderCellAtPoint(colorMatrixRect(), fromHitPoint);
-    if (!cell) return false;
-    loadColorMatrixSize();
-    component = cell->component;
-    digit = cell->digit;
-    value = cell->value;
-    return true;
+    if (cell) loadColorMatrixSize();
+    return cell;
 }
 
 void QTXHexColorsView::drawHexSlidersWithRect(HostRect rect, HostCanvas& canvas)
@@ -141,7 +137,7 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
 
     while (type != HostEventType::leftMouseUp) {
         if (current != previous) {
-            const auto hit = sliderCellAtPoint(colorMatrixRect(), current);
+            const auto hit = getComponent(current);
             if (hit && hit != lastHit) {
                 loadWorkColorSpecWithCell(*hit, modifierFlags);
                 const HostColor color = __workColorSpec.colorHexColorSpec();
@@ -167,7 +163,7 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
         current = next.location;
     }
 
-    const auto hit = sliderCellAtPoint(colorMatrixRect(), current);
+    const auto hit = getComponent(current);
     if (!hit) return;
     loadWorkColorSpecWithCell(*hit, modifierFlags);
     // On release the controller, too, gets the colour with the panel's alpha; while the pointer

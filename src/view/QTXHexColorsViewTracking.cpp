@@ -43,7 +43,7 @@ void QTXHexColorsView::mouseMoved(const HostEvent& event)
     if (!bounds().contains(event.location)) return;
     const PickViewMode mode = _hostHexColorPicker.hexSettings().pickViewMode();
     if (mode == PickViewMode::slider) {
-        const auto cell = sliderCellAtPoint(colorMatrixRect(), event.location);
+        const auto cell = getComponent(event.location);
         if (cell) loadWorkColorSpecWithCell(*cell, 0);
         _hostHexColorPicker.postCursorReadout(cell ? &__workColorSpec : nullptr);
         return;

@@ -139,6 +139,32 @@ void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& co
     _painter.fillRect(QRectF(right - width, top + height, width, innerHeight), color);
 }
 
+/// Strokes an open line through the middle of pixels of the device. Its level and upright pieces
+/// are filled bars, so that only slanted ones cost a smooth stroke.
+void QtCanvas::strokeOpenLine(const HostBezierPath& path, const QPen& pen)
+{
+    const qreal ratio = _painter.device()->devicePixelRatioF();
+    const qreal half = std::max(1.0, std::round(pen.widthF() * ratio)) / ratio / 2;
+    const auto snapped = [ratio](qreal x) { return (std::floor(x * ratio) + 0.5) / ratio; };
+    QPointF last;
+    for (const auto& element : path.elements()) {
+        const QPointF exact = placed(element.point);
+        const QPointF point(snapped(exact.x()), snapped(exact.y()));
+        if (element.kind == Kind::lineTo) {
+            if (point.x() == last.x() || point.y() == last.y()) {
+                setAntialiasing(false);
+                const QRectF piece = QRectF(last, point).normalized();
+                _painter.fillRect(piece.adjusted(-half, -half, half, half), pen.color());
+            } else {
+                setAntialiasing(true);
+                _painter.setPen(pen);
+                _painter.drawLine(last, point);
+            }
+        }
+        last = point;
+    }
+}
+
 void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
 {
     const QColor brush = qColorFrom(color);
@@ -149,19 +175,17 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     }
     QPen pen(brush, path.lineWidth() * _scale);
     pen.setJoinStyle(Qt::MiterJoin);
+    // The outline of a shape stays where the shape is. Where the pieces of a line meet they cover
+    // each other, which a translucent colour would show.
+    const auto closes = [](const auto& element) { return element.kind == Kind::close; };
+    if (brush.alpha() == 255 && std::ranges::none_of(path.elements(), closes)) {
+        strokeOpenLine(path, pen);
+        return;
+    }
     setAntialiasing(true);
     _painter.setBrush(Qt::NoBrush);
     _painter.setPen(pen);
-    // An open line runs level or upright for the most part: through the middle of pixels it is
-    // crisp. The outline of a shape stays where the shape is.
-    const bool isOpen = path.elements().back().kind != Kind::close;
-    const qreal ratio = _painter.device()->devicePixelRatioF();
-    _painter.drawPath(painterPath(path, [&](HostPoint point) {
-        const QPointF exact = placed(point);
-        if (!isOpen) return exact;
-        const auto snapped = [&](qreal x) { return (std::floor(x * ratio) + 0.5) / ratio; };
-        return QPointF(snapped(exact.x()), snapped(exact.y()));
-    }));
+    _painter.drawPath(painterPath(path, [this](HostPoint point) { return placed(point); }));
 }
 
 void QtCanvas::drawText(const HostText& text, HostPoint at)

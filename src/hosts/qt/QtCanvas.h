@@ -28,6 +28,7 @@ private:
     [[nodiscard]] QRectF placed(HostRect rect) const;
     void setAntialiasing(bool on);
     void strokeRect(const QRectF& rect, double lineWidth, const QColor& color);
+    void strokeOpenLine(const HostBezierPath& path, const QPen& pen);
 
     QPainter& _painter;
     HostRect _bounds;

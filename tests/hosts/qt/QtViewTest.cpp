@@ -196,45 +196,6 @@ TEST_F(QtCustomViewTest, MovesCrossTheTrackingRectangleOnce)
     EXPECT_EQ(_content._calls, "entered moved exited ");
 }
 
-TEST(QtCanvasTest, RectanglesSideBySideLeaveNoSeam)
-{
-    for (const qreal ratio : {1.0, 1.5, 2.0}) {
-        QImage image(QSize(60, 60) * ratio, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(ratio);
-        image.fill(Qt::green);
-        {
-            QPainter painter(&image);
-            QtCanvas canvas(painter, {0, 0, 60, 60});
-            for (int i = 0; i < 17; ++i) {
-                HostBezierPath path;
-                path.appendBezierPathWithRect({0, i * 60.0 / 17, 60, 60.0 / 17});
-                canvas.fill(path, HostColor::blackColor());
-            }
-        }
-        for (int y = 0; y < image.height(); ++y) {
-            ASSERT_EQ(image.pixelColor(5, y), QColor(Qt::black)) << y << " at " << ratio;
-        }
-    }
-}
-
-TEST(QtCanvasTest, OddColoursAndPathsAreHarmless)
-{
-    QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    QtCanvas canvas(painter, {0, 0, 10, 10});
-    HostBezierPath path;
-    canvas.fill(path, HostColor::blackColor());
-    path.lineToPoint({5, 5});
-    path.closePath();
-    canvas.stroke(path, HostColor::colorWithCalibratedRed(-1, 1e9, std::nan(""), 7));
-    path.appendBezierPathWithRect({0, 0, 10, 10});
-    canvas.fill(path, HostColor::patternColor());
-    canvas.drawText({u"a\nb", 9, HostColor::blackColor()}, {0, 0});
-    EXPECT_EQ(qColorFrom(HostColor::colorWithCalibratedRed(-1, 2, std::nan(""), 1)),
-              QColor(0, 255, 0));
-}
-
 TEST(TextScaleTest, GrowsInQuartersFromTheUsualFont)
 {
     struct Row {
