@@ -6,7 +6,7 @@ namespace vantorel {
 namespace {
 
 /// In single quotation marks, as all three shells take it; fish also wants backslashes doubled.
-std::string quoted(const std::string& text, bool isFish = false)
+std::string shellQuoted(const std::string& text, bool isFish = false)
 {
     std::string result = "'";
     for (const char c : text) {
@@ -55,7 +55,7 @@ std::string bashScript(const CommandDescription& program)
     std::string valueCases;
     std::string wordCases;
     forEachCommand(program, {}, [&](const CommandDescription& command, const std::string& path) {
-        if (!path.empty()) pathCases.append(pathCases.empty() ? "" : "|").append(quoted(path));
+        if (!path.empty()) pathCases.append(pathCases.empty() ? "" : "|").append(shellQuoted(path));
         std::vector<std::string> words = namesOfCommands(command);
         bool takesFiles = false;
         for (const OptionDescription& option : command.options) {
@@ -68,17 +68,17 @@ std::string bashScript(const CommandDescription& program)
             if (option.value.empty()) continue;
             for (const std::string& name : option.names) {
                 const std::string optionOfCommand = std::string(path).append(" ").append(name);
-                valueCases.append("        ").append(quoted(optionOfCommand)).append(") ");
+                valueCases.append("        ").append(shellQuoted(optionOfCommand)).append(") ");
                 if (option.takesFile()) {
                     valueCases += "mapfile -t COMPREPLY < <(compgen -f -- \"$current\"); ";
                 } else if (!option.choices.empty()) {
                     valueCases += "mapfile -t COMPREPLY < <(compgen -W " +
-                                  quoted(joined(option.choices)) + " -- \"$current\"); ";
+                                  shellQuoted(joined(option.choices)) + " -- \"$current\"); ";
                 }
                 valueCases += "return ;;\n";
             }
         }
-        wordCases += "        " + quoted(path) + ") words=" + quoted(joined(words));
+        wordCases += "        " + shellQuoted(path) + ") words=" + shellQuoted(joined(words));
         wordCases += takesFiles ? "; files=1 ;;\n" : " ;;\n";
     });
     return "# Completions of vantorel for bash.\n"
@@ -144,9 +144,9 @@ std::string zshScript(const CommandDescription& program)
             if (option.isOperand()) {
                 // Where commands may stand, the name of a list is one of many words.
                 if (command.commands.empty()) {
-                    arguments +=
-                        " \\\n        " + quoted((option.isRepeatable ? "*:" : ":") +
-                                                 zshText(option.value) + ":" + zshAction(option));
+                    arguments += " \\\n        " +
+                                 shellQuoted((option.isRepeatable ? "*:" : ":") +
+                                             zshText(option.value) + ":" + zshAction(option));
                 }
                 continue;
             }
@@ -154,7 +154,7 @@ std::string zshScript(const CommandDescription& program)
                 std::string word = name + "[" + zshText(option.text) + "]";
                 if (!option.value.empty())
                     word += ":" + zshText(option.value) + ":" + zshAction(option);
-                arguments += " \\\n        " + quoted(word);
+                arguments += " \\\n        " + shellQuoted(word);
             }
         }
         functions += zshFunctionName(path) + "()\n{\n";
@@ -169,8 +169,8 @@ std::string zshScript(const CommandDescription& program)
             " \\\n        '1: :->command' '*:: :->rest'\n"
             "    case $state in\n        command)\n            local -a commands=(\n";
         for (const CommandDescription& inner : command.commands) {
-            functions +=
-                "                " + quoted(inner.name + ":" + zshText(inner.summary())) + "\n";
+            functions += "                " +
+                         shellQuoted(inner.name + ":" + zshText(inner.summary())) + "\n";
         }
         functions +=
             "            )\n            _describe command commands ;;\n"
@@ -204,7 +204,7 @@ std::string fishCondition(const CommandDescription& command, const std::string& 
         condition += (condition.empty() ? "" : "; and ") +
                      ("not __fish_seen_subcommand_from " + joined(namesOfCommands(command)));
     }
-    return condition.empty() ? "" : " -n " + quoted(condition, true);
+    return condition.empty() ? "" : " -n " + shellQuoted(condition, true);
 }
 
 std::string fishScript(const CommandDescription& program)
@@ -213,7 +213,7 @@ std::string fishScript(const CommandDescription& program)
     forEachCommand(program, {}, [&](const CommandDescription& command, const std::string& path) {
         for (const CommandDescription& inner : command.commands) {
             script += "complete -c vantorel" + fishCondition(command, path, true) + " -a " +
-                      inner.name + " -d " + quoted(inner.summary(), true) + "\n";
+                      inner.name + " -d " + shellQuoted(inner.summary(), true) + "\n";
         }
         for (const OptionDescription& option : command.options) {
             std::string line = "complete -c vantorel" + fishCondition(command, path, false);
@@ -224,13 +224,14 @@ std::string fishScript(const CommandDescription& program)
             if (option.takesFile()) {
                 line += option.isOperand() ? " -F" : " -r -F";
             } else if (!option.choices.empty()) {
-                line += (option.isOperand() ? " -a " : " -x -a ") + quoted(joined(option.choices));
+                line +=
+                    (option.isOperand() ? " -a " : " -x -a ") + shellQuoted(joined(option.choices));
             } else if (option.isOperand()) {
                 continue;
             } else if (hasValue) {
                 line += " -x";
             }
-            script += line + " -d " + quoted(option.text, true) + "\n";
+            script += line + " -d " + shellQuoted(option.text, true) + "\n";
         }
     });
     return script;

@@ -6,6 +6,9 @@
 /// From real numbers to whole ones, without undefined behaviour for any input.
 namespace vantorel {
 
+/// What a channel (0..1) may lie above a step of the 8-bit grid and still be exactly that step.
+inline constexpr double exactnessLimit = 0.00002;
+
 /// Truncation towards zero; a negative value or NaN gives 0, one beyond the integers the largest.
 [[nodiscard]] inline std::uint64_t truncatedUnsigned(double value)
 {

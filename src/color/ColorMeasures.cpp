@@ -7,8 +7,6 @@
 namespace vantorel {
 namespace {
 
-constexpr double exactnessLimit = 0.00002;
-
 bool isExactChannel(double channel)
 {
     const auto step = static_cast<double>(truncatedSigned(channel * 255));

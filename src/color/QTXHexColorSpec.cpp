@@ -7,7 +7,6 @@ namespace vantorel {
 namespace {
 
 constexpr double conversionBias = 0.00005;
-constexpr double exactnessLimit = 0.00002;
 constexpr std::uint64_t closenessLimit = 16;
 
 /// The steps of the grid that a channel has reached.

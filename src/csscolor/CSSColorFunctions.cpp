@@ -40,7 +40,7 @@ constexpr std::array<CSSValueRule, 3> predefinedRGBValues{
     unbounded(u"red", 1), unbounded(u"green", 1), unbounded(u"blue", 1)};
 constexpr std::array<CSSValueRule, 3> predefinedXYZValues{unbounded(u"X", 1), unbounded(u"Y", 1),
                                                           unbounded(u"Z", 1)};
-constexpr CSSValueRule alpha{u"alpha", false, 1, 0, 1};
+constexpr CSSValueRule alphaRule{u"alpha", false, 1, 0, 1};
 
 constexpr std::u16string_view rgbExample = u"rgb(255 128 0 / 50%)";
 constexpr std::u16string_view rgbExampleWithCommas = u"rgb(255, 128, 0, 0.5)";
@@ -133,7 +133,7 @@ const std::array<CSSValueRule, 3>& cssValueRules(PredefinedColorSpace space)
 
 const CSSValueRule& cssAlphaRule()
 {
-    return alpha;
+    return alphaRule;
 }
 
 SRGBResult srgbOfCSSValues(CSSColorForm form, PredefinedColorSpace space, const ColorTriple& values)

@@ -27,11 +27,6 @@ constexpr int leastWidthWithHex = 150;
 /// What a name that is typed can have at most; longer ones come from files.
 constexpr int longestTypedName = 200;
 
-int scaled(int points)
-{
-    return qRound(points * textScale());
-}
-
 class EntryDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -56,7 +56,7 @@ void PalettesPage::hide()
 void PalettesPage::resize(HostSize size)
 {
     if (!_widget) return;
-    _widget->setGeometry(0, 0, qRound(size.width * textScale()), qRound(size.height * textScale()));
+    _widget->setGeometry(0, 0, scaled(size.width), scaled(size.height));
 }
 
 void PalettesPage::setColor(const HostColor& color)

@@ -22,11 +22,6 @@ constexpr std::chrono::milliseconds remarkTime{12000};
 constexpr std::chrono::milliseconds settlingTime{60};
 constexpr int iconPoints = 16;
 
-int scaled(int points)
-{
-    return qRound(points * textScale());
-}
-
 QString shownName(const EditablePalette& palette)
 {
     QString name = qStringFrom(palette.name);

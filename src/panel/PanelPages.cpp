@@ -90,8 +90,7 @@ void PluginPage::resize(HostSize size)
         _picker->viewSizeChanged(_view);
     }
     if (_message) {
-        _message->setGeometry(0, 0, qRound(size.width * textScale()),
-                              qRound(size.height * textScale()));
+        _message->setGeometry(0, 0, scaled(size.width), scaled(size.height));
     }
 }
 
@@ -154,8 +153,7 @@ void DialogPage::hide()
 void DialogPage::resize(HostSize size)
 {
     if (_dialog) {
-        _dialog->setGeometry(0, 0, qRound(size.width * textScale()),
-                             qRound(size.height * textScale()));
+        _dialog->setGeometry(0, 0, scaled(size.width), scaled(size.height));
     }
 }
 

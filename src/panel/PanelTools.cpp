@@ -17,7 +17,7 @@ namespace {
 constexpr int wellHeight = 20;
 constexpr int iconSize = 16;
 
-QToolButton* newButton(QWidget* parent)
+QToolButton* newToolsButton(QWidget* parent)
 {
     auto* button = new QtToolButton(parent);
     button->setIconSize(QSize(iconSize, iconSize));
@@ -39,13 +39,13 @@ PanelTools::PanelTools(QWidget* parent)
     : QWidget(parent),
       _well(new ColorWell(tr("Colour"), this)),
       _backgroundWell(new ColorWell(tr("Background"), this)),
-      _swap(newButton(this)),
+      _swap(newToolsButton(this)),
       _opacity(new QSlider(Qt::Horizontal, this)),
       _opacityText(new QLabel(this)),
       _recent(new RecentColors(this)),
       _contrast(new ContrastLabel(this)),
-      _pick(newButton(this)),
-      _copy(newButton(this))
+      _pick(newToolsButton(this)),
+      _copy(newToolsButton(this))
 {
     _well->setObjectName(QStringLiteral("colorWell"));
     _backgroundWell->setObjectName(QStringLiteral("backgroundWell"));

@@ -16,11 +16,10 @@ namespace {
 constexpr int iconPoints = 18;
 constexpr std::chrono::milliseconds remarkTime{6000};
 
-QToolButton* newButton(QWidget* parent)
+QToolButton* newTopButton(QWidget* parent)
 {
     auto* button = new QtToolButton(parent);
-    const int size = qRound(iconPoints * textScale());
-    button->setIconSize(QSize(size, size));
+    button->setIconSize(QSize(scaled(iconPoints), scaled(iconPoints)));
     return button;
 }
 
@@ -30,7 +29,7 @@ PanelTopBar::PanelTopBar(QWidget* parent)
     : QWidget(parent),
       _pages(new QButtonGroup(this)),
       _name(new QLabel(this)),
-      _menuButton(newButton(this))
+      _menuButton(newTopButton(this))
 {
     setObjectName(QStringLiteral("topBar"));
     auto* row = new QHBoxLayout(this);
@@ -54,7 +53,7 @@ PanelTopBar::PanelTopBar(QWidget* parent)
 
 void PanelTopBar::addPage(const QIcon& icon, const QString& name, const QString& toolTip)
 {
-    QToolButton* button = newButton(this);
+    QToolButton* button = newTopButton(this);
     button->setCheckable(true);
     button->setIcon(icon);
     button->setToolTip(toolTip);

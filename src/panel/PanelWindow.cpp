@@ -26,12 +26,7 @@ constexpr int problemsPoints = 20;
 constexpr int choicePoints = 42;
 constexpr QSize firstPageSize{260, 340};
 
-int scaled(int points)
-{
-    return qRound(points * textScale());
-}
-
-QSize scaled(QSize points)
+QSize scaledSize(QSize points)
 {
     return {scaled(points.width()), scaled(points.height())};
 }
@@ -149,7 +144,7 @@ void PanelWindow::showPage(int index)
     page.show(*_holder);
     pageDidAppear();
     page.setColor(_color);
-    const QSize least = scaled(page.minimumSize() + barsPoints());
+    const QSize least = scaledSize(page.minimumSize() + barsPoints());
     setMinimumSize(least);
     resize(size().expandedTo(least));
     layOut();
@@ -260,7 +255,7 @@ void PanelWindow::showRemark(const QString& remark)
 
 void PanelWindow::resizeToPage(QSize points)
 {
-    resize(scaled(points + barsPoints()));
+    resize(scaledSize(points + barsPoints()));
     layOut();
 }
 

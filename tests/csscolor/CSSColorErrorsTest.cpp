@@ -9,14 +9,14 @@
 namespace vantorel {
 namespace {
 
-struct Row {
+struct ErrorRow {
     const char* text;
     const char* error;
 };
 
-void expectErrors(const std::vector<Row>& rows)
+void expectErrors(const std::vector<ErrorRow>& rows)
 {
-    for (const Row& row : rows) {
+    for (const ErrorRow& row : rows) {
         const CSSColorReading reading = readCSSColor(row.text);
         EXPECT_FALSE(reading.color) << row.text;
         EXPECT_EQ(utf8FromUtf16(reading.error), row.error) << row.text;

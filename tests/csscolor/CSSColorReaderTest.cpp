@@ -29,7 +29,7 @@ void expectColor(std::string_view text, double red, double green, double blue, d
     EXPECT_NEAR(components.alpha, alpha, 1e-9) << text;
 }
 
-struct Row {
+struct ReaderRow {
     const char* text;
     double red, green, blue, alpha;
     Form form;
@@ -37,7 +37,7 @@ struct Row {
 
 TEST(CSSColorReaderTest, EveryFormOfSRGBIsReadExactly)
 {
-    const std::vector<Row> rows{
+    const std::vector<ReaderRow> rows{
         {"#f80", 255, 136, 0, 1, Form::hex},
         {"#F80c", 255, 136, 0, 0.8, Form::hex},
         {"#ff8000", 255, 128, 0, 1, Form::hex},
@@ -77,7 +77,7 @@ TEST(CSSColorReaderTest, EveryFormOfSRGBIsReadExactly)
         {"color(srgb 1 0.5 0)", 255, 127.5, 0, 1, Form::color},
         {"COLOR(SRGB 100% 20% none / 30%)", 255, 51, 0, 0.3, Form::color},
     };
-    for (const Row& row : rows) {
+    for (const ReaderRow& row : rows) {
         expectColor(row.text, row.red, row.green, row.blue, row.alpha);
         const CSSColorReading reading = readCSSColor(row.text);
         ASSERT_TRUE(reading.color);

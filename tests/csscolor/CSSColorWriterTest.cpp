@@ -16,7 +16,7 @@ HostColor bytes(int red, int green, int blue, double alpha = 1)
     return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
 }
 
-struct Row {
+struct WriterRow {
     HostColor color;
     const char16_t* hex;
     const char16_t* rgb;
@@ -26,7 +26,7 @@ struct Row {
 
 TEST(CSSColorWriterTest, ColoursAreWrittenInEveryForm)
 {
-    const Row rows[]{
+    const WriterRow rows[]{
         {bytes(255, 0, 0), u"#ff0000", u"rgb(255, 0, 0)", u"hsl(0 100% 50%)",
          u"oklch(62.796% 0.25768 29.234)"},
         {bytes(0, 255, 0), u"#00ff00", u"rgb(0, 255, 0)", u"hsl(120 100% 50%)",
@@ -43,7 +43,7 @@ TEST(CSSColorWriterTest, ColoursAreWrittenInEveryForm)
         {bytes(0, 1, 0, 0.1), u"#0001001a", u"rgba(0, 1, 0, 0.1)", u"hsl(120 100% 0.2% / 0.1)",
          u"oklch(5.823% 0.01981 142.495 / 0.1)"},
     };
-    for (const Row& row : rows) {
+    for (const WriterRow& row : rows) {
         EXPECT_EQ(hexText(row.color), row.hex);
         EXPECT_EQ(rgbText(row.color), row.rgb);
         EXPECT_EQ(hslText(row.color), row.hsl);

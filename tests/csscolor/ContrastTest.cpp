@@ -15,7 +15,7 @@ HostColor color(const char* text)
     return readCSSColor(text).color.value().color;
 }
 
-struct Row {
+struct ContrastRow {
     const char* foreground;
     const char* background;
     double ratio;
@@ -23,23 +23,23 @@ struct Row {
 
 TEST(ContrastTest, RatiosAreThoseOfTheGuidelines)
 {
-    for (const Row& row : {
-             Row{"black", "white", 21},
-             Row{"white", "black", 21},
-             Row{"white", "white", 1},
-             Row{"#767676", "white", 4.5423},
-             Row{"#777777", "white", 4.4781},
-             Row{"red", "white", 3.9985},
-             Row{"blue", "white", 8.5925},
-             Row{"lime", "white", 1.3722},
-             Row{"red", "blue", 2.1490},
+    for (const ContrastRow& row : {
+             ContrastRow{"black", "white", 21},
+             ContrastRow{"white", "black", 21},
+             ContrastRow{"white", "white", 1},
+             ContrastRow{"#767676", "white", 4.5423},
+             ContrastRow{"#777777", "white", 4.4781},
+             ContrastRow{"red", "white", 3.9985},
+             ContrastRow{"blue", "white", 8.5925},
+             ContrastRow{"lime", "white", 1.3722},
+             ContrastRow{"red", "blue", 2.1490},
              // Half black over white is #808080 in fractions of 0.5.
-             Row{"rgb(0 0 0 / 50%)", "white", 3.9767},
+             ContrastRow{"rgb(0 0 0 / 50%)", "white", 3.9767},
              // The background over white first, then the foreground over both.
-             Row{"black", "rgb(0 0 0 / 50%)", 5.2808},
-             Row{"rgb(0 0 0 / 0)", "rgb(0 0 0 / 50%)", 1},
-             Row{"rgb(0 0 0 / 50%)", "transparent", 3.9767},
-             Row{"transparent", "transparent", 1},
+             ContrastRow{"black", "rgb(0 0 0 / 50%)", 5.2808},
+             ContrastRow{"rgb(0 0 0 / 0)", "rgb(0 0 0 / 50%)", 1},
+             ContrastRow{"rgb(0 0 0 / 50%)", "transparent", 3.9767},
+             ContrastRow{"transparent", "transparent", 1},
          }) {
         EXPECT_NEAR(contrastRatio(color(row.foreground), color(row.background)).value(), row.ratio,
                     0.0001)

@@ -82,11 +82,9 @@ QIcon iconFromSvg(const std::string& svg, const QWidget* ground)
 QtButton::QtButton(const HostControlDescription& description)
     : QtMirrored(description.frame, makeButton(description))
 {
-    constexpr double defaultPointSize = 11;
     constexpr int iconSize = 14;
     QAbstractButton* shown = button();
-    shown->setFont(
-        fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
+    shown->setFont(fontOf(description));
     shown->setText(qStringFrom(description.title));
     shown->setIcon(iconFromSvg(description.svgImage, shown));
     shown->setIconSize(QSize(iconSize, iconSize) * textScale());

@@ -54,6 +54,16 @@ QFont fontOfSize(double points)
     return font;
 }
 
+QFont fontOf(const HostControlDescription& description)
+{
+    constexpr double usualPointSize = 11;
+    QFont font = fontOfSize(description.pointSize > 0 ? description.pointSize : usualPointSize);
+    if (!description.monospaced) return font;
+    QFont monospaced = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    monospaced.setPixelSize(font.pixelSize());
+    return monospaced;
+}
+
 QPalette paletteOnLightGround()
 {
     constexpr int darkGround = 128;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "host/HostInterfaceFactory.h"
 
 #include <QColor>
 #include <QFont>
@@ -24,6 +25,9 @@ namespace vantorel {
 
 /// The desktop's sans-serif face; a point of the core is `textScale()` device-independent pixels.
 [[nodiscard]] QFont fontOfSize(double points);
+
+/// The font of a control, which has 11 points where its description names no size.
+[[nodiscard]] QFont fontOf(const HostControlDescription& description);
 
 /// The palette for controls on the core's own grounds, which are light in every theme: the
 /// program's where that is light, else one to match.

@@ -16,8 +16,6 @@
 namespace vantorel {
 namespace {
 
-constexpr double defaultPointSize = 11;
-
 bool canBeChosen(const HostMenuItem& item)
 {
     return !item.separator && !item.submenu;
@@ -137,8 +135,7 @@ private:
 QtPopUpButton::QtPopUpButton(const HostControlDescription& description)
     : QtMirrored(description.frame, new Widget(*this))
 {
-    widget()->setFont(
-        fontOfSize(description.pointSize > 0 ? description.pointSize : defaultPointSize));
+    widget()->setFont(fontOf(description));
     widget()->setAccessibleName(qStringFrom(description.accessibleName));
 }
 

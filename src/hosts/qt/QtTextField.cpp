@@ -3,7 +3,6 @@
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -11,17 +10,6 @@
 
 namespace vantorel {
 namespace {
-
-constexpr double defaultPointSize = 11;
-
-QFont describedFont(const HostControlDescription& description)
-{
-    const double size = description.pointSize > 0 ? description.pointSize : defaultPointSize;
-    if (!description.monospaced) return fontOfSize(size);
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(fontOfSize(size).pixelSize());
-    return font;
-}
 
 Qt::Alignment describedAlignment(const HostControlDescription& description)
 {
@@ -151,7 +139,7 @@ private:
 };
 
 QtTextField::QtTextField(const HostControlDescription& description)
-    : QtMirrored(description.frame, new LineEdit(*this, describedFont(description)))
+    : QtMirrored(description.frame, new LineEdit(*this, fontOf(description)))
 {
     QLineEdit* edit = lineEdit();
     edit->setAlignment(describedAlignment(description));
@@ -221,7 +209,7 @@ void QtTextField::setSelectedRange(HostSelection range)
 QtLabel::QtLabel(const HostControlDescription& description)
     : QtMirrored(description.frame, new QLabel)
 {
-    label()->setFont(describedFont(description));
+    label()->setFont(fontOf(description));
     label()->setAlignment(describedAlignment(description));
     label()->setTextFormat(Qt::PlainText);
     label()->setAccessibleName(qStringFrom(description.accessibleName));

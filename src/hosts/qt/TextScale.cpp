@@ -30,4 +30,9 @@ double textScale()
     return scale;
 }
 
+int scaled(double points)
+{
+    return qRound(points * textScale());
+}
+
 }  // namespace vantorel

@@ -8,6 +8,9 @@ namespace vantorel {
 /// the same until the program ends. Needs a QGuiApplication.
 [[nodiscard]] double textScale();
 
+/// So many points in whole device-independent pixels.
+[[nodiscard]] int scaled(double points);
+
 /// The scale for a general font of that height in device-independent pixels: in steps of a quarter,
 /// so that edges fall on pixels more often than not.
 [[nodiscard]] double textScaleForFontHeight(double pixels);

@@ -8,13 +8,13 @@
 namespace vantorel {
 namespace {
 
-const HostImage image{{40, 16}, [](HostCanvas&) {}};
+const HostImage dragImage{{40, 16}, [](HostCanvas&) {}};
 
 TEST(QtDragTest, AColourGoesAsAColourAlone)
 {
     QWidget source;
     const QDrag* drag =
-        makeDrag(source, image, HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 0.5));
+        makeDrag(source, dragImage, HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 0.5));
     ASSERT_NE(drag, nullptr);
     EXPECT_EQ(drag->mimeData()->formats(), QStringList{"application/x-color"});
     const auto color = drag->mimeData()->colorData().value<QColor>().rgba64();
@@ -28,7 +28,7 @@ TEST(QtDragTest, ATextGoesAsUtf8Alone)
 {
     QWidget source;
     const std::string text = "#ff8000 \xC3\xA4 \xF0\x9F\x8E\xA8";
-    const QDrag* drag = makeDrag(source, image, text);
+    const QDrag* drag = makeDrag(source, dragImage, text);
     ASSERT_NE(drag, nullptr);
     EXPECT_EQ(drag->mimeData()->formats(), QStringList{"text/plain"});
     EXPECT_EQ(drag->mimeData()->data("text/plain"), QByteArray::fromStdString(text));
@@ -37,13 +37,13 @@ TEST(QtDragTest, ATextGoesAsUtf8Alone)
 TEST(QtDragTest, ThePointerIsAtTheLowerLeftCornerOfTheImage)
 {
     QWidget source;
-    EXPECT_EQ(makeDrag(source, image, std::string("text"))->hotSpot(), QPoint(0, 16));
+    EXPECT_EQ(makeDrag(source, dragImage, std::string("text"))->hotSpot(), QPoint(0, 16));
 }
 
 TEST(QtDragTest, AColourWithoutComponentsIsNotDragged)
 {
     QWidget source;
-    EXPECT_EQ(makeDrag(source, image, HostColor::patternColor()), nullptr);
+    EXPECT_EQ(makeDrag(source, dragImage, HostColor::patternColor()), nullptr);
 }
 
 }  // namespace

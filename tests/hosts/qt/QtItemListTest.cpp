@@ -12,7 +12,7 @@
 namespace vantorel {
 namespace {
 
-HostControlDescription describe()
+HostControlDescription describedPopUp()
 {
     HostControlDescription description;
     description.frame = {0, 0, 120, 22};
@@ -58,7 +58,7 @@ protected:
 
     int _painted = 0;
     int _actions = 0;
-    QtPopUpButton _popUp{describe()};
+    QtPopUpButton _popUp{describedPopUp()};
 };
 
 TEST_F(QtItemListTest, AClickChooses)
