@@ -1,6 +1,6 @@
 # Most of a compilation is reading the headers of the standard library, of Qt and of GoogleTest, so
 # they are read once for all layers and once for all tests. The preset "clang" goes without: it shows
-# that each file includes what it needs.
+# that each file includes what it needs. Where several files are compiled together nothing is gained.
 option(VANTOREL_PRECOMPILED_HEADERS "Read the libraries' headers once for all targets" ON)
 
 set(_vantorel_standard_headers
@@ -14,7 +14,7 @@ set(_vantorel_test_headers <gmock/gmock.h> <gtest/gtest.h>)
 # and for libraries apart.
 function(vantorel_precompile target)
   cmake_parse_arguments(arg "JSON;QT;TESTS" "" "" ${ARGN})
-  if(NOT VANTOREL_PRECOMPILED_HEADERS)
+  if(NOT VANTOREL_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
     return()
   endif()
   set(holder vantorel_precompiled)
