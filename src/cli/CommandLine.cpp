@@ -338,20 +338,18 @@ std::string lowerFirst(std::string text)
     const CLI::App& command = givenCommand(program, names);
     const std::string advice = "\"" + names + " --help\" tells what can be given";
     if (&command == &program && !arguments.empty() && !arguments.front().starts_with('-')) {
-        throw Failure{quotedText(arguments.front()) + " is no command", advice, usageStatus};
+        throw Failure{quotedText(arguments.front()) + " is no command", advice};
     }
-    if (&command == &program && arguments.empty())
-        throw Failure{"there is no command", advice, usageStatus};
+    if (&command == &program && arguments.empty()) throw Failure{"there is no command", advice};
     const auto rest = program.remaining(true);
     if (&command == &program && !rest.empty()) {
-        throw Failure{quotedText(rest.front()) + " does not belong to \"" + names + "\"", advice,
-                      usageStatus};
+        throw Failure{quotedText(rest.front()) + " does not belong to \"" + names + "\"", advice};
     }
     std::string what = lowerFirst(error.what());
     // "--list: 1 required NAME missing" has a colon of its own.
     if (error.get_name() == "ArgumentMismatch")
         what.replace(std::min(what.find(':'), what.size()), std::string::npos, " has no value");
-    throw Failure{what, advice, usageStatus};
+    throw Failure{what, advice};
 }
 
 void checkChoice(const std::string& what, const std::string& value,
@@ -363,7 +361,7 @@ void checkChoice(const std::string& what, const std::string& value,
         if (!all.empty()) all += choice == choices.back() ? " or " : ", ";
         all += choice;
     }
-    throw Failure{what + " is " + quotedText(value), "it can be " + all, usageStatus};
+    throw Failure{what + " is " + quotedText(value), "it can be " + all};
 }
 
 void checkChoices(const Definer& definer)
@@ -382,10 +380,10 @@ void checkNothingBetween(const CLI::App& program)
     const std::string right = "write it behind \"" + program.get_name() + " " + outer->get_name() +
                               " " + outer->get_subcommands().front()->get_name() + "\"";
     if (const auto rest = outer->remaining(false); !rest.empty())
-        throw Failure{quotedText(rest.front()) + " stands before the command", right, usageStatus};
+        throw Failure{quotedText(rest.front()) + " stands before the command", right};
     for (const CLI::Option* option : outer->get_options()) {
         if (option->count() > 0)
-            throw Failure{option->get_name() + " stands before the command", right, usageStatus};
+            throw Failure{option->get_name() + " stands before the command", right};
     }
 }
 
@@ -398,19 +396,17 @@ std::vector<std::string> takeOperands(const CLI::App& command, const std::string
     std::vector<std::string> given = command.remaining(false);
     for (const std::string& text : given) {
         if (text.starts_with('-') && text != "-") {
-            throw Failure{quotedText(text) + " does not belong to \"" + names + "\"", advice,
-                          usageStatus};
+            throw Failure{quotedText(text) + " does not belong to \"" + names + "\"", advice};
         }
     }
     given.insert(given.end(), behindMark.begin(), behindMark.end());
     const auto* operands = definer.operandsOf(command);
     const std::size_t most = operands != nullptr ? operands->most : 0;
     if (!given.empty() && (operands == nullptr || (most > 0 && given.size() > most))) {
-        throw Failure{quotedText(given[most]) + " is one argument too many", advice, usageStatus};
+        throw Failure{quotedText(given[most]) + " is one argument too many", advice};
     }
     if (operands == nullptr) return {};
-    if (given.size() < operands->fewest)
-        throw Failure{"there is no " + operands->value, advice, usageStatus};
+    if (given.size() < operands->fewest) throw Failure{"there is no " + operands->value, advice};
     if (!operands->choices.empty()) {
         for (const std::string& value : given)
             checkChoice(operands->value, value, operands->choices);

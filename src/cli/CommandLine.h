@@ -53,7 +53,7 @@ struct CommandLineReading {
     std::string text;
 };
 
-/// Arguments that are no command line are a `Failure` of `usageStatus`. `arguments` are those
+/// Arguments that are no command line are a `Failure`. `arguments` are those
 /// behind the program's name.
 [[nodiscard]] CommandLineReading readCommandLine(const std::vector<std::string>& arguments);
 

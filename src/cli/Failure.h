@@ -5,21 +5,18 @@
 
 namespace vantorel {
 
-inline constexpr int failureStatus = 1;
-inline constexpr int usageStatus = 2;
+/// The exit status of whatever goes wrong. A user who chooses nothing is no error, and has the 1.
+inline constexpr int failureStatus = 2;
 
 /// Ends a command. `what` is wrong and `right` would be right; both are UTF-8, and may hold what
 /// somebody else has written.
 struct Failure {
     std::string what;
     std::string right;
-    int status = failureStatus;
 };
 
-/// Ends a command about which all has been said, or that has nobody left to say it to.
-struct SilentFailure {
-    int status = failureStatus;
-};
+/// Ends a command that has nobody left to say anything to.
+struct SilentFailure {};
 
 /// A text as one line that cannot command a terminal: control characters become blanks, and what is
 /// no UTF-8 becomes U+FFFD.

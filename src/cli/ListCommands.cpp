@@ -46,7 +46,7 @@ HostSize pictureSize(const CommandLine& commandLine)
     };
     if (!fits(width) || !fits(height)) {
         throw Failure{"--size is " + quotedText(text),
-                      "it can be from 8x8 to 16384x16384, such as 640x480", usageStatus};
+                      "it can be from 8x8 to 16384x16384, such as 640x480"};
     }
     return {static_cast<double>(*width), static_cast<double>(*height)};
 }
@@ -58,8 +58,7 @@ int ringCount(Session& session, const CommandLine& commandLine)
     if (!rings || drawnRingCount(*rings) != *rings) {
         throw Failure{"--rings is " + quotedText(*commandLine.rings),
                       "it can be a whole number from " + std::to_string(fewestDrawnRings) + " to " +
-                          std::to_string(mostDrawnRings),
-                      usageStatus};
+                          std::to_string(mostDrawnRings)};
     }
     return *rings;
 }
@@ -182,8 +181,7 @@ int tellList(Session& session, const CommandLine& commandLine)
     if (commandLine.operands.empty()) {
         throw Failure{"there is no NAME",
                       "\"vantorel lists\" tells the lists, \"vantorel list --help\" "
-                      "what can be done with one",
-                      usageStatus};
+                      "what can be done with one"};
     }
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.json) {
@@ -205,10 +203,10 @@ int importLists(Session& session, const CommandLine& commandLine)
     if (commandLine.newName && commandLine.operands.size() > 1) {
         throw Failure{
             "--name is given for " + std::to_string(commandLine.operands.size()) + " files",
-            "it goes with one FILE", usageStatus};
+            "it goes with one FILE"};
     }
     if (commandLine.newName && commandLine.newName->empty())
-        throw Failure{"--name is empty", "give the list a name", usageStatus};
+        throw Failure{"--name is empty", "give the list a name"};
     int status = 0;
     for (const std::string& file : commandLine.operands) {
         try {
@@ -242,7 +240,7 @@ int drawWheel(Session& session, const CommandLine& commandLine)
 int drawPalette(Session& session, const CommandLine& commandLine)
 {
     if (!commandLine.svg && !commandLine.png)
-        throw Failure{"there is no file to write", "give --svg FILE or --png FILE", usageStatus};
+        throw Failure{"there is no file to write", "give --svg FILE or --png FILE"};
     const HostSize size = pictureSize(commandLine);
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.svg) {

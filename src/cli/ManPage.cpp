@@ -85,10 +85,13 @@ constexpr std::string_view closingSections = R"(.SH EXIT STATUS
 All went well.
 .TP
 .B 1
-Something failed: a text is no colour, a list is missing, a file cannot be read or written.
+.B vantorel choose
+or
+.B vantorel pick
+was left without a colour.
 .TP
 .B 2
-The command line is wrong.
+Something is wrong with the command line, a text that is no colour, a list, or a file.
 .PP
 .BR pick ,
 .B choose

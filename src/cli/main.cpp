@@ -80,10 +80,10 @@ int main(int argc, char** argv)
             } catch (const Failure&) {
             }
             complain(failure.what, failure.right);
-            return failure.status;
+            return failureStatus;
         }
-    } catch (const SilentFailure& failure) {
-        return failure.status;
+    } catch (const SilentFailure&) {
+        return failureStatus;
     } catch (const std::bad_alloc&) {
         complain("there is not enough memory", "less at once needs less");
         return failureStatus;

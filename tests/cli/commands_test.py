@@ -162,12 +162,12 @@ class Commands(ProgramTest):
     def test_wrong_command_lines_end_with_2(self):
         for arguments, message in USAGE_ERRORS:
             with self.subTest(arguments=arguments):
-                self.assertIn(message, self.refusal(2, *arguments))
+                self.assertIn(message, self.refusal(*arguments))
 
     def test_failures_end_with_1(self):
         for arguments, message in ERRORS:
             with self.subTest(arguments=arguments):
-                self.assertIn(message, self.refusal(1, *arguments))
+                self.assertIn(message, self.refusal(*arguments))
 
     def test_the_texts_of_the_picker_are_read(self):
         for text, code in PICKERS_TEXTS:
@@ -176,7 +176,7 @@ class Commands(ProgramTest):
 
     def test_each_colour_is_shown_though_another_is_none(self):
         run = self.run_program("show", "--snippet", "VBasic", "red", "nope", "blue")
-        self.assertEqual((run.returncode, run.stdout), (1, b"RGB(255, 0, 0)\nRGB(0, 0, 255)\n"))
+        self.assertEqual((run.returncode, run.stdout), (2, b"RGB(255, 0, 0)\nRGB(0, 0, 255)\n"))
         self.assertEqual(run.stderr.count(b"\n"), 1)
 
     def test_json_holds_everything(self):
@@ -215,7 +215,7 @@ class Commands(ProgramTest):
     def test_a_naming_list_that_is_missing_is_no_failure(self):
         self.write_settings("{HexColorLlst = Gone;}")
         self.assertNotIn("name", self.told("show", "red"))
-        self.assertIn("no colour list to name colours by", self.refusal(1, "name", "red"))
+        self.assertIn("no colour list to name colours by", self.refusal("name", "red"))
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.told("--help"), re.M)
@@ -237,7 +237,7 @@ class Commands(ProgramTest):
                           ["show", "red", "--list", "Evil\x1b[2J"]):
             told = self.told(*arguments)
             self.assertNotRegex(told, "[\x00-\x08\x0b-\x1f\x7f-\x9f]", arguments)
-        self.assertNotIn("\x1b", self.refusal(1, "list", "\x1b[2J"))
+        self.assertNotIn("\x1b", self.refusal("list", "\x1b[2J"))
 
 
 class Panel(ProgramTest):
@@ -280,13 +280,13 @@ class Panel(ProgramTest):
         self.write(os.path.join(self.other, "vantorel-panel"), "not executable")
         for arguments in (["pick"], ["choose", "red"], ["panel", "--help"]):
             status, told, message = self.run_copy(*arguments)
-            self.assertEqual((status, told), (1, ""))
+            self.assertEqual((status, told), (2, ""))
             self.assertEqual(message, "vantorel: the program vantorel-panel is missing: install it beside vantorel or in "
                                       "a folder of PATH\n")
 
     def test_a_panel_that_cannot_be_run_is_told(self):
         self.put_panel(self.bin, "#!/nowhere\n")
-        self.assertEqual(self.run_copy("panel")[0], 1)
+        self.assertEqual(self.run_copy("panel")[0], 2)
         self.assertIn("cannot be run", self.run_copy("panel")[2])
 
 

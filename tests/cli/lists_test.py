@@ -170,10 +170,10 @@ class Lists(ProgramTest):
         ]]
         for path in bad:
             with self.subTest(file=path):
-                message = self.refusal(1, "list", "import", path)
+                message = self.refusal("list", "import", path)
                 self.assertIn(os.path.basename(path), message)
         run = self.run_program("list", "import", bad[0], good, bad[1])
-        self.assertEqual(run.returncode, 1)
+        self.assertEqual(run.returncode, 2)
         self.assertEqual(len(run.stderr.splitlines()), 2)
         self.assertEqual(self.told("list", "good"), "#ff0000\tr\n")
 
@@ -184,7 +184,7 @@ class Lists(ProgramTest):
         same = self.write(os.path.join(self.root, "s.gpl"), "GIMP Palette\nName: Mine\n# same\n1 2 3 one\n")
         self.assertIn("is there already", self.told("list", "import", same))
         self.assertEqual(self.read(mine), before)
-        self.assertIn('"--yes" replaces it', self.refusal(1, "list", "import", other))
+        self.assertIn('"--yes" replaces it', self.refusal("list", "import", other))
         self.assertEqual(self.read(mine), before)
         self.told("list", "import", "--yes", other)
         self.assertEqual(self.told("list", "Mine"), "#090909\tnine\n")

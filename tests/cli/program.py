@@ -60,11 +60,11 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual((run.returncode, run.stderr.decode()), (0, ""), arguments)
         return run.stdout.decode()
 
-    def refusal(self, status, *arguments, stdin=b"", **options):
+    def refusal(self, *arguments, stdin=b"", **options):
         """The error message of a run that fails as it should."""
         run = self.run_program(*arguments, stdin=stdin, **options)
         message = run.stderr.decode()
-        self.assertEqual(run.returncode, status, (arguments, message))
+        self.assertEqual(run.returncode, 2, (arguments, message))
         for line in message.splitlines():
             # What is wrong, and what would be right.
             self.assertRegex(line, r"^vantorel: .+: .+", arguments)

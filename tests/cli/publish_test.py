@@ -71,14 +71,14 @@ class Publishing(ProgramTest):
         self.told("list", "publish", "Mine")
         self.assertEqual(self.told("list", "publish", "Mine", "--undo").count("removed: "), len(PLACES))
         self.assertEqual(set(self.files_at_home()) - set(before), {".local/share/Vantorel/Published"})
-        self.assertIn("has not been published", self.refusal(1, "list", "publish", "--undo", "Mine"))
+        self.assertIn("has not been published", self.refusal("list", "publish", "--undo", "Mine"))
 
     def test_a_file_that_differs_is_replaced_only_on_demand_and_restored(self):
         self.make_places(*PLACES[:2])
         for old in (b"GIMP Palette\nName: M\xfcne\n0 0 0\told\n", b"", bytes(range(256))):
             with self.subTest(old=old[:20]):
                 path = self.write(self.target(PLACES[0]), old)
-                message = self.refusal(1, "list", "publish", "Mine")
+                message = self.refusal("list", "publish", "Mine")
                 self.assertIn('is there and differs: "--yes" replaces it', message)
                 self.assertEqual(self.read(path), old)
                 # The folder that has none got its file all the same.
@@ -105,7 +105,7 @@ class Publishing(ProgramTest):
     def test_import_asks_too(self):
         other = self.write(os.path.join(self.root, "o.gpl"), "GIMP Palette\nName: Mine\n9 9 9\tnine\n")
         status, seen = self.answer("n\n", "list", "import", other)
-        self.assertEqual((status, self.told("list", "Mine")), (1, "#010203\tone\n"))
+        self.assertEqual((status, self.told("list", "Mine")), (2, "#010203\tone\n"))
         status, seen = self.answer("yes\n", "list", "import", other)
         self.assertEqual((status, self.told("list", "Mine")), (0, "#090909\tnine\n"))
 
@@ -116,7 +116,7 @@ class Publishing(ProgramTest):
         self.write(self.target(PLACES[0]), STRICT + b"9 9 9\tmy own\n")
         self.write(self.target(PLACES[2]), "changed")
         run = self.run_program("list", "publish", "--undo", "Mine")
-        self.assertEqual((run.returncode, run.stdout.decode()), (1, f"removed: {self.target(PLACES[1])}\n"))
+        self.assertEqual((run.returncode, run.stdout.decode()), (2, f"removed: {self.target(PLACES[1])}\n"))
         self.assertEqual(run.stderr.decode().count("has been changed since"), 2)
         self.assertEqual(self.read(self.target(PLACES[0])), STRICT + b"9 9 9\tmy own\n")
         # Once it is as it was published, it can be taken back after all.
@@ -143,7 +143,7 @@ class Publishing(ProgramTest):
         os.mkdir(self.target(PLACES[0]))
         os.symlink("/nowhere/x", self.target(PLACES[1]))
         run = self.run_program("list", "publish", "--yes", "Mine")
-        self.assertEqual(run.returncode, 1)
+        self.assertEqual(run.returncode, 2)
         self.assertEqual(run.stderr.decode().count("cannot be replaced"), 2)
         self.assertEqual(self.read(self.target(PLACES[2])), STRICT)
 
@@ -158,7 +158,7 @@ class Publishing(ProgramTest):
         self.make_places(*PLACES[:2])
         os.chmod(self.path(PLACES[0]), 0o500)
         run = self.run_program("list", "publish", "Mine")
-        self.assertEqual(run.returncode, 1)
+        self.assertEqual(run.returncode, 2)
         self.assertIn(b"cannot be written", run.stderr)
         self.assertEqual(self.told("list", "publish", "--undo", "Mine"), f"removed: {self.target(PLACES[1])}\n")
 
@@ -175,7 +175,7 @@ class Publishing(ProgramTest):
         self.told("list", "publish", "Mine")
         record = self.path(".local/share/Vantorel/Published/Mine.gpl.plist")
         self.write(record, b"{Publishes = (((")
-        self.assertIn("has not been published", self.refusal(1, "list", "publish", "--undo", "Mine"))
+        self.assertIn("has not been published", self.refusal("list", "publish", "--undo", "Mine"))
         self.assertEqual(self.read(self.target(PLACES[0])), STRICT)
 
 

@@ -51,7 +51,7 @@ class Terminal(ProgramTest):
     def test_bytes_are_not_sent_to_a_terminal(self):
         for arguments in (["list", "export", "CSS Keyword", "--format", "ase"], ["palette", "CSS Keyword", "--png", "-"]):
             status, seen = self.at_terminal(*arguments)
-            self.assertEqual(status, 1)
+            self.assertEqual(status, 2)
             self.assertTrue(seen.startswith("vantorel: "), seen)
 
     def progress_of(self, stdout):

@@ -61,10 +61,10 @@ class FullDisks(RealDisksTest):
         self.refuses(self.change("settings", "9", **options), reason)
         run = self.home.run([PROGRAM, "list", "import", "--yes", "$HOME/file.gpl"], **options)
         self.refuses(run, "cannot be saved")
-        self.assertEqual(run.status, 1)
+        self.assertEqual(run.status, 2)
         run = self.home.run([PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "$HOME/x.css"], **options)
         self.refuses(run, "cannot be written")
-        self.assertEqual(run.status, 1)
+        self.assertEqual(run.status, 2)
         self.assertTrue(self.home.files() == before, "something has changed")
 
     def test_a_file_system_without_room(self):
@@ -98,7 +98,7 @@ class FullDisks(RealDisksTest):
     def test_a_device_without_room(self):
         self.put_lists()
         run = self.home.run([PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "/dev/full"])
-        self.assertEqual(run.status, 1)
+        self.assertEqual(run.status, 2)
         self.assertIn("cannot be written", run.complaint)
 
 
@@ -110,7 +110,7 @@ class ThingsInTheWay(RealDisksTest):
                 self.home.write("file.gpl", palette(7))
                 self.home.write(place, "mine")
                 run = self.home.run([PROGRAM, "list", "import", "$HOME/file.gpl"])
-                self.assertEqual(run.status, 1, run.complaint)
+                self.assertEqual(run.status, 2, run.complaint)
                 run = self.home.run([DRIVER], FIRST_START)
                 self.assertEqual((run.status, run.output), (0, '{"ok":true}\n'))
                 self.assertIn("cannot be written", run.complaint)
