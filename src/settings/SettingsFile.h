@@ -32,7 +32,8 @@ void writeDefaults(HostFiles& files, const QTXHexSettings& settings);
 [[nodiscard]] bool keepDefaultsFile(HostFiles& files);
 
 /// Makes folder and file where they are missing. A file that was there is loaded; one that is made
-/// is not read back. False where a file is there, or may be, whose contents are not in the settings.
+/// is not read back. False where a file is there, or may be, whose contents are not in the
+/// settings.
 bool initializeDefaults(HostFiles& files, QTXHexSettings& settings);
 
 }  // namespace vantorel

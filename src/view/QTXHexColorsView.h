@@ -50,7 +50,8 @@ public:
     void loadColorMatrixSize();
     /// Uses the size that `loadColorMatrixSize` took last.
     [[nodiscard]] HostRect colorMatrixRectWithComponent(int component, int digit, int value) const;
-    /// Component, digit and value of the cell under a point; nothing between the columns and outside.
+    /// Component, digit and value of the cell under a point; nothing between the columns and
+    /// outside.
     [[nodiscard]] std::optional<SliderCell> getComponent(HostPoint fromHitPoint);
 
     // Palette mode (QTXHexColorsViewPalette.cpp).
