@@ -29,7 +29,7 @@ std::string newFileName()
     constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz012345";
     std::array<unsigned char, newFileLetters> chance{};
     // Without chance the names of several processes would only meet, which is seen.
-    static_cast<void>(::getentropy(chance.data(), chance.size()));
+    if (::getentropy(chance.data(), chance.size()) != 0) chance = {};
     std::string name(newFilePrefix);
     for (const unsigned char byte : chance)
         name += letters[byte % letters.size()];
