@@ -8,10 +8,11 @@ namespace vantorel {
 
 /// Standard output, gathered in a buffer. What cannot be written ends the command by a `Failure`; a
 /// reader who went away ends it silently.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): see _buffer.
+// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): see _buffer.
 class Output {
 public:
     Output() = default;
+    // NOLINTEND(cppcoreguidelines-pro-type-member-init)
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 

@@ -210,7 +210,7 @@ void removeAbandonedFiles(const std::string& folder)
         if (isNewFileName(entry->d_name)) names.emplace_back(entry->d_name);
     }
     for (const std::string& name : names)
-        removeIfAbandoned(folder + "/" + name);
+        removeIfAbandoned(std::string(folder).append(1, '/').append(name));
 }
 
 }  // namespace
