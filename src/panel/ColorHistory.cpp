@@ -56,7 +56,7 @@ void ColorHistory::remember(const HostColor& color)
     if (_recent.size() > mostRecent) _recent.resize(mostRecent, color);
 }
 
-void ColorHistory::setRecent(std::vector<HostColor> colors)
+void ColorHistory::setRecent(const std::vector<HostColor>& colors)
 {
     _recent.clear();
     for (const HostColor& color : colors) {

@@ -35,7 +35,7 @@ public:
     void remember(const HostColor& color);
     /// Each colour once, the newest first.
     [[nodiscard]] const std::vector<HostColor>& recent() const { return _recent; }
-    void setRecent(std::vector<HostColor> colors);
+    void setRecent(const std::vector<HostColor>& colors);
 
 private:
     struct State {

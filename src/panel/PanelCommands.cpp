@@ -29,7 +29,7 @@ QAction* PanelCommands::add(const QString& text, const QList<QKeySequence>& keys
     return action;
 }
 
-PanelCommands::PanelCommands(QWidget& window, Reactions reactions) : _window(window)
+PanelCommands::PanelCommands(QWidget& window, const Reactions& reactions) : _window(window)
 {
     _menu = new QMenu(&window);
     _pick = add(tr("Pick from the screen"), {Qt::CTRL | Qt::Key_P}, reactions.pick);

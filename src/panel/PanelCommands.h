@@ -37,7 +37,7 @@ public:
     };
 
     /// The actions and menus belong to `window`.
-    PanelCommands(QWidget& window, Reactions reactions);
+    PanelCommands(QWidget& window, const Reactions& reactions);
     PanelCommands(const PanelCommands&) = delete;
     PanelCommands& operator=(const PanelCommands&) = delete;
 

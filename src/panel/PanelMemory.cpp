@@ -93,8 +93,8 @@ bool writePanelMemory(const PanelMemory& memory)
     const std::string folder = path.substr(0, path.rfind('/'));
     PosixFiles files(folder);
     files.setComplaint([](const auto& name, auto trouble, const auto& reason) {
-        std::fprintf(stderr, "vantorel-panel: %s %s: %s\n", name.c_str(),
-                     PosixFiles::textOf(trouble).c_str(), reason.c_str());
+        static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s %s: %s\n", name.c_str(),
+                                       PosixFiles::textOf(trouble).c_str(), reason.c_str()));
     });
     // Makes it, for the user alone.
     static_cast<void>(files.applicationSupportDirectory());

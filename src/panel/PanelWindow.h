@@ -110,7 +110,7 @@ private:
     [[nodiscard]] std::optional<HostColor> color() const override { return _color; }
     void setColor(const HostColor& color) override;
     [[nodiscard]] HostRect frame() const override;
-    void setFrame(HostRect frame, bool display) override;
+    void setFrame(HostRect wanted, bool display) override;
     [[nodiscard]] HostView* pageView() const override;
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;

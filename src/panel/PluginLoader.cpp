@@ -164,7 +164,7 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
     PluginSearch search;
     for (const std::string& folder : folders) {
         if (const std::string reason = whyNotTrusted(folder); !reason.empty()) {
-            search.problems.push_back(folder + " is left out: " + reason);
+            search.problems.push_back(std::string(folder).append(" is left out: ").append(reason));
             continue;
         }
         for (const std::string& file : librariesIn(folder))
