@@ -11,10 +11,12 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -51,8 +53,6 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     makeCommands();
 
     addPages(plugins, problems);
-    const QIcon standIn = _pages.empty() ? QIcon() : _pages.front()->icon();
-    setWindowIcon(QIcon::fromTheme(QStringLiteral("org.vantorel.ColorPanel"), standIn));
     resizeToPage(firstPageSize);
     showPage(0);
     _tools->setColor(_color);
@@ -246,6 +246,20 @@ void PanelWindow::showProblems(const std::vector<std::string>& problems)
     _problems->setText(lines.size() == 1 ? tr("A plug-in was left out")
                                          : tr("%1 plug-ins were left out").arg(lines.size()));
     layOut();
+}
+
+/// To look for it among the icons of the theme takes a fifth of the start, so it comes behind the
+/// first picture of the window.
+void PanelWindow::loadIcon()
+{
+    const QIcon standIn = _pages.empty() ? QIcon() : _pages.front()->icon();
+    setWindowIcon(QIcon::fromTheme(QStringLiteral("org.vantorel.ColorPanel"), standIn));
+}
+
+void PanelWindow::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(_isPainted, true)) QTimer::singleShot(0, this, &PanelWindow::loadIcon);
 }
 
 void PanelWindow::showRemark(const QString& remark)

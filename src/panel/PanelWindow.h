@@ -102,11 +102,13 @@ public:
     [[nodiscard]] const PanelCommands& commands() const { return *_commands; }
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void loadIcon();
     [[nodiscard]] std::optional<HostColor> color() const override { return _color; }
     void setColor(const HostColor& color) override;
     [[nodiscard]] HostRect frame() const override;
@@ -148,6 +150,7 @@ private:
     std::unique_ptr<QtMirrored<HostView>> _holder;
     std::vector<std::unique_ptr<PanelPage>> _pages;
     int _currentPage = -1;
+    bool _isPainted = false;
 };
 
 }  // namespace vantorel

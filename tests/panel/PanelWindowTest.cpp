@@ -23,6 +23,14 @@ TEST_F(PanelWindowTest, AColourSetOnThePanelShowsInEveryField)
     EXPECT_EQ(child<QWidget>("_redHexText")->toolTip(), "255");
 }
 
+TEST_F(PanelWindowTest, TheWindowsIconComesBehindItsFirstPicture)
+{
+    PanelWindow window(_desktop, _search.plugins, _problems);
+    EXPECT_TRUE(window.windowIcon().isNull());
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.windowIcon().isNull(); }));
+}
+
 TEST_F(PanelWindowTest, AClickInADigitCellChangesTheColourEverywhere)
 {
     _window->chooseColor(HostColor::blackColor());
