@@ -1,4 +1,5 @@
 #include "PanelWindowFixture.h"
+#include "hosts/qt/QtItemList.h"
 #include "hosts/qt/QtPopUpButton.h"
 
 #include <QApplication>
@@ -141,7 +142,7 @@ TEST_F(PickModesTest, ANameIsChosenFromTheList)
     const QStringList titles = titlesOf(*view);
     EXPECT_EQ(titles.size(), 19);
     EXPECT_EQ(view->currentIndex().data().toString(), "black");
-    EXPECT_FALSE(view->model()->index(2, 0).data(Qt::DecorationRole).isNull());
+    EXPECT_FALSE(view->model()->index(2, 0).data(QtItemList::pictureRole).isNull());
     clickRow(*view, static_cast<int>(titles.indexOf("navy")));
     EXPECT_EQ(text("_fullHexText"), "#000080");
     EXPECT_EQ(_window->chosenColor(), QColor(0, 0, 128));

@@ -18,6 +18,9 @@ cleanup() {
     rm -rf "$scratch"
 }
 trap cleanup EXIT
+# A command that fails ends the test; without a word nobody would know which.
+set -E
+trap 'echo "line $LINENO: $BASH_COMMAND has failed" >&2' ERR
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
 export XDG_RUNTIME_DIR="$scratch"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM

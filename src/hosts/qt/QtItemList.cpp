@@ -57,7 +57,7 @@ public:
                 return qStringFrom(shown.title);
             case Qt::AccessibleDescriptionRole:
                 return shown.separator ? QStringLiteral("separator") : QString();
-            case Qt::DecorationRole:
+            case pictureRole:
                 if (!shown.image) return {};
                 return pixmapOfImage(*shown.image, _shownIn.devicePixelRatioF());
             case Qt::FontRole: {
@@ -82,7 +82,8 @@ private:
     const QWidget& _shownIn;
 };
 
-/// Rows as in a menu; a separator is a line across.
+/// Rows as in a menu; a separator is a line across. Pictures are painted as they are: as icons the
+/// toolkit would keep the name of each until the program ends.
 class QtItemList::RowPainter final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -92,6 +93,7 @@ public:
     {
         if (index.flags() != Qt::NoItemFlags) {
             QStyledItemDelegate::paint(painter, option, index);
+            paintPicture(*painter, option, index);
             return;
         }
         painter->setPen(option.palette.color(QPalette::Mid));
@@ -105,6 +107,31 @@ public:
     {
         const int height = std::max(option.fontMetrics.height(), option.decorationSize.height());
         return {0, height + 2 * rowPadding};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const HostMenu& items = static_cast<const Model*>(index.model())->items();
+        if (items[static_cast<std::size_t>(index.row())].image) {
+            option->features |= QStyleOptionViewItem::HasDecoration;
+        }
+    }
+
+private:
+    void paintPicture(QPainter& painter, const QStyleOptionViewItem& option,
+                      const QModelIndex& index) const
+    {
+        const auto picture = index.data(pictureRole).value<QPixmap>();
+        if (picture.isNull()) return;
+        QStyleOptionViewItem shown(option);
+        initStyleOption(&shown, index);
+        const QRect room = shown.widget->style()->subElementRect(QStyle::SE_ItemViewItemDecoration,
+                                                                 &shown, shown.widget);
+        QRectF place(QPointF(), picture.deviceIndependentSize());
+        place.moveCenter(QRectF(room).center());
+        painter.drawPixmap(place.topLeft().toPoint(), picture);
     }
 };
 

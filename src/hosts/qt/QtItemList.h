@@ -18,6 +18,8 @@ namespace vantorel {
 class QtItemList final : public QFrame {
 public:
     using Choice = std::function<void(const HostMenuItem& item, int index)>;
+    /// The pixmap of an item that has an image.
+    static constexpr int pictureRole = Qt::UserRole;
 
     /// No item may have a submenu. `choose` is called after the list has closed.
     QtItemList(const HostMenu& items, int selected, QWidget& parent, Choice choose);

@@ -43,30 +43,30 @@ protected:
         option.subControls = QStyle::SC_All;
         option.editable = false;
         option.currentText = qStringFrom(_owner.titleOfSelectedItem().value_or(u""));
-        const int selected = _owner.indexOfSelectedItem();
-        if (selected != noItem) {
-            const auto& image = _owner.menu()[static_cast<std::size_t>(selected)].image;
-            if (image) {
-                option.currentIcon = pixmapOfImage(*image, devicePixelRatioF());
-                option.iconSize = pictureSize(*image).toSize();
-            }
-        }
         QStylePainter painter(this);
         painter.drawComplexControl(QStyle::CC_ComboBox, option);
         paintLabel(painter, option);
     }
 
     /// The style leaves the text less room than there is up to the arrow, which matters in a button
-    /// as narrow as ours.
+    /// as narrow as ours. The picture is painted as it is: as an icon the toolkit would keep the
+    /// name of each until the program ends, and in a drag each step has another one.
     void paintLabel(QStylePainter& painter, const QStyleOptionComboBox& option) const
     {
         QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option,
                                              QStyle::SC_ComboBoxEditField, this);
         room.adjust(2, 0, 5, 0);
-        if (!option.currentIcon.isNull()) {
-            const QRect icon(room.topLeft(), QSize(option.iconSize.width(), room.height()));
-            option.currentIcon.paint(&painter, icon, Qt::AlignCenter);
-            room.setLeft(icon.right() + 5);
+        const int selected = _owner.indexOfSelectedItem();
+        if (selected != noItem) {
+            const auto& image = _owner.menu()[static_cast<std::size_t>(selected)].image;
+            if (image) {
+                const QPixmap picture = pixmapOfImage(*image, devicePixelRatioF());
+                const int width = pictureSize(*image).toSize().width();
+                QRectF place(QPointF(), picture.deviceIndependentSize());
+                place.moveCenter(QRectF(room.left(), room.top(), width, room.height()).center());
+                painter.drawPixmap(place.topLeft().toPoint(), picture);
+                room.setLeft(room.left() + width + 4);
+            }
         }
         const QString text =
             fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width());
