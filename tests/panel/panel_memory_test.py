@@ -20,7 +20,7 @@ ROUNDS = 15
 
 
 class PanelMemory(FailingCallsTest):
-    library = LIBRARY
+    preloaded = LIBRARY
 
     def test_calls_that_fail(self):
         self.check_command(lambda home: home.run([CHANGES, "1"]), [CHANGES, "200"])

@@ -124,7 +124,7 @@ def text_of_way(how, goes_on):
 class FailingCallsTest(unittest.TestCase):
     """Runs a command with each of its calls failing in each way, and looks at what that leaves."""
 
-    library = None
+    preloaded = None
     tried = 0
     calls = 0
 
@@ -146,7 +146,7 @@ class FailingCallsTest(unittest.TestCase):
         with home:
             prepare(home)
             self.before = home.files()
-            run = home.run(command, stdin, self.library, report=report)
+            run = home.run(command, stdin, self.preloaded, report=report)
             self.after = home.files()
         with open(report, encoding="utf-8", errors="surrogateescape") as file:
             calls = file.read().splitlines()
@@ -159,7 +159,7 @@ class FailingCallsTest(unittest.TestCase):
             FailingCallsTest.tried += 1
             with home, self.subTest(call=f"{number}: {call}", how=text_of_way(how, goes_on)):
                 prepare(home)
-                run = home.run(command, stdin, self.library, number, how, goes_on)
+                run = home.run(command, stdin, self.preloaded, number, how, goes_on)
                 self.look_at(run, how, goes_on)
                 if home.files() != self.after or home.new_files():
                     self.look_at_another_run(home.run(command, stdin))

@@ -27,7 +27,7 @@ def driver_requests(*requests):
 
 
 class ListChanges(FailingCallsTest):
-    library = LIBRARY
+    preloaded = LIBRARY
 
     def changes(self, *words):
         return [LIST_CHANGES, "$HOME/" + DATA, *words]
@@ -60,7 +60,7 @@ class ListChanges(FailingCallsTest):
 
 
 class Driver(FailingCallsTest):
-    library = LIBRARY
+    preloaded = LIBRARY
 
     def test_the_first_start_writes_settings_and_lists(self):
         self.check_command(lambda home: os.makedirs(home.at(DATA), 0o700), [DRIVER],
@@ -77,7 +77,7 @@ class Driver(FailingCallsTest):
 
 
 class Program(FailingCallsTest):
-    library = LIBRARY
+    preloaded = LIBRARY
 
     def prepare(self, home):
         os.makedirs(home.at(GIMP), 0o700)
