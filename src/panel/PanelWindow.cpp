@@ -248,7 +248,7 @@ void PanelWindow::showProblems(const std::vector<std::string>& problems)
     layOut();
 }
 
-/// To look for it among the icons of the theme takes a fifth of the start, so it comes behind the
+/// To look for it among the icons of the theme takes an eighth of the start, so it comes behind the
 /// first picture of the window.
 void PanelWindow::loadIcon()
 {
