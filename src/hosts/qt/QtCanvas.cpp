@@ -223,4 +223,11 @@ QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio)
     return pixmap;
 }
 
+void drawInMiddle(QPainter& painter, const QPixmap& pixmap, const QRectF& room)
+{
+    QRectF place(QPointF(), pixmap.deviceIndependentSize());
+    place.moveCenter(room.center());
+    painter.drawPixmap(place.topLeft().toPoint(), pixmap);
+}
+
 }  // namespace vantorel

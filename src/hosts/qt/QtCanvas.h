@@ -44,4 +44,7 @@ private:
 /// A picture of an image for a screen of that many device pixels a point.
 [[nodiscard]] QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio);
 
+/// On whole device-independent pixels.
+void drawInMiddle(QPainter& painter, const QPixmap& pixmap, const QRectF& room);
+
 }  // namespace vantorel

@@ -129,9 +129,7 @@ private:
         initStyleOption(&shown, index);
         const QRect room = shown.widget->style()->subElementRect(QStyle::SE_ItemViewItemDecoration,
                                                                  &shown, shown.widget);
-        QRectF place(QPointF(), picture.deviceIndependentSize());
-        place.moveCenter(QRectF(room).center());
-        painter.drawPixmap(place.topLeft().toPoint(), picture);
+        drawInMiddle(painter, picture, room);
     }
 };
 

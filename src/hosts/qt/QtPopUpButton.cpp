@@ -62,9 +62,8 @@ protected:
             if (image) {
                 const QPixmap picture = pixmapOfImage(*image, devicePixelRatioF());
                 const int width = pictureSize(*image).toSize().width();
-                QRectF place(QPointF(), picture.deviceIndependentSize());
-                place.moveCenter(QRectF(room.left(), room.top(), width, room.height()).center());
-                painter.drawPixmap(place.topLeft().toPoint(), picture);
+                drawInMiddle(painter, picture,
+                             QRectF(room.left(), room.top(), width, room.height()));
                 room.setLeft(room.left() + width + 4);
             }
         }
