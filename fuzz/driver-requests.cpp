@@ -2,33 +2,75 @@
 #include "driver/DriverRequests.h"
 
 #include <cstdio>
+#include <fstream>
 
 namespace {
 
-/// An input is a sequence, so the requests are counted apart.
-struct Count {
-    ~Count() { std::fprintf(stderr, "stat::number_of_requests: %llu\n", requests); }
-    unsigned long long requests = 0;
-} count;
+using namespace vantorel;
+
+/// A picker takes much longer to open than to answer, so it lives on from input to input, and so
+/// does what earlier inputs have done to it. A finding may need them all: they stand in a file
+/// beside it, as the driver reads them. Without a finding the file goes away again.
+class LongSession {
+public:
+    ~LongSession()
+    {
+        std::fprintf(stderr, "stat::number_of_requests: %llu\n", _requests);
+        if (!_logName.empty()) (void)std::remove(_logName.c_str());
+    }
+
+    void logTo(std::string name) { _logName = std::move(name); }
+
+    void answer(std::string_view request)
+    {
+        if (_requests++ % requestsOfAPicker == 0) {
+            if (!_logName.empty()) _log = std::ofstream(_logName, std::ios::binary);
+            _driver = Driver();
+            replyTo(R"({"op": "open"})");
+        }
+        replyTo(request);
+    }
+
+private:
+    static constexpr unsigned long long requestsOfAPicker = 500;
+
+    void replyTo(std::string_view request)
+    {
+        _log << request << std::endl;
+        const std::string reply = _driver.reply(request);
+        require(reply.find('\n') == std::string::npos);
+        require(Json::parse(reply).contains("ok"));
+    }
+
+    Driver _driver;
+    std::ofstream _log;
+    std::string _logName;
+    unsigned long long _requests = 0;
+} session;
 
 }  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments)
+{
+    constexpr std::string_view option = "-artifact_prefix=";
+    for (int i = 1; i < *count; ++i) {
+        const std::string_view argument = (*arguments)[i];
+        if (argument.starts_with(option))
+            session.logTo(std::string(argument.substr(option.size())) + "session");
+    }
+    return 0;
+}
 
 /// Lines of requests; each gets one line, which is a JSON object.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    using namespace vantorel;
-    Driver driver;
     std::string_view rest = bytesFrom(data, size);
     for (int line = 0; !rest.empty() && line < 40; ++line) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
         const std::string_view request = rest.substr(0, end);
         rest.remove_prefix(std::min(end + 1, rest.size()));
         // A home of the fuzzer's own would be a folder on the disk.
-        if (request.find("home") != std::string_view::npos) continue;
-        const std::string reply = driver.reply(request);
-        ++count.requests;
-        require(reply.find('\n') == std::string::npos);
-        require(Json::parse(reply).contains("ok"));
+        if (request.find("home") == std::string_view::npos) session.answer(request);
     }
     return 0;
 }
