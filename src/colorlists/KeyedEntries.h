@@ -17,17 +17,13 @@ public:
     void add(const HostColor& color, std::u16string name)
     {
         if (name.empty()) name = u"Untitled";
-        if (!_list.colorWithKey(name)) {
-            _list.setColor(color, name);
-            return;
-        }
+        if (_list.addColor(color, name)) return;
         std::u16string key;
         do {
             const std::string number =
                 std::to_string(++_lastNumber.try_emplace(name, 1).first->second);
             key = name + u" " + std::u16string(number.begin(), number.end());
-        } while (_list.colorWithKey(key));
-        _list.setColor(color, key);
+        } while (!_list.addColor(color, key));
     }
 
 private:

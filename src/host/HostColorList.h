@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -23,9 +24,8 @@ public:
     /// The colour of a key; empty when the list has no such key.
     [[nodiscard]] std::optional<HostColor> colorWithKey(const std::u16string& key) const
     {
-        const auto found = _indexes.find(key);
-        if (found == _indexes.end()) return std::nullopt;
-        return _colors[found->second];
+        const auto index = indexOf(key, hashOf(key));
+        return index ? std::optional(_colors[*index]) : std::nullopt;
     }
 
     /// The colour at a place of `allKeys()`; the index must be below its size.
@@ -34,24 +34,46 @@ public:
     /// Replaces the colour of a key in its place, or appends a new entry.
     void setColor(const HostColor& color, const std::u16string& key)
     {
-        const auto [found, isNew] = _indexes.try_emplace(key, _keys.size());
-        if (isNew) {
-            _keys.push_back(key);
-            _colors.push_back(color);
-        } else {
-            _colors[found->second] = color;
-        }
+        if (addColor(color, key)) return;
+        _colors[*indexOf(key, hashOf(key))] = color;
         ++_revision;
+    }
+
+    /// Appends a new entry; false, with nothing changed, when the list has its key already.
+    bool addColor(const HostColor& color, const std::u16string& key)
+    {
+        const std::size_t hash = hashOf(key);
+        if (indexOf(key, hash)) return false;
+        _indexes.emplace(hash, _keys.size());
+        _keys.push_back(key);
+        _colors.push_back(color);
+        ++_revision;
+        return true;
     }
 
     /// Grows with every change, so that what was derived from the list can be kept until then.
     [[nodiscard]] std::uint64_t revision() const { return _revision; }
 
 private:
+    static std::size_t hashOf(const std::u16string& key)
+    {
+        return std::hash<std::u16string>{}(key);
+    }
+
+    [[nodiscard]] std::optional<std::size_t> indexOf(const std::u16string& key,
+                                                     std::size_t hash) const
+    {
+        const auto [first, last] = _indexes.equal_range(hash);
+        const auto found = std::find_if(
+            first, last, [&](const auto& entry) { return _keys[entry.second] == key; });
+        return found != last ? std::optional(found->second) : std::nullopt;
+    }
+
     std::u16string _name;
     std::vector<std::u16string> _keys;
     std::vector<HostColor> _colors;
-    std::unordered_map<std::u16string, std::size_t> _indexes;
+    // By the hash of the key, so that no key is kept twice.
+    std::unordered_multimap<std::size_t, std::size_t> _indexes;
     std::uint64_t _revision = 0;
 };
 
