@@ -49,14 +49,19 @@ PaletteGrid paletteGrid(std::size_t count, HostSize rect)
     return grid;
 }
 
-HostRect paletteSwatchRect(const PaletteGrid& grid, std::size_t index, double rectHeight)
+HostRect paletteSwatchRect(const PaletteGrid& grid, PalettePlace place, double rectHeight)
 {
-    const auto column = static_cast<double>(index % grid.across);
-    const std::uint64_t wholeRows = index / grid.across;
-    const auto row = static_cast<double>(wholeRows);
+    const auto column = static_cast<double>(place.column);
+    const auto row = static_cast<double>(place.row);
     return {grid.swatch.width * column + drawingOffset,
             rectHeight - row * grid.swatch.height - grid.swatch.height + drawingOffset,
             grid.swatch.width, grid.swatch.height};
+}
+
+HostRect paletteSwatchRect(const PaletteGrid& grid, std::size_t index, double rectHeight)
+{
+    return paletteSwatchRect(grid, PalettePlace{index % grid.across, index / grid.across},
+                             rectHeight);
 }
 
 std::optional<std::size_t> paletteIndexAtPoint(const PaletteGrid& grid, HostPoint point,

@@ -19,7 +19,21 @@ struct PaletteGrid {
 /// the browser-safe list divides into; otherwise the swatches come out nearly square.
 [[nodiscard]] PaletteGrid paletteGrid(std::size_t count, HostSize rect);
 
-/// Where swatch `index` is drawn, in a rectangle of that height.
+/// A swatch of the grid, by its column and row.
+struct PalettePlace {
+    std::uint64_t column = 0;
+    std::uint64_t row = 0;
+
+    /// The one that follows in reading order.
+    [[nodiscard]] PalettePlace next(const PaletteGrid& grid) const
+    {
+        return column + 1 < grid.across ? PalettePlace{column + 1, row} : PalettePlace{0, row + 1};
+    }
+};
+
+/// Where a swatch is drawn, in a rectangle of that height.
+[[nodiscard]] HostRect paletteSwatchRect(const PaletteGrid& grid, PalettePlace place,
+                                         double rectHeight);
 [[nodiscard]] HostRect paletteSwatchRect(const PaletteGrid& grid, std::size_t index,
                                          double rectHeight);
 

@@ -39,9 +39,11 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
     setPaletteMatrixWithCount(count, rect);
     const PaletteGrid grid = currentPaletteGrid();
 
-    for (std::size_t i = 0; i < count; ++i) {
+    // From place to place, because to divide for each took a quarter of the time of a long list.
+    PalettePlace place;
+    for (std::size_t i = 0; i < count; ++i, place = place.next(grid)) {
         __bPth.removeAllPoints();
-        __bPth.appendBezierPathWithRect(paletteSwatchRect(grid, i, rect.height));
+        __bPth.appendBezierPathWithRect(paletteSwatchRect(grid, place, rect.height));
         canvas.fill(__bPth, __sortedPaletteColorKeys.colorAtPosition(i));
     }
 
