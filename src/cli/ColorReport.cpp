@@ -74,6 +74,11 @@ constexpr ByteTexts makeByteTexts()
 
 constexpr ByteTexts byteTexts = makeByteTexts();
 
+const auto& hexTexts(EntryForm form)
+{
+    return form == EntryForm::uppercase ? byteTexts.upperHex : byteTexts.lowerHex;
+}
+
 char* appendDecimal(char* place, std::uint8_t byte)
 {
     std::memcpy(place, byteTexts.decimal[byte].data(), 3);
@@ -90,13 +95,12 @@ char* appendLiteral(char* place, std::string_view text)
 
 std::string hexTextOf(const ByteColor& color, const ReportForm& form)
 {
+    const auto& digits = hexTexts(form.entryForm);
     std::string text = form.poundSign ? "#" : "";
-    text += utf8FromUtf16(color.spec().fullStringHexColorSpecWithEntryForm(form.entryForm));
-    if (const int alpha = alphaByte(color); alpha != 255) {
-        const auto& digits =
-            form.entryForm == EntryForm::uppercase ? byteTexts.upperHex : byteTexts.lowerHex;
+    for (const std::uint8_t byte : {color.red, color.green, color.blue})
+        text.append(digits[byte].data(), 2);
+    if (const int alpha = alphaByte(color); alpha != 255)
         text.append(digits[static_cast<std::size_t>(alpha)].data(), 2);
-    }
     return text;
 }
 
@@ -211,7 +215,7 @@ bool hasPlainLines(const ReportForm& form)
 
 char* writePlainLine(char* place, const ByteColor& color, EntryForm entryForm, bool poundSign)
 {
-    const auto& hex = entryForm == EntryForm::uppercase ? byteTexts.upperHex : byteTexts.lowerHex;
+    const auto& hex = hexTexts(entryForm);
     if (poundSign) *place++ = '#';
     std::memcpy(place, hex[color.red].data(), 2);
     std::memcpy(place + 2, hex[color.green].data(), 2);

@@ -38,6 +38,13 @@ std::u16string widened(std::string_view ascii)
     return {ascii.begin(), ascii.end()};
 }
 
+void appendByte(std::u16string& text, int byte)
+{
+    if (byte >= 100) text += static_cast<char16_t>(u'0' + byte / 100);
+    if (byte >= 10) text += static_cast<char16_t>(u'0' + byte / 10 % 10);
+    text += static_cast<char16_t>(u'0' + byte % 10);
+}
+
 /// A number of 0 or more without zeros at its end.
 std::u16string decimalText(double value, int mostDecimals)
 {
@@ -52,15 +59,28 @@ std::u16string decimalText(double value, int mostDecimals)
     return widened(text);
 }
 
+/// A number of 0..1 in thousandths, without zeros at its end.
+std::u16string thousandthsText(int thousandths)
+{
+    if (thousandths == 0) return u"0";
+    if (thousandths == 1000) return u"1";
+    std::u16string text = u"0.";
+    for (int rest = thousandths, unit = 100; rest > 0; rest %= unit, unit /= 10)
+        text += static_cast<char16_t>(u'0' + rest / unit);
+    return text;
+}
+
 /// Two decimals where they give the same alpha in 8 bits, else three (section 15.1).
 std::u16string alphaText(double alpha)
 {
-    const int byte = byteOf(alpha);
-    const int percent = (byte * 200 + opaqueByte) / (2 * opaqueByte);
     // In whole numbers: with fractions some halves would be rounded down.
+    const int byte = byteOf(alpha);
+    const auto parts = [byte](int whole) {
+        return (byte * whole * 2 + opaqueByte) / (2 * opaqueByte);
+    };
+    const int percent = parts(100);
     const bool sameByte = (percent * opaqueByte + 50) / 100 == byte;
-    if (sameByte) return decimalText(percent / 100.0, 2);
-    return decimalText(byte / 255.0, 3);
+    return thousandthsText(sameByte ? percent * 10 : parts(1000));
 }
 
 std::u16string slashAlpha(double alpha)
@@ -93,9 +113,10 @@ std::optional<std::u16string> rgbText(const HostColor& color)
     if (!fractions) return std::nullopt;
     const bool opaque = byteOf(fractions->alpha) == opaqueByte;
     std::u16string text = opaque ? u"rgb(" : u"rgba(";
+    text.reserve(std::size("rgba(255, 255, 255, 0.999)"));
     for (std::size_t i = 0; i < 3; ++i) {
         if (i > 0) text += u", ";
-        text += widened(std::to_string(byteOf(fractions->srgb[i])));
+        appendByte(text, byteOf(fractions->srgb[i]));
     }
     if (!opaque) text += u", " + alphaText(fractions->alpha);
     return text + u")";
