@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <iterator>
+#include <system_error>
 #include <vector>
 
 #ifdef __SANITIZE_ADDRESS__
@@ -30,10 +30,16 @@ std::size_t allocatedBytes()
 #endif
 }
 
-std::size_t openHandles()
+std::vector<std::string> openHandles()
 {
-    const std::filesystem::directory_iterator folder("/proc/self/fd");
-    return static_cast<std::size_t>(std::distance(begin(folder), end(folder)));
+    std::vector<std::string> handles;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;
+        const auto target = std::filesystem::read_symlink(entry.path(), gone);
+        if (!gone) handles.push_back(target.string());
+    }
+    std::ranges::sort(handles);
+    return handles;
 }
 
 struct Sample {
@@ -75,22 +81,24 @@ Endurance endure(std::size_t events, const std::function<void()>& act,
     const std::size_t step = std::max<std::size_t>(1, events / sampleCount);
     std::vector<Sample> samples;
     samples.reserve(events / step + 1);
-    Endurance result{events, 0, 0, 0};
+    Endurance result;
+    result.events = events;
     for (std::size_t i = 0; i < events; ++i) {
         act();
         if (i < events / 10) continue;
-        if (i == events / 10) result.handlesBefore = openHandles();
-        if (i % step != 0) continue;
+        if (i != events / 10 && i % step != 0) continue;
         settle();
+        if (i == events / 10) result.handlesBefore = openHandles();
         samples.push_back({static_cast<double>(i), static_cast<double>(allocatedBytes())});
     }
     result.bytesPerEvent = slopeOf(samples);
+    settle();
     result.handlesAfter = openHandles();
     std::printf(
         "%zu events; after the first tenth %.0f bytes in use, at the end %.0f: %.4f bytes "
         "an event; handles %zu, then %zu\n",
         events, samples.front().bytes, samples.back().bytes, result.bytesPerEvent,
-        result.handlesBefore, result.handlesAfter);
+        result.handlesBefore.size(), result.handlesAfter.size());
     return result;
 }
 

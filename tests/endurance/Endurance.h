@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace vantorel {
 
@@ -12,9 +14,9 @@ struct Endurance {
     /// all samples has it.
     double bytesPerEvent = 0;
     [[nodiscard]] double growth() const { return bytesPerEvent * static_cast<double>(events); }
-    /// Open files, pipes and sockets after the first tenth and at the end.
-    std::size_t handlesBefore = 0;
-    std::size_t handlesAfter = 0;
+    /// What open files, pipes and sockets lead to, after the first tenth and at the end, sorted.
+    std::vector<std::string> handlesBefore;
+    std::vector<std::string> handlesAfter;
 };
 
 /// How many events a run has: VANTOREL_EVENTS of the environment, or `usual`.
