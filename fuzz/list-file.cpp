@@ -1,0 +1,51 @@
+#include "FuzzTexts.h"
+#include "cli/ListReader.h"
+#include "cli/ListTexts.h"
+#include "cli/SwatchExchange.h"
+#include "colorlists/PaletteFile.h"
+
+#include <array>
+
+namespace {
+
+using namespace vantorel;
+
+struct Form {
+    std::string (*write)(const HostColorList& list);
+    const char* fileName;
+};
+constexpr std::array<Form, 6> forms{{
+    {paletteText, "list.gpl"},
+    {cssText, "list.css"},
+    {scssText, "list.scss"},
+    {jsonText, "list.json"},
+    {plainText, "list.txt"},
+    {swatchExchangeBytes, "list.ase"},
+}};
+
+/// The colours come back in their order. Names may lose what a form cannot hold.
+void requireRoundTrip(const HostColorList& list, const Form& form)
+{
+    const ColorListReading again = readColorList(form.write(list), form.fileName);
+    require(again.list != nullptr && again.skipped == 0);
+    const std::size_t count = list.allKeys().size();
+    require(again.list->allKeys().size() == count);
+    for (std::size_t i = 0; i < count; ++i)
+        require(again.list->colorAtIndex(i) == list.colorAtIndex(i));
+}
+
+}  // namespace
+
+/// The first byte chooses the ending of the file's name, which tells some of the forms.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size == 0) return 0;
+    const Form& form = forms[data[0] % forms.size()];
+    const ColorListReading reading = readColorList(bytesFrom(data + 1, size - 1), form.fileName);
+    require((reading.list == nullptr) == !reading.what.empty());
+    if (reading.list == nullptr) return 0;
+    require(!reading.list->allKeys().empty());
+    for (const Form& each : forms)
+        requireRoundTrip(*reading.list, each);
+    return 0;
+}
