@@ -52,7 +52,7 @@ int main()
 {
     xcb_connection_t* x = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(x) != 0) {
-        std::fputs("first-paint: there is no X display\n", stderr);
+        (void)std::fputs("first-paint: there is no X display\n", stderr);
         return 1;
     }
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(x)).data;
@@ -60,7 +60,7 @@ int main()
     xcb_change_window_attributes(x, screen->root, XCB_CW_EVENT_MASK, &events);
     owned(xcb_get_input_focus_reply(x, xcb_get_input_focus(x), nullptr));
     std::puts("ready");
-    std::fflush(stdout);
+    (void)std::fflush(stdout);
     while (const auto event = owned(xcb_wait_for_event(x))) {
         if ((event->response_type & 0x7F) != XCB_MAP_NOTIFY) continue;
         const auto window = reinterpret_cast<const xcb_map_notify_event_t*>(event.get())->window;

@@ -5,7 +5,7 @@ option(VANTOREL_CLANG_TIDY "Let clang-tidy look at each file that is compiled" O
 if(VANTOREL_CLANG_TIDY)
   find_program(VANTOREL_CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
   set(digests "")
-  foreach(choice IN ITEMS .clang-tidy tests/.clang-tidy)
+  foreach(choice IN ITEMS .clang-tidy bench/.clang-tidy tests/.clang-tidy)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${choice}")
     file(MD5 "${PROJECT_SOURCE_DIR}/${choice}" digest)
     string(APPEND digests ${digest})

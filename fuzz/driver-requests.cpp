@@ -15,7 +15,7 @@ class LongSession {
 public:
     ~LongSession()
     {
-        std::fprintf(stderr, "stat::number_of_requests: %llu\n", _requests);
+        (void)std::fprintf(stderr, "stat::number_of_requests: %llu\n", _requests);
         if (!_logName.empty()) (void)std::remove(_logName.c_str());
     }
 
@@ -50,6 +50,8 @@ private:
 
 }  // namespace
 
+// The parameters are the library's.
+// NOLINTNEXTLINE(readability-non-const-parameter)
 extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments)
 {
     constexpr std::string_view option = "-artifact_prefix=";

@@ -32,7 +32,7 @@ private:
 
 /// An input is a sequence, so the events are counted apart.
 struct Count {
-    ~Count() { std::fprintf(stderr, "stat::number_of_events: %llu\n", events); }
+    ~Count() { (void)std::fprintf(stderr, "stat::number_of_events: %llu\n", events); }
     unsigned long long events = 0;
 } count;
 

@@ -47,7 +47,7 @@ TEST(ColorTextTest, ChannelsAreRoundedAsBrowsersDo)
 TEST(ColorTextTest, AListIsAskedForOnceAndOnlyForItsNames)
 {
     int asked = 0;
-    const auto list = std::make_shared<HostColorList>(u"List");
+    auto list = std::make_shared<HostColorList>(u"List");
     list->setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 1), u"orange");
     list->setColor(HostColor::colorWithCalibratedRed(0, 1, 0, 1), u"Moss rgb(1,2,3)");
     ColorTextReader reader([&] {

@@ -323,7 +323,7 @@ TEST_F(ForeignPalettesTest, AnyBytesInFilesAreTaken)
     for (int round = 0; round < 300; ++round) {
         std::string text = random() % 2 == 0 ? "GIMP Palette\n" : "KDE RGB Palette\r";
         for (std::size_t i = random() % 80; i > 0; --i) {
-            text += std::string_view("0123456789 \t\n\r#Name:\x80\xff\0", 24)[random() % 24];
+            text += std::string_view("0123456789 \t\n\r#Name:\x80\xff\0", 23)[random() % 23];
         }
         _files.put(kde + std::to_string(random() % 40), text);
         for (const std::u16string& name : _store.availableColorLists()) {

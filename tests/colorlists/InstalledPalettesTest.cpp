@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -18,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Row {
-    int red, green, blue;
+    long red, green, blue;
     bool operator==(const Row&) const = default;
 };
 
@@ -38,7 +39,7 @@ std::vector<Row> rowsOf(const std::string& text)
 std::vector<Row> rowsOf(const HostColorList& list)
 {
     std::vector<Row> rows;
-    const auto byte = [](double channel) { return static_cast<int>(channel * 255 + 0.5); };
+    const auto byte = [](double channel) { return std::lround(channel * 255); };
     for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
         const auto rgb = list.colorAtIndex(i).calibratedRGB();
         if (rgb) rows.push_back({byte(rgb->red), byte(rgb->green), byte(rgb->blue)});

@@ -5,11 +5,20 @@
 
 #include <QApplication>
 #include <QPixmapCache>
+#include <QThread>
 
 namespace vantorel {
 namespace {
 
 class QtEnduranceTest : public PanelWindowFixture {};
+
+/// Without those of threads: the toolkit paints large gradients in some, which end when they have
+/// had nothing to do for a while.
+std::vector<std::string> handlesButOfThreads(std::vector<std::string> handles)
+{
+    std::erase(handles, "anon_inode:[eventfd]");
+    return handles;
+}
 
 TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
 {
@@ -27,9 +36,13 @@ TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
             _window->resizeToPage({260, 340});
             QApplication::processEvents();
         });
-    // Caches of the toolkit fill in this time, however long it takes: glyphs, names of pictures.
+    // Caches of the toolkit fill in this time, however long it takes: glyphs, sizes of text.
     EXPECT_LT(run.growth(), 4e6);
-    EXPECT_EQ(run.handlesBefore, run.handlesAfter);
+    const std::vector<std::string> handles = handlesButOfThreads(run.handlesAfter);
+    EXPECT_EQ(handles, handlesButOfThreads(run.handlesBefore));
+    // One is the event loop's own.
+    EXPECT_LE(run.handlesAfter.size() - handles.size(),
+              1U + static_cast<unsigned>(QThread::idealThreadCount()));
     _window->showPage(0);
     _window->chooseColor(hostColorFrom(QColor(0x33, 0x66, 0x99)));
     EXPECT_EQ(_window->chosenColor(), QColor(0x33, 0x66, 0x99));
