@@ -4,6 +4,7 @@
 #include "paletteedit/PaletteEntry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 #include <string>
 
@@ -35,7 +36,7 @@ inline std::string textOf(const PaletteEntries& entries)
     for (const PaletteEntry& entry : entries) {
         if (!text.empty()) text += ' ';
         const double red = entry.color().calibratedRGB()->red * 255;
-        text += utf8FromUtf16(entry.name()) + "=" + std::to_string(static_cast<int>(red + 0.5));
+        text += utf8FromUtf16(entry.name()) + "=" + std::to_string(std::lround(red));
     }
     return text;
 }

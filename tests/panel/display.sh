@@ -23,6 +23,8 @@ set -E
 trap 'echo "line $LINENO: $BASH_COMMAND has failed" >&2' ERR
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
 export XDG_RUNTIME_DIR="$scratch"
+suppressions=$(dirname "${BASH_SOURCE[0]}")/../support/leaks-of-others
+export LSAN_OPTIONS="suppressions=$suppressions:print_suppressions=0"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 # A panel of whoever runs the tests must not be found.
 export DBUS_SESSION_BUS_ADDRESS=disabled:
