@@ -61,6 +61,7 @@ TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
 {
     const auto texts = _window->colorTexts();
     std::vector<QString> names;
+    names.reserve(texts.size());
     for (const HostColorText& text : texts)
         names.push_back(qStringFrom(text.name));
     ASSERT_EQ(names.size(), 16U) << "two codes, twelve snippets, two of CSS Color 4";
