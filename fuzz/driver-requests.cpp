@@ -51,6 +51,7 @@ private:
 }  // namespace
 
 // The parameters are the library's.
+// cppcheck-suppress constParameter
 // NOLINTNEXTLINE(readability-non-const-parameter)
 extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments)
 {
