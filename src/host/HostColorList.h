@@ -34,9 +34,13 @@ public:
     /// Replaces the colour of a key in its place, or appends a new entry.
     void setColor(const HostColor& color, const std::u16string& key)
     {
-        if (addColor(color, key)) return;
-        _colors[*indexOf(key, hashOf(key))] = color;
-        ++_revision;
+        const std::size_t hash = hashOf(key);
+        if (const auto index = indexOf(key, hash)) {
+            _colors[*index] = color;
+            ++_revision;
+        } else {
+            append(color, key, hash);
+        }
     }
 
     /// Appends a new entry; false, with nothing changed, when the list has its key already.
@@ -44,10 +48,7 @@ public:
     {
         const std::size_t hash = hashOf(key);
         if (indexOf(key, hash)) return false;
-        _indexes.emplace(hash, _keys.size());
-        _keys.push_back(key);
-        _colors.push_back(color);
-        ++_revision;
+        append(color, key, hash);
         return true;
     }
 
@@ -67,6 +68,14 @@ private:
         const auto found = std::find_if(
             first, last, [&](const auto& entry) { return _keys[entry.second] == key; });
         return found != last ? std::optional(found->second) : std::nullopt;
+    }
+
+    void append(const HostColor& color, const std::u16string& key, std::size_t hash)
+    {
+        _indexes.emplace(hash, _keys.size());
+        _keys.push_back(key);
+        _colors.push_back(color);
+        ++_revision;
     }
 
     std::u16string _name;
