@@ -39,7 +39,9 @@ private:
         _log << request << std::endl;
         const std::string reply = _driver.reply(request);
         require(reply.find('\n') == std::string::npos);
-        require(Json::parse(reply).contains("ok"));
+        // The state of everything is long: seeing that it is JSON costs less than reading it.
+        require(reply.starts_with(R"({"ok":)"));
+        require(Json::accept(reply));
     }
 
     Driver _driver;

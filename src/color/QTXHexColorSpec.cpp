@@ -27,7 +27,8 @@ std::optional<HostColor::Components> rgbOf(const std::optional<HostColor>& color
 
 bool equalsChannel(std::uint64_t component, double channel)
 {
-    return component == truncatedUnsigned(channel * 255);
+    // What lies a whole step below zero is no 0, although it is stored as one.
+    return !(channel * 255 <= -1) && component == truncatedUnsigned(channel * 255);
 }
 
 bool closeToChannel(std::uint64_t component, double channel)

@@ -44,7 +44,7 @@ bool allColorsAreSolid(HostColorListStore& store, const std::u16string& name)
     const auto list = store.colorListNamed(name);
     if (!list || list->allKeys().empty()) return false;
     for (std::size_t i = 0; i < list->allKeys().size(); ++i) {
-        if (list->colorAtIndex(i).isPattern()) return false;
+        if (list->hasColorAtIndex(i) && list->colorAtIndex(i).isPattern()) return false;
     }
     return true;
 }

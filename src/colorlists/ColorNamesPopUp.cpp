@@ -102,7 +102,7 @@ void ColorNamesPopUpFiller::fill(HostPopUpButton& popUp, const std::shared_ptr<H
     for (std::size_t i = 0; i < keys.size(); ++i) {
         HostMenuItem& item = menu.emplace_back();
         item.title = keys[i];
-        item.image = swatchImage(list->colorAtIndex(i));
+        if (list->hasColorAtIndex(i)) item.image = swatchImage(list->colorAtIndex(i));
     }
     popUp.setItems(std::move(menu));
 }

@@ -25,6 +25,10 @@ public:
     {
         return _colors[position];
     }
+    [[nodiscard]] bool hasColorAtPosition(std::size_t position) const
+    {
+        return _list->hasColorAtIndex(_places[position]);
+    }
 
     /// The positions, ascending, of all keys whose colours equal the colour or are close to it.
     [[nodiscard]] std::vector<std::size_t> positionsNear(const QTXHexColorSpec& color) const;

@@ -23,16 +23,38 @@ std::shared_ptr<HostColorList> colorListFrom(const Json& value)
         if (!entry.is_array() || entry.size() != 2) {
             throw DriverError("an entry must be [key, colour]");
         }
-        list->setColor(colorFrom(entry[1], "an entry's colour"), textFrom(entry[0], "a key"));
+        const std::u16string key = textFrom(entry[0], "a key");
+        if (const auto color = optionalColorFrom(entry[1], "an entry's colour")) {
+            list->setColor(*color, key);
+        } else {
+            list->addKey(key);
+        }
     }
     return list;
+}
+
+/// A list of snippets as the state shows it, in which a field that is not set is null.
+std::optional<std::vector<QTXCodeSnippet>> snippetsFrom(const Json& value)
+{
+    if (value.is_null()) return std::nullopt;
+    std::vector<QTXCodeSnippet> snippets;
+    for (const Json& entry : listFrom(value, "codeSnippets")) {
+        const auto field = [&](const char* name) {
+            return optionalTextFrom(requiredMember(entry, name), name);
+        };
+        QTXCodeSnippet& snippet = snippets.emplace_back();
+        snippet.setNameSnippet(field("name"));
+        snippet.setFormatStringSnippet(field("format"));
+        snippet.setVarFormSnippet(field("vars"));
+    }
+    return snippets;
 }
 
 /// A folder of the disk, or one in memory that nobody else sees.
 std::unique_ptr<HostFiles> filesFrom(const Json& request)
 {
     const Json* home = optionalMember(request, "home");
-    if (home == nullptr || home->is_null()) return std::make_unique<MemoryFiles>();
+    if (home == nullptr) return std::make_unique<MemoryFiles>();
     const std::string path = utf8FromUtf16(textFrom(*home, "home"));
     if (path.empty()) throw DriverError("home must name a folder");
     std::error_code error;
@@ -53,7 +75,7 @@ DriverPanel::Options optionsFrom(const Json& request)
     if (const Json* frame = optionalMember(request, "panel")) {
         options.frame = rectFrom(*frame, "panel");
     }
-    if (const Json* color = optionalMember(request, "color")) {
+    if (const Json* color = memberOf(request, "color")) {
         options.color = optionalColorFrom(*color, "color");
     }
     if (const Json* lists = optionalMember(request, "lists")) {
@@ -70,7 +92,7 @@ DriverPanel::Options optionsFrom(const Json& request)
             options.localizedStrings[utf16FromUtf8(key)] = textFrom(text, "a localised string");
         }
     }
-    if (const Json* text = optionalMember(request, "settingsFile"); text && !text->is_null()) {
+    if (const Json* text = optionalMember(request, "settingsFile")) {
         options.settingsFile = utf8FromUtf16(textFrom(*text, "settingsFile"));
     }
     if (const Json* width = optionalMember(request, "charWidth")) {
@@ -242,15 +264,7 @@ Json DriverSession::set(const Json& request)
         } else if (key == "componentDisplay") {
             settings.setComponentDisplay(enumerationFrom<ComponentDisplay>(value, key));
         } else if (key == "codeSnippets") {
-            std::vector<QTXCodeSnippet> snippets;
-            if (!value.is_null()) {
-                for (const Json& snippet : listFrom(value, key)) {
-                    snippets.emplace_back(textFrom(requiredMember(snippet, "name"), "name"),
-                                          textFrom(requiredMember(snippet, "format"), "format"),
-                                          textFrom(requiredMember(snippet, "vars"), "vars"));
-                }
-            }
-            settings.setCodeSnippets(snippets);
+            settings.setCodeSnippets(snippetsFrom(value));
         } else if (key == "codeSnippetName") {
             settings.setCodeSnippetName(optionalTextFrom(value, key));
         } else if (key == "createColorLists") {

@@ -80,11 +80,11 @@ Json viewsState(const HeadlessInterfaceFactory& factory)
     return json;
 }
 
-Json snippetsState(const std::vector<QTXCodeSnippet>& snippets)
+Json snippetsState(const QTXHexSettings& settings)
 {
-    if (snippets.empty()) return nullptr;
+    if (!settings.hasCodeSnippets()) return nullptr;
     Json json = Json::array();
-    for (const QTXCodeSnippet& snippet : snippets) {
+    for (const QTXCodeSnippet& snippet : settings.codeSnippets()) {
         json.push_back({{"name", jsonFromText(snippet.nameSnippet())},
                         {"format", jsonFromText(snippet.formatStringSnippet())},
                         {"vars", jsonFromText(snippet.varFormSnippet())}});
@@ -101,7 +101,7 @@ Json settingsState(const QTXHexSettings& settings)
             {"pickViewMode", static_cast<int>(settings.pickViewMode())},
             {"nColorCubeRings", settings.nColorCubeRings()},
             {"componentDisplay", static_cast<int>(settings.componentDisplay())},
-            {"codeSnippets", snippetsState(settings.codeSnippets())},
+            {"codeSnippets", snippetsState(settings)},
             {"codeSnippetName", jsonFromText(settings.codeSnippetName())},
             {"createColorLists", settings.createColorLists()},
             {"codeDragType", static_cast<int>(settings.codeDragType())}};

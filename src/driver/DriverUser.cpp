@@ -45,15 +45,15 @@ std::vector<std::u16string> pathFrom(const Json& request)
 HostMenuItem itemAtPath(const HostMenu& menu, std::span<const std::u16string> path)
 {
     const std::u16string& title = path.front();
+    const bool isLast = path.size() == 1;
+    // A list may be titled like a submenu, so the title alone does not tell which item is meant.
     const auto found = std::find_if(menu.begin(), menu.end(), [&](const HostMenuItem& item) {
-        return !item.separator && item.title == title;
+        return !item.separator && item.title == title && !item.submenu == isLast;
     });
     if (found == menu.end()) {
-        throw DriverError("no item is called \"" + utf8FromUtf16(title) + "\"");
+        throw DriverError((isLast ? "no item to choose is called \"" : "no submenu is called \"") +
+                          utf8FromUtf16(title) + "\"");
     }
-    const bool isLast = path.size() == 1;
-    if (isLast && found->submenu) throw DriverError("the parent of a submenu cannot be chosen");
-    if (!isLast && !found->submenu) throw DriverError("an item on the path has no submenu");
     return isLast ? *found : itemAtPath(found->submenu(), path.subspan(1));
 }
 
@@ -130,7 +130,7 @@ Json DriverSession::action(const Json& request)
 {
     const std::string name = utf8FromUtf16(textFrom(requiredMember(request, "name"), "name"));
     const Json* control = optionalMember(request, "control");
-    HostControl* sender = control != nullptr && !control->is_null()
+    HostControl* sender = control != nullptr
                               ? &controlNamed<HostControl>(current(), request, "control", "control")
                               : nullptr;
     if (!QTXHexColorPicker::hasAction(name)) {

@@ -50,6 +50,13 @@ PropertyList propertyListFrom(const Json& value, const std::string& what, std::s
 
 }  // namespace
 
+const Json* memberOf(const Json& object, const std::string& key)
+{
+    if (!object.is_object()) return nullptr;
+    const auto found = object.find(key);
+    return found == object.end() ? nullptr : &*found;
+}
+
 bool booleanFrom(const Json& value, const std::string& what)
 {
     if (!value.is_boolean()) refuse(what, "true or false");
@@ -159,16 +166,15 @@ PropertyList propertyListFrom(const Json& value, const std::string& what)
 
 const Json& requiredMember(const Json& object, const std::string& key)
 {
-    const Json* member = optionalMember(object, key);
+    const Json* member = memberOf(object, key);
     if (member == nullptr) throw DriverError("\"" + key + "\" is missing");
     return *member;
 }
 
 const Json* optionalMember(const Json& object, const std::string& key)
 {
-    if (!object.is_object()) return nullptr;
-    const auto found = object.find(key);
-    return found == object.end() ? nullptr : &*found;
+    const Json* member = memberOf(object, key);
+    return member == nullptr || member->is_null() ? nullptr : member;
 }
 
 const Json& argumentAt(const Json& arguments, std::size_t index)

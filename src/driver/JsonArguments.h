@@ -55,7 +55,9 @@ template <class Enumeration>
 
 /// The value of a key; throws where it is missing.
 [[nodiscard]] const Json& requiredMember(const Json& object, const std::string& key);
-/// The value of a key; null where it is missing.
+/// The value of a key, which may be a JSON null; a null pointer where it is missing.
+[[nodiscard]] const Json* memberOf(const Json& object, const std::string& key);
+/// The value of a key that may be left out; a JSON null leaves it out, too.
 [[nodiscard]] const Json* optionalMember(const Json& object, const std::string& key);
 /// Element `index` of a list of arguments; throws where there are fewer.
 [[nodiscard]] const Json& argumentAt(const Json& arguments, std::size_t index);

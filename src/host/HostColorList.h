@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace vantorel {
@@ -21,15 +22,22 @@ public:
     [[nodiscard]] const std::u16string& name() const { return _name; }
     [[nodiscard]] const std::vector<std::u16string>& allKeys() const { return _keys; }
 
-    /// The colour of a key; empty when the list has no such key.
+    /// The colour of a key; empty when the list has no such key, or no colour for it.
     [[nodiscard]] std::optional<HostColor> colorWithKey(const std::u16string& key) const
     {
         const auto index = indexOf(key, hashOf(key));
-        return index ? std::optional(_colors[*index]) : std::nullopt;
+        return index && hasColorAtIndex(*index) ? std::optional(_colors[*index]) : std::nullopt;
     }
 
-    /// The colour at a place of `allKeys()`; the index must be below its size.
+    /// The colour at a place of `allKeys()`; the index must be below its size. A pattern stands for
+    /// none: neither has an RGB form.
     [[nodiscard]] const HostColor& colorAtIndex(std::size_t index) const { return _colors[index]; }
+
+    /// Whether the key at that place has a colour at all: a list of another program may lack some.
+    [[nodiscard]] bool hasColorAtIndex(std::size_t index) const
+    {
+        return _colorless.empty() || !_colorless.contains(index);
+    }
 
     /// Replaces the colour of a key in its place, or appends a new entry.
     void setColor(const HostColor& color, const std::u16string& key)
@@ -37,6 +45,7 @@ public:
         const std::size_t hash = hashOf(key);
         if (const auto index = indexOf(key, hash)) {
             _colors[*index] = color;
+            _colorless.erase(*index);
             ++_revision;
         } else {
             append(color, key, hash);
@@ -49,6 +58,14 @@ public:
         const std::size_t hash = hashOf(key);
         if (indexOf(key, hash)) return false;
         append(color, key, hash);
+        return true;
+    }
+
+    /// Appends a key without a colour; false, with nothing changed, when the list has it already.
+    bool addKey(const std::u16string& key)
+    {
+        if (!addColor(HostColor::patternColor(), key)) return false;
+        _colorless.insert(_keys.size() - 1);
         return true;
     }
 
@@ -81,6 +98,7 @@ private:
     std::u16string _name;
     std::vector<std::u16string> _keys;
     std::vector<HostColor> _colors;
+    std::unordered_set<std::size_t> _colorless;
     // By the hash of the key, so that no key is kept twice.
     std::unordered_multimap<std::size_t, std::size_t> _indexes;
     std::uint64_t _revision = 0;

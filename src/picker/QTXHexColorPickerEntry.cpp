@@ -12,6 +12,13 @@ namespace {
 constexpr int componentDigits = 2;
 constexpr int fullDigits = 6;
 
+/// The field whose entry ends: the sender, or the action's own field when something else sends it.
+HostTextField* fieldThatEnded(HostControl* sender, HostTextField* own)
+{
+    auto* const field = dynamic_cast<HostTextField*>(sender);
+    return field != nullptr ? field : own;
+}
+
 }  // namespace
 
 void QTXHexColorPicker::hexEntryTextChange(HostTextField& field)
@@ -59,25 +66,26 @@ void QTXHexColorPicker::enterComponent(HostTextField* field, int componentIndex)
     colorChanged(field);
 }
 
-void QTXHexColorPicker::redHexAction(HostControl*)
+void QTXHexColorPicker::redHexAction(HostControl* sender)
 {
-    enterComponent(_redHexText, 0);
+    enterComponent(fieldThatEnded(sender, _redHexText), 0);
 }
 
-void QTXHexColorPicker::greenHexAction(HostControl*)
+void QTXHexColorPicker::greenHexAction(HostControl* sender)
 {
-    enterComponent(_greenHexText, 1);
+    enterComponent(fieldThatEnded(sender, _greenHexText), 1);
 }
 
-void QTXHexColorPicker::blueHexAction(HostControl*)
+void QTXHexColorPicker::blueHexAction(HostControl* sender)
 {
-    enterComponent(_blueHexText, 2);
+    enterComponent(fieldThatEnded(sender, _blueHexText), 2);
 }
 
 void QTXHexColorPicker::fullHexAction(HostControl* sender)
 {
-    if (__holdOffSync || _fullHexText == nullptr) return;
-    const std::u16string typed = _fullHexText->stringValue();
+    const HostTextField* field = fieldThatEnded(sender, _fullHexText);
+    if (__holdOffSync || field == nullptr) return;
+    const std::u16string typed = field->stringValue();
     _hexColorsView.clearMessage();
     const auto text = validHexString(typed, fullDigits);
     if (!text) {
@@ -90,8 +98,9 @@ void QTXHexColorPicker::fullHexAction(HostControl* sender)
 
 void QTXHexColorPicker::rgbDecimalHexAction(HostControl* sender)
 {
-    if (__holdOffSync || _rgbDecimalText == nullptr) return;
-    const RgbTripleReading reading = readRgbTriple(_rgbDecimalText->stringValue());
+    const HostTextField* field = fieldThatEnded(sender, _rgbDecimalText);
+    if (__holdOffSync || field == nullptr) return;
+    const RgbTripleReading reading = readRgbTriple(field->stringValue());
     if (!reading.found) return;
     if (!reading.components) {
         flagInputError();

@@ -31,8 +31,7 @@ void QTXHexColorPicker::syncListColorNames()
 
 void QTXHexColorPicker::syncListColor()
 {
-    if (hexColorNamePopUp == nullptr) return;
-    hexColorNamePopUp->setWillPopUp({});
+    if (hexColorNamePopUp != nullptr) hexColorNamePopUp->setWillPopUp({});
     const auto list = namingList();
     if (!list || list->allKeys().empty()) {
         __holdCloseMatchColors.clear();
@@ -46,6 +45,7 @@ void QTXHexColorPicker::syncListColor()
     for (std::size_t i = 0; i < match.closePlaces.size(); ++i)
         __holdCloseMatchColors[i] = list->allKeys()[match.closePlaces[i]];
     _noMatchString = closeTitle(__holdCloseMatchColors);
+    if (hexColorNamePopUp == nullptr) return;
     hexColorNamePopUp->setTitleOfItem(0, _noMatchString);
     if (match.exactPlace) {
         _colorNamesFiller.selectEntry(*hexColorNamePopUp, *list, *match.exactPlace);

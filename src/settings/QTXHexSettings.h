@@ -53,9 +53,12 @@ public:
     void setComponentDisplay(ComponentDisplay display) { _componentDisplay = display; }
     /// The user's snippets; empty until a settings file or the start-up supplies some.
     [[nodiscard]] const std::vector<QTXCodeSnippet>& codeSnippets() const { return _codeSnippets; }
-    void setCodeSnippets(std::vector<QTXCodeSnippet> snippets)
+    /// Whether there is an array of them, be it an empty one.
+    [[nodiscard]] bool hasCodeSnippets() const { return _hasCodeSnippets; }
+    void setCodeSnippets(std::optional<std::vector<QTXCodeSnippet>> snippets)
     {
-        _codeSnippets = std::move(snippets);
+        _hasCodeSnippets = snippets.has_value();
+        _codeSnippets = std::move(snippets).value_or(std::vector<QTXCodeSnippet>());
     }
     /// The name of the chosen snippet.
     [[nodiscard]] const std::optional<std::u16string>& codeSnippetName() const
@@ -115,6 +118,7 @@ private:
     std::int64_t _nColorCubeRings = 8;
     ComponentDisplay _componentDisplay = ComponentDisplay::hex;
     std::vector<QTXCodeSnippet> _codeSnippets;
+    bool _hasCodeSnippets = false;
     std::optional<std::u16string> _codeSnippetName;
     bool _createColorLists = true;
     CodeDragType _codeDragType = CodeDragType::hexCode;

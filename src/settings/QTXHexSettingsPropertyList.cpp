@@ -103,18 +103,19 @@ void QTXHexSettings::loadPropertyListRepresentation(const PropertyList& dictiona
 
 void QTXHexSettings::loadCodeSnippets(const PropertyList* snippets)
 {
-    _codeSnippets.clear();
+    std::vector<QTXCodeSnippet> loaded;
     if (snippets != nullptr && snippets->array() != nullptr) {
         for (const PropertyList& element : *snippets->array()) {
             if (element.dictionary() == nullptr) {
                 // One bad element makes the whole array suspect.
-                _codeSnippets.clear();
+                loaded.clear();
                 break;
             }
-            _codeSnippets.emplace_back().loadPropertyListRepresentation(element);
+            loaded.emplace_back().loadPropertyListRepresentation(element);
         }
     }
-    if (_codeSnippets.empty()) _codeSnippets = QTXCodeSnippet::buildDefaultCodeSnippets();
+    if (loaded.empty()) loaded = QTXCodeSnippet::buildDefaultCodeSnippets();
+    setCodeSnippets(std::move(loaded));
 }
 
 }  // namespace vantorel

@@ -95,12 +95,18 @@ std::u16string realDigits(double magnitude, const FormatField& field, const Real
     return widened({first, static_cast<std::size_t>(end - first)});
 }
 
-/// What "#" adds to the digits of a real number: a point always.
-std::u16string withPoint(std::u16string digits)
+/// What "#" adds to the digits of a real number: a point always, and with `%g` the zeros behind it
+/// up to that many significant digits.
+std::u16string alternateDigits(std::u16string digits, std::size_t significant)
 {
-    if (digits.find(u'.') == std::u16string::npos) {
-        digits.insert(std::min(digits.find_first_of(u"ep"), digits.size()), 1, u'.');
-    }
+    std::size_t end = std::min(digits.find_first_of(u"ep"), digits.size());
+    if (digits.find(u'.') == std::u16string::npos) digits.insert(end++, 1, u'.');
+    const std::size_t first = digits.find_first_not_of(u"0.");
+    // All digits of zero count; before another number's first digit, zeros do not.
+    const std::size_t from = first < end ? first : 0;
+    const std::size_t point = digits.find(u'.');
+    const std::size_t have = end - from - (point >= from ? 1 : 0);
+    if (have < significant) digits.insert(end, significant - have, u'0');
     return digits;
 }
 
@@ -135,7 +141,13 @@ std::u16string formattedReal(double value, const FormatField& field, char16_t le
     const bool finite = std::isfinite(value);
     if (finite) {
         digits = realDigits(std::fabs(value), field, style);
-        if (field.alternate) digits = withPoint(std::move(digits));
+        if (field.alternate) {
+            const bool general = style.format == std::chars_format::general;
+            // A precision of 0 counts as 1 there.
+            const std::size_t significant =
+                general ? std::max<std::size_t>(field.precision.value_or(defaultPrecision), 1) : 0;
+            digits = alternateDigits(std::move(digits), significant);
+        }
         if (style.hexadecimal) prefix += u"0x";
     } else {
         digits = std::isnan(value) ? u"nan" : u"inf";

@@ -44,6 +44,8 @@ std::optional<std::vector<FormatArgument>> argumentsOfForm(std::u16string_view f
                                                 static_cast<double>(spec.blueHexComp()) / 255};
     const std::vector<FormatArgument> integers{spec.redHexComp(), spec.greenHexComp(),
                                                spec.blueHexComp()};
+    // A negative one keeps its sign, in two's complement like every integer of a format.
+    const auto alphaByte = static_cast<std::uint64_t>(truncatedSigned(spec.alphaComp() * 255));
     const auto with = [](std::vector<FormatArgument> arguments, FormatArgument alpha) {
         arguments.push_back(std::move(alpha));
         return arguments;
@@ -52,7 +54,7 @@ std::optional<std::vector<FormatArgument>> argumentsOfForm(std::u16string_view f
     if (form == u"rgbFloats") return fractions;
     if (form == u"rgbFixedAlphaFloat") return with(integers, spec.alphaComp());
     if (form == u"rgbFixed") return integers;
-    if (form == u"rgbaFixed") return with(integers, truncatedUnsigned(spec.alphaComp() * 255));
+    if (form == u"rgbaFixed") return with(integers, alphaByte);
     if (form == u"rgbPackedInt") return {{spec.javaRGBInt()}};
     if (form == u"rgbaPackedInt") return {{spec.javaRGBAInt()}};
     return std::nullopt;

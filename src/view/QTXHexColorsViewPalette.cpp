@@ -42,6 +42,7 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
     // From place to place, because to divide for each took a quarter of the time of a long list.
     PalettePlace place;
     for (std::size_t i = 0; i < count; ++i, place = place.next(grid)) {
+        if (!__sortedPaletteColorKeys.hasColorAtPosition(i)) continue;
         __bPth.removeAllPoints();
         __bPth.appendBezierPathWithRect(paletteSwatchRect(grid, place, rect.height));
         canvas.fill(__bPth, __sortedPaletteColorKeys.colorAtPosition(i));

@@ -36,6 +36,22 @@ TEST_F(HostColorListTest, AddsOnlyNewKeys)
     EXPECT_EQ(_list.colorWithKey(u""), black);
 }
 
+TEST_F(HostColorListTest, HoldsKeysWithoutColors)
+{
+    EXPECT_TRUE(_list.addKey(u"none"));
+    _list.setColor(white, u"a");
+    EXPECT_FALSE(_list.addKey(u"a"));
+    EXPECT_EQ(_list.allKeys(), (std::vector<std::u16string>{u"none", u"a"}));
+    EXPECT_EQ(_list.colorWithKey(u"none"), std::nullopt);
+    EXPECT_FALSE(_list.hasColorAtIndex(0));
+    EXPECT_EQ(_list.colorAtIndex(0).calibratedRGB(), std::nullopt);
+    EXPECT_TRUE(_list.hasColorAtIndex(1));
+
+    _list.setColor(black, u"none");
+    EXPECT_TRUE(_list.hasColorAtIndex(0));
+    EXPECT_EQ(_list.colorWithKey(u"none"), black);
+}
+
 TEST_F(HostColorListTest, TellsEachChange)
 {
     const std::uint64_t empty = _list.revision();

@@ -56,9 +56,9 @@ TEST(FormatStringTest, WholeNumbersReadAsInC)
 TEST(FormatStringTest, RealNumbersReadAsInC)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    const std::array values{0.0,  -0.0, 1.0,  0.5019607843137255, 1.0 / 3,  123456.789,
+    const std::array values{0.0,  -0.0, 1.0,  0.5019607843137255, 1.0 / 3,  123456.789, 100000.0,
                             1e-7, 1e20, -2.5, infinity,           -infinity};
-    for (const char* flags : {"", "-", "+", " ", "0", "-0", "+0"}) {
+    for (const char* flags : flagSets) {
         for (const char* width : widths) {
             for (const char* precision : precisions) {
                 for (const char* letter : {"f", "F", "e", "E", "g", "G"}) {
