@@ -14,6 +14,8 @@ namespace vantorel {
 namespace {
 
 constexpr const char* interfaceFileName = "QTXHexPick";
+/// In parts of the point size; far beyond any font, and texts of such characters stay finite.
+constexpr int widestCharacter = 1000;
 
 std::shared_ptr<HostColorList> colorListFrom(const Json& value)
 {
@@ -97,6 +99,9 @@ DriverPanel::Options optionsFrom(const Json& request)
     }
     if (const Json* width = optionalMember(request, "charWidth")) {
         options.charWidth = numberFrom(*width, "charWidth");
+        if (!(options.charWidth >= 0 && options.charWidth <= widestCharacter)) {
+            throw DriverError("charWidth must be from 0 to " + std::to_string(widestCharacter));
+        }
     }
     return options;
 }

@@ -19,8 +19,8 @@ public:
 
     [[nodiscard]] virtual std::optional<HostColor> color() const = 0;
     /// The panel keeps the colour and hands it to its current picker's `setColor` before it
-    /// returns.
-    virtual void setColor(const HostColor& color) = 0;
+    /// returns. A panel that always has a colour leaves no colour alone.
+    virtual void setColor(const std::optional<HostColor>& color) = 0;
 
     /// The panel's place on the screen, y up.
     [[nodiscard]] virtual HostRect frame() const = 0;

@@ -26,7 +26,9 @@ void stretch(double growth, bool before, bool itself, bool after, double& positi
 }  // namespace
 
 HostView::HostView(HostRect frame)
-    : _frame(withoutNegativeSize(frame)), _bounds{0, 0, _frame.width, _frame.height}
+    : _frame(withoutNegativeSize(frame)),
+      _askedFrame(frame),
+      _bounds{0, 0, _frame.width, _frame.height}
 {
 }
 
@@ -40,14 +42,16 @@ HostView::~HostView()
 
 void HostView::setFrame(HostRect frame)
 {
+    const HostSize oldSize = _askedFrame.size();
+    _askedFrame = frame;
     frame = withoutNegativeSize(frame);
-    if (frame == _frame) return;
-    const HostSize oldSize = _frame.size();
-    _frame = frame;
-    _bounds.width = frame.width;
-    _bounds.height = frame.height;
-    frameDidChange();
-    if (oldSize != frame.size()) resizeSubviews(oldSize);
+    if (frame != _frame) {
+        _frame = frame;
+        _bounds.width = frame.width;
+        _bounds.height = frame.height;
+        frameDidChange();
+    }
+    if (oldSize != _askedFrame.size()) resizeSubviews(oldSize);
 }
 
 void HostView::setBounds(HostRect bounds)
@@ -100,12 +104,12 @@ void HostView::displayDidBecomeNeeded(HostRect) {}
 
 void HostView::resizeSubviews(HostSize oldSize)
 {
-    const double wider = _frame.width - oldSize.width;
-    const double higher = _frame.height - oldSize.height;
+    const double wider = _askedFrame.width - oldSize.width;
+    const double higher = _askedFrame.height - oldSize.height;
     // A subview's hook may change the tree, so walk a copy of the list.
     for (HostView* view : std::vector<HostView*>(_subviews)) {
         const HostResizing& rule = view->_resizing;
-        HostRect frame = view->_frame;
+        HostRect frame = view->_askedFrame;
         stretch(wider, rule.leftMargin, rule.width, rule.rightMargin, frame.x, frame.width);
         stretch(higher, rule.bottomMargin, rule.height, rule.topMargin, frame.y, frame.height);
         view->setFrame(frame);

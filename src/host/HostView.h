@@ -41,6 +41,9 @@ public:
     [[nodiscard]] HostRect frame() const { return _frame; }
     /// Also resizes the subviews by their resizing rules. Widths and heights below 0 count as 0.
     void setFrame(HostRect frame);
+    /// Takes over the frame of another view, and with it what that one would get back when their
+    /// superview, too small now, grows.
+    void setFrameOf(const HostView& view) { setFrame(view._askedFrame); }
     /// Moves the view without changing its size.
     void setFrameOrigin(HostPoint origin)
     {
@@ -95,6 +98,9 @@ private:
     void resizeSubviews(HostSize oldSize);
 
     HostRect _frame;
+    /// The frame before negative sizes were cut to 0: what a superview that becomes too small takes
+    /// from its subviews they get back when it grows.
+    HostRect _askedFrame;
     HostRect _bounds;
     HostView* _superview = nullptr;
     std::vector<HostView*> _subviews;

@@ -197,9 +197,9 @@ QStringList PanelWindow::pageKeys() const
     return keys;
 }
 
-void PanelWindow::chooseColor(const HostColor& color)
+void PanelWindow::setColor(const std::optional<HostColor>& color)
 {
-    setColor(color);
+    if (color) chooseColor(*color);
 }
 
 QColor PanelWindow::chosenColor() const
@@ -207,7 +207,7 @@ QColor PanelWindow::chosenColor() const
     return qColorFrom(_color);
 }
 
-void PanelWindow::setColor(const HostColor& color)
+void PanelWindow::chooseColor(const HostColor& color)
 {
     const bool changed = color != _color;
     _color = color;

@@ -110,7 +110,7 @@ protected:
 private:
     void loadIcon();
     [[nodiscard]] std::optional<HostColor> color() const override { return _color; }
-    void setColor(const HostColor& color) override;
+    void setColor(const std::optional<HostColor>& color) override;
     [[nodiscard]] HostRect frame() const override;
     void setFrame(HostRect wanted, bool display) override;
     [[nodiscard]] HostView* pageView() const override;

@@ -70,7 +70,7 @@ void QTXHexColorPicker::toggleSettingsView()
         const HostRect frame = colors->frame();
         HostView* place = colors->superview();
         colors->removeFromSuperview();
-        settings->setFrame(frame);
+        settings->setFrameOf(*colors);
         // The bounds take the frame's origin here and zero on the way back: the settings face is
         // laid out in its superview's coordinates.
         settings->setBounds(frame);
@@ -80,7 +80,7 @@ void QTXHexColorPicker::toggleSettingsView()
         const HostRect frame = settings->frame();
         HostView* place = settings->superview();
         settings->removeFromSuperview();
-        colors->setFrame(frame);
+        colors->setFrameOf(*settings);
         colors->setBounds({0, 0, frame.width, frame.height});
         place->addSubview(*colors);
         checkTrackingStatus();

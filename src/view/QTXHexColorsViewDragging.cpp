@@ -24,7 +24,7 @@ void QTXHexColorsView::mouseDragged(const HostEvent& event)
         // of a colour.
         panel().setColor(HostColor::blackColor());
         panel().dragImage(dragImageWithString(*text), utf8FromUtf16(*text), event, *_view);
-        if (panelColor) panel().setColor(*panelColor);
+        panel().setColor(panelColor);
     } else if (panelColor) {
         panel().dragImage(dragImageWithColor(*panelColor), *panelColor, event, *_view);
     }

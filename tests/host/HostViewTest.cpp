@@ -34,6 +34,25 @@ INSTANTIATE_TEST_SUITE_P(
                     ResizingRow{{.leftMargin = true, .width = true, .rightMargin = true},
                                 {30, 20, 50, 40}}));
 
+TEST(HostViewTest, WhatHadNoRoomComesBackAsItWas)
+{
+    const HostResizing both{.width = true, .height = true};
+    HostView superview({0, 0, 100, 100});
+    HostView view({10, 20, 30, 40});
+    HostView other({});
+    view.setResizing(both);
+    other.setResizing(both);
+    superview.addSubview(view);
+    superview.setFrame({0, 0, 20, 5});
+    EXPECT_EQ(view.frame(), (HostRect{10, 20, 0, 0}));
+
+    view.removeFromSuperview();
+    other.setFrameOf(view);
+    superview.addSubview(other);
+    superview.setFrame({0, 0, 100, 100});
+    EXPECT_EQ(other.frame(), (HostRect{10, 20, 30, 40}));
+}
+
 TEST(HostViewTest, AViewThatEndsLeavesTheTree)
 {
     HostView superview({0, 0, 10, 10});

@@ -1,5 +1,6 @@
 #include "hosts/headless/HeadlessColorPanel.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantorel {
@@ -40,7 +41,7 @@ HostRect HeadlessColorPanel::pageFrame() const
     return {0, 0, _frame.width, _frame.height - barHeight};
 }
 
-void HeadlessColorPanel::setColor(const HostColor& color)
+void HeadlessColorPanel::setColor(const std::optional<HostColor>& color)
 {
     _desktop.journal().emplace_back(PanelColorSet{color});
     changeColor(color);
@@ -87,25 +88,24 @@ HostFieldEditor* HeadlessColorPanel::fieldEditor(HostTextField& field)
     return edited != nullptr && edited->isEdited() ? edited : nullptr;
 }
 
-HostEvent HeadlessColorPanel::takeEvent()
+HostEvent HeadlessColorPanel::takeEvent(std::deque<HostEvent>::const_iterator place)
 {
-    const HostEvent event = _events.front();
-    _events.pop_front();
+    const HostEvent event = *place;
+    _events.erase(place);
     _pointer = event.location;
     return event;
 }
 
 HostEvent HeadlessColorPanel::nextEventMatchingMask(std::uint32_t mask, HostView&)
 {
-    HostEvent last;
-    last.location = _pointer;
-    while (!_events.empty()) {
-        const HostEvent event = takeEvent();
-        if ((maskOfEventType(event.type) & mask) != 0) return event;
-        last = event;
-    }
-    last.type = HostEventType::leftMouseUp;
-    return last;
+    const auto next = std::find_if(_events.begin(), _events.end(), [mask](const HostEvent& event) {
+        return (maskOfEventType(event.type) & mask) != 0;
+    });
+    if (next != _events.end()) return takeEvent(next);
+    HostEvent released;
+    released.type = HostEventType::leftMouseUp;
+    released.location = _pointer;
+    return released;
 }
 
 void HeadlessColorPanel::dragImage(const HostImage& image, const HostPasteboardItem& item,
@@ -117,7 +117,7 @@ void HeadlessColorPanel::dragImage(const HostImage& image, const HostPasteboardI
     dragged.imageSize = image.size;
     dragged.panelColor = _color;
     _desktop.journal().emplace_back(std::move(dragged));
-    while (!_events.empty() && takeEvent().type != HostEventType::leftMouseUp) {
+    while (!_events.empty() && takeEvent(_events.begin()).type != HostEventType::leftMouseUp) {
     }
 }
 
@@ -125,7 +125,7 @@ void HeadlessColorPanel::deliver(const std::vector<HostEvent>& events, HeadlessC
 {
     _events.assign(events.begin(), events.end());
     while (!_events.empty()) {
-        const HostEvent event = takeEvent();
+        const HostEvent event = takeEvent(_events.begin());
         deliver(event, view);
     }
 }

@@ -23,7 +23,7 @@ public:
 
     HeadlessDesktop& desktop() override { return _desktop; }
     [[nodiscard]] std::optional<HostColor> color() const override { return _color; }
-    void setColor(const HostColor& color) override;
+    void setColor(const std::optional<HostColor>& color) override;
     [[nodiscard]] HostRect frame() const override { return _frame; }
     void setFrame(HostRect frame, bool display) override;
     [[nodiscard]] bool acceptsMouseMovedEvents() const override { return _acceptsMouseMoved; }
@@ -31,7 +31,8 @@ public:
     [[nodiscard]] HostPoint mouseLocation(const HostView& view) const override;
     void makeFirstResponder(HostView&) override {}
     HostFieldEditor* fieldEditor(HostTextField& field) override;
-    /// Takes from the queue; when that is exhausted, the button is released at the last point.
+    /// Takes the next such event of the queue and leaves the others there; when there is none, the
+    /// button is released at the last point.
     HostEvent nextEventMatchingMask(std::uint32_t mask, HostView& view) override;
     /// Takes the events up to the next release.
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
@@ -50,8 +51,8 @@ public:
 
 private:
     void deliver(const HostEvent& event, HeadlessCustomView& view);
-    /// Takes the next event of the queue.
-    HostEvent takeEvent();
+    /// Takes an event out of the queue.
+    HostEvent takeEvent(std::deque<HostEvent>::const_iterator place);
     void applyFrame(HostRect frame);
     [[nodiscard]] HostRect pageFrame() const;
 

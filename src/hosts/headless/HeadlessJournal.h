@@ -12,7 +12,7 @@
 namespace vantorel {
 
 struct PanelColorSet {
-    HostColor color;
+    std::optional<HostColor> color;
 };
 struct PanelFrameSet {
     HostRect frame;
