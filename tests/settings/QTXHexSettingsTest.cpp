@@ -63,7 +63,7 @@ TEST(QTXHexSettingsTest, EverySettingSurvives)
     settings.setPickViewMode(PickViewMode::wheel);
     settings.setNColorCubeRings(-5);
     settings.setComponentDisplay(ComponentDisplay::codeSnippet);
-    settings.setCodeSnippets({QTXCodeSnippet(u"n", u"%d", u"rgbFixed")});
+    settings.setCodeSnippets(std::vector{QTXCodeSnippet(u"n", u"%d", u"rgbFixed")});
     settings.setCodeSnippetName(u"n");
     settings.setCreateColorLists(false);
     settings.setCodeDragType(CodeDragType::rgbCSS);
@@ -140,7 +140,8 @@ TEST(QTXHexSettingsTest, ACopyKeepsTheOddRules)
 TEST(QTXHexSettingsTest, TheFirstSnippetOfTheNameIsTheChosenOne)
 {
     QTXHexSettings settings;
-    settings.setCodeSnippets({QTXCodeSnippet(u"a", u"1", u""), QTXCodeSnippet(u"a", u"2", u"")});
+    settings.setCodeSnippets(
+        std::vector{QTXCodeSnippet(u"a", u"1", u""), QTXCodeSnippet(u"a", u"2", u"")});
     settings.setCodeSnippetName(u"a");
     EXPECT_EQ(settings.codeSnippet().formatStringSnippet(), u"1");
     settings.setCodeSnippetName(u"A");
@@ -152,7 +153,7 @@ TEST(QTXHexSettingsTest, TheSnippetNamesOfTheProcessAreThoseOfTheFirstCall)
     QTXHexSettings settings;
     const auto names = settings.codeSnippetNames();
     EXPECT_EQ(settings.codeSnippets().size(), 12U);
-    settings.setCodeSnippets({QTXCodeSnippet(u"later", u"", u"")});
+    settings.setCodeSnippets(std::vector{QTXCodeSnippet(u"later", u"", u"")});
     EXPECT_EQ(settings.codeSnippetNames(), names);
 }
 
