@@ -56,7 +56,8 @@ void QTXHexColorPicker::syncPanel()
 
 void QTXHexColorPicker::syncNamingList()
 {
-    if (_hexSettings.hexColorList()) {
+    // A settings file can bring an empty name, which is none.
+    if (const auto& name = _hexSettings.hexColorList(); name && !name->empty()) {
         selectTitle(hexColorsListPopUp, _hexSettings.hexColorList());
         return;
     }
