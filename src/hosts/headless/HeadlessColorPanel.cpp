@@ -88,7 +88,7 @@ HostFieldEditor* HeadlessColorPanel::fieldEditor(HostTextField& field)
     return edited != nullptr && edited->isEdited() ? edited : nullptr;
 }
 
-HostEvent HeadlessColorPanel::takeEvent(std::deque<HostEvent>::const_iterator place)
+HostEvent HeadlessColorPanel::takeEvent(const std::deque<HostEvent>::const_iterator& place)
 {
     const HostEvent event = *place;
     _events.erase(place);

@@ -52,7 +52,7 @@ public:
 private:
     void deliver(const HostEvent& event, HeadlessCustomView& view);
     /// Takes an event out of the queue.
-    HostEvent takeEvent(std::deque<HostEvent>::const_iterator place);
+    HostEvent takeEvent(const std::deque<HostEvent>::const_iterator& place);
     void applyFrame(HostRect frame);
     [[nodiscard]] HostRect pageFrame() const;
 
