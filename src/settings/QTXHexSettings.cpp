@@ -69,9 +69,15 @@ QTXHexSettings QTXHexSettings::copyWithZone() const
     return copy;
 }
 
+const std::vector<QTXCodeSnippet>& QTXHexSettings::codeSnippets() const
+{
+    static const std::vector<QTXCodeSnippet> none;
+    return _codeSnippets ? *_codeSnippets : none;
+}
+
 const QTXCodeSnippet& QTXHexSettings::codeSnippet() const
 {
-    for (const QTXCodeSnippet& snippet : _codeSnippets) {
+    for (const QTXCodeSnippet& snippet : codeSnippets()) {
         if (_codeSnippetName && snippet.nameSnippet() == _codeSnippetName) return snippet;
     }
     return QTXCodeSnippet::buildDefaultCodeSnippets().front();
@@ -79,10 +85,10 @@ const QTXCodeSnippet& QTXHexSettings::codeSnippet() const
 
 const std::vector<std::u16string>& QTXHexSettings::codeSnippetNames()
 {
-    if (_codeSnippets.empty()) setCodeSnippets(QTXCodeSnippet::buildDefaultCodeSnippets());
+    if (codeSnippets().empty()) setCodeSnippets(QTXCodeSnippet::buildDefaultCodeSnippets());
     static const std::vector<std::u16string> names = [this] {
         std::vector<std::u16string> result;
-        for (const QTXCodeSnippet& snippet : _codeSnippets) {
+        for (const QTXCodeSnippet& snippet : codeSnippets()) {
             result.push_back(snippet.nameSnippet().value_or(u""));
         }
         return result;

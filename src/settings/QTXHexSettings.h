@@ -52,13 +52,12 @@ public:
     [[nodiscard]] ComponentDisplay componentDisplay() const { return _componentDisplay; }
     void setComponentDisplay(ComponentDisplay display) { _componentDisplay = display; }
     /// The user's snippets; empty until a settings file or the start-up supplies some.
-    [[nodiscard]] const std::vector<QTXCodeSnippet>& codeSnippets() const { return _codeSnippets; }
+    [[nodiscard]] const std::vector<QTXCodeSnippet>& codeSnippets() const;
     /// Whether there is an array of them, be it an empty one.
-    [[nodiscard]] bool hasCodeSnippets() const { return _hasCodeSnippets; }
+    [[nodiscard]] bool hasCodeSnippets() const { return _codeSnippets.has_value(); }
     void setCodeSnippets(std::optional<std::vector<QTXCodeSnippet>> snippets)
     {
-        _hasCodeSnippets = snippets.has_value();
-        _codeSnippets = std::move(snippets).value_or(std::vector<QTXCodeSnippet>());
+        _codeSnippets = std::move(snippets);
     }
     /// The name of the chosen snippet.
     [[nodiscard]] const std::optional<std::u16string>& codeSnippetName() const
@@ -117,8 +116,7 @@ private:
     PickViewMode _pickViewMode = PickViewMode::slider;
     std::int64_t _nColorCubeRings = 8;
     ComponentDisplay _componentDisplay = ComponentDisplay::hex;
-    std::vector<QTXCodeSnippet> _codeSnippets;
-    bool _hasCodeSnippets = false;
+    std::optional<std::vector<QTXCodeSnippet>> _codeSnippets;
     std::optional<std::u16string> _codeSnippetName;
     bool _createColorLists = true;
     CodeDragType _codeDragType = CodeDragType::hexCode;

@@ -63,9 +63,9 @@ PropertyList QTXHexSettings::propertyListRepresentation() const
     set(NColorCubeRingsKey, integerText(_nColorCubeRings));
     set(UsePoundSignKey, _usePoundSign ? yes : no);
     set(CreateColorListsKey, _createColorLists ? yes : no);
-    if (!_codeSnippets.empty()) {
+    if (!codeSnippets().empty()) {
         PropertyList::Array snippets;
-        for (const QTXCodeSnippet& snippet : _codeSnippets) {
+        for (const QTXCodeSnippet& snippet : codeSnippets()) {
             snippets.push_back(snippet.propertyListRepresentation());
         }
         set(CodeSnippetsKey, std::move(snippets));
@@ -82,7 +82,8 @@ void QTXHexSettings::loadPropertyListRepresentation(const PropertyList& dictiona
     }
     loadCodeSnippets(dictionary.valueForKey(CodeSnippetsKey));
     const auto* snippetName = string(CodeSnippetNameKey);
-    setCodeSnippetName(snippetName != nullptr ? *snippetName : _codeSnippets.front().nameSnippet());
+    setCodeSnippetName(snippetName != nullptr ? *snippetName
+                                              : codeSnippets().front().nameSnippet());
     if (const auto* name = string(CodeDragTypeKey)) setCodeDragType(codeDragTypeFromName(*name));
     if (const auto* text = string(CreateColorListsKey)) setCreateColorLists(*text == yes);
     if (const auto* name = string(PickModeColorListsKey)) {
