@@ -1,8 +1,8 @@
 #include "FuzzTexts.h"
 #include "color/ColorTexts.h"
 #include "color/QTXHexColorSpec.h"
+#include "color/RgbTriple.h"
 #include "picker/LiveHexReadout.h"
-#include "picker/RgbTriple.h"
 
 /// No text makes a component that is no byte.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,8 +1,8 @@
 #include "FuzzTexts.h"
-#include "cli/ListReader.h"
-#include "cli/ListTexts.h"
-#include "cli/SwatchExchange.h"
 #include "colorlists/PaletteFile.h"
+#include "listformats/ListReader.h"
+#include "listformats/ListTexts.h"
+#include "listformats/SwatchExchange.h"
 
 #include <array>
 

@@ -2,11 +2,12 @@
 #include "cli/ColorStream.h"
 #include "cli/Commands.h"
 #include "cli/Failure.h"
-#include "cli/Json.h"
 #include "cli/PanelProgram.h"
 #include "cli/Terminal.h"
 #include "csscolor/Contrast.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
+#include "listformats/Json.h"
 
 #include <algorithm>
 #include <cmath>

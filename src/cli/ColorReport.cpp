@@ -1,10 +1,11 @@
 #include "cli/ColorReport.h"
 
 #include "cli/Failure.h"
-#include "cli/Json.h"
 #include "cli/Terminal.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
+#include "listformats/Json.h"
 
 #include <array>
 #include <charconv>

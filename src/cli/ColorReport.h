@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/ColorText.h"
 #include "cli/UserLists.h"
 #include "color/EntryForm.h"
+#include "colortext/ByteColor.h"
 #include "snippets/QTXCodeSnippet.h"
 
 #include <string>

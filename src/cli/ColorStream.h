@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/ColorText.h"
 #include "cli/Output.h"
+#include "colortext/ColorTextReader.h"
 
 #include <string>
 #include <vector>

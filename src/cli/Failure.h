@@ -18,10 +18,6 @@ struct Failure {
 /// Ends a command that has nobody left to say anything to.
 struct SilentFailure {};
 
-/// A text as one line that cannot command a terminal: control characters become blanks, and what is
-/// no UTF-8 becomes U+FFFD.
-[[nodiscard]] std::string harmlessLine(std::string_view utf8);
-
 /// Writes "vantorel: WHAT: RIGHT" to standard error; without the second part where `right` is
 /// empty.
 void complain(std::string_view what, std::string_view right);

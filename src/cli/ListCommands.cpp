@@ -1,14 +1,16 @@
 #include "cli/Commands.h"
 #include "cli/Failure.h"
-#include "cli/Json.h"
-#include "cli/ListReader.h"
-#include "cli/ListTexts.h"
 #include "cli/Pictures.h"
-#include "cli/SwatchExchange.h"
 #include "cli/Terminal.h"
 #include "colorlists/PaletteFile.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
+#include "listformats/Json.h"
+#include "listformats/ListReader.h"
+#include "listformats/ListTexts.h"
+#include "listformats/PaletteSvg.h"
+#include "listformats/SwatchExchange.h"
 #include "view/WheelGeometry.h"
 
 #include <unistd.h>
@@ -78,7 +80,7 @@ std::string exportedBytes(const std::shared_ptr<HostColorList>& list, const std:
     if (format == "scss") return scssText(*list);
     if (format == "json") return jsonText(*list);
     if (format == "ase") return swatchExchangeBytes(*list);
-    if (format == "svg") return paletteSvg(list, usualPicture);
+    if (format == "svg") return paletteSvg(*list, usualPicture);
     return plainText(*list);
 }
 
@@ -244,11 +246,11 @@ int drawPalette(Session& session, const CommandLine& commandLine)
     const HostSize size = pictureSize(commandLine);
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.svg) {
-        writeFile(session.output(), *commandLine.svg, paletteSvg(list, size));
+        writeFile(session.output(), *commandLine.svg, paletteSvg(*list, size));
         return 0;
     }
     refuseBytesOnTerminal(*commandLine.png);
-    const std::string png = palettePng(list, size);
+    const std::string png = palettePng(*list, size);
     if (png.empty())
         throw Failure{"the picture cannot be made", "a smaller --size needs less room"};
     writeFile(session.output(), *commandLine.png, png);

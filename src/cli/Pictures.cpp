@@ -1,87 +1,19 @@
 #include "cli/Pictures.h"
 
-#include "cli/ColorText.h"
-#include "cli/Failure.h"
-#include "colorlists/ColorSort.h"
-#include "csscolor/CSSColorWriter.h"
-#include "host/HostText.h"
-#include "view/PaletteGeometry.h"
+#include "colortext/ByteColor.h"
+#include "listformats/PaletteSvg.h"
+#include "listformats/Svg.h"
 #include "view/ViewColors.h"
 #include "view/WheelGeometry.h"
 
 #include <png.h>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <csetjmp>
 
 namespace vantorel {
 namespace {
-
-/// The geometry draws two points off the corner; a rim of that width comes out on all sides.
-constexpr double rim = 2;
-
-HostSize insideRim(HostSize size)
-{
-    return {size.width - 2 * rim, size.height - 2 * rim};
-}
-
-std::string number(double value)
-{
-    std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, 3)
-                         .ptr;
-    std::string text(buffer.data(), end);
-    text.resize(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) text.pop_back();
-    return text == "-0" ? "0" : text;
-}
-
-std::string hexOf(const HostColor& color)
-{
-    const HostColor bytes = byteColorOf(color).hostColor().colorWithAlphaComponent(1);
-    return utf8FromUtf16(hexText(bytes).value_or(u""));
-}
-
-/// XML takes no control characters, not even escaped, and no U+FFFE and U+FFFF.
-std::string xmlText(const std::u16string& name)
-{
-    std::u16string allowed = name;
-    std::replace_if(
-        allowed.begin(), allowed.end(), [](char16_t c) { return c >= 0xFFFE; }, u'\uFFFD');
-    std::string result;
-    for (const char c : harmlessLine(utf8FromUtf16(allowed))) {
-        if (c == '&') {
-            result += "&amp;";
-        } else if (c == '<') {
-            result += "&lt;";
-        } else if (c == '>') {
-            result += "&gt;";
-        } else {
-            result += c;
-        }
-    }
-    return result;
-}
-
-std::string svgOpening(HostSize size, const std::string& title)
-{
-    const std::string width = number(size.width);
-    const std::string height = number(size.height);
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
-           width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + " " + height +
-           "\">\n<title>" + title + "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"" +
-           hexOf(hexColorsViewBackgroundColorS) +
-           "\"/>\n"
-           // Neighbours share an edge, through which the ground would shine.
-           "<g shape-rendering=\"crispEdges\">\n";
-}
-
-constexpr const char* svgClosing = "</g>\n</svg>\n";
 
 void writeToString(png_structp png, png_bytep data, png_size_t length)
 {
@@ -92,11 +24,9 @@ void writeToString(png_structp png, png_bytep data, png_size_t length)
 /// The colours of one row of pixels.
 class PaletteRaster {
 public:
-    PaletteRaster(const std::shared_ptr<const HostColorList>& list, HostSize size)
-        : _list(list),
-          _places(sortedColorIndexes(*list)),
-          _size(size),
-          _grid(paletteGrid(_places.size(), insideRim(size)))
+    /// `list` must outlive this object.
+    PaletteRaster(const HostColorList& list, HostSize size)
+        : _list(list), _size(size), _picture(list, size)
     {
     }
 
@@ -105,16 +35,17 @@ public:
         const ByteColor ground = byteColorOf(hexColorsViewBackgroundColorS);
         for (std::size_t x = 0; x < row.size() / 3; ++x)
             setPixel(row, x, ground);
-        if (_places.empty()) return;
-        const double heightInside = insideRim(_size).height;
-        const double fromTop = y + 0.5 - rim;
-        if (fromTop < 0 || fromTop >= heightInside) return;
-        const auto line = static_cast<std::uint64_t>(fromTop / _grid.swatch.height);
-        for (std::uint64_t column = 0; column < _grid.across; ++column) {
-            const std::uint64_t index = line * _grid.across + column;
-            if (index >= _places.size()) return;
-            const HostRect rect = paletteSwatchRect(_grid, index, heightInside);
-            const ByteColor color = byteColorOf(_list->colorAtIndex(_places[index]));
+        const auto& places = _picture.places();
+        if (places.empty()) return;
+        const double fromTop = y + 0.5 - PalettePicture::rim;
+        if (fromTop < 0 || fromTop >= _picture.inside().height) return;
+        const PaletteGrid& grid = _picture.grid();
+        const auto line = static_cast<std::uint64_t>(fromTop / grid.swatch.height);
+        for (std::uint64_t column = 0; column < grid.across; ++column) {
+            const std::uint64_t index = line * grid.across + column;
+            if (index >= places.size()) return;
+            const HostRect rect = _picture.swatch(index);
+            const ByteColor color = byteColorOf(_list.colorAtIndex(places[index]));
             // A pixel belongs to the swatch in which its centre lies.
             const auto begin = static_cast<std::size_t>(std::max(0.0, std::ceil(rect.x - 0.5)));
             const auto end = static_cast<std::size_t>(
@@ -132,10 +63,9 @@ private:
         row[x * 3 + 2] = color.blue;
     }
 
-    std::shared_ptr<const HostColorList> _list;
-    std::vector<std::size_t> _places;
+    const HostColorList& _list;
     HostSize _size;
-    PaletteGrid _grid;
+    PalettePicture _picture;
 };
 
 /// Nothing in here may need a destructor: a failure jumps out of it.
@@ -160,25 +90,7 @@ bool writePng(png_structp png, png_infop info, const PaletteRaster& raster, Host
 
 }  // namespace
 
-std::string paletteSvg(const std::shared_ptr<const HostColorList>& list, HostSize size)
-{
-    const HostSize inside = insideRim(size);
-    const std::vector<std::size_t> places = sortedColorIndexes(*list);
-    const PaletteGrid grid = paletteGrid(places.size(), inside);
-    std::string svg = svgOpening(size, xmlText(list->name()));
-    for (std::size_t i = 0; i < places.size(); ++i) {
-        const HostRect rect = paletteSwatchRect(grid, i, inside.height);
-        // The geometry's y axis points up from a corner that is itself two points off.
-        const double y = inside.height + 2 * rim - rect.maxY();
-        svg += "<rect x=\"" + number(rect.x) + "\" y=\"" + number(y) + "\" width=\"" +
-               number(rect.width) + "\" height=\"" + number(rect.height) + "\" fill=\"" +
-               hexOf(list->colorAtIndex(places[i])) + "\"><title>" +
-               xmlText(list->allKeys()[places[i]]) + "</title></rect>\n";
-    }
-    return svg + svgClosing;
-}
-
-std::string palettePng(const std::shared_ptr<const HostColorList>& list, HostSize size)
+std::string palettePng(const HostColorList& list, HostSize size)
 {
     std::string bytes;
     const PaletteRaster raster(list, size);
@@ -200,11 +112,11 @@ std::string wheelSvg(int rings, HostSize size)
     for (const WheelCell& cell : wheelCells(wheelPlace(size, rings))) {
         svg += "<path d=\"";
         for (std::size_t i = 0; i < cell.corners.size(); ++i) {
-            svg += (i == 0 ? "M" : "L") + number(cell.corners[i].x) + " " +
-                   number(size.height - cell.corners[i].y);
+            svg += (i == 0 ? "M" : "L") + svgNumber(cell.corners[i].x) + " " +
+                   svgNumber(size.height - cell.corners[i].y);
         }
         const ByteColor color{cell.red, cell.green, cell.blue};
-        svg += "Z\" fill=\"" + hexOf(color.hostColor()) + "\"/>\n";
+        svg += "Z\" fill=\"" + svgColor(color.hostColor()) + "\"/>\n";
     }
     return svg + svgClosing;
 }

@@ -3,7 +3,6 @@
 #include "host/HostColorList.h"
 #include "host/HostGeometry.h"
 
-#include <memory>
 #include <string>
 
 /// The picker's palette and wheel as pictures, by the same geometry as on the screen. Sizes are in
@@ -13,12 +12,8 @@ namespace vantorel {
 inline constexpr int smallestPicture = 8;
 inline constexpr int largestPicture = 16384;
 
-/// The swatches in the palette's order, each with its name as a title.
-[[nodiscard]] std::string paletteSvg(const std::shared_ptr<const HostColorList>& list,
-                                     HostSize size);
-/// The same as PNG, without names; nothing when it cannot be made.
-[[nodiscard]] std::string palettePng(const std::shared_ptr<const HostColorList>& list,
-                                     HostSize size);
+/// The palette as PNG, without names; empty when it cannot be made.
+[[nodiscard]] std::string palettePng(const HostColorList& list, HostSize size);
 /// `rings` must be a number that is drawn (see `drawnRingCount`).
 [[nodiscard]] std::string wheelSvg(int rings, HostSize size);
 

@@ -3,6 +3,7 @@
 #include "cli/Publishing.h"
 #include "cli/Terminal.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
 
 namespace vantorel {
 namespace {

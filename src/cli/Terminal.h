@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ColorText.h"
+#include "colortext/ByteColor.h"
 
 #include <string>
 

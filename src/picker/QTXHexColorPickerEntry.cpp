@@ -1,9 +1,9 @@
 #include "color/ColorTexts.h"
+#include "color/RgbTriple.h"
 #include "picker/ControlWriting.h"
 #include "picker/LiveHexReadout.h"
 #include "picker/NameCompletion.h"
 #include "picker/QTXHexColorPicker.h"
-#include "picker/RgbTriple.h"
 
 /// What happens when the user types: live, at every keystroke, and when the entry ends.
 namespace vantorel {

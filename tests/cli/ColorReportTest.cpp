@@ -1,7 +1,7 @@
 #include "cli/ColorReport.h"
 
 #include "cli/Failure.h"
-#include "cli/Json.h"
+#include "listformats/Json.h"
 
 #include <gtest/gtest.h>
 

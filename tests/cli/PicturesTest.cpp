@@ -1,5 +1,7 @@
 #include "cli/Pictures.h"
 
+#include "listformats/PaletteSvg.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -24,10 +26,10 @@ TEST(PicturesTest, AnyNumberOfColoursFitsIntoAnySize)
         }
         for (const HostSize size :
              {HostSize{8, 8}, HostSize{8, 900}, HostSize{900, 8}, HostSize{640, 480}}) {
-            const std::string svg = paletteSvg(list, size);
+            const std::string svg = paletteSvg(*list, size);
             EXPECT_EQ(countOf(svg, "</title></rect>"), static_cast<std::size_t>(count));
             EXPECT_EQ(countOf(svg, "nan") + countOf(svg, "inf"), 0U);
-            EXPECT_TRUE(palettePng(list, size).starts_with("\x89PNG"));
+            EXPECT_TRUE(palettePng(*list, size).starts_with("\x89PNG"));
         }
     }
 }
@@ -36,7 +38,7 @@ TEST(PicturesTest, NamesAreTextsOfXml)
 {
     const auto list = std::make_shared<HostColorList>(u"<&>");
     list->setColor(HostColor::blackColor(), u"a\x01\uFFFE\"]]>");
-    const std::string svg = paletteSvg(list, {100, 100});
+    const std::string svg = paletteSvg(*list, {100, 100});
     EXPECT_NE(svg.find("<title>&lt;&amp;&gt;</title>"), std::string::npos);
     EXPECT_NE(svg.find("<title>a \uFFFD\"]]&gt;</title>"), std::string::npos);
 }

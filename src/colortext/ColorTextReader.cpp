@@ -1,23 +1,16 @@
-#include "cli/ColorText.h"
+#include "colortext/ColorTextReader.h"
 
 #include "color/ColorTexts.h"
+#include "color/RgbTriple.h"
 #include "csscolor/CSSColorReader.h"
 #include "host/HostText.h"
-#include "picker/RgbTriple.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vantorel {
 namespace {
 
 constexpr int fullDigits = 6;
-
-std::uint8_t byteOf(double fraction)
-{
-    if (!(fraction > 0)) return 0;
-    return static_cast<std::uint8_t>(fraction < 1 ? std::lround(fraction * 255) : 255);
-}
 
 char16_t lowerCase(char16_t c)
 {
@@ -55,26 +48,6 @@ constexpr std::array<std::uint8_t, 256> tableOfDigits()
 }  // namespace
 
 constinit const std::array<std::uint8_t, 256> hexDigitValues = tableOfDigits();
-
-QTXHexColorSpec ByteColor::spec() const
-{
-    QTXHexColorSpec spec;
-    spec.setHexRed(red, green, blue);
-    spec.setAlphaComp(alpha);
-    return spec;
-}
-
-HostColor ByteColor::hostColor() const
-{
-    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
-}
-
-ByteColor byteColorOf(const HostColor& color)
-{
-    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    const double alpha = rgb.alpha > 0 ? std::min(rgb.alpha, 1.0) : 0;
-    return {byteOf(rgb.red), byteOf(rgb.green), byteOf(rgb.blue), alpha};
-}
 
 ColorTextReading ColorTextReader::read(std::string_view utf8)
 {

@@ -1,7 +1,7 @@
-#include "cli/SwatchExchange.h"
+#include "listformats/SwatchExchange.h"
 
-#include "cli/ColorText.h"
 #include "colorlists/KeyedEntries.h"
+#include "colortext/ByteColor.h"
 #include "csscolor/ColorConversions.h"
 #include "csscolor/GamutMapping.h"
 

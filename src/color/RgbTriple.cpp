@@ -1,4 +1,4 @@
-#include "picker/RgbTriple.h"
+#include "color/RgbTriple.h"
 
 namespace vantorel {
 namespace {

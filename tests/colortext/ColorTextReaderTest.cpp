@@ -1,4 +1,4 @@
-#include "cli/ColorText.h"
+#include "colortext/ColorTextReader.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ std::string codeOf(const std::optional<ByteColor>& color)
     return text;
 }
 
-TEST(ColorTextTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
+TEST(ColorTextReaderTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
 {
     ColorTextReader reader([] { return nullptr; });
     // A blank goes the slow way, to the same end.
@@ -31,7 +31,7 @@ TEST(ColorTextTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
         EXPECT_FALSE(readPlainHex(text)) << text;
 }
 
-TEST(ColorTextTest, ChannelsAreRoundedAsBrowsersDo)
+TEST(ColorTextReaderTest, ChannelsAreRoundedAsBrowsersDo)
 {
     const auto codeOfChannel = [](double channel) {
         return int{byteColorOf(HostColor::colorWithCalibratedRed(channel, 0, 0, 1)).red};
@@ -44,7 +44,7 @@ TEST(ColorTextTest, ChannelsAreRoundedAsBrowsersDo)
     EXPECT_EQ(byteColorOf(HostColor::colorWithCalibratedRed(0, 0, 0, -3)).alpha, 0);
 }
 
-TEST(ColorTextTest, AListIsAskedForOnceAndOnlyForItsNames)
+TEST(ColorTextReaderTest, AListIsAskedForOnceAndOnlyForItsNames)
 {
     int asked = 0;
     auto list = std::make_shared<HostColorList>(u"List");

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "color/QTXHexColorSpec.h"
-#include "host/HostColor.h"
+#include "colortext/ByteColor.h"
 #include "host/HostColorList.h"
 
 #include <array>
@@ -13,22 +12,6 @@
 #include <string_view>
 
 namespace vantorel {
-
-/// A colour in 8 bits, to which it has been rounded as browsers do.
-struct ByteColor {
-    std::uint8_t red = 0;
-    std::uint8_t green = 0;
-    std::uint8_t blue = 0;
-    /// 0..1
-    double alpha = 1;
-    /// What was written lies outside sRGB, and this is the nearest colour inside.
-    bool wasOutsideSRGB = false;
-
-    [[nodiscard]] QTXHexColorSpec spec() const;
-    [[nodiscard]] HostColor hostColor() const;
-};
-
-[[nodiscard]] ByteColor byteColorOf(const HostColor& color);
 
 struct ColorTextReading {
     std::optional<ByteColor> color;

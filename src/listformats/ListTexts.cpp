@@ -1,10 +1,10 @@
-#include "cli/ListTexts.h"
+#include "listformats/ListTexts.h"
 
-#include "cli/ColorText.h"
-#include "cli/Failure.h"
-#include "cli/Json.h"
+#include "colortext/ByteColor.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
+#include "listformats/Json.h"
 
 #include <unordered_map>
 

@@ -1,4 +1,4 @@
-#include "cli/Json.h"
+#include "listformats/Json.h"
 
 #include "host/HostText.h"
 

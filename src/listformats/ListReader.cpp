@@ -1,12 +1,11 @@
-#include "cli/ListReader.h"
+#include "listformats/ListReader.h"
 
-#include "cli/ColorText.h"
-#include "cli/LineReader.h"
-#include "cli/SwatchExchange.h"
 #include "colorlists/KeyedEntries.h"
 #include "colorlists/PaletteFile.h"
+#include "colortext/ByteColor.h"
 #include "csscolor/CSSColorReader.h"
 #include "host/HostText.h"
+#include "listformats/SwatchExchange.h"
 
 #include <nlohmann/json.hpp>
 
@@ -21,6 +20,9 @@ struct Found {
     std::size_t skipped = 0;
 };
 
+/// In bytes. A longer text is not a colour, only costly.
+constexpr std::size_t longestColorText = std::size_t{64} << 10;
+
 constexpr std::string_view blanks = " \t\r\n";
 
 std::string_view trimmed(std::string_view text)
@@ -33,8 +35,7 @@ std::string_view trimmed(std::string_view text)
 /// The colour of a text as lists hold it: opaque, on the 8-bit grid.
 std::optional<HostColor> colorOf(std::string_view text)
 {
-    // As for lines: what is longer is no colour, only costly.
-    if (text.size() > LineReader::longestLine) return std::nullopt;
+    if (text.size() > longestColorText) return std::nullopt;
     const CSSColorReading reading = readCSSColor(text);
     if (!reading.color) return std::nullopt;
     return byteColorOf(reading.color->color).hostColor().colorWithAlphaComponent(1);

@@ -1,5 +1,5 @@
-#include "cli/ListReader.h"
-#include "cli/ListTexts.h"
+#include "listformats/ListReader.h"
+#include "listformats/ListTexts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "cli/SwatchExchange.h"
+#include "listformats/SwatchExchange.h"
 
-#include "cli/ListTexts.h"
+#include "listformats/ListTexts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,67 @@
+#include "listformats/Svg.h"
+
+#include "colortext/ByteColor.h"
+#include "csscolor/CSSColorWriter.h"
+#include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
+#include "view/ViewColors.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace vantorel {
+
+std::string svgNumber(double value)
+{
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, 3)
+                         .ptr;
+    std::string text(buffer.data(), end);
+    text.resize(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) text.pop_back();
+    return text == "-0" ? "0" : text;
+}
+
+std::string svgColor(const HostColor& color)
+{
+    const HostColor bytes = byteColorOf(color).hostColor().colorWithAlphaComponent(1);
+    return utf8FromUtf16(hexText(bytes).value_or(u""));
+}
+
+std::string svgText(const std::u16string& text)
+{
+    std::u16string allowed = text;
+    std::replace_if(
+        allowed.begin(), allowed.end(), [](char16_t c) { return c >= 0xFFFE; }, u'\uFFFD');
+    std::string result;
+    for (const char c : harmlessLine(utf8FromUtf16(allowed))) {
+        if (c == '&') {
+            result += "&amp;";
+        } else if (c == '<') {
+            result += "&lt;";
+        } else if (c == '>') {
+            result += "&gt;";
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+std::string svgOpening(HostSize size, const std::string& title)
+{
+    const std::string width = svgNumber(size.width);
+    const std::string height = svgNumber(size.height);
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+           width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + " " + height +
+           "\">\n<title>" + title + "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"" +
+           svgColor(hexColorsViewBackgroundColorS) +
+           "\"/>\n"
+           // Neighbours share an edge, through which the ground would shine.
+           "<g shape-rendering=\"crispEdges\">\n";
+}
+
+}  // namespace vantorel
