@@ -6,6 +6,7 @@
 import configparser
 import os
 import re
+import struct
 import xml.etree.ElementTree as ElementTree
 
 from installedtree import SOURCES, TREE, TreeTest, main, text_of
@@ -40,12 +41,29 @@ class DesktopTest(TreeTest):
 
     def test_each_text_of_the_metainfo_is_there_in_german(self):
         root = ElementTree.parse(METAINFO).getroot()
-        for tag in ("summary", "p", "li"):
+        for tag in ("summary", "p", "li", "caption"):
             languages = [each.get(LANGUAGE) for each in root.iter(tag)]
             self.assertEqual(languages, [None, "de"] * (len(languages) // 2), tag)
 
     def test_the_metainfo_chooses_no_licence_for_the_program(self):
         self.assertIsNone(ElementTree.parse(METAINFO).getroot().find("project_license"))
+
+    def test_the_metainfo_names_the_developer_for_each_version_of_appstream(self):
+        root = ElementTree.parse(METAINFO).getroot()
+        self.assertEqual(root.findtext("developer/name"), root.findtext("developer_name"))
+
+    def test_the_screenshots_are_pictures_of_ours_below_the_homepage(self):
+        root = ElementTree.parse(METAINFO).getroot()
+        homepage = root.findtext("url[@type='homepage']")
+        images = list(root.iter("image"))
+        self.assertGreaterEqual(len(images), 3)
+        self.assertEqual([each.get("type") for each in root.iter("screenshot")].index("default"), 0)
+        for image in images:
+            self.assertTrue(image.text.startswith(homepage + "images/"), image.text)
+            with open(f"{SOURCES}/docs/images/{os.path.basename(image.text)}", "rb") as picture:
+                # A PNG's width and height follow its signature and the header's length and name.
+                size = struct.unpack(">II", picture.read(24)[16:])
+            self.assertEqual((int(image.get("width")), int(image.get("height"))), size, image.text)
 
     def test_what_the_desktop_file_starts_is_there_and_knows_its_options(self):
         file = ini(DESKTOP)
