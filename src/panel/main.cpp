@@ -1,6 +1,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtDesktop.h"
 #include "panel/CallersProcess.h"
+#include "panel/DisplayFailure.h"
 #include "panel/PanelOptions.h"
 #include "panel/PanelRequests.h"
 #include "panel/PanelService.h"
@@ -179,6 +180,7 @@ int main(int argc, char** argv)
     const bool staysHidden = order.step != PanelOrder::Step::show;
     // A caller waits for it, so it is neither handed over nor found by other starts.
     const bool isAlone = options.screenshot || options.choice;
+    const int noDisplay = staysHidden || options.choice ? notPossible : failure;
     std::optional<CallersProcess> caller;
     if (staysHidden) caller.emplace();
 
@@ -200,10 +202,12 @@ int main(int argc, char** argv)
     } else if (!hasDisplay()) {
         print(stderr, QStringLiteral("vantorel-panel: there is no display (neither WAYLAND_DISPLAY "
                                      "nor DISPLAY is set); --screenshot FILE works without one\n"));
-        return staysHidden || options.choice ? notPossible : failure;
+        return noDisplay;
     }
 
+    std::optional<DisplayFailure> displayFailure(std::in_place, noDisplay);
     QApplication application(argc, argv);
+    displayFailure.reset();
     installTranslations(application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace vantorel {
+
+/// Says in one sentence why Qt finds no display, where Qt itself would abort.
+///
+/// Make it before the QApplication and destroy it after. If the QApplication cannot be made, the
+/// sentence goes to standard error and the program exits. Otherwise messages that Qt printed about
+/// displays meanwhile are printed after all, so that none is lost.
+///
+/// At most one may exist at a time, because Qt has one message handler.
+class DisplayFailure {
+public:
+    /// `exitStatus`: the program's status if there is no display.
+    explicit DisplayFailure(int exitStatus);
+    ~DisplayFailure();
+    DisplayFailure(const DisplayFailure&) = delete;
+    DisplayFailure& operator=(const DisplayFailure&) = delete;
+
+private:
+    struct Message {
+        QtMsgType type;
+        QByteArray category;
+        QString text;
+    };
+
+    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
+    [[noreturn]] void exit(const QString& reason) const;
+    void printMessages() const;
+
+    int _exitStatus;
+    QtMessageHandler _usualHandler;
+    std::vector<Message> _messages;
+};
+
+}  // namespace vantorel
