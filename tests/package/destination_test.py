@@ -5,14 +5,9 @@
 """
 import os
 
-from installedtree import BUILD, SOURCES, TREE, TreeTest, main, text_of
+from installedtree import BUILD, SOURCES, TREE, TreeTest, files_below, main, text_of
 
 PREFIX = "/opt/vantorel"
-
-
-def files_below(folder):
-    return sorted(os.path.relpath(os.path.join(place, name), folder)
-                  for place, _, names in os.walk(folder) for name in names)
 
 
 class DestinationTest(TreeTest):

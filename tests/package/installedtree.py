@@ -19,6 +19,11 @@ def text_of(path):
         return file.read()
 
 
+def files_below(folder):
+    return sorted(os.path.relpath(os.path.join(place, name), folder)
+                  for place, _, names in os.walk(folder) for name in names)
+
+
 class TreeTest(unittest.TestCase):
     def setUp(self):
         self.scratch = tempfile.mkdtemp()
