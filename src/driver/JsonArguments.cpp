@@ -9,9 +9,9 @@
 namespace vantorel {
 namespace {
 
-[[noreturn]] void refuse(const std::string& what, const char* wanted)
+[[noreturn]] void refuse(std::string_view what, const char* wanted)
 {
-    throw DriverError(what + " must be " + wanted);
+    throw DriverError(std::string(what) + " must be " + wanted);
 }
 
 /// `count` numbers.
@@ -50,7 +50,7 @@ PropertyList propertyListFrom(const Json& value, const std::string& what, std::s
 
 }  // namespace
 
-const Json* memberOf(const Json& object, const std::string& key)
+const Json* memberOf(const Json& object, std::string_view key)
 {
     if (!object.is_object()) return nullptr;
     const auto found = object.find(key);
@@ -164,14 +164,14 @@ PropertyList propertyListFrom(const Json& value, const std::string& what)
     return propertyListFrom(value, what, 0);
 }
 
-const Json& requiredMember(const Json& object, const std::string& key)
+const Json& requiredMember(const Json& object, std::string_view key)
 {
     const Json* member = memberOf(object, key);
-    if (member == nullptr) throw DriverError("\"" + key + "\" is missing");
+    if (member == nullptr) throw DriverError("\"" + std::string(key) + "\" is missing");
     return *member;
 }
 
-const Json* optionalMember(const Json& object, const std::string& key)
+const Json* optionalMember(const Json& object, std::string_view key)
 {
     const Json* member = memberOf(object, key);
     return member == nullptr || member->is_null() ? nullptr : member;
@@ -185,7 +185,7 @@ const Json& argumentAt(const Json& arguments, std::size_t index)
     return arguments[index];
 }
 
-const Json& listFrom(const Json& value, const std::string& what)
+const Json& listFrom(const Json& value, std::string_view what)
 {
     if (!value.is_array()) refuse(what, "a list");
     return value;

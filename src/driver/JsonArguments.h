@@ -11,6 +11,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace vantorel {
 
@@ -54,14 +55,14 @@ template <class Enumeration>
 }
 
 /// The value of a key; throws where it is missing.
-[[nodiscard]] const Json& requiredMember(const Json& object, const std::string& key);
+[[nodiscard]] const Json& requiredMember(const Json& object, std::string_view key);
 /// The value of a key, which may be a JSON null; a null pointer where it is missing.
-[[nodiscard]] const Json* memberOf(const Json& object, const std::string& key);
+[[nodiscard]] const Json* memberOf(const Json& object, std::string_view key);
 /// The value of a key that may be left out; a JSON null leaves it out, too.
-[[nodiscard]] const Json* optionalMember(const Json& object, const std::string& key);
+[[nodiscard]] const Json* optionalMember(const Json& object, std::string_view key);
 /// Element `index` of a list of arguments; throws where there are fewer.
 [[nodiscard]] const Json& argumentAt(const Json& arguments, std::size_t index);
 /// The elements of a list.
-[[nodiscard]] const Json& listFrom(const Json& value, const std::string& what);
+[[nodiscard]] const Json& listFrom(const Json& value, std::string_view what);
 
 }  // namespace vantorel
