@@ -18,11 +18,6 @@
 namespace vantorel {
 namespace {
 
-HostColor rgb(int red, int green, int blue, double alpha = 1)
-{
-    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
-}
-
 /// Folders of a user who has two lists, and Krita with one.
 class UserFolders {
 protected:

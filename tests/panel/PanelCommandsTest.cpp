@@ -14,11 +14,6 @@
 namespace vantorel {
 namespace {
 
-HostColor rgb(int red, int green, int blue, double alpha = 1)
-{
-    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
-}
-
 /// Answers at once, from a list that the test holds.
 class ScriptedScreenPicker final : public ScreenPicker {
 public:

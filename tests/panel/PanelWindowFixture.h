@@ -14,6 +14,12 @@
 
 namespace vantorel {
 
+/// A colour by its channels of 0 to 255 and an alpha of 0 to 1.
+inline HostColor rgb(int red, int green, int blue, double alpha = 1)
+{
+    return HostColor::colorWithCalibratedRed(red / 255.0, green / 255.0, blue / 255.0, alpha);
+}
+
 /// The panel with the real picker, off screen.
 class PanelWindowFixture : public testing::Test {
 protected:
