@@ -43,9 +43,10 @@ int main(int argc, char** argv)
     window.move(400, 20);
     window.show();
     QApplication::processEvents();
-    // The dialog's large swatch takes colours.
+    // The large swatch of the dialog takes colours. Its class is QColorShowLabel in Qt 6.4, and
+    // QtPrivate::QColorShowLabel in Qt 6.8.
     for (const QWidget* child : dialog->findChildren<QWidget*>()) {
-        if (qstrcmp(child->metaObject()->className(), "QColorShowLabel") == 0) {
+        if (QByteArrayView(child->metaObject()->className()).endsWith("QColorShowLabel")) {
             print(QStringLiteral("places %1 %2").arg(middleOf(text), middleOf(child)));
         }
     }
