@@ -29,9 +29,13 @@ protected:
     {
         _field.setAction([this](HostControl&) { ++_actions; });
         _field.setTextDidChange([this] { ++_changes; });
+    }
+    void SetUp() override
+    {
         edit()->show();
         edit()->setFocus();
-        QApplication::setActiveWindow(edit());
+        edit()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(edit()));
     }
     [[nodiscard]] QLineEdit* edit() const { return static_cast<QLineEdit*>(_field.widget()); }
 
@@ -124,7 +128,8 @@ TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
     QShortcut closing(QKeySequence(Qt::Key_Escape), &window, [&] { ++shortcuts; });
     int givenUp = 0;
     _field.setEntryGivenUp([&] { ++givenUp; });
-    QApplication::setActiveWindow(&window);
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     edit()->setFocus();
     QTest::keyClicks(edit(), "12");
     QTest::keyClick(edit(), Qt::Key_Escape);
