@@ -7,56 +7,57 @@ PREFIX ?= /usr/local
 SECONDS ?= 60
 EVENTS ?= 1000000
 
-.PHONY: run build test install deb test-deb bench endurance fuzz format check coverage screenshots clean packages
+.PHONY: run build test install deb test-deb bench endurance fuzz format check coverage screenshots clean
 
 run: build
 	@tools/run-panel "$(COLOR)"
 
-build: packages
+build: packages-build+run
 	@cmake --preset release > /dev/null
 	@cmake --build --preset release
 
-test: packages
+test: packages-build+run+test
 	@tools/run-tests $(PRESETS)
 
 # DESTDIR=FOLDER installs below a folder, for a tree that goes elsewhere.
-install: packages
+install: packages-build+run
 	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" > /dev/null
 	@cmake --build --preset release --target vantorel-told vantorel-panel-told
 	@DESTDIR="$(DESTDIR)" cmake --install build/release --strip
 
-deb: packages
+deb: packages-build+package
 	@tools/make-deb
 
 test-deb: deb
 	@tests/package/deb-test build/deb
 
-bench: build
+bench: packages-build+run+test build
 	@tools/run-benchmarks
 	@tools/bench-programs
 
-format: packages
+format: packages-check
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-check: packages
+check: packages-build+run+test+check
 	@tools/run-checks
 
-coverage: packages
+coverage: packages-build+run+test+check
 	@tools/run-coverage
 
-fuzz: packages
+fuzz: packages-build+check
 	@cmake --preset fuzz > /dev/null
 	@cmake --build --preset fuzz
 	@tools/run-fuzzers $(SECONDS)
 
-endurance: build
+endurance: packages-build+run+test build
 	@tools/run-endurance $(EVENTS)
 
-screenshots: build
+screenshots: packages-build+run+test build
 	@tools/make-screenshots
 
-packages:
-	@tools/install-packages
+# packages-SECTION+SECTION... installs what is missing of these sections of tools/packages.txt.
+packages-%:
+	@tools/install-packages $(subst +, ,$*)
 
 clean:
 	rm -rf build
