@@ -1,5 +1,8 @@
 #include "panel/PanelOptions.h"
 
+#include "colortext/ColorTextReader.h"
+#include "hosts/qt/QtColors.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -18,6 +21,21 @@ std::optional<QSize> sizeFromText(const QString& text)
     const auto match = form.match(text);
     if (!match.hasMatch()) return std::nullopt;
     return QSize(match.captured(1).toInt(), match.captured(2).toInt());
+}
+
+/// Returns what is wrong with the text, or an empty text.
+QString readColor(const QString& text, std::optional<QColor>& color)
+{
+    // Names of a colour list do not count: the lists are the pages', which are not loaded yet.
+    const ColorTextReading reading =
+        ColorTextReader([] { return nullptr; }).read(text.toStdString());
+    if (reading.color) {
+        color = qColorFrom(reading.color->hostColor());
+        return {};
+    }
+    QString wrong = QString::fromStdString(reading.error);
+    if (wrong.endsWith(u'.')) wrong.chop(1);
+    return wrong;
 }
 
 PanelCommandLine refusal(const QString& what)
@@ -49,37 +67,17 @@ QString readStep(const QCommandLineParser& parser, PanelOptions& options)
 
 }  // namespace
 
-std::optional<QColor> colorFromText(const QString& text)
-{
-    static const QRegularExpression triple(
-        QStringLiteral("^rgb\\(\\s*(\\d{1,3})[\\s,]+(\\d{1,3})[\\s,]+(\\d{1,3})\\s*\\);?$"),
-        QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression hex(QStringLiteral("^#[0-9a-fA-F]+$"));
-    const QString trimmed = text.trimmed();
-    if (const auto match = triple.match(trimmed); match.hasMatch()) {
-        const QColor color(match.captured(1).toInt(), match.captured(2).toInt(),
-                           match.captured(3).toInt());
-        return color.isValid() ? std::optional(color) : std::nullopt;
-    }
-    if (hex.match(trimmed).hasMatch() && trimmed.size() == 9) {
-        // CSS has the alpha last, Qt has it first.
-        const QColor color(u'#' + trimmed.mid(7) + trimmed.mid(1, 6));
-        return color.isValid() ? std::optional(color) : std::nullopt;
-    }
-    const bool cssForm = !trimmed.startsWith(u'#') || trimmed.size() == 4 || trimmed.size() == 7;
-    const QColor color(trimmed);
-    return cssForm && color.isValid() ? std::optional(color) : std::nullopt;
-}
-
 PanelCommandLine readCommandLine(const QStringList& arguments)
 {
     const auto option = [](const char* name, const char* help, const char* value = nullptr) {
         return QCommandLineOption(QString::fromLatin1(name), QString::fromUtf8(help),
                                   QString::fromLatin1(value != nullptr ? value : ""));
     };
-    const auto color = option(
-        "color", "Start with this colour: #rgb, #rrggbb, #rrggbbaa, rgb(r, g, b) or a CSS name.",
-        "TEXT");
+    const auto color = option("color",
+                              "Start with this colour: any form of CSS Color 4, such as "
+                              "\"#ff8000\" or \"hsl(30 100% 50%)\", "
+                              "or a text that the hex page takes.",
+                              "TEXT");
     const auto page = option(
         "page", "Start with this page: hex, dialog, palettes, or one of another plug-in.", "PAGE");
     const auto mode =
@@ -141,10 +139,8 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     PanelCommandLine result;
     PanelOptions& options = result.options;
     if (parser.isSet(color)) {
-        options.color = colorFromText(parser.value(color));
-        if (!options.color)
-            return refusal(QStringLiteral("--color: \"%1\" is no colour; try #ff8000")
-                               .arg(parser.value(color)));
+        const QString wrong = readColor(parser.value(color), options.color);
+        if (!wrong.isEmpty()) return refusal(QStringLiteral("--color: ") + wrong);
     }
     if (parser.isSet(page)) options.page = parser.value(page);
     if (parser.isSet(mode)) {

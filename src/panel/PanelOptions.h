@@ -39,9 +39,6 @@ struct PanelOptions {
     QStringList forStartsOnly;
 };
 
-/// A CSS colour: `#rgb`, `#rrggbb`, `#rrggbbaa`, `rgb(r, g, b)` or a keyword of CSS Color 4.
-[[nodiscard]] std::optional<QColor> colorFromText(const QString& text);
-
 struct PanelCommandLine {
     PanelOptions options;
     /// What to print and end with: a message, and the exit status.

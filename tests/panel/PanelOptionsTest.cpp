@@ -12,21 +12,33 @@ struct ColorRow {
     std::optional<QColor> color;
 };
 
-class ColorTextTest : public testing::TestWithParam<ColorRow> {};
+class ColorOptionTest : public testing::TestWithParam<ColorRow> {};
 
-TEST_P(ColorTextTest, ReadsAsInCSS)
+TEST_P(ColorOptionTest, TakesWhatIsTakenElsewhere)
 {
-    EXPECT_EQ(colorFromText(GetParam().text), GetParam().color);
+    const auto line = readCommandLine({"p", "--color", GetParam().text});
+    EXPECT_EQ(line.options.color, GetParam().color);
+    EXPECT_EQ(line.exitStatus.has_value(), !GetParam().color.has_value());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Texts, ColorTextTest,
-    testing::Values(ColorRow{"#f80", QColor(255, 136, 0)}, ColorRow{"#ff8000", QColor(255, 128, 0)},
-                    ColorRow{"#ff800040", QColor(255, 128, 0, 64)},
-                    ColorRow{" RGB(1, 2 3); ", QColor(1, 2, 3)},
-                    ColorRow{"navy", QColor(0, 0, 128)}, ColorRow{"rgb(300,0,0)", std::nullopt},
-                    ColorRow{"#12345", std::nullopt}, ColorRow{"#fff000fff000", std::nullopt},
-                    ColorRow{"", std::nullopt}, ColorRow{"nonsense", std::nullopt}));
+    Texts, ColorOptionTest,
+    testing::Values(
+        ColorRow{"#f80", QColor(255, 136, 0)}, ColorRow{"#ff8000", QColor(255, 128, 0)},
+        ColorRow{"#ff800040", QColor(255, 128, 0, 64)}, ColorRow{"#f804", QColor(255, 136, 0, 68)},
+        ColorRow{"ff8000", QColor(255, 128, 0)}, ColorRow{" RGB(1, 2 3); ", QColor(1, 2, 3)},
+        ColorRow{"navy", QColor(0, 0, 128)}, ColorRow{"hsl(120 100% 50%)", QColor(0, 255, 0)},
+        ColorRow{"hsl(120 100% 50% / 20%)", QColor(0, 255, 0, 51)},
+        ColorRow{"oklch(62.796% 0.25768 29.234)", QColor(255, 0, 0)},
+        ColorRow{"#fff000fff000", std::nullopt}, ColorRow{"", std::nullopt},
+        ColorRow{"nonsense", std::nullopt}));
+
+TEST(PanelOptionsTest, AWrongColourIsExplained)
+{
+    EXPECT_EQ(readCommandLine({"p", "--color", "orang"}).message,
+              "vantorel-panel: --color: \"orang\" is no colour name of CSS; write a colour such as "
+              "\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"\n");
+}
 
 TEST(PanelOptionsTest, EveryOptionIsRead)
 {
