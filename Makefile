@@ -22,7 +22,7 @@ test: packages-build+run+test
 # DESTDIR=FOLDER installs below a folder, for a tree that goes elsewhere.
 install: packages-build+run
 	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" > /dev/null
-	@cmake --build --preset release --target vantorel-told vantorel-panel-told
+	@cmake --build --preset release --target vantorel-descriptions vantorel-panel-descriptions
 	@DESTDIR="$(DESTDIR)" cmake --install build/release --strip
 
 deb: packages-build+package

@@ -233,22 +233,24 @@ int tellContrast(Session& session, const CommandLine& commandLine)
     return 0;
 }
 
-int runPanel(Session& session, const CommandLine& commandLine)
+int pickColor(Session&, const CommandLine& commandLine)
 {
-    switch (commandLine.command) {
-        case Command::pick:
-            becomePanel({commandLine.copy ? "--pick-and-copy" : "--pick"});
-        case Command::choose: {
-            if (commandLine.operands.empty()) becomePanel({"--choose"});
-            ColorTextReader reader = readerWithNamesOf(session, commandLine);
-            // The panel need not know every form that is known here.
-            const ByteColor color = requiredColor(reader, commandLine.operands.front());
-            becomePanel({"--choose", "--color",
-                         hexTextOf(color, {EntryForm::lowercase, true, nullptr, {}, false})});
-        }
-        default:
-            becomePanel(commandLine.operands);
-    }
+    becomePanel({commandLine.copy ? "--pick-and-copy" : "--pick"});
+}
+
+int chooseColor(Session& session, const CommandLine& commandLine)
+{
+    if (commandLine.operands.empty()) becomePanel({"--choose"});
+    // The name of a colour list's entry means nothing to the panel.
+    ColorTextReader reader = readerWithNamesOf(session, commandLine);
+    const ByteColor color = requiredColor(reader, commandLine.operands.front());
+    becomePanel({"--choose", "--color",
+                 hexTextOf(color, {EntryForm::lowercase, true, nullptr, {}, false})});
+}
+
+int startPanel(Session&, const CommandLine& commandLine)
+{
+    becomePanel(commandLine.operands);
 }
 
 }  // namespace vantorel

@@ -1,33 +1,17 @@
 #pragma once
 
+#include "commandline/ArgumentReader.h"
+
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace vantorel {
 
-enum class Command {
-    show,
-    name,
-    lists,
-    list,
-    listImport,
-    listExport,
-    listPublish,
-    snippets,
-    contrast,
-    wheel,
-    palette,
-    pick,
-    choose,
-    panel,
-    completions,
-    manpage,
-};
-
-/// What the user asks for. Texts are as they were given; what is not given is empty.
+/// What the user asks of a command. Texts are as they were given.
 struct CommandLine {
-    Command command = Command::show;
+    explicit CommandLine(GivenArguments given);
+
     /// Colours, files, names, in their order.
     std::vector<std::string> operands;
     std::optional<std::string> listName;
@@ -45,16 +29,7 @@ struct CommandLine {
     bool yes = false;
     bool undo = false;
     bool copy = false;
+    bool panel = false;
 };
-
-/// A command line, or what is to be printed in its place (--help, --version).
-struct CommandLineReading {
-    std::optional<CommandLine> commandLine;
-    std::string text;
-};
-
-/// Arguments that are no command line are a `Failure`. `arguments` are those
-/// behind the program's name.
-[[nodiscard]] CommandLineReading readCommandLine(const std::vector<std::string>& arguments);
 
 }  // namespace vantorel

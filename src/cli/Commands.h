@@ -53,7 +53,9 @@ int publishList(Session& session, const CommandLine& commandLine);
 int drawWheel(Session& session, const CommandLine& commandLine);
 int drawPalette(Session& session, const CommandLine& commandLine);
 
-/// `pick`, `choose` and `panel`; returns only by a `Failure`.
-int runPanel(Session& session, const CommandLine& commandLine);
+// These become the panel; they return only by a `Failure`.
+[[noreturn]] int pickColor(Session& session, const CommandLine& commandLine);
+[[noreturn]] int chooseColor(Session& session, const CommandLine& commandLine);
+[[noreturn]] int startPanel(Session& session, const CommandLine& commandLine);
 
 }  // namespace vantorel

@@ -30,7 +30,4 @@ struct Complaint {
 };
 [[nodiscard]] Complaint complaintFromSentence(std::string_view sentence);
 
-/// A text in quotation marks: the beginning of a long one.
-[[nodiscard]] std::string quotedText(std::string_view utf8);
-
 }  // namespace vantorel

@@ -7,10 +7,10 @@
 #include "host/HostText.h"
 #include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
+#include "listformats/ListFormats.h"
 #include "listformats/ListReader.h"
 #include "listformats/ListTexts.h"
 #include "listformats/PaletteSvg.h"
-#include "listformats/SwatchExchange.h"
 #include "view/WheelGeometry.h"
 
 #include <unistd.h>
@@ -71,17 +71,6 @@ void refuseBytesOnTerminal(const std::string& path)
     if (path != "-" || !isTerminal(STDOUT_FILENO)) return;
     throw Failure{"the bytes of this format are nothing for a terminal",
                   "name a file, or send them into one"};
-}
-
-std::string exportedBytes(const std::shared_ptr<HostColorList>& list, const std::string& format)
-{
-    if (format == "gpl") return paletteText(*list);
-    if (format == "css") return cssText(*list);
-    if (format == "scss") return scssText(*list);
-    if (format == "json") return jsonText(*list);
-    if (format == "ase") return swatchExchangeBytes(*list);
-    if (format == "svg") return paletteSvg(*list, usualPicture);
-    return plainText(*list);
 }
 
 bool haveSameColors(const HostColorList& left, const HostColorList& right)
@@ -227,8 +216,9 @@ int exportList(Session& session, const CommandLine& commandLine)
 {
     const auto list = session.lists().requiredList(commandLine.operands.front());
     const std::string path = commandLine.output.value_or("-");
-    if (commandLine.format == "ase") refuseBytesOnTerminal(path);
-    writeFile(session.output(), path, exportedBytes(list, *commandLine.format));
+    const ListFormat& format = *listFormatNamed(*commandLine.format);
+    if (format.isBinary) refuseBytesOnTerminal(path);
+    writeFile(session.output(), path, format.write(*list));
     return 0;
 }
 

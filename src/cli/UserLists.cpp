@@ -3,6 +3,7 @@
 #include "cli/Failure.h"
 #include "colorlists/QTXHexColorLists.h"
 #include "host/HostText.h"
+#include "listformats/HarmlessLine.h"
 
 #include <algorithm>
 

@@ -1,8 +1,10 @@
-#include "cli/CommandDescription.h"
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "cli/Failure.h"
+#include "commandline/Descriptions.h"
+#include "commandline/Programs.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -10,55 +12,59 @@ namespace {
 
 using namespace vantorel;
 
-int run(Session& session, const CommandLine& commandLine)
+const ProgramRow& describedProgram(const CommandLine& commandLine)
 {
-    switch (commandLine.command) {
-        case Command::show:
-            return showColors(session, commandLine);
-        case Command::name:
-            return nameColors(session, commandLine);
-        case Command::lists:
-            return tellLists(session, commandLine);
-        case Command::list:
-            return tellList(session, commandLine);
-        case Command::listImport:
-            return importLists(session, commandLine);
-        case Command::listExport:
-            return exportList(session, commandLine);
-        case Command::listPublish:
-            return publishList(session, commandLine);
-        case Command::snippets:
-            return tellSnippets(session, commandLine);
-        case Command::contrast:
-            return tellContrast(session, commandLine);
-        case Command::wheel:
-            return drawWheel(session, commandLine);
-        case Command::palette:
-            return drawPalette(session, commandLine);
-        case Command::pick:
-        case Command::choose:
-        case Command::panel:
-            return runPanel(session, commandLine);
-        case Command::completions:
-            session.output().write(
-                completionScript(describeProgram(), commandLine.operands.front()));
-            return 0;
-        case Command::manpage:
-            session.output().write(manualPage(describeProgram()));
-            return 0;
-    }
-    return failureStatus;
+    return commandLine.panel ? vantorelPanelProgram : vantorelProgram;
 }
+
+int printCompletions(Session& session, const CommandLine& commandLine)
+{
+    session.output().write(
+        completionScript(describedProgram(commandLine), commandLine.operands.front()));
+    return 0;
+}
+
+int printManualPage(Session& session, const CommandLine& commandLine)
+{
+    session.output().write(manualPage(describedProgram(commandLine)));
+    return 0;
+}
+
+using Function = int (*)(Session& session, const CommandLine& commandLine);
+
+/// Each command of `vantorelProgram`.
+constexpr std::pair<std::string_view, Function> functions[] = {
+    {"show", showColors},
+    {"name", nameColors},
+    {"lists", tellLists},
+    {"list", tellList},
+    {"list import", importLists},
+    {"list export", exportList},
+    {"list publish", publishList},
+    {"snippets", tellSnippets},
+    {"contrast", tellContrast},
+    {"wheel", drawWheel},
+    {"palette", drawPalette},
+    {"pick", pickColor},
+    {"choose", chooseColor},
+    {"panel", startPanel},
+    {"completions", printCompletions},
+    {"manpage", printManualPage},
+};
 
 int runArguments(Session& session, const std::vector<std::string>& arguments)
 {
-    const CommandLineReading reading = readCommandLine(arguments);
-    if (!reading.commandLine) {
+    ArgumentReading reading = readArguments(vantorelProgram, arguments);
+    if (!reading.what.empty()) throw Failure{reading.what, reading.right};
+    int status = 0;
+    if (reading.arguments) {
+        const auto* const function =
+            std::ranges::find(functions, std::string_view(reading.arguments->command),
+                              &std::pair<std::string_view, Function>::first);
+        status = function->second(session, CommandLine(std::move(*reading.arguments)));
+    } else {
         session.output().write(reading.text);
-        session.output().flush();
-        return 0;
     }
-    const int status = run(session, *reading.commandLine);
     session.output().flush();
     return status;
 }

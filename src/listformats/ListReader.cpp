@@ -5,6 +5,7 @@
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorReader.h"
 #include "host/HostText.h"
+#include "listformats/ListFormats.h"
 #include "listformats/SwatchExchange.h"
 
 #include <nlohmann/json.hpp>
@@ -39,14 +40,6 @@ std::optional<HostColor> colorOf(std::string_view text)
     const CSSColorReading reading = readCSSColor(text);
     if (!reading.color) return std::nullopt;
     return byteColorOf(reading.color->color).hostColor().colorWithAlphaComponent(1);
-}
-
-std::string lowerCase(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return result;
 }
 
 std::string_view baseName(std::string_view path)
@@ -262,13 +255,13 @@ ColorListReading readColorList(std::string_view bytes, const std::string& fileNa
         reading.skipped = swatches->skipped;
         return reading;
     }
-    const std::string name = lowerCase(fileName);
-    if (name.ends_with(".svg"))
+    const ListFormat* ofEnding = listFormatOfFile(fileName);
+    const std::string_view form = ofEnding != nullptr ? ofEnding->name : std::string_view();
+    if (form == "svg")
         return failure("a picture does not tell its list",
                        "give a palette, as \"--format gpl\" makes it");
     const std::string_view content = trimmed(bytes);
-    const bool isStyleSheet = name.ends_with(".css") || name.ends_with(".scss") ||
-                              name.ends_with(".sass") || name.ends_with(".less");
+    const bool isStyleSheet = form == "css" || form == "scss";
     if (!isStyleSheet && (content.starts_with('{') || content.starts_with('['))) {
         const auto json = readJson(content);
         if (!json)

@@ -1,6 +1,7 @@
 #include "cli/ColorReport.h"
 
 #include "cli/Failure.h"
+#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
 
 #include <gtest/gtest.h>

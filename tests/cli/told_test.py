@@ -60,7 +60,7 @@ class Told(ProgramTest):
         self.write(os.path.join(self.root, "palette.gpl"), "x")
         for words, completions in [
             (("sh",), {"show"}), (("show", "--l"), {"--lowercase", "--list"}), (("list", "p"), {"publish", "palette.gpl"} - {"palette.gpl"}),
-            (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help"}),
+            (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help", "--panel"}),
             (("list", "import", "pal"), {"palette.gpl"}), (("palette", "x", "--svg", "pal"), {"palette.gpl"}),
             (("show", "--list", ""), set()), (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}),
         ]:

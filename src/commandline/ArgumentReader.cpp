@@ -1,0 +1,186 @@
+#include "commandline/ArgumentReader.h"
+
+#include "commandline/Descriptions.h"
+#include "listformats/HarmlessLine.h"
+
+#include <algorithm>
+
+namespace vantorel {
+namespace {
+
+constexpr std::string_view versionOption = "--version";
+
+/// Takes argument after argument. The first failure counts, unless help or version is asked for.
+class ArgumentReader {
+public:
+    ArgumentReader(const ProgramRow& program, const std::vector<std::string>& arguments)
+        : _program(program),
+          _command(&program.command),
+          _names(program.command.name),
+          _arguments(arguments)
+    {
+    }
+
+    ArgumentReading read()
+    {
+        while (_next < _arguments.size() && !_command->handsOn && _arguments[_next] != "--")
+            take(_arguments[_next++]);
+        if (_wantsHelp) return {{}, helpText(*_command, _names), {}, {}};
+        if (_given.has(versionOption))
+            return {{}, _names + " " + std::string(_program.version) + "\n", {}, {}};
+
+        if (_next < _arguments.size() && !_command->handsOn) ++_next;
+        for (; _next < _arguments.size(); ++_next)
+            _given.operands.push_back(_arguments[_next]);
+        if (_what.empty()) checkOptions();
+        if (_what.empty() && !_command->handsOn) checkOperands();
+        if (!_what.empty()) return {{}, {}, std::move(_what), std::move(_right)};
+        return {std::move(_given), {}, {}, {}};
+    }
+
+private:
+    void fail(const std::string& what, const std::string& right)
+    {
+        if (!_what.empty()) return;
+        _what = what;
+        _right = right;
+    }
+    void fail(const std::string& what)
+    {
+        fail(what, "\"" + _names + " --help\" tells what can be given");
+    }
+
+    void take(const std::string& argument)
+    {
+        if (argument.starts_with('-') && argument != "-") return takeOption(argument);
+        const auto inner =
+            std::find_if(_command->commands.begin(), _command->commands.end(),
+                         [&](const CommandRow& command) { return command.name == argument; });
+        if (inner != _command->commands.end()) return enter(*inner);
+        if (_command->needsCommand()) return fail(quotedText(argument) + " is no command");
+        _given.operands.push_back(argument);
+    }
+
+    void enter(const CommandRow& inner)
+    {
+        const std::string names = _names + " " + std::string(inner.name);
+        // What stands between a command and one of its own belongs to neither.
+        const std::string right = "write it behind \"" + names + "\"";
+        if (!_given.operands.empty())
+            fail(quotedText(_given.operands.front()) + " stands before the command", right);
+        if (!_given.options.empty())
+            fail(std::string(_given.options.front().first) + " stands before the command", right);
+        _command = &inner;
+        _names = names;
+        _given.command.append(_given.command.empty() ? "" : " ").append(inner.name);
+    }
+
+    void takeOption(const std::string& argument)
+    {
+        const std::size_t equals = argument.find('=');
+        const std::string_view name = std::string_view(argument).substr(0, equals);
+        if (argument == "-h" || argument == helpOption.name) {
+            _wantsHelp = true;
+            return;
+        }
+        const auto option = std::find_if(_command->options.begin(), _command->options.end(),
+                                         [&](const OptionRow& row) { return row.name == name; });
+        if (option == _command->options.end())
+            return fail(quotedText(argument) + " does not belong to \"" + _names + "\"");
+        const std::string named(name);
+        std::string value;
+        if (option->value.empty()) {
+            if (equals != std::string::npos) return fail(named + " takes no value");
+        } else if (equals != std::string::npos) {
+            value = argument.substr(equals + 1);
+        } else if (_next < _arguments.size()) {
+            value = _arguments[_next++];
+        } else {
+            return fail(named + " has no value");
+        }
+        if (!option->value.empty() && !option->isRepeatable && _given.has(name))
+            return fail(named + " is given twice");
+        _given.options.emplace_back(option->name, std::move(value));
+    }
+
+    void checkOptions()
+    {
+        for (const OptionRow& option : _command->options) {
+            const std::string name(option.name);
+            if (option.isRequired && !_given.has(option.name)) fail(name + " is required");
+            if (_given.has(option.name) && _given.has(option.excludes))
+                fail(name + " excludes " + std::string(option.excludes));
+            for (const std::string& value : _given.values(option.name))
+                checkChoice(name, value, option.choices);
+        }
+    }
+
+    void checkOperands()
+    {
+        if (_command->needsCommand()) return fail("there is no command");
+        std::size_t begin = 0;
+        for (const OperandRow& operand : _command->operands) {
+            const std::size_t count =
+                std::min(_given.operands.size() - begin,
+                         operand.most == 0 ? std::string::npos : operand.most);
+            if (count < operand.fewest) return fail("there is no " + std::string(operand.value));
+            for (std::size_t i = begin; i < begin + count; ++i)
+                checkChoice(std::string(operand.value), _given.operands[i], operand.choices);
+            begin += count;
+        }
+        if (begin < _given.operands.size())
+            fail(quotedText(_given.operands[begin]) + " is one argument too many");
+    }
+
+    void checkChoice(const std::string& what, const std::string& value, Choices choices)
+    {
+        if (choices == nullptr) return;
+        std::vector<std::string> values;
+        for (const Choice& choice : choices())
+            values.emplace_back(choice.value);
+        if (std::find(values.begin(), values.end(), value) == values.end())
+            fail(what + " is " + quotedText(value), "it can be " + sentenceOf(values));
+    }
+
+    const ProgramRow& _program;
+    const CommandRow* _command;
+    /// As they were typed: "vantorel list export".
+    std::string _names;
+    const std::vector<std::string>& _arguments;
+    std::size_t _next = 0;
+    GivenArguments _given;
+    bool _wantsHelp = false;
+    std::string _what;
+    std::string _right;
+};
+
+}  // namespace
+
+bool GivenArguments::has(std::string_view option) const
+{
+    return std::any_of(options.begin(), options.end(),
+                       [&](const auto& given) { return given.first == option; });
+}
+
+std::optional<std::string> GivenArguments::value(std::string_view option) const
+{
+    const auto found = std::find_if(options.begin(), options.end(),
+                                    [&](const auto& given) { return given.first == option; });
+    if (found == options.end()) return std::nullopt;
+    return found->second;
+}
+
+std::vector<std::string> GivenArguments::values(std::string_view option) const
+{
+    std::vector<std::string> result;
+    for (const auto& [name, value] : options)
+        if (name == option) result.push_back(value);
+    return result;
+}
+
+ArgumentReading readArguments(const ProgramRow& program, const std::vector<std::string>& arguments)
+{
+    return ArgumentReader(program, arguments).read();
+}
+
+}  // namespace vantorel

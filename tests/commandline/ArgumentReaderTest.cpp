@@ -1,0 +1,120 @@
+#include "commandline/ArgumentReader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vantorel {
+namespace {
+
+using testing::ElementsAre;
+using Options = std::vector<std::pair<std::string_view, std::string>>;
+
+std::vector<Choice> sizes()
+{
+    return {{"small", "a few"}, {"large", {}}};
+}
+
+constexpr OperandRow keepOperands[] = {{"THING", "What to keep.", 1, 2}};
+constexpr OptionRow keepOptions[] = {
+    {.name = "--place", .value = "PLACE", .isRequired = true},
+    {.name = "--size", .value = "SIZE", .choices = sizes},
+    {.name = "--tag", .value = "TAG", .isRepeatable = true},
+    {.name = "--dry", .excludes = "--wet"},
+    {.name = "--wet"},
+};
+constexpr OperandRow findOperands[] = {{"THING", "What to find."}};
+constexpr CommandRow findCommands[] = {{.name = "again", .operands = findOperands}};
+constexpr OptionRow findOptions[] = {{.name = "--all"}};
+constexpr CommandRow commands[] = {
+    {.name = "keep", .operands = keepOperands, .options = keepOptions},
+    {.name = "find", .operands = findOperands, .options = findOptions, .commands = findCommands},
+    {.name = "run", .handsOn = true},
+};
+constexpr OptionRow programOptions[] = {{.name = "--version"}};
+constexpr ProgramRow program{
+    .command = {.name = "p", .text = "Things.", .options = programOptions, .commands = commands},
+    .version = "1.2"};
+
+TEST(ArgumentReaderTest, OptionsAndOperandsComeInAnyOrder)
+{
+    const auto reading = readArguments(
+        program, {"keep", "a", "--place=x=y", "--tag", "--dry", "--dry", "--tag", "2", "-"});
+    ASSERT_TRUE(reading.arguments) << reading.what;
+    EXPECT_EQ(reading.arguments->command, "keep");
+    EXPECT_THAT(reading.arguments->operands, ElementsAre("a", "-"));
+    EXPECT_EQ(reading.arguments->options,
+              (Options{{"--place", "x=y"}, {"--tag", "--dry"}, {"--dry", ""}, {"--tag", "2"}}));
+    EXPECT_THAT(reading.arguments->values("--tag"), ElementsAre("--dry", "2"));
+    EXPECT_EQ(reading.arguments->value("--size"), std::nullopt);
+}
+
+TEST(ArgumentReaderTest, WhatFollowsTheMarkIsAnOperand)
+{
+    const auto reading = readArguments(program, {"find", "--all", "--", "again", "--", "--all"});
+    ASSERT_TRUE(reading.arguments);
+    EXPECT_EQ(reading.arguments->command, "find");
+    EXPECT_THAT(reading.arguments->operands, ElementsAre("again", "--", "--all"));
+    EXPECT_EQ(readArguments(program, {"find", "again", "x"}).arguments->command, "find again");
+}
+
+TEST(ArgumentReaderTest, ACommandCanHandOnAllThatFollows)
+{
+    const auto reading = readArguments(program, {"run", "--help", "--", "x"});
+    ASSERT_TRUE(reading.arguments);
+    EXPECT_THAT(reading.arguments->operands, ElementsAre("--help", "--", "x"));
+}
+
+TEST(ArgumentReaderTest, HelpAndVersionComeBeforeMistakes)
+{
+    EXPECT_EQ(readArguments(program, {"--version"}).text, "p 1.2\n");
+    EXPECT_THAT(readArguments(program, {"keep", "--nothing", "-h"}).text,
+                testing::StartsWith("Usage: p keep --place PLACE [OPTION...] THING [THING]\n"));
+    EXPECT_THAT(readArguments(program, {"keep", "--help"}).text,
+                testing::HasSubstr("small (a few) or large."));
+}
+
+struct WrongRow {
+    std::vector<std::string> arguments;
+    const char* what;
+    const char* right;
+};
+
+class WrongArgumentsTest : public testing::TestWithParam<WrongRow> {};
+
+TEST_P(WrongArgumentsTest, AreExplained)
+{
+    const auto reading = readArguments(program, GetParam().arguments);
+    EXPECT_FALSE(reading.arguments);
+    EXPECT_EQ(reading.what, GetParam().what);
+    EXPECT_EQ(reading.right, GetParam().right);
+}
+
+constexpr const char* help = "\"p --help\" tells what can be given";
+constexpr const char* keepHelp = "\"p keep --help\" tells what can be given";
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, WrongArgumentsTest,
+    testing::Values(
+        WrongRow{{}, "there is no command", help},
+        WrongRow{{"--", "keep"}, "there is no command", help},
+        WrongRow{{"kep"}, "\"kep\" is no command", help},
+        WrongRow{{"--place", "x", "keep"}, "\"--place\" does not belong to \"p\"", help},
+        WrongRow{{"keep", "a", "-p"}, "\"-p\" does not belong to \"p keep\"", keepHelp},
+        WrongRow{{"keep", "a", "--place"}, "--place has no value", keepHelp},
+        WrongRow{{"keep", "a", "--dry=1"}, "--dry takes no value", keepHelp},
+        WrongRow{{"keep", "a", "--place=1", "--place=1"}, "--place is given twice", keepHelp},
+        WrongRow{{"keep", "a"}, "--place is required", keepHelp},
+        WrongRow{{"keep", "a", "--place=1", "--wet", "--dry"}, "--dry excludes --wet", keepHelp},
+        WrongRow{
+            {"keep", "a", "--place=1", "--size=x"}, "--size is \"x\"", "it can be small or large"},
+        WrongRow{{"keep", "--place=1"}, "there is no THING", keepHelp},
+        WrongRow{{"keep", "--place=1", "a", "b", "c"}, "\"c\" is one argument too many", keepHelp},
+        WrongRow{{"find", "a", "again"},
+                 "\"a\" stands before the command",
+                 "write it behind \"p find again\""},
+        WrongRow{{"find", "--all", "again"},
+                 "--all stands before the command",
+                 "write it behind \"p find again\""}));
+
+}  // namespace
+}  // namespace vantorel
