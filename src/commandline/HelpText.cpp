@@ -29,7 +29,7 @@ void appendWrapped(std::string& result, std::string_view text, std::size_t colum
     result += '\n';
 }
 
-void appendRow(std::string& result, std::string_view term, std::string_view text)
+void appendHelpRow(std::string& result, std::string_view term, std::string_view text)
 {
     constexpr std::size_t textColumn = 24;
     result.append("  ").append(term);
@@ -61,14 +61,14 @@ std::string helpText(const CommandRow& command, const std::string& names)
     }
     if (!command.operands.empty()) text += "\nArguments:\n";
     for (const OperandRow& operand : command.operands)
-        appendRow(text, formOf(operand), operand.text);
+        appendHelpRow(text, formOf(operand), operand.text);
     if (!command.commands.empty()) text += "\nCommands:\n";
     for (const CommandRow& inner : command.commands)
-        appendRow(text, inner.name, inner.summary());
+        appendHelpRow(text, inner.name, inner.summary());
     text += "\nOptions:\n";
-    appendRow(text, formOf(helpOption), explanationOf(helpOption));
+    appendHelpRow(text, formOf(helpOption), explanationOf(helpOption));
     for (const OptionRow& option : command.options)
-        appendRow(text, formOf(option), explanationOf(option));
+        appendHelpRow(text, formOf(option), explanationOf(option));
     if (!command.commands.empty())
         text += "\n\"" + names + " COMMAND --help\" tells more about a command.\n";
     return text;

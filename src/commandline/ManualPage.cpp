@@ -52,7 +52,7 @@ void appendParagraphs(std::string& page, std::string_view text)
     }
 }
 
-void appendRow(std::string& page, std::string_view term, std::string_view text)
+void appendEntry(std::string& page, std::string_view term, std::string_view text)
 {
     page += ".TP\n.B " + roffText(term) + "\n";
     appendText(page, text);
@@ -61,9 +61,9 @@ void appendRow(std::string& page, std::string_view term, std::string_view text)
 void appendArguments(std::string& page, const CommandRow& command)
 {
     for (const OperandRow& operand : command.operands)
-        appendRow(page, formOf(operand), operand.text);
+        appendEntry(page, formOf(operand), operand.text);
     for (const OptionRow& option : command.options)
-        appendRow(page, formOf(option), explanationOf(option));
+        appendEntry(page, formOf(option), explanationOf(option));
 }
 
 void appendCommands(std::string& page, const CommandRow& command, const std::string& names)
@@ -99,9 +99,9 @@ std::string manualPage(const ProgramRow& program)
     page += "\n.SH DESCRIPTION\n";
     appendParagraphs(page, command.text);
     page += ".SH OPTIONS\n";
-    appendRow(page, formOf(helpOption),
-              command.commands.empty() ? explanationOf(helpOption)
-                                       : "Show help; behind a command, that of the command.");
+    appendEntry(page, formOf(helpOption),
+                command.commands.empty() ? explanationOf(helpOption)
+                                         : "Show help; behind a command, that of the command.");
     appendArguments(page, command);
     if (!command.commands.empty()) {
         page += ".SH COMMANDS\n";
