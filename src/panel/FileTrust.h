@@ -10,10 +10,11 @@ namespace vantorel {
 /// Why somebody whom neither the user nor the administrator trusts could change the file or folder,
 /// or put another one in its place; empty when nobody could, and for what is missing.
 ///
-/// It must belong to one of the two. All users may not write to it, nor to a folder above it unless
-/// that one is sticky, as /tmp is; nor may a group, unless the user is alone in it, or the folder
-/// is the administrator's, who has then chosen the group (Debian's /usr/local belongs to root and
-/// can be written by the group staff).
+/// It must belong to one of the two, or to the owner of this program: in a sandbox, what belongs to
+/// the administrator may appear as an unknown user's. All users may not write to it, nor to a
+/// folder above it unless that one is sticky, as /tmp is; nor may a group, unless the user is alone
+/// in it, or the folder is the administrator's, who has then chosen the group (Debian's /usr/local
+/// belongs to root and can be written by the group staff).
 [[nodiscard]] std::string whyNotTrusted(const std::string& path);
 /// For another user than the one whose program this is.
 [[nodiscard]] std::string whyNotTrusted(const std::string& path, uid_t user);

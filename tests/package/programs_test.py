@@ -4,6 +4,8 @@
     programs_test.py TREE SOURCES BUILD
 """
 import os
+import shutil
+import tempfile
 
 from installedtree import TREE, TreeTest, main
 
@@ -29,6 +31,23 @@ class ProgramsTest(TreeTest):
         self.assertEqual(len(pictures), 3, "each page looks its own way")
         for picture in pictures:
             self.assertTrue(picture.startswith(b"\x89PNG"))
+
+    def test_a_sandbox_in_which_the_administrator_is_unknown_has_the_installed_page(self):
+        """As in a Flatpak that is installed for the whole system."""
+        if os.geteuid() != 0:
+            self.skipTest("it takes root to own what another user runs")
+        visitor = 54321
+        in_sandbox = ["setpriv", f"--reuid={visitor}", f"--regid={visitor}", "--clear-groups",
+                      "unshare", "--user", "--map-current-user"]
+        os.chown(self.scratch, visitor, visitor)
+        if self.run_tool(*in_sandbox, "true").returncode != 0:
+            self.skipTest("user namespaces are not allowed here")
+        tree = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, tree)
+        os.chmod(tree, 0o755)
+        shutil.copytree(TREE, tree, symlinks=True, dirs_exist_ok=True)
+        run = self.run_tool(*in_sandbox, f"{tree}/bin/vantorel-panel", "--page", "hex", "--screenshot", "picture.png")
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
 
     def test_a_page_that_no_plug_in_has_is_refused(self):
         run = self.run_tool(PANEL, "--screenshot", "picture.png", "--page", "tints")
