@@ -206,7 +206,9 @@ int main(int argc, char** argv)
     }
 
     std::optional<DisplayFailure> displayFailure(std::in_place, noDisplay);
-    QApplication application(argc, argv);
+    // Qt gets the program's name alone: it would take --plugin for an option of its own.
+    int qtArguments = 1;
+    QApplication application(qtArguments, argv);
     displayFailure.reset();
     installTranslations(application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
