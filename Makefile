@@ -28,8 +28,8 @@ install: packages-build+run
 deb: packages-build+package
 	@tools/make-deb
 
-test-deb: deb
-	@tests/package/deb-test build/deb
+test-deb: packages-build+package
+	@tests/package/deb-test
 
 bench: packages-build+run+test build
 	@tools/run-benchmarks
