@@ -9,7 +9,9 @@ EVENTS ?= 1000000
 
 .PHONY: run build test install deb test-deb bench endurance fuzz format check coverage screenshots clean
 
-run: build
+run: packages-build+run
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release --target vantorel-panel vantorel
 	@tools/run-panel "$(COLOR)"
 
 build: packages-build+run
@@ -31,7 +33,9 @@ deb: packages-build+package
 test-deb: packages-build+package
 	@tests/package/deb-test
 
-bench: packages-build+run+test build
+bench: packages-build+run+test
+	@cmake --preset release -DVANTOREL_BENCHMARKS=ON > /dev/null
+	@cmake --build --preset release
 	@tools/run-benchmarks
 	@tools/bench-programs
 
@@ -49,10 +53,14 @@ fuzz: packages-build+check
 	@cmake --build --preset fuzz
 	@tools/run-fuzzers $(SECONDS)
 
-endurance: packages-build+run+test build
+endurance: packages-build+run+test
+	@cmake --preset release -DVANTOREL_TESTS=ON > /dev/null
+	@cmake --build --preset release
 	@tools/run-endurance $(EVENTS)
 
-screenshots: packages-build+run+test build
+screenshots: packages-build+run+test
+	@cmake --preset release -DVANTOREL_TESTS=ON > /dev/null
+	@cmake --build --preset release
 	@tools/make-screenshots
 
 # packages-SECTION+SECTION... installs what is missing of these sections of tools/packages.txt.

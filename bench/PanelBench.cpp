@@ -1,5 +1,5 @@
-#include "panel/PanelWindow.h"
-#include "panel/PluginLoader.h"
+#include "panel/window/PanelWindow.h"
+#include "plugins/PluginLoader.h"
 
 #include <QApplication>
 #include <QDir>

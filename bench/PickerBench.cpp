@@ -1,8 +1,8 @@
 #include "BenchLists.h"
-#include "driver/DriverSession.h"
-#include "hosts/headless/MemoryFiles.h"
 #include "hosts/posix/PosixFiles.h"
 #include "settings/SettingsFile.h"
+#include "testing/driver/DriverSession.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <benchmark/benchmark.h>
 

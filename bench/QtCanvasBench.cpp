@@ -1,8 +1,8 @@
 #include "BenchLists.h"
-#include "driver/DriverSession.h"
-#include "hosts/headless/MemoryFiles.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtView.h"
+#include "testing/driver/DriverSession.h"
+#include "testing/headless/MemoryFiles.h"
 #include "view/SliderGeometry.h"
 #include "view/WheelGeometry.h"
 

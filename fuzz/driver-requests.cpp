@@ -1,5 +1,5 @@
 #include "FuzzTexts.h"
-#include "driver/DriverRequests.h"
+#include "testing/driver/DriverRequests.h"
 
 #include <cstdio>
 #include <fstream>

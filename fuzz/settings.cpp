@@ -1,7 +1,7 @@
 #include "FuzzTexts.h"
-#include "hosts/headless/MemoryFiles.h"
 #include "plist/PropertyListReader.h"
 #include "settings/SettingsFile.h"
+#include "testing/headless/MemoryFiles.h"
 
 /// Whatever the settings file holds, the settings that were read from it are written and read back
 /// the same.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/PanelOrder.h"
+#include "panel/bus/PanelOrder.h"
 
 #include <QColor>
 #include <QSize>

@@ -3,7 +3,7 @@
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/QTXHexColorLists.h"
 #include "host/HostText.h"
-#include "hosts/headless/MemoryFiles.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <gtest/gtest.h>
 

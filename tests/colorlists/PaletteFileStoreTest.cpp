@@ -1,8 +1,8 @@
 #include "colorlists/PaletteFileStore.h"
 
 #include "colorlists/PaletteFile.h"
-#include "hosts/headless/MemoryFiles.h"
 #include "hosts/posix/PosixFiles.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 
 #include "EntryTexts.h"
 #include "colorlists/PaletteFile.h"
-#include "hosts/headless/MemoryFiles.h"
 #include "paletteedit/EntryEdits.h"
 #include "paletteedit/PaletteEditor.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "panel/ChangeAnnouncer.h"
+#include "panel/bus/ChangeAnnouncer.h"
 
 #include <gtest/gtest.h>
 

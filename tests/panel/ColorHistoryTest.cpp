@@ -1,4 +1,4 @@
-#include "panel/ColorHistory.h"
+#include "panel/window/ColorHistory.h"
 
 #include <gtest/gtest.h>
 

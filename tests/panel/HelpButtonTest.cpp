@@ -1,4 +1,4 @@
-#include "panel/PanelWindow.h"
+#include "panel/window/PanelWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "PanelWindowFixture.h"
-#include "panel/ColorClipboard.h"
+#include "panel/widgets/ColorClipboard.h"
 
 #include <sys/stat.h>
 

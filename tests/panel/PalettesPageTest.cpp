@@ -1,6 +1,6 @@
 #include "PanelWindowFixture.h"
 #include "ScopedEnvironment.h"
-#include "panel/PalettesPage.h"
+#include "panel/palettes/PalettesPage.h"
 
 #include <gmock/gmock.h>
 

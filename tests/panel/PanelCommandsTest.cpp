@@ -1,6 +1,6 @@
 #include "PanelWindowFixture.h"
 #include "hosts/qt/QtColors.h"
-#include "panel/ColorClipboard.h"
+#include "panel/widgets/ColorClipboard.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -5,7 +5,7 @@
 //     1
 //                                        where that is not whole)
 
-#include "panel/PanelMemory.h"
+#include "panel/window/PanelMemory.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "PanelWindowFixture.h"
-#include "panel/PanelNames.h"
-#include "panel/PanelRequests.h"
+#include "panel/bus/PanelNames.h"
+#include "panel/bus/PanelRequests.h"
 
 #include <QSignalSpy>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "panel/PanelWindow.h"
-#include "panel/PluginLoader.h"
+#include "panel/window/PanelWindow.h"
+#include "plugins/PluginLoader.h"
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@ from gi.repository import Gio, GLib
 from bussession import INTERFACE, NAME, PROPERTIES, RED, BusSession, close_window, eventually, shown_windows, xdotool
 
 PANEL, SCRATCH = os.path.abspath(sys.argv[1]), sys.argv[2]
-DESCRIPTION = os.path.join(os.path.dirname(__file__), "../../src/panel/org.vantorel.ColorPanel1.xml")
+DESCRIPTION = os.path.join(os.path.dirname(__file__), "../../src/panel/bus/org.vantorel.ColorPanel1.xml")
 # Nothing covers the root window there, which is black.
 EMPTY_SPOT = (980, 780)
 

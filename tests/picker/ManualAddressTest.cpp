@@ -1,5 +1,5 @@
-#include "hosts/headless/MemoryFiles.h"
 #include "picker/ManualAddress.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "settings/SettingsFile.h"
 
-#include "hosts/headless/MemoryFiles.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/headless/MemoryFiles.h"
+#include "testing/headless/MemoryFiles.h"
 
 namespace vantorel {
 

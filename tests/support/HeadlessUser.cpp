@@ -1,6 +1,6 @@
 #include "HeadlessUser.h"
 
-#include "hosts/headless/MemoryFiles.h"
+#include "testing/headless/MemoryFiles.h"
 
 #include <array>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Choices.h"
-#include "driver/DriverSession.h"
+#include "testing/driver/DriverSession.h"
 
 namespace vantorel {
 

@@ -1,6 +1,6 @@
 #include "hosts/qt/QtColors.h"
-#include "panel/PanelTheme.h"
-#include "panel/PanelWindow.h"
+#include "panel/widgets/PanelTheme.h"
+#include "panel/window/PanelWindow.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,0 +1,127 @@
+# How targets are made: layers (the folders of src/), programs, and tests.
+
+option(VANTOREL_PRECOMPILED_HEADERS "Parse the headers of the libraries once for all targets" ON)
+
+# _vantorel_precompile(TARGET [QT] [TESTS]): most of a compilation is parsing the headers of the standard
+# library, of Qt and of GoogleTest. They are parsed once for all targets of a kind.
+function(_vantorel_precompile target)
+  cmake_parse_arguments(arg "QT;TESTS" "" "" ${ARGN})
+  if(NOT VANTOREL_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
+    return()
+  endif()
+  set(kind precompiled)
+  set(headers
+    <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <string> <string_view> <utility>
+    <variant> <vector>)
+  set(libraries "")
+  if(arg_QT)
+    string(APPEND kind _qt)
+    list(APPEND headers <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets>)
+    list(APPEND libraries Qt6::Widgets)
+  endif()
+  if(arg_TESTS)
+    string(APPEND kind _tests)
+    list(APPEND headers <gmock/gmock.h> <gtest/gtest.h>)
+    list(APPEND libraries GTest::gtest GTest::gmock)
+  endif()
+  if(NOT TARGET vantorel_${kind})
+    set(source "${CMAKE_BINARY_DIR}/${kind}.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "// Compiled for its precompiled headers.\n")
+    add_library(vantorel_${kind} OBJECT "${source}")
+    target_link_libraries(vantorel_${kind} PRIVATE ${libraries})
+    if(arg_TESTS)
+      # g++ keeps the headers of executables and of libraries apart.
+      set_target_properties(vantorel_${kind} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+      target_compile_options(vantorel_${kind} PRIVATE -fPIE)
+    endif()
+    vantorel_warnings(vantorel_${kind})
+    target_precompile_headers(vantorel_${kind} PRIVATE ${headers})
+  endif()
+  target_precompile_headers(${target} REUSE_FROM vantorel_${kind})
+endfunction()
+
+# vantorel_warnings(TARGET): the warnings that all our code is held to. `make check` makes them errors.
+function(vantorel_warnings target)
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wpedantic -Wnon-virtual-dtor
+    # g++ reports overlaps and overflows in string concatenation that do not exist. The sanitizers
+    # find the real ones.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow>)
+endfunction()
+
+# vantorel_use(TARGET LAYER...): links layers.
+function(vantorel_use target)
+  foreach(layer IN LISTS ARGN)
+    string(REPLACE "/" "_" name "${layer}")
+    if(NOT TARGET vantorel_${name})
+      message(FATAL_ERROR "${target} uses ${layer}, which is not a layer listed above it")
+    endif()
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "STATIC_LIBRARY")
+      target_link_libraries(${target} PUBLIC vantorel_${name})
+    else()
+      target_link_libraries(${target} PRIVATE vantorel_${name})
+    endif()
+  endforeach()
+endfunction()
+
+# vantorel_layer(FOLDER [QT] [USES layer...] [LIBRARIES target...])
+# Makes the static library vantorel_FOLDER ("/" becomes "_") from the sources in src/FOLDER, without those
+# of its sub-folders and without main.cpp. A layer includes headers only of itself and of the layers that
+# USES names; tools/check-layers compares. A CMakeLists.txt in the folder adds what is particular to it.
+function(vantorel_layer folder)
+  cmake_parse_arguments(arg "QT" "" "USES;LIBRARIES" ${ARGN})
+  string(REPLACE "/" "_" name "${folder}")
+  set(target vantorel_${name})
+  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(${target} STATIC ${sources})
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>")
+  vantorel_use(${target} ${arg_USES})
+  target_link_libraries(${target} PUBLIC ${arg_LIBRARIES})
+  vantorel_warnings(${target})
+  if(arg_QT)
+    target_link_libraries(${target} PUBLIC Qt6::Widgets)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    _vantorel_precompile(${target} QT)
+  else()
+    _vantorel_precompile(${target})
+  endif()
+  if(EXISTS "${PROJECT_SOURCE_DIR}/src/${folder}/CMakeLists.txt")
+    add_subdirectory("${PROJECT_SOURCE_DIR}/src/${folder}" "${PROJECT_BINARY_DIR}/src/${folder}")
+  endif()
+endfunction()
+
+# vantorel_program(NAME SOURCES file... [USES layer...] [LIBRARIES target...])
+function(vantorel_program name)
+  cmake_parse_arguments(arg "" "" "SOURCES;USES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  vantorel_use(${name} ${arg_USES})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+  vantorel_warnings(${name})
+endfunction()
+
+# vantorel_test(NAME [QT] [SOURCES file...] USES layer...)
+# Makes NAME-test from the folder's *Test.cpp and the files that SOURCES names besides; each of its
+# tests becomes a CTest test. With QT there is a QApplication without a screen, with a home of its own.
+function(vantorel_test name)
+  cmake_parse_arguments(arg "QT" "" "SOURCES;USES" ${ARGN})
+  set(target ${name}-test)
+  file(GLOB sources CONFIGURE_DEPENDS "*Test.cpp")
+  list(APPEND sources ${arg_SOURCES})
+  if(arg_QT)
+    list(APPEND sources "${PROJECT_SOURCE_DIR}/tests/hosts/qt/QtTestMain.cpp")
+  endif()
+  vantorel_program(${target} SOURCES ${sources} USES ${arg_USES} LIBRARIES GTest::gtest GTest::gmock)
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support")
+  if(arg_QT)
+    target_link_libraries(${target} PRIVATE Qt6::Test)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    _vantorel_precompile(${target} QT TESTS)
+    gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  else()
+    target_link_libraries(${target} PRIVATE GTest::gtest_main)
+    _vantorel_precompile(${target} TESTS)
+    gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST)
+  endif()
+endfunction()

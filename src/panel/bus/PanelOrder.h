@@ -1,0 +1,47 @@
+#pragma once
+
+#include "panel/bus/ActivationToken.h"
+
+#include <QString>
+
+#include <optional>
+#include <variant>
+
+namespace vantorel {
+
+/// What a start of the program wants from the panel, be it one that runs already or its own.
+struct PanelOrder {
+    enum class Step {
+        /// Show the window.
+        show,
+        /// Pick a colour from the screen; the window stays as it is.
+        pick,
+        pickAndCopy,
+        /// Copy the panel's colour; the window stays as it is.
+        copy,
+    };
+
+    Step step = Step::show;
+    /// The colour to have first, as a CSS text.
+    std::optional<QString> color;
+    /// For `copy`: the name of a form in `PanelWindow::colorTexts`, or empty for what a drag
+    /// carries.
+    QString form;
+    ActivationToken token;
+};
+
+/// Why the panel has not done what it was asked to.
+struct PanelRefusal {
+    enum class Kind { notAColor, noSuchForm, cancelled, notPossible };
+
+    Kind kind = Kind::notPossible;
+    /// One sentence for the user.
+    QString sentence;
+
+    bool operator==(const PanelRefusal&) const = default;
+};
+
+/// A text, such as the colour picked or what was copied, which may be empty; or why there is none.
+using PanelAnswer = std::variant<QString, PanelRefusal>;
+
+}  // namespace vantorel

@@ -1,0 +1,170 @@
+#include "panel/bus/PanelRequests.h"
+
+#include "csscolor/CSSColorReader.h"
+#include "csscolor/CSSColorWriter.h"
+#include "hosts/qt/QtColors.h"
+#include "panel/bus/ClipboardTurn.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+#include <algorithm>
+#include <utility>
+
+namespace vantorel {
+namespace {
+
+/// No text that is a colour is longer.
+constexpr qsizetype longestColorText = 4096;
+constexpr qsizetype longestShownText = 40;
+
+QString hexCode(const HostColor& color)
+{
+    return qStringFrom(hexText(color).value_or(std::u16string()));
+}
+
+}  // namespace
+
+PanelRequests::PanelRequests(PanelWindow& window) : _window(window)
+{
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
+            &PanelRequests::lookWhetherNothingIsLeft);
+}
+
+void PanelRequests::show(const ActivationToken& token)
+{
+    bringToFront(_window, token);
+}
+
+PanelAnswer PanelRequests::setColor(const QString& text)
+{
+    using Kind = PanelRefusal::Kind;
+    if (text.size() > longestColorText)
+        return PanelRefusal{Kind::notAColor, tr("That is a long text, not a colour.")};
+    const CSSColorReading reading = readCSSColor(u16From(text));
+    if (!reading.color) return PanelRefusal{Kind::notAColor, qStringFrom(reading.error)};
+    _window.chooseColor(reading.color->color);
+    if (reading.color->wasOutsideSRGB) {
+        _window.showRemark(tr("%1 is outside sRGB; this is the nearest colour inside.")
+                               .arg(text.trimmed().left(longestShownText)));
+    }
+    return QString();
+}
+
+QString PanelRequests::color() const
+{
+    return hexCode(_window.chosenHostColor());
+}
+
+void PanelRequests::pick(bool copies, Done done)
+{
+    ++_underWay;
+    const auto take = [this, copies, done = std::move(done)](const ScreenPickResult& result) {
+        using Outcome = ScreenPickResult::Outcome;
+        using Kind = PanelRefusal::Kind;
+        if (result.outcome == Outcome::notPossible) {
+            finish(done, PanelRefusal{Kind::notPossible, result.reason});
+        } else if (result.outcome == Outcome::cancelled) {
+            finish(done, PanelRefusal{Kind::cancelled, tr("Nothing was picked.")});
+        } else if (copies) {
+            putOnClipboard({},
+                           [this, done, picked = hexCode(result.color)](const PanelAnswer& copied) {
+                               const bool failed = std::holds_alternative<PanelRefusal>(copied);
+                               finish(done, failed ? copied : PanelAnswer(picked));
+                           });
+        } else {
+            finish(done, hexCode(result.color));
+        }
+    };
+    _window.pickFromScreen(false, take);
+}
+
+void PanelRequests::cancelPick()
+{
+    _window.cancelPick();
+}
+
+void PanelRequests::copy(const QString& form, Done done)
+{
+    ++_underWay;
+    putOnClipboard(
+        form, [this, done = std::move(done)](const PanelAnswer& answer) { finish(done, answer); });
+}
+
+void PanelRequests::putOnClipboard(const QString& form, const Done& done)
+{
+    const auto texts = _window.colorTexts();
+    const auto chosen = std::find_if(texts.begin(), texts.end(), [&](const HostColorText& text) {
+        return qStringFrom(text.name) == form;
+    });
+    if (!form.isEmpty() && chosen == texts.end()) {
+        QStringList names;
+        for (const HostColorText& text : texts)
+            names.append(qStringFrom(text.name));
+        done(PanelRefusal{PanelRefusal::Kind::noSuchForm,
+                          tr("\"%1\" is no form of a colour; there are: %2.")
+                              .arg(form.left(longestShownText), names.join(QStringLiteral(", ")))});
+        return;
+    }
+    const QString text = form.isEmpty() ? QString() : qStringFrom(chosen->text);
+    whenClipboardIsOurTurn(_window, *this, [this, form, text, done](bool isOurTurn) {
+        if (!isOurTurn) {
+            done(PanelRefusal{PanelRefusal::Kind::notPossible,
+                              tr("The desktop lets only the window in front copy, and has not "
+                                 "brought the panel there.")});
+            return;
+        }
+        if (form.isEmpty()) {
+            _window.copyColor();
+        } else {
+            _window.copyText(text);
+        }
+        done(QApplication::clipboard()->text());
+    });
+}
+
+void PanelRequests::carryOut(const PanelOrder& order, Done done)
+{
+    if (order.color) {
+        const PanelAnswer answer = setColor(*order.color);
+        if (std::holds_alternative<PanelRefusal>(answer)) {
+            done(answer);
+            return;
+        }
+    }
+    switch (order.step) {
+        case PanelOrder::Step::show:
+            show(order.token);
+            done(QString());
+            return;
+        case PanelOrder::Step::pick:
+            pick(false, std::move(done));
+            return;
+        case PanelOrder::Step::pickAndCopy:
+            pick(true, std::move(done));
+            return;
+        case PanelOrder::Step::copy:
+            copy(order.form, std::move(done));
+            return;
+    }
+}
+
+void PanelRequests::finish(const Done& done, const PanelAnswer& answer)
+{
+    --_underWay;
+    done(answer);
+    lookWhetherNothingIsLeft();
+}
+
+bool PanelRequests::isNothingLeft() const
+{
+    const bool copied = QApplication::clipboard()->ownsClipboard();
+    return !_window.isVisible() && _underWay == 0 && !copied;
+}
+
+void PanelRequests::lookWhetherNothingIsLeft()
+{
+    if (isNothingLeft()) emit nothingLeft();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,91 @@
+#include "panel/bus/RunningPanel.h"
+
+#include "panel/bus/PanelNames.h"
+
+#include <QDBusError>
+
+#include <limits>
+
+namespace vantorel {
+namespace {
+
+constexpr int withoutLimit = std::numeric_limits<int>::max();
+
+RunningPanel::Contact contactAfter(const QDBusMessage& error)
+{
+    using Contact = RunningPanel::Contact;
+    if (error.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner"))
+        return Contact::none;
+    switch (QDBusError(error).type()) {
+        case QDBusError::NoReply:
+        case QDBusError::Timeout:
+        case QDBusError::TimedOut:
+            return Contact::noAnswer;
+        case QDBusError::ServiceUnknown:
+        case QDBusError::Disconnected:
+            return Contact::none;
+        default:
+            return Contact::notAPanel;
+    }
+}
+
+QVariantMap platformData(const ActivationToken& token)
+{
+    QVariantMap data;
+    if (!token.activationToken.isEmpty())
+        data.insert(activationTokenKey, QString::fromUtf8(token.activationToken));
+    if (!token.startupID.isEmpty()) data.insert(startupIDKey, QString::fromUtf8(token.startupID));
+    return data;
+}
+
+}  // namespace
+
+RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList& arguments,
+                                       int timeout) const
+{
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(panelBusName, panelObjectPath, panelInterface, member);
+    message.setArguments(arguments);
+    // Without a panel this start becomes the panel.
+    message.setAutoStartService(false);
+    const QDBusMessage reply = _bus.call(message, QDBus::Block, timeout);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return {Contact::made, reply.arguments().value(0).toString()};
+    if (const auto kind = refusalKindFor(reply.errorName()))
+        return {Contact::made, PanelRefusal{*kind, reply.errorMessage()}};
+    return {contactAfter(reply), {}};
+}
+
+RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
+{
+    using Step = PanelOrder::Step;
+    if (!_bus.isConnected()) return {};
+    // A pick cannot tell a user who takes long from a panel that hangs.
+    Reply reply = order.color ? call(QStringLiteral("SetColor"), {*order.color})
+                              : call(QStringLiteral("GetColor"), {});
+    if (reply.contact != Contact::made || std::holds_alternative<PanelRefusal>(reply.answer))
+        return reply;
+    switch (order.step) {
+        case Step::show:
+            return call(QStringLiteral("Activate"), {platformData(order.token)});
+        case Step::pick:
+        case Step::pickAndCopy:
+            return call(QStringLiteral("Pick"), {order.step == Step::pickAndCopy}, withoutLimit);
+        case Step::copy:
+            return call(QStringLiteral("Copy"), {order.form});
+    }
+    return reply;
+}
+
+QString RunningPanel::remarkOn(Contact contact)
+{
+    if (contact == Contact::noAnswer)
+        return tr("The panel that runs already does not answer; this one is another.");
+    if (contact == Contact::notAPanel)
+        return tr("Another program has the name %1 on the session bus: other programs cannot reach "
+                  "this panel.")
+            .arg(panelBusName);
+    return {};
+}
+
+}  // namespace vantorel

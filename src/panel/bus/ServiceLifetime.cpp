@@ -1,0 +1,38 @@
+#include "panel/bus/ServiceLifetime.h"
+
+#include <QCoreApplication>
+
+#include <chrono>
+
+namespace vantorel {
+
+/// A script that makes one call after the other finds the same panel.
+constexpr std::chrono::seconds patience{10};
+
+ServiceLifetime::ServiceLifetime(PanelService& service, const PanelRequests& requests)
+    : _service(service), _requests(requests)
+{
+    _timer.setSingleShot(true);
+    _timer.setInterval(patience);
+    const auto wait = qOverload<>(&QTimer::start);
+    connect(&_timer, &QTimer::timeout, this, &ServiceLifetime::endIfUnused);
+    connect(&service, &PanelService::called, &_timer, wait);
+    connect(&requests, &PanelRequests::nothingLeft, &_timer, wait);
+    _timer.start();
+}
+
+void ServiceLifetime::endIfUnused()
+{
+    if (!_requests.isNothingLeft()) return;
+    // A call that is on its way must not be lost: what the bus has sent before it took the name
+    // back is here by then, and what comes later starts another panel.
+    _service.releaseName();
+    QCoreApplication::processEvents();
+    if (_requests.isNothingLeft()) {
+        emit ended();
+    } else {
+        _service.waitForName();
+    }
+}
+
+}  // namespace vantorel

@@ -1,0 +1,113 @@
+#include "panel/widgets/ColorWell.h"
+
+#include "hosts/qt/QtColors.h"
+#include "panel/widgets/ColorClipboard.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace vantorel {
+namespace {
+
+constexpr int checkSize = 5;
+
+void paintCheckers(QPainter& painter, const QRect& place)
+{
+    painter.fillRect(place, Qt::white);
+    for (int y = place.top(); y <= place.bottom(); y += checkSize) {
+        for (int x = place.left(); x <= place.right(); x += checkSize) {
+            const int parity = (x - place.left()) / checkSize + (y - place.top()) / checkSize;
+            if (parity % 2 == 0) continue;
+            painter.fillRect(QRect(x, y, checkSize, checkSize).intersected(place),
+                             QColor(190, 190, 190));
+        }
+    }
+}
+
+}  // namespace
+
+ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent)
+{
+    setAccessibleName(name);
+    setAcceptDrops(true);
+    setColor(_color);
+}
+
+void ColorWell::setColor(const HostColor& color)
+{
+    _color = color;
+    const QColor shown = qColorFrom(color);
+    const QString alpha = shown.alpha() == 255
+                              ? QString()
+                              : QStringLiteral(", %1 %").arg(qRound(shown.alphaF() * 100));
+    const QString text = shown.name().toUpper() + alpha;
+    setToolTip(accessibleName() + QStringLiteral(": ") + text);
+    setAccessibleDescription(text);
+    update();
+}
+
+void ColorWell::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRect inside = rect().adjusted(1, 1, -1, -1);
+    const QColor color = qColorFrom(_color);
+    QRect right = inside;
+    right.setLeft(inside.center().x());
+    paintCheckers(painter, right);
+    painter.fillRect(inside, color);
+    QColor opaque = color;
+    opaque.setAlpha(255);
+    painter.fillRect(QRect(inside.topLeft(), QPoint(right.left() - 1, inside.bottom())), opaque);
+    painter.setPen(QPen(palette().color(_dropIsNear ? QPalette::Highlight : QPalette::Mid),
+                        _dropIsNear ? 3 : 1));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void ColorWell::mousePressEvent(QMouseEvent* event)
+{
+    _pressedAt = event->position().toPoint();
+}
+
+void ColorWell::mouseMoveEvent(QMouseEvent* event)
+{
+    const int distance = (event->position().toPoint() - _pressedAt).manhattanLength();
+    if ((event->buttons() & Qt::LeftButton) == 0 || distance < QApplication::startDragDistance()) {
+        return;
+    }
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeDataFromColor(_color).release());
+    drag->setPixmap(grab());
+    drag->exec(Qt::CopyAction);
+}
+
+void ColorWell::setDropIsNear(bool flag)
+{
+    _dropIsNear = flag;
+    update();
+}
+
+void ColorWell::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->source() == this || !mayHoldColor(*event->mimeData())) return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setDropIsNear(true);
+}
+
+void ColorWell::dragLeaveEvent(QDragLeaveEvent*)
+{
+    setDropIsNear(false);
+}
+
+void ColorWell::dropEvent(QDropEvent* event)
+{
+    setDropIsNear(false);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (_dropReaction) _dropReaction(colorFromMimeData(*event->mimeData()));
+}
+
+}  // namespace vantorel

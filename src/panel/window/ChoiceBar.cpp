@@ -1,0 +1,37 @@
+#include "panel/window/ChoiceBar.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QPushButton>
+
+namespace vantorel {
+namespace {
+
+QString withKey(const QString& text, const QKeySequence& key)
+{
+    return QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText));
+}
+
+}  // namespace
+
+ChoiceBar::ChoiceBar(QWidget* parent, const std::function<void()>& choose,
+                     const std::function<void()>& cancel)
+    : QWidget(parent)
+{
+    auto* box = new QDialogButtonBox(this);
+    QPushButton* chooseButton = box->addButton(tr("Choose"), QDialogButtonBox::AcceptRole);
+    QPushButton* cancelButton = box->addButton(QDialogButtonBox::Cancel);
+    // Enter in a text field takes what was typed, so it is not the key that ends the choice there.
+    chooseButton->setAutoDefault(false);
+    cancelButton->setAutoDefault(false);
+    chooseButton->setToolTip(withKey(tr("Choose"), Qt::CTRL | Qt::Key_Return));
+    cancelButton->setToolTip(withKey(cancelButton->text().remove(u'&'), Qt::Key_Escape));
+    connect(box, &QDialogButtonBox::accepted, this, choose);
+    connect(box, &QDialogButtonBox::rejected, this, cancel);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(10, 2, 10, 6);
+    row->addWidget(box);
+}
+
+}  // namespace vantorel

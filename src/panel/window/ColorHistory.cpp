@@ -1,0 +1,68 @@
+#include "panel/window/ColorHistory.h"
+
+#include <algorithm>
+
+namespace vantorel {
+
+void ColorHistory::record(const HostColor& color, double now)
+{
+    _before = State{_steps, _index, _recent, _lastChange, _settled};
+    if (color == current()) return;
+    const bool sameStep = !_settled && now - _lastChange < settlingSeconds && _index > 0;
+    _lastChange = now;
+    _settled = false;
+    _steps.resize(_index + 1, color);
+    if (sameStep) {
+        _steps.back() = color;
+        return;
+    }
+    remember(current());
+    _steps.push_back(color);
+    if (_steps.size() > mostSteps) _steps.erase(_steps.begin());
+    _index = _steps.size() - 1;
+}
+
+void ColorHistory::forgetLast()
+{
+    if (!_before) return;
+    _steps = std::move(_before->steps);
+    _index = _before->index;
+    _recent = std::move(_before->recent);
+    _lastChange = _before->lastChange;
+    _settled = _before->settled;
+    _before.reset();
+}
+
+std::optional<HostColor> ColorHistory::undo()
+{
+    if (!canUndo()) return std::nullopt;
+    _before.reset();
+    _settled = true;
+    return _steps[--_index];
+}
+
+std::optional<HostColor> ColorHistory::redo()
+{
+    if (!canRedo()) return std::nullopt;
+    _before.reset();
+    _settled = true;
+    return _steps[++_index];
+}
+
+void ColorHistory::remember(const HostColor& color)
+{
+    std::erase(_recent, color);
+    _recent.insert(_recent.begin(), color);
+    if (_recent.size() > mostRecent) _recent.resize(mostRecent, color);
+}
+
+void ColorHistory::setRecent(const std::vector<HostColor>& colors)
+{
+    _recent.clear();
+    for (const HostColor& color : colors) {
+        const bool isNew = std::find(_recent.begin(), _recent.end(), color) == _recent.end();
+        if (isNew && _recent.size() < mostRecent) _recent.push_back(color);
+    }
+}
+
+}  // namespace vantorel

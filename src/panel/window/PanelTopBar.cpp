@@ -1,0 +1,116 @@
+#include "panel/window/PanelTopBar.h"
+
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtToolButton.h"
+#include "hosts/qt/TextScale.h"
+#include "panel/widgets/PanelIcons.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+
+#include <chrono>
+
+namespace vantorel {
+namespace {
+
+constexpr int iconPoints = 18;
+constexpr std::chrono::milliseconds remarkTime{6000};
+
+QToolButton* newTopButton(QWidget* parent)
+{
+    auto* button = new QtToolButton(parent);
+    button->setIconSize(QSize(scaled(iconPoints), scaled(iconPoints)));
+    return button;
+}
+
+}  // namespace
+
+PanelTopBar::PanelTopBar(QWidget* parent)
+    : QWidget(parent),
+      _pages(new QButtonGroup(this)),
+      _name(new QLabel(this)),
+      _menuButton(newTopButton(this))
+{
+    setObjectName(QStringLiteral("topBar"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(10, 3, 10, 1);
+    row->setSpacing(2);
+    _pages->setExclusive(true);
+    _name->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    _name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    _name->setTextFormat(Qt::PlainText);
+    _name->setAccessibleDescription(tr("Current page"));
+    _menuButton->setIcon(menuIcon());
+    _menuButton->setToolTip(tr("Commands"));
+    _menuButton->setAccessibleName(tr("Commands"));
+    _menuButton->setPopupMode(QToolButton::InstantPopup);
+    _menuButton->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+    row->addWidget(_name, 1);
+    row->addWidget(_menuButton);
+    _remarkTimer.setSingleShot(true);
+    connect(&_remarkTimer, &QTimer::timeout, this, [this] { showRemark({}); });
+}
+
+void PanelTopBar::addPage(const QIcon& icon, const QString& name, const QString& toolTip)
+{
+    QToolButton* button = newTopButton(this);
+    button->setCheckable(true);
+    button->setIcon(icon);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(name);
+    const int index = static_cast<int>(_pages->buttons().size());
+    _pages->addButton(button, index);
+    static_cast<QHBoxLayout*>(layout())->insertWidget(index, button);
+}
+
+void PanelTopBar::setPageChoice(std::function<void(int)> choice)
+{
+    // Not `idClicked`: assistive technology toggles without a click.
+    connect(_pages, &QButtonGroup::idToggled, this,
+            [choice = std::move(choice)](int id, bool checked) {
+                if (checked) choice(id);
+            });
+}
+
+void PanelTopBar::showPage(int index, const QString& name)
+{
+    _pages->button(index)->setChecked(true);
+    _pageName = name;
+    showName();
+}
+
+void PanelTopBar::setMenu(QMenu& menu)
+{
+    _menuButton->setMenu(&menu);
+}
+
+void PanelTopBar::showRemark(const QString& remark)
+{
+    _remark = remark;
+    if (remark.isEmpty()) {
+        _remarkTimer.stop();
+    } else {
+        _remarkTimer.start(remarkTime);
+        QAccessibleEvent event(_name, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+    showName();
+}
+
+void PanelTopBar::showName()
+{
+    const QString text = _remark.isEmpty() ? _pageName : _remark;
+    _name->setFont(_remark.isEmpty() ? font() : fontOfSize(10));
+    _name->setToolTip(_remark);
+    _name->setAccessibleName(text);
+    _name->setText(_name->fontMetrics().elidedText(text, Qt::ElideRight, _name->width()));
+}
+
+void PanelTopBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    showName();
+}
+
+}  // namespace vantorel

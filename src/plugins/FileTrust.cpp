@@ -1,0 +1,117 @@
+#include "plugins/FileTrust.h"
+
+#include <grp.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace vantorel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr uid_t administrator = 0;
+
+enum class Sticky { counts, doesNotCount };
+
+/// A group that nobody but the user is in, as many systems make one for each user.
+bool isGroupOfTheUserAlone(gid_t group, uid_t user)
+{
+    const struct passwd* account = ::getpwuid(user);
+    if (account == nullptr || account->pw_gid != group) return false;
+    const std::string name = account->pw_name;
+    const struct group* row = ::getgrgid(group);
+    if (row == nullptr || name != row->gr_name) return false;
+    for (char** member = row->gr_mem; *member != nullptr; ++member) {
+        if (name != *member) return false;
+    }
+    return true;
+}
+
+std::string inQuotes(const fs::path& path)
+{
+    return '"' + path.string() + '"';
+}
+
+std::string whyOthersCanWrite(const fs::path& path, const struct stat& status, Sticky sticky,
+                              uid_t user)
+{
+    if (sticky == Sticky::counts && (status.st_mode & S_ISVTX) != 0) return {};
+    if ((status.st_mode & S_IWOTH) != 0)
+        return "all users can write to " + inQuotes(path) + "; \"chmod o-w\" would change that";
+    if ((status.st_mode & S_IWGRP) != 0 && status.st_uid != administrator &&
+        !isGroupOfTheUserAlone(status.st_gid, user))
+        return "a group can write to " + inQuotes(path) + "; \"chmod g-w\" would change that";
+    return {};
+}
+
+/// Whoever owns the program can change what it does, with or without plug-ins.
+uid_t ownerOfThisProgram()
+{
+    struct stat status {};
+    return ::stat("/proc/self/exe", &status) == 0 ? status.st_uid : administrator;
+}
+
+std::string whyOwnerIsNotTrusted(const fs::path& path, const struct stat& status, uid_t user)
+{
+    const uid_t owner = status.st_uid;
+    if (owner == administrator || owner == user || owner == ownerOfThisProgram()) return {};
+    return inQuotes(path) + " belongs to another user";
+}
+
+std::optional<struct stat> statusOf(const fs::path& path)
+{
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+/// Who can write to a folder above can put another one in this one's place. Who owns it is not
+/// asked: it is a matter of where the user keeps things.
+std::string whyFoldersAboveAreNotTrusted(const fs::path& folder, uid_t user)
+{
+    for (fs::path above = folder.parent_path(); !above.empty(); above = above.parent_path()) {
+        if (const auto status = statusOf(above)) {
+            std::string reason = whyOthersCanWrite(above, *status, Sticky::counts, user);
+            if (!reason.empty()) return reason;
+        }
+        if (above == above.parent_path()) break;
+    }
+    return {};
+}
+
+/// The path as it is written and the one that links lead to: each link lies in a folder, too.
+std::vector<fs::path> waysTo(const std::string& path)
+{
+    std::error_code error;
+    std::vector<fs::path> ways{fs::absolute(path, error).lexically_normal()};
+    const fs::path real = fs::canonical(path, error);
+    if (!error && real != ways.front()) ways.push_back(real);
+    return ways;
+}
+
+}  // namespace
+
+std::string whyNotTrusted(const std::string& path)
+{
+    return whyNotTrusted(path, ::geteuid());
+}
+
+std::string whyNotTrusted(const std::string& path, uid_t user)
+{
+    for (const fs::path& way : waysTo(path)) {
+        const auto status = statusOf(way);
+        if (!status) continue;
+        std::string reason = whyOwnerIsNotTrusted(way, *status, user);
+        if (reason.empty()) reason = whyOthersCanWrite(way, *status, Sticky::doesNotCount, user);
+        if (reason.empty()) reason = whyFoldersAboveAreNotTrusted(way, user);
+        if (!reason.empty()) return reason;
+    }
+    return {};
+}
+
+}  // namespace vantorel

@@ -1,0 +1,180 @@
+#include "plugins/PluginLoader.h"
+
+#include "plugins/FileTrust.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace vantorel {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The files in the folder beside the library: `NAME.so` has them in `NAME.resources`.
+class FolderBundle final : public HostBundle {
+public:
+    explicit FolderBundle(const std::string& libraryFile)
+        : _folder(fs::path(libraryFile).replace_extension(".resources"))
+    {
+    }
+
+    [[nodiscard]] std::optional<std::string> resource(const std::string& name) const override
+    {
+        if (!isNameOfOne(name)) return std::nullopt;
+        std::ifstream file(_folder / name, std::ios::binary);
+        if (!file) return std::nullopt;
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    }
+
+    [[nodiscard]] std::optional<std::string> pathOfResource(const std::string& name) const override
+    {
+        if (!isNameOfOne(name)) return std::nullopt;
+        std::error_code error;
+        const fs::path path = fs::absolute(_folder / name, error);
+        if (error || !fs::is_regular_file(path, error)) return std::nullopt;
+        return path.lexically_normal().string();
+    }
+
+private:
+    /// No name leads out of the folder.
+    static bool isNameOfOne(const std::string& name)
+    {
+        return !name.empty() && name.find('/') == std::string::npos;
+    }
+
+    fs::path _folder;
+};
+
+/// The plug-in of a library; null, with a reason, when it has none that fits.
+const HostPlugin* pluginOfLibrary(const std::string& file, std::string& reason)
+{
+    reason = whyNotTrusted(file);
+    if (!reason.empty()) return nullptr;
+    std::error_code error;
+    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
+        // A pipe would keep the panel waiting.
+        reason = "it is no file";
+        return nullptr;
+    }
+    // Never closed: see LoadedPlugin.
+    void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) {
+        const char* message = ::dlerror();
+        reason = message != nullptr ? message : "it cannot be loaded";
+        return nullptr;
+    }
+    const auto* abi = static_cast<const std::uint32_t*>(::dlsym(library, "vantorelPluginABI"));
+    if (abi == nullptr) {
+        reason = "it is no picker plug-in (it lacks vantorelPluginABI)";
+        return nullptr;
+    }
+    if (*abi != hostPluginABI) {
+        reason = "it was built for version " + std::to_string(*abi) +
+                 " of the plug-in interface; this panel has version " +
+                 std::to_string(hostPluginABI);
+        return nullptr;
+    }
+    using Entry = const HostPlugin* (*)();
+    const auto entry = reinterpret_cast<Entry>(::dlsym(library, "vantorelPlugin"));
+    const HostPlugin* plugin = nullptr;
+    try {
+        plugin = entry != nullptr ? entry() : nullptr;
+    } catch (...) {
+        plugin = nullptr;
+    }
+    const bool complete = plugin != nullptr && plugin->identifier != nullptr &&
+                          plugin->displayName != nullptr && plugin->createPicker != nullptr &&
+                          plugin->destroyPicker != nullptr;
+    if (!complete) {
+        reason = "it offers no picker";
+        return nullptr;
+    }
+    return plugin;
+}
+
+std::vector<std::string> librariesIn(const std::string& folder)
+{
+    std::vector<std::string> files;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        if (entry.path().extension() == ".so") files.push_back(entry.path().string());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+void load(const std::string& file, PluginSearch& search)
+{
+    std::string reason;
+    const HostPlugin* plugin = pluginOfLibrary(file, reason);
+    if (plugin == nullptr) {
+        search.problems.push_back(file + " is left out: " + reason);
+        return;
+    }
+    const std::string identifier = plugin->identifier;
+    const auto known = std::find_if(
+        search.plugins.begin(), search.plugins.end(),
+        [&](const LoadedPlugin& other) { return other.plugin().identifier == identifier; });
+    if (known == search.plugins.end()) {
+        search.plugins.emplace_back(*plugin, file);
+    } else if (known->file() != file) {
+        search.problems.push_back(file + " is left out: " + known->file() +
+                                  " is the same plug-in and came first");
+    }
+}
+
+}  // namespace
+
+LoadedPlugin::LoadedPlugin(const HostPlugin& plugin, std::string file)
+    : _plugin(plugin), _file(std::move(file)), _bundle(std::make_unique<FolderBundle>(_file))
+{
+}
+
+LoadedPlugin::Picker LoadedPlugin::makePicker(HostColorPanel& panel, std::string& reason) const
+{
+    HostColorPicker* picker = nullptr;
+    try {
+        picker = _plugin.createPicker(0, panel, *_bundle);
+        if (picker == nullptr) reason = "it made no page";
+    } catch (const std::exception& error) {
+        reason = std::string("it failed while its page was made: ") + error.what();
+    } catch (...) {
+        reason = "it failed while its page was made";
+    }
+    return Picker(picker, {_plugin.destroyPicker});
+}
+
+std::vector<std::string> pluginFolders(const std::string& programFolder,
+                                       const std::string& userDataFolder)
+{
+    std::vector<std::string> folders{
+        (fs::path(programFolder).parent_path() / "lib/vantorel/pickers").string()};
+    if (!userDataFolder.empty()) folders.push_back(userDataFolder + "/Vantorel/Plugins");
+    return folders;
+}
+
+PluginSearch loadPlugins(const std::vector<std::string>& folders,
+                         const std::vector<std::string>& files)
+{
+    PluginSearch search;
+    for (const std::string& folder : folders) {
+        if (const std::string reason = whyNotTrusted(folder); !reason.empty()) {
+            search.problems.push_back(std::string(folder).append(" is left out: ").append(reason));
+            continue;
+        }
+        for (const std::string& file : librariesIn(folder))
+            load(file, search);
+    }
+    for (const std::string& file : files) {
+        // dlopen searches the system's folders for a name without "/".
+        load(fs::absolute(file).string(), search);
+    }
+    return search;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,55 @@
+#include "../../panel/PanelWindowFixture.h"
+#include "../Endurance.h"
+#include "QtUser.h"
+#include "hosts/qt/QtColors.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QPixmapCache>
+#include <QThread>
+
+namespace vantorel {
+namespace {
+
+class QtEnduranceTest : public PanelWindowFixture {};
+
+/// Without those of threads: the toolkit paints large gradients in some, which end when they have
+/// had nothing to do for a while.
+std::vector<std::string> handlesButOfThreads(std::vector<std::string> handles)
+{
+    std::erase(handles, "anon_inode:[eventfd]");
+    return handles;
+}
+
+TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
+{
+    // The toolkit keeps the swatches of past colours up to a limit, which is so far away that a
+    // short run only sees it come nearer.
+    QPixmapCache::setCacheLimit(100);
+    // The first pick from the screen would start the bus connection's thread, which stays.
+    QDBusConnection::sessionBus();
+    constexpr std::uint64_t seed = 20;
+    RandomChoices choices(seed);
+    QtUser user(*_window, choices);
+    const Endurance run = endure(
+        eventsToEndure(5'000), [&] { user.act(); },
+        [&] {
+            // A large window needs much memory.
+            _window->showPage(0);
+            _window->resizeToPage({260, 340});
+            QApplication::processEvents();
+        });
+    // Caches of the toolkit fill in this time, however long it takes: glyphs, sizes of text.
+    EXPECT_LT(run.growth(), 4e6);
+    const std::vector<std::string> handles = handlesButOfThreads(run.handlesAfter);
+    EXPECT_EQ(handles, handlesButOfThreads(run.handlesBefore));
+    // One is the event loop's own, one the bus connection's.
+    EXPECT_LE(run.handlesAfter.size() - handles.size(),
+              2U + static_cast<unsigned>(QThread::idealThreadCount()));
+    _window->showPage(0);
+    _window->chooseColor(hostColorFrom(QColor(0x33, 0x66, 0x99)));
+    EXPECT_EQ(_window->chosenColor(), QColor(0x33, 0x66, 0x99));
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,98 @@
+#include "plugins/PluginLoader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "ScratchFolder.h"
+
+namespace vantorel {
+namespace {
+
+using testing::HasSubstr;
+
+const std::string plugins = VANTOREL_TEST_PLUGINS;
+
+TEST(PluginLoaderTest, OneThatFitsIsLoaded)
+{
+    const auto search = loadPlugins({}, {plugins + "/good-plugin.so"});
+    EXPECT_TRUE(search.problems.empty());
+    ASSERT_EQ(search.plugins.size(), 1U);
+    EXPECT_STREQ(search.plugins.front().plugin().identifier, "good-plugin");
+}
+
+TEST(PluginLoaderTest, OneOfAnotherABIIsNotCalled)
+{
+    const auto search = loadPlugins({}, {plugins + "/other-abi-plugin.so"});
+    EXPECT_TRUE(search.plugins.empty());
+    ASSERT_EQ(search.problems.size(), 1U);
+    EXPECT_THAT(search.problems.front(), HasSubstr("other-abi-plugin.so"));
+    EXPECT_THAT(search.problems.front(), HasSubstr("version " + std::to_string(hostPluginABI + 1)));
+}
+
+TEST(PluginLoaderTest, WhatIsNoPluginIsLeftOutWithItsNameAndAReason)
+{
+    const ScratchFolder folder;
+    const std::string text = folder.pathOf("text.so");
+    std::ofstream(text) << "no library";
+    const auto search = loadPlugins({folder.path().string()}, {"/missing/file.so", "libm.so.6"});
+    EXPECT_TRUE(search.plugins.empty());
+    ASSERT_EQ(search.problems.size(), 3U);
+    EXPECT_THAT(search.problems[0], HasSubstr("text.so is left out: "));
+    EXPECT_THAT(search.problems[1], HasSubstr("/missing/file.so is left out: "));
+}
+
+TEST(PluginLoaderTest, ALibraryWithoutTheSymbolsIsNoPlugin)
+{
+    std::string libm;
+    for (const auto& folder :
+         {"/lib/x86_64-linux-gnu", "/lib64", "/usr/lib", "/lib/aarch64-linux-gnu"}) {
+        const auto path = std::filesystem::path(folder) / "libm.so.6";
+        if (std::filesystem::exists(path)) libm = path.string();
+    }
+    ASSERT_FALSE(libm.empty());
+    const auto search = loadPlugins({}, {libm});
+    ASSERT_EQ(search.problems.size(), 1U);
+    EXPECT_THAT(search.problems.front(), HasSubstr("no picker plug-in"));
+}
+
+TEST(PluginLoaderTest, TheFirstOfTwoEqualOnesCounts)
+{
+    const ScratchFolder folder;
+    const std::string copy = folder.pathOf("copy.so");
+    std::filesystem::copy_file(plugins + "/good-plugin.so", copy);
+    const auto search = loadPlugins({}, {plugins + "/good-plugin.so", copy});
+    ASSERT_EQ(search.plugins.size(), 1U);
+    EXPECT_EQ(search.plugins.front().file(), plugins + "/good-plugin.so");
+    ASSERT_EQ(search.problems.size(), 1U);
+    EXPECT_THAT(search.problems.front(), HasSubstr("came first"));
+}
+
+TEST(PluginLoaderTest, ResourcesAreThoseOfTheFolderBesideTheLibrary)
+{
+    const auto search = loadPlugins({VANTOREL_PICKERS}, {});
+    ASSERT_EQ(search.plugins.size(), 1U);
+    const HostBundle& bundle = search.plugins.front().bundle();
+    EXPECT_TRUE(bundle.resource("QTXHexPick").has_value());
+    EXPECT_FALSE(bundle.resource("missing").has_value());
+    EXPECT_FALSE(bundle.resource("../QTXHexColorPicker.so").has_value());
+    EXPECT_FALSE(bundle.resource("").has_value());
+    EXPECT_EQ(bundle.pathOfResource("QTXHexPick"),
+              VANTOREL_PICKERS "/QTXHexColorPicker.resources/QTXHexPick");
+    for (const char* name : {"missing", "../QTXHexColorPicker.so", "..", ""}) {
+        EXPECT_FALSE(bundle.pathOfResource(name).has_value()) << name;
+    }
+}
+
+TEST(PluginLoaderTest, OwnFolderThenTheUsers)
+{
+    EXPECT_EQ(pluginFolders("/opt/x/bin", "/home/u/.local/share"),
+              (std::vector<std::string>{"/opt/x/lib/vantorel/pickers",
+                                        "/home/u/.local/share/Vantorel/Plugins"}));
+    EXPECT_EQ(pluginFolders("/opt/x/bin", "").size(), 1U);
+}
+
+}  // namespace
+}  // namespace vantorel
