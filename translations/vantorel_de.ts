@@ -348,44 +348,6 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
-    <name>PanelRequests</name>
-    <message>
-        <source>That is a long text, not a colour.</source>
-        <translation>Das ist ein langer Text, keine Farbe.</translation>
-    </message>
-    <message>
-        <source>%1 is outside sRGB; this is the nearest colour inside.</source>
-        <translation>%1 liegt außerhalb von sRGB; dies ist die nächste Farbe darin.</translation>
-    </message>
-    <message>
-        <source>Nothing was picked.</source>
-        <translation>Es wurde nichts aufgenommen.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no form of a colour; there are: %2.</source>
-        <translation>„%1“ ist keine Form einer Farbe; es gibt: %2.</translation>
-    </message>
-    <message>
-        <source>The desktop lets only the window in front copy, and has not brought the panel there.</source>
-        <translation>Der Desktop lässt nur das vorderste Fenster kopieren und hat dieses nicht nach vorn geholt.</translation>
-    </message>
-</context>
-<context>
-    <name>PanelService</name>
-    <message>
-        <source>The panel has lost its name on the session bus: other programs cannot reach it any more.</source>
-        <translation>Das Fenster hat seinen Namen auf dem Sitzungsbus verloren: Andere Programme erreichen es nicht mehr.</translation>
-    </message>
-    <message>
-        <source>The panel was closed.</source>
-        <translation>Das Fenster wurde geschlossen.</translation>
-    </message>
-    <message>
-        <source>The session bus has gone: other programs cannot reach the panel any more.</source>
-        <translation>Der Sitzungsbus ist weg: Andere Programme erreichen das Fenster nicht mehr.</translation>
-    </message>
-</context>
-<context>
     <name>PanelTools</name>
     <message>
         <source>Colour</source>
@@ -717,6 +679,44 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>The file of &quot;%1&quot; had comments or damaged lines. It is kept beside the new one, with a &quot;~&quot; behind its name.</source>
         <translation>Die Datei von „%1“ hatte Kommentare oder beschädigte Zeilen. Sie bleibt neben der neuen, mit „~“ hinter ihrem Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelRequests</name>
+    <message>
+        <source>That is a long text, not a colour.</source>
+        <translation>Das ist ein langer Text, keine Farbe.</translation>
+    </message>
+    <message>
+        <source>%1 is outside sRGB; this is the nearest colour inside.</source>
+        <translation>%1 liegt außerhalb von sRGB; dies ist die nächste Farbe darin.</translation>
+    </message>
+    <message>
+        <source>Nothing was picked.</source>
+        <translation>Es wurde nichts aufgenommen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no form of a colour; there are: %2.</source>
+        <translation>„%1“ ist keine Form einer Farbe; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>The desktop lets only the window in front copy, and has not brought the panel there.</source>
+        <translation>Der Desktop lässt nur das vorderste Fenster kopieren und hat dieses nicht nach vorn geholt.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelService</name>
+    <message>
+        <source>The panel has lost its name on the session bus: other programs cannot reach it any more.</source>
+        <translation>Das Fenster hat seinen Namen auf dem Sitzungsbus verloren: Andere Programme erreichen es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The panel was closed.</source>
+        <translation>Das Fenster wurde geschlossen.</translation>
+    </message>
+    <message>
+        <source>The session bus has gone: other programs cannot reach the panel any more.</source>
+        <translation>Der Sitzungsbus ist weg: Andere Programme erreichen das Fenster nicht mehr.</translation>
     </message>
 </context>
 </TS>
