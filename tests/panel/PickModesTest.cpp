@@ -167,16 +167,21 @@ TEST_F(PickModesTest, AListIsAddedAndRemovedThroughTheSubmenus)
     auto* popUp = child<QWidget>("hexColorsListPopUp");
 
     const auto chooseInSubmenu = [&](const QString& parent, const QString& title) {
+        // Qt 6.8 closes a menu that is clicked before the pointer has moved away from where it was
+        // when the menu opened. Clicks of QTest move no pointer, so it has no place until now.
+        QTest::mouseMove(popUp);
         QTest::mouseClick(popUp, Qt::LeftButton);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
         for (QAction* action : menu->actions()) {
             if (action->text() != parent) continue;
-            action->menu()->popup(popUp->mapToGlobal(QPoint()));
-            for (QAction* item : action->menu()->actions()) {
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+            QMenu* submenu = action->menu();
+            ASSERT_TRUE(QTest::qWaitFor([&] { return submenu->isVisible(); }));
+            for (QAction* item : submenu->actions()) {
                 if (item->text() != title) continue;
-                QTest::mouseClick(action->menu(), Qt::LeftButton, {},
-                                  action->menu()->actionGeometry(item).center());
+                QTest::mouseClick(submenu, Qt::LeftButton, {},
+                                  submenu->actionGeometry(item).center());
                 return;
             }
         }
