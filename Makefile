@@ -30,7 +30,7 @@ install: packages-build+run
 deb: packages-build+package
 	@tools/make-deb
 
-test-deb: packages-build+package
+test-deb: packages-build+package+systems
 	@tests/package/deb-test
 
 bench: packages-build+run+test
