@@ -6,8 +6,8 @@
 #include "cli/Terminal.h"
 #include "csscolor/Contrast.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
+#include "result/HarmlessLine.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,8 +4,8 @@
 #include "cli/Terminal.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
+#include "result/HarmlessLine.h"
 
 #include <array>
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "cli/Failure.h"
 
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <unistd.h>
 

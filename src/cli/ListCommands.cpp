@@ -5,12 +5,12 @@
 #include "colorlists/PaletteFile.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
 #include "listformats/ListFormats.h"
 #include "listformats/ListReader.h"
 #include "listformats/ListTexts.h"
 #include "listformats/PaletteSvg.h"
+#include "result/HarmlessLine.h"
 #include "view/WheelGeometry.h"
 
 #include <unistd.h>

@@ -3,7 +3,7 @@
 #include "cli/Failure.h"
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/posix/SystemCalls.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 #include "cli/PanelProgram.h"
 
 #include "cli/Failure.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -3,7 +3,7 @@
 #include "cli/Publishing.h"
 #include "cli/Terminal.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 namespace vantorel {
 namespace {

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Failure.h"
 
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 #include "settings/SettingsFile.h"
 
 namespace vantorel {

@@ -3,7 +3,7 @@
 #include "cli/Failure.h"
 #include "cli/LineReader.h"
 #include "csscolor/Contrast.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <unistd.h>
 

@@ -3,7 +3,7 @@
 #include "cli/Failure.h"
 #include "colorlists/QTXHexColorLists.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "commandline/ArgumentReader.h"
 
 #include "commandline/Descriptions.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
+#include "result/HarmlessLine.h"
 
 #include <unordered_map>
 

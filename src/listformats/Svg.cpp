@@ -3,7 +3,7 @@
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorWriter.h"
 #include "host/HostText.h"
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 #include "view/ViewColors.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "cli/ColorReport.h"
 
 #include "cli/Failure.h"
-#include "listformats/HarmlessLine.h"
 #include "listformats/Json.h"
+#include "result/HarmlessLine.h"
 
 #include <gtest/gtest.h>
 

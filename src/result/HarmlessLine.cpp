@@ -1,4 +1,4 @@
-#include "listformats/HarmlessLine.h"
+#include "result/HarmlessLine.h"
 
 #include "host/HostText.h"
 

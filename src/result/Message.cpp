@@ -1,0 +1,72 @@
+#include "result/Message.h"
+
+#include "host/HostText.h"
+#include "result/HarmlessLine.h"
+
+namespace vantorel {
+namespace {
+
+std::string untranslated(const char* text)
+{
+    return text;
+}
+
+}  // namespace
+
+Phrase::Phrase(const char* text, std::vector<PhraseArgument> arguments)
+    : _text(text), _arguments(std::move(arguments))
+{
+}
+
+std::string Phrase::inWords(Translate translate) const
+{
+    if (isEmpty()) return {};
+    const std::string text = translate(_text);
+    std::string words;
+    // In one go, because an argument may hold what looks like a place.
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPlace =
+            text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9';
+        const auto index = isPlace ? static_cast<std::size_t>(text[i + 1] - '1') : std::size_t{0};
+        // A translation may be wrong about its places.
+        if (!isPlace || index >= _arguments.size()) {
+            words += text[i];
+            continue;
+        }
+        words += _arguments[index].inWords(translate);
+        ++i;
+    }
+    return words;
+}
+
+bool Phrase::operator==(const Phrase& other) const
+{
+    return std::string_view(_text) == other._text && _arguments == other._arguments;
+}
+
+PhraseArgument::PhraseArgument(InUtf16, std::u16string_view text) : _value(utf8FromUtf16(text)) {}
+
+std::string PhraseArgument::inWords(Phrase::Translate translate) const
+{
+    if (const auto* phrase = std::get_if<Phrase>(&_value)) return phrase->inWords(translate);
+    return harmlessLine(std::get<std::string>(_value));
+}
+
+Phrase verbatim(std::string_view text)
+{
+    return {"%1", {text}};
+}
+
+std::string english(const Phrase& phrase)
+{
+    return phrase.inWords(untranslated);
+}
+
+std::string english(const Message& message)
+{
+    std::string words = english(message.what);
+    if (!message.remedy.isEmpty()) words.append("; ").append(english(message.remedy));
+    return words;
+}
+
+}  // namespace vantorel
