@@ -46,7 +46,7 @@ function(vantorel_warnings target)
     -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wpedantic -Wnon-virtual-dtor
     # g++ reports overlaps and overflows in string concatenation that do not exist. The sanitizers
     # find the real ones.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow>)
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread>)
 endfunction()
 
 # vantorel_use(TARGET LAYER...): links layers.

@@ -112,9 +112,8 @@ std::optional<std::u16string> rgbText(const HostColor& color)
     const auto fractions = fractionsOf(color);
     if (!fractions) return std::nullopt;
     const bool opaque = byteOf(fractions->alpha) == opaqueByte;
-    std::u16string text;
+    std::u16string text = opaque ? u"rgb(" : u"rgba(";
     text.reserve(std::size("rgba(255, 255, 255, 0.999)"));
-    text += opaque ? u"rgb(" : u"rgba(";
     for (std::size_t i = 0; i < 3; ++i) {
         if (i > 0) text += u", ";
         appendByte(text, byteOf(fractions->srgb[i]));
