@@ -1,4 +1,4 @@
-# The everyday commands. What builds is CMake's business: see CMakePresets.json.
+# Everyday commands. CMakePresets.json has the build settings.
 PRESETS ?= release sanitize
 COLOR ?= \#ff8000
 
@@ -21,7 +21,7 @@ build: packages-build+run
 test: packages-build+run+test
 	@tools/run-tests $(PRESETS)
 
-# DESTDIR=FOLDER installs below a folder, for a tree that goes elsewhere.
+# DESTDIR=FOLDER installs below that folder, for building packages.
 install: packages-build+run
 	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" > /dev/null
 	@cmake --build --preset release --target vantorel-descriptions vantorel-panel-descriptions
@@ -63,7 +63,7 @@ screenshots: packages-build+run+test
 	@cmake --build --preset release
 	@tools/make-screenshots
 
-# packages-SECTION+SECTION... installs what is missing of these sections of tools/packages.txt.
+# packages-SECTION+SECTION... installs the missing packages of these sections of tools/packages.txt.
 packages-%:
 	@tools/install-packages $(subst +, ,$*)
 

@@ -1,6 +1,6 @@
-# Static checks as a part of the build: each file goes through clang-tidy when it is compiled, so a
-# second run looks only at what has changed. The preset "check" switches it on.
-option(VANTOREL_CLANG_TIDY "Let clang-tidy look at each file that is compiled" OFF)
+# Runs clang-tidy on each file as it is compiled, so that a second run checks only changed files. The
+# preset "check" enables it.
+option(VANTOREL_CLANG_TIDY "Run clang-tidy on each compiled file" OFF)
 
 if(VANTOREL_CLANG_TIDY)
   find_program(VANTOREL_CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
@@ -11,8 +11,8 @@ if(VANTOREL_CLANG_TIDY)
     string(APPEND digests ${digest})
   endforeach()
   string(MD5 digest "${digests}")
-  # A changed command makes a file be looked at again, so the choice of checks is part of it.
+  # The digest is part of the command line, so that changing the checks re-runs them on every file.
   set(CMAKE_CXX_CLANG_TIDY "${VANTOREL_CLANG_TIDY_PROGRAM}" --quiet --extra-arg=-DVANTOREL_CHECKS_${digest})
-  # What is generated is not ours to mend. A choice of no check at all is an error.
+  # Generated files are not checked. clang-tidy rejects an empty list, so one harmless check stays enabled.
   file(WRITE "${CMAKE_BINARY_DIR}/.clang-tidy" "Checks: '-*,llvm-twine-local'\n")
 endif()

@@ -1,8 +1,8 @@
-# Manual pages and completions, as `vantorel` prints them from its tables of both programs.
+# Manual pages and completions. `vantorel` generates them from its tables of both programs' arguments.
 include(GNUInstallDirs)
 
-# vantorel_describe(PROGRAM [OPTION...]): writes and installs the page and the completions of a
-# program. The options say which program to `vantorel`.
+# vantorel_describe(PROGRAM [OPTION...]): generates and installs the manual page and the completions of a
+# program. OPTION... select the program on `vantorel`'s command line.
 function(vantorel_describe program)
   set(folder "${CMAKE_CURRENT_BINARY_DIR}/descriptions")
   set(page "${folder}/${program}.1")

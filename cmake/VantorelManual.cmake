@@ -1,12 +1,12 @@
-# The user's manual: which files it has, and the address that the help button opens.
+# The user's manual: its files, and the address that the help button opens.
 include(GNUInstallDirs)
 
 set(VANTOREL_MANUAL_FOLDER "${PROJECT_SOURCE_DIR}/docs/manual")
 set(VANTOREL_MANUAL_PAGE supportManual.htm)
 file(GLOB VANTOREL_MANUAL_PICTURES CONFIGURE_DEPENDS "${VANTOREL_MANUAL_FOLDER}/pictures/*.png")
 
-# _vantorel_file_url(PATH OUT): the address of a file, with what an address cannot hold escaped byte
-# by byte.
+# _vantorel_file_url(PATH OUT): sets OUT to the file:// address of a path. Bytes that an address cannot
+# contain are escaped.
 function(_vantorel_file_url path out)
   string(HEX "${path}" hex)
   string(REGEX MATCHALL ".." bytes "${hex}")
@@ -30,9 +30,9 @@ endfunction()
 
 _vantorel_file_url("${CMAKE_INSTALL_FULL_DATADIR}/doc/vantorel/${VANTOREL_MANUAL_PAGE}" installed_manual_url)
 set(VANTOREL_MANUAL_URL "" CACHE STRING
-  "Address of the manual that the help button opens, ending in /${VANTOREL_MANUAL_PAGE}; empty for the installed one")
+  "Address of the manual that the help button opens, ending in /${VANTOREL_MANUAL_PAGE}; empty for the installed page")
 
-# The address in force. It is not kept in the cache: another install prefix brings another one.
+# The effective address. It is not cached, because it depends on the install prefix.
 if(VANTOREL_MANUAL_URL STREQUAL "")
   set(VANTOREL_MANUAL_URL_IN_FORCE "${installed_manual_url}")
 else()
@@ -40,8 +40,8 @@ else()
 endif()
 if(NOT VANTOREL_MANUAL_URL_IN_FORCE MATCHES "^[a-z][a-z0-9+.-]*://[!-~]*/supportManual[.]htm$" OR
    VANTOREL_MANUAL_URL_IN_FORCE MATCHES "[\"\\\\]")
-  message(FATAL_ERROR "VANTOREL_MANUAL_URL is \"${VANTOREL_MANUAL_URL_IN_FORCE}\"; it must be an address such as "
-    "https://HOST/${VANTOREL_MANUAL_PAGE}, with blanks and letters beyond ASCII escaped")
+  message(FATAL_ERROR "VANTOREL_MANUAL_URL is \"${VANTOREL_MANUAL_URL_IN_FORCE}\"; set it to an address such as "
+    "https://HOST/${VANTOREL_MANUAL_PAGE}, with spaces and non-ASCII characters escaped")
 endif()
 
 install(FILES "${VANTOREL_MANUAL_FOLDER}/${VANTOREL_MANUAL_PAGE}"

@@ -1,12 +1,11 @@
-# Picker pages as plug-ins of the panel: for our own one, and installed for those of others.
+# Functions that build picker pages as plug-ins. Used for our own page, and installed for third parties.
 
-# Below the install prefix. The panel looks there from its own place.
+# Relative to the install prefix. The panel finds it relative to its own executable.
 set(VANTOREL_PICKERS_FOLDER lib/vantorel/pickers)
 
 # vantorel_add_picker_plugin(NAME SOURCES file... [RESOURCES file...])
-# Makes the plug-in NAME.so from the sources, one of which has the two symbols of
-# host/HostPluginEntry.h. Resources come into the folder NAME.resources beside it, where the plug-in
-# finds them by their names.
+# Builds the plug-in NAME.so. One of the sources must define the two symbols of host/HostPluginEntry.h.
+# Resources are copied into the folder NAME.resources beside it, where the plug-in finds them by name.
 function(vantorel_add_picker_plugin name)
   cmake_parse_arguments(arg "" "" "SOURCES;RESOURCES" ${ARGN})
   if(NOT arg_SOURCES OR arg_UNPARSED_ARGUMENTS)
@@ -14,7 +13,7 @@ function(vantorel_add_picker_plugin name)
   endif()
   add_library(${name} MODULE ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE Vantorel::Picker)
-  # Plug-ins and panel each have their own copy of the host layer, and none may reach for another's.
+  # Panel and plug-ins each have their own copy of the host layer, and must not bind to another copy.
   target_link_options(${name} PRIVATE -Wl,--exclude-libs,ALL)
   set_target_properties(${name} PROPERTIES
     PREFIX ""
@@ -35,7 +34,7 @@ function(vantorel_add_picker_plugin name)
   endif()
 endfunction()
 
-# vantorel_install_picker_plugin(NAME): where an installed panel of the same prefix finds it.
+# vantorel_install_picker_plugin(NAME): installs it where a panel of the same prefix finds it.
 function(vantorel_install_picker_plugin name)
   install(TARGETS ${name} LIBRARY DESTINATION "${VANTOREL_PICKERS_FOLDER}")
   get_target_property(resources ${name} VANTOREL_RESOURCES)

@@ -1,9 +1,10 @@
-# How targets are made: layers (the folders of src/), programs, and tests.
+# Functions that define targets: layers (the folders of src/), programs and tests.
 
-option(VANTOREL_PRECOMPILED_HEADERS "Parse the headers of the libraries once for all targets" ON)
+option(VANTOREL_PRECOMPILED_HEADERS "Parse library headers once for all targets" ON)
 
-# _vantorel_precompile(TARGET [QT] [TESTS]): most of a compilation is parsing the headers of the standard
-# library, of Qt and of GoogleTest. They are parsed once for all targets of a kind.
+# _vantorel_precompile(TARGET [QT] [TESTS]): precompiles the headers of the standard library, and with QT
+# and TESTS those of Qt and GoogleTest. Parsing them is most of the work of a compilation, so all targets
+# of a kind share them.
 function(_vantorel_precompile target)
   cmake_parse_arguments(arg "QT;TESTS" "" "" ${ARGN})
   if(NOT VANTOREL_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
@@ -30,7 +31,7 @@ function(_vantorel_precompile target)
     add_library(vantorel_${kind} OBJECT "${source}")
     target_link_libraries(vantorel_${kind} PRIVATE ${libraries})
     if(arg_TESTS)
-      # g++ keeps the headers of executables and of libraries apart.
+      # g++ rejects a precompiled header whose position-independence flags differ, and tests are executables.
       set_target_properties(vantorel_${kind} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
       target_compile_options(vantorel_${kind} PRIVATE -fPIE)
     endif()
@@ -40,12 +41,11 @@ function(_vantorel_precompile target)
   target_precompile_headers(${target} REUSE_FROM vantorel_${kind})
 endfunction()
 
-# vantorel_warnings(TARGET): the warnings that all our code is held to. `make check` makes them errors.
+# vantorel_warnings(TARGET): enables the warnings for all our code. `make check` makes them errors.
 function(vantorel_warnings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wpedantic -Wnon-virtual-dtor
-    # g++ reports overlaps and overflows in string concatenation that do not exist. The sanitizers
-    # find the real ones.
+    # g++ reports false overlaps and overflows in string concatenation. The sanitizers find real ones.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread>)
 endfunction()
 
@@ -66,9 +66,9 @@ function(vantorel_use target)
 endfunction()
 
 # vantorel_layer(FOLDER [QT] [USES layer...] [LIBRARIES target...])
-# Makes the static library vantorel_FOLDER ("/" becomes "_") from the sources in src/FOLDER, without those
-# of its sub-folders and without main.cpp. A layer includes headers only of itself and of the layers that
-# USES names; tools/check-layers compares. A CMakeLists.txt in the folder adds what is particular to it.
+# Defines the static library vantorel_FOLDER ("/" becomes "_") from the sources in src/FOLDER, without
+# sub-folders and main.cpp. A layer may include only its own headers and those of the layers in USES;
+# tools/check-layers checks it. A CMakeLists.txt in the folder adds targets of its own.
 function(vantorel_layer folder)
   cmake_parse_arguments(arg "QT" "" "USES;LIBRARIES" ${ARGN})
   string(REPLACE "/" "_" name "${folder}")
@@ -102,8 +102,8 @@ function(vantorel_program name)
 endfunction()
 
 # vantorel_test(NAME [QT] [SOURCES file...] USES layer...)
-# Makes NAME-test from the folder's *Test.cpp and the files that SOURCES names besides; each of its
-# tests becomes a CTest test. With QT there is a QApplication without a screen, with a home of its own.
+# Defines the program NAME-test from the folder's *Test.cpp and the additional files in SOURCES. Each of its
+# tests becomes a CTest test. With QT the tests have a QApplication without a screen and a temporary home.
 function(vantorel_test name)
   cmake_parse_arguments(arg "QT" "" "SOURCES;USES" ${ARGN})
   set(target ${name}-test)
