@@ -38,7 +38,7 @@ bool isPainted(xcb_connection_t* x, xcb_window_t window, std::uint16_t width, st
         if (!image) return false;
         const std::uint8_t* bytes = xcb_get_image_data(image.get());
         for (int i = 0; i < xcb_get_image_data_length(image.get()); ++i) {
-            // The fourth byte of a pixel is no colour.
+            // The fourth byte of a pixel is not part of the colour.
             if (i % 4 != 3 && bytes[i] != 0) return true;
         }
         return false;

@@ -55,8 +55,8 @@ private:
     void step()
     {
         _window.repaint();
-        // The page waits for the mouse in a loop of its own, so this is how the benchmark's goes
-        // on.
+        // The page waits for mouse events in its own loop, so the benchmark's loop continues from
+        // here.
         if (_state.KeepRunning()) {
             _row = (_row + 1) % 16;
             send(QEvent::MouseMove);
@@ -111,7 +111,7 @@ BENCHMARK(dragStep)->ArgName("names")->Arg(17)->Arg(216)->Arg(30000)->Unit(bench
 
 int main(int argc, char** argv)
 {
-    // Lists that programs have installed are not part of it.
+    // Lists of installed programs must not affect the benchmark.
     qputenv("XDG_DATA_DIRS", "/nonexistent");
     qputenv("XDG_CONFIG_HOME", "/nonexistent");
     const QApplication application(argc, argv);

@@ -41,7 +41,7 @@ public:
     }
 
     [[nodiscard]] HostRect bounds() { return view().bounds(); }
-    /// The rectangle that the modes draw in.
+    /// The size of the rectangle that the modes draw in, in points.
     [[nodiscard]] HostSize modeSize() { return {bounds().width - 6, bounds().height - 9}; }
     [[nodiscard]] QPainter& painter() { return _painter; }
     [[nodiscard]] const QImage& image() const { return _image; }

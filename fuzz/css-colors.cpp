@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(rgb.has_value());
     for (const double channel : {rgb->red, rgb->green, rgb->blue, rgb->alpha})
         require(channel >= 0 && channel <= 1);
-    // In 8 bits, as the texts keep it: a fraction between two bytes may fall to either side.
+    // Compared in 8 bits, as in the texts: a fraction between two bytes may be rounded either way.
     const HostColor color = readCSSColor(*hexText(reading.color->color)).color->color;
     for (const auto& text : {hexText(color), rgbText(color), hslText(color), oklchText(color)}) {
         const auto again = readCSSColor(*text);

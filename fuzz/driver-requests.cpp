@@ -39,7 +39,7 @@ private:
         _log << request << std::endl;
         const std::string reply = _driver.reply(request);
         require(reply.find('\n') == std::string::npos);
-        // The state of everything is long: seeing that it is JSON costs less than reading it.
+        // Replies can be long: validating the JSON costs less than parsing it.
         require(reply.starts_with(R"({"ok":)"));
         require(Json::accept(reply));
     }
@@ -72,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     const std::string_view bytes = bytesFrom(data, size);
     const std::string_view request = bytes.substr(0, bytes.find('\n'));
-    // A home of the fuzzer's own would be a folder on the disk.
+    // Requests with a home would write to a folder on the disk.
     if (request.find("home") == std::string_view::npos) session.answer(request);
     return 0;
 }

@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     initializeDefaults(files, settings);
     require(!settings.codeSnippets().empty());
     static_cast<void>(settings.codeSnippet());
-    // What was not read leaves the settings of a first start, which are always the same.
+    // Files that cannot be read leave the settings of a first start, which are always the same.
     if (!isWellFormedUtf8(bytes) || !parsePropertyList(utf16FromUtf8(bytes))) return 0;
     writeDefaults(files, settings);
     const auto written = files.contentsAtPath(path);

@@ -48,13 +48,13 @@ public:
 
     void setColor(const std::optional<HostColor>& color) override
     {
-        // Steps of the step that was just taken would run away under the pointer.
+        // The tints of a step just chosen would move under the pointer.
         if (_isTakingStep || !color) return;
-        // A pattern has no tints; what was there stays.
+        // A pattern colour has no tints; keep the previous ones.
         _base = color->calibratedRGB().value_or(_base);
         if (_view) _view->setNeedsDisplay(true);
     }
-    // The view is drawn anew when it has another size, and nothing stands in it.
+    // The view is redrawn when its size changes, and it has no controls to lay out.
     void viewSizeChanged(HostView*) override {}
 
 private:

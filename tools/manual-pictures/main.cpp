@@ -34,7 +34,7 @@ Widget& child(PanelWindow& window, const char* name)
 
 QImage wholeWindow(PanelWindow& window)
 {
-    // Painting places some controls, so what counts is the second look.
+    // Painting places some controls, so the second picture is used.
     window.grab();
     QApplication::processEvents();
     return window.grab().toImage();
@@ -76,7 +76,7 @@ QImage openedMenu(PanelWindow& window, const char* popUp)
 struct Picture {
     const char* name;
     const char* color;
-    /// What the settings file says.
+    /// Contents of the settings file.
     const char* settings;
     std::function<QImage(PanelWindow&)> take;
 };
