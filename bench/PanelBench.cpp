@@ -101,7 +101,7 @@ void dragStep(benchmark::State& state)
     window.show();
     QCoreApplication::processEvents();
     benchmark::IterationCount changes = 0;
-    window.addColorObserver([&](const HostColor&) { ++changes; });
+    QObject::connect(&window.colors(), &PanelColors::colorChanged, [&] { ++changes; });
     Drag(state, window).run();
     if (changes < state.iterations()) state.SkipWithError("a step has changed no colour");
 }

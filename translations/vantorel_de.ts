@@ -2,13 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
-    <name>ChoiceBar</name>
-    <message>
-        <source>Choose</source>
-        <translation>Wählen</translation>
-    </message>
-</context>
-<context>
     <name>ColorClipboard</name>
     <message>
         <source>That is a long text, not a colour.</source>
@@ -24,34 +17,6 @@
     </message>
 </context>
 <context>
-    <name>ContrastLabel</name>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-    <message>
-        <source>Contrast with the background: %1 to 1
-Normal text: AA %2, AAA %3
-Large text: AA %4, AAA %5
-Controls and graphics: AA %6</source>
-        <translation>Kontrast zum Hintergrund: %1 zu 1
-Normaler Text: AA %2, AAA %3
-Großer Text: AA %4, AAA %5
-Bedienelemente und Grafik: AA %6</translation>
-    </message>
-</context>
-<context>
-    <name>DialogPage</name>
-    <message>
-        <source>Colour dialog</source>
-        <translation>Farbdialog</translation>
-    </message>
-</context>
-<context>
     <name>PaletteEntriesView</name>
     <message>
         <source>Colour name</source>
@@ -60,17 +25,6 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Colours of the list</source>
         <translation>Farben der Liste</translation>
-    </message>
-</context>
-<context>
-    <name>PalettesPage</name>
-    <message>
-        <source>Palettes</source>
-        <translation>Paletten</translation>
-    </message>
-    <message>
-        <source>Palettes: edit the lists of named colours</source>
-        <translation>Paletten: die Listen benannter Farben bearbeiten</translation>
     </message>
 </context>
 <context>
@@ -289,128 +243,6 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
-    <name>PanelCommands</name>
-    <message>
-        <source>Pick from the screen</source>
-        <translation>Vom Bildschirm aufnehmen</translation>
-    </message>
-    <message>
-        <source>Pick and copy</source>
-        <translation>Aufnehmen und kopieren</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Copy the hex code</source>
-        <translation>Hex-Code kopieren</translation>
-    </message>
-    <message>
-        <source>Paste a colour</source>
-        <translation>Farbe einfügen</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
-    </message>
-    <message>
-        <source>Swap colour and background</source>
-        <translation>Farbe und Hintergrund tauschen</translation>
-    </message>
-    <message>
-        <source>Next page</source>
-        <translation>Nächste Seite</translation>
-    </message>
-    <message>
-        <source>Previous page</source>
-        <translation>Vorige Seite</translation>
-    </message>
-    <message>
-        <source>Always on top</source>
-        <translation>Immer im Vordergrund</translation>
-    </message>
-    <message>
-        <source>Keyboard shortcuts</source>
-        <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>Beenden</translation>
-    </message>
-    <message>
-        <source>Copy as</source>
-        <translation>Kopieren als</translation>
-    </message>
-</context>
-<context>
-    <name>PanelTools</name>
-    <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-</context>
-<context>
-    <name>PanelTopBar</name>
-    <message>
-        <source>Current page</source>
-        <translation>Aktuelle Seite</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Befehle</translation>
-    </message>
-</context>
-<context>
-    <name>PanelWindow</name>
-    <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
-    </message>
-    <message>
-        <source>A plug-in was left out</source>
-        <translation>Ein Plug-in wurde ausgelassen</translation>
-    </message>
-    <message>
-        <source>%1 plug-ins were left out</source>
-        <translation>%1 Plug-ins wurden ausgelassen</translation>
-    </message>
-    <message>
-        <source>Copied: %1</source>
-        <translation>Kopiert: %1</translation>
-    </message>
-    <message>
-        <source>Choose a colour</source>
-        <translation>Eine Farbe wählen</translation>
-    </message>
-</context>
-<context>
-    <name>PluginPage</name>
-    <message>
-        <source>The page &quot;%1&quot; could not be made. Its interface file is missing or damaged; installing %2 again may help.</source>
-        <translation>Die Seite „%1“ ließ sich nicht aufbauen. Ihre Oberflächendatei fehlt oder ist beschädigt; %2 neu zu installieren kann helfen.</translation>
-    </message>
-</context>
-<context>
-    <name>RecentColors</name>
-    <message>
-        <source>Last colours</source>
-        <translation>Letzte Farben</translation>
-    </message>
-</context>
-<context>
     <name>RunningPanel</name>
     <message>
         <source>The panel that runs already does not answer; this one is another.</source>
@@ -419,13 +251,6 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Another program has the name %1 on the session bus: other programs cannot reach this panel.</source>
         <translation>Ein anderes Programm hat den Namen %1 auf dem Sitzungsbus: Andere Programme erreichen dieses Fenster nicht.</translation>
-    </message>
-</context>
-<context>
-    <name>ShortcutOverlay</name>
-    <message>
-        <source>Keyboard shortcuts</source>
-        <translation>Tastenkürzel</translation>
     </message>
 </context>
 <context>
@@ -682,6 +507,125 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::ChoiceBar</name>
+    <message>
+        <source>Choose</source>
+        <translation>Wählen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorChoice</name>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Eine Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorExchange</name>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ContrastLabel</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Kontrast zum Hintergrund: %1 zu 1
+Normaler Text: AA %2, AAA %3
+Großer Text: AA %4, AAA %5
+Bedienelemente und Grafik: AA %6</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::DialogPage</name>
+    <message>
+        <source>Colour dialog</source>
+        <translation>Farbdialog</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesPage</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletten</translation>
+    </message>
+    <message>
+        <source>Palettes: edit the lists of named colours</source>
+        <translation>Paletten: die Listen benannter Farben bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelCommands</name>
+    <message>
+        <source>Pick from the screen</source>
+        <translation>Vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Pick and copy</source>
+        <translation>Aufnehmen und kopieren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the hex code</source>
+        <translation>Hex-Code kopieren</translation>
+    </message>
+    <message>
+        <source>Paste a colour</source>
+        <translation>Farbe einfügen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Swap colour and background</source>
+        <translation>Farbe und Hintergrund tauschen</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Always on top</source>
+        <translation>Immer im Vordergrund</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Copy as</source>
+        <translation>Kopieren als</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PanelRequests</name>
     <message>
         <source>That is a long text, not a colour.</source>
@@ -717,6 +661,68 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>The session bus has gone: other programs cannot reach the panel any more.</source>
         <translation>Der Sitzungsbus ist weg: Andere Programme erreichen das Fenster nicht mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTools</name>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTopBar</name>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelWindow</name>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>A plug-in was left out</source>
+        <translation>Ein Plug-in wurde ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 plug-ins were left out</source>
+        <translation>%1 Plug-ins wurden ausgelassen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PluginPage</name>
+    <message>
+        <source>The page &quot;%1&quot; could not be made. Its interface file is missing or damaged; installing %2 again may help.</source>
+        <translation>Die Seite „%1“ ließ sich nicht aufbauen. Ihre Oberflächendatei fehlt oder ist beschädigt; %2 neu zu installieren kann helfen.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::RecentColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Letzte Farben</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ShortcutOverlay</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
     </message>
 </context>
 </TS>

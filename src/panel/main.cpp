@@ -9,7 +9,7 @@
 #include "panel/bus/RunningPanel.h"
 #include "panel/bus/ServiceLifetime.h"
 #include "panel/widgets/PanelTheme.h"
-#include "panel/window/PanelWindow.h"
+#include "panel/window/ColorChoice.h"
 #include "plugins/PluginLoader.h"
 
 #include <QApplication>
@@ -42,9 +42,10 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-void sendAction(const PanelWindow& window, const char* name)
+void sendAction(PanelWindow& window, const char* name)
 {
-    if (HostColorPicker* picker = window.currentPicker()) picker->performAction(name, nullptr);
+    if (HostColorPicker* picker = window.pages().currentPicker())
+        picker->performAction(name, nullptr);
 }
 
 /// "#rrggbbaa"
@@ -58,17 +59,18 @@ QString cssNameOf(const QColor& color)
 bool applyOptions(PanelWindow& window, const PanelOptions& options)
 {
     if (options.printColor) {
-        window.addColorObserver(
-            [](const HostColor& color) { print(stdout, cssNameOf(qColorFrom(color)) + u'\n'); });
+        QObject::connect(&window.colors(), &PanelColors::colorChanged, [](const HostColor& color) {
+            print(stdout, cssNameOf(qColorFrom(color)) + u'\n');
+        });
     }
-    const bool hasPage = !options.page || window.showPageWithKey(*options.page);
+    const bool hasPage = !options.page || window.pages().showPageWithKey(*options.page);
     if (!hasPage) {
         print(stderr,
               QStringLiteral("vantorel-panel: --page: there is no page \"%1\"; there are: %2\n")
-                  .arg(*options.page, window.pageKeys().join(QStringLiteral(", "))));
+                  .arg(*options.page, window.pages().keys().join(QStringLiteral(", "))));
     }
     if (options.size) window.resizeToPage(*options.size);
-    if (options.color) window.chooseColor(hostColorFrom(*options.color));
+    if (options.color) window.colors().setColor(hostColorFrom(*options.color));
     if (options.mode == QLatin1String("slider")) sendAction(window, "sliderViewModeAction");
     if (options.mode == QLatin1String("palette")) sendAction(window, "paletteViewModeAction");
     if (options.mode == QLatin1String("wheel")) sendAction(window, "cubeViewModeAction");
@@ -151,15 +153,15 @@ std::optional<int> takePlace(PanelService& service, const RunningPanel& running,
 }
 
 /// Returns the exit status.
-int letUserChoose(PanelWindow& window, PanelMemory recalled)
+int letUserChoose(PanelWindow& window, const ColorChoice& choice, PanelMemory recalled)
 {
     window.show();
     QApplication::exec();
-    if (!window.choice()) return cancelled;
+    if (!choice.text()) return cancelled;
     // It was shown for one colour: beside that colour nothing of the user's own panel changes.
-    recalled.recent = window.memory().recent;
+    recalled.recent = window.colors().recent();
     writePanelMemory(recalled);
-    print(stdout, *window.choice() + u'\n');
+    print(stdout, *choice.text() + u'\n');
     return 0;
 }
 
@@ -243,9 +245,10 @@ int main(int argc, char** argv)
     }
     const PanelMemory recalled = readPanelMemory();
     window.recall(recalled);
-    if (options.choice) window.askForChoice();
+    std::optional<ColorChoice> choice;
+    if (options.choice) choice.emplace(window);
     applyOptions(window, options);
-    if (options.choice) return letUserChoose(window, recalled);
+    if (choice) return letUserChoose(window, *choice, recalled);
 
     PanelRequests requests(window);
     PanelService service(window, requests, QDBusConnection::sessionBus());

@@ -1,5 +1,6 @@
 #include "PanelWindowFixture.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/window/ColorChoice.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -13,9 +14,9 @@ protected:
     void SetUp() override
     {
         PanelWindowFixture::SetUp();
-        _window->askForChoice();
+        _choice.emplace(*_window);
         _window->show();
-        _window->chooseColor(hostColorFrom(QColor(16, 32, 48)));
+        _window->colors().setColor(hostColorFrom(QColor(16, 32, 48)));
     }
 
     QPushButton* button(QDialogButtonBox::ButtonRole role)
@@ -26,20 +27,22 @@ protected:
         }
         return nullptr;
     }
+
+    std::optional<ColorChoice> _choice;
 };
 
 TEST_F(ChoiceTest, IsOpenWhileTheWindowIs)
 {
-    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_EQ(_choice->text(), std::nullopt);
     EXPECT_TRUE(_window->isVisible());
 }
 
 TEST_F(ChoiceTest, TheButtonChoosesWhatIsShown)
 {
     QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
-    EXPECT_EQ(_window->choice(), "#102030");
+    EXPECT_EQ(_choice->text(), "#102030");
     EXPECT_FALSE(_window->isVisible());
-    EXPECT_EQ(_window->memory().recent.front(), hostColorFrom(QColor(16, 32, 48)))
+    EXPECT_EQ(_window->colors().recent().front(), hostColorFrom(QColor(16, 32, 48)))
         << "what was chosen was used";
 }
 
@@ -50,20 +53,20 @@ TEST_F(ChoiceTest, WhatWasTypedAndNotYetEnteredCounts)
     field->selectAll();
     QTest::keyClicks(field, "f80");
     QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
-    EXPECT_EQ(_window->choice(), "#FF8800");
+    EXPECT_EQ(_choice->text(), "#FF8800");
 }
 
 TEST_F(ChoiceTest, TheOtherButtonChoosesNothing)
 {
     QTest::mouseClick(button(QDialogButtonBox::RejectRole), Qt::LeftButton);
-    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_EQ(_choice->text(), std::nullopt);
     EXPECT_FALSE(_window->isVisible());
 }
 
 TEST_F(ChoiceTest, ClosingTheWindowChoosesNothing)
 {
     _window->close();
-    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_EQ(_choice->text(), std::nullopt);
 }
 
 TEST_F(ChoiceTest, EnterInAFieldTakesTheTextAndChoosesNothingYet)
@@ -74,7 +77,7 @@ TEST_F(ChoiceTest, EnterInAFieldTakesTheTextAndChoosesNothingYet)
     QTest::keyClicks(field, "f80");
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_TRUE(_window->isVisible());
-    EXPECT_EQ(_window->chosenColor(), QColor(0xFF, 0x88, 0));
+    EXPECT_EQ(chosenColor(), QColor(0xFF, 0x88, 0));
 }
 
 TEST_F(ChoiceTest, TheFirstEscapeInAFieldTakesTheTypingBackAndTheNextCancels)
@@ -88,14 +91,14 @@ TEST_F(ChoiceTest, TheFirstEscapeInAFieldTakesTheTypingBackAndTheNextCancels)
     EXPECT_TRUE(_window->isVisible());
     QTest::keyClick(field, Qt::Key_Escape);
     EXPECT_FALSE(_window->isVisible());
-    EXPECT_EQ(_window->choice(), std::nullopt);
+    EXPECT_EQ(_choice->text(), std::nullopt);
 }
 
 TEST_F(ChoiceTest, ThePanelsOwnPagesChooseInTheSameForm)
 {
-    ASSERT_TRUE(_window->showPageWithKey("dialog"));
+    ASSERT_TRUE(_window->pages().showPageWithKey("dialog"));
     QTest::keyClick(_window.get(), Qt::Key_Return);
-    EXPECT_EQ(_window->choice(), "#102030");
+    EXPECT_EQ(_choice->text(), "#102030");
 }
 
 TEST_F(ChoiceTest, NothingOfThePageIsHiddenByTheButtons)

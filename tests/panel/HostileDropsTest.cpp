@@ -74,15 +74,15 @@ protected:
     void SetUp() override
     {
         PanelWindowFixture::SetUp();
-        _window->chooseColor(HostColor::colorWithCalibratedRed(0.2, 0.4, 0.6, 1));
+        _window->colors().setColor(HostColor::colorWithCalibratedRed(0.2, 0.4, 0.6, 1));
     }
 
     /// Drops it on everything that takes drops, on every page.
     int dropEverywhere(const QMimeData& data)
     {
         int taken = 0;
-        for (int page = 0; page < _window->pageCount(); ++page) {
-            _window->showPage(page);
+        for (int page = 0; page < _window->pages().count(); ++page) {
+            _window->pages().showPage(page);
             QApplication::processEvents();
             for (QWidget* target : _window->findChildren<QWidget*>()) {
                 if (!target->acceptDrops() || !target->isVisible()) continue;
@@ -119,9 +119,9 @@ TEST_P(HostileOfferTest, ChangesNoColour)
     for (const QString& format : data.formats())
         held->setData(format, data.data(format));
     QApplication::clipboard()->setMimeData(held.release());
-    _window->showPage(0);
-    _window->pasteColor();
-    EXPECT_EQ(_window->chosenColor(), QColor(51, 102, 153));
+    _window->pages().showPage(0);
+    _window->exchange().paste();
+    EXPECT_EQ(chosenColor(), QColor(51, 102, 153));
     EXPECT_EQ(text("_fullHexText"), "#336699");
 }
 

@@ -81,10 +81,10 @@ protected:
     void SetUp() override
     {
         PanelWindowFixture::SetUp();
-        ASSERT_TRUE(_window->showPageWithKey("palettes"));
+        ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
         show("Reds");
         view()->setFocus();
-        _window->chooseColor(rgb(1, 2, 3));
+        _window->colors().setColor(rgb(1, 2, 3));
     }
 
     [[nodiscard]] PaletteEntriesView* view() const
@@ -158,28 +158,28 @@ protected:
 
 TEST_F(PalettesPageTest, AClickTakesAColourAndKeepsTheOpacity)
 {
-    _window->chooseColor(rgb(1, 2, 3, 0.5));
+    _window->colors().setColor(rgb(1, 2, 3, 0.5));
     click(1);
-    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(192, 0, 0, 128));
+    EXPECT_EQ(chosenColor().rgba(), qRgba(192, 0, 0, 128));
     press(Qt::Key_Down);
-    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(192, 0, 0, 128)) << "moving takes nothing";
+    EXPECT_EQ(chosenColor().rgba(), qRgba(192, 0, 0, 128)) << "moving takes nothing";
     press(Qt::Key_Return);
-    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(128, 0, 0, 128));
+    EXPECT_EQ(chosenColor().rgba(), qRgba(128, 0, 0, 128));
     click(0, Qt::ControlModifier);
-    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(128, 0, 0, 128)) << "selecting takes nothing";
+    EXPECT_EQ(chosenColor().rgba(), qRgba(128, 0, 0, 128)) << "selecting takes nothing";
     EXPECT_EQ(view()->selectedPlaces(), (std::vector<std::size_t>{0, 2}));
 }
 
 TEST_F(PalettesPageTest, AnAddedColourAsksForItsName)
 {
-    _window->chooseColor(rgb(0, 255, 0, 0.5));
+    _window->colors().setColor(rgb(0, 255, 0, 0.5));
     click(1, Qt::ControlModifier);
     press(Qt::Key_Insert);
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 #00FF00=00ff00 darker=800000 darkest=400000");
     EXPECT_THAT(remark(), testing::HasSubstr("opacity"));
     typeName("green");
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 green=00ff00 darker=800000 darkest=400000");
-    _window->chooseColor(rgb(250, 0, 0));
+    _window->colors().setColor(rgb(250, 0, 0));
     command("Add the panel's colour")->trigger();
     EXPECT_EQ(static_cast<QLineEdit*>(QApplication::focusWidget())->text(), "red 2")
         << "the nearest name";
@@ -212,7 +212,7 @@ TEST_F(PalettesPageTest, SeveralColoursAreMovedRecolouredAndRemoved)
 TEST_F(PalettesPageTest, UndoAndRedoAreThePagesOwn)
 {
     click(0);
-    const QColor chosen = _window->chosenColor();
+    const QColor chosen = chosenColor();
     press(Qt::Key_Delete);
     press(Qt::Key_Delete);
     for (QWidget* focus : {static_cast<QWidget*>(view()), static_cast<QWidget*>(lists()),
@@ -224,21 +224,21 @@ TEST_F(PalettesPageTest, UndoAndRedoAreThePagesOwn)
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000");
         press(Qt::Key_Z, Qt::ControlModifier);
-        EXPECT_EQ(_window->chosenColor(), chosen) << "also with nothing left to undo";
+        EXPECT_EQ(chosenColor(), chosen) << "also with nothing left to undo";
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
-        EXPECT_EQ(_window->chosenColor(), chosen);
+        EXPECT_EQ(chosenColor(), chosen);
     }
     auto* filter = child<QLineEdit>("paletteFilter");
     QTest::keyClicks(filter, "dark");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(filter->text(), "") << "typing is undone first";
     EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
-    _window->showPage(0);
+    _window->pages().showPage(0);
     _window->setFocus();
     QTest::keyClick(_window.get(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_NE(_window->chosenColor(), chosen) << "elsewhere it is the panel's";
+    EXPECT_NE(chosenColor(), chosen) << "elsewhere it is the panel's";
     EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
 }
 
@@ -293,7 +293,7 @@ TEST_F(PalettesPageTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
     view()->setFocus();
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(own("Web"), "none") << "the same colour is no change";
-    _window->chooseColor(rgb(9, 9, 9));
+    _window->colors().setColor(rgb(9, 9, 9));
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(own("Web"), "teal=090909");
     EXPECT_EQ(shownList(), "Web");
@@ -443,8 +443,8 @@ TEST_F(PalettesPageTest, ThirtyThousandColoursAreFilteredAndPaintedAsTheyAreSeen
                 QByteArray::number(i) + "\n";
     put("data/Vantorel/Palettes/Many.gpl", text);
     page()->importFiles({});
-    _window->showPage(0);
-    _window->showPageWithKey("palettes");
+    _window->pages().showPage(0);
+    _window->pages().showPageWithKey("palettes");
     show("Many");
     view()->setFocus();
     EXPECT_EQ(view()->model()->rowCount(), 30000);
@@ -479,27 +479,27 @@ TEST_F(PalettesPageTest, ThePickersPageShowsTheChanges)
     // "CSS Keyword" is the naming list of a new user.
     show("CSS Keyword");
     view()->setFocus();
-    _window->chooseColor(rgb(1, 2, 3));
+    _window->colors().setColor(rgb(1, 2, 3));
     command("Add the panel's colour")->trigger();
     typeName("ink");
     press(Qt::Key_N, Qt::ControlModifier);
     typeName("Fresh");
     command("Add the panel's colour")->trigger();
     typeName("first");
-    _window->showPage(0);
+    _window->pages().showPage(0);
     const auto shownName = [this] {
         return QAccessible::queryAccessibleInterface(child<QWidget>("hexColorNamePopUp"))
             ->text(QAccessible::Value)
             .toStdString();
     };
     EXPECT_EQ(shownName(), "ink");
-    _window->showPageWithKey("palettes");
+    _window->pages().showPageWithKey("palettes");
     show("CSS Keyword");
     view()->selectPlaces({1});
     view()->setFocus();
     press(Qt::Key_F2);
     typeName("soot");
-    _window->showPage(0);
+    _window->pages().showPage(0);
     EXPECT_EQ(shownName(), "soot");
     EXPECT_THAT(_desktop.colorLists().availableColorLists(), testing::Contains(u"Fresh"));
 }

@@ -9,21 +9,22 @@
 #include <QSlider>
 #include <QToolButton>
 
+#include <algorithm>
 #include <array>
 
 namespace vantorel {
 namespace {
 
-/// Answers at once, from a list that the test holds.
+/// Answers at once with what the test says.
 class ScriptedScreenPicker final : public ScreenPicker {
 public:
-    explicit ScriptedScreenPicker(ScreenPickResult result) : _result(std::move(result)) {}
+    explicit ScriptedScreenPicker(const ScreenPickResult& result) : _result(result) {}
     void start(QWidget*, Callback done) override { done(_result); }
     void cancel() override {}
     [[nodiscard]] bool isPicking() const override { return false; }
 
 private:
-    ScreenPickResult _result;
+    const ScreenPickResult& _result;
 };
 
 class PanelCommandsTest : public PanelWindowFixture {
@@ -32,16 +33,31 @@ protected:
     {
         PanelWindowFixture::SetUp();
         QApplication::clipboard()->clear();
-        _window->chooseColor(rgb(255, 128, 0));
+        _window->colors().setColor(rgb(255, 128, 0));
         _window->setFocus();
     }
 
+    std::unique_ptr<ScreenPicker> screenPicker() override
+    {
+        return std::make_unique<ScriptedScreenPicker>(_pick);
+    }
     static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
+    /// The sentence in the bar, which is its tool tip as well; empty if the page's name is there.
     [[nodiscard]] QString remark() const
     {
-        return static_cast<PanelTopBar*>(child<QWidget>("topBar"))->remark();
+        return child<QWidget>("topBar")->findChild<QLabel*>()->toolTip();
+    }
+    [[nodiscard]] QAction* command(const QString& text) const
+    {
+        const QList<QAction*> all = _window->actions();
+        const auto found = std::find_if(
+            all.begin(), all.end(), [&](const QAction* action) { return action->text() == text; });
+        return found != all.end() ? *found : nullptr;
     }
     void type(const QKeySequence& keys) { QTest::keySequence(_window.get(), keys); }
+
+    /// How picks from the screen end.
+    ScreenPickResult _pick;
 };
 
 TEST_F(PanelCommandsTest, CopyTakesWhatADragCarriesAndTheColour)
@@ -49,12 +65,12 @@ TEST_F(PanelCommandsTest, CopyTakesWhatADragCarriesAndTheColour)
     type(QKeySequence("Ctrl+C"));
     EXPECT_EQ(clipboard().text(), "#FF8000");
     EXPECT_EQ(qvariant_cast<QColor>(clipboard().colorData()).rgb(), qRgb(255, 128, 0));
-    EXPECT_EQ(_window->memory().recent.front(), rgb(255, 128, 0)) << "what was copied is kept";
+    EXPECT_EQ(_window->colors().recent().front(), rgb(255, 128, 0)) << "what was copied is kept";
 }
 
 TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
 {
-    const auto texts = _window->colorTexts();
+    const auto texts = _window->exchange().colorTexts();
     std::vector<QString> names;
     names.reserve(texts.size());
     for (const HostColorText& text : texts)
@@ -63,7 +79,7 @@ TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
     EXPECT_EQ(names[1], "RGB (CSS)");
     EXPECT_EQ(names[2], "ObjC fraction");
 
-    QMenu* menu = _window->commands().copy().menu();
+    QMenu* menu = command("Copy")->menu();
     emit menu->aboutToShow();
     ASSERT_EQ(menu->actions().size(), static_cast<qsizetype>(texts.size()));
     menu->actions().at(13)->trigger();
@@ -74,7 +90,7 @@ TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
 
 TEST_F(PanelCommandsTest, APageWithoutTextsCopiesTheHexCode)
 {
-    _window->showPage(_window->pageCount() - 1);
+    _window->pages().showPage(_window->pages().count() - 1);
     type(QKeySequence("Ctrl+Shift+C"));
     EXPECT_EQ(clipboard().text(), "#ff8000");
 }
@@ -90,7 +106,7 @@ TEST_P(PasteTest, TakesEveryFormOfCSS)
 {
     QApplication::clipboard()->setText(QString::fromUtf8(GetParam().text));
     type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(_window->chosenColor().rgba(), GetParam().color.rgba()) << GetParam().text;
+    EXPECT_EQ(chosenColor().rgba(), GetParam().color.rgba()) << GetParam().text;
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
@@ -119,15 +135,15 @@ TEST_F(PanelCommandsTest, TheWellsTakeDrops)
     QMimeData text;
     text.setText(QStringLiteral("oklch(0 0 0)\0").append(QChar(u'\0')));
     EXPECT_TRUE(drop("colorWell", text)) << "some programs end a text with a NUL";
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 0));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(0, 0, 0));
 
     QMimeData words;
     const std::array<quint16, 4> channels{0xFFFF, 0x8080, 0, 0xFFFF};
     words.setData("application/x-color",
                   QByteArray(reinterpret_cast<const char*>(channels.data()), sizeof channels));
     EXPECT_TRUE(drop("backgroundWell", words));
-    EXPECT_EQ(qColorFrom(_window->background()).rgb(), qRgb(255, 128, 0));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 0)) << "the other well stays";
+    EXPECT_EQ(qColorFrom(_window->colors().background()).rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(0, 0, 0)) << "the other well stays";
 
     QMimeData picture;
     picture.setData("image/png", "x");
@@ -139,7 +155,7 @@ TEST_F(PanelCommandsTest, PasteTakesTheColourBeforeTheText)
     auto data = mimeDataFromColor(rgb(1, 2, 3, 0.5), QStringLiteral("white"));
     QApplication::clipboard()->setMimeData(data.release());
     type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(_window->chosenColor().rgba(), qRgba(1, 2, 3, 128));
+    EXPECT_EQ(chosenColor().rgba(), qRgba(1, 2, 3, 128));
 }
 
 TEST_F(PanelCommandsTest, WhatIsNoColourChangesNothingAndSaysWhy)
@@ -148,7 +164,7 @@ TEST_F(PanelCommandsTest, WhatIsNoColourChangesNothingAndSaysWhy)
         QApplication::clipboard()->setText(text);
         _window->showRemark({});
         type(QKeySequence("Ctrl+V"));
-        EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+        EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
         EXPECT_FALSE(remark().isEmpty());
     }
     QMimeData damaged;
@@ -161,28 +177,28 @@ TEST_F(PanelCommandsTest, AColourOutsideSRGBIsMappedAndSaysSo)
 {
     QApplication::clipboard()->setText("color(display-p3 1 0 0)");
     type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(_window->chosenColor().red(), 255);
+    EXPECT_EQ(chosenColor().red(), 255);
     EXPECT_TRUE(remark().contains("sRGB"));
 }
 
 TEST_F(PanelCommandsTest, UndoAndRedoGoThroughTheColours)
 {
     QTest::qWait(static_cast<int>(ColorHistory::settlingSeconds * 1000) + 50);
-    _window->chooseColor(rgb(1, 2, 3));
+    _window->colors().setColor(rgb(1, 2, 3));
     type(QKeySequence("Ctrl+Z"));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
     EXPECT_EQ(text("_fullHexText"), "#FF8000") << "the page follows";
-    EXPECT_TRUE(_window->commands().redo().isEnabled());
+    EXPECT_TRUE(command("Redo")->isEnabled());
     type(QKeySequence("Ctrl+Shift+Z"));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(1, 2, 3));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(1, 2, 3));
 }
 
 TEST_F(PanelCommandsTest, XSwapsTheTwoColours)
 {
-    _window->setBackground(rgb(0, 0, 128));
+    _window->colors().setBackground(rgb(0, 0, 128));
     type(QKeySequence("X"));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(0, 0, 128));
-    EXPECT_EQ(_window->background(), rgb(255, 128, 0));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(0, 0, 128));
+    EXPECT_EQ(_window->colors().background(), rgb(255, 128, 0));
 }
 
 TEST_F(PanelCommandsTest, AnXThatIsTypedSwapsNothing)
@@ -190,12 +206,12 @@ TEST_F(PanelCommandsTest, AnXThatIsTypedSwapsNothing)
     auto* field = child<QLineEdit>("_fullHexText");
     field->setFocus();
     QTest::keyClicks(field, "x");
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
 }
 
 TEST_F(PanelCommandsTest, TheContrastIsShownLive)
 {
-    _window->setBackground(rgb(255, 255, 255));
+    _window->colors().setBackground(rgb(255, 255, 255));
     struct Row {
         HostColor color;
         const char* text;
@@ -203,7 +219,7 @@ TEST_F(PanelCommandsTest, TheContrastIsShownLive)
     for (const auto& [color, shown] :
          {Row{rgb(0, 0, 0), "21.0 AAA"}, Row{rgb(0x76, 0x76, 0x76), "4.54 AA"},
           Row{rgb(0x77, 0x77, 0x77), "4.47 AA+"}, Row{rgb(255, 255, 0), "1.07 \u2013"}}) {
-        _window->chooseColor(color);
+        _window->colors().setColor(color);
         EXPECT_EQ(child<QLabel>("contrast")->text(), QString::fromUtf8(shown));
     }
 }
@@ -213,40 +229,38 @@ TEST_F(PanelCommandsTest, ARecentColourIsTakenByAClickAndByTheKeyboard)
     PanelMemory memory;
     memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(3, 3, 3)};
     _window->recall(memory);
-    // The panel's own classes have no meta-objects: they are found by their names.
-    auto& row = static_cast<RecentColors&>(*child<QWidget>("recentColors"));
-    QTest::mouseClick(&row, Qt::LeftButton, {}, row.rectOfColor(0).center());
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(1, 1, 1));
-    row.setFocus();
-    QTest::keyClick(&row, Qt::Key_End);
-    QTest::keyClick(&row, Qt::Key_Return);
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(3, 3, 3));
+    auto* row = child<RecentColors>("recentColors");
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(5, row->height() / 2));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(1, 1, 1));
+    row->setFocus();
+    QTest::keyClick(row, Qt::Key_End);
+    QTest::keyClick(row, Qt::Key_Return);
+    EXPECT_EQ(chosenColor().rgb(), qRgb(3, 3, 3));
 }
 
 TEST_F(PanelCommandsTest, APickFromTheScreenBecomesTheColour)
 {
     using Outcome = ScreenPickResult::Outcome;
-    _window->setScreenPicker(std::make_unique<ScriptedScreenPicker>(
-        ScreenPickResult{Outcome::picked, rgb(10, 20, 30), {}}));
+    _pick = {Outcome::picked, rgb(10, 20, 30), {}};
     type(QKeySequence("Ctrl+Shift+P"));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(10, 20, 30));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(clipboard().text(), "#0A141E") << "picked and copied in one step";
 
-    _window->setScreenPicker(std::make_unique<ScriptedScreenPicker>(ScreenPickResult{
-        Outcome::notPossible, HostColor::blackColor(), QStringLiteral("Nothing to pick with.")}));
+    _pick = {Outcome::notPossible, HostColor::blackColor(),
+             QStringLiteral("Nothing to pick with.")};
     type(QKeySequence("Ctrl+P"));
-    EXPECT_EQ(_window->chosenColor().rgb(), qRgb(10, 20, 30));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(remark(), "Nothing to pick with.");
 }
 
 TEST_F(PanelCommandsTest, ThePagesAreWalkedByKeys)
 {
     type(QKeySequence("Ctrl+PgDown"));
-    EXPECT_EQ(_window->currentPageIndex(), 1);
+    EXPECT_EQ(_window->pages().currentIndex(), 1);
     type(QKeySequence("Ctrl+PgUp"));
-    EXPECT_EQ(_window->currentPageIndex(), 0);
+    EXPECT_EQ(_window->pages().currentIndex(), 0);
     type(QKeySequence("Ctrl+PgUp"));
-    EXPECT_EQ(_window->currentPageIndex(), _window->pageCount() - 1);
+    EXPECT_EQ(_window->pages().currentIndex(), _window->pages().count() - 1);
 }
 
 TEST_F(PanelCommandsTest, TheShortcutsAreShownAndGoAway)
@@ -265,16 +279,16 @@ TEST_F(PanelCommandsTest, TheShortcutsAreShownAndGoAway)
 
 TEST_F(PanelCommandsTest, WhatIsKeptComesBack)
 {
-    _window->setBackground(rgb(1, 2, 3));
-    _window->showPage(1);
-    _window->setStaysOnTop(true);
+    _window->colors().setBackground(rgb(1, 2, 3));
+    _window->pages().showPage(1);
+    command("Always on top")->setChecked(true);
     writePanelMemory(_window->memory());
 
     PanelWindow next(_desktop, _search.plugins, _problems);
     next.recall(readPanelMemory());
-    EXPECT_EQ(next.chosenColor().rgb(), qRgb(255, 128, 0));
-    EXPECT_EQ(next.background(), rgb(1, 2, 3));
-    EXPECT_EQ(next.currentPageIndex(), 1);
+    EXPECT_EQ(qColorFrom(next.colors().color()).rgb(), qRgb(255, 128, 0));
+    EXPECT_EQ(next.colors().background(), rgb(1, 2, 3));
+    EXPECT_EQ(next.pages().currentIndex(), 1);
     EXPECT_TRUE(next.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
@@ -308,9 +322,12 @@ TEST_F(PanelCommandsTest, FromRightToLeftBarAndToolsAreMirrored)
         return widget->mapTo(_window.get(), widget->rect().topRight()).x();
     };
     EXPECT_GT(right("colorWell"), right("backgroundWell"));
-    auto& row = static_cast<RecentColors&>(*child<QWidget>("recentColors"));
-    EXPECT_EQ(row.rectOfColor(0).right(), row.width() - 1);
-    EXPECT_EQ(row.indexAt(row.rectOfColor(0).center()), 0);
+    auto* row = child<RecentColors>("recentColors");
+    PanelMemory memory;
+    memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2)};
+    _window->recall(memory);
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(row->width() - 5, row->height() / 2));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(1, 1, 1)) << "the newest comes first";
     EXPECT_EQ(child<QWidget>("_fullHexText")->x(), 10) << "a page has places of its own";
 }
 

@@ -34,10 +34,13 @@ protected:
     void SetUp() override
     {
         PanelWindowFixture::SetUp();
+        _requests = std::make_unique<PanelRequests>(*_window);
+    }
+    std::unique_ptr<ScreenPicker> screenPicker() override
+    {
         auto picker = std::make_unique<HeldScreenPicker>();
         _picker = picker.get();
-        _window->setScreenPicker(std::move(picker));
-        _requests = std::make_unique<PanelRequests>(*_window);
+        return picker;
     }
     PanelRequests::Done keep()
     {

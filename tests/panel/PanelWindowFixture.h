@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/qt/QtColors.h"
 #include "panel/window/PanelWindow.h"
 #include "plugins/PluginLoader.h"
 
@@ -26,11 +27,15 @@ protected:
     void SetUp() override
     {
         _search = loadPlugins({VANTOREL_PICKERS}, {});
-        _window = std::make_unique<PanelWindow>(_desktop, _search.plugins, _problems);
+        _window =
+            std::make_unique<PanelWindow>(_desktop, _search.plugins, _problems, screenPicker());
         _window->resizeToPage({260, 340});
         _window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(_window.get()));
     }
+    /// What the panel picks from the screen with.
+    virtual std::unique_ptr<ScreenPicker> screenPicker() { return makeScreenPicker(); }
+    [[nodiscard]] QColor chosenColor() const { return qColorFrom(_window->colors().color()); }
     template <class Widget>
     [[nodiscard]] Widget* child(const char* name) const
     {

@@ -1,9 +1,9 @@
 #include "PanelWindowFixture.h"
-#include "hosts/qt/QtColors.h"
 
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QTimer>
 #include <QToolButton>
 
@@ -14,7 +14,7 @@ class PanelWindowTest : public PanelWindowFixture {};
 
 TEST_F(PanelWindowTest, AColourSetOnThePanelShowsInEveryField)
 {
-    _window->chooseColor(HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 1));
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 1));
     EXPECT_EQ(text("_fullHexText"), "#FF8000");
     EXPECT_EQ(text("_rgbDecimalText"), "RGB(255, 128, 0);");
     EXPECT_EQ(text("_redHexText"), "FF");
@@ -33,7 +33,7 @@ TEST_F(PanelWindowTest, TheWindowsIconComesBehindItsFirstPicture)
 
 TEST_F(PanelWindowTest, AClickInADigitCellChangesTheColourEverywhere)
 {
-    _window->chooseColor(HostColor::blackColor());
+    _window->colors().setColor(HostColor::blackColor());
     auto* colors = child<QWidget>("_hexColorsView");
     const HostRect bounds{0, 0, double(colors->width()), double(colors->height())};
     // The middle of the cell of red's high digit 10: column 1 of 15, row 10 of 16.
@@ -43,7 +43,7 @@ TEST_F(PanelWindowTest, AClickInADigitCellChangesTheColourEverywhere)
     QTimer::singleShot(20, [&] { QTest::mouseRelease(colors, Qt::LeftButton, {}, at); });
     QTest::mousePress(colors, Qt::LeftButton, {}, at);
     EXPECT_EQ(text("_fullHexText"), "#A00000");
-    EXPECT_EQ(_window->chosenColor(), QColor(0xA0, 0, 0));
+    EXPECT_EQ(chosenColor(), QColor(0xA0, 0, 0));
 }
 
 TEST_F(PanelWindowTest, ATypedCodeChangesThePanel)
@@ -53,7 +53,7 @@ TEST_F(PanelWindowTest, ATypedCodeChangesThePanel)
     QTest::keyClicks(field, "f80");
     EXPECT_EQ(text("_rgbDecimalText"), "3: R:248 G:000* B:---");
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(_window->chosenColor(), QColor(0xFF, 0x88, 0));
+    EXPECT_EQ(chosenColor(), QColor(0xFF, 0x88, 0));
     EXPECT_EQ(field->text(), "#FF8800");
 }
 
@@ -68,7 +68,7 @@ TEST_F(PanelWindowTest, EscapeInAFieldShowsTheColourAgainInEveryField)
     for (const Row& row : {Row{"_fullHexText", "12"}, Row{"_rgbDecimalText", "nav"},
                            Row{"_redHexText", "7"}, Row{"_blueHexText", "zz"}}) {
         SCOPED_TRACE(row.field);
-        _window->chooseColor(color);
+        _window->colors().setColor(color);
         auto* field = child<QLineEdit>(row.field);
         field->setFocus();
         field->selectAll();
@@ -79,7 +79,7 @@ TEST_F(PanelWindowTest, EscapeInAFieldShowsTheColourAgainInEveryField)
         EXPECT_EQ(text("_redHexText"), "55");
         EXPECT_EQ(text("_greenHexText"), "80");
         EXPECT_EQ(text("_blueHexText"), "00");
-        EXPECT_EQ(_window->hostPanel().color(), color);
+        EXPECT_EQ(_window->colors().color(), color);
         EXPECT_TRUE(_window->isVisible());
     }
 }
@@ -88,11 +88,11 @@ TEST_F(PanelWindowTest, TheOpacityIsThePanelsAlpha)
 {
     auto* slider = _window->findChild<QSlider*>();
     slider->setValue(50);
-    EXPECT_NEAR(_window->chosenColor().alphaF(), 0.5, 0.01);
+    EXPECT_NEAR(chosenColor().alphaF(), 0.5, 0.01);
     child<QLineEdit>("_fullHexText")->setText("00ff00");
     QTest::keyClick(child<QLineEdit>("_fullHexText"), Qt::Key_Return);
-    EXPECT_NEAR(_window->chosenColor().alphaF(), 0.5, 0.01) << "a typed colour keeps it";
-    EXPECT_EQ(_window->chosenColor().green(), 255);
+    EXPECT_NEAR(chosenColor().alphaF(), 0.5, 0.01) << "a typed colour keeps it";
+    EXPECT_EQ(chosenColor().green(), 255);
 }
 
 TEST_F(PanelWindowTest, TheModesButtonsShowWhatIsActive)
@@ -152,15 +152,15 @@ TEST_F(PanelWindowTest, NothingOverlapsAtAnySize)
 
 TEST_F(PanelWindowTest, TheOtherPageFollowsTheColour)
 {
-    ASSERT_EQ(_window->pageCount(), 3);
-    _window->chooseColor(HostColor::colorWithCalibratedRed(0, 0, 1, 0.5));
-    _window->showPage(1);
+    ASSERT_EQ(_window->pages().count(), 3);
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 0.5));
+    _window->pages().showPage(1);
     auto* dialog = _window->findChild<QColorDialog*>();
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->currentColor().rgba(), QColor(0, 0, 255, 128).rgba());
     dialog->setCurrentColor(QColor(1, 2, 3));
-    EXPECT_EQ(_window->chosenColor(), QColor(1, 2, 3));
-    _window->showPage(0);
+    EXPECT_EQ(chosenColor(), QColor(1, 2, 3));
+    _window->pages().showPage(0);
     EXPECT_EQ(text("_fullHexText"), "#010203");
 }
 
@@ -173,7 +173,7 @@ TEST(PanelPluginsTest, OnesThatMakeNoPageAreNamedAndTheRestWorks)
     EXPECT_TRUE(search.problems.empty());
     std::vector<std::string> problems;
     PanelWindow window(desktop, search.plugins, problems);
-    EXPECT_EQ(window.pageCount(), 3) << "the good one's and the panel's own";
+    EXPECT_EQ(window.pages().count(), 3) << "the good one's and the panel's own";
     ASSERT_EQ(problems.size(), 2U);
     EXPECT_THAT(problems[0], testing::HasSubstr("throwing-plugin.so is left out"));
     EXPECT_THAT(problems[0], testing::HasSubstr("on purpose"));

@@ -67,7 +67,7 @@ protected:
                 if (seen.count(shown) != 0 || !isInsideAShape(before, at, reach)) continue;
                 seen.insert(shown);
                 click(at);
-                EXPECT_EQ(_window->chosenColor().rgb(), shown)
+                EXPECT_EQ(chosenColor().rgb(), shown)
                     << "at " << x << ", " << y << ", where #" << std::hex << (shown & 0xFFFFFFU)
                     << " is shown";
                 EXPECT_EQ(text("_fullHexText"), QColor(shown).name().toUpper());
@@ -101,14 +101,14 @@ protected:
 
 TEST_F(PickModesTest, EverySwatchOfThePaletteIsPickedByAClick)
 {
-    _window->chooseColor(HostColor::colorWithCalibratedRed(0.3, 0.4, 0.5, 1));
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(0.3, 0.4, 0.5, 1));
     showMode("paletteViewModeButton");
     EXPECT_EQ(clickEveryColour(colors()->rect(), 2), 17U) << "the colours of CSS Keyword";
 }
 
 TEST_F(PickModesTest, EveryColourOfTheWheelIsPickedByAClick)
 {
-    _window->chooseColor(HostColor::colorWithCalibratedRed(0.3, 0.4, 0.5, 1));
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(0.3, 0.4, 0.5, 1));
     showMode("wheelViewModeButton");
     // Without the ring buttons in the upper corners.
     const QRect below = colors()->rect().adjusted(0, 26, 0, 0);
@@ -117,10 +117,10 @@ TEST_F(PickModesTest, EveryColourOfTheWheelIsPickedByAClick)
 
 TEST_F(PickModesTest, AClickBesideTheWheelPicksNothing)
 {
-    _window->chooseColor(HostColor::colorWithCalibratedRed(0, 0, 1, 1));
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 1));
     showMode("wheelViewModeButton");
     click(QPoint(6, colors()->height() - 6));
-    EXPECT_EQ(_window->chosenColor(), QColor(0, 0, 255));
+    EXPECT_EQ(chosenColor(), QColor(0, 0, 255));
 }
 
 TEST_F(PickModesTest, TheRingButtonsChangeTheWheel)
@@ -136,7 +136,7 @@ TEST_F(PickModesTest, TheRingButtonsChangeTheWheel)
 
 TEST_F(PickModesTest, ANameIsChosenFromTheList)
 {
-    _window->chooseColor(HostColor::blackColor());
+    _window->colors().setColor(HostColor::blackColor());
     QListView* view = openList("hexColorNamePopUp");
     ASSERT_NE(view, nullptr);
     const QStringList titles = titlesOf(*view);
@@ -145,12 +145,12 @@ TEST_F(PickModesTest, ANameIsChosenFromTheList)
     EXPECT_FALSE(view->model()->index(2, 0).data(QtItemList::pictureRole).isNull());
     clickRow(*view, static_cast<int>(titles.indexOf("navy")));
     EXPECT_EQ(text("_fullHexText"), "#000080");
-    EXPECT_EQ(_window->chosenColor(), QColor(0, 0, 128));
+    EXPECT_EQ(chosenColor(), QColor(0, 0, 128));
 }
 
 TEST_F(PickModesTest, CloseNamesComeFirst)
 {
-    _window->chooseColor(HostColor::colorWithCalibratedRed(1, 0, 4 / 255.0, 1));
+    _window->colors().setColor(HostColor::colorWithCalibratedRed(1, 0, 4 / 255.0, 1));
     QListView* view = openList("hexColorNamePopUp");
     ASSERT_NE(view, nullptr);
     const QStringList titles = titlesOf(*view);

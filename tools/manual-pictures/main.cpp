@@ -90,7 +90,7 @@ const std::vector<Picture>& pictures()
         {"colors", "#ff7f50", svgList, wholeWindow},
         {"settings", "#ff7f50", cssList,
          [](PanelWindow& window) {
-             window.currentPicker()->performAction("settingsButtonAction", nullptr);
+             window.pages().currentPicker()->performAction("settingsButtonAction", nullptr);
              return wholeWindow(window);
          }},
         {"palette", "#ff7f50", R"({ HexColorLlst = "SVG Keyword"; PickModeColorLists = Palette; })",
@@ -142,7 +142,7 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
     std::vector<std::string> problems;
     PanelWindow window(desktop, search.plugins, problems);
     window.resizeToPage(page);
-    window.chooseColor(hostColorFrom(QColor(picture.color)));
+    window.colors().setColor(hostColorFrom(QColor(picture.color)));
     window.show();
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window)) return false;

@@ -152,10 +152,18 @@ QtTextField::QtTextField(const HostControlDescription& description)
         // The typing may have completed the text, which does not end it.
         lineEdit()->setModified(true);
     });
-    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] {
-        sendAction();
-        lineEdit()->setModified(false);
-    });
+    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { enterText(); });
+}
+
+void QtTextField::enterText()
+{
+    sendAction();
+    lineEdit()->setModified(false);
+}
+
+void QtTextField::finishEditing()
+{
+    if (lineEdit()->isVisible() && lineEdit()->isModified()) enterText();
 }
 
 QLineEdit* QtTextField::lineEdit() const

@@ -21,6 +21,9 @@ public:
     void setSelectedRange(HostSelection range) override;
     /// Whether the user is in the field.
     [[nodiscard]] bool isEdited() const;
+    /// Enters what the user has typed, as Return does. Does nothing if the field is hidden, or
+    /// nothing was typed since it was last entered.
+    void finishEditing();
     /// Called when the user gives the entry up (Escape). What was there before is the panel's to
     /// know: other fields may have followed the typing.
     void setEntryGivenUp(std::function<void()> reaction) { _entryGivenUp = std::move(reaction); }
@@ -28,6 +31,7 @@ public:
 private:
     class LineEdit;
     [[nodiscard]] QLineEdit* lineEdit() const;
+    void enterText();
 
     std::function<void()> _entryGivenUp;
     bool _textIsBeingSet = false;

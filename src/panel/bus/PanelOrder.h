@@ -24,7 +24,7 @@ struct PanelOrder {
     Step step = Step::show;
     /// The colour to have first, as a CSS text.
     std::optional<QString> color;
-    /// For `copy`: the name of a form in `PanelWindow::colorTexts`, or empty for what a drag
+    /// For `copy`: the name of a form in `ColorExchange::colorTexts`, or empty for what a drag
     /// carries.
     QString form;
     ActivationToken token;

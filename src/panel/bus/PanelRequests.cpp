@@ -43,7 +43,7 @@ PanelAnswer PanelRequests::setColor(const QString& text)
         return PanelRefusal{Kind::notAColor, tr("That is a long text, not a colour.")};
     const CSSColorReading reading = readCSSColor(u16From(text));
     if (!reading.color) return PanelRefusal{Kind::notAColor, qStringFrom(reading.error)};
-    _window.chooseColor(reading.color->color);
+    _window.colors().setColor(reading.color->color);
     if (reading.color->wasOutsideSRGB) {
         _window.showRemark(tr("%1 is outside sRGB; this is the nearest colour inside.")
                                .arg(text.trimmed().left(longestShownText)));
@@ -53,7 +53,7 @@ PanelAnswer PanelRequests::setColor(const QString& text)
 
 QString PanelRequests::color() const
 {
-    return hexCode(_window.chosenHostColor());
+    return hexCode(_window.colors().color());
 }
 
 void PanelRequests::pick(bool copies, Done done)
@@ -76,12 +76,12 @@ void PanelRequests::pick(bool copies, Done done)
             finish(done, hexCode(result.color));
         }
     };
-    _window.pickFromScreen(false, take);
+    _window.exchange().pickFromScreen(false, take);
 }
 
 void PanelRequests::cancelPick()
 {
-    _window.cancelPick();
+    _window.exchange().cancelPick();
 }
 
 void PanelRequests::copy(const QString& form, Done done)
@@ -93,7 +93,7 @@ void PanelRequests::copy(const QString& form, Done done)
 
 void PanelRequests::putOnClipboard(const QString& form, const Done& done)
 {
-    const auto texts = _window.colorTexts();
+    const auto texts = _window.exchange().colorTexts();
     const auto chosen = std::find_if(texts.begin(), texts.end(), [&](const HostColorText& text) {
         return qStringFrom(text.name) == form;
     });
@@ -115,9 +115,9 @@ void PanelRequests::putOnClipboard(const QString& form, const Done& done)
             return;
         }
         if (form.isEmpty()) {
-            _window.copyColor();
+            _window.exchange().copy();
         } else {
-            _window.copyText(text);
+            _window.exchange().copyText(text);
         }
         done(QApplication::clipboard()->text());
     });

@@ -52,7 +52,7 @@ PanelService::PanelService(PanelWindow& window, PanelRequests& requests, const Q
       _requests(requests),
       _bus(bus),
       _announcer([this] { announceColor(); }),
-      _announcedColor(window.chosenHostColor())
+      _announcedColor(window.colors().color())
 {
     qDBusRegisterMetaType<ColorChannels>();
     new ColorPanelAdaptor(this);
@@ -71,10 +71,7 @@ PanelService::PanelService(PanelWindow& window, PanelRequests& requests, const Q
     _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
                  QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                  SLOT(busHasGone()));
-    // The window may outlive the service.
-    _window.addColorObserver([guard = QPointer(this)](const HostColor&) {
-        if (guard) guard->_announcer.changed();
-    });
+    connect(&_window.colors(), &PanelColors::colorChanged, this, [this] { _announcer.changed(); });
     _bus.registerObject(panelObjectPath, this, QDBusConnection::ExportAdaptors);
 }
 
@@ -112,7 +109,7 @@ void PanelService::releaseName()
 
 ColorChannels PanelService::channels() const
 {
-    const auto color = _window.chosenHostColor().calibratedRGB().value_or(HostColor::Components{});
+    const auto color = _window.colors().color().calibratedRGB().value_or(HostColor::Components{});
     return {fraction(color.red), fraction(color.green), fraction(color.blue),
             fraction(color.alpha)};
 }
@@ -196,7 +193,7 @@ void PanelService::callerHasGone(const QString& caller)
 
 void PanelService::announceColor()
 {
-    const HostColor color = _window.chosenHostColor();
+    const HostColor color = _window.colors().color();
     if (color == _announcedColor) return;
     _announcedColor = color;
     emit ColorChanged(_requests.color());

@@ -1,170 +1,106 @@
 #include "panel/pages/PanelPages.h"
 
-#include "hosts/qt/QtButton.h"
-#include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
-#include "panel/widgets/PanelIcons.h"
 
-#include <QCoreApplication>
-#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
 
 namespace vantorel {
 
-PluginPage::PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker)
-    : _plugin(plugin), _picker(std::move(picker))
+PanelPages::PanelPages(QWidget& window)
 {
+    auto* place = new QWidget(&window);
+    _holder = std::make_unique<QtMirrored<HostView>>(HostRect{}, place);
+    place->setVisible(true);
 }
 
-PluginPage::~PluginPage()
+PanelPages::~PanelPages()
 {
-    delete _message.data();
+    clear();
 }
 
-QString PluginPage::key() const
+void PanelPages::clear()
 {
-    return QString::fromUtf8(_plugin.plugin().identifier).section(u'.', -1);
+    _currentIndex = -1;
+    _pages.clear();
 }
 
-QString PluginPage::name() const
+void PanelPages::add(std::unique_ptr<PanelPage> page)
 {
-    return QString::fromUtf8(_plugin.plugin().displayName);
+    _pages.push_back(std::move(page));
 }
 
-QString PluginPage::toolTip() const
+const PanelPage& PanelPages::page(int index) const
 {
-    return qStringFrom(_picker->buttonToolTip());
+    return *_pages[static_cast<std::size_t>(index)];
 }
 
-QIcon PluginPage::icon() const
+PanelPage* PanelPages::current() const
 {
-    return iconFromSvg(_picker->buttonImage());
+    return _currentIndex >= 0 ? _pages[static_cast<std::size_t>(_currentIndex)].get() : nullptr;
 }
 
-QSize PluginPage::minimumSize() const
+HostColorPicker* PanelPages::currentPicker() const
 {
-    const HostSize size = _picker->minContentSize();
-    return {static_cast<int>(size.width), static_cast<int>(size.height)};
+    const PanelPage* page = current();
+    return page != nullptr ? page->picker() : nullptr;
 }
 
-void PluginPage::show(HostView& holder)
+QStringList PanelPages::keys() const
 {
-    if (!_viewWasAskedFor) {
-        _viewWasAskedFor = true;
-        try {
-            _view = _picker->provideNewView(true);
-        } catch (...) {
-            // It may be anybody's; the other pages must stay.
-            _view = nullptr;
-        }
-        if (_view == nullptr) {
-            _message = new QLabel(tr("The page \"%1\" could not be made. Its interface file is "
-                                     "missing or damaged; installing %2 again may help.")
-                                      .arg(name(), QString::fromStdString(_plugin.file())));
-            _message->setWordWrap(true);
-            _message->setMargin(12);
-            _message->setTextFormat(Qt::PlainText);
-        }
-    }
-    if (_view != nullptr) {
-        _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
-        holder.addSubview(*_view);
-        _picker->viewSizeChanged(_view);
-    } else {
-        _message->setParent(widgetOf(&holder));
-        _message->show();
-        resize(holder.frame().size());
-    }
+    QStringList keys;
+    for (const auto& page : _pages)
+        keys.append(page->key());
+    return keys;
 }
 
-void PluginPage::hide()
+bool PanelPages::showPageWithKey(const QString& key)
 {
-    if (_view != nullptr) _view->removeFromSuperview();
-    if (_message) _message->setParent(nullptr);
+    const auto index = static_cast<int>(keys().indexOf(key));
+    showPage(index);
+    return index >= 0;
 }
 
-void PluginPage::resize(HostSize size)
+void PanelPages::showRemembered(const QString& identifierOrName)
 {
-    if (_view != nullptr) {
-        _view->setFrame({0, 0, size.width, size.height});
-        _picker->viewSizeChanged(_view);
-    }
-    if (_message) {
-        _message->setGeometry(0, 0, scaled(size.width), scaled(size.height));
-    }
+    const auto indexOf = [&](QString (PanelPage::*text)() const) {
+        const auto found = std::find_if(_pages.begin(), _pages.end(), [&](const auto& page) {
+            return (*page.*text)() == identifierOrName;
+        });
+        return found != _pages.end() ? static_cast<int>(found - _pages.begin()) : -1;
+    };
+    const int index = indexOf(&PanelPage::identifier);
+    showPage(index >= 0 ? index : indexOf(&PanelPage::name));
 }
 
-void PluginPage::setColor(const HostColor& color)
+void PanelPages::showPage(int index)
 {
-    _picker->setColor(color);
+    if (index < 0 || index >= count() || index == _currentIndex) return;
+    if (PanelPage* old = current()) old->hide();
+    _currentIndex = index;
+    current()->show(*_holder);
+    current()->setColor(_color);
+    emit pageShown(index);
 }
 
-DialogPage::DialogPage(std::function<void(const QColor&)> colorChosen)
-    : _colorChosen(std::move(colorChosen))
+void PanelPages::step(int pages)
 {
+    if (count() > 0) showPage((_currentIndex + pages + count()) % count());
 }
 
-DialogPage::~DialogPage()
+void PanelPages::setColor(const HostColor& color)
 {
-    delete _dialog.data();
+    _color = color;
+    if (PanelPage* page = current()) page->setColor(color);
 }
 
-QString DialogPage::name() const
+void PanelPages::setGeometry(const QRect& place)
 {
-    return tr("Colour dialog");
-}
-
-QString DialogPage::toolTip() const
-{
-    return tr("Colour dialog");
-}
-
-QIcon DialogPage::icon() const
-{
-    return dialogPageIcon();
-}
-
-QSize DialogPage::minimumSize() const
-{
-    return _dialog ? _dialog->sizeHint() / textScale() : QSize(0, 0);
-}
-
-void DialogPage::show(HostView& holder)
-{
-    if (!_dialog) {
-        _dialog = new QColorDialog;
-        _dialog->setWindowFlags(Qt::Widget);
-        _dialog->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog |
-                            QColorDialog::ShowAlphaChannel);
-        QObject::connect(_dialog, &QColorDialog::currentColorChanged, _dialog, _colorChosen);
-    }
-    _dialog->setParent(widgetOf(&holder));
-    _dialog->show();
-    resize(holder.frame().size());
-}
-
-void DialogPage::hide()
-{
-    if (!_dialog) return;
-    _dialog->hide();
-    _dialog->setParent(nullptr);
-}
-
-void DialogPage::resize(HostSize size)
-{
-    if (_dialog) {
-        _dialog->setGeometry(0, 0, scaled(size.width), scaled(size.height));
-    }
-}
-
-void DialogPage::setColor(const HostColor& color)
-{
-    if (!_dialog) return;
-    const QColor wanted = qColorFrom(color);
-    // The dialog rounds; setting what it has just told would take its precision away.
-    if (!wanted.isValid() || _dialog->currentColor().rgba() == wanted.rgba()) return;
-    const QSignalBlocker blocker(_dialog);
-    _dialog->setCurrentColor(wanted);
+    _holder->widget()->setGeometry(place);
+    const HostRect frame{0, 0, place.width() / textScale(), place.height() / textScale()};
+    if (frame == _holder->frame()) return;
+    _holder->setFrame(frame);
+    if (PanelPage* page = current()) page->resize(frame.size());
 }
 
 }  // namespace vantorel

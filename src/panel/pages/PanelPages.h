@@ -1,101 +1,65 @@
 #pragma once
 
-#include "plugins/PluginLoader.h"
+#include "hosts/qt/QtView.h"
+#include "panel/pages/PanelPage.h"
 
-#include <QColorDialog>
-#include <QCoreApplication>
-#include <QIcon>
-#include <QLabel>
-#include <QPointer>
-#include <QSize>
-#include <QString>
+#include <QStringList>
 
-#include <functional>
-#include <optional>
+#include <memory>
+#include <vector>
 
 namespace vantorel {
 
-class PanelWindow;
-
-/// A page of the panel. What is seen of it is made when it is shown first.
-class PanelPage {
-public:
-    virtual ~PanelPage() = default;
-
-    /// Stands for the page on the command line; the same in every language.
-    [[nodiscard]] virtual QString key() const = 0;
-    [[nodiscard]] virtual QString name() const = 0;
-    [[nodiscard]] virtual QString toolTip() const = 0;
-    [[nodiscard]] virtual QIcon icon() const = 0;
-    /// In points.
-    [[nodiscard]] virtual QSize minimumSize() const = 0;
-
-    /// Puts the page into its place, `holder`, which has its final size.
-    virtual void show(HostView& holder) = 0;
-    virtual void hide() = 0;
-    /// The holder has a new size.
-    virtual void resize(HostSize size) = 0;
-    /// The panel's colour has changed while the page is on show, also by the page itself.
-    virtual void setColor(const HostColor& color) = 0;
-
-    /// The picker behind the page; null for the panel's own pages.
-    [[nodiscard]] virtual HostColorPicker* picker() const { return nullptr; }
-    [[nodiscard]] virtual HostView* view() const { return nullptr; }
-};
-
-/// The page of a plug-in.
-class PluginPage final : public PanelPage {
-    Q_DECLARE_TR_FUNCTIONS(PluginPage)
+/// The pages of a panel, and the place in its window where one of them is shown.
+class PanelPages final : public QObject {
+    Q_OBJECT
 
 public:
-    /// `plugin` must outlive the page.
-    PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker);
-    ~PluginPage() override;
+    explicit PanelPages(QWidget& window);
+    ~PanelPages() override;
 
-    /// The last part of the plug-in's identifier: "hex" of "org.vantorel.hex".
-    [[nodiscard]] QString key() const override;
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString toolTip() const override;
-    [[nodiscard]] QIcon icon() const override;
-    [[nodiscard]] QSize minimumSize() const override;
-    void show(HostView& holder) override;
-    void hide() override;
-    void resize(HostSize size) override;
-    void setColor(const HostColor& color) override;
-    [[nodiscard]] HostColorPicker* picker() const override { return _picker.get(); }
-    [[nodiscard]] HostView* view() const override { return _view; }
+    void add(std::unique_ptr<PanelPage> page);
+    /// Removes all pages. To be called before what they use is gone.
+    void clear();
+    [[nodiscard]] int count() const { return static_cast<int>(_pages.size()); }
+    /// -1 until a page is shown.
+    [[nodiscard]] int currentIndex() const { return _currentIndex; }
+    /// Null until a page is shown.
+    [[nodiscard]] PanelPage* current() const;
+    /// The picker of the page that is shown; null for the panel's own pages.
+    [[nodiscard]] HostColorPicker* currentPicker() const;
+    [[nodiscard]] const PanelPage& page(int index) const;
+    [[nodiscard]] QStringList keys() const;
+    /// Does nothing and returns false if no page has the key.
+    bool showPageWithKey(const QString& key);
+    /// Shows the page that a panel has remembered by its identifier. Older panels remembered the
+    /// name in the user's language, which counts if no identifier matches. Does nothing if neither
+    /// does.
+    void showRemembered(const QString& identifierOrName);
+
+    /// Moves the place of the pages, in pixels of the window, at once also in a hidden window.
+    void setGeometry(const QRect& place);
+    [[nodiscard]] const QWidget& place() const { return *_holder->widget(); }
+
+public slots:
+    /// Does nothing if there is no such page.
+    void showPage(int index);
+    void showNextPage() { step(1); }
+    void showPreviousPage() { step(-1); }
+    /// Passes the panel's colour to the page that is shown, and to each that is shown later.
+    void setColor(const HostColor& color);
+
+signals:
+    /// Another page is shown. It has its place and the colour.
+    void pageShown(int index);
 
 private:
-    const LoadedPlugin& _plugin;
-    LoadedPlugin::Picker _picker;
-    bool _viewWasAskedFor = false;
-    HostView* _view = nullptr;
-    /// Stands in for a view that could not be made.
-    QPointer<QLabel> _message;
-};
+    void step(int pages);
 
-/// Qt's own colour dialog as a page.
-class DialogPage final : public PanelPage {
-    Q_DECLARE_TR_FUNCTIONS(DialogPage)
-
-public:
-    /// `colorChosen` is called when the user changes the colour on the page.
-    explicit DialogPage(std::function<void(const QColor&)> colorChosen);
-    ~DialogPage() override;
-
-    [[nodiscard]] QString key() const override { return QStringLiteral("dialog"); }
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] QString toolTip() const override;
-    [[nodiscard]] QIcon icon() const override;
-    [[nodiscard]] QSize minimumSize() const override;
-    void show(HostView& holder) override;
-    void hide() override;
-    void resize(HostSize size) override;
-    void setColor(const HostColor& color) override;
-
-private:
-    std::function<void(const QColor&)> _colorChosen;
-    QPointer<QColorDialog> _dialog;
+    std::unique_ptr<QtMirrored<HostView>> _holder;
+    std::vector<std::unique_ptr<PanelPage>> _pages;
+    int _currentIndex = -1;
+    HostColor _color = HostColor::whiteColor();
 };
 
 }  // namespace vantorel

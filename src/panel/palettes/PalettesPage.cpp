@@ -6,8 +6,7 @@
 
 namespace vantorel {
 
-PalettesPage::PalettesPage(HostFiles& files, PaletteFileStore& store, PalettesWidget::Choice choice)
-    : _files(files), _store(store), _choice(std::move(choice))
+PalettesPage::PalettesPage(HostFiles& files, PaletteFileStore& store) : _files(files), _store(store)
 {
 }
 
@@ -38,7 +37,12 @@ QSize PalettesPage::minimumSize() const
 
 void PalettesPage::show(HostView& holder)
 {
-    if (!_widget) _widget = new PalettesWidget(_files, _store, _choice);
+    if (!_widget) {
+        _widget = new PalettesWidget(_files, _store, [this](const HostColor& chosen) {
+            // The entries of a list have no opacity, so the panel's stays.
+            emit colorChosen(chosen.colorWithAlphaComponent(_color.alphaComponent()));
+        });
+    }
     _widget->setParent(widgetOf(&holder));
     _widget->show();
     resize(holder.frame().size());
@@ -61,6 +65,7 @@ void PalettesPage::resize(HostSize size)
 
 void PalettesPage::setColor(const HostColor& color)
 {
+    _color = color;
     if (_widget) _widget->setColor(color);
 }
 

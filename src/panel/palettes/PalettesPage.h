@@ -1,18 +1,19 @@
 #pragma once
 
-#include "panel/pages/PanelPages.h"
+#include "panel/pages/PanelPage.h"
 #include "panel/palettes/PalettesWidget.h"
+
+#include <QPointer>
 
 namespace vantorel {
 
 /// The page on which the user edits the colour lists that all pages share.
 class PalettesPage final : public PanelPage {
-    Q_DECLARE_TR_FUNCTIONS(PalettesPage)
+    Q_OBJECT
 
 public:
-    /// `files` and `store` must outlive the page. `choice` gets the colour that the user takes from
-    /// a list.
-    PalettesPage(HostFiles& files, PaletteFileStore& store, PalettesWidget::Choice choice);
+    /// `files` and `store` must outlive the page.
+    PalettesPage(HostFiles& files, PaletteFileStore& store);
     ~PalettesPage() override;
 
     [[nodiscard]] QString key() const override { return QStringLiteral("palettes"); }
@@ -28,7 +29,7 @@ public:
 private:
     HostFiles& _files;
     PaletteFileStore& _store;
-    PalettesWidget::Choice _choice;
+    HostColor _color = HostColor::whiteColor();
     QPointer<PalettesWidget> _widget;
 };
 

@@ -1,7 +1,6 @@
 #include "panel/widgets/ColorWell.h"
 
 #include "hosts/qt/QtColors.h"
-#include "panel/widgets/ColorClipboard.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -107,7 +106,7 @@ void ColorWell::dropEvent(QDropEvent* event)
     setDropIsNear(false);
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    if (_dropReaction) _dropReaction(colorFromMimeData(*event->mimeData()));
+    emit dropped(colorFromMimeData(*event->mimeData()));
 }
 
 }  // namespace vantorel

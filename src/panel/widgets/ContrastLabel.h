@@ -2,7 +2,6 @@
 
 #include "host/HostColor.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 
 namespace vantorel {
@@ -10,7 +9,7 @@ namespace vantorel {
 /// The contrast of the colour with the background colour, by WCAG 2.2: the ratio, and the best
 /// level that normal text reaches. The tool tip has all verdicts.
 class ContrastLabel final : public QLabel {
-    Q_DECLARE_TR_FUNCTIONS(ContrastLabel)
+    Q_OBJECT
 
 public:
     explicit ContrastLabel(QWidget* parent = nullptr);

@@ -77,9 +77,10 @@ void RecentColors::setCurrent(int index)
 
 void RecentColors::choose(int index)
 {
-    if (index < 0 || index >= shownCount() || !_choice) return;
+    if (index < 0 || index >= shownCount()) return;
+    // A copy: whoever takes the colour gives the row new colours.
     const HostColor color = _colors[static_cast<std::size_t>(index)];
-    _choice(color);
+    emit chosen(color);
 }
 
 bool RecentColors::event(QEvent* event)

@@ -2,10 +2,8 @@
 
 #include "host/HostColor.h"
 
-#include <QCoreApplication>
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 namespace vantorel {
@@ -13,20 +11,18 @@ namespace vantorel {
 /// A row of the last colours, the newest first, as many as there is room for. A click takes one, a
 /// drag carries it away. Keyboard: Left and Right, Home and End move, Space and Return take it.
 class RecentColors final : public QWidget {
-    Q_DECLARE_TR_FUNCTIONS(RecentColors)
+    Q_OBJECT
 
 public:
-    using Choice = std::function<void(const HostColor&)>;
-
     explicit RecentColors(QWidget* parent = nullptr);
 
     void setColors(std::vector<HostColor> colors);
-    void setChoice(Choice choice) { _choice = std::move(choice); }
-    /// The place of the colour under a point, or -1.
-    [[nodiscard]] int indexAt(QPoint point) const;
-    [[nodiscard]] QRect rectOfColor(int index) const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    /// The user has taken one of the colours.
+    void chosen(const HostColor& color);
 
 protected:
     bool event(QEvent* event) override;
@@ -38,11 +34,13 @@ protected:
 
 private:
     [[nodiscard]] int shownCount() const;
+    /// The index of the colour at a point, or -1.
+    [[nodiscard]] int indexAt(QPoint point) const;
+    [[nodiscard]] QRect rectOfColor(int index) const;
     void choose(int index);
     void setCurrent(int index);
 
     std::vector<HostColor> _colors;
-    Choice _choice;
     int _current = 0;
     int _pressed = -1;
     QPoint _pressedAt;

@@ -15,9 +15,7 @@ QString withKey(const QString& text, const QKeySequence& key)
 
 }  // namespace
 
-ChoiceBar::ChoiceBar(QWidget* parent, const std::function<void()>& choose,
-                     const std::function<void()>& cancel)
-    : QWidget(parent)
+ChoiceBar::ChoiceBar(QWidget* parent) : QWidget(parent)
 {
     auto* box = new QDialogButtonBox(this);
     QPushButton* chooseButton = box->addButton(tr("Choose"), QDialogButtonBox::AcceptRole);
@@ -27,8 +25,8 @@ ChoiceBar::ChoiceBar(QWidget* parent, const std::function<void()>& choose,
     cancelButton->setAutoDefault(false);
     chooseButton->setToolTip(withKey(tr("Choose"), Qt::CTRL | Qt::Key_Return));
     cancelButton->setToolTip(withKey(cancelButton->text().remove(u'&'), Qt::Key_Escape));
-    connect(box, &QDialogButtonBox::accepted, this, choose);
-    connect(box, &QDialogButtonBox::rejected, this, cancel);
+    connect(box, &QDialogButtonBox::accepted, this, &ChoiceBar::accepted);
+    connect(box, &QDialogButtonBox::rejected, this, &ChoiceBar::rejected);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(10, 2, 10, 6);
     row->addWidget(box);

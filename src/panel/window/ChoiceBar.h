@@ -1,20 +1,19 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QWidget>
-
-#include <functional>
 
 namespace vantorel {
 
 /// The buttons at the foot of a panel that is asked for one colour: Choose and Cancel.
 class ChoiceBar final : public QWidget {
-    Q_DECLARE_TR_FUNCTIONS(ChoiceBar)
+    Q_OBJECT
 
 public:
-    /// Both reactions must be set.
-    ChoiceBar(QWidget* parent, const std::function<void()>& choose,
-              const std::function<void()>& cancel);
+    explicit ChoiceBar(QWidget* parent);
+
+signals:
+    void accepted();
+    void rejected();
 };
 
 }  // namespace vantorel

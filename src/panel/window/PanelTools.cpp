@@ -1,5 +1,6 @@
 #include "panel/window/PanelTools.h"
 
+#include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
@@ -79,6 +80,16 @@ PanelTools::PanelTools(QWidget* parent)
     others->addWidget(_contrast);
     others->addWidget(_pick);
     others->addWidget(_copy);
+
+    setAccessibleRole(*_well, QAccessible::Graphic);
+    setAccessibleRole(*_backgroundWell, QAccessible::Graphic);
+    setAccessibleRole(*_recent, QAccessible::ColorChooser);
+    connect(_opacity, &QSlider::valueChanged, this, &PanelTools::opacityChosen);
+    connect(_recent, &RecentColors::chosen, this, &PanelTools::recentColorChosen);
+    connect(_well, &ColorWell::dropped, this, &PanelTools::colorDropped);
+    connect(_backgroundWell, &ColorWell::dropped, this, &PanelTools::backgroundDropped);
+    setColor(_color);
+    setBackground(_background);
 }
 
 void PanelTools::setActions(QAction& swap, QAction& pick, QAction& copy)
@@ -89,11 +100,6 @@ void PanelTools::setActions(QAction& swap, QAction& pick, QAction& copy)
     if (copy.menu() != nullptr) _copy->setPopupMode(QToolButton::MenuButtonPopup);
     for (QToolButton* button : {_swap, _pick, _copy})
         button->setAccessibleName(button->defaultAction()->text());
-}
-
-void PanelTools::setOpacityChoice(std::function<void(int)> choice)
-{
-    connect(_opacity, &QSlider::valueChanged, this, std::move(choice));
 }
 
 void PanelTools::setColor(const HostColor& color)
@@ -112,6 +118,11 @@ void PanelTools::setBackground(const HostColor& color)
     _background = color;
     _backgroundWell->setColor(color);
     showContrast();
+}
+
+void PanelTools::setRecentColors(const std::vector<HostColor>& colors)
+{
+    _recent->setColors(colors);
 }
 
 void PanelTools::showContrast()

@@ -5,7 +5,6 @@
 #include "panel/widgets/RecentColors.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QSlider>
 #include <QToolButton>
@@ -15,7 +14,7 @@ namespace vantorel {
 /// What stands below every page: the colour and the background colour, the opacity, the last
 /// colours, the contrast, and buttons to pick and to copy.
 class PanelTools final : public QWidget {
-    Q_DECLARE_TR_FUNCTIONS(PanelTools)
+    Q_OBJECT
 
 public:
     explicit PanelTools(QWidget* parent = nullptr);
@@ -23,13 +22,18 @@ public:
     void setColor(const HostColor& color);
     void setBackground(const HostColor& color);
 
-    [[nodiscard]] ColorWell& well() { return *_well; }
-    [[nodiscard]] ColorWell& backgroundWell() { return *_backgroundWell; }
-    [[nodiscard]] RecentColors& recentColors() { return *_recent; }
-    /// Called with the percentage that the user chooses.
-    void setOpacityChoice(std::function<void(int percent)> choice);
+    void setRecentColors(const std::vector<HostColor>& colors);
     /// The buttons show these actions; `copy` may have a menu.
     void setActions(QAction& swap, QAction& pick, QAction& copy);
+
+signals:
+    void opacityChosen(int percent);
+    /// The user has taken one of the last colours.
+    void recentColorChosen(const HostColor& color);
+    /// Something was dropped on the well of the colour.
+    void colorDropped(const ColorOffer& offer);
+    /// Something was dropped on the well of the background.
+    void backgroundDropped(const ColorOffer& offer);
 
 private:
     void showContrast();

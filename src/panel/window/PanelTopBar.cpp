@@ -47,6 +47,10 @@ PanelTopBar::PanelTopBar(QWidget* parent)
     _menuButton->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     row->addWidget(_name, 1);
     row->addWidget(_menuButton);
+    // Not `idClicked`: assistive technology toggles without a click.
+    connect(_pages, &QButtonGroup::idToggled, this, [this](int index, bool checked) {
+        if (checked) emit pageChosen(index);
+    });
     _remarkTimer.setSingleShot(true);
     connect(&_remarkTimer, &QTimer::timeout, this, [this] { showRemark({}); });
 }
@@ -61,15 +65,6 @@ void PanelTopBar::addPage(const QIcon& icon, const QString& name, const QString&
     const int index = static_cast<int>(_pages->buttons().size());
     _pages->addButton(button, index);
     static_cast<QHBoxLayout*>(layout())->insertWidget(index, button);
-}
-
-void PanelTopBar::setPageChoice(std::function<void(int)> choice)
-{
-    // Not `idClicked`: assistive technology toggles without a click.
-    connect(_pages, &QButtonGroup::idToggled, this,
-            [choice = std::move(choice)](int id, bool checked) {
-                if (checked) choice(id);
-            });
 }
 
 void PanelTopBar::showPage(int index, const QString& name)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QLabel>
 
 #include <utility>
@@ -11,7 +10,7 @@ namespace vantorel {
 /// A sheet over the whole panel that lists the keyboard shortcuts. Any key or click closes it; it
 /// ends itself then.
 class ShortcutOverlay final : public QLabel {
-    Q_DECLARE_TR_FUNCTIONS(ShortcutOverlay)
+    Q_OBJECT
 
 public:
     ShortcutOverlay(const std::vector<std::pair<QString, QString>>& rows, QWidget& window);

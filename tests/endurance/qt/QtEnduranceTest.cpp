@@ -35,7 +35,7 @@ TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
         eventsToEndure(5'000), [&] { user.act(); },
         [&] {
             // A large window needs much memory.
-            _window->showPage(0);
+            _window->pages().showPage(0);
             _window->resizeToPage({260, 340});
             QApplication::processEvents();
         });
@@ -46,9 +46,9 @@ TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
     // One is the event loop's own, one the bus connection's.
     EXPECT_LE(run.handlesAfter.size() - handles.size(),
               2U + static_cast<unsigned>(QThread::idealThreadCount()));
-    _window->showPage(0);
-    _window->chooseColor(hostColorFrom(QColor(0x33, 0x66, 0x99)));
-    EXPECT_EQ(_window->chosenColor(), QColor(0x33, 0x66, 0x99));
+    _window->pages().showPage(0);
+    _window->colors().setColor(hostColorFrom(QColor(0x33, 0x66, 0x99)));
+    EXPECT_EQ(chosenColor(), QColor(0x33, 0x66, 0x99));
 }
 
 }  // namespace

@@ -52,31 +52,31 @@ void QtUser::act()
 {
     _inLoops.start();
     // What is done on the page of palettes makes them larger, and so the memory that they need.
-    const bool mayEdit = _window.currentPicker() != nullptr;
+    const bool mayEdit = _window.pages().currentPicker() != nullptr;
     constexpr std::uint64_t lastOfAll = 13;
     constexpr std::uint64_t lastThatEditsNothing = 6;
     switch (_choices.integer(0, mayEdit ? lastOfAll : lastThatEditsNothing)) {
         case 0:
-            _window.chooseColor(color());
+            _window.colors().setColor(color());
             break;
         case 1:
-            _window.undo();
+            _window.colors().undo();
             break;
         case 2:
-            _window.redo();
+            _window.colors().redo();
             break;
         case 3:
-            _window.swapColors();
+            _window.colors().swap();
             break;
         case 4:
-            _choices.oneIn(2) ? _window.copyColor() : _window.pasteColor();
+            _choices.oneIn(2) ? _window.exchange().copy() : _window.exchange().paste();
             break;
         case 5:
             if (_choices.oneIn(10)) {
-                _window.showPage(static_cast<int>(
-                    _choices.integer(0, static_cast<unsigned>(_window.pageCount() - 1))));
+                _window.pages().showPage(static_cast<int>(
+                    _choices.integer(0, static_cast<unsigned>(_window.pages().count() - 1))));
             } else {
-                _window.showPage(0);
+                _window.pages().showPage(0);
             }
             break;
         case 6:

@@ -1,0 +1,124 @@
+#include "panel/pages/PluginPage.h"
+
+#include "hosts/qt/QtButton.h"
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtTextField.h"
+#include "hosts/qt/TextScale.h"
+
+#include <vector>
+
+namespace vantorel {
+namespace {
+
+void collectTextFields(HostView& view, std::vector<QtTextField*>& fields)
+{
+    if (auto* field = dynamic_cast<QtTextField*>(&view)) fields.push_back(field);
+    for (HostView* subview : view.subviews())
+        collectTextFields(*subview, fields);
+}
+
+}  // namespace
+
+PluginPage::PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker)
+    : _plugin(plugin), _picker(std::move(picker))
+{
+}
+
+PluginPage::~PluginPage()
+{
+    delete _message.data();
+}
+
+QString PluginPage::identifier() const
+{
+    return QString::fromUtf8(_plugin.plugin().identifier);
+}
+
+QString PluginPage::key() const
+{
+    return identifier().section(u'.', -1);
+}
+
+QString PluginPage::name() const
+{
+    return QString::fromUtf8(_plugin.plugin().displayName);
+}
+
+QString PluginPage::toolTip() const
+{
+    return qStringFrom(_picker->buttonToolTip());
+}
+
+QIcon PluginPage::icon() const
+{
+    return iconFromSvg(_picker->buttonImage());
+}
+
+QSize PluginPage::minimumSize() const
+{
+    const HostSize size = _picker->minContentSize();
+    return {static_cast<int>(size.width), static_cast<int>(size.height)};
+}
+
+void PluginPage::show(HostView& holder)
+{
+    if (!_viewWasAskedFor) {
+        _viewWasAskedFor = true;
+        try {
+            _view = _picker->provideNewView(true);
+        } catch (...) {
+            // It may be anybody's; the other pages must stay.
+            _view = nullptr;
+        }
+        if (_view == nullptr) {
+            _message = new QLabel(tr("The page \"%1\" could not be made. Its interface file is "
+                                     "missing or damaged; installing %2 again may help.")
+                                      .arg(name(), QString::fromStdString(_plugin.file())));
+            _message->setWordWrap(true);
+            _message->setMargin(12);
+            _message->setTextFormat(Qt::PlainText);
+        }
+    }
+    if (_view != nullptr) {
+        _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
+        holder.addSubview(*_view);
+        _picker->viewSizeChanged(_view);
+    } else {
+        _message->setParent(widgetOf(&holder));
+        _message->show();
+        resize(holder.frame().size());
+    }
+}
+
+void PluginPage::hide()
+{
+    if (_view != nullptr) _view->removeFromSuperview();
+    if (_message) _message->setParent(nullptr);
+}
+
+void PluginPage::resize(HostSize size)
+{
+    if (_view != nullptr) {
+        _view->setFrame({0, 0, size.width, size.height});
+        _picker->viewSizeChanged(_view);
+    }
+    if (_message) {
+        _message->setGeometry(0, 0, scaled(size.width), scaled(size.height));
+    }
+}
+
+void PluginPage::setColor(const HostColor& color)
+{
+    _picker->setColor(color);
+}
+
+void PluginPage::finishEditing()
+{
+    if (_view == nullptr) return;
+    std::vector<QtTextField*> fields;
+    collectTextFields(*_view, fields);
+    for (QtTextField* field : fields)
+        field->finishEditing();
+}
+
+}  // namespace vantorel

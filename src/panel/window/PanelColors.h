@@ -1,0 +1,56 @@
+#pragma once
+
+#include "panel/window/ColorHistory.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+
+namespace vantorel {
+
+/// The colours that the panel works with: the colour, the background that its contrast is measured
+/// against, the steps to undo, and the last colours.
+class PanelColors final : public QObject {
+    Q_OBJECT
+
+public:
+    PanelColors() { _clock.start(); }
+
+    [[nodiscard]] const HostColor& color() const { return _color; }
+    [[nodiscard]] const HostColor& background() const { return _background; }
+    [[nodiscard]] bool canUndo() const { return _history.canUndo(); }
+    [[nodiscard]] bool canRedo() const { return _history.canRedo(); }
+    /// Each colour once, the newest first.
+    [[nodiscard]] const std::vector<HostColor>& recent() const { return _history.recent(); }
+    void setRecent(const std::vector<HostColor>& colors);
+    /// Puts the colour first among the last ones, because it was used.
+    void rememberColor();
+    /// Takes back the last change of the history, as if the colour had not changed.
+    void forgetLastChange();
+
+public slots:
+    void setColor(const HostColor& color);
+    void setBackground(const HostColor& color);
+    void setOpacity(int percent);
+    void undo();
+    void redo();
+    /// Exchanges the colour and the background.
+    void swap();
+
+signals:
+    /// The colour was set, perhaps to what it was. Pages show it again even then, for example in
+    /// place of what was typed.
+    void colorSet(const HostColor& color);
+    /// The colour is another.
+    void colorChanged(const HostColor& color);
+    void backgroundChanged(const HostColor& color);
+    /// The last colours are others, or there is more or less to undo.
+    void historyChanged();
+
+private:
+    HostColor _color = HostColor::whiteColor();
+    HostColor _background = HostColor::whiteColor();
+    ColorHistory _history{_color};
+    QElapsedTimer _clock;
+};
+
+}  // namespace vantorel

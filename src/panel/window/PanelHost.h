@@ -1,0 +1,35 @@
+#pragma once
+
+#include "hosts/qt/QtColorPanel.h"
+#include "panel/pages/PanelPages.h"
+#include "panel/window/PanelColors.h"
+
+namespace vantorel {
+
+class PanelWindow;
+
+/// The panel as pickers know it: its colour, its frame on the screen, and drags that begin in it.
+class PanelHost final : public QtColorPanel {
+public:
+    /// All must outlive the host.
+    PanelHost(QtDesktop& desktop, PanelWindow& window, PanelColors& colors, PanelPages& pages);
+
+    using QtColorPanel::pageDidAppear;
+
+    [[nodiscard]] std::optional<HostColor> color() const override { return _colors.color(); }
+    void setColor(const std::optional<HostColor>& color) override;
+    [[nodiscard]] HostRect frame() const override;
+    void setFrame(HostRect wanted, bool display) override;
+    void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
+                   HostView& source) override;
+
+protected:
+    [[nodiscard]] HostView* pageView() const override;
+
+private:
+    PanelWindow& _window;
+    PanelColors& _colors;
+    PanelPages& _pages;
+};
+
+}  // namespace vantorel
