@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every command and option: what it writes, and how it refuses what is wrong.
+"""Tests every command and option: its output, and its errors for wrong arguments.
 
     commands_test.py PROGRAM
 """
@@ -18,7 +18,7 @@ SETTINGS = """{
 }
 """
 
-# Arguments, standard input, what standard output is (or, as a pattern, holds).
+# Arguments, standard input, and standard output (or a pattern that it contains).
 EXAMPLES = [
     (["show", "#ff8000"], "", re.compile(r"\Ahex: #FF8000\nrgb: rgb\(255, 128, 0\)\nhsl: hsl\(30.12 100% 50%\)\n")),
     (["show", "red"], "", re.compile(r"components:\n  Hex: FF 00 00\n  Integer: 255 0 0\n  Fraction: 1.000 0.000 0.000\n")),
@@ -72,7 +72,7 @@ EXAMPLES = [
     (["-h"], "", re.compile(r"\AUsage: vantorel COMMAND")),
 ]
 
-# Options that other tests or test files try.
+# Options that other tests cover.
 TRIED_ELSEWHERE = {"list import": {"--name", "--yes"}, "list publish": {"--yes", "--undo"},
                    "palette": {"--png", "--size"}, "pick": {"--copy"}, "list export": {"--output"}}
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Holds what is told of colours against conversions that are not ours: those of ImageMagick, of Python's
-colorsys, and of the formulas of CSS Color 4; and names against a plain walk over the list.
+"""Compares colour conversions with independent ones: ImageMagick, Python's colorsys and the formulas of CSS
+Color 4. Compares names with a plain search of the list.
 
     conversions_test.py PROGRAM CONVERT
 """
@@ -39,7 +39,7 @@ class Conversions(ProgramTest):
     def setUpClass(cls):
         pixels = b"".join(bytes.fromhex(text[1:] if len(text) == 7 else "".join(c * 2 for c in text[1:])) for text in SHORT + LONG)
         cls.count = len(SHORT) + len(LONG)
-        # Not one long row: policies limit the width of pictures.
+        # Not a single row, because policies limit the width of pictures.
         width = 400
         height = -(-cls.count // width)
         pixels += bytes(3 * (width * height - cls.count))
@@ -51,14 +51,14 @@ class Conversions(ProgramTest):
         self.assertEqual(len(self.rows), self.count)
         expected = "".join(f"{code}\trgb({red}, {green}, {blue})\n" for red, green, blue, code in self.rows)
         self.assertEqual(self.told("show", stdin="\n".join(SHORT + LONG)), expected)
-        # And back from decimals and percentages.
+        # Decimals and percentages convert back.
         self.assertEqual(self.told("show", stdin="".join(f"rgb({r}, {g}, {b})\n" for r, g, b, _ in self.rows)), expected)
         self.assertEqual(self.told("show", stdin="".join(
             "rgb({}% {}% {}%)\n".format(*(int(n) / 2.55 for n in row[:3])) for row in self.rows)), expected)
 
     def test_names_read_as_imagemagick_reads_them(self):
         names = [row.split("\t")[1] for row in self.told("list", "SVG Keyword").splitlines()]
-        # The picker's own list has keys that no other program knows.
+        # The picker's list has keys that other programs do not know.
         known = [name for name in names if name not in ("atniquewhite", "transparent")]
         run = subprocess.run([CONVERT] + [f"xc:{name}" for name in known] + ["+append", "-depth", "8", "rgb:-"],
                              capture_output=True, timeout=120)
@@ -67,7 +67,7 @@ class Conversions(ProgramTest):
         self.assertGreater(len(known), 130)
         codes = [f"#{run.stdout[i:i + 3].hex().upper()}" for i in range(0, len(run.stdout), 3)]
         told = [line.split("\t")[0] for line in self.told("show", stdin="\n".join(known)).splitlines()]
-        # Some names mean other colours to X11 than to CSS; see CSS Color 4, section 6.1.
+        # Some names are different colours in X11 and CSS; see CSS Color 4, section 6.1.
         differing = [name for name, ours, theirs in zip(known, told, codes) if ours != theirs]
         self.assertLessEqual(set(differing), {"gray", "grey", "green", "maroon", "purple"})
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Runs the examples of the document: lines behind "$ " are typed into a shell, the lines that follow are what appears.
-A line "..." stands for any lines.
+"""Runs the examples of the document. Lines after "$ " are shell commands; the following lines are their output.
+A line "..." matches any lines.
 
     document_test.py PROGRAM DOCUMENT
 """

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""A published list, opened by GIMP itself. Skipped where GIMP is not installed: it is large.
+"""Publishes lists and opens them in GIMP. Skipped if GIMP is not installed, because it is large.
 
     gimp_test.py PROGRAM
 
-By hand: tests/cli/gimp_test.py build/release/bin/vantorel prints what GIMP tells of each palette.
+By hand: tests/cli/gimp_test.py build/release/bin/vantorel prints what GIMP reads of each palette.
 """
 import re
 import shutil
@@ -12,7 +12,7 @@ from program import ProgramTest, subprocess, sys, unittest
 
 GIMP = shutil.which("gimp-console")
 
-# GIMP writes its messages to standard error, one and an empty line each.
+# GIMP writes its messages to standard error, each followed by an empty line.
 TELL = """
 (define (tell name)
   (let ((count (car (gimp-palette-get-info name))) (i 0))
@@ -36,9 +36,9 @@ class GimpTest(ProgramTest):
     def setUp(self):
         super().setUp()
         self.environment["LC_ALL"] = "C.UTF-8"
-        # Where GIMP looks for what it is made of; the palettes of the machine come with it.
+        # GIMP needs its own data; installed palettes come with it.
         self.environment["XDG_DATA_DIRS"] = "/usr/local/share:/usr/share"
-        # The first start makes the folder for palettes of one's own.
+        # The first start creates the folder for the user's palettes.
         self.gimp()
 
     def gimp(self, *batches):
@@ -49,8 +49,8 @@ class GimpTest(ProgramTest):
         return run.stdout.decode() + run.stderr.decode()
 
     def palettes_in_gimp(self):
-        """The colours of each list in their order; none where GIMP knows no such palette."""
-        # No batch knows what another has defined.
+        """The colours of each list in order; empty if GIMP does not know the palette."""
+        # Definitions of one batch are unknown in the next.
         told = self.gimp(*(f'{TELL} (tell "{name}")' for name in LISTS))
         palettes = {name: None for name in re.findall(r"Palette '(.*)' not found", told)}
         for line in re.findall(r"script-fu-Warning: (.*)", told):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Input and surroundings that nobody wants.
+"""Hostile input and environments.
 
     hostile_test.py PROGRAM
 """
@@ -33,7 +33,7 @@ class Hostile(ProgramTest):
         process = subprocess.Popen([PROGRAM, "show"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=self.environment, bufsize=0)
         for piece in (b"#0", b"10203\n#", b"0", b"40506", b"\n\n"):
             process.stdin.write(piece)
-        # What has been asked is answered before the next question.
+        # Each line is answered before the next is read.
         self.assertEqual(os.read(process.stdout.fileno(), 1000)[:8], b"#010203\t")
         rest, _ = process.communicate(b"red")
         self.assertTrue(rest.endswith(b"#FF0000\trgb(255, 0, 0)\n"))
@@ -45,7 +45,7 @@ class Hostile(ProgramTest):
             for command in ("show", "name"):
                 run = self.run_program(command, stdin=stdin)
                 self.assertIn(run.returncode, (0, 2))
-                # Not as many messages as there are lines.
+                # The number of messages is limited.
                 self.assertLessEqual(run.stderr.count(b"\n"), 101)
                 self.assertNotRegex(run.stderr, rb"[\x00-\x09\x0b-\x1f\x7f]")
 
@@ -99,7 +99,7 @@ class Hostile(ProgramTest):
                     process.stdin.close()
                 self.assertEqual(process.stderr.read(), b"")
                 process.stderr.close()
-                # Where the signal is ignored there is a status to tell it.
+                # If the signal is ignored, the exit status reports the failure.
                 self.assertEqual(process.wait(60), -signal.SIGPIPE if restore else 2)
 
     def test_standard_output_that_cannot_be_written(self):
@@ -117,7 +117,7 @@ class Hostile(ProgramTest):
                                  "to read from\n"))
 
     def test_no_message_lands_in_a_file(self):
-        # Standard error is closed, so the next file that is opened would get its number.
+        # Standard error is closed, so the next opened file would get its number.
         file = os.path.join(self.root, "x.css")
         run = self.shell(f'"$0" list export "CSS Keyword" --format css --output {file} 2>&- <&-; "$0" show nope 2>&-')
         self.assertEqual(run.returncode, 2)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Colour lists: where they are found, export, import, and pictures.
+"""Tests colour lists: where they are found, export, import and pictures.
 
     lists_test.py PROGRAM
 """
@@ -14,7 +14,7 @@ from program import CSS_KEYWORD_COUNT, ProgramTest, os, sys
 ROWS = ["255   0   0\tred", "  0   0   0\tBlack & <White>", "  1   2   3\tzażółć 🎨", "  9   9   9\t*/ odd; } -- $x // y",
         "200 100   0\t123", "200 100   1\t---", "  4   5   6\tRed"]
 KEYS = [row.split("\t")[1] for row in ROWS]
-# What stands in a comment of CSS cannot hold its end.
+# Text in a CSS comment must not contain the comment's end.
 KEYS_IN_CSS = [key.replace("*/", "* /") for key in KEYS]
 SVG = "{http://www.w3.org/2000/svg}"
 
@@ -136,7 +136,7 @@ class Lists(ProgramTest):
             self.assertEqual(len(paths), 6 * rings * rings)
             numbers = [float(n) for path in paths for n in path.get("d").strip("MZ").replace("L", " ").split()]
             self.assertTrue(all(0 <= x <= 400 for x in numbers[::2]) and all(0 <= y <= 300 for y in numbers[1::2]))
-            # The first side runs from red to yellow, up the left.
+            # The first side runs from red to yellow, up the left edge.
             self.assertEqual(paths[0].get("fill"), "#ff0000")
 
     def test_imports_of_many_forms(self):
@@ -196,7 +196,7 @@ class Lists(ProgramTest):
 
 
 def ase(*colors):
-    """A swatch exchange file of colours without a group."""
+    """Returns a swatch exchange file of colours without a group."""
     data = b"ASEF" + struct.pack(">HHI", 1, 0, len(colors))
     for model, values, name in colors:
         text = (name + "\0").encode("utf-16-be")
@@ -206,7 +206,7 @@ def ase(*colors):
 
 
 def decoded_png(data):
-    """Width, height, and a function of x and y that gives the colour there."""
+    """Returns width, height, and a function that returns the colour at x and y."""
     assert data[:8] == b"\x89PNG\r\n\x1a\n"
     place, packed = 8, b""
     while place < len(data):

@@ -1,4 +1,4 @@
-"""Runs the program in homes that are made up for each test."""
+"""Runs the program in a temporary home for each test."""
 import os
 import shutil
 import subprocess
@@ -19,7 +19,7 @@ class ProgramTest(unittest.TestCase):
         self.environment = {
             "HOME": self.home,
             "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
-            # What is installed on the machine is not part of the test.
+            # Files installed on the machine must not affect the test.
             "XDG_DATA_DIRS": os.path.join(self.root, "nothing"),
             "XDG_CONFIG_DIRS": os.path.join(self.root, "nothing"),
         }
@@ -55,18 +55,18 @@ class ProgramTest(unittest.TestCase):
         return run
 
     def told(self, *arguments, stdin=b"", **options):
-        """Standard output of a run in which all goes well."""
+        """Returns the standard output of a run that must succeed."""
         run = self.run_program(*arguments, stdin=stdin, **options)
         self.assertEqual((run.returncode, run.stderr.decode()), (0, ""), arguments)
         return run.stdout.decode()
 
     def refusal(self, *arguments, stdin=b"", **options):
-        """The error message of a run that fails as it should."""
+        """Returns the error message of a run that must fail."""
         run = self.run_program(*arguments, stdin=stdin, **options)
         message = run.stderr.decode()
         self.assertEqual(run.returncode, 2, (arguments, message))
         for line in message.splitlines():
-            # What is wrong, and what would be right.
+            # What is wrong, and what to do.
             self.assertRegex(line, r"^vantorel: .+: .+", arguments)
         self.assertNotEqual(message, "", arguments)
         return message

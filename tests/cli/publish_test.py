@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Publishing colour lists to graphics programs, and taking that back.
+"""Tests publishing colour lists to graphics programs, and undoing it.
 
     publish_test.py PROGRAM
 """
@@ -27,7 +27,7 @@ class Publishing(ProgramTest):
         return self.path(place, "Mine.gpl")
 
     def answer(self, text, *arguments):
-        """The status and what a person sees who answers at a terminal."""
+        """Returns the exit status and the terminal's contents for a user who answers."""
         controller, terminal = pty.openpty()
         process = subprocess.Popen([PROGRAM, *arguments], stdin=terminal, stdout=terminal, stderr=terminal, env=self.environment)
         os.close(terminal)
@@ -81,13 +81,13 @@ class Publishing(ProgramTest):
                 message = self.refusal("list", "publish", "Mine")
                 self.assertIn('is there and differs: "--yes" replaces it', message)
                 self.assertEqual(self.read(path), old)
-                # The folder that has none got its file all the same.
+                # The folder without a file got one nevertheless.
                 self.assertEqual(self.read(self.target(PLACES[1])), STRICT)
                 self.assertIn("replaced for GIMP", self.told("list", "publish", "Mine", "--yes"))
                 self.assertEqual(self.read(path), STRICT)
                 self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"restored: {path}\n")
                 self.assertEqual(self.read(path), old)
-                # The publish before that.
+                # The publish before the last one.
                 self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"removed: {self.target(PLACES[1])}\n")
 
     def test_at_a_terminal_it_asks(self):
@@ -119,7 +119,7 @@ class Publishing(ProgramTest):
         self.assertEqual((run.returncode, run.stdout.decode()), (2, f"removed: {self.target(PLACES[1])}\n"))
         self.assertEqual(run.stderr.decode().count("has been changed since"), 2)
         self.assertEqual(self.read(self.target(PLACES[0])), STRICT + b"9 9 9\tmy own\n")
-        # Once it is as it was published, it can be taken back after all.
+        # With the published contents restored, it can be undone after all.
         self.write(self.target(PLACES[2]), STRICT)
         self.write(self.target(PLACES[0]), STRICT)
         self.told("list", "publish", "--undo", "Mine")

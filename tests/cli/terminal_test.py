@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What differs at a terminal: swatches, progress, and what must not be sent there.
+"""Tests output to a terminal: swatches, progress, and escape sequences that must not reach it.
 
     terminal_test.py PROGRAM
 """
@@ -15,7 +15,7 @@ SWATCH = "\x1b[48;2;255;128;0m      \x1b[0m "
 
 class Terminal(ProgramTest):
     def at_terminal(self, *arguments, **variables):
-        """The status, and what appears, when standard output is a terminal."""
+        """Returns the exit status and the output when standard output is a terminal."""
         controller, terminal = pty.openpty()
         process = subprocess.Popen([PROGRAM, *arguments], stdin=subprocess.DEVNULL, stdout=terminal, stderr=terminal,
                                    env={**self.environment, **variables})
@@ -37,7 +37,7 @@ class Terminal(ProgramTest):
         for variables in ({}, {"COLORTERM": "yes"}, {"COLORTERM": "truecolor", "NO_COLOR": "1"},
                           {"COLORTERM": "truecolor", "TERM": "dumb"}):
             self.assertNotIn("\x1b", self.at_terminal("show", "#ff8000", **variables)[1], variables)
-        # Set but empty is as good as not set.
+        # Set but empty counts as not set.
         self.assertIn("\x1b", self.at_terminal("show", "red", COLORTERM="truecolor", NO_COLOR="")[1])
         self.assertIn("\x1b[48;2;255;0;0m", self.at_terminal("list", "CSS Keyword", COLORTERM="truecolor")[1])
 

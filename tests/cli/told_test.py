@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The manual page and the completions, as the programs that read them take them.
+"""Tests the manual page and the completions with the programs that read them.
 
     told_test.py PROGRAM
 """
@@ -42,7 +42,7 @@ class Told(ProgramTest):
     def test_mandoc_finds_nothing_to_warn_of(self):
         self.need("mandoc")
         page = self.write(os.path.join(self.root, "vantorel.1"), self.told("manpage"))
-        # The page has no date, so that a build can be repeated.
+        # The page has no date, so that builds are reproducible.
         run = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", page], capture_output=True, timeout=60)
         problems = [line for line in run.stdout.decode().splitlines() if "missing date" not in line]
         self.assertEqual(problems, [])

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""tools/check-layers on small trees with one thing wrong each.
+"""Tests tools/check-layers on small trees, each with one mistake.
 
     check_layers_test.py CHECK_LAYERS
 """

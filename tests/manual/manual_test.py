@@ -1,18 +1,18 @@
 #!/usr/bin/env python3
-"""Holds the manual against the program.
+"""Compares the manual with the program.
 
     manual_test.py DRIVER PAGE INTERFACE_FILE
 
-Names come from the driver and the interface file, examples from the page; what the page says of an
-example must be what the program does with it. Attributes tell which element is an example of what:
+Names come from the driver and the interface file, examples from the page. The program must do what the page
+says of each example. Attributes mark the elements:
 
     data-control="NAME"         explains the control
     data-marks="NAME"           a number on a picture, near the control
-    data-enters="FIELD"         a row: what is entered, the hex code that comes of it
-    data-component="DISPLAY"    a row: display, form, what is entered for red, red's hex digits
+    data-enters="FIELD"         a row: the entry, and the resulting hex code
+    data-component="DISPLAY"    a row: display, form, the entry for red, and red's hex digits
     data-typed="TEXT"           the RGB field's text after TEXT has been typed into it
     data-drag="TYPE"            a row: type, content, kind, the text for the example colour
-    data-format, data-vars      a row: a place of a format, what it gives for red
+    data-format, data-vars      a row: a placeholder of a format, and its text for red
     data-list="NAME"            a built-in list, with its number of colours in data-count
 """
 import html.parser
@@ -29,13 +29,13 @@ VOID = {"meta", "img", "br", "hr"}
 EXAMPLE_COLOR = [1, 127 / 255, 80 / 255, 1]
 EXAMPLE_COMPONENTS = [255, 127, 80]
 OPEN = {"op": "open", "panel": [0, 0, 320, 372], "color": EXAMPLE_COLOR}
-# A panel gives its page this many points less at the top and the bottom.
+# Height of the bar above the page in points, and the size of the window.
 TOP_BAR, WINDOW = 32, (320, 426)
 LARGEST_PICTURE = 60_000
 
 
 def ask(*requests):
-    """The replies to requests of one run of the driver."""
+    """Returns the replies to requests in one run of the driver."""
     lines = "".join(json.dumps(request) + "\n" for request in requests)
     run = subprocess.run([DRIVER], input=lines.encode(), capture_output=True, check=True)
     replies = [json.loads(line) for line in run.stdout.decode().splitlines()]
@@ -119,7 +119,7 @@ def by_id(name):
 
 
 def frames(state):
-    """The frame of every control, by name."""
+    """Returns the frame of every control, by name."""
     return {name: entry["frame"] for kind in ("fields", "popUps", "buttons", "views") for name, entry in state[kind].items()}
 
 

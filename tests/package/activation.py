@@ -1,7 +1,7 @@
-"""The panel that the bus starts for a call: what it shows, and how long it stays.
+"""Tests a panel that the bus starts for a call: what it shows, and how long it runs.
 
-Usage: activation.py PANEL SCRATCH, on an X server of its own, XDG_DATA_DIRS leading to the panel's
-service file.
+Usage: activation.py PANEL SCRATCH, on a separate X server, with XDG_DATA_DIRS leading to the
+panel's service file.
 """
 
 import os
@@ -24,7 +24,7 @@ class ActivationTest(unittest.TestCase):
         self.addCleanup(self.session.close)
 
     def call(self, method, signature="", *values):
-        """As any program calls: the bus may start who is called."""
+        """Calls as any program does, so that the bus may start the panel."""
         reply = self.session.client.call_sync(
             NAME, PATH, INTERFACE, method, GLib.Variant(f"({signature})", values), None,
             Gio.DBusCallFlags.NONE, PATIENCE * 1000, None)
@@ -66,7 +66,7 @@ class ActivationTest(unittest.TestCase):
         self.call("Show")
         first = self.process()
         eventually(shown_windows, "the window")
-        # Longer than it waits for another call.
+        # Longer than the panel waits for another call.
         with self.assertRaises(AssertionError):
             eventually(lambda: self.session.owner() is None, "no end", 13)
         self.assertEqual(self.process(), first)

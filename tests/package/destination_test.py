@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""An installation for another place than the one it is written to, as packages are made.
+"""Tests an installation into a staging folder, as for packages.
 
     destination_test.py TREE SOURCES BUILD
 """

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What is installed, as the programs of the desktop and the shells take it.
+"""Tests the installed files with the programs of the desktop and the shells.
 
     files_test.py TREE SOURCES BUILD
 """
@@ -112,7 +112,7 @@ class ManualPageTest(TreeTest):
         self.need("mandoc")
         for name in ("vantorel", "vantorel-panel"):
             run = self.run_tool("mandoc", "-T", "lint", "-W", "warning", f"{TREE}/share/man/man1/{name}.1")
-            # The pages have no date, so that a build can be repeated.
+            # The pages have no date, so that builds are reproducible.
             self.assertEqual([line for line in run.stdout.splitlines() if "missing date" not in line], [], name)
 
     def test_the_panels_page_explains_every_option_as_its_help_does(self):

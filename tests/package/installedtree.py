@@ -1,4 +1,4 @@
-"""What the tests of an installed tree share.
+"""Shared code of the tests of an installed tree.
 
     NAME_test.py TREE SOURCES BUILD
 """
@@ -44,7 +44,7 @@ class TreeTest(unittest.TestCase):
                               check=False, env=self.environment, **options)
 
     def passes(self, *words):
-        """Runs a tool that finds nothing to complain of, and returns what it prints."""
+        """Runs a tool that must succeed without complaints, and returns its output."""
         self.need(words[0])
         run = self.run_tool(*words)
         self.assertEqual((run.returncode, run.stderr), (0, ""), run.stdout)
@@ -53,5 +53,5 @@ class TreeTest(unittest.TestCase):
 
 def main():
     failed = not unittest.main(argv=sys.argv[:1], exit=False).result.wasSuccessful()
-    # A tool that is missing must be seen.
+    # A missing tool must be reported.
     sys.exit(1 if failed else MISSING_TOOL if missing else 0)

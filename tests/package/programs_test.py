@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The installed programs, started from the tree they were installed into.
+"""Tests the installed programs in the tree they were installed into.
 
     programs_test.py TREE SOURCES BUILD
 """
@@ -33,7 +33,7 @@ class ProgramsTest(TreeTest):
             self.assertTrue(picture.startswith(b"\x89PNG"))
 
     def test_a_sandbox_in_which_the_administrator_is_unknown_has_the_installed_page(self):
-        """As in a Flatpak that is installed for the whole system."""
+        """As in a Flatpak installed for the whole system."""
         if os.geteuid() != 0:
             self.skipTest("it takes root to own what another user runs")
         visitor = 54321

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The recipes of packages for other distributions agree with the project and name what it installs.
+"""Checks that the recipes for other distributions agree with the project and list the files it installs.
 
     recipes_test.py TREE SOURCES BUILD
 """
@@ -18,7 +18,7 @@ FLATPAK = f"{PACKAGING}/{ID}.json"
 SPEC = f"{PACKAGING}/vantorel.spec"
 PKGBUILD = f"{PACKAGING}/PKGBUILD"
 
-# Fedora's, below the prefix.
+# Fedora's folders below the prefix.
 SPEC_FOLDERS = {"_bindir": "bin", "_datadir": "share", "_docdir": "share/doc", "_includedir": "include",
                 "_mandir": "share/man", "_metainfodir": "share/metainfo", "_prefix": "."}
 
@@ -91,7 +91,7 @@ class FlatpakTest(TreeTest):
 
 class SpecTest(TreeTest):
     def packaged(self):
-        """The patterns of the %files sections, below the prefix."""
+        """Returns the patterns of the %files sections, below the prefix."""
         lines = [line for section in re.findall(r"^%files.*\n((?:[%/].*\n)+)", text_of(SPEC), re.M)
                  for line in section.splitlines() if not line.startswith("%doc ")]
         library_folder = os.path.dirname(next(
@@ -122,7 +122,7 @@ class PkgbuildTest(TreeTest):
         folder = os.path.join(self.scratch, "packaging")
         os.mkdir(folder)
         shutil.copy(PKGBUILD, folder)
-        # makepkg refuses to run as root, and outside Arch there is no pacman that it could ask.
+        # makepkg does not run as root, and outside Arch there is no pacman that it could ask.
         words = ["makepkg", "--printsrcinfo"]
         if os.geteuid() == 0:
             for path in (self.scratch, folder):

@@ -1,6 +1,6 @@
 """Walks the panel's tree of accessible objects, and operates the picker through it.
 
-Usage: accessibility.py PANEL, on an X server and a session bus of its own.
+Usage: accessibility.py PANEL, on a separate X server and session bus.
 """
 
 import subprocess
@@ -12,9 +12,9 @@ from gi.repository import GLib
 
 PATIENCE = 15  # seconds
 
-# What only holds other things need not be named.
+# Pure containers need no name.
 GROUNDS = {"filler", "panel"}
-# What stands for a widget of which nothing is known.
+# Roles of a widget without accessibility information.
 NO_ROLES = {"unknown", "invalid", "redundant object", "extended"}
 
 BOTH_FACES = [
@@ -55,7 +55,7 @@ SETTINGS_FACE = BOTH_FACES + [
 
 
 def eventually(condition, what):
-    """Waits until the condition holds, and returns what it gives."""
+    """Waits until the condition is true, and returns its value."""
     end = time.monotonic() + PATIENCE
     while True:
         while GLib.MainContext.default().iteration(False):
@@ -76,13 +76,13 @@ def is_showing(node):
 
 
 def role_of(node):
-    """The name of its role, as AT-SPI 2.56 has it; 2.46 says "push button" for "button"."""
+    """The role's name in AT-SPI 2.56; 2.46 has "push button" for "button"."""
     role = node.getRoleName()
     return "button" if role == "push button" else role
 
 
 def walk(node):
-    """Everything on show below a node."""
+    """Returns all visible objects below a node."""
     for child in node:
         if child is not None and is_showing(child):
             yield child
@@ -147,10 +147,10 @@ def press_keys(*keys):
 
 
 def faults_of(node):
-    """What is wrong with one accessible object."""
+    """Returns the problems of one accessible object."""
     role, name = role_of(node), node.name
     interfaces = pyatspi.listInterfaces(node)
-    # Every widget has the interface of actions, be it without any.
+    # Every widget has the action interface, even without actions.
     acts = "Action" in interfaces and node.queryAction().nActions > 0
     operable = acts or "Value" in interfaces or "EditableText" in interfaces
     if role in NO_ROLES or (role == "filler" and (name or operable)):
@@ -229,7 +229,7 @@ def main():
     panel = subprocess.Popen([sys.argv[1], "--size", "260x340", "--color", "#123456"])
     try:
         eventually(application, "the panel is in the tree")
-        # Nobody else gives it the keyboard where no window manager runs.
+        # Without a window manager nothing else gives it the keyboard focus.
         window = eventually(lambda: windows("--name", "^Colour$"), "the window has come")[0]
         subprocess.run(["xdotool", "windowfocus", window], check=True)
         check_face("colours", COLORS_FACE)

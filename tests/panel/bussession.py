@@ -1,4 +1,4 @@
-"""A session bus of its own, with panels on it and a client that asks them things."""
+"""A private session bus with panels on it, and a client that calls them."""
 
 import ctypes
 import os
@@ -18,7 +18,7 @@ RED = "#ff0000"
 
 
 def eventually(condition, what, patience=PATIENCE):
-    """Waits until the condition holds, and returns what it gives."""
+    """Waits until the condition is true, and returns its value."""
     end = time.monotonic() + patience
     while True:
         result = condition()
@@ -32,7 +32,7 @@ def eventually(condition, what, patience=PATIENCE):
 
 
 def xdotool(*arguments):
-    """Returns the lines that xdotool prints; none where it finds nothing."""
+    """Returns the lines that xdotool prints; empty if it finds no window."""
     run = subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True, check=False)
     return run.stdout.split()
 
@@ -42,7 +42,7 @@ def shown_windows():
 
 
 class ClientMessage(ctypes.Structure):
-    """XClientMessageEvent, in the room of an XEvent."""
+    """XClientMessageEvent, padded to the size of an XEvent."""
 
     _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
                 ("display", ctypes.c_void_p), ("window", ctypes.c_ulong), ("message_type", ctypes.c_ulong),
@@ -50,7 +50,7 @@ class ClientMessage(ctypes.Structure):
 
 
 def close_window():
-    """Closes the one panel on show as a window manager does, which xdotool cannot."""
+    """Closes the visible panel as a window manager does, which xdotool cannot."""
     x11 = ctypes.CDLL("libX11.so.6")
     x11.XOpenDisplay.restype = ctypes.c_void_p
     x11.XInternAtom.restype = ctypes.c_ulong
@@ -69,7 +69,7 @@ def close_window():
 
 
 class BusSession:
-    """The bus ends, and so do its panels, with `close`."""
+    """`close` ends the bus and its panels."""
 
     def __init__(self, panel, scratch):
         self.panel = panel
@@ -93,7 +93,7 @@ class BusSession:
         return connection
 
     def offer_portal(self):
-        """A desktop portal whose user never picks; the list gets its calls."""
+        """Adds a desktop portal whose user never picks; its calls are appended to the list."""
         calls = []
         description = Gio.DBusNodeInfo.new_for_xml("""
             <node><interface name="org.freedesktop.portal.Screenshot">
@@ -117,8 +117,8 @@ class BusSession:
 
     def close(self):
         for process in self.started:
-            # Not SIGKILL, after which counts of coverage would be lost; one that a test has stopped
-            # takes nothing else.
+            # Not SIGKILL, which would lose coverage counts, except for a process that a test has
+            # stopped.
             process.terminate()
             try:
                 process.communicate(timeout=5)
@@ -143,7 +143,7 @@ class BusSession:
         return reply.unpack()[0]
 
     def owner(self):
-        # One question: between two of them the panel may end.
+        # A single call, because the panel may end between two calls.
         try:
             return self.ask_bus("GetNameOwner", NAME)
         except GLib.Error as error:
@@ -169,7 +169,7 @@ class BusSession:
         return process
 
     def run(self, *options, **environment):
-        """Starts the program, which ends by itself; returns its exit status, output and errors."""
+        """Runs the program to its end; returns its exit status, output and errors."""
         return self.end_of(self.start(*options, **environment))
 
     @staticmethod
@@ -190,7 +190,7 @@ class BusSession:
         return reply.unpack()[0] if reply.n_children() else None
 
     def error_of(self, method, signature="", *values, interface=INTERFACE):
-        """The name of the error that a call brings, its own prefix cut, and the sentence."""
+        """Returns a call's error: the name without our prefix, and the message."""
         try:
             self.call(method, signature, *values, interface=interface)
         except GLib.Error as error:
@@ -199,7 +199,7 @@ class BusSession:
         raise AssertionError(f"{method} has brought no error")
 
     def begin(self, method, signature, *values, connection=None):
-        """A call that is answered later; the list gets the answer or the error's name."""
+        """Starts a call; its answer or the error's name is appended to the list."""
         answers = []
 
         def take(source, result):
@@ -215,7 +215,7 @@ class BusSession:
         return answers
 
     def listen(self, interface, signal):
-        """The list gets the values of each such signal."""
+        """Appends the values of each such signal to the list."""
         heard = []
         self.client.signal_subscribe(
             NAME, interface, signal, PATH, None, Gio.DBusSignalFlags.NONE,

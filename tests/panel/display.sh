@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# What the tests on a real window share: an X server, a home and a panel of their own. To be sourced,
-# with `panel` set to the program.
+# Shared code of tests with a real window: a private X server, home and panel. Source it with `panel` set to
+# the program.
 : "${panel:?the panel program}"
 
 need() {
@@ -18,7 +18,7 @@ cleanup() {
     rm -rf "$scratch"
 }
 trap cleanup EXIT
-# A command that fails ends the test; without a word nobody would know which.
+# A failing command ends the test; print which.
 set -E
 trap 'echo "line $LINENO: $BASH_COMMAND has failed" >&2' ERR
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
@@ -26,18 +26,18 @@ export XDG_RUNTIME_DIR="$scratch"
 suppressions=$(dirname "${BASH_SOURCE[0]}")/../support/leaks-of-others
 export LSAN_OPTIONS="suppressions=$suppressions:print_suppressions=0"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-# A panel of whoever runs the tests must not be found.
+# The tests must not find a panel of the user who runs them.
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 
 fail() { echo "$1" >&2; cat "$scratch"/*.log >&2; exit 1; }
 
-# Runs a command until it succeeds; false when it has not within ten seconds.
+# Repeats a command until it succeeds; false if it does not within ten seconds.
 eventually() {
     for _ in $(seq 100); do "$@" && return; sleep 0.1; done
     return 1
 }
 
-# Without -noreset it turns programs away for a moment whenever the last one has left.
+# Without -noreset the server refuses programs for a moment whenever the last one has left.
 Xvfb -noreset -displayfd 3 -screen 0 1000x800x24 3> "$scratch/display" > "$scratch/xvfb.log" 2>&1 &
 eventually test -s "$scratch/display" || fail "no X server has come"
 DISPLAY=":$(cat "$scratch/display")"
@@ -45,7 +45,7 @@ export DISPLAY
 
 # start_panel OPTION...: sets `panel_id` and `window`; the page is 260 by 340.
 start_panel() {
-    # What other programs have installed on the machine is none of the test's business.
+    # Palettes of other programs on the machine must not affect the tests.
     env XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine" \
         "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
     # shellcheck disable=SC2034  # for the tests that stop it
@@ -54,10 +54,10 @@ start_panel() {
     [ -n "$window" ] || fail "no window has come"
 }
 
-# Waits until the last colour printed is the one given.
+# Waits until the last printed colour is the given one.
 color_is() { [ "$(tail -n 1 "$scratch/colors")" = "$1" ]; }
 expect_color() { eventually color_is "$1" || fail "$2: $(tail -n 1 "$scratch/colors"), not $1"; }
 
-# The page is below a bar of 32; the colours view is 240 by 226 at (10, 54) of the page. The middle
-# of column c and row r of its digit matrix; columns 0, 2, 4 and so on are the gaps.
+# Prints the centre of column c and row r of the digit matrix. The page is below a bar of 32 points; the
+# colours view is 240 by 226 at (10, 54) of the page. Columns 0, 2, 4 and so on are the gaps.
 cell() { echo "$((10 + 1 + (238 * (2 * $1 + 1)) / 30)) $((32 + 54 + 226 - 6 - (214 * (2 * $2 + 1)) / 32))"; }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The panel's memory: calls that fail, processes that are killed, several at once, and who may read it.
+"""Tests the panel's memory: failing calls, killed processes, several processes at once, and permissions.
 
     panel_memory_test.py LIBRARY PANEL_MEMORY_CHANGES
 """

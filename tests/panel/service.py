@@ -1,6 +1,6 @@
-"""The panel on the session bus: its interface, other starts of the program, and what goes wrong.
+"""Tests the panel on the session bus: its interface, further starts of the program, and failures.
 
-Usage: service.py PANEL SCRATCH, on an X server of its own.
+Usage: service.py PANEL SCRATCH, on a separate X server.
 """
 
 import os
@@ -16,7 +16,7 @@ from bussession import INTERFACE, NAME, PROPERTIES, RED, BusSession, close_windo
 
 PANEL, SCRATCH = os.path.abspath(sys.argv[1]), sys.argv[2]
 DESCRIPTION = os.path.join(os.path.dirname(__file__), "../../src/panel/bus/org.vantorel.ColorPanel1.xml")
-# Nothing covers the root window there, which is black.
+# The black root window is visible there.
 EMPTY_SPOT = (980, 780)
 
 
@@ -270,7 +270,7 @@ class SecondStartTest(ServiceTest):
 
     def test_it_does_not_wait_for_a_panel_that_hangs(self):
         stopped = self.session.start_panel("--color", RED)
-        # The name comes first; a panel that is stopped before its window is there never shows it.
+        # Wait for the window, too: a panel that is stopped before its window opens never shows it.
         eventually(shown_windows, "the first window")
         os.kill(stopped.pid, signal.SIGSTOP)
         self.addCleanup(os.kill, stopped.pid, signal.SIGCONT)

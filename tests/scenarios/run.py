@@ -4,16 +4,15 @@
     run.py DRIVER FILE
 
 A scenario is a file of JSON lines. Each line is {"do": REQUEST, "expect": EXPECTATION, "why": TEXT};
-"expect" and "why" may be missing, empty lines and lines that begin with "#" are passed over.
-"$HOME" in a request stands for a folder of the scenario's own, which is removed at the end. A reply
-must be {"ok": true, ...} unless the expectation says otherwise, and must hold what is expected:
-objects are compared by the keys that the expectation names, lists whole, all else exactly.
+"expect" and "why" are optional. Empty lines and lines that begin with "#" are ignored. "$HOME" in a request is
+replaced by a temporary folder. A reply must be {"ok": true, ...} unless the expectation says otherwise. Objects
+are compared by the keys of the expectation, lists as a whole, all other values exactly.
 
-    {"near": X, "within": D}   a number not further than D from X
-    {"has": [A, B]}            a list that holds something that fits A, then B, in this order
+    {"near": X, "within": D}   a number within D of X
+    {"has": [A, B]}            a list with an element that fits A and a later one that fits B
     {"count": N}               a list of N elements
-    {"at": {"-1": A}}          a list whose element at that place (from the end if negative) fits A
-    {"contains": TEXT}         a text that TEXT is a part of
+    {"at": {"-1": A}}          a list whose element at that index (from the end if negative) fits A
+    {"contains": TEXT}         a text that contains TEXT
 """
 import json
 import subprocess
@@ -22,7 +21,7 @@ import tempfile
 
 
 def mismatch(expected, found, path):
-    """What is wrong with `found`, as a text, or None."""
+    """Returns a description of the mismatch in `found`, or None."""
     if isinstance(expected, dict):
         keys = set(expected)
         if keys == {"near", "within"}:
@@ -83,7 +82,7 @@ def main():
                 steps.append((number, json.loads(line)))
     if not steps:
         sys.exit(f"{file}: no step")
-    # "raw" sends a line that is not what a request should be.
+    # "raw" sends a malformed line.
     requests = "".join((step["raw"] if "raw" in step else json.dumps(step["do"])) + "\n" for _, step in steps)
     with tempfile.TemporaryDirectory() as home:
         requests = requests.replace("$HOME", home)

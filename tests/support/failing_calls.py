@@ -1,4 +1,4 @@
-"""Homes that are made up for a test, and programs whose system calls fail there."""
+"""Temporary homes, and programs whose system calls fail in them."""
 import errno
 import os
 import re
@@ -23,7 +23,7 @@ class Run:
 
 
 class Home:
-    """A user's folder, and what stands there. Empty again whenever it is entered."""
+    """A user's home folder and its files. Entering it empties it."""
 
     def __init__(self, folder=None):
         self.around = tempfile.mkdtemp(prefix="vantorel-test-", dir=folder)
@@ -64,7 +64,7 @@ class Home:
                 for folder, folders, files in os.walk(self.path) for name in folders + files]
 
     def files(self):
-        """The contents of every file, without those that are still written, or were, by somebody who was killed."""
+        """The contents of every file, except temporary files of running or killed writers."""
         return {name: self.read(name) for name in self.names()
                 if os.path.isfile(self.at(name)) and NEW_FILE_PREFIX not in name}
 
@@ -77,11 +77,11 @@ class Home:
                 "XDG_CONFIG_DIRS": self.at("none"), **kept, **more}
 
     def run(self, command, stdin="", library=None, at=None, how="", goes_on=False, report=None, **options):
-        """Runs a command in which "$HOME" stands for this home."""
+        """Runs a command with "$HOME" replaced by this home."""
         more = {}
         if library is not None:
             more = {"LD_PRELOAD": library, "FAILING_CALLS_FOLDER": self.path, "FAILING_CALLS_HOW": str(how)}
-            # The library comes before that of the sanitizers, which does no harm.
+            # The library is loaded before that of the sanitizers, which is harmless.
             more["ASAN_OPTIONS"] = ":".join(filter(None, [os.environ.get("ASAN_OPTIONS"), "verify_asan_link_order=0"]))
             if at is not None:
                 more["FAILING_CALLS_AT"] = str(at)
@@ -95,7 +95,7 @@ class Home:
         return Run(run.returncode, run.stdout.decode(), run.stderr.decode())
 
 
-# What can go wrong with a call that changes something, and with any other.
+# Failures of calls that change something, and of all others.
 CHANGING = [errno.ENOSPC, errno.EACCES, errno.EROFS, errno.EIO, errno.EINTR, "kill"]
 CHANGING_FROM_THEN_ON = [errno.ENOSPC]
 WRITING = ["short", "kill-short"]
@@ -103,16 +103,16 @@ LOOKING = [errno.EIO, errno.EACCES]
 
 
 def ways_to_fail(call, number):
-    """(how, whether it goes on) for a line of the report, the `number`th."""
+    """Returns (failure, whether later calls fail, too) for line `number` of the report."""
     name, effect, _ = call.split(" ", 2)
     if effect != "!":
-        # There are many of these; in turn, each place of a program meets both.
+        # These are many, so they alternate between both failures.
         return [(LOOKING[number % len(LOOKING)], False), (errno.EINTR, False)]
     return ([(how, False) for how in CHANGING + (WRITING if name == "write" else [])]
             + [(how, True) for how in CHANGING_FROM_THEN_ON])
 
 
-# Slow builds try every so-many-th failure alone.
+# Slow builds try only every EVERYth failure.
 EVERY = int(os.environ.get("FAILING_CALLS_EVERY", "1"))
 
 
@@ -122,20 +122,20 @@ def text_of_way(how, goes_on):
 
 
 class FailingCallsTest(unittest.TestCase):
-    """Runs a command with each of its calls failing in each way, and looks at what that leaves."""
+    """Runs a command with each of its calls failing in each way, and checks the remaining files."""
 
     preloaded = None
     tried = 0
     calls = 0
 
     def setUp(self):
-        # In memory, where there is that: thousands of homes are made here.
+        # In memory if possible, because thousands of homes are created.
         self.home = Home("/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
         self.addCleanup(self.home.remove)
 
     def check_command(self, prepare, command, stdin="", also_whole=(), unlike=(), at_the_end=None):
-        """`prepare` fills a home. Contents in `also_whole` may come up under other names; files in `unlike` differ from
-        run to run. `at_the_end` looks at a home in which the command has failed, and has then done its work.
+        """`prepare` fills a home. Contents in `also_whole` may appear under other names; files in `unlike` differ
+        between runs. `at_the_end` checks a home in which the command first failed and then succeeded.
 
         Whatever fails, each file is afterwards what it was before, or what the command makes of it; nothing else is left,
         a failure is told, and the command does all of its work once nothing fails any more.
@@ -184,7 +184,7 @@ class FailingCallsTest(unittest.TestCase):
 
     @staticmethod
     def without_name(palette):
-        """A list whose name is taken gets another."""
+        """A list whose name is taken gets another name."""
         return palette and re.sub(rb"^Name: .*\n", b"", palette, flags=re.MULTILINE)
 
     def check_whole(self):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every system call on the user's files fails once, in every way: nothing is lost, and a word is said.
+"""Fails every system call on the user's files in every way: nothing may be lost, and the failure is reported.
 
     failing_calls_test.py LIBRARY PROGRAM DRIVER LIST_CHANGES
 """

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Programs that are killed while they write, at chance moments, on a real disk; and several that write at once.
+"""Kills programs at random moments while they write to a real disk, and runs several writers at once.
 
     kills_test.py PROGRAM LIST_CHANGES
 """
@@ -25,7 +25,7 @@ ROUNDS = 15
 
 
 def shade_of(palette):
-    """The one shade of a whole list; None for one that has been cut or mixed."""
+    """Returns the single shade of a complete list; None if the list is truncated or mixed."""
     head, _, rows = palette.decode().partition("\nColumns: 0\n")
     shades = {row.split("\t")[0] for row in rows.splitlines()}
     whole = head.startswith("GIMP Palette\nName: ") and len(rows.splitlines()) == ENTRIES and palette.endswith(b"\n")
@@ -63,7 +63,7 @@ class Kills(WritingTest):
     kills = 0
 
     def kill_again_and_again(self, count, longest, command, tidy_up):
-        """Each run goes on with the files of the one before."""
+        """Each run continues with the files of the previous one."""
         rand = random.Random(7)
         kills = 0
         runs = 0
@@ -72,7 +72,7 @@ class Kills(WritingTest):
             process = self.start(*(word.replace("$NUMBER", str(runs % 256)) for word in command))
             time.sleep(rand.uniform(0, longest))
             process.send_signal(signal.SIGKILL)
-            # It may have been done before.
+            # The program may have finished before.
             kills += process.wait() == -signal.SIGKILL
             left = self.home.new_files()
             Kills.hits += bool(left)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Disks, folders and links as people have them: full, read-only, in the way, and who may read what is made.
+"""Tests real disks, folders and links: full, read-only, in the way; and the permissions of new files.
 
     real_disks_test.py PROGRAM DRIVER LIST_CHANGES
 """
@@ -125,8 +125,8 @@ class ThingsInTheWay(RealDisksTest):
         self.refuses(self.change("settings", "9"), "Is a directory")
 
     def test_links(self):
-        """A link stays, and the file that it leads to is replaced as a whole: people keep settings in a folder that is
-        shared between machines."""
+        """A link is kept, and its target is replaced as a whole: people keep settings in a folder shared between
+        machines."""
         self.put_lists()
         for name in (SETTINGS, LISTS + "Mine.gpl"):
             kept = self.home.at("kept-" + os.path.basename(name))
@@ -253,7 +253,7 @@ class Permissions(RealDisksTest):
         programs = (PROGRAM, DRIVER, LIST_CHANGES)
         if os.geteuid() == 0:
             # Permissions do not bind root, so another user runs the programs. They are copied because
-            # a build folder may be in a place that is closed to other users.
+            # other users may have no access to the build folder.
             user = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
             os.chmod(self.home.around, 0o755)
             programs = [shutil.copy(each, self.home.around) for each in programs]
