@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/HostText.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -2,6 +2,7 @@
 #include "plist/PropertyListReader.h"
 #include "settings/SettingsFile.h"
 #include "testing/headless/MemoryFiles.h"
+#include "text/Unicode.h"
 
 /// Whatever the settings file holds, the settings that were read from it are written and read back
 /// the same.

@@ -5,9 +5,9 @@
 #include "cli/PanelProgram.h"
 #include "cli/Terminal.h"
 #include "csscolor/Contrast.h"
-#include "host/HostText.h"
 #include "listformats/Json.h"
 #include "result/HarmlessLine.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,9 +3,10 @@
 #include "cli/Failure.h"
 #include "cli/Terminal.h"
 #include "csscolor/CSSColorWriter.h"
-#include "host/HostText.h"
 #include "listformats/Json.h"
 #include "result/HarmlessLine.h"
+#include "text/HexDigits.h"
+#include "text/Unicode.h"
 
 #include <array>
 #include <charconv>
@@ -58,8 +59,8 @@ struct ByteTexts {
 
 constexpr ByteTexts makeByteTexts()
 {
-    constexpr std::string_view upper = "0123456789ABCDEF";
-    constexpr std::string_view lower = "0123456789abcdef";
+    constexpr std::string_view upper = hexDigits(HexCase::upper);
+    constexpr std::string_view lower = hexDigits(HexCase::lower);
     ByteTexts texts;
     for (std::size_t i = 0; i < 256; ++i) {
         texts.upperHex[i] = {upper[i >> 4], upper[i & 15]};

@@ -3,6 +3,7 @@
 #include "cli/Failure.h"
 #include "cli/LineReader.h"
 #include "cli/Terminal.h"
+#include "text/Trimming.h"
 
 #include <unistd.h>
 
@@ -86,11 +87,6 @@ private:
     std::uint64_t _untold = 0;
 };
 
-bool isBlank(std::string_view line)
-{
-    return line.find_first_not_of(" \t") == std::string_view::npos;
-}
-
 bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& output)
 {
     LineReader lines(STDIN_FILENO);
@@ -107,7 +103,7 @@ bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& ou
             case LineReader::Result::line:
                 if (const auto plain = readPlainHex(line)) {
                     writer.write(output, *plain, true);
-                } else if (!isBlank(line)) {
+                } else if (!trimmed(line).empty()) {
                     const ColorTextReading reading = reader.read(line);
                     if (reading.color) {
                         writer.write(output, *reading.color, true);

@@ -4,18 +4,17 @@
 #include "cli/Terminal.h"
 #include "colorlists/PaletteFile.h"
 #include "csscolor/CSSColorWriter.h"
-#include "host/HostText.h"
 #include "listformats/Json.h"
 #include "listformats/ListFormats.h"
 #include "listformats/ListReader.h"
 #include "listformats/ListTexts.h"
 #include "listformats/PaletteSvg.h"
 #include "result/HarmlessLine.h"
+#include "text/Decimals.h"
+#include "text/Unicode.h"
 #include "view/WheelGeometry.h"
 
 #include <unistd.h>
-
-#include <charconv>
 
 namespace vantorel {
 namespace {
@@ -27,22 +26,14 @@ std::string utf8Line(const std::u16string& text)
     return harmlessLine(utf8FromUtf16(text));
 }
 
-std::optional<int> wholeNumber(std::string_view text)
-{
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
 HostSize pictureSize(const CommandLine& commandLine)
 {
     if (!commandLine.size) return usualPicture;
     const std::string& text = *commandLine.size;
     const std::size_t parting = std::min(text.find('x'), text.size());
-    const auto width = wholeNumber(std::string_view(text).substr(0, parting));
+    const auto width = wholeNumber<int>(std::string_view(text).substr(0, parting));
     const auto height =
-        wholeNumber(std::string_view(text).substr(std::min(parting + 1, text.size())));
+        wholeNumber<int>(std::string_view(text).substr(std::min(parting + 1, text.size())));
     const auto fits = [](std::optional<int> length) {
         return length && *length >= smallestPicture && *length <= largestPicture;
     };
@@ -56,7 +47,7 @@ HostSize pictureSize(const CommandLine& commandLine)
 int ringCount(Session& session, const CommandLine& commandLine)
 {
     if (!commandLine.rings) return drawnRingCount(session.settings().nColorCubeRings());
-    const auto rings = wholeNumber(*commandLine.rings);
+    const auto rings = wholeNumber<int>(*commandLine.rings);
     if (!rings || drawnRingCount(*rings) != *rings) {
         throw Failure{"--rings is " + quotedText(*commandLine.rings),
                       "it can be a whole number from " + std::to_string(fewestDrawnRings) + " to " +

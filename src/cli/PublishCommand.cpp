@@ -2,8 +2,8 @@
 #include "cli/Failure.h"
 #include "cli/Publishing.h"
 #include "cli/Terminal.h"
-#include "host/HostText.h"
 #include "result/HarmlessLine.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 namespace {

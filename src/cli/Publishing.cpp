@@ -4,10 +4,10 @@
 #include "colorlists/PaletteFile.h"
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/PalettePlaces.h"
-#include "host/HostText.h"
 #include "hosts/posix/FileRemoval.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
+#include "text/Unicode.h"
 
 #include <unistd.h>
 

@@ -2,8 +2,8 @@
 
 #include "cli/Failure.h"
 #include "colorlists/QTXHexColorLists.h"
-#include "host/HostText.h"
 #include "result/HarmlessLine.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 

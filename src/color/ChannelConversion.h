@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -25,6 +26,13 @@ inline constexpr double exactnessLimit = 0.00002;
     if (value >= pastLargest) return std::numeric_limits<std::int64_t>::max();
     if (value < -pastLargest) return std::numeric_limits<std::int64_t>::min();
     return value == value ? static_cast<std::int64_t>(value) : 0;
+}
+
+/// The step of the 8-bit grid next to a channel, which counts as 0 or 1 outside 0..1; NaN gives 0.
+[[nodiscard]] inline std::uint8_t nearestByte(double channel)
+{
+    if (!(channel > 0)) return 0;
+    return channel < 1 ? static_cast<std::uint8_t>(std::lround(channel * 255)) : 255;
 }
 
 /// |a - b| of an unsigned and a signed number, saturating.

@@ -2,10 +2,11 @@
 
 #include "color/ChannelConversion.h"
 #include "color/QTXHexColorSpec.h"
+#include "text/Decimals.h"
+#include "text/HexDigits.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace vantorel {
 namespace {
@@ -19,47 +20,19 @@ char lowByte(char16_t unit)
     return static_cast<char>(unit & 0xFF);
 }
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool isHexDigit(char16_t c)
-{
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
-}
-
-std::u16string widened(std::string_view ascii)
-{
-    return {ascii.begin(), ascii.end()};
-}
-
-std::u16string fractionText(std::uint64_t component)
-{
-    // std::to_chars, because printf would follow the program's locale.
-    std::array<char, 64> buffer{};
-    const double fraction = static_cast<double>(component) / 255;
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), fraction,
-                                            std::chars_format::fixed, 3);
-    return widened({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
-}
-
 }  // namespace
 
 int decodeHex(char16_t character)
 {
-    if (character >= u'0' && character <= u'9') return character - u'0';
-    if (character >= u'A' && character <= u'F') return character - u'A' + 10;
-    if (character >= u'a' && character <= u'f') return character - u'a' + 10;
-    return 0;
+    return isHexDigit(character) ? hexDigitValue(character) : 0;
 }
 
 std::u16string hexFromInt(std::int64_t value, EntryForm entryForm)
 {
     if (value < 0 || value > 15) return u"0";
-    const char16_t* digits =
-        entryForm == EntryForm::uppercase ? u"0123456789ABCDEF" : u"0123456789abcdef";
-    return {digits[value]};
+    std::u16string digit;
+    appendHexDigits(digit, static_cast<std::uint64_t>(value), 1, hexCaseOf(entryForm));
+    return digit;
 }
 
 std::uint64_t readHex(std::u16string_view text)
@@ -134,9 +107,9 @@ std::optional<std::u16string> compStringHexColorSpec(std::uint64_t component, En
             return hexCompStringHexColorSpec(component, entryForm);
         case ComponentDisplay::integer:
             // As a C int: the low 32 bits.
-            return widened(std::to_string(static_cast<std::int32_t>(component)));
+            return decimalText(static_cast<std::int32_t>(component));
         case ComponentDisplay::fraction:
-            return fractionText(component);
+            return widened(fixedText(static_cast<double>(component) / 255, 3));
     }
     return std::nullopt;
 }
@@ -149,7 +122,7 @@ std::optional<std::u16string> validHexString(std::u16string_view text, int digit
     if (text.size() > wanted + 1) return std::nullopt;
     const std::size_t poundSigns = text.front() == u'#' ? 1 : 0;
     const std::u16string_view typed = text.substr(poundSigns);
-    if (!std::all_of(typed.begin(), typed.end(), isHexDigit)) return std::nullopt;
+    if (!std::all_of(typed.begin(), typed.end(), isHexDigit<char16_t>)) return std::nullopt;
 
     std::u16string result(text);
     if (typed.size() == wanted / 2 || typed.size() == 1) {

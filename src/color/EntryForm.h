@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/HexDigits.h"
+
 #include <cstdint>
 
 namespace vantorel {
@@ -7,5 +9,10 @@ namespace vantorel {
 /// The letter case of hex texts. The numbers are fixed; any other value may be stored, and writes
 /// lower case.
 enum class EntryForm : std::int32_t { uppercase = 10, lowercase = 20 };
+
+[[nodiscard]] constexpr HexCase hexCaseOf(EntryForm entryForm)
+{
+    return entryForm == EntryForm::uppercase ? HexCase::upper : HexCase::lower;
+}
 
 }  // namespace vantorel

@@ -2,6 +2,10 @@
 
 #include "color/ChannelConversion.h"
 #include "host/HostEvent.h"
+#include "text/HexDigits.h"
+
+#include <algorithm>
+#include <bit>
 
 namespace vantorel {
 namespace {
@@ -45,13 +49,10 @@ bool differsByLess(std::uint64_t a, std::uint64_t b, std::int64_t limit)
 /// "%02x" of a component.
 std::u16string twoLowerHexDigits(std::uint64_t component)
 {
+    const auto value = static_cast<std::uint32_t>(component);
+    const auto count = static_cast<std::size_t>(std::bit_width(value) + 3) / 4;
     std::u16string digits;
-    auto value = static_cast<std::uint32_t>(component);
-    do {
-        digits.insert(digits.begin(), u"0123456789abcdef"[value & 15]);
-        value >>= 4;
-    } while (value != 0);
-    if (digits.size() < 2) digits.insert(digits.begin(), u'0');
+    appendHexDigits(digits, value, std::max<std::size_t>(count, 2), HexCase::lower);
     return digits;
 }
 

@@ -1,34 +1,23 @@
 #include "color/RgbTriple.h"
 
+#include "text/ASCII.h"
+
 namespace vantorel {
 namespace {
 
 constexpr std::u16string_view opening = u"rgb(";
 constexpr std::size_t digitLimit = 3;
 
-char16_t lowerCased(char16_t c)
-{
-    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c;
-}
-
 bool isSeparator(char16_t c)
 {
     return c == u' ' || c == u',';
-}
-
-bool isDigit(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
 }
 
 /// The place behind the first "rgb(", or npos.
 std::size_t placeBehindOpening(std::u16string_view text)
 {
     for (std::size_t i = 0; i + opening.size() <= text.size(); ++i) {
-        std::size_t same = 0;
-        while (same < opening.size() && lowerCased(text[i + same]) == opening[same])
-            ++same;
-        if (same == opening.size()) return i + same;
+        if (equalIgnoringCase(text.substr(i, opening.size()), opening)) return i + opening.size();
     }
     return std::u16string_view::npos;
 }

@@ -1,21 +1,17 @@
 #include "colorlists/PaletteCatalogue.h"
 
+#include "text/Decimals.h"
+
 #include <algorithm>
 #include <set>
 
 namespace vantorel {
 namespace {
 
-std::u16string decimal(std::size_t number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
 std::u16string bracketedName(const PaletteCatalogue::Entry& entry, std::size_t number)
 {
     std::u16string name = entry.listName + u" (" + entry.program;
-    if (number > 1) name += u' ' + decimal(number);
+    if (number > 1) name += u' ' + decimalText(number);
     return name + u')';
 }
 
@@ -30,14 +26,9 @@ std::size_t numberInBrackets(std::u16string_view name, const PaletteCatalogue::E
     name.remove_prefix(opening.size());
     name.remove_suffix(1);
     if (name.empty()) return 1;
-    constexpr std::size_t mostDigits = 9;
-    if (name.front() != u' ' || name.size() < 2 || name.size() > 1 + mostDigits) return 0;
-    std::size_t number = 0;
-    for (const char16_t c : name.substr(1)) {
-        if (c < u'0' || c > u'9') return 0;
-        number = number * 10 + (c - u'0');
-    }
-    return name[1] != u'0' && number > 1 ? number : 0;
+    if (name.front() != u' ') return 0;
+    const std::size_t number = nameNumber(name.substr(1)).value_or(0);
+    return number > 1 ? number : 0;
 }
 
 bool haveSameEntries(const PaletteCatalogue::Entry& left, const PaletteCatalogue::Entry& right)

@@ -1,12 +1,13 @@
 #include "colorlists/PaletteFile.h"
 
+#include "color/ChannelConversion.h"
 #include "colorlists/KeyedEntries.h"
-#include "host/HostText.h"
+#include "text/Trimming.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 
 namespace vantorel {
 namespace {
@@ -16,29 +17,9 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view nameField = "Name:";
 constexpr std::string_view columnsField = "Columns:";
 
-// The searches of std::string_view for one character of several call a function for each, which
-// took a third of the time of a long list.
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
 bool isLineEnd(char c)
 {
     return c == '\r' || c == '\n';
-}
-
-std::string_view withoutLeadingBlanks(std::string_view text)
-{
-    const auto* first = std::find_if_not(text.begin(), text.end(), isBlank);
-    return text.substr(static_cast<std::size_t>(first - text.begin()));
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return withoutLeadingBlanks(text);
 }
 
 /// A text of the file: UTF-8, or Latin-1 where it is no UTF-8.
@@ -90,7 +71,7 @@ bool readHead(Lines& lines)
 /// Reads one number 0..255 and moves on behind it.
 bool readByte(std::string_view& line, int& byte)
 {
-    line = withoutLeadingBlanks(line);
+    line = withoutLeading(line, isBlank<char>);
     const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), byte);
     if (error != std::errc{} || byte < 0 || byte > 255) return false;
     line.remove_prefix(static_cast<std::size_t>(end - line.data()));
@@ -110,16 +91,7 @@ std::u16string rowName(std::string_view rest)
 
 std::string harmless(const std::u16string& name)
 {
-    std::u16string result = name;
-    std::replace_if(
-        result.begin(), result.end(), [](char16_t c) { return c < 0x20 || c == 0x7F; }, u' ');
-    return utf8FromUtf16(result);
-}
-
-int byteOfChannel(double channel)
-{
-    if (!(channel > 0)) return 0;
-    return channel < 1 ? static_cast<int>(std::lround(channel * 255)) : 255;
+    return utf8FromUtf16(withoutControls(name));
 }
 
 void appendNumber(std::string& text, int byte)
@@ -179,7 +151,7 @@ std::optional<std::u16string> paletteName(std::string_view bytes,
             if (!trimmed(name).empty()) return decoded(name);
         }
         // Behind the first row no head follows.
-        if (!content.empty() && content.front() >= '0' && content.front() <= '9') break;
+        if (!content.empty() && isDigit(content.front())) break;
     }
     return fallbackName;
 }
@@ -190,11 +162,11 @@ std::string paletteText(const HostColorList& list)
     const auto& keys = list.allKeys();
     for (std::size_t i = 0; i < keys.size(); ++i) {
         const auto rgb = list.colorAtIndex(i).calibratedRGB().value_or(HostColor::Components{});
-        appendNumber(text, byteOfChannel(rgb.red));
+        appendNumber(text, nearestByte(rgb.red));
         text += ' ';
-        appendNumber(text, byteOfChannel(rgb.green));
+        appendNumber(text, nearestByte(rgb.green));
         text += ' ';
-        appendNumber(text, byteOfChannel(rgb.blue));
+        appendNumber(text, nearestByte(rgb.blue));
         text += '\t' + harmless(keys[i]) + '\n';
     }
     return text;

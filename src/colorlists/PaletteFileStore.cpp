@@ -1,7 +1,8 @@
 #include "colorlists/PaletteFileStore.h"
 
 #include "colorlists/PaletteFile.h"
-#include "host/HostText.h"
+#include "text/HexDigits.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 
@@ -28,8 +29,7 @@ std::string hashText(std::string_view text)
     for (const char c : text)
         hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
     std::string digits;
-    for (int shift = 60; shift >= 0; shift -= 4)
-        digits += "0123456789abcdef"[(hash >> shift) & 15];
+    appendHexDigits(digits, hash, 16, HexCase::lower);
     return digits;
 }
 
@@ -52,8 +52,7 @@ std::string PaletteFileStore::fileNameOfList(const std::u16string& name)
             base += utf8[i];
         } else {
             base += '%';
-            base += "0123456789ABCDEF"[c >> 4];
-            base += "0123456789ABCDEF"[c & 15];
+            appendHexByte(base, c, HexCase::upper);
         }
     }
     if (base.empty()) base += '%';

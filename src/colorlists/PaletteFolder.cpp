@@ -1,7 +1,9 @@
 #include "colorlists/PaletteFolder.h"
 
 #include "colorlists/PaletteFile.h"
-#include "host/HostText.h"
+#include "text/ASCII.h"
+#include "text/Trimming.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <array>
@@ -12,27 +14,10 @@ namespace {
 constexpr std::string_view gplEnding = ".gpl";
 constexpr std::array endings{gplEnding, std::string_view(".colors")};
 
-char lowerCase(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// `ending` in lower case.
 bool endsIn(std::string_view fileName, std::string_view ending)
 {
     return fileName.size() >= ending.size() &&
-           std::equal(ending.begin(), ending.end(), fileName.end() - ending.size(),
-                      [](char lower, char c) { return lower == lowerCase(c); });
-}
-
-/// As a menu shows it on one line.
-std::u16string tidied(std::u16string name)
-{
-    std::replace_if(
-        name.begin(), name.end(), [](char16_t c) { return c < 0x20 || c == 0x7F; }, u' ');
-    const std::size_t first = name.find_first_not_of(u' ');
-    if (first == std::u16string::npos) return {};
-    return name.substr(first, name.find_last_not_of(u' ') + 1 - first);
+           equalIgnoringCase(fileName.substr(fileName.size() - ending.size()), ending);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "colorlists/PalettePlaces.h"
 
+#include "text/ASCII.h"
+
 #include <algorithm>
 #include <array>
 #include <set>
@@ -59,11 +61,6 @@ std::string pathIn(const std::string& folder, std::string_view name)
     path += '/';
     path += name;
     return path;
-}
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
 }
 
 bool isVersion(std::string_view name)

@@ -1,18 +1,11 @@
 #include "colortext/ByteColor.h"
 
+#include "color/ChannelConversion.h"
+#include "text/HexDigits.h"
+
 #include <algorithm>
-#include <cmath>
 
 namespace vantorel {
-namespace {
-
-std::uint8_t byteOf(double fraction)
-{
-    if (!(fraction > 0)) return 0;
-    return static_cast<std::uint8_t>(fraction < 1 ? std::lround(fraction * 255) : 255);
-}
-
-}  // namespace
 
 QTXHexColorSpec ByteColor::spec() const
 {
@@ -31,7 +24,15 @@ ByteColor byteColorOf(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
     const double alpha = rgb.alpha > 0 ? std::min(rgb.alpha, 1.0) : 0;
-    return {byteOf(rgb.red), byteOf(rgb.green), byteOf(rgb.blue), alpha};
+    return {nearestByte(rgb.red), nearestByte(rgb.green), nearestByte(rgb.blue), alpha};
+}
+
+std::string opaqueHexText(const HostColor& color)
+{
+    const ByteColor bytes = byteColorOf(color);
+    std::string text;
+    appendHexColor(text, {bytes.red, bytes.green, bytes.blue}, HexCase::lower);
+    return text;
 }
 
 }  // namespace vantorel

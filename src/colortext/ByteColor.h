@@ -4,6 +4,7 @@
 #include "host/HostColor.h"
 
 #include <cstdint>
+#include <string>
 
 namespace vantorel {
 
@@ -22,5 +23,8 @@ struct ByteColor {
 };
 
 [[nodiscard]] ByteColor byteColorOf(const HostColor& color);
+
+/// "#rrggbb", without the colour's alpha.
+[[nodiscard]] std::string opaqueHexText(const HostColor& color);
 
 }  // namespace vantorel

@@ -3,7 +3,8 @@
 #include "color/ColorTexts.h"
 #include "color/RgbTriple.h"
 #include "csscolor/CSSColorReader.h"
-#include "host/HostText.h"
+#include "text/Trimming.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 
@@ -12,42 +13,12 @@ namespace {
 
 constexpr int fullDigits = 6;
 
-char16_t lowerCase(char16_t c)
+std::u16string_view withoutSurroundings(std::u16string_view text)
 {
-    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c;
-}
-
-bool isSameIgnoringCase(std::u16string_view left, std::u16string_view right)
-{
-    return left.size() == right.size() &&
-           std::equal(left.begin(), left.end(), right.begin(),
-                      [](char16_t a, char16_t b) { return lowerCase(a) == lowerCase(b); });
-}
-
-std::u16string trimmed(const std::u16string& text)
-{
-    constexpr std::u16string_view blanks = u" \t\r";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::u16string::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
-
-constexpr std::array<std::uint8_t, 256> tableOfDigits()
-{
-    std::array<std::uint8_t, 256> table{};
-    table.fill(0xFF);
-    for (std::uint8_t i = 0; i < 10; ++i)
-        table[std::size_t{'0'} + i] = i;
-    for (std::uint8_t i = 0; i < 6; ++i) {
-        table[std::size_t{'a'} + i] = static_cast<std::uint8_t>(10 + i);
-        table[std::size_t{'A'} + i] = static_cast<std::uint8_t>(10 + i);
-    }
-    return table;
+    return trimmed(text, [](char16_t c) { return isBlank(c) || c == u'\r'; });
 }
 
 }  // namespace
-
-constinit const std::array<std::uint8_t, 256> hexDigitValues = tableOfDigits();
 
 ColorTextReading ColorTextReader::read(std::string_view utf8)
 {
@@ -59,7 +30,7 @@ ColorTextReading ColorTextReader::read(std::string_view utf8)
         color.wasOutsideSRGB = css.color->wasOutsideSRGB;
         return {color, {}};
     }
-    const std::u16string name = trimmed(text);
+    const std::u16string name(withoutSurroundings(text));
     if (const auto hex = validHexString(name, fullDigits)) {
         QTXHexColorSpec spec;
         spec.setWithString(*hex);
@@ -86,7 +57,7 @@ std::optional<HostColor> ColorTextReader::colorInList(const std::u16string& name
     if (auto color = _list->colorWithKey(name)) return color;
     const auto& keys = _list->allKeys();
     const auto found = std::find_if(keys.begin(), keys.end(), [&](const std::u16string& key) {
-        return isSameIgnoringCase(key, name);
+        return equalIgnoringCase(std::u16string_view(key), std::u16string_view(name));
     });
     if (found == keys.end()) return std::nullopt;
     return _list->colorAtIndex(static_cast<std::size_t>(found - keys.begin()));

@@ -2,8 +2,8 @@
 
 #include "colortext/ByteColor.h"
 #include "host/HostColorList.h"
+#include "text/HexDigits.h"
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -40,17 +40,12 @@ private:
     std::shared_ptr<HostColorList> _list;
 };
 
-/// The value of each hex digit; 0xFF for every other byte.
-extern const std::array<std::uint8_t, 256> hexDigitValues;
-
 /// Reads six or three hex digits behind "#" or without it, as `ColorTextReader` does, but fast.
 /// Nothing for any other text, which may be a colour all the same.
 [[nodiscard]] inline std::optional<ByteColor> readPlainHex(std::string_view text)
 {
     if (text.starts_with('#')) text.remove_prefix(1);
-    const auto digit = [text](std::size_t place) {
-        return hexDigitValues[static_cast<unsigned char>(text[place])];
-    };
+    const auto digit = [text](std::size_t place) { return hexDigitValue(text[place]); };
     if (text.size() == 6) {
         const std::uint8_t all = digit(0) | digit(1) | digit(2) | digit(3) | digit(4) | digit(5);
         if (all > 15) return std::nullopt;

@@ -1,4 +1,5 @@
 #include "commandline/Descriptions.h"
+#include "text/ASCII.h"
 
 namespace vantorel {
 namespace {
@@ -76,22 +77,15 @@ void appendCommands(std::string& page, const CommandRow& command, const std::str
     }
 }
 
-std::string upperCase(std::string_view name)
-{
-    std::string result(name);
-    for (char& c : result)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    return result;
-}
-
 }  // namespace
 
 std::string manualPage(const ProgramRow& program)
 {
     const CommandRow& command = program.command;
     const std::string name = roffText(command.name);
-    std::string page = ".TH " + roffText(upperCase(command.name)) + " 1 \"\" \"Vantorel " +
-                       std::string(program.version) + "\" \"User Commands\"\n.SH NAME\n";
+    std::string page = ".TH " + roffText(upperCased(std::string(command.name))) +
+                       " 1 \"\" \"Vantorel " + std::string(program.version) +
+                       "\" \"User Commands\"\n.SH NAME\n";
     page += name + " \\- " + roffText(program.subject) + "\n.SH SYNOPSIS\n.B " + name + "\n";
     if (command.needsCommand()) page += ".I COMMAND\n";
     page += "[\\fIOPTION\\fR...]";

@@ -4,7 +4,10 @@
 #include "csscolor/CSSNamedColors.h"
 #include "csscolor/CSSTokenizer.h"
 #include "csscolor/MessageText.h"
-#include "host/HostText.h"
+#include "text/Decimals.h"
+#include "text/HexDigits.h"
+#include "text/Trimming.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,13 +25,10 @@ bool isSurroundingBlank(char16_t c)
     return isCSSWhiteSpace(c) || c == noBreakSpace || c == byteOrderMark;
 }
 
-std::u16string_view trimmed(std::u16string_view text)
+std::u16string_view withoutSurroundings(std::u16string_view text)
 {
-    while (!text.empty() && (isSurroundingBlank(text.back()) || text.back() == u'\0'))
-        text.remove_suffix(1);
-    while (!text.empty() && isSurroundingBlank(text.front()))
-        text.remove_prefix(1);
-    return text;
+    const auto isBlankOrNUL = [](char16_t c) { return isSurroundingBlank(c) || c == u'\0'; };
+    return withoutLeading(withoutTrailing(text, isBlankOrNUL), isSurroundingBlank);
 }
 
 struct CSSValue {
@@ -91,7 +91,6 @@ private:
     std::optional<CSSColor> readFunction();
 
     std::optional<PredefinedColorSpace> readColorSpace();
-    std::optional<ColorTriple> readValues();
     std::optional<double> readAlpha(bool commas);
     std::optional<CSSValue> readValue(const CSSValueRule& rule, std::size_t valuesBefore);
     bool readSeparator(std::size_t index, bool& commas);
@@ -117,7 +116,7 @@ std::optional<CSSColor> Reader::readBareHex()
     if (!_tokens.skipBlanks()) return std::nullopt;
     const std::size_t begin = _tokens.place();
     std::size_t end = begin;
-    while (end < _text.size() && cssHexDigit(_text[end]) >= 0)
+    while (end < _text.size() && isHexDigit(_text[end]))
         ++end;
     const std::u16string_view digits = _text.substr(begin, end - begin);
     const std::u16string_view rest = _text.substr(end, 2);
@@ -126,7 +125,7 @@ std::optional<CSSColor> Reader::readBareHex()
     if (digits.size() != 3 && digits.size() != 6) {
         const bool hasNumber = digits.find_first_of(u"0123456789") != std::u16string_view::npos;
         if (hasNumber) {
-            fail({u"A hex colour without \"#\" has 3 or 6 digits, not ", decimal(digits.size()),
+            fail({u"A hex colour without \"#\" has 3 or 6 digits, not ", decimalText(digits.size()),
                   u"."});
         }
         return std::nullopt;
@@ -175,7 +174,7 @@ bool Reader::readEnd()
 std::optional<CSSColor> Reader::readHex()
 {
     const std::u16string_view digits = _token.name;
-    const auto wrong = std::ranges::find_if(digits, [](char16_t c) { return cssHexDigit(c) < 0; });
+    const auto wrong = std::ranges::find_if(digits, [](char16_t c) { return !isHexDigit(c); });
     if (wrong != digits.end()) {
         const auto index = static_cast<std::size_t>(wrong - digits.begin());
         const std::size_t width = (*wrong & 0xFC00) == 0xD800 ? 2 : 1;
@@ -185,15 +184,15 @@ std::optional<CSSColor> Reader::readHex()
     }
     const std::size_t count = digits.size();
     if (count != 3 && count != 4 && count != 6 && count != 8) {
-        return fail(
-            {u"A hex colour has 3, 4, 6 or 8 digits after the \"#\", not ", decimal(count), u"."});
+        return fail({u"A hex colour has 3, 4, 6 or 8 digits after the \"#\", not ",
+                     decimalText(count), u"."});
     }
     const bool isShort = count < 6;
     const auto channel = [&](std::size_t index) {
         const std::size_t width = isShort ? 1 : 2;
         if ((index + 1) * width > count) return 1.0;
-        const int high = cssHexDigit(digits[index * width]);
-        const int low = isShort ? high : cssHexDigit(digits[index * width + 1]);
+        const int high = hexDigitValue(digits[index * width]);
+        const int low = isShort ? high : hexDigitValue(digits[index * width + 1]);
         return (high * 16 + low) / 255.0;
     };
     return CSSColor{colorOf({channel(0), channel(1), channel(2)}, channel(3)), CSSColorForm::hex};
@@ -350,7 +349,7 @@ std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t 
                 return fail({u"The alpha of ", _functionName, u" is missing; write ", kinds,
                              u" before the \")\"."});
             }
-            return fail({_functionName, u" needs 3 values and has ", decimal(valuesBefore),
+            return fail({_functionName, u" needs 3 values and has ", decimalText(valuesBefore),
                          u"; write \"", _function->example, u"\"."});
         case CSSTokenKind::end:
             return failUnclosed();
@@ -456,7 +455,7 @@ std::nullopt_t Reader::failUnclosedComment()
 
 CSSColorReading readCSSColor(std::u16string_view text)
 {
-    return Reader(trimmed(text)).read();
+    return Reader(withoutSurroundings(text)).read();
 }
 
 CSSColorReading readCSSColor(std::string_view utf8)

@@ -1,5 +1,9 @@
 #include "csscolor/CSSTokenizer.h"
 
+#include "text/ASCII.h"
+#include "text/HexDigits.h"
+#include "text/Unicode.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -7,18 +11,6 @@
 
 namespace vantorel {
 namespace {
-
-constexpr char16_t replacementCharacter = 0xFFFD;
-
-bool isDigit(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool isLetter(char16_t c)
-{
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-}
 
 bool isNameStart(char16_t c)
 {
@@ -33,24 +25,6 @@ bool isNameCharacter(char16_t c)
 bool isSign(char16_t c)
 {
     return c == u'+' || c == u'-';
-}
-
-char16_t lowerCase(char16_t c)
-{
-    return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + (u'a' - u'A')) : c;
-}
-
-void appendCharacter(std::u16string& text, char32_t character)
-{
-    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-    if (character == 0 || surrogate || character > 0x10FFFF) {
-        text += replacementCharacter;
-    } else if (character < 0x10000) {
-        text += lowerCase(static_cast<char16_t>(character));
-    } else {
-        text += static_cast<char16_t>(0xD7C0 + (character >> 10));
-        text += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
-    }
 }
 
 /// The whole number that a text begins with, with its sign; giant ones are cut where they still
@@ -115,14 +89,6 @@ bool isCSSWhiteSpace(char16_t character)
 {
     return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r' ||
            character == u'\f';
-}
-
-int cssHexDigit(char16_t character)
-{
-    if (isDigit(character)) return character - u'0';
-    if (character >= u'a' && character <= u'f') return character - u'a' + 10;
-    if (character >= u'A' && character <= u'F') return character - u'A' + 10;
-    return -1;
 }
 
 CSSToken CSSTokenizer::next()
@@ -244,17 +210,17 @@ void CSSTokenizer::appendEscaped(std::u16string& name)
 {
     constexpr std::size_t mostHexDigits = 6;
     ++_place;
-    if (cssHexDigit(at(_place)) < 0) {
+    if (!isHexDigit(at(_place))) {
         name += lowerCase(at(_place));
         ++_place;
         return;
     }
     char32_t character = 0;
-    for (std::size_t i = 0; i < mostHexDigits && cssHexDigit(at(_place)) >= 0; ++i) {
-        character = character * 16 + static_cast<char32_t>(cssHexDigit(at(_place)));
+    for (std::size_t i = 0; i < mostHexDigits && isHexDigit(at(_place)); ++i) {
+        character = character * 16 + hexDigitValue(at(_place));
         ++_place;
     }
-    appendCharacter(name, character);
+    appendUtf16(name, character == 0 ? char32_t{replacementCharacter} : lowerCase(character));
     if (at(_place) == u'\r' && at(_place + 1) == u'\n') ++_place;
     if (isCSSWhiteSpace(at(_place))) ++_place;
 }

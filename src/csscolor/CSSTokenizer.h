@@ -77,7 +77,4 @@ private:
 /// Space, tab, line feed, carriage return and form feed.
 [[nodiscard]] bool isCSSWhiteSpace(char16_t character);
 
-/// The value 0..15 of a hex digit, or -1.
-[[nodiscard]] int cssHexDigit(char16_t character);
-
 }  // namespace vantorel

@@ -1,5 +1,7 @@
 #include "csscolor/MessageText.h"
 
+#include "text/ASCII.h"
+
 namespace vantorel {
 
 std::u16string joined(std::initializer_list<std::u16string_view> parts)
@@ -10,12 +12,6 @@ std::u16string joined(std::initializer_list<std::u16string_view> parts)
     return text;
 }
 
-std::u16string decimal(std::size_t number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
 std::u16string quoted(std::u16string_view text)
 {
     constexpr std::size_t mostUnits = 24;
@@ -23,11 +19,7 @@ std::u16string quoted(std::u16string_view text)
     const bool isLong = text.size() > mostUnits;
     if (isLong)
         text = text.substr(0, isHighSurrogate(text[mostUnits - 1]) ? mostUnits - 1 : mostUnits);
-    std::u16string result = u"\"";
-    for (const char16_t c : text)
-        result += c < 0x20 || c == 0x7F ? u' ' : c;
-    result += isLong ? u"...\"" : u"\"";
-    return result;
+    return u'"' + withoutControls(std::u16string(text)) + (isLong ? u"...\"" : u"\"");
 }
 
 }  // namespace vantorel

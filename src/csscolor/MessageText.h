@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -9,8 +8,6 @@
 namespace vantorel {
 
 [[nodiscard]] std::u16string joined(std::initializer_list<std::u16string_view> parts);
-
-[[nodiscard]] std::u16string decimal(std::size_t number);
 
 /// A piece of a text in quotation marks: only the beginning of a long one, with a blank for each
 /// character that could break the line, and without half a character at its end.

@@ -1,25 +1,23 @@
 #include "listformats/Json.h"
 
-#include "host/HostText.h"
+#include "text/HexDigits.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 
 void appendJson(std::string& json, std::string_view utf8)
 {
-    constexpr std::string_view digits = "0123456789abcdef";
     const std::string repaired =
         isWellFormedUtf8(utf8) ? std::string() : utf8FromUtf16(utf16FromUtf8(utf8));
     if (!repaired.empty()) utf8 = repaired;
     json += '"';
     for (const char c : utf8) {
-        const auto byte = static_cast<unsigned char>(c);
         if (c == '"' || c == '\\') {
             json += '\\';
             json += c;
-        } else if (byte < 0x20 || byte == 0x7F) {
+        } else if (isControl(c)) {
             json += "\\u00";
-            json += digits[byte >> 4];
-            json += digits[byte & 15];
+            appendHexByte(json, static_cast<std::uint8_t>(c), HexCase::lower);
         } else {
             json += c;
         }

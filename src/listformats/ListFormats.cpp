@@ -4,6 +4,7 @@
 #include "listformats/ListTexts.h"
 #include "listformats/PaletteSvg.h"
 #include "listformats/SwatchExchange.h"
+#include "text/ASCII.h"
 
 #include <algorithm>
 
@@ -33,11 +34,6 @@ constexpr ListFormat formats[] = {
     {"txt", {}, textEndings, false, true, plainText},
 };
 
-char lowerCase(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 }  // namespace
 
 std::span<const ListFormat> listFormats()
@@ -57,9 +53,8 @@ const ListFormat* listFormatOfFile(std::string_view fileName)
     if (dot == std::string_view::npos) return nullptr;
     const std::string_view ending = fileName.substr(dot + 1);
     const auto hasEnding = [&](const ListFormat& format) {
-        return std::ranges::any_of(format.endings, [&](std::string_view each) {
-            return std::ranges::equal(ending, each, {}, lowerCase);
-        });
+        return std::ranges::any_of(
+            format.endings, [&](std::string_view each) { return equalIgnoringCase(ending, each); });
     };
     const auto* const found = std::ranges::find_if(formats, hasEnding);
     return found != std::end(formats) ? found : nullptr;

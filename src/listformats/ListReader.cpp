@@ -4,9 +4,10 @@
 #include "colorlists/PaletteFile.h"
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorReader.h"
-#include "host/HostText.h"
 #include "listformats/ListFormats.h"
 #include "listformats/SwatchExchange.h"
+#include "text/Trimming.h"
+#include "text/Unicode.h"
 
 #include <nlohmann/json.hpp>
 
@@ -26,11 +27,9 @@ constexpr std::size_t longestColorText = std::size_t{64} << 10;
 
 constexpr std::string_view blanks = " \t\r\n";
 
-std::string_view trimmed(std::string_view text)
+std::string_view withoutSurroundings(std::string_view text)
 {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+    return trimmed(text, [](char c) { return blanks.find(c) != std::string_view::npos; });
 }
 
 /// The colour of a text as lists hold it: opaque, on the 8-bit grid.
@@ -81,8 +80,7 @@ private:
     [[nodiscard]] std::string_view rest() const { return _text.substr(_place); }
     [[nodiscard]] static bool isNameByte(char c)
     {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-               c == '-' || c == '_' || static_cast<unsigned char>(c) >= 0x80;
+        return isLetterOrDigit(c) || c == '-' || c == '_' || static_cast<unsigned char>(c) >= 0x80;
     }
     [[nodiscard]] bool startsDeclaration() const
     {
@@ -94,7 +92,8 @@ private:
     {
         const std::size_t begin = _place + 2;
         const std::size_t end = std::min(_text.find(closing, begin), _text.size());
-        const std::u16string name = utf16FromUtf8(trimmed(_text.substr(begin, end - begin)));
+        const std::u16string name =
+            utf16FromUtf8(withoutSurroundings(_text.substr(begin, end - begin)));
         if (_isBehindDeclaration && !name.empty()) {
             _found.entries.back().second = name;
         } else if (_found.name.empty() && _found.entries.empty() &&
@@ -117,9 +116,9 @@ private:
         const std::size_t colon = _text.find_first_not_of(blanks, _place);
         if (colon == std::string_view::npos || _text[colon] != ':' || name.empty()) return;
         const std::size_t end = std::min(_text.find_first_of(";}\n", colon), _text.size());
-        std::string_view value = trimmed(_text.substr(colon + 1, end - colon - 1));
+        std::string_view value = withoutSurroundings(_text.substr(colon + 1, end - colon - 1));
         if (const std::size_t flag = value.find('!'); flag != std::string_view::npos)
-            value = trimmed(value.substr(0, flag));
+            value = withoutSurroundings(value.substr(0, flag));
         _place = end < _text.size() && _text[end] == ';' ? end + 1 : end;
         if (const auto color = colorOf(value)) {
             _found.entries.emplace_back(*color, utf16FromUtf8(name));
@@ -141,15 +140,16 @@ Found readLines(std::string_view text)
     Found found;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = trimmed(text.substr(0, end));
+        const std::string_view line = withoutSurroundings(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
         if (line.empty()) continue;
         const bool hasTab = line.find('\t') != std::string_view::npos;
         const std::size_t parting = hasTab                  ? line.find('\t')
                                     : line.starts_with('#') ? std::min(line.find(' '), line.size())
                                                             : line.size();
-        if (const auto color = colorOf(trimmed(line.substr(0, parting)))) {
-            found.entries.emplace_back(*color, utf16FromUtf8(trimmed(line.substr(parting))));
+        if (const auto color = colorOf(withoutSurroundings(line.substr(0, parting)))) {
+            found.entries.emplace_back(*color,
+                                       utf16FromUtf8(withoutSurroundings(line.substr(parting))));
         } else {
             ++found.skipped;
         }
@@ -260,7 +260,7 @@ ColorListReading readColorList(std::string_view bytes, const std::string& fileNa
     if (form == "svg")
         return failure("a picture does not tell its list",
                        "give a palette, as \"--format gpl\" makes it");
-    const std::string_view content = trimmed(bytes);
+    const std::string_view content = withoutSurroundings(bytes);
     const bool isStyleSheet = form == "css" || form == "scss";
     if (!isStyleSheet && (content.starts_with('{') || content.starts_with('['))) {
         const auto json = readJson(content);

@@ -2,21 +2,15 @@
 
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorWriter.h"
-#include "host/HostText.h"
 #include "listformats/Json.h"
 #include "result/HarmlessLine.h"
+#include "text/ASCII.h"
+#include "text/Unicode.h"
 
 #include <unordered_map>
 
 namespace vantorel {
 namespace {
-
-std::string hexOf(const HostColor& color)
-{
-    // Lists are opaque.
-    const ByteColor bytes = byteColorOf(color);
-    return utf8FromUtf16(hexText(bytes.hostColor().colorWithAlphaComponent(1)).value_or(u""));
-}
 
 std::string lineOf(const std::u16string& name)
 {
@@ -39,13 +33,10 @@ public:
     {
         std::string base;
         for (const char c : lineOf(name)) {
-            const bool isCapital = c >= 'A' && c <= 'Z';
-            const bool isPlain = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
-                                 static_cast<unsigned char>(c) >= 0x80;
-            if (isCapital) {
-                base += static_cast<char>(c - 'A' + 'a');
-            } else if (isPlain) {
-                base += c;
+            const bool isOfIdentifiers =
+                isLetterOrDigit(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80;
+            if (isOfIdentifiers) {
+                base += lowerCase(c);
             } else if (!base.empty() && base.back() != '-') {
                 base += '-';
             }
@@ -54,7 +45,7 @@ public:
             base.pop_back();
         if (base.empty()) base = "color";
         // A variable of SCSS cannot begin with a digit.
-        if (base.front() >= '0' && base.front() <= '9') base.insert(0, "color-");
+        if (isDigit(base.front())) base.insert(0, "color-");
         std::string identifier = base;
         while (_taken.contains(identifier))
             identifier = base + "-" + std::to_string(++_taken[base]);
@@ -74,8 +65,8 @@ std::string cssText(const HostColorList& list)
     Identifiers identifiers;
     for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
         const std::u16string& key = list.allKeys()[i];
-        text += "  --" + identifiers.identifierOf(key) + ": " + hexOf(list.colorAtIndex(i)) +
-                "; /* " + commentOf(key) + " */\n";
+        text += "  --" + identifiers.identifierOf(key) + ": " +
+                opaqueHexText(list.colorAtIndex(i)) + "; /* " + commentOf(key) + " */\n";
     }
     return text + "}\n";
 }
@@ -86,8 +77,8 @@ std::string scssText(const HostColorList& list)
     Identifiers identifiers;
     for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
         const std::u16string& key = list.allKeys()[i];
-        text += "$" + identifiers.identifierOf(key) + ": " + hexOf(list.colorAtIndex(i)) + "; // " +
-                lineOf(key) + "\n";
+        text += "$" + identifiers.identifierOf(key) + ": " + opaqueHexText(list.colorAtIndex(i)) +
+                "; // " + lineOf(key) + "\n";
     }
     return text;
 }
@@ -100,7 +91,7 @@ std::string jsonText(const HostColorList& list)
     for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
         json += i == 0 ? "\n    {\"name\": " : ",\n    {\"name\": ";
         appendJson(json, list.allKeys()[i]);
-        json += ", \"hex\": \"" + hexOf(list.colorAtIndex(i)) + "\"}";
+        json += ", \"hex\": \"" + opaqueHexText(list.colorAtIndex(i)) + "\"}";
     }
     return json + "\n  ]\n}\n";
 }
@@ -109,7 +100,7 @@ std::string plainText(const HostColorList& list)
 {
     std::string text;
     for (std::size_t i = 0; i < list.allKeys().size(); ++i)
-        text += hexOf(list.colorAtIndex(i)) + '\t' + lineOf(list.allKeys()[i]) + '\n';
+        text += opaqueHexText(list.colorAtIndex(i)) + '\t' + lineOf(list.allKeys()[i]) + '\n';
     return text;
 }
 

@@ -2,32 +2,23 @@
 
 #include "colortext/ByteColor.h"
 #include "csscolor/CSSColorWriter.h"
-#include "host/HostText.h"
 #include "result/HarmlessLine.h"
+#include "text/Decimals.h"
+#include "text/Unicode.h"
 #include "view/ViewColors.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 namespace vantorel {
 
 std::string svgNumber(double value)
 {
-    std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, 3)
-                         .ptr;
-    std::string text(buffer.data(), end);
-    text.resize(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) text.pop_back();
-    return text == "-0" ? "0" : text;
+    return shortFixedText(value, 3);
 }
 
 std::string svgColor(const HostColor& color)
 {
-    const HostColor bytes = byteColorOf(color).hostColor().colorWithAlphaComponent(1);
-    return utf8FromUtf16(hexText(bytes).value_or(u""));
+    return opaqueHexText(color);
 }
 
 std::string svgText(const std::u16string& text)

@@ -1,9 +1,9 @@
 #include "paletteedit/PaletteEditor.h"
 
 #include "colorlists/PaletteFile.h"
-#include "host/HostText.h"
 #include "paletteedit/FreeNames.h"
 #include "paletteedit/PaletteMerge.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 

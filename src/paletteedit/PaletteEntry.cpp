@@ -1,36 +1,24 @@
 #include "paletteedit/PaletteEntry.h"
 
-#include <cmath>
+#include "color/ChannelConversion.h"
+#include "text/HexDigits.h"
 
 namespace vantorel {
-namespace {
-
-int byteOfChannel(double channel)
-{
-    // NaN is no number of light, and so none.
-    if (!(channel > 0)) return 0;
-    return channel < 1 ? static_cast<int>(std::lround(channel * 255)) : 255;
-}
-
-}  // namespace
 
 HostColor paletteColor(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    return HostColor::colorWithCalibratedRed(byteOfChannel(rgb.red) / 255.0,
-                                             byteOfChannel(rgb.green) / 255.0,
-                                             byteOfChannel(rgb.blue) / 255.0, 1);
+    return HostColor::colorWithCalibratedRed(nearestByte(rgb.red) / 255.0,
+                                             nearestByte(rgb.green) / 255.0,
+                                             nearestByte(rgb.blue) / 255.0, 1);
 }
 
 std::u16string hexCodeOf(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    std::u16string text = u"#";
-    for (const double channel : {rgb.red, rgb.green, rgb.blue}) {
-        const auto byte = static_cast<unsigned>(byteOfChannel(channel));
-        text += u"0123456789ABCDEF"[byte >> 4];
-        text += u"0123456789ABCDEF"[byte & 15];
-    }
+    std::u16string text;
+    appendHexColor(text, {nearestByte(rgb.red), nearestByte(rgb.green), nearestByte(rgb.blue)},
+                   HexCase::upper);
     return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "plist/PropertyList.h"
 #include "plist/PropertyListReader.h"
+#include "text/Unicode.h"
 
 #include <array>
 #include <charconv>

@@ -1,5 +1,8 @@
 #include "plist/PropertyListReader.h"
 
+#include "text/ASCII.h"
+#include "text/HexDigits.h"
+
 #include <cstdint>
 #include <unordered_map>
 
@@ -20,20 +23,13 @@ bool isLineEnd(char16_t c)
 
 bool isBare(char16_t c)
 {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
-           c == u'_' || c == u'$' || c == u'/' || c == u':' || c == u'.' || c == u'-';
+    return isLetterOrDigit(c) || c == u'_' || c == u'$' || c == u'/' || c == u':' || c == u'.' ||
+           c == u'-';
 }
 
 std::optional<unsigned> digitOf(char16_t c, unsigned base)
 {
-    unsigned value = base;
-    if (c >= u'0' && c <= u'9') {
-        value = static_cast<unsigned>(c - u'0');
-    } else if (c >= u'A' && c <= u'F') {
-        value = static_cast<unsigned>(c - u'A' + 10);
-    } else if (c >= u'a' && c <= u'f') {
-        value = static_cast<unsigned>(c - u'a' + 10);
-    }
+    const unsigned value = hexDigitValue(c);
     if (value >= base) return std::nullopt;
     return value;
 }

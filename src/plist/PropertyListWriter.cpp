@@ -1,16 +1,16 @@
 #include "plist/PropertyListWriter.h"
 
+#include "text/ASCII.h"
+#include "text/HexDigits.h"
+
 #include <algorithm>
 
 namespace vantorel {
 namespace {
 
-constexpr std::u16string_view hexDigits = u"0123456789abcdef";
-
 bool isSafeBare(char16_t c)
 {
-    return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
-           c == u'_';
+    return isLetterOrDigit(c) || c == u'_';
 }
 
 void appendString(std::u16string& text, const std::u16string& string)
@@ -31,8 +31,7 @@ void appendString(std::u16string& text, const std::u16string& string)
             text += c;
         } else {
             text += u"\\U";
-            for (const int shift : {12, 8, 4, 0})
-                text += hexDigits[(c >> shift) & 15];
+            appendHexDigits(text, c, 4, HexCase::lower);
         }
     }
     text += u'"';
@@ -44,9 +43,7 @@ void appendData(std::u16string& text, const std::string& bytes)
     text += u'<';
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         if (i > 0 && i % groupSize == 0) text += u' ';
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        text += hexDigits[byte >> 4];
-        text += hexDigits[byte & 15];
+        appendHexByte(text, static_cast<unsigned char>(bytes[i]), HexCase::lower);
     }
     text += u'>';
 }

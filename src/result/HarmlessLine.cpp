@@ -1,6 +1,6 @@
 #include "result/HarmlessLine.h"
 
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 

@@ -1,7 +1,7 @@
 #include "result/Message.h"
 
-#include "host/HostText.h"
 #include "result/HarmlessLine.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 namespace {

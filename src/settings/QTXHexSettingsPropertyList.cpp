@@ -1,5 +1,7 @@
 #include "settings/QTXHexSettings.h"
 #include "settings/SettingsKeys.h"
+#include "text/ASCII.h"
+#include "text/Decimals.h"
 
 #include <limits>
 
@@ -12,8 +14,7 @@ constexpr const char16_t* no = u"NO";
 /// "%d": the low 32 bits, signed.
 std::u16string integerText(std::int64_t value)
 {
-    const std::string text = std::to_string(static_cast<std::int32_t>(value));
-    return {text.begin(), text.end()};
+    return decimalText(static_cast<std::int32_t>(value));
 }
 
 /// The number at the start of a text, after blanks and a sign; 0 without one. Saturates.
@@ -30,7 +31,7 @@ std::int64_t integerValue(std::u16string_view text)
     }
     constexpr auto largest = std::numeric_limits<std::int64_t>::max();
     std::int64_t value = 0;
-    for (; place < text.size() && text[place] >= u'0' && text[place] <= u'9'; ++place) {
+    for (; place < text.size() && isDigit(text[place]); ++place) {
         const std::int64_t digit = text[place] - u'0';
         if (value > (largest - digit) / 10) {
             return negative ? std::numeric_limits<std::int64_t>::min() : largest;

@@ -1,8 +1,8 @@
 #include "settings/SettingsFile.h"
 
-#include "host/HostText.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 namespace {

@@ -1,5 +1,7 @@
 #include "snippets/FormatNumbers.h"
 
+#include "text/ASCII.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -12,19 +14,6 @@ namespace {
 /// Room for the longest double in %f, 309 digits, with the finest precision behind it.
 constexpr std::size_t longestReal = 1024;
 constexpr int defaultPrecision = 6;
-
-std::u16string widened(std::string_view ascii)
-{
-    return {ascii.begin(), ascii.end()};
-}
-
-std::u16string upperCased(std::u16string text)
-{
-    for (char16_t& c : text) {
-        if (c >= u'a' && c <= u'z') c = static_cast<char16_t>(c - u'a' + u'A');
-    }
-    return text;
-}
 
 /// Sign or "0x" first, then zeros as asked, then the digits; blanks on the other side.
 std::u16string padded(const std::u16string& prefix, const std::u16string& digits,

@@ -2,6 +2,7 @@
 
 #include "color/ChannelConversion.h"
 #include "snippets/FormatNumbers.h"
+#include "text/ASCII.h"
 
 #include <algorithm>
 #include <optional>
@@ -22,7 +23,7 @@ struct Conversion {
 std::size_t readNumber(std::u16string_view format, std::size_t& place, std::size_t most)
 {
     std::size_t number = 0;
-    for (; place < format.size() && format[place] >= u'0' && format[place] <= u'9'; ++place) {
+    for (; place < format.size() && isDigit(format[place]); ++place) {
         number = std::min(most, number * 10 + (format[place] - std::size_t{u'0'}));
     }
     return number;

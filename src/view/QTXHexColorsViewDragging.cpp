@@ -1,3 +1,4 @@
+#include "text/Unicode.h"
 #include "view/DragImages.h"
 #include "view/QTXHexColorsView.h"
 

@@ -2,7 +2,7 @@
 
 #include "colorlists/ColorSort.h"
 #include "colorlists/SortedColorKeys.h"
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

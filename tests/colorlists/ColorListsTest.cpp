@@ -2,8 +2,8 @@
 #include "colorlists/ColorSort.h"
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/QTXHexColorLists.h"
-#include "host/HostText.h"
 #include "testing/headless/MemoryFiles.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

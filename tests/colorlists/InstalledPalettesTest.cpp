@@ -1,8 +1,8 @@
 #include "ScopedEnvironment.h"
 #include "colorlists/PaletteFile.h"
 #include "colorlists/PaletteFileStore.h"
-#include "host/HostText.h"
 #include "hosts/posix/PosixFiles.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "ForeignFiles.h"
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/PalettePlaces.h"
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "csscolor/CSSColorReader.h"
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "csscolor/CSSColorReader.h"
 
 #include "csscolor/CSSNamedColors.h"
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/HostText.h"
 #include "paletteedit/PaletteEntry.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <cmath>

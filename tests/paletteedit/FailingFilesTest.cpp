@@ -3,6 +3,7 @@
 #include "EntryTexts.h"
 #include "colorlists/PaletteFile.h"
 #include "paletteedit/PaletteEditor.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

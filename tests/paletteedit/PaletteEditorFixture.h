@@ -5,6 +5,7 @@
 #include "paletteedit/EntryEdits.h"
 #include "paletteedit/PaletteEditor.h"
 #include "testing/headless/MemoryFiles.h"
+#include "text/Unicode.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

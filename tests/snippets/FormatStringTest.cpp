@@ -1,6 +1,6 @@
 #include "snippets/FormatString.h"
 
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
+#include "text/Unicode.h"
 
 #include <QApplication>
 #include <QDesktopServices>

@@ -7,6 +7,7 @@
 #include "settings/QTXHexSettings.h"
 #include "testing/driver/DriverRequests.h"
 #include "testing/driver/JsonValues.h"
+#include "text/Unicode.h"
 
 #include <map>
 

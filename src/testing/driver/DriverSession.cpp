@@ -5,6 +5,7 @@
 #include "testing/driver/EmbeddedResources.h"
 #include "testing/driver/JsonValues.h"
 #include "testing/headless/MemoryFiles.h"
+#include "text/Unicode.h"
 
 #include <filesystem>
 #include <iostream>

@@ -1,5 +1,6 @@
 #include "testing/driver/DriverRequests.h"
 #include "testing/driver/JsonValues.h"
+#include "text/Unicode.h"
 
 #include <map>
 

@@ -2,6 +2,7 @@
 #include "settings/SettingsFile.h"
 #include "testing/driver/DriverSession.h"
 #include "testing/driver/JsonValues.h"
+#include "text/Unicode.h"
 
 #include <array>
 

@@ -1,6 +1,7 @@
 #include "testing/driver/DriverSession.h"
 
 #include "testing/driver/JsonValues.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <map>

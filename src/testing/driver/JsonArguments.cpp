@@ -1,7 +1,7 @@
 #include "testing/driver/JsonArguments.h"
 
-#include "host/HostText.h"
 #include "plist/PropertyListReader.h"
+#include "text/Unicode.h"
 
 #include <array>
 #include <cmath>

@@ -2,6 +2,7 @@
 
 #include "host/HostText.h"
 #include "plist/PropertyListWriter.h"
+#include "text/Unicode.h"
 
 namespace vantorel {
 namespace {

@@ -8,11 +8,11 @@
 // that holds others than that has been mixed from two, or cut. Ends with 1 where a step was not
 // done.
 
-#include "host/HostText.h"
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/PosixFiles.h"
 #include "paletteedit/PaletteEditor.h"
 #include "settings/SettingsFile.h"
+#include "text/Unicode.h"
 
 #include <csignal>
 #include <cstdlib>

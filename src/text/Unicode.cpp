@@ -1,4 +1,4 @@
-#include "host/HostText.h"
+#include "text/Unicode.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -8,7 +8,10 @@
 namespace vantorel {
 namespace {
 
-constexpr char32_t replacementCharacter = 0xFFFD;
+constexpr bool isSurrogate(char32_t character)
+{
+    return character >= 0xD800 && character <= 0xDFFF;
+}
 
 /// Decodes the sequence at `position`; returns its length in bytes, or 0 when it is ill-formed.
 std::size_t decodeSequence(std::string_view text, std::size_t position, char32_t& character)
@@ -43,8 +46,9 @@ std::size_t decodeSequence(std::string_view text, std::size_t position, char32_t
         if ((next & 0xC0) != 0x80) return 0;
         character = (character << 6) | (next & 0x3F);
     }
-    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-    return character < smallest || character > 0x10FFFF || surrogate ? 0 : length;
+    const bool isCharacter =
+        character >= smallest && character <= 0x10FFFF && !isSurrogate(character);
+    return isCharacter ? length : 0;
 }
 
 void appendUtf8(std::string& text, char32_t character)
@@ -91,13 +95,7 @@ std::u16string utf16FromUtf8(std::string_view utf8)
             length = 1;
         }
         i += length;
-        if (character < 0x10000) {
-            result.push_back(static_cast<char16_t>(character));
-        } else {
-            character -= 0x10000;
-            result.push_back(static_cast<char16_t>(0xD800 + (character >> 10)));
-            result.push_back(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
-        }
+        appendUtf16(result, character);
     }
     return result;
 }
@@ -121,7 +119,7 @@ std::string utf8FromUtf16(std::u16string_view utf16)
     result.reserve(utf16.size());
     for (std::size_t i = 0; i < utf16.size(); ++i) {
         char32_t character = utf16[i];
-        if (character >= 0xD800 && character <= 0xDFFF) {
+        if (isSurrogate(character)) {
             const char32_t low = i + 1 < utf16.size() ? utf16[i + 1] : char16_t{0};
             if (character < 0xDC00 && low >= 0xDC00 && low <= 0xDFFF) {
                 character = 0x10000 + ((character - 0xD800) << 10) + (low - 0xDC00);
@@ -133,6 +131,18 @@ std::string utf8FromUtf16(std::u16string_view utf16)
         appendUtf8(result, character);
     }
     return result;
+}
+
+void appendUtf16(std::u16string& text, char32_t character)
+{
+    if (character > 0x10FFFF || isSurrogate(character)) character = replacementCharacter;
+    if (character < 0x10000) {
+        text.push_back(static_cast<char16_t>(character));
+    } else {
+        character -= 0x10000;
+        text.push_back(static_cast<char16_t>(0xD800 + (character >> 10)));
+        text.push_back(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
+    }
 }
 
 }  // namespace vantorel
