@@ -30,13 +30,18 @@ public:
 std::shared_ptr<HostColorList> builtInList(const std::u16string& name)
 {
     EmptyStore store;
-    const int token = hexColorListFromString(name);
-    if (token == hexColorListFromString(u"Browser Safe")) {
-        buildWebSafeList(store);
-    } else if (token == hexColorListFromString(u"SVG Keyword")) {
-        buildSVGKeywordList(store);
-    } else {
-        buildCSSKeywordList(store);
+    const BuiltInList token = hexColorListFromString(name);
+    switch (token) {
+        case BuiltInList::browserSafe:
+            buildWebSafeList(store);
+            break;
+        case BuiltInList::svgKeyword:
+            buildSVGKeywordList(store);
+            break;
+        case BuiltInList::cssKeyword:
+        case BuiltInList::cssKeywordAgain:
+            buildCSSKeywordList(store);
+            break;
     }
     return hexColorListWithToken(token);
 }

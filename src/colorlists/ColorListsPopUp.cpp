@@ -7,8 +7,6 @@
 namespace vantorel {
 namespace {
 
-constexpr int cssKeywordToken = 13;
-
 bool contains(const std::vector<std::u16string>& names, const std::u16string& name)
 {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -77,7 +75,7 @@ void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16stri
 std::u16string namingListAfterRemoval(const std::u16string& removed,
                                       const std::vector<std::u16string>& activeLists)
 {
-    std::u16string fallback = nameFromHexColorList(cssKeywordToken).value_or(u"");
+    std::u16string fallback = nameFromHexColorList(BuiltInList::cssKeyword).value_or(u"");
     if (removed != fallback && contains(activeLists, fallback)) return fallback;
     return activeLists.front();
 }

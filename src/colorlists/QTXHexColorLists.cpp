@@ -9,22 +9,15 @@
 namespace vantorel {
 namespace {
 
-enum Token : int {
-    browserSafeToken = 12,
-    cssKeywordToken = 13,
-    svgKeywordToken = 14,
-    cssKeywordSecondToken = 15,
-};
-
-struct NamedToken {
-    int token;
+struct NamedList {
+    BuiltInList token;
     const char16_t* name;
 };
 
-constexpr std::array namedTokens{
-    NamedToken{browserSafeToken, u"Browser Safe"},
-    NamedToken{cssKeywordToken, u"CSS Keyword"},
-    NamedToken{svgKeywordToken, u"SVG Keyword"},
+constexpr std::array namedLists{
+    NamedList{BuiltInList::browserSafe, u"Browser Safe"},
+    NamedList{BuiltInList::cssKeyword, u"CSS Keyword"},
+    NamedList{BuiltInList::svgKeyword, u"SVG Keyword"},
 };
 
 using ListReference = std::shared_ptr<HostColorList>;
@@ -44,7 +37,7 @@ ListReferences& listReferences()
 
 /// Finds or builds one list. `fill` adds the entries to a new one.
 template <class Fill>
-void buildList(ListReference& reference, int token, HostColorListStore& store, Fill&& fill)
+void buildList(ListReference& reference, BuiltInList token, HostColorListStore& store, Fill&& fill)
 {
     if (reference) return;
     const std::u16string name = *nameFromHexColorList(token);
@@ -66,44 +59,43 @@ void addColors(HostColorList& list, std::span<const BuiltInColor> colors)
 
 }  // namespace
 
-std::shared_ptr<HostColorList> hexColorListWithToken(int token)
+std::shared_ptr<HostColorList> hexColorListWithToken(BuiltInList token)
 {
     switch (token) {
-        case browserSafeToken:
+        case BuiltInList::browserSafe:
             return listReferences().webSafeColorListS;
-        case cssKeywordToken:
-        case cssKeywordSecondToken:
+        case BuiltInList::cssKeyword:
+        case BuiltInList::cssKeywordAgain:
             return listReferences().cssKeywordListS;
-        case svgKeywordToken:
+        case BuiltInList::svgKeyword:
             return listReferences().svgKeywordListS;
-        default:
-            return nullptr;
     }
+    return nullptr;
 }
 
-std::optional<std::u16string> nameFromHexColorList(int token)
+std::optional<std::u16string> nameFromHexColorList(BuiltInList token)
 {
-    if (token == cssKeywordSecondToken) token = cssKeywordToken;
-    for (const NamedToken& row : namedTokens) {
+    if (token == BuiltInList::cssKeywordAgain) token = BuiltInList::cssKeyword;
+    for (const NamedList& row : namedLists) {
         if (row.token == token) return row.name;
     }
     return std::nullopt;
 }
 
-int hexColorListFromString(std::u16string_view name)
+BuiltInList hexColorListFromString(std::u16string_view name)
 {
-    for (const NamedToken& row : namedTokens) {
+    for (const NamedList& row : namedLists) {
         if (row.name == name) return row.token;
     }
-    return cssKeywordToken;
+    return BuiltInList::cssKeyword;
 }
 
 const std::vector<std::u16string>& allHexColorListNames()
 {
     static const std::vector<std::u16string> names = [] {
         std::vector<std::u16string> result;
-        result.reserve(namedTokens.size());
-        for (const NamedToken& row : namedTokens)
+        result.reserve(namedLists.size());
+        for (const NamedList& row : namedLists)
             result.emplace_back(row.name);
         return result;
     }();
@@ -112,22 +104,23 @@ const std::vector<std::u16string>& allHexColorListNames()
 
 void buildCSSKeywordList(HostColorListStore& store)
 {
-    buildList(listReferences().cssKeywordListS, cssKeywordToken, store,
+    buildList(listReferences().cssKeywordListS, BuiltInList::cssKeyword, store,
               [](HostColorList& list) { addColors(list, cssKeywordColors()); });
 }
 
 void buildWebSafeList(HostColorListStore& store)
 {
-    buildList(listReferences().webSafeColorListS, browserSafeToken, store, [](HostColorList& list) {
-        for (const char16_t* key : browserSafeKeys()) {
-            list.setColor(webSafeColorFromName(key), key);
-        }
-    });
+    buildList(listReferences().webSafeColorListS, BuiltInList::browserSafe, store,
+              [](HostColorList& list) {
+                  for (const char16_t* key : browserSafeKeys()) {
+                      list.setColor(webSafeColorFromName(key), key);
+                  }
+              });
 }
 
 void buildSVGKeywordList(HostColorListStore& store)
 {
-    buildList(listReferences().svgKeywordListS, svgKeywordToken, store,
+    buildList(listReferences().svgKeywordListS, BuiltInList::svgKeyword, store,
               [](HostColorList& list) { addColors(list, svgKeywordColors()); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "colorlists/BuiltInList.h"
 #include "host/HostColorList.h"
 
 #include <memory>
@@ -11,18 +12,16 @@
 /// The three lists that come with the picker. They are saved among the user's colour lists at the
 /// first start, and are ordinary lists from then on: one that is installed is used as it is, so the
 /// user's edits stay.
-///
-/// Tokens stand for the lists: 12 "Browser Safe", 13 and 15 "CSS Keyword", 14 "SVG Keyword".
 namespace vantorel {
 
-/// The list as it was found or built in this process; null until then, and for any other token.
-[[nodiscard]] std::shared_ptr<HostColorList> hexColorListWithToken(int token);
+/// The list as it was found or built in this process; null until then, and for any other number.
+[[nodiscard]] std::shared_ptr<HostColorList> hexColorListWithToken(BuiltInList token);
 
-/// Nothing for any other token.
-[[nodiscard]] std::optional<std::u16string> nameFromHexColorList(int token);
+/// "Browser Safe", "CSS Keyword" or "SVG Keyword"; `std::nullopt` for any other number.
+[[nodiscard]] std::optional<std::u16string> nameFromHexColorList(BuiltInList token);
 
-/// 13 for a name that is none of the three.
-[[nodiscard]] int hexColorListFromString(std::u16string_view name);
+/// The CSS keywords for a name that is none of the three.
+[[nodiscard]] BuiltInList hexColorListFromString(std::u16string_view name);
 
 [[nodiscard]] const std::vector<std::u16string>& allHexColorListNames();
 

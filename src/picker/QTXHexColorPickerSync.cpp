@@ -14,8 +14,6 @@ constexpr HostColor exactMatchTextdColorS = HostColor::blackColor();
 constexpr HostColor notExactMatchTextColorS =
     HostColor::colorWithCalibratedRed(200 / 255.0, 30 / 255.0, 30 / 255.0, 1.0);
 constexpr const char16_t* addStr = u"Add";
-/// The token of "CSS Keyword", the naming list where none is chosen.
-constexpr int fallbackListToken = 13;
 
 }  // namespace
 
@@ -61,7 +59,7 @@ void QTXHexColorPicker::syncNamingList()
         selectTitle(hexColorsListPopUp, _hexSettings.hexColorList());
         return;
     }
-    const auto name = nameFromHexColorList(fallbackListToken);
+    const auto name = nameFromHexColorList(BuiltInList::cssKeyword);
     _hexSettings.setHexColorList(name);
     if (hexColorsListPopUp == nullptr) return;
     const bool offered =

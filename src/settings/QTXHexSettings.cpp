@@ -6,8 +6,9 @@
 namespace vantorel {
 namespace {
 
-constexpr std::array<int, 3> defaultListTokens{12, 13, 14};
-constexpr int defaultNamingListToken = 13;
+constexpr std::array defaultLists{BuiltInList::browserSafe, BuiltInList::cssKeyword,
+                                  BuiltInList::svgKeyword};
+constexpr BuiltInList defaultNamingList = BuiltInList::cssKeyword;
 
 constexpr std::array<DisplayName<EntryForm>, 2> entryForms{{
     {EntryForm::uppercase, u"Uppercase"},
@@ -46,9 +47,9 @@ PickViewMode pickViewModeFromString(std::u16string_view name)
     return valueOfName(pickViewModes, name, PickViewMode::slider);
 }
 
-QTXHexSettings::QTXHexSettings() : _hexColorList(nameFromHexColorList(defaultNamingListToken))
+QTXHexSettings::QTXHexSettings() : _hexColorList(nameFromHexColorList(defaultNamingList))
 {
-    for (const int token : defaultListTokens) {
+    for (const BuiltInList token : defaultLists) {
         _activeColorLists.push_back(nameFromHexColorList(token).value_or(u""));
     }
 }

@@ -38,17 +38,18 @@ TEST_F(BuiltInListsTest, HoldExactlyWhatTheyAlwaysHeld)
 {
     checkAndInstallColorLists(_store);
     struct Row {
-        int token;
+        BuiltInList token;
         std::size_t count;
         std::uint64_t checksum;
     };
     for (const auto& [token, count, sum] :
-         {Row{13, 17, 0xde2537b158dcdd50}, Row{12, 216, 0x665629c2a207ef6d},
-          Row{14, 146, 0x0a07350fc0eed852}}) {
+         {Row{BuiltInList::cssKeyword, 17, 0xde2537b158dcdd50},
+          Row{BuiltInList::browserSafe, 216, 0x665629c2a207ef6d},
+          Row{BuiltInList::svgKeyword, 146, 0x0a07350fc0eed852}}) {
         const auto list = hexColorListWithToken(token);
         ASSERT_NE(list, nullptr);
         EXPECT_EQ(list->allKeys().size(), count);
-        EXPECT_EQ(checksum(*list), sum) << "token " << token;
+        EXPECT_EQ(checksum(*list), sum) << utf8FromUtf16(list->name());
     }
 }
 
@@ -75,8 +76,8 @@ TEST_F(BuiltInListsTest, AnInstalledListIsUsedAsItIs)
     mine->setColor(HostColor::blackColor(), u"only one");
     _store.writeColorList(mine);
     buildCSSKeywordList(_store);
-    EXPECT_EQ(hexColorListWithToken(13), mine);
-    EXPECT_EQ(hexColorListWithToken(15), mine);
+    EXPECT_EQ(hexColorListWithToken(BuiltInList::cssKeyword), mine);
+    EXPECT_EQ(hexColorListWithToken(BuiltInList::cssKeywordAgain), mine);
     EXPECT_EQ(mine->allKeys().size(), 1U);
 }
 
@@ -84,7 +85,7 @@ TEST_F(BuiltInListsTest, ServeThisProcessWhenTheyCannotBeSaved)
 {
     _files.failWrites(true);
     checkAndInstallColorLists(_store);
-    ASSERT_NE(hexColorListWithToken(12), nullptr);
+    ASSERT_NE(hexColorListWithToken(BuiltInList::browserSafe), nullptr);
     EXPECT_TRUE(_store.availableColorLists().empty());
 }
 
@@ -92,16 +93,23 @@ TEST_F(BuiltInListsTest, KeepTheirOwnSpellingsAndValues)
 {
     checkAndInstallColorLists(_store);
     struct Row {
-        int token;
+        BuiltInList token;
         const char16_t* key;
         std::optional<std::uint32_t> rgb;
     };
-    for (const auto& [token, key, rgb] :
-         {Row{13, u"orange", 0xFFA580}, Row{12, u"#FF0000", 0xFF0000}, Row{12, u"#ff0000", {}},
-          Row{14, u"orange", 0xFFA500}, Row{14, u"sliver", 0xC0C0C0}, Row{14, u"silver", {}},
-          Row{14, u"stealblue", 0x4682B4}, Row{14, u"steelblue", {}}, Row{14, u"gold", 0xFFFD00},
-          Row{14, u"darksalmon", 0xE99671}, Row{14, u"darkkhaki", 0xBDB76D},
-          Row{14, u"lightgray", 0xD3D3D3}, Row{14, u"lightgrey", {}}}) {
+    for (const auto& [token, key, rgb] : {Row{BuiltInList::cssKeyword, u"orange", 0xFFA580},
+                                          Row{BuiltInList::browserSafe, u"#FF0000", 0xFF0000},
+                                          Row{BuiltInList::browserSafe, u"#ff0000", {}},
+                                          Row{BuiltInList::svgKeyword, u"orange", 0xFFA500},
+                                          Row{BuiltInList::svgKeyword, u"sliver", 0xC0C0C0},
+                                          Row{BuiltInList::svgKeyword, u"silver", {}},
+                                          Row{BuiltInList::svgKeyword, u"stealblue", 0x4682B4},
+                                          Row{BuiltInList::svgKeyword, u"steelblue", {}},
+                                          Row{BuiltInList::svgKeyword, u"gold", 0xFFFD00},
+                                          Row{BuiltInList::svgKeyword, u"darksalmon", 0xE99671},
+                                          Row{BuiltInList::svgKeyword, u"darkkhaki", 0xBDB76D},
+                                          Row{BuiltInList::svgKeyword, u"lightgray", 0xD3D3D3},
+                                          Row{BuiltInList::svgKeyword, u"lightgrey", {}}}) {
         std::optional<HostColor> expected;
         if (rgb) {
             QTXHexColorSpec spec;
@@ -109,36 +117,40 @@ TEST_F(BuiltInListsTest, KeepTheirOwnSpellingsAndValues)
             expected = spec.colorHexColorSpec();
         }
         EXPECT_EQ(hexColorListWithToken(token)->colorWithKey(key), expected)
-            << utf8FromUtf16(key) << " of " << token;
+            << utf8FromUtf16(key) << " of " << static_cast<int>(token);
     }
-    EXPECT_EQ(hexColorListWithToken(12)->allKeys()[6], u"#FF0000");
-    EXPECT_EQ(hexColorListWithToken(13)->allKeys().back(), u"orange");
-    EXPECT_EQ(hexColorListWithToken(13), hexColorListWithToken(15));
+    EXPECT_EQ(hexColorListWithToken(BuiltInList::browserSafe)->allKeys()[6], u"#FF0000");
+    EXPECT_EQ(hexColorListWithToken(BuiltInList::cssKeyword)->allKeys().back(), u"orange");
+    EXPECT_EQ(hexColorListWithToken(BuiltInList::cssKeyword),
+              hexColorListWithToken(BuiltInList::cssKeywordAgain));
 }
 
 TEST(HexColorListNamesTest, StandForTheirTokens)
 {
     struct Row {
-        int token;
+        BuiltInList token;
         std::optional<std::u16string> name;
     };
     for (const auto& [token, name] :
-         {Row{11, {}}, Row{12, u"Browser Safe"}, Row{13, u"CSS Keyword"}, Row{14, u"SVG Keyword"},
-          Row{15, u"CSS Keyword"}, Row{16, {}}, Row{-1, {}}}) {
-        EXPECT_EQ(nameFromHexColorList(token), name) << token;
+         {Row{BuiltInList{11}, {}}, Row{BuiltInList::browserSafe, u"Browser Safe"},
+          Row{BuiltInList::cssKeyword, u"CSS Keyword"},
+          Row{BuiltInList::svgKeyword, u"SVG Keyword"},
+          Row{BuiltInList::cssKeywordAgain, u"CSS Keyword"}, Row{BuiltInList{16}, {}},
+          Row{BuiltInList{-1}, {}}}) {
+        EXPECT_EQ(nameFromHexColorList(token), name) << static_cast<int>(token);
     }
-    EXPECT_EQ(hexColorListFromString(u"Browser Safe"), 12);
-    EXPECT_EQ(hexColorListFromString(u"CSS Keyword"), 13);
-    EXPECT_EQ(hexColorListFromString(u"SVG Keyword"), 14);
+    EXPECT_EQ(hexColorListFromString(u"Browser Safe"), BuiltInList::browserSafe);
+    EXPECT_EQ(hexColorListFromString(u"CSS Keyword"), BuiltInList::cssKeyword);
+    EXPECT_EQ(hexColorListFromString(u"SVG Keyword"), BuiltInList::svgKeyword);
     for (const char16_t* unknown : {u"", u"browser safe", u"SVG Keyword ", u"any"}) {
-        EXPECT_EQ(hexColorListFromString(unknown), 13);
+        EXPECT_EQ(hexColorListFromString(unknown), BuiltInList::cssKeyword);
     }
 }
 
 TEST_F(BuiltInListsTest, NoTokenHasAListBeforeItIsBuilt)
 {
     for (const int token : {11, 12, 13, 14, 15, 16})
-        EXPECT_EQ(hexColorListWithToken(token), nullptr);
+        EXPECT_EQ(hexColorListWithToken(BuiltInList{token}), nullptr);
 }
 
 struct SortRow {

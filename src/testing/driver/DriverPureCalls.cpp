@@ -101,8 +101,8 @@ const std::map<std::string, Call>& calls()
         {"codeDragTypeNames", [](const Arguments&) { return jsonFromTexts(QTXHexSettings::codeDragTypeNames()); }},
         {"stringFromPickViewMode", [](const Arguments& a) { return jsonFromText(stringFromPickViewMode(a.enumeration<PickViewMode>(0))); }},
         {"pickViewModeFromString", [](const Arguments& a) -> Json { return number(pickViewModeFromString(a.textOrNull(0))); }},
-        {"nameFromHexColorList", [](const Arguments& a) { return jsonFromText(nameFromHexColorList(smallInteger(a.integer(0)))); }},
-        {"hexColorListFromString", [](const Arguments& a) -> Json { return hexColorListFromString(a.textOrNull(0)); }},
+        {"nameFromHexColorList", [](const Arguments& a) { return jsonFromText(nameFromHexColorList(BuiltInList{smallInteger(a.integer(0))})); }},
+        {"hexColorListFromString", [](const Arguments& a) -> Json { return static_cast<int>(hexColorListFromString(a.textOrNull(0))); }},
         {"allHexColorListNames", [](const Arguments&) { return jsonFromTexts(allHexColorListNames()); }},
         {"buildDefaultCodeSnippetDictionaries", [](const Arguments&) { return jsonFromPropertyList(QTXCodeSnippet::buildDefaultCodeSnippetDictionaries()); }},
     };
