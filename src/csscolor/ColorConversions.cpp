@@ -19,11 +19,6 @@ constexpr ColorMatrix xyzToLinearSRGB{{
     {-851781.0 / 878810, 1648619.0 / 878810, 36519.0 / 878810},
     {    705.0 /  12673,   -2585.0 /  12673,   705.0 /    667},
 }};
-constexpr ColorMatrix d65ToD50{{
-    { 1.0479297925449969,    0.022946870601609652, -0.05019226628920524 },
-    { 0.02962780877005599,   0.9904344267538799,   -0.017073799063418826},
-    {-0.009243040646204504,  0.015055191490298152,  0.7518742814281371  },
-}};
 constexpr ColorMatrix d50ToD65{{
     { 0.955473421488075,    -0.02309845494876471,   0.06325924320057072 },
     {-0.0283697093338637,    1.0099953980813041,    0.021041441191917323},
@@ -117,24 +112,9 @@ ColorTriple linearSRGBFromXYZ(const ColorTriple& xyz)
     return multiplied(xyzToLinearSRGB, xyz);
 }
 
-ColorTriple xyzD50FromXYZ(const ColorTriple& xyz)
-{
-    return multiplied(d65ToD50, xyz);
-}
-
 ColorTriple xyzFromXYZD50(const ColorTriple& xyz)
 {
     return multiplied(d50ToD65, xyz);
-}
-
-ColorTriple labFromXYZD50(const ColorTriple& xyz)
-{
-    ColorTriple f{};
-    for (std::size_t i = 0; i < 3; ++i) {
-        const double value = xyz[i] / d50White[i];
-        f[i] = value > labEpsilon ? std::cbrt(value) : (labKappa * value + 16) / 116;
-    }
-    return {116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2])};
 }
 
 ColorTriple xyzD50FromLab(const ColorTriple& lab)

@@ -26,12 +26,10 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 [[nodiscard]] ColorTriple xyzFromLinearSRGB(const ColorTriple& linear);
 [[nodiscard]] ColorTriple linearSRGBFromXYZ(const ColorTriple& xyz);
 
-/// The linear Bradford transform between the white points D65 and D50.
-[[nodiscard]] ColorTriple xyzD50FromXYZ(const ColorTriple& xyz);
+/// The linear Bradford transform from the white point D50 to D65.
 [[nodiscard]] ColorTriple xyzFromXYZD50(const ColorTriple& xyz);
 
 /// CIE Lab is relative to D50, with a lightness of 0..100 (section 9.3).
-[[nodiscard]] ColorTriple labFromXYZD50(const ColorTriple& xyz);
 [[nodiscard]] ColorTriple xyzD50FromLab(const ColorTriple& lab);
 
 /// Oklab has a lightness of 0..1 (section 9.4).

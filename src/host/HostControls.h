@@ -147,8 +147,7 @@ public:
     virtual ~HostViewContent() = default;
 
     virtual void drawRect(HostCanvas& canvas) = 0;
-    /// Whether a click into an inactive window already counts.
-    [[nodiscard]] virtual bool acceptsFirstMouse() const { return false; }
+    /// A click into an inactive window counts as well.
     virtual void mouseDown(const HostEvent&) {}
     virtual void mouseDragged(const HostEvent&) {}
     virtual void mouseMoved(const HostEvent&) {}

@@ -14,7 +14,7 @@
 /// number grows with every change there.
 namespace vantorel {
 
-inline constexpr std::uint32_t hostPluginABI = 8;
+inline constexpr std::uint32_t hostPluginABI = 9;
 
 /// What a plug-in offers. It lives as long as the library is loaded.
 struct HostPlugin {

@@ -20,7 +20,6 @@ public:
     FreeNames() = default;
     explicit FreeNames(const PaletteEntries& entries);
 
-    [[nodiscard]] bool isFree(const std::u16string& name) const { return !_used.contains(name); }
     void use(const std::u16string& name) { _used.insert(name); }
     /// Finds a free name, and uses it.
     std::u16string take(const std::u16string& wanted);

@@ -89,7 +89,6 @@ public:
     [[nodiscard]] HostSize minContentSizeWitSettings() const;
     [[nodiscard]] QTXHexColorsView& hexColorsView() { return _hexColorsView; }
     [[nodiscard]] const QTXHexColorsView& hexColorsView() const { return _hexColorsView; }
-    [[nodiscard]] QTXHexSettingsView& hexSettingsView() { return _hexSettingsView; }
     /// The title of the name pop-up's first item: "No Match", or the names of the close colours.
     [[nodiscard]] const std::u16string& noMatchString() const { return _noMatchString; }
     /// The keys of the naming list that are close to the current colour.

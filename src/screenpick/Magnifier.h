@@ -47,10 +47,6 @@ public:
     /// Paints the lens where it lies on that overlay, in the pixels of its screen.
     void paintLens(QPainter& painter, const MagnifierOverlay& overlay) const;
 
-    [[nodiscard]] const std::vector<std::unique_ptr<MagnifierOverlay>>& overlays() const
-    {
-        return _overlays;
-    }
     /// Whether mouse and keys all come here, wherever the pointer and the focus are.
     [[nodiscard]] bool hasInput() const { return _hasMouse && _hasKeyboard; }
 

@@ -15,7 +15,5 @@ inline constexpr const char16_t* NColorCubeRingsKey = u"NColorCubeRings";
 inline constexpr const char16_t* UsePoundSignKey = u"UsePoundSign";
 inline constexpr const char16_t* CreateColorListsKey = u"CreateColorLists";
 inline constexpr const char16_t* CodeSnippetsKey = u"CodeSnippets";
-/// The settings' name where they stand among those of others; the file does not use it.
-inline constexpr const char16_t* HexColorPickerSettingsKey = u"HexColorPickerSettings";
 
 }  // namespace vantorel

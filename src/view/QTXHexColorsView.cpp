@@ -53,7 +53,7 @@ void QTXHexColorsView::drawHecColorMatrixWithRect(HostRect rect, HostCanvas& can
     } else if (mode == PickViewMode::palette) {
         drawHexPaletteWithRect(rect, canvas);
     } else {
-        drawHexSlidersWithRect(rect, canvas);
+        drawHexSlidersWithRect(canvas);
     }
 }
 

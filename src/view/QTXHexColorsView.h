@@ -35,8 +35,6 @@ public:
     void setNeedsDisplay(bool flag);
 
     void drawRect(HostCanvas& canvas) override;
-    /// A click in an inactive panel picks at once.
-    [[nodiscard]] bool acceptsFirstMouse() const override { return true; }
     void mouseDown(const HostEvent& event) override;
     void mouseDragged(const HostEvent& event) override;
     void mouseMoved(const HostEvent& event) override;
@@ -79,8 +77,6 @@ public:
 
     void startTracking();
     void stopTracking();
-    /// 0 while nothing is tracked.
-    [[nodiscard]] std::intptr_t trackingRectTag() const { return __trackingRectTag; }
 
     // Dragging out (QTXHexColorsViewDragging.cpp).
 
@@ -97,10 +93,9 @@ private:
     /// Hands the drawing rectangle to the mode and puts the ring buttons in or out of sight.
     void drawHecColorMatrixWithRect(HostRect rect, HostCanvas& canvas);
 
-    void drawHexSlidersWithRect(HostRect rect, HostCanvas& canvas);
-    void drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& colorSpec, int component,
-                               HostCanvas& canvas);
-    void drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& colorSpec, int component, int digit,
+    /// Draws the six columns where `colorMatrixRectWithComponent` has their cells.
+    void drawHexSlidersWithRect(HostCanvas& canvas);
+    void drawHexColorsWithRect(QTXHexColorSpec& colorSpec, int component, int digit,
                                HostCanvas& canvas);
     void strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas);
     void slidersMouseDownWithEvent(const HostEvent& event);
@@ -150,6 +145,7 @@ private:
     };
     std::vector<MessageTimer> _messageTimers;
 
+    /// 0 while nothing is tracked.
     std::intptr_t __trackingRectTag = 0;
     bool __holdAcceptsMouseMovedEvents = false;
 };

@@ -31,7 +31,7 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
 {
     const auto list = paletteList();
     if (!list) {
-        drawHexSlidersWithRect(rect, canvas);
+        drawHexSlidersWithRect(canvas);
         return;
     }
     __sortedPaletteColorKeys.update(list);

@@ -29,28 +29,17 @@ std::optional<SliderCell> QTXHexColorsView::getComponent(HostPoint fromHitPoint)
     return cell;
 }
 
-void QTXHexColorsView::drawHexSlidersWithRect(HostRect rect, HostCanvas& canvas)
+void QTXHexColorsView::drawHexSlidersWithRect(HostCanvas& canvas)
 {
     for (int component = 0; component < componentCount; ++component) {
         __workColorSpec.loadWithHexColorSpec(&_hostHexColorPicker.hexColorSpec());
-        const double width = rect.width / componentCount;
-        const HostRect third{rect.x + component * width, rect.y, width, rect.height};
-        drawHexColorsWithRect(third, __workColorSpec, component, canvas);
+        for (const int digit : {1, 0})
+            drawHexColorsWithRect(__workColorSpec, component, digit, canvas);
     }
 }
 
-void QTXHexColorsView::drawHexColorsWithRect(HostRect rect, QTXHexColorSpec& colorSpec,
-                                             int component, HostCanvas& canvas)
-{
-    const double fifth = rect.width / 5;
-    drawHexColorsWithRect({rect.x + fifth, rect.y, fifth, rect.height}, colorSpec, component, 1,
-                          canvas);
-    drawHexColorsWithRect({rect.x + 3 * fifth, rect.y, fifth, rect.height}, colorSpec, component, 0,
-                          canvas);
-}
-
-void QTXHexColorsView::drawHexColorsWithRect(HostRect, QTXHexColorSpec& colorSpec, int component,
-                                             int digit, HostCanvas& canvas)
+void QTXHexColorsView::drawHexColorsWithRect(QTXHexColorSpec& colorSpec, int component, int digit,
+                                             HostCanvas& canvas)
 {
     const auto savedComponent = colorSpec.componentWithIndex(component);
     const int chosen =

@@ -12,6 +12,8 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace vantorel {
 namespace {
 
@@ -41,7 +43,13 @@ protected:
                                         });
     }
 
-    QWidget& overlay() { return *_magnifier->overlays().front(); }
+    static QWidget& overlay()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        return **std::ranges::find_if(windows, [](const QWidget* window) {
+            return dynamic_cast<const MagnifierOverlay*>(window) != nullptr;
+        });
+    }
     void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier, bool repeats = false)
     {
         QKeyEvent event(QEvent::KeyPress, code, modifiers, QString(), repeats);

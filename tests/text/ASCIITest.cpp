@@ -34,7 +34,8 @@ TEST(ASCIITest, AClassHasItsMembersAndNoOthers)
         for (char32_t c = 0; c < 0x20000; ++c) {
             const bool isMember =
                 c < 0x80 && each.members.find(static_cast<char>(c)) != std::string_view::npos;
-            ASSERT_EQ(each.isMember(c), isMember) << each.name << ' ' << std::hex << static_cast<std::uint32_t>(c);
+            ASSERT_EQ(each.isMember(c), isMember)
+                << each.name << ' ' << std::hex << static_cast<std::uint32_t>(c);
         }
     }
 }
