@@ -17,6 +17,45 @@
     </message>
 </context>
 <context>
+    <name>ListFileFilters</name>
+    <message>
+        <source>GIMP palettes</source>
+        <translation>GIMP-Paletten</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>CSS-Variablen</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>SCSS-Variablen</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Swatch exchange files</source>
+        <translation>Swatch-Exchange-Dateien</translation>
+    </message>
+    <message>
+        <source>SVG pictures</source>
+        <translation>SVG-Bilder</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Textdateien</translation>
+    </message>
+    <message>
+        <source>Colour lists</source>
+        <translation>Farblisten</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
     <name>PaletteEntriesView</name>
     <message>
         <source>Colour name</source>
@@ -198,10 +237,6 @@
         <translation>„%1“ lässt sich nicht lesen.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no palette: it does not begin with &quot;GIMP Palette&quot;.</source>
-        <translation>„%1“ ist keine Palette: Die Datei beginnt nicht mit „GIMP Palette“.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has been imported.</source>
         <translation>„%1“ wurde übernommen.</translation>
     </message>
@@ -222,16 +257,8 @@
         <translation>Palettendateien übernehmen</translation>
     </message>
     <message>
-        <source>Palettes (*.gpl *.colors);;All files (*)</source>
-        <translation>Paletten (*.gpl *.colors);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Save a copy</source>
         <translation>Kopie sichern</translation>
-    </message>
-    <message>
-        <source>Palettes (*.gpl)</source>
-        <translation>Paletten (*.gpl)</translation>
     </message>
     <message>
         <source>Only files of this computer can be imported.</source>
@@ -240,6 +267,10 @@
     <message>
         <source>the folder of palettes</source>
         <translation>dem Ordner der Paletten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour list that can be read. Supported are palettes of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text with one colour a line.</source>
+        <translation>„%1“ ist keine Farbliste, die sich lesen lässt. Unterstützt werden Paletten von GIMP und KDE, CSS, SCSS, JSON, Swatch-Exchange-Dateien und Text mit einer Farbe je Zeile.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "PanelWindowFixture.h"
 #include "ScopedEnvironment.h"
+#include "colorlists/PaletteFile.h"
+#include "listformats/ListFormats.h"
 #include "panel/palettes/PalettesPage.h"
 
 #include <gmock/gmock.h>
@@ -351,7 +353,7 @@ TEST_F(PalettesPageTest, FilesAreImportedByDrop)
     EXPECT_EQ(own("b"), "second=040506");
     for (const char* part :
          {"\"Reds 2\" has been imported", "\"b\" has been imported", "left out: 1",
-          "\"c.gpl\" is no palette", "\"elsewhere\" cannot be read"}) {
+          "\"c.gpl\" is not a colour list", "\"elsewhere\" cannot be read"}) {
         EXPECT_THAT(remark(), testing::HasSubstr(part));
     }
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000");
@@ -381,6 +383,34 @@ TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
     EXPECT_EQ(file.readAll(), QByteArray(reds));
     page()->saveCopy(at("no/such/folder/copy.gpl"));
     EXPECT_THAT(remark(), testing::HasSubstr("could not be written"));
+}
+
+TEST_F(PalettesPageTest, EveryFormIsSavedAndImported)
+{
+    const auto list = readPalette(reds, u"")->list;
+    const std::string original = own("Reds");
+    for (const ListFormat& format : listFormats()) {
+        for (const std::string_view ending : format.endings) {
+            show("Reds");
+            const QString path =
+                at("elsewhere/copy.") + QString::fromStdString(std::string(ending));
+            page()->saveCopy(path);
+            QFile file(path);
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << ending;
+            EXPECT_EQ(file.readAll().toStdString(), format.write(*list)) << ending;
+            if (!format.isRead) continue;
+            page()->importFiles({path});
+            EXPECT_NE(shownList(), "Reds") << ending << remark();
+            EXPECT_EQ(own(lists()->currentText()), original) << ending;
+        }
+    }
+}
+
+TEST_F(PalettesPageTest, APictureIsNotImported)
+{
+    page()->saveCopy(at("elsewhere/copy.svg"));
+    page()->importFiles({at("elsewhere/copy.svg")});
+    EXPECT_THAT(remark(), testing::HasSubstr("\"copy.svg\" is not a colour list"));
 }
 
 /// Acts as a user who may not write into the folders that the test has made.

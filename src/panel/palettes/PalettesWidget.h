@@ -40,6 +40,7 @@ public:
     // What the commands do once they know the files.
 
     void importFiles(const QStringList& paths);
+    /// In the form that the ending of the file's name stands for, else as a palette of GIMP.
     void saveCopy(const QString& path);
 
 protected:

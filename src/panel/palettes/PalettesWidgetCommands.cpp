@@ -1,7 +1,8 @@
-#include "colorlists/PaletteFile.h"
 #include "hosts/qt/QtColors.h"
+#include "listformats/ListReader.h"
 #include "paletteedit/FreeNames.h"
 #include "paletteedit/ProposedName.h"
+#include "panel/palettes/ListFileFilters.h"
 #include "panel/palettes/PaletteRemarks.h"
 #include "panel/palettes/PalettesWidget.h"
 #include "panel/widgets/ColorClipboard.h"
@@ -315,18 +316,21 @@ void PalettesWidget::importFiles(const QStringList& paths)
             continue;
         }
         const QByteArray bytes = file.read(largestFile);
-        const auto reading =
-            readPalette({bytes.constData(), static_cast<std::size_t>(bytes.size())},
-                        u16From(info.completeBaseName()));
-        if (!reading) {
-            remarks.append(tr("\"%1\" is no palette: it does not begin with \"GIMP Palette\".")
-                               .arg(info.fileName()));
+        const ColorListReading reading =
+            readColorList({bytes.constData(), static_cast<std::size_t>(bytes.size())},
+                          info.fileName().toStdString());
+        if (!reading.list) {
+            remarks.append(
+                tr("\"%1\" is not a colour list that can be read. Supported are palettes "
+                   "of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text "
+                   "with one colour a line.")
+                    .arg(info.fileName()));
             hasFailed = true;
             continue;
         }
-        std::u16string name = reading->list->name();
+        std::u16string name = reading.list->name();
         if (tidyName(name).empty()) name = u16From(info.completeBaseName());
-        const EditOutcome outcome = _editor.add(name, entriesOfList(*reading->list));
+        const EditOutcome outcome = _editor.add(name, entriesOfList(*reading.list));
         take(outcome);
         hasFailed = hasFailed || !outcome.done;
         if (!outcome.done) {
@@ -334,9 +338,8 @@ void PalettesWidget::importFiles(const QStringList& paths)
             continue;
         }
         remarks.append(tr("\"%1\" has been imported.").arg(nameOfList()));
-        const std::size_t skipped = reading->skipped.size() + reading->furtherSkippedLines;
-        if (skipped > 0) {
-            remarks.append(tr("Lines that are no colours were left out: %1.").arg(skipped));
+        if (reading.skipped > 0) {
+            remarks.append(tr("Lines that are no colours were left out: %1.").arg(reading.skipped));
         }
     }
     showRemark(remarks.join(u' '), hasFailed ? RemarkKind::failure : RemarkKind::news);
@@ -345,8 +348,10 @@ void PalettesWidget::importFiles(const QStringList& paths)
 void PalettesWidget::saveCopy(const QString& path)
 {
     const std::u16string name = u16From(nameOfList());
+    const ListFormat* ofEnding = listFormatOfFile(path.toStdString());
+    const ListFormat& format = ofEnding != nullptr ? *ofEnding : listFormats().front();
     const bool saved = _files.writeForOthers(QFile::encodeName(path).toStdString(),
-                                             paletteText(*listOfEntries(name, entries())));
+                                             format.write(*listOfEntries(name, entries())));
     showRemark(saved ? tr("Saved as %1.").arg(path)
                      : tr("%1 could not be written. May you write there, and is there room on the "
                           "disk?")
@@ -357,17 +362,26 @@ void PalettesWidget::saveCopy(const QString& path)
 void PalettesWidget::chooseFilesToImport()
 {
     importFiles(QFileDialog::getOpenFileNames(this, tr("Import palette files"), {},
-                                              tr("Palettes (*.gpl *.colors);;All files (*)")));
+                                              ListFileFilters::forReading()));
 }
 
 void PalettesWidget::chooseFileToSave()
 {
     QString proposed = nameOfList();
     proposed.replace(u'/', u'-');
-    QFileDialog dialog(this, tr("Save a copy"), {}, tr("Palettes (*.gpl)"));
+    QFileDialog dialog(this, tr("Save a copy"), {}, ListFileFilters::forWriting());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("gpl"));
-    dialog.selectFile(proposed + QStringLiteral(".gpl"));
+    const auto useFormat = [&dialog](const ListFormat& format, const QString& name) {
+        const QString named = ListFileFilters::withEnding(name, format);
+        dialog.setDefaultSuffix(QFileInfo(named).suffix());
+        dialog.selectFile(named);
+    };
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        const ListFormat* format = ListFileFilters::formatOf(filter);
+        if (format != nullptr)
+            useFormat(*format, QFileInfo(dialog.selectedFiles().value(0)).fileName());
+    });
+    useFormat(listFormats().front(), proposed);
     if (dialog.exec() == QDialog::Accepted) saveCopy(dialog.selectedFiles().value(0));
 }
 
