@@ -150,16 +150,16 @@ PICKERS_TEXTS = [
 
 
 class Commands(ProgramTest):
-    def test_examples_give_what_they_say(self):
+    def test_examples_give_the_documented_output(self):
         for arguments, stdin, expected in EXAMPLES:
             with self.subTest(arguments=arguments, stdin=stdin):
-                told = self.told(*arguments, stdin=stdin)
+                printed = self.output_of(*arguments, stdin=stdin)
                 if isinstance(expected, str):
-                    self.assertEqual(told, expected)
+                    self.assertEqual(printed, expected)
                 else:
-                    self.assertRegex(told, expected)
+                    self.assertRegex(printed, expected)
 
-    def test_telling_leaves_no_trace(self):
+    def test_reading_commands_write_no_files(self):
         for arguments, stdin, _ in EXAMPLES:
             self.run_program(*arguments, stdin=stdin)
         self.assertEqual(self.files_at_home(), [])
@@ -167,25 +167,25 @@ class Commands(ProgramTest):
     def test_wrong_command_lines_end_with_2(self):
         for arguments, message in USAGE_ERRORS:
             with self.subTest(arguments=arguments):
-                self.assertIn(message, self.refusal(*arguments))
+                self.assertIn(message, self.error_of(*arguments))
 
     def test_failures_end_with_1(self):
         for arguments, message in ERRORS:
             with self.subTest(arguments=arguments):
-                self.assertIn(message, self.refusal(*arguments))
+                self.assertIn(message, self.error_of(*arguments))
 
     def test_the_texts_of_the_picker_are_read(self):
         for text, code in PICKERS_TEXTS:
             with self.subTest(text=text):
-                self.assertEqual(self.told("show", "--json", "--no-pound-sign", "--", text).split('"')[3], code)
+                self.assertEqual(self.output_of("show", "--json", "--no-pound-sign", "--", text).split('"')[3], code)
 
-    def test_each_colour_is_shown_though_another_is_none(self):
+    def test_valid_colours_are_shown_beside_invalid_ones(self):
         run = self.run_program("show", "--snippet", "VBasic", "red", "nope", "blue")
         self.assertEqual((run.returncode, run.stdout), (2, b"RGB(255, 0, 0)\nRGB(0, 0, 255)\n"))
         self.assertEqual(run.stderr.count(b"\n"), 1)
 
     def test_json_holds_everything(self):
-        report = json.loads(self.told("show", "--json", "color(display-p3 0 1 0 / 0.25)"))
+        report = json.loads(self.output_of("show", "--json", "color(display-p3 0 1 0 / 0.25)"))
         self.assertEqual(report["hex"], "#00FB2940")
         self.assertEqual((report["red"], report["green"], report["blue"], report["alpha"]), (0, 251, 41, 0.25))
         self.assertIs(report["outsideSRGB"], True)
@@ -193,42 +193,42 @@ class Commands(ProgramTest):
                                                 "Fraction": ["0.000", "0.984", "0.161"]})
         self.assertEqual([snippet["name"] for snippet in report["snippets"]][-1], "VBasic")
 
-    def test_settings_are_followed(self):
+    def test_settings_are_applied(self):
         self.write_settings(SETTINGS)
-        self.assertEqual(self.told("show", "#FFA500"), "hex: ffa500\nrgb: rgb(255, 165, 0)\nhsl: hsl(38.82 100% 50%)\n"
+        self.assertEqual(self.output_of("show", "#FFA500"), "hex: ffa500\nrgb: rgb(255, 165, 0)\nhsl: hsl(38.82 100% 50%)\n"
                          "oklch: oklch(79.269% 0.17103 70.67)\ncomponents:\n  Hex: ff a5 00\n  Integer: 255 165 0\n"
                          "  Fraction: 1.000 0.647 0.000\nname (SVG Keyword): orange\nsnippets:\n  Mine: mine(255, 165, 0)\n")
-        self.assertEqual(self.told("name", "orange"), "orange\n")
-        self.assertEqual(self.told("snippets"), "Mine\trgbFixed\tmine(%d, %d, %d)\n")
-        self.assertEqual(self.told("show", stdin="#FFA500\n"), "ffa500\trgb(255, 165, 0)\n")
-        self.assertEqual(self.told("show", "--uppercase", "--pound-sign", stdin="#ffa500\n"), "#FFA500\trgb(255, 165, 0)\n")
-        self.assertEqual(self.told("wheel", "--svg", "-").count("<path"), 6 * 9)
+        self.assertEqual(self.output_of("name", "orange"), "orange\n")
+        self.assertEqual(self.output_of("snippets"), "Mine\trgbFixed\tmine(%d, %d, %d)\n")
+        self.assertEqual(self.output_of("show", stdin="#FFA500\n"), "ffa500\trgb(255, 165, 0)\n")
+        self.assertEqual(self.output_of("show", "--uppercase", "--pound-sign", stdin="#ffa500\n"), "#FFA500\trgb(255, 165, 0)\n")
+        self.assertEqual(self.output_of("wheel", "--svg", "-").count("<path"), 6 * 9)
 
-    def test_damaged_settings_are_the_usual_ones_and_stay(self):
+    def test_damaged_settings_count_as_defaults_and_are_kept(self):
         for damage in (b"{ EntryForm = ", b"\xff\x00\xfe", b""):
             path = self.write_settings(damage)
-            self.assertTrue(self.told("show", "#f80").startswith("hex: #FF8800\n"))
+            self.assertTrue(self.output_of("show", "#f80").startswith("hex: #FF8800\n"))
             self.assertEqual(self.read(path), damage)
 
     def test_names_of_the_users_lists_are_colours(self):
         self.write_list("Mine", ["255 128 0\tPumpkin Pie", "1 2 3\tink"])
         self.write_settings("{HexColorLlst = Mine;}")
-        self.assertEqual(self.told("show", "--snippet", "VBasic", "Pumpkin Pie", "pumpkin pie", "INK"),
+        self.assertEqual(self.output_of("show", "--snippet", "VBasic", "Pumpkin Pie", "pumpkin pie", "INK"),
                          "RGB(255, 128, 0)\nRGB(255, 128, 0)\nRGB(1, 2, 3)\n")
-        self.assertEqual(self.told("name", "#ff8000"), "Pumpkin Pie\n")
+        self.assertEqual(self.output_of("name", "#ff8000"), "Pumpkin Pie\n")
 
-    def test_a_naming_list_that_is_missing_is_no_failure(self):
+    def test_a_missing_list_of_names_is_not_an_error(self):
         self.write_settings("{HexColorLlst = Gone;}")
-        self.assertNotIn("name", self.told("show", "red"))
-        self.assertIn("no colour list to name colours by", self.refusal("name", "red"))
+        self.assertNotIn("name", self.output_of("show", "red"))
+        self.assertIn("no colour list to name colours by", self.error_of("name", "red"))
 
     def test_every_option_in_help_is_tried(self):
-        commands = re.findall(r"^  ([a-z]+)  ", self.told("--help"), re.M)
+        commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
         self.assertEqual(len(commands), 13)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue
-            text = self.told(*command.split(), "--help")
+            text = self.output_of(*command.split(), "--help")
             self.assertTrue(text.startswith(f"Usage: vantorel {command}"), text)
             self.assertLessEqual(max(map(len, text.splitlines())), 79)
             options = set(re.findall(r"^  (?:-h, )?(--[a-z-]+)", text, re.M)) - {"--help"}
@@ -236,13 +236,13 @@ class Commands(ProgramTest):
                      if arguments[:len(command.split())] == command.split() for argument in arguments}
             self.assertEqual(options - tried - TRIED_ELSEWHERE.get(command, set()), set(), command)
 
-    def test_names_cannot_command_a_terminal(self):
+    def test_names_cannot_control_a_terminal(self):
         self.write_list("Evil\x1b[2J", ["255 0 0\tred\x1b]0;x\x07\u009b1m"], "evil.gpl")
         for arguments in (["lists"], ["list", "Evil\x1b[2J"], ["name", "red", "--list", "Evil\x1b[2J"],
                           ["show", "red", "--list", "Evil\x1b[2J"]):
-            told = self.told(*arguments)
-            self.assertNotRegex(told, "[\x00-\x08\x0b-\x1f\x7f-\x9f]", arguments)
-        self.assertNotIn("\x1b", self.refusal("list", "\x1b[2J"))
+            printed = self.output_of(*arguments)
+            self.assertNotRegex(printed, "[\x00-\x08\x0b-\x1f\x7f-\x9f]", arguments)
+        self.assertNotIn("\x1b", self.error_of("list", "\x1b[2J"))
 
 
 class Panel(ProgramTest):
@@ -265,7 +265,7 @@ class Panel(ProgramTest):
     def put_panel(self, folder, script=SCRIPT):
         os.chmod(self.write(os.path.join(folder, "vantorel-panel"), script), 0o755)
 
-    def test_arguments_output_and_status_are_handed_on(self):
+    def test_arguments_output_and_status_are_passed_on(self):
         self.put_panel(self.bin)
         for arguments, handed_on in [(["pick"], "--pick\n"), (["pick", "--copy"], "--pick-and-copy\n"), (["choose"], "--choose\n"),
                                      (["choose", "rgb(255 128 0 / 50%)"], "--choose\n--color\n#ff800080\n"),
@@ -273,23 +273,23 @@ class Panel(ProgramTest):
             with self.subTest(arguments=arguments):
                 self.assertEqual(self.run_copy(*arguments), (7, handed_on, ""))
 
-    def test_the_panel_beside_the_program_comes_before_that_in_path(self):
+    def test_the_panel_beside_the_program_precedes_that_in_path(self):
         self.put_panel(self.bin, "#!/bin/sh\necho beside\n")
         self.put_panel(self.other, "#!/bin/sh\necho path\n")
         self.assertEqual(self.run_copy("panel"), (0, "beside\n", ""))
         os.remove(os.path.join(self.bin, "vantorel-panel"))
         self.assertEqual(self.run_copy("panel"), (0, "path\n", ""))
 
-    def test_a_missing_panel_is_told(self):
+    def test_a_missing_panel_is_reported(self):
         os.mkdir(os.path.join(self.bin, "vantorel-panel"))
         self.write(os.path.join(self.other, "vantorel-panel"), "not executable")
         for arguments in (["pick"], ["choose", "red"], ["panel", "--help"]):
-            status, told, message = self.run_copy(*arguments)
-            self.assertEqual((status, told), (2, ""))
+            status, printed, message = self.run_copy(*arguments)
+            self.assertEqual((status, printed), (2, ""))
             self.assertEqual(message, "vantorel: the program vantorel-panel is missing: install it beside vantorel or in "
                                       "a folder of PATH\n")
 
-    def test_a_panel_that_cannot_be_run_is_told(self):
+    def test_a_panel_that_cannot_be_run_is_reported(self):
         self.put_panel(self.bin, "#!/nowhere\n")
         self.assertEqual(self.run_copy("panel")[0], 2)
         self.assertIn("cannot be run", self.run_copy("panel")[2])

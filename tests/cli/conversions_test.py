@@ -50,14 +50,14 @@ class Conversions(ProgramTest):
     def test_hex_codes_and_decimals_are_those_of_imagemagick(self):
         self.assertEqual(len(self.rows), self.count)
         expected = "".join(f"{code}\trgb({red}, {green}, {blue})\n" for red, green, blue, code in self.rows)
-        self.assertEqual(self.told("show", stdin="\n".join(SHORT + LONG)), expected)
+        self.assertEqual(self.output_of("show", stdin="\n".join(SHORT + LONG)), expected)
         # Decimals and percentages convert back.
-        self.assertEqual(self.told("show", stdin="".join(f"rgb({r}, {g}, {b})\n" for r, g, b, _ in self.rows)), expected)
-        self.assertEqual(self.told("show", stdin="".join(
+        self.assertEqual(self.output_of("show", stdin="".join(f"rgb({r}, {g}, {b})\n" for r, g, b, _ in self.rows)), expected)
+        self.assertEqual(self.output_of("show", stdin="".join(
             "rgb({}% {}% {}%)\n".format(*(int(n) / 2.55 for n in row[:3])) for row in self.rows)), expected)
 
     def test_names_read_as_imagemagick_reads_them(self):
-        names = [row.split("\t")[1] for row in self.told("list", "SVG Keyword").splitlines()]
+        names = [row.split("\t")[1] for row in self.output_of("list", "SVG Keyword").splitlines()]
         # The picker's list has keys that other programs do not know.
         known = [name for name in names if name not in ("atniquewhite", "transparent")]
         run = subprocess.run([CONVERT] + [f"xc:{name}" for name in known] + ["+append", "-depth", "8", "rgb:-"],
@@ -66,38 +66,38 @@ class Conversions(ProgramTest):
         known = [name for name in known if name not in unknown]
         self.assertGreater(len(known), 130)
         codes = [f"#{run.stdout[i:i + 3].hex().upper()}" for i in range(0, len(run.stdout), 3)]
-        told = [line.split("\t")[0] for line in self.told("show", stdin="\n".join(known)).splitlines()]
+        printed = [line.split("\t")[0] for line in self.output_of("show", stdin="\n".join(known)).splitlines()]
         # Some names are different colours in X11 and CSS; see CSS Color 4, section 6.1.
-        differing = [name for name, ours, theirs in zip(known, told, codes) if ours != theirs]
+        differing = [name for name, ours, theirs in zip(known, printed, codes) if ours != theirs]
         self.assertLessEqual(set(differing), {"gray", "grey", "green", "maroon", "purple"})
 
     def test_hsl_components_and_oklch_are_right(self):
         self.write_settings(ONE_SNIPPET)
-        lines = self.told("show", "--json", "-", stdin="\n".join(SHORT + LONG[:20_000])).splitlines()
+        lines = self.output_of("show", "--json", "-", stdin="\n".join(SHORT + LONG[:20_000])).splitlines()
         self.assertEqual(len(lines), len(SHORT) + 20_000)
         for line, row in zip(lines, self.rows):
-            told = json.loads(line)
+            printed = json.loads(line)
             red, green, blue = (int(n) for n in row[:3])
-            self.assertEqual((told["hex"], told["red"], told["green"], told["blue"]), (row[3], red, green, blue))
-            self.assertEqual(told["components"], {"Hex": [row[3][1:3], row[3][3:5], row[3][5:]], "Integer": list(row[:3]),
+            self.assertEqual((printed["hex"], printed["red"], printed["green"], printed["blue"]), (row[3], red, green, blue))
+            self.assertEqual(printed["components"], {"Hex": [row[3][1:3], row[3][3:5], row[3][5:]], "Integer": list(row[:3]),
                                                   "Fraction": [f"{n / 255:.3f}" for n in (red, green, blue)]})
-            self.assertEqual(told["snippets"][0]["text"], str(int(row[3][1:], 16)))
+            self.assertEqual(printed["snippets"][0]["text"], str(int(row[3][1:], 16)))
             hue, lightness, saturation = colorsys.rgb_to_hls(red / 255, green / 255, blue / 255)
-            h, s, l = (float(n) for n in re.fullmatch(r"hsl\(([\d.]+) ([\d.]+)% ([\d.]+)%\)", told["hsl"]).groups())
+            h, s, l = (float(n) for n in re.fullmatch(r"hsl\(([\d.]+) ([\d.]+)% ([\d.]+)%\)", printed["hsl"]).groups())
             self.assertTrue(abs((h - hue * 360 + 180) % 360 - 180) < 0.006 and abs(s - saturation * 100) < 0.006 and
                             abs(l - lightness * 100) < 0.006, line)
             wanted = oklch(red, green, blue)
-            l, c, h = (float(n) for n in re.fullmatch(r"oklch\(([\d.]+)% ([\d.]+) ([\d.]+)\)", told["oklch"]).groups())
+            l, c, h = (float(n) for n in re.fullmatch(r"oklch\(([\d.]+)% ([\d.]+) ([\d.]+)\)", printed["oklch"]).groups())
             found = (l / 100, c * math.cos(math.radians(h)), c * math.sin(math.radians(h)))
             self.assertTrue(all(abs(a - b) < 2e-4 for a, b in zip(found, wanted)), line)
 
-    def test_names_are_those_of_a_plain_walk(self):
+    def test_names_are_those_of_a_plain_search(self):
         for name in ("CSS Keyword", "SVG Keyword", "Browser Safe"):
             entries = [(bytes.fromhex(code[1:]), key) for code, key in
-                       (row.split("\t") for row in self.told("list", name).splitlines())]
+                       (row.split("\t") for row in self.output_of("list", name).splitlines())]
             colors = SHORT + LONG[:5000]
-            told = self.told("name", "--list", name, stdin="\n".join(colors)).splitlines()
-            for row, title in zip(self.rows, told):
+            printed = self.output_of("name", "--list", name, stdin="\n".join(colors)).splitlines()
+            for row, title in zip(self.rows, printed):
                 color = tuple(int(n) for n in row[:3])
                 exact = [key for code, key in entries if tuple(code) == color]
                 close = [key for code, key in entries if all(abs(a - b) <= 16 for a, b in zip(code, color))]

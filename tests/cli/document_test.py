@@ -49,8 +49,8 @@ class Document(ProgramTest):
                 run = subprocess.run(["bash", "-c", command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                                      env=self.environment, cwd=self.home, timeout=60)
                 pattern = "".join("(.*\n)*" if line == "..." else re.escape(line) + "\n" for line in output)
-                told = run.stdout.decode().replace(self.home, "~")
-                self.assertRegex(told, rf"\A{pattern}\Z")
+                printed = run.stdout.decode().replace(self.home, "~")
+                self.assertRegex(printed, rf"\A{pattern}\Z")
 
 
 if __name__ == "__main__":

@@ -51,9 +51,9 @@ class GimpTest(ProgramTest):
     def palettes_in_gimp(self):
         """The colours of each list in order; empty if GIMP does not know the palette."""
         # Definitions of one batch are unknown in the next.
-        told = self.gimp(*(f'{TELL} (tell "{name}")' for name in LISTS))
-        palettes = {name: None for name in re.findall(r"Palette '(.*)' not found", told)}
-        for line in re.findall(r"script-fu-Warning: (.*)", told):
+        printed = self.gimp(*(f'{TELL} (tell "{name}")' for name in LISTS))
+        palettes = {name: None for name in re.findall(r"Palette '(.*)' not found", printed)}
+        for line in re.findall(r"script-fu-Warning: (.*)", printed):
             name = line.removeprefix("palette ")
             if name != line:
                 palettes[name] = colors = []
@@ -64,15 +64,15 @@ class GimpTest(ProgramTest):
             colors.append((int(red), int(green), int(blue), entry))
         return palettes
 
-    def test_gimp_opens_what_was_published_and_misses_what_was_taken_back(self):
+    def test_gimp_opens_published_lists_until_publishing_is_undone(self):
         for name, colors in LISTS.items():
             self.write_list(name, [f"{r} {g} {b}\t{entry}" for r, g, b, entry in colors])
         self.assertEqual(self.palettes_in_gimp(), dict.fromkeys(LISTS))
         for name in LISTS:
-            self.assertIn("written for GIMP: ", self.told("list", "publish", name))
+            self.assertIn("written for GIMP: ", self.output_of("list", "publish", name))
         self.assertEqual(self.palettes_in_gimp(), LISTS)
         for name in LISTS:
-            self.told("list", "publish", name, "--undo")
+            self.output_of("list", "publish", name, "--undo")
         self.assertEqual(self.palettes_in_gimp(), dict.fromkeys(LISTS))
 
 

@@ -16,7 +16,7 @@ LONGEST_LINE = 65536
 
 
 class Hostile(ProgramTest):
-    def test_a_line_that_is_too_long_is_passed_over(self):
+    def test_a_line_that_is_too_long_is_skipped(self):
         for longer in (1, 300000, 2000000):
             for ending in ("\n#010203\n", ""):
                 with self.subTest(longer=longer, ending=ending):
@@ -27,7 +27,7 @@ class Hostile(ProgramTest):
 
     def test_the_longest_line_is_read(self):
         line = "#010203" + " " * (LONGEST_LINE - 7)
-        self.assertEqual(self.told("show", stdin=line + "\n" + line), "#010203\trgb(1, 2, 3)\n" * 2)
+        self.assertEqual(self.output_of("show", stdin=line + "\n" + line), "#010203\trgb(1, 2, 3)\n" * 2)
 
     def test_lines_come_in_any_pieces(self):
         process = subprocess.Popen([PROGRAM, "show"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=self.environment, bufsize=0)
@@ -39,7 +39,7 @@ class Hostile(ProgramTest):
         self.assertTrue(rest.endswith(b"#FF0000\trgb(255, 0, 0)\n"))
         self.assertEqual(process.returncode, 0)
 
-    def test_bytes_that_are_no_text_are_told_and_end_well(self):
+    def test_bytes_that_are_not_text_are_reported(self):
         generator = random.Random(4)
         for stdin in (bytes(range(256)), generator.randbytes(200000), b"\0" * 100000, b"\n" * 100000, b"\xff\xfe#\0f\0", b"\0"):
             for command in ("show", "name"):
@@ -49,7 +49,7 @@ class Hostile(ProgramTest):
                 self.assertLessEqual(run.stderr.count(b"\n"), 101)
                 self.assertNotRegex(run.stderr, rb"[\x00-\x09\x0b-\x1f\x7f]")
 
-    def test_messages_are_counted_beyond_a_hundred(self):
+    def test_messages_beyond_a_hundred_are_only_counted(self):
         run = self.run_program("show", stdin="x\n" * 1234 + "red\n")
         self.assertEqual(run.stderr.splitlines()[-1],
                          b"vantorel: standard input has 1134 more lines that are no colours: give one colour a line")
@@ -61,7 +61,7 @@ class Hostile(ProgramTest):
             self.assertIn(run.returncode, (0, 2))
             self.assertLess(len(run.stderr), 400)
 
-    def test_arguments_that_are_no_text(self):
+    def test_arguments_that_are_not_text(self):
         run = subprocess.run([PROGRAM, b"show", b"\xff\x1b[2J\n"], capture_output=True, env=self.environment)
         self.assertEqual((run.returncode, run.stdout), (2, b""))
         self.assertEqual((run.stderr.count(b"\n"), run.stderr.count(b"\x1b")), (1, 0))
@@ -116,7 +116,7 @@ class Hostile(ProgramTest):
                              (2, "vantorel: standard input cannot be read: give colours as arguments, or a file or program "
                                  "to read from\n"))
 
-    def test_no_message_lands_in_a_file(self):
+    def test_no_message_is_written_into_a_file(self):
         # Standard error is closed, so the next opened file would get its number.
         file = os.path.join(self.root, "x.css")
         run = self.shell(f'"$0" list export "CSS Keyword" --format css --output {file} 2>&- <&-; "$0" show nope 2>&-')
@@ -126,46 +126,46 @@ class Hostile(ProgramTest):
     def shell(self, command):
         return subprocess.run(["sh", "-c", command, PROGRAM], capture_output=True, env=self.environment, timeout=60)
 
-    def test_without_a_home_the_usual_settings_count(self):
+    def test_without_a_home_the_default_settings_apply(self):
         self.environment["HOME"] = "nowhere"
-        usual = self.told("show", "red")
+        usual = self.output_of("show", "red")
         for home in ("/nowhere", "/dev/null", self.path("missing")):
             self.environment["HOME"] = home
-            self.assertEqual(self.told("show", "red"), usual)
-            self.assertEqual(len(self.told("lists").splitlines()), 3)
+            self.assertEqual(self.output_of("show", "red"), usual)
+            self.assertEqual(len(self.output_of("lists").splitlines()), 3)
         self.assertEqual(self.files_at_home(), [])
 
-    def test_what_needs_a_home_tells_so(self):
+    def test_commands_that_need_a_home_say_so(self):
         file = self.write(os.path.join(self.root, "x.txt"), "red\tr\n")
         self.environment["HOME"] = "/dev/null"
-        self.assertIn("cannot be saved", self.refusal("list", "import", file))
+        self.assertIn("cannot be saved", self.error_of("list", "import", file))
 
-    def test_a_home_that_may_only_be_read(self):
+    def test_a_read_only_home(self):
         if os.geteuid() == 0:
             self.skipTest("root may write anywhere")
         self.write_list("Mine", ["1 2 3\tone"])
         file = self.write(os.path.join(self.root, "x.txt"), "red\tr\n")
         for folder, _, _ in os.walk(self.home):
             os.chmod(folder, 0o500)
-        self.assertEqual(self.told("list", "Mine"), "#010203\tone\n")
-        self.assertIn("cannot be saved", self.refusal("list", "import", file))
+        self.assertEqual(self.output_of("list", "Mine"), "#010203\tone\n")
+        self.assertIn("cannot be saved", self.error_of("list", "import", file))
 
-    def test_lists_that_are_damaged_or_strange(self):
+    def test_damaged_and_unusual_lists(self):
         folder = self.path(".local/share/Vantorel/Palettes")
         self.write(os.path.join(folder, "a.gpl"), b"\0" * 1000)
         self.write(os.path.join(folder, "b.gpl"), b"GIMP Palette\nName: B\n" + b"x\n" * 10000 + b"1 2 3\tone\n")
         os.mkfifo(os.path.join(folder, "c.gpl"))
         os.symlink("d.gpl", os.path.join(folder, "d.gpl"))
         os.mkdir(os.path.join(folder, "e.gpl"))
-        self.assertEqual(self.told("list", "B"), "#010203\tone\n")
-        self.assertEqual(len(self.told("lists").splitlines()), 4)
+        self.assertEqual(self.output_of("list", "B"), "#010203\tone\n")
+        self.assertEqual(len(self.output_of("lists").splitlines()), 4)
 
     def test_snippets_with_hostile_formats(self):
         self.write_settings('{CodeSnippets = ({NameSnippet = "x\\033[2J"; FormatSnippet = "%n%s%999999999d%*d\\033]0;";'
                             ' VarsSnippet = rgbFixed;}, {NameSnippet = y;});}')
-        told = self.told("show", "red")
-        self.assertNotIn("\x1b", told)
-        self.assertIn("  y: ??\n", told)
+        printed = self.output_of("show", "red")
+        self.assertNotIn("\x1b", printed)
+        self.assertIn("  y: ??\n", printed)
 
 
 if __name__ == "__main__":

@@ -24,47 +24,47 @@ def rows_of(palette):
 
 
 class Lists(ProgramTest):
-    def test_lists_of_the_user_and_of_programs_tell_their_place(self):
+    def test_lists_of_the_user_and_of_programs_show_their_file(self):
         mine = self.write_list("Mine", ["1 2 3\tone", "4 5 6\ttwo"], "any file.gpl")
         theirs = self.write(self.path(".config/GIMP/2.10/palettes/x.gpl"), "GIMP Palette\nName: Reds\n255 0 0\tred\n")
         saved = self.write_list("SVG Keyword", ["1 2 3\tone"])
-        self.assertEqual(self.told("lists"), f"216\tBrowser Safe\t(built in)\n17\tCSS Keyword\t(built in)\n"
+        self.assertEqual(self.output_of("lists"), f"216\tBrowser Safe\t(built in)\n17\tCSS Keyword\t(built in)\n"
                          f"2\tMine\t{mine}\n1\tReds\t{theirs}\n1\tSVG Keyword\t{saved}\n")
-        self.assertEqual(self.told("list", "Reds"), "#ff0000\tred\n")
-        self.assertEqual(self.told("list", "SVG Keyword"), "#010203\tone\n")
+        self.assertEqual(self.output_of("list", "Reds"), "#ff0000\tred\n")
+        self.assertEqual(self.output_of("list", "SVG Keyword"), "#010203\tone\n")
 
-    def test_a_list_called_like_a_command_is_reached(self):
+    def test_a_list_with_the_name_of_a_command_can_be_named(self):
         self.write_list("import", ["1 2 3\tone"])
-        self.assertEqual(self.told("list", "--", "import"), "#010203\tone\n")
-        self.assertEqual(self.told("list", "export", "--format", "txt", "--", "import"), "#010203\tone\n")
+        self.assertEqual(self.output_of("list", "--", "import"), "#010203\tone\n")
+        self.assertEqual(self.output_of("list", "export", "--format", "txt", "--", "import"), "#010203\tone\n")
 
-    def test_what_is_exported_can_be_imported(self):
+    def test_exported_lists_can_be_imported(self):
         self.write_list("Mine", ROWS)
-        original = rows_of(self.told("list", "Mine"))
+        original = rows_of(self.output_of("list", "Mine"))
         for ending in ("gpl", "scss", "json", "ase", "txt", "css"):
             with self.subTest(format=ending):
                 file = os.path.join(self.root, "Some list." + ending)
-                self.told("list", "export", "Mine", "--format", ending, "--output", file)
-                self.told("list", "import", "--name", "Back " + ending, file)
-                back = rows_of(self.told("list", "Back " + ending))
+                self.output_of("list", "export", "Mine", "--format", ending, "--output", file)
+                self.output_of("list", "import", "--name", "Back " + ending, file)
+                back = rows_of(self.output_of("list", "Back " + ending))
                 self.assertEqual([color for color, _ in back], [color for color, _ in original])
                 self.assertEqual([key for _, key in back], KEYS_IN_CSS if ending == "css" else KEYS)
-                known = self.told("list", "import", "--yes", file)
+                known = self.output_of("list", "import", "--yes", file)
                 name = "Some list" if ending == "txt" else "Mine"
                 self.assertIn(f'"{name}"', known)
 
-    def test_exports_have_their_form(self):
+    def test_exports_have_their_format(self):
         self.write_list("Mine", ROWS)
-        text = self.told("list", "export", "Mine", "--format", "gpl")
+        text = self.output_of("list", "export", "Mine", "--format", "gpl")
         self.assertEqual(text, "GIMP Palette\nName: Mine\nColumns: 0\n" + "".join(row + "\n" for row in ROWS))
-        css = self.told("list", "export", "Mine", "--format", "css").splitlines()
+        css = self.output_of("list", "export", "Mine", "--format", "css").splitlines()
         self.assertEqual(css[:4], ["/* Mine */", ":root {", "  --red: #ff0000; /* red */",
                                    "  --black-white: #000000; /* Black & <White> */"])
         self.assertEqual([line.split(":")[0].strip() for line in css[2:-1]],
                          ["--red", "--black-white", "--zażółć-🎨", "--odd-x-y", "--color-123", "--color", "--red-2"])
-        scss = self.told("list", "export", "Mine", "--format", "scss").splitlines()
+        scss = self.output_of("list", "export", "Mine", "--format", "scss").splitlines()
         self.assertEqual(scss[:2], ["// Mine", "$red: #ff0000; // red"])
-        as_json = json.loads(self.told("list", "export", "Mine", "--format", "json"))
+        as_json = json.loads(self.output_of("list", "export", "Mine", "--format", "json"))
         self.assertEqual(as_json["name"], "Mine")
         self.assertEqual([color["name"] for color in as_json["colors"]], KEYS)
         self.assertEqual(as_json["colors"][2]["hex"], "#010203")
@@ -93,7 +93,7 @@ class Lists(ProgramTest):
     def test_pictures_hold_every_colour_with_its_name(self):
         self.write_list("Mine", ROWS)
         for arguments in (["palette", "Mine", "--svg", "-"], ["list", "export", "Mine", "--format", "svg"]):
-            root = xml.etree.ElementTree.fromstring(self.told(*arguments))
+            root = xml.etree.ElementTree.fromstring(self.output_of(*arguments))
             swatches = {rect.find(SVG + "title").text: rect.get("fill") for rect in root.iter(SVG + "rect")
                         if rect.find(SVG + "title") is not None}
             self.assertEqual(swatches, {key: f"#{int(r):02x}{int(g):02x}{int(b):02x}" for row, key in zip(ROWS, KEYS)
@@ -102,10 +102,10 @@ class Lists(ProgramTest):
 
     def test_png_shows_the_swatches_where_svg_has_them(self):
         file = os.path.join(self.root, "palette.png")
-        self.told("palette", "SVG Keyword", "--png", file, "--size", "300x200")
+        self.output_of("palette", "SVG Keyword", "--png", file, "--size", "300x200")
         width, height, pixel = decoded_png(self.read(file))
         self.assertEqual((width, height), (300, 200))
-        root = xml.etree.ElementTree.fromstring(self.told("palette", "SVG Keyword", "--svg", "-", "--size", "300x200"))
+        root = xml.etree.ElementTree.fromstring(self.output_of("palette", "SVG Keyword", "--svg", "-", "--size", "300x200"))
         group = root.find(SVG + "g")
         self.assertEqual(len(group), 146)
         for rect in group:
@@ -117,21 +117,21 @@ class Lists(ProgramTest):
     def test_a_picture_replaces_one_and_new_files_can_be_shared(self):
         file = self.write(os.path.join(self.root, "x.svg"), "old")
         os.chmod(file, 0o640)
-        self.told("wheel", "--rings", "2", "--svg", file)
+        self.output_of("wheel", "--rings", "2", "--svg", file)
         self.assertTrue(self.read(file).startswith(b"<?xml"))
         self.assertEqual(os.stat(file).st_mode & 0o777, 0o640)
         new = os.path.join(self.root, "y.svg")
         mask = os.umask(0o022)
         try:
-            self.told("wheel", "--rings", "2", "--svg", "y.svg", cwd=self.root)
+            self.output_of("wheel", "--rings", "2", "--svg", "y.svg", cwd=self.root)
         finally:
             os.umask(mask)
         self.assertEqual(os.stat(new).st_mode & 0o777, 0o644)
-        self.assertEqual(self.told("wheel", "--rings", "2", "--svg", "/dev/stdout")[:5], "<?xml")
+        self.assertEqual(self.output_of("wheel", "--rings", "2", "--svg", "/dev/stdout")[:5], "<?xml")
 
-    def test_wheels_have_their_rings_in_their_size(self):
+    def test_wheels_have_the_requested_rings_and_size(self):
         for rings in (2, 7, 128):
-            root = xml.etree.ElementTree.fromstring(self.told("wheel", "--rings", str(rings), "--svg", "-", "--size", "400x300"))
+            root = xml.etree.ElementTree.fromstring(self.output_of("wheel", "--rings", str(rings), "--svg", "-", "--size", "400x300"))
             paths = root.findall(f"{SVG}g/{SVG}path")
             self.assertEqual(len(paths), 6 * rings * rings)
             numbers = [float(n) for path in paths for n in path.get("d").strip("MZ").replace("L", " ").split()]
@@ -139,7 +139,7 @@ class Lists(ProgramTest):
             # The first side runs from red to yellow, up the left edge.
             self.assertEqual(paths[0].get("fill"), "#ff0000")
 
-    def test_imports_of_many_forms(self):
+    def test_imports_of_many_formats(self):
         cases = [
             ("kde.colors", b"KDE RGB Palette\r\n1 2 3 one\r\n", [["#010203", "one"]]),
             ("latin.gpl", b"GIMP Palette\nName: Latin\n1 2 3\tgr\xfcn\n", [["#010203", "gr\u00fcn"]]),
@@ -158,9 +158,9 @@ class Lists(ProgramTest):
                 path = self.write(os.path.join(self.root, file), content)
                 run = self.run_program("list", "import", path, "--name", file)
                 self.assertEqual(run.returncode, 0, run.stderr)
-                self.assertEqual(rows_of(self.told("list", file)), rows)
+                self.assertEqual(rows_of(self.output_of("list", file)), rows)
 
-    def test_what_is_no_list_is_refused_and_the_rest_imported(self):
+    def test_files_that_are_not_lists_are_rejected_and_others_imported(self):
         good = self.write(os.path.join(self.root, "good.txt"), "red\tr\n")
         bad = [self.write(os.path.join(self.root, name), content) for name, content in [
             ("empty.txt", b""), ("empty.gpl", b"GIMP Palette\n"), ("bytes.bin", bytes(range(256)) * 50), ("x.json", b'{"colors":'),
@@ -170,28 +170,28 @@ class Lists(ProgramTest):
         ]]
         for path in bad:
             with self.subTest(file=path):
-                message = self.refusal("list", "import", path)
+                message = self.error_of("list", "import", path)
                 self.assertIn(os.path.basename(path), message)
         run = self.run_program("list", "import", bad[0], good, bad[1])
         self.assertEqual(run.returncode, 2)
         self.assertEqual(len(run.stderr.splitlines()), 2)
-        self.assertEqual(self.told("list", "good"), "#ff0000\tr\n")
+        self.assertEqual(self.output_of("list", "good"), "#ff0000\tr\n")
 
-    def test_a_list_is_replaced_only_on_demand(self):
+    def test_a_list_is_replaced_only_on_request(self):
         mine = self.write_list("Mine", ["1 2 3\tone"])
         before = self.read(mine)
         other = self.write(os.path.join(self.root, "o.gpl"), "GIMP Palette\nName: Mine\n9 9 9\tnine\n")
         same = self.write(os.path.join(self.root, "s.gpl"), "GIMP Palette\nName: Mine\n# same\n1 2 3 one\n")
-        self.assertIn("is there already", self.told("list", "import", same))
+        self.assertIn("is there already", self.output_of("list", "import", same))
         self.assertEqual(self.read(mine), before)
-        self.assertIn('"--yes" replaces it', self.refusal("list", "import", other))
+        self.assertIn('"--yes" replaces it', self.error_of("list", "import", other))
         self.assertEqual(self.read(mine), before)
-        self.told("list", "import", "--yes", other)
-        self.assertEqual(self.told("list", "Mine"), "#090909\tnine\n")
+        self.output_of("list", "import", "--yes", other)
+        self.assertEqual(self.output_of("list", "Mine"), "#090909\tnine\n")
         self.assertEqual(self.files_at_home().count(".local/share/Vantorel/Palettes/Mine.gpl"), 1)
 
     def test_the_built_in_lists_can_be_exported_without_being_saved(self):
-        self.assertEqual(len(self.told("list", "export", "CSS Keyword", "--format", "txt").splitlines()), CSS_KEYWORD_COUNT)
+        self.assertEqual(len(self.output_of("list", "export", "CSS Keyword", "--format", "txt").splitlines()), CSS_KEYWORD_COUNT)
         self.assertEqual(self.files_at_home(), [])
 
 

@@ -54,13 +54,13 @@ class ProgramTest(unittest.TestCase):
                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=self.environment, timeout=120, **options)
         return run
 
-    def told(self, *arguments, stdin=b"", **options):
+    def output_of(self, *arguments, stdin=b"", **options):
         """Returns the standard output of a run that must succeed."""
         run = self.run_program(*arguments, stdin=stdin, **options)
         self.assertEqual((run.returncode, run.stderr.decode()), (0, ""), arguments)
         return run.stdout.decode()
 
-    def refusal(self, *arguments, stdin=b"", **options):
+    def error_of(self, *arguments, stdin=b"", **options):
         """Returns the error message of a run that must fail."""
         run = self.run_program(*arguments, stdin=stdin, **options)
         message = run.stderr.decode()

@@ -44,51 +44,51 @@ class Publishing(ProgramTest):
         os.close(controller)
         return process.wait(60), seen.decode()
 
-    def test_each_programs_own_folder_that_exists_gets_a_strict_file(self):
+    def test_each_existing_program_folder_gets_a_strict_file(self):
         for i, place in enumerate(PLACES):
             with self.subTest(place=place):
                 self.make_places(place)
-                told = self.told("list", "publish", "Mine")
+                printed = self.output_of("list", "publish", "Mine")
                 self.assertEqual(self.read(self.target(place)), STRICT)
-                self.assertIn(self.target(place), told)
-                self.assertEqual(told.count("written for "), 1)
-                self.assertEqual(told.count("already there: "), i)
+                self.assertIn(self.target(place), printed)
+                self.assertEqual(printed.count("written for "), 1)
+                self.assertEqual(printed.count("already there: "), i)
 
-    def test_nothing_is_made_where_a_program_has_no_folder(self):
+    def test_no_folder_is_created_for_a_program_without_one(self):
         self.make_places(".config/GIMP/2.10", ".config/inkscape", ".config/inkscape/palettes")
-        self.told("list", "publish", "Mine")
+        self.output_of("list", "publish", "Mine")
         self.assertEqual(os.listdir(self.path(".config/GIMP/2.10")), [])
 
-    def test_nothing_is_published_for_the_whole_machine(self):
+    def test_system_folders_get_no_file(self):
         self.environment["XDG_DATA_DIRS"] = self.path(".local/share/exports")
         self.make_places(".local/share/exports/gimp/2.0/palettes", PLACES[0])
-        self.told("list", "publish", "Mine")
+        self.output_of("list", "publish", "Mine")
         self.assertEqual(os.listdir(self.path(".local/share/exports/gimp/2.0/palettes")), [])
 
-    def test_what_was_made_is_removed_again(self):
+    def test_created_files_are_removed_again(self):
         self.make_places(*PLACES)
         before = self.files_at_home()
-        self.told("list", "publish", "Mine")
-        self.assertEqual(self.told("list", "publish", "Mine", "--undo").count("removed: "), len(PLACES))
+        self.output_of("list", "publish", "Mine")
+        self.assertEqual(self.output_of("list", "publish", "Mine", "--undo").count("removed: "), len(PLACES))
         self.assertEqual(set(self.files_at_home()) - set(before), {".local/share/Vantorel/Published"})
-        self.assertIn("has not been published", self.refusal("list", "publish", "--undo", "Mine"))
+        self.assertIn("has not been published", self.error_of("list", "publish", "--undo", "Mine"))
 
-    def test_a_file_that_differs_is_replaced_only_on_demand_and_restored(self):
+    def test_a_different_file_is_replaced_only_on_request_and_restored(self):
         self.make_places(*PLACES[:2])
         for old in (b"GIMP Palette\nName: M\xfcne\n0 0 0\told\n", b"", bytes(range(256))):
             with self.subTest(old=old[:20]):
                 path = self.write(self.target(PLACES[0]), old)
-                message = self.refusal("list", "publish", "Mine")
+                message = self.error_of("list", "publish", "Mine")
                 self.assertIn('is there and differs: "--yes" replaces it', message)
                 self.assertEqual(self.read(path), old)
                 # The folder without a file got one nevertheless.
                 self.assertEqual(self.read(self.target(PLACES[1])), STRICT)
-                self.assertIn("replaced for GIMP", self.told("list", "publish", "Mine", "--yes"))
+                self.assertIn("replaced for GIMP", self.output_of("list", "publish", "Mine", "--yes"))
                 self.assertEqual(self.read(path), STRICT)
-                self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"restored: {path}\n")
+                self.assertEqual(self.output_of("list", "publish", "Mine", "--undo"), f"restored: {path}\n")
                 self.assertEqual(self.read(path), old)
                 # The publish before the last one.
-                self.assertEqual(self.told("list", "publish", "Mine", "--undo"), f"removed: {self.target(PLACES[1])}\n")
+                self.assertEqual(self.output_of("list", "publish", "Mine", "--undo"), f"removed: {self.target(PLACES[1])}\n")
 
     def test_at_a_terminal_it_asks(self):
         self.make_places(PLACES[0])
@@ -105,14 +105,14 @@ class Publishing(ProgramTest):
     def test_import_asks_too(self):
         other = self.write(os.path.join(self.root, "o.gpl"), "GIMP Palette\nName: Mine\n9 9 9\tnine\n")
         status, seen = self.answer("n\n", "list", "import", other)
-        self.assertEqual((status, self.told("list", "Mine")), (2, "#010203\tone\n"))
+        self.assertEqual((status, self.output_of("list", "Mine")), (2, "#010203\tone\n"))
         status, seen = self.answer("yes\n", "list", "import", other)
-        self.assertEqual((status, self.told("list", "Mine")), (0, "#090909\tnine\n"))
+        self.assertEqual((status, self.output_of("list", "Mine")), (0, "#090909\tnine\n"))
 
-    def test_a_file_that_was_changed_since_stays(self):
+    def test_undo_keeps_a_file_that_has_changed_since(self):
         self.make_places(*PLACES[:3])
         self.write(self.target(PLACES[2]), "old")
-        self.told("list", "publish", "--yes", "Mine")
+        self.output_of("list", "publish", "--yes", "Mine")
         self.write(self.target(PLACES[0]), STRICT + b"9 9 9\tmy own\n")
         self.write(self.target(PLACES[2]), "changed")
         run = self.run_program("list", "publish", "--undo", "Mine")
@@ -122,20 +122,20 @@ class Publishing(ProgramTest):
         # With the published contents restored, it can be undone after all.
         self.write(self.target(PLACES[2]), STRICT)
         self.write(self.target(PLACES[0]), STRICT)
-        self.told("list", "publish", "--undo", "Mine")
+        self.output_of("list", "publish", "--undo", "Mine")
         self.assertEqual(self.read(self.target(PLACES[2])), b"old")
 
-    def test_a_file_that_is_gone_is_no_trouble(self):
+    def test_undo_accepts_a_missing_file(self):
         self.make_places(*PLACES[:2])
-        self.told("list", "publish", "Mine")
+        self.output_of("list", "publish", "Mine")
         os.remove(self.target(PLACES[0]))
-        self.assertIn("already as it was", self.told("list", "publish", "--undo", "Mine"))
+        self.assertIn("already as it was", self.output_of("list", "publish", "--undo", "Mine"))
 
-    def test_a_list_that_is_gone_can_be_taken_back(self):
+    def test_publishing_of_a_removed_list_can_be_undone(self):
         self.make_places(PLACES[0])
-        self.told("list", "publish", "Mine")
+        self.output_of("list", "publish", "Mine")
         os.remove(self.path(".local/share/Vantorel/Palettes/Mine.gpl"))
-        self.told("list", "publish", "--undo", "Mine")
+        self.output_of("list", "publish", "--undo", "Mine")
         self.assertEqual(os.listdir(self.path(PLACES[0])), [])
 
     def test_folders_and_dangling_links_are_left_alone(self):
@@ -150,9 +150,9 @@ class Publishing(ProgramTest):
     def test_versions_that_share_a_folder_get_one_file(self):
         self.make_places(PLACES[0])
         os.symlink("2.10", self.path(".config/GIMP/2.8"))
-        self.assertEqual(len(self.told("list", "publish", "Mine").splitlines()), 1)
+        self.assertEqual(len(self.output_of("list", "publish", "Mine").splitlines()), 1)
 
-    def test_a_folder_that_cannot_be_written_to_is_told(self):
+    def test_a_folder_without_write_permission_is_reported(self):
         if os.geteuid() == 0:
             self.skipTest("root may write anywhere")
         self.make_places(*PLACES[:2])
@@ -160,22 +160,22 @@ class Publishing(ProgramTest):
         run = self.run_program("list", "publish", "Mine")
         self.assertEqual(run.returncode, 2)
         self.assertIn(b"cannot be written", run.stderr)
-        self.assertEqual(self.told("list", "publish", "--undo", "Mine"), f"removed: {self.target(PLACES[1])}\n")
+        self.assertEqual(self.output_of("list", "publish", "--undo", "Mine"), f"removed: {self.target(PLACES[1])}\n")
 
     def test_names_do_not_lead_out_of_the_folder(self):
         self.make_places(PLACES[0])
         self.write_list("../../evil", ["1 2 3\tone"], "evil.gpl")
-        self.told("list", "publish", "../../evil")
+        self.output_of("list", "publish", "../../evil")
         self.assertEqual(os.listdir(self.path(PLACES[0])), ["%2E.%2F..%2Fevil.gpl"])
-        self.told("list", "publish", "--undo", "../../evil")
+        self.output_of("list", "publish", "--undo", "../../evil")
         self.assertEqual(os.listdir(self.path(PLACES[0])), [])
 
-    def test_a_damaged_record_is_as_none(self):
+    def test_a_damaged_record_counts_as_missing(self):
         self.make_places(PLACES[0])
-        self.told("list", "publish", "Mine")
+        self.output_of("list", "publish", "Mine")
         record = self.path(".local/share/Vantorel/Published/Mine.gpl.plist")
         self.write(record, b"{Publishes = (((")
-        self.assertIn("has not been published", self.refusal("list", "publish", "--undo", "Mine"))
+        self.assertIn("has not been published", self.error_of("list", "publish", "--undo", "Mine"))
         self.assertEqual(self.read(self.target(PLACES[0])), STRICT)
 
 

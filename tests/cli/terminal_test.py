@@ -43,9 +43,9 @@ class Terminal(ProgramTest):
 
     def test_a_pipe_gets_plain_text(self):
         self.environment["COLORTERM"] = "truecolor"
-        self.assertNotIn("\x1b", self.told("show", "#ff8000"))
+        self.assertNotIn("\x1b", self.output_of("show", "#ff8000"))
 
-    def test_a_swatch_lies_over_white(self):
+    def test_a_translucent_swatch_is_shown_over_white(self):
         self.assertIn("\x1b[48;2;255;128;128m", self.at_terminal("show", "rgb(255 0 0 / 50%)", COLORTERM="truecolor")[1])
 
     def test_bytes_are_not_sent_to_a_terminal(self):
@@ -74,13 +74,13 @@ class Terminal(ProgramTest):
         self.assertEqual(process.wait(60), 0)
         return seen
 
-    def test_progress_is_told_to_a_person_who_sees_nothing_else(self):
+    def test_progress_is_shown_on_a_terminal_without_other_output(self):
         seen = self.progress_of(lambda terminal: subprocess.DEVNULL)
         self.assertRegex(seen, rb"\r\d+ lines")
         self.assertTrue(seen.endswith(b"\r\x1b[K"))
         self.assertNotIn(b"lines", self.progress_of(lambda terminal: terminal))
 
-    def test_progress_is_not_told_to_a_file(self):
+    def test_progress_is_not_written_to_a_file(self):
         self.assertEqual(self.run_program("show", stdin=b"#ff8000\n" * 100000).stderr, b"")
 
 

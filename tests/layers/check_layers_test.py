@@ -35,7 +35,7 @@ class CheckLayersTest(unittest.TestCase):
     def test_a_tree_in_order(self):
         self.assertEqual(self.errors(), "")
 
-    def test_an_include_against_the_order(self):
+    def test_an_include_of_a_higher_layer(self):
         errors = self.errors(**{"ground/Ground.h": '#include "middle/Middle.h"\n'})
         self.assertIn('ground/Ground.h: includes "middle/Middle.h", but ground does not use middle', errors)
 
@@ -43,15 +43,15 @@ class CheckLayersTest(unittest.TestCase):
         errors = self.errors(**{"middle/top/Other.h": '  #  include "ground/Ground.h"\n'})
         self.assertIn("middle/top does not use ground", errors)
 
-    def test_a_layer_that_is_named_and_not_included(self):
+    def test_a_layer_that_is_named_but_not_included(self):
         self.assertIn("middle names ground, but does not include it", self.errors(**{"middle/Middle.h": ""}))
 
-    def test_a_layer_that_is_named_before_it_is_listed(self):
+    def test_a_layer_that_is_used_before_it_is_listed(self):
         errors = self.errors(**{"CMakeLists.txt": "vantorel_layer(middle USES ground)\nvantorel_layer(ground)\n"
                                                   "vantorel_layer(middle/top USES middle)\n"})
         self.assertIn("middle uses ground, which is not listed above it", errors)
 
-    def test_a_folder_that_is_not_listed(self):
+    def test_an_unlisted_folder(self):
         self.assertIn("other/Other.h: its folder is not a layer", self.errors(**{"other/Other.h": ""}))
 
     def test_a_readme_that_differs(self):

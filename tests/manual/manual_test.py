@@ -135,10 +135,10 @@ class Form(unittest.TestCase):
             self.assertEqual(link.attributes["href"][0], "#")
             self.assertIn(link.attributes["href"][1:], ids)
 
-    def test_nothing_comes_from_elsewhere(self):
+    def test_the_page_loads_no_external_files(self):
         self.assertIsNone(re.search(r"https?:|src=\"(?!pictures/)|<script|<link|@import|url\(", SOURCE, re.IGNORECASE))
 
-    def test_pictures_are_there_and_sharp(self):
+    def test_pictures_exist_and_are_sharp(self):
         folder = os.path.join(os.path.dirname(PAGE), "pictures")
         shown = set()
         for image in ROOT.tagged("img"):
@@ -177,7 +177,7 @@ class Names(unittest.TestCase):
         self.assertGreater(len(controls), 20)
         self.assertEqual({element.attributes["data-control"] for element in ROOT.having("data-control")}, controls)
 
-    def test_numbers_stand_at_their_controls(self):
+    def test_numbers_are_at_their_controls(self):
         faces = [frames(state_after()), frames(state_after({"op": "action", "name": "settingsButtonAction"}))]
         windows = ROOT.all(lambda element: element.attributes.get("class") == "window")
         for controls, window in zip(faces, windows, strict=True):
@@ -200,13 +200,13 @@ class Examples(unittest.TestCase):
         self.assertGreaterEqual(len(rows), least)
         return [(row.attributes[attribute], row) for row in rows]
 
-    def test_entries_give_what_is_said(self):
+    def test_entries_give_what_the_page_says(self):
         for field, row in self.rows("data-enters", 6):
             typed, code = row.cells()[:2]
             state = state_after({"op": "enter", "field": field, "text": typed})
             self.assertEqual(state["fields"]["_fullHexText"]["text"], code, typed)
 
-    def test_components_give_what_is_said(self):
+    def test_components_give_what_the_page_says(self):
         shown = []
         for display, row in self.rows("data-component", 3):
             name, _, typed, digits = row.cells()
@@ -218,16 +218,16 @@ class Examples(unittest.TestCase):
             self.assertEqual(state["fields"]["_fullHexText"]["text"], f"#{digits}7F50", typed)
         self.assertEqual(shown, call("componentDisplayNames")[:3])
 
-    def test_a_name_is_completed_as_said(self):
+    def test_a_name_is_completed_as_the_page_says(self):
         for typed, element in self.rows("data-typed", 1):
             state = state_after({"op": "type", "field": "_rgbDecimalText", "text": typed})
             self.assertEqual(state["fields"]["_rgbDecimalText"]["text"], element.text())
 
-    def test_a_refused_entry_shows_the_message_of_the_page(self):
+    def test_a_rejected_entry_shows_the_message_of_the_page(self):
         state = state_after({"op": "enter", "field": "_fullHexText", "text": "12345"})
         self.assertEqual(state["message"]["text"], by_id("input-error").text())
 
-    def test_drags_carry_what_is_said(self):
+    def test_drags_carry_what_the_page_says(self):
         rows = self.rows("data-drag", 4)
         self.assertEqual([drag for drag, _ in rows], call("codeDragTypeNames"))
         for drag, row in rows:
@@ -242,7 +242,7 @@ class Examples(unittest.TestCase):
             self.assertEqual(text, replies[-1]["result"] or "–")
             self.assertEqual(kind, "text" if replies[-1]["result"] else "application/x-color")
 
-    def test_lists_have_as_many_colours_as_said(self):
+    def test_lists_have_as_many_colours_as_the_page_says(self):
         rows = self.rows("data-list", 3)
         self.assertEqual({name for name, _ in rows}, set(call("allHexColorListNames")))
         for name, row in rows:
@@ -265,7 +265,7 @@ class Snippets(unittest.TestCase):
         for entry in built_in:
             self.assertIn(entry["VarsSnippet"], words)
 
-    def test_places_of_a_format_give_what_is_said(self):
+    def test_placeholders_give_what_the_page_says(self):
         rows = ROOT.having("data-format")
         self.assertGreater(len(rows), 4)
         for row in rows:

@@ -54,14 +54,14 @@ class ActivationTest(unittest.TestCase):
         self.assertEqual(self.call("GetColor"), COLOR)
         self.assertEqual(self.process(), first)
 
-    def test_it_ends_when_nobody_asks_any_more_and_the_next_one_knows_the_colour(self):
+    def test_it_ends_without_further_calls_and_the_next_one_has_its_colour(self):
         self.call("SetColor", "s", COLOR)
         first = self.process()
         self.wait_for_its_end()
         self.assertEqual(self.call("GetColor"), COLOR)
         self.assertNotEqual(self.process(), first)
 
-    def test_it_stays_while_its_window_is_on_show(self):
+    def test_it_stays_while_its_window_is_visible(self):
         self.call("GetColor")
         self.call("Show")
         first = self.process()

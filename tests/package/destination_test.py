@@ -17,19 +17,19 @@ class DestinationTest(TreeTest):
         self.environment["DESTDIR"] = self.destination
         self.passes("cmake", "--install", BUILD, "--prefix", PREFIX)
 
-    def test_all_files_come_below_the_destination_and_the_prefix(self):
+    def test_all_files_are_below_the_destination_and_the_prefix(self):
         here = files_below(self.destination)
         self.assertEqual(here, [os.path.join(PREFIX, name)[1:] for name in files_below(TREE)])
         self.assertIn("opt/vantorel/bin/vantorel", here)
 
-    def test_no_file_tells_of_the_destination_or_of_the_build(self):
+    def test_no_file_contains_the_path_of_the_destination_or_the_build(self):
         for name in files_below(self.destination):
             path = os.path.join(self.destination, name)
             if not name.endswith((".so", ".a", ".png")) and "/bin/" not in name and not os.path.islink(path):
                 for folder in (self.destination, BUILD, SOURCES):
                     self.assertNotIn(folder, text_of(path), name)
 
-    def test_the_bus_is_told_of_the_prefix(self):
+    def test_the_service_file_has_the_prefix(self):
         service = text_of(f"{self.destination}{PREFIX}/share/dbus-1/services/org.vantorel.ColorPanel.service")
         self.assertIn(f"Exec={PREFIX}/bin/vantorel-panel --service\n", service)
 

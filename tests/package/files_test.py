@@ -26,20 +26,20 @@ def ini(path):
 
 
 class DesktopTest(TreeTest):
-    def test_the_desktop_file_is_one(self):
+    def test_the_desktop_file_is_valid(self):
         self.assertEqual(self.passes("desktop-file-validate", DESKTOP), "")
 
-    def test_the_metainfo_is_one(self):
+    def test_the_metainfo_is_valid(self):
         self.passes("appstreamcli", "validate", "--no-net", METAINFO)
 
-    def test_each_text_of_the_desktop_file_is_there_in_german(self):
+    def test_each_text_of_the_desktop_file_has_a_german_translation(self):
         file = ini(DESKTOP)
         for section in file.sections():
             for key in ("Name", "GenericName", "Comment", "Keywords"):
                 if file.has_option(section, key):
                     self.assertTrue(file.has_option(section, key + "[de]") or file[section][key] == "Vantorel", (section, key))
 
-    def test_each_text_of_the_metainfo_is_there_in_german(self):
+    def test_each_text_of_the_metainfo_has_a_german_translation(self):
         root = ElementTree.parse(METAINFO).getroot()
         for tag in ("summary", "p", "li", "caption"):
             languages = [each.get(LANGUAGE) for each in root.iter(tag)]
@@ -65,7 +65,7 @@ class DesktopTest(TreeTest):
                 size = struct.unpack(">II", picture.read(24)[16:])
             self.assertEqual((int(image.get("width")), int(image.get("height"))), size, image.text)
 
-    def test_what_the_desktop_file_starts_is_there_and_knows_its_options(self):
+    def test_the_desktop_file_starts_an_installed_program_with_valid_options(self):
         file = ini(DESKTOP)
         actions = file["Desktop Entry"]["Actions"].rstrip(";").split(";")
         self.assertEqual({"Desktop Entry"} | {"Desktop Action " + name for name in actions}, set(file.sections()))
@@ -76,13 +76,13 @@ class DesktopTest(TreeTest):
             offered = re.findall(r"^  (--[a-z-]+)", self.passes(path, "--help"), re.M)
             self.assertLessEqual(set(options), set(offered))
 
-    def test_the_icons_are_where_their_sizes_lead(self):
+    def test_the_icons_are_in_the_folders_of_their_sizes(self):
         self.assertEqual(ini(DESKTOP)["Desktop Entry"]["Icon"], ID)
         for path, size in [(f"16x16/apps/{ID}.svg", "16"), (f"scalable/apps/{ID}.svg", "128"), (f"symbolic/apps/{ID}-symbolic.svg", "16")]:
             root = ElementTree.parse(f"{ICONS}/{path}").getroot()
             self.assertEqual((root.get("width"), root.get("height")), (size, size), path)
 
-    def test_the_symbolic_icon_is_made_of_fills_which_desktops_recolour(self):
+    def test_the_symbolic_icon_has_only_fills_which_desktops_recolour(self):
         for each in ElementTree.parse(f"{ICONS}/symbolic/apps/{ID}-symbolic.svg").getroot().iter():
             self.assertIsNone(each.get("stroke"))
 
@@ -98,7 +98,7 @@ class DesktopTest(TreeTest):
 
 
 class VersionTest(TreeTest):
-    def test_all_that_tell_the_version_tell_the_same(self):
+    def test_every_file_has_the_same_version(self):
         version = re.search(r"^project\(Vantorel VERSION ([0-9.]+)", text_of(f"{SOURCES}/CMakeLists.txt"), re.M).group(1)
         releases = ElementTree.parse(METAINFO).getroot().iter("release")
         self.assertEqual(next(releases).get("version"), version)
@@ -108,7 +108,7 @@ class VersionTest(TreeTest):
 
 
 class ManualPageTest(TreeTest):
-    def test_mandoc_finds_nothing_to_warn_of(self):
+    def test_mandoc_has_no_warnings(self):
         self.need("mandoc")
         for name in ("vantorel", "vantorel-panel"):
             run = self.run_tool("mandoc", "-T", "lint", "-W", "warning", f"{TREE}/share/man/man1/{name}.1")
@@ -129,21 +129,21 @@ class ManualPageTest(TreeTest):
 
 class CompletionTest(TreeTest):
     def test_bash_loads_the_completions(self):
-        told = self.passes("bash", "-c", f"source '{TREE}/share/bash-completion/completions/vantorel' && complete -p vantorel")
-        self.assertRegex(told, r"^complete .*_vantorel vantorel\n$")
-        told = self.passes("bash", "-c", f"source '{TREE}/share/bash-completion/completions/vantorel-panel'; "
+        printed = self.passes("bash", "-c", f"source '{TREE}/share/bash-completion/completions/vantorel' && complete -p vantorel")
+        self.assertRegex(printed, r"^complete .*_vantorel vantorel\n$")
+        printed = self.passes("bash", "-c", f"source '{TREE}/share/bash-completion/completions/vantorel-panel'; "
                            "COMP_WORDS=(vantorel-panel --mode w); COMP_CWORD=2; _vantorel_panel; echo $COMPREPLY")
-        self.assertEqual(told, "wheel\n")
+        self.assertEqual(printed, "wheel\n")
 
-    def test_zsh_finds_the_completions_by_their_name(self):
-        told = self.passes("zsh", "-f", "-c", f"fpath=('{TREE}/share/zsh/vendor-completions' $fpath); "
+    def test_zsh_finds_the_completions_by_name(self):
+        printed = self.passes("zsh", "-f", "-c", f"fpath=('{TREE}/share/zsh/vendor-completions' $fpath); "
                            "autoload -Uz compinit && compinit -u -D && print $_comps[vantorel] $_comps[vantorel-panel]")
-        self.assertEqual(told, "_vantorel _vantorel-panel\n")
+        self.assertEqual(printed, "_vantorel _vantorel-panel\n")
 
     def test_fish_loads_the_completions(self):
-        told = self.passes("fish", "--no-config", "-c",
+        printed = self.passes("fish", "--no-config", "-c",
                            f"source '{TREE}/share/fish/vendor_completions.d/vantorel.fish'; complete -C'vantorel sho'")
-        self.assertTrue(told.startswith("show"), told)
+        self.assertTrue(printed.startswith("show"), printed)
 
 
 if __name__ == "__main__":

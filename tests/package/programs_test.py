@@ -23,8 +23,8 @@ class ProgramsTest(TreeTest):
             return opened.read()
 
     def test_the_command_line_shows_a_colour(self):
-        told = self.passes(VANTOREL, "show", "#ff8000")
-        self.assertTrue(told.startswith("hex: #FF8000\nrgb: rgb(255, 128, 0)\n"), told)
+        printed = self.passes(VANTOREL, "show", "#ff8000")
+        self.assertTrue(printed.startswith("hex: #FF8000\nrgb: rgb(255, 128, 0)\n"), printed)
 
     def test_the_panel_finds_its_installed_page(self):
         pictures = {self.picture("--page", page) for page in ("hex", "dialog", "palettes")}
@@ -32,7 +32,7 @@ class ProgramsTest(TreeTest):
         for picture in pictures:
             self.assertTrue(picture.startswith(b"\x89PNG"))
 
-    def test_a_sandbox_in_which_the_administrator_is_unknown_has_the_installed_page(self):
+    def test_a_sandbox_without_the_administrator_loads_the_installed_page(self):
         """As in a Flatpak installed for the whole system."""
         if os.geteuid() != 0:
             self.skipTest("it takes root to own what another user runs")
@@ -49,7 +49,7 @@ class ProgramsTest(TreeTest):
         run = self.run_tool(*in_sandbox, f"{tree}/bin/vantorel-panel", "--page", "hex", "--screenshot", "picture.png")
         self.assertEqual((run.returncode, run.stderr), (0, ""))
 
-    def test_a_page_that_no_plug_in_has_is_refused(self):
+    def test_an_unknown_page_is_rejected(self):
         run = self.run_tool(PANEL, "--screenshot", "picture.png", "--page", "tints")
         self.assertEqual(run.returncode, 2)
         self.assertIn('there is no page "tints"; there are: hex, dialog, palettes', run.stderr)

@@ -80,7 +80,7 @@ class FlatpakTest(TreeTest):
         self.assertEqual(self.manifest["id"], ID)
         self.assertTrue(os.access(f"{TREE}/bin/{self.manifest['command']}", os.X_OK))
 
-    def test_what_it_leaves_out_is_installed(self):
+    def test_excluded_files_are_installed(self):
         for path in self.manifest["cleanup"]:
             self.assertTrue(os.path.exists(TREE + path), path)
 

@@ -178,8 +178,8 @@ def enter(field, value):
 
 
 def check_entry():
-    told = []
-    listener = lambda event: told.append(event.source.name)
+    announced = []
+    listener = lambda event: announced.append(event.source.name)
     pyatspi.Registry.registerEventListener(listener, "object:property-change:accessible-description")
     enter("Hex code", "f00")
     expect(text, "text", "RGB or colour name", "3: R:240 G:000* B:---")
@@ -189,7 +189,7 @@ def check_entry():
     expect(text, "combo box", "Colour name", "red")
     expect(description, "color chooser", "Colours", "#FF0000, red, Slider")
     expect(description, "image", "Colour", "#FF0000")
-    eventually(lambda: "Colours" in told, "the colours view tells that its description has changed")
+    eventually(lambda: "Colours" in announced, "the colours view announces its changed description")
 
 
 def check_mode():

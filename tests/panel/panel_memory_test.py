@@ -25,7 +25,7 @@ class PanelMemory(FailingCallsTest):
     def test_calls_that_fail(self):
         self.check_command(lambda home: home.run([CHANGES, "1"]), [CHANGES, "200"])
 
-    def test_it_is_read_as_it_was_written(self):
+    def test_memory_is_read_as_written(self):
         with self.home as home:
             for shade in range(0, 256, 5):
                 home.run([CHANGES, str(shade)])
@@ -52,7 +52,7 @@ class PanelMemory(FailingCallsTest):
                 self.assertEqual([writer.wait(60) for writer in writers], [0] * 4)
                 self.assertEqual(home.run([CHANGES]).status, 0, "not whole")
 
-    def test_it_is_the_users_alone(self):
+    def test_only_the_user_can_read_it(self):
         for mask in (0o000, 0o022, 0o077):
             with self.home as home:
                 home.run([CHANGES, "1"], umask=mask)

@@ -87,7 +87,7 @@ class InterfaceTest(ServiceTest):
                 self.assertEqual(self.session.call("GetColor")[:6], color[:6])
                 self.assertEqual(len(self.session.call("GetColor")), len(color))
 
-    def test_what_is_no_colour_is_refused_with_a_sentence(self):
+    def test_texts_that_are_not_colours_are_rejected_with_a_message(self):
         for text in ["", "nonsense", "#12345", "rgb(1, 2", "\U0001f3a8", "x" * 20_000_000, "#" + "f" * 5000]:
             with self.subTest(text[:20]):
                 name, sentence = self.session.error_of("SetColor", "s", text)
@@ -132,14 +132,14 @@ class InterfaceTest(ServiceTest):
         self.assertEqual(name, "NoSuchForm")
         self.assertIn("HSL (CSS)", sentence)
 
-    def test_pick_answers_when_the_user_has_picked(self):
+    def test_pick_replies_when_the_user_has_picked(self):
         answers = self.session.begin("Pick", "b", True)
         self.click_with_the_magnifier()
         self.assertEqual(self.answer_of(answers), "#000000")
         self.assertEqual(self.session.call("GetColor"), "#000000")
         self.assertEqual(clipboard(), "#000000")
 
-    def test_a_pick_that_is_left_is_cancelled(self):
+    def test_a_pick_that_the_user_leaves_is_cancelled(self):
         answers = self.session.begin("Pick", "b", False)
         self.leave_the_magnifier()
         self.assertEqual(self.answer_of(answers), "Cancelled")
@@ -160,7 +160,7 @@ class InterfaceTest(ServiceTest):
         self.session.call("Show")
         eventually(lambda: windows_from_top()[0] == first, "the first window on top")
 
-    def test_wrong_arguments_are_refused(self):
+    def test_wrong_arguments_are_rejected(self):
         wrong = [("SetColor", "i", 1), ("SetColor", "as", ["#fff"]), ("SetColor", ""), ("Pick", "s", "yes"),
                  ("Pick", ""), ("Copy", "v", GLib.Variant("s", "")), ("Activate", "as", ["token"]),
                  ("Activate", "a{ss}", {"activation-token": "x"}), ("NoSuchMethod", ""), ("getColor", "")]
@@ -169,7 +169,7 @@ class InterfaceTest(ServiceTest):
                 name, _ = self.session.error_of(method, signature, *values)
                 self.assertIn(name.rsplit(".", 1)[-1], ("UnknownMethod", "InvalidArgs"))
 
-    def test_any_token_is_taken(self):
+    def test_any_activation_token_is_accepted(self):
         tokens = [{}, {"activation-token": GLib.Variant("s", "t" * 5_000_000)},
                   {"activation-token": GLib.Variant("i", 5), "desktop-startup-id": GLib.Variant("as", ["x", "y"])},
                   {"desktop-startup-id": GLib.Variant("s", "id_TIME12"), "other": GLib.Variant("(sv)", ("", GLib.Variant("y", 1)))},
@@ -205,7 +205,7 @@ class ClosedPanelTest(ServiceTest):
         self.assertEqual(self.answer_of(answers), "Cancelled")
         self.assertEqual(self.session.end_of(process)[0], 0)
 
-    def test_a_desktop_without_a_way_to_pick_says_so(self):
+    def test_pick_reports_a_desktop_that_cannot_pick(self):
         self.session.start_panel(WAYLAND_DISPLAY="none", QT_QPA_PLATFORM="xcb")
         name, sentence = self.session.error_of("Pick", "b", False)
         self.assertEqual(name, "NotPossible")
@@ -214,7 +214,7 @@ class ClosedPanelTest(ServiceTest):
 
 
 class SecondStartTest(ServiceTest):
-    def test_it_hands_its_options_on(self):
+    def test_it_passes_its_options_on(self):
         self.session.start_panel("--color", RED)
         rows = [(["--color", "rgb(0, 0, 255)"], (0, "", ""), "#0000ff"),
                 (["--color", "#ff000080"], (0, "", ""), "#ff000080"),
@@ -230,13 +230,13 @@ class SecondStartTest(ServiceTest):
         self.assertEqual((status, output), (2, ""))
         self.assertIn("HSL (CSS)", errors)
 
-    def test_it_names_the_options_that_come_too_late(self):
+    def test_it_reports_the_options_that_only_a_new_panel_can_apply(self):
         self.session.start_panel()
         status, _, errors = self.session.run("--size", "300x300", "--theme", "dark")
         self.assertEqual(status, 0)
         self.assertIn("--size, --theme", errors)
 
-    def test_it_prints_what_was_picked(self):
+    def test_it_prints_the_picked_colour(self):
         self.session.start_panel("--color", RED)
         start = self.session.start("--pick")
         self.click_with_the_magnifier()
@@ -253,7 +253,7 @@ class SecondStartTest(ServiceTest):
         start.terminate()
         eventually(lambda: not magnifier_is_shown(), "the end of the magnifier")
 
-    def test_two_at_once_end_as_one_panel(self):
+    def test_two_simultaneous_starts_end_as_one_panel(self):
         colors = ["#0000ff", "#00ff00"]
         for _ in range(10):
             pair = [self.session.start("--color", color) for color in colors]
@@ -291,7 +291,7 @@ class SecondStartTest(ServiceTest):
 
 
 class OtherBusTest(ServiceTest):
-    def test_a_program_that_has_the_name_is_told_of(self):
+    def test_another_program_with_the_name_is_reported(self):
         self.session.client.call_sync(
             "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
             GLib.Variant("(su)", (NAME, 4)), None, Gio.DBusCallFlags.NONE, -1, None)
@@ -299,7 +299,7 @@ class OtherBusTest(ServiceTest):
         self.assertRegex(panel.stderr.readline(), "Another program has the name")
         eventually(shown_windows, "the window")
 
-    def test_the_end_of_the_bus_is_told_of(self):
+    def test_the_end_of_the_bus_is_reported(self):
         panel = self.session.start_panel("--print-color", "--color", RED)
         self.session.bus.kill()
         self.session.bus.wait()
@@ -320,7 +320,7 @@ class WithoutAPanelTest(ServiceTest):
     def environments(self):
         return {"with a bus": {}, "without a bus": {"DBUS_SESSION_BUS_ADDRESS": "disabled:"}}.items()
 
-    def test_what_is_picked_is_printed_and_kept_as_the_colour(self):
+    def test_the_picked_colour_is_printed_and_kept(self):
         for name, environment in self.environments():
             with self.subTest(name):
                 start = self.session.start("--pick", **environment)
@@ -332,7 +332,7 @@ class WithoutAPanelTest(ServiceTest):
                 take_clipboard("something else")
                 eventually(lambda: not self.session.owner(), "the end of the panel")
 
-    def test_a_pick_that_is_left_ends_the_program(self):
+    def test_a_cancelled_pick_ends_the_program(self):
         start = self.session.start("--pick-and-copy")
         self.leave_the_magnifier()
         self.assertEqual(self.session.end_of(start)[:2], (1, ""))
@@ -357,7 +357,7 @@ class WithoutAPanelTest(ServiceTest):
         self.assertEqual(self.session.call("GetColor"), "#ff8000")
         self.assertEqual(len(shown_windows()), 1)
 
-    def test_a_script_that_is_ended_ends_the_pick(self):
+    def test_ending_a_script_ends_its_pick(self):
         start = self.session.start("--pick")
         eventually(magnifier_is_shown, "the magnifier")
         start.kill()

@@ -138,7 +138,7 @@ class FailingCallsTest(unittest.TestCase):
         between runs. `at_the_end` checks a home in which the command first failed and then succeeded.
 
         Whatever fails, each file is afterwards what it was before, or what the command makes of it; nothing else is left,
-        a failure is told, and the command does all of its work once nothing fails any more.
+        a failure is reported, and the command does all of its work once nothing fails any more.
         """
         home = self.home
         self.also_whole, self.unlike = also_whole, unlike

@@ -36,7 +36,7 @@ class ListChanges(FailingCallsTest):
         home.write(LISTS + "Mine.gpl", palette("Mine", 1))
         home.write(LISTS + "Other.gpl", palette("Other", 2))
 
-    def test_a_list_is_made(self):
+    def test_a_list_is_created(self):
         self.check_command(lambda home: os.makedirs(home.at(DATA), 0o700), self.changes("make", "Mine", "7"), also_whole=["Mine 2.gpl"])
 
     def test_a_list_is_changed(self):
@@ -92,16 +92,16 @@ class Program(FailingCallsTest):
             home.write("file.gpl", palette("Mine", 7))
         self.check_command(prepare, [PROGRAM, "list", "import", "$HOME/file.gpl"], also_whole=["Mine 2.gpl"])
 
-    def test_import_of_a_list_that_is_there(self):
+    def test_import_of_an_existing_list(self):
         self.check_command(self.prepare, [PROGRAM, "list", "import", "--yes", "$HOME/file.gpl"], also_whole=["Mine 2.gpl"])
 
     def test_export_to_a_new_file(self):
         self.check_command(self.prepare, [PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "$HOME/new.css"])
 
-    def test_export_to_a_file_that_is_there(self):
+    def test_export_to_an_existing_file(self):
         self.check_command(self.prepare, [PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "$HOME/exported.css"])
 
-    def test_take_back(self):
+    def test_undo(self):
         def prepare(home):
             self.prepare(home)
             home.run([PROGRAM, "list", "publish", "--yes", "Mine"])

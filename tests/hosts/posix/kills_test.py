@@ -109,7 +109,7 @@ class Kills(WritingTest):
 
 
 class SeveralWriters(WritingTest):
-    def test_each_file_is_one_of_those_that_were_written(self):
+    def test_each_file_is_one_that_was_written(self):
         with self.home:
             self.prepare()
             folder = self.home.at(DATA)
@@ -127,7 +127,7 @@ class SeveralWriters(WritingTest):
                 self.assertIn(rings - 4, shades)
                 self.assertIn(int(shade_of(files[LISTS + "Shared.gpl"]).split()[0]), shades)
 
-    def test_none_takes_the_place_of_a_list_that_another_makes(self):
+    def test_no_process_replaces_a_list_that_another_creates(self):
         with self.home:
             os.makedirs(self.home.at(DATA), 0o700)
             for i in range(ROUNDS // 2):

@@ -67,7 +67,7 @@ class FullDisks(RealDisksTest):
         self.assertEqual(run.status, 2)
         self.assertTrue(self.home.files() == before, "something has changed")
 
-    def test_a_file_system_without_room(self):
+    def test_a_full_file_system(self):
         disk = tempfile.mkdtemp(prefix="vantorel-test-")
         self.addCleanup(os.rmdir, disk)
         mounting = subprocess.run(["mount", "-t", "tmpfs", "-o", "size=256k", "none", disk], capture_output=True, check=False)
@@ -87,7 +87,7 @@ class FullDisks(RealDisksTest):
         os.remove(filling)
         self.assertEqual(self.change("change", "Mine", "9").status, 0)
 
-    def test_a_limit_for_the_size_of_files(self):
+    def test_a_limit_on_file_size(self):
         self.put_lists()
 
         def limit():
@@ -95,7 +95,7 @@ class FullDisks(RealDisksTest):
             resource.setrlimit(resource.RLIMIT_FSIZE, (500, 500))
         self.look_at_full_disk("File too large", preexec_fn=limit)
 
-    def test_a_device_without_room(self):
+    def test_a_full_device(self):
         self.put_lists()
         run = self.home.run([PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "/dev/full"])
         self.assertEqual(run.status, 2)
@@ -103,7 +103,7 @@ class FullDisks(RealDisksTest):
 
 
 class ThingsInTheWay(RealDisksTest):
-    def test_a_file_in_the_place_of_each_folder(self):
+    def test_a_file_in_place_of_each_folder(self):
         for place in (DATA, DATA + "/Vantorel", LISTS.rstrip("/")):
             with self.subTest(place=place):
                 shutil.rmtree(self.home.at(".local"), ignore_errors=True)
@@ -116,7 +116,7 @@ class ThingsInTheWay(RealDisksTest):
                 self.assertIn("cannot be written", run.complaint)
                 self.assertEqual(self.home.read(place), b"mine")
 
-    def test_a_folder_in_the_place_of_a_file(self):
+    def test_a_folder_in_place_of_a_file(self):
         os.makedirs(self.home.at(LISTS + "Mine.gpl"))
         os.makedirs(self.home.at(SETTINGS))
         self.home.write("file.gpl", palette(7))
@@ -139,7 +139,7 @@ class ThingsInTheWay(RealDisksTest):
         for name in (SETTINGS, LISTS + "Mine.gpl"):
             self.assertTrue(os.path.islink(self.home.at(name)))
 
-    def test_links_that_lead_nowhere_and_in_a_circle(self):
+    def test_dangling_and_circular_links(self):
         os.makedirs(self.home.at(LISTS))
         os.symlink("later.plist", self.home.at(SETTINGS))
         os.symlink("Mine.gpl", self.home.at(LISTS + "Mine.gpl"))
@@ -181,7 +181,7 @@ class ThingsInTheWay(RealDisksTest):
         self.assertEqual(self.home.run([PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "$HOME/" + name]).status, 0)
         self.assertIn(name, self.home.names())
 
-    def test_settings_that_are_not_understood_are_kept(self):
+    def test_unreadable_settings_are_kept(self):
         self.home.write(SETTINGS, "{ NColorCubeRings = 5")
         choice = {"op": "choose", "popUp": "hexColorsListPopUp", "path": ["SVG Keyword"]}
         run = self.home.run([DRIVER], FIRST_START + json.dumps(choice) + "\n")
@@ -189,7 +189,7 @@ class ThingsInTheWay(RealDisksTest):
         self.assertIn(b"SVG Keyword", self.home.read(SETTINGS))
         self.assertEqual(self.home.read(SETTINGS + "~"), b"{ NColorCubeRings = 5")
 
-    def test_a_record_of_publishing_that_is_not_understood_is_kept(self):
+    def test_an_unreadable_record_of_publishing_is_kept(self):
         self.put_lists()
         os.makedirs(self.home.at(GIMP))
         record = DATA + "/Vantorel/Published/Mine.gpl.plist"
@@ -199,7 +199,7 @@ class ThingsInTheWay(RealDisksTest):
 
 
 class Permissions(RealDisksTest):
-    def test_what_is_made_is_the_users_alone(self):
+    def test_new_files_are_private_to_the_user(self):
         for mask in (0o000, 0o022, 0o077):
             with self.subTest(mask=oct(mask)):
                 shutil.rmtree(self.home.at(".local"), ignore_errors=True)
@@ -209,7 +209,7 @@ class Permissions(RealDisksTest):
                 for name in (".local", DATA, DATA + "/Vantorel", LISTS):
                     self.assertEqual(oct(self.home.mode(name)), oct(0o700), name)
 
-    def test_what_others_read_has_the_usual_permissions(self):
+    def test_published_files_have_the_usual_permissions(self):
         for mask in (0o000, 0o022, 0o077):
             with self.subTest(mask=oct(mask)):
                 shutil.rmtree(self.home.at(".local"), ignore_errors=True)
@@ -223,7 +223,7 @@ class Permissions(RealDisksTest):
                     self.assertEqual(oct(self.home.mode(name)), oct(0o666 & ~mask), name)
                 self.assertEqual(self.home.mode(DATA + "/Vantorel/Published/Mine.gpl.plist"), 0o600)
 
-    def test_what_is_replaced_keeps_its_permissions(self):
+    def test_replaced_files_keep_their_permissions(self):
         for mode in (0o600, 0o640, 0o664, 0o444):
             self.put_lists()
             self.home.write(SETTINGS, "{ NColorCubeRings = 5; }", mode)
@@ -235,7 +235,7 @@ class Permissions(RealDisksTest):
             for name in (SETTINGS, LISTS + "Mine.gpl", "x.css"):
                 self.assertEqual(oct(self.home.mode(name)), oct(mode), name)
 
-    def test_root_takes_no_file_away_from_its_user(self):
+    def test_root_leaves_files_to_their_owner(self):
         if os.geteuid() != 0:
             self.skipTest("this is about root")
         self.put_lists()
@@ -247,7 +247,7 @@ class Permissions(RealDisksTest):
             status = os.stat(self.home.at(name))
             self.assertEqual((status.st_uid, status.st_gid), (NOBODY, NOBODY), name)
 
-    def test_a_home_that_may_not_be_written_to(self):
+    def test_a_home_without_write_permission(self):
         self.put_lists()
         user = {}
         programs = (PROGRAM, DRIVER, LIST_CHANGES)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Tests the manual page and the completions with the programs that read them.
 
-    told_test.py PROGRAM
+    descriptions_test.py PROGRAM
 """
 import re
 import shutil
@@ -11,44 +11,44 @@ import unittest
 from program import ProgramTest, os, sys
 
 
-class Told(ProgramTest):
+class Descriptions(ProgramTest):
     def commands(self):
-        names = re.findall(r"^  ([a-z]+)  ", self.told("--help"), re.M)
+        names = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
         return names + [f"list {name}" for name in ("import", "export", "publish")]
 
     def need(self, program):
         if shutil.which(program) is None:
             self.skipTest(program + " is not installed")
 
-    def test_the_manual_page_tells_every_command_and_option(self):
-        page = self.told("manpage").replace("\\-", "-")
+    def test_the_manual_page_has_every_command_and_option(self):
+        page = self.output_of("manpage").replace("\\-", "-")
         for command in self.commands():
             section = re.search(rf"^\.SS vantorel {command}\b(.*?)(?=^\.S[SH])", page, re.M | re.S)
             self.assertIsNotNone(section, command)
             if command == "panel":
                 continue
-            for option in re.findall(r"^  (?:-h, )?(--[a-z-]+)", self.told(*command.split(), "--help"), re.M):
+            for option in re.findall(r"^  (?:-h, )?(--[a-z-]+)", self.output_of(*command.split(), "--help"), re.M):
                 if option != "--help":
                     self.assertIn(".B " + option, section.group(0), command)
 
-    def test_man_finds_nothing_to_warn_of(self):
+    def test_man_has_no_warnings(self):
         self.need("man")
-        page = self.write(os.path.join(self.root, "vantorel.1"), self.told("manpage"))
+        page = self.write(os.path.join(self.root, "vantorel.1"), self.output_of("manpage"))
         run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, timeout=60,
                              env={**self.environment, "LC_ALL": "C.UTF-8", "MANWIDTH": "80", "MAN_DISABLE_SECCOMP": "1"})
         self.assertEqual((run.returncode, run.stderr), (0, b""))
         self.assertIn(b"vantorel list export --format FORMAT [OPTION...] NAME", run.stdout.replace(b"\xe2\x80\x90", b"-"))
 
-    def test_mandoc_finds_nothing_to_warn_of(self):
+    def test_mandoc_has_no_warnings(self):
         self.need("mandoc")
-        page = self.write(os.path.join(self.root, "vantorel.1"), self.told("manpage"))
+        page = self.write(os.path.join(self.root, "vantorel.1"), self.output_of("manpage"))
         # The page has no date, so that builds are reproducible.
         run = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", page], capture_output=True, timeout=60)
         problems = [line for line in run.stdout.decode().splitlines() if "missing date" not in line]
         self.assertEqual(problems, [])
 
     def complete_in_bash(self, *words):
-        script = self.told("completions", "bash")
+        script = self.output_of("completions", "bash")
         lines = " ".join("'" + word + "'" for word in ("vantorel",) + words)
         run = subprocess.run(["bash", "-c", f"{script}\nCOMP_WORDS=({lines}); COMP_CWORD={len(words)}; _vantorel\n"
                               'printf "%s\\n" "${COMPREPLY[@]}"'], capture_output=True, cwd=self.root, env=self.environment, timeout=60)
@@ -73,7 +73,7 @@ class Told(ProgramTest):
             self.assertIn(command.split()[-1], self.complete_in_bash(*command.split()[:-1], ""), command)
 
     def complete_in_fish(self, line):
-        script = self.write(os.path.join(self.root, "vantorel.fish"), self.told("completions", "fish"))
+        script = self.write(os.path.join(self.root, "vantorel.fish"), self.output_of("completions", "fish"))
         run = subprocess.run(["fish", "--no-config", "-c", f"source {script}; complete -C'{line}'"], capture_output=True,
                              env=self.environment, cwd=self.root, timeout=60)
         self.assertEqual(run.stderr, b"")
@@ -92,7 +92,7 @@ class Told(ProgramTest):
 
     def test_zsh_loads_the_completions(self):
         self.need("zsh")
-        script = self.write(os.path.join(self.root, "_vantorel"), self.told("completions", "zsh"))
+        script = self.write(os.path.join(self.root, "_vantorel"), self.output_of("completions", "zsh"))
         run = subprocess.run(["zsh", "-f", "-c", f"autoload -Uz compinit && compinit -u -D && source {script} && "
                               "print $_comps[vantorel] && whence -w _vantorel_list_export"],
                              capture_output=True, env=self.environment, timeout=60)
