@@ -20,7 +20,7 @@ cleanup() {
 trap cleanup EXIT
 # A failing command ends the test; print which.
 set -E
-trap 'echo "line $LINENO: $BASH_COMMAND has failed" >&2' ERR
+trap 'echo "line $LINENO: $BASH_COMMAND failed" >&2' ERR
 export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
 export XDG_RUNTIME_DIR="$scratch"
 suppressions=$(dirname "${BASH_SOURCE[0]}")/../support/leaks-of-others
@@ -39,7 +39,7 @@ eventually() {
 
 # Without -noreset the server refuses programs for a moment whenever the last one has left.
 Xvfb -noreset -displayfd 3 -screen 0 1000x800x24 3> "$scratch/display" > "$scratch/xvfb.log" 2>&1 &
-eventually test -s "$scratch/display" || fail "no X server has come"
+eventually test -s "$scratch/display" || fail "the X server did not start"
 DISPLAY=":$(cat "$scratch/display")"
 export DISPLAY
 
@@ -51,7 +51,7 @@ start_panel() {
     # shellcheck disable=SC2034  # for the tests that stop it
     panel_id=$!
     window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Colour$' | head -n 1)
-    [ -n "$window" ] || fail "no window has come"
+    [ -n "$window" ] || fail "no window opened"
 }
 
 # Waits until the last printed colour is the given one.
