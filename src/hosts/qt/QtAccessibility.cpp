@@ -72,34 +72,77 @@ void setProperty(QWidget& widget, const char* name, const QVariant& value)
     }
 }
 
-/// Tells when a text that is computed on demand has changed: whatever changes it repaints the
-/// widget, too.
-class ChangeTeller final : public QObject {
+/// Reports changes of a text that is computed on demand: whatever changes the text repaints the
+/// widget, too. The widget owns it.
+class ChangeReporter : public QObject {
 public:
-    using Text = std::function<QString()>;
-    using Tell = std::function<void(const QString& before, const QString& now)>;
-
-    ChangeTeller(QWidget& widget, Text text, Tell tell)
-        : QObject(&widget), _text(std::move(text)), _tell(std::move(tell))
+    explicit ChangeReporter(QWidget& widget) : QObject(&widget), _widget(widget)
     {
         widget.installEventFilter(this);
     }
 
 protected:
+    [[nodiscard]] virtual QString text() const = 0;
+    virtual void report(QWidget& widget, const QString& before, const QString& now) = 0;
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Paint && QAccessible::isActive()) {
-            const QString now = _text();
-            const QString before = std::exchange(_told, now);
-            if (before != now) _tell(before, now);
+            const QString now = text();
+            const QString before = std::exchange(_reported, now);
+            if (before != now) report(_widget, before, now);
         }
         return QObject::eventFilter(watched, event);
     }
 
 private:
-    Text _text;
-    Tell _tell;
-    QString _told;
+    QWidget& _widget;
+    QString _reported;
+};
+
+class DescriptionReporter final : public ChangeReporter {
+public:
+    DescriptionReporter(QWidget& widget, const HostView& view) : ChangeReporter(widget), _view(view)
+    {
+    }
+
+protected:
+    [[nodiscard]] QString text() const override
+    {
+        return qStringFrom(_view.accessibleDescription().value_or(u""));
+    }
+
+    void report(QWidget& widget, const QString&, const QString&) override
+    {
+        QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+
+private:
+    const HostView& _view;
+};
+
+class ShownTextReporter final : public ChangeReporter {
+public:
+    ShownTextReporter(QWidget& widget, const QtPopUpButton& popUp)
+        : ChangeReporter(widget), _popUp(popUp)
+    {
+    }
+
+protected:
+    [[nodiscard]] QString text() const override
+    {
+        return QtAccessiblePopUpButton::shownText(_popUp);
+    }
+
+    void report(QWidget& widget, const QString& before, const QString& now) override
+    {
+        QAccessibleTextUpdateEvent event(&widget, 0, before, now);
+        QAccessible::updateAccessibility(&event);
+    }
+
+private:
+    const QtPopUpButton& _popUp;
 };
 
 }  // namespace
@@ -112,23 +155,13 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role)
 void describeCustomView(QWidget& widget, const HostView& view)
 {
     setProperty(widget, viewProperty, QVariant::fromValue(&view));
-    new ChangeTeller(
-        widget, [&view] { return qStringFrom(view.accessibleDescription().value_or(u"")); },
-        [&widget](const QString&, const QString&) {
-            QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
-            QAccessible::updateAccessibility(&event);
-        });
+    new DescriptionReporter(widget, view);
 }
 
 void describePopUpButton(QWidget& widget, QtPopUpButton& popUp)
 {
     setProperty(widget, popUpProperty, QVariant::fromValue(&popUp));
-    new ChangeTeller(
-        widget, [&popUp] { return QtAccessiblePopUpButton::shownText(popUp); },
-        [&widget](const QString& before, const QString& now) {
-            QAccessibleTextUpdateEvent event(&widget, 0, before, now);
-            QAccessible::updateAccessibility(&event);
-        });
+    new ShownTextReporter(widget, popUp);
 }
 
 }  // namespace vantorel

@@ -6,23 +6,7 @@
 
 #include <QCursor>
 
-#include <functional>
-
 namespace vantorel {
-namespace {
-
-/// Walks a view and those below it that are of a class.
-template <class View>
-void forEachBelow(HostView* view, const std::function<void(View&)>& visit)
-{
-    if (view == nullptr) return;
-    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
-    for (HostView* subview : view->subviews())
-        forEachBelow(subview, visit);
-}
-
-}  // namespace
-
 void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
 {
     _acceptsMouseMoved = flag;
@@ -32,10 +16,13 @@ void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
 
 void QtColorPanel::pageDidAppear()
 {
+    // A new context ends the connections to the page that was on show before.
+    _pageConnections = std::make_unique<QObject>();
     forEachBelow<QtTextField>(pageView(), [this](QtTextField& field) {
-        field.setEntryGivenUp([this] {
-            if (const auto current = color()) setColor(*current);
-        });
+        QObject::connect(field.lineEdit(), &QtLineEdit::entryGivenUp, _pageConnections.get(),
+                         [this] {
+                             if (const auto current = color()) setColor(*current);
+                         });
     });
 }
 

@@ -3,6 +3,10 @@
 #include "host/HostColorPanel.h"
 #include "hosts/qt/QtDesktop.h"
 
+#include <QObject>
+
+#include <memory>
+
 namespace vantorel {
 
 /// What every colour panel made with Qt has in common; colour and place are the window's.
@@ -32,6 +36,8 @@ protected:
 private:
     QtDesktop& _desktop;
     bool _acceptsMouseMoved = false;
+    /// The context of what is connected to the page on show.
+    std::unique_ptr<QObject> _pageConnections;
 };
 
 }  // namespace vantorel

@@ -133,11 +133,10 @@ private:
     }
 };
 
-QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent, Choice choose)
+QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
     : QFrame(&parent, Qt::Popup),
       _model(new Model(items, selected, *this)),
-      _view(new QListView(this)),
-      _choose(std::move(choose))
+      _view(new QListView(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
@@ -215,10 +214,9 @@ void QtItemList::choose(const QModelIndex& row)
 {
     if (!row.isValid() || row.flags() == Qt::NoItemFlags) return;
     const HostMenuItem item = _model->items()[static_cast<std::size_t>(row.row())];
-    const Choice choice = _choose;
     const int index = row.row();
     close();
-    choice(item, index);
+    emit chosen(item, index);
 }
 
 bool QtItemList::handleKey(int key)

@@ -5,8 +5,6 @@
 #include <QFrame>
 #include <QListView>
 
-#include <functional>
-
 namespace vantorel {
 
 /// The items of a pop-up as a list that opens beside it and scrolls. It takes no longer to open for
@@ -16,16 +14,21 @@ namespace vantorel {
 /// Return, Enter or Space choose; Escape closes. Mouse: a click, or a release after the press that
 /// opened it. The list ends itself when it closes.
 class QtItemList final : public QFrame {
+    Q_OBJECT
+
 public:
-    using Choice = std::function<void(const HostMenuItem& item, int index)>;
     /// The pixmap of an item that has an image.
     static constexpr int pictureRole = Qt::UserRole;
 
-    /// No item may have a submenu. `choose` is called after the list has closed.
-    QtItemList(const HostMenu& items, int selected, QWidget& parent, Choice choose);
+    /// No item may have a submenu. `selected` is marked; -1 for none.
+    QtItemList(const HostMenu& items, int selected, QWidget& parent);
 
     /// Opens below a rectangle of the screen, or above it where there is more room.
     void openBeside(const QRect& button);
+
+signals:
+    /// The user has chosen the item at `index`; the list has closed.
+    void chosen(const vantorel::HostMenuItem& item, int index);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,7 +44,6 @@ private:
 
     Model* _model;
     QListView* _view;
-    Choice _choose;
     /// Whether a release counts: not the one that belongs to the press which opened the list.
     bool _releaseChooses = false;
 };

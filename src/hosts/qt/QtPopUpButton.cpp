@@ -178,7 +178,8 @@ void QtPopUpButton::openMenu()
         opened->setMinimumWidth(shown->width());
         opened->popup(shown->mapToGlobal(QPoint(0, shown->height())));
     } else {
-        auto* opened = new QtItemList(menu(), indexOfSelectedItem(), *shown, choose);
+        auto* opened = new QtItemList(menu(), indexOfSelectedItem(), *shown);
+        QObject::connect(opened, &QtItemList::chosen, shown, choose);
         opened->openBeside(QRect(shown->mapToGlobal(QPoint(0, 0)), shown->size()));
     }
 }

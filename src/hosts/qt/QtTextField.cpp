@@ -3,7 +3,6 @@
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 
 #include <algorithm>
 #include <utility>
@@ -26,122 +25,10 @@ Qt::Alignment describedAlignment(const HostControlDescription& description)
 
 }  // namespace
 
-QColor readableTextColor(const HostColor& color, const QPalette& palette)
-{
-    constexpr int darkGround = 128;
-    constexpr float readableLightness = 0.72F;
-    const QColor wanted = qColorFrom(color);
-    if (!wanted.isValid() || wanted == QColor(Qt::black)) return palette.color(QPalette::Text);
-    if (palette.color(QPalette::Base).lightness() >= darkGround) return wanted;
-    return QColor::fromHslF(std::max(0.0F, wanted.hslHueF()), wanted.hslSaturationF(),
-                            std::max(readableLightness, wanted.lightnessF()));
-}
-
-/// A line edit whose text colour follows the theme, which can be left by Escape, and which writes a
-/// little smaller where that makes room for the whole text.
-class QtTextField::LineEdit final : public QLineEdit {
-public:
-    LineEdit(QtTextField& owner, const QFont& font) : _owner(owner), _font(font)
-    {
-        setFont(font);
-        connect(this, &QLineEdit::textChanged, this, [this] { fit(); });
-    }
-
-    void setHostColor(const HostColor& color)
-    {
-        if (_color == color) return;
-        _color = color;
-        applyColor();
-    }
-
-protected:
-    bool event(QEvent* event) override
-    {
-        // Said before shortcuts are looked for: in a field Escape ends the entry and nothing else,
-        // also where it would close the window.
-        if (event->type() == QEvent::ShortcutOverride &&
-            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
-            event->accept();
-            return true;
-        }
-        return QLineEdit::event(event);
-    }
-
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (!event->matches(QKeySequence::Cancel)) {
-            QLineEdit::keyPressEvent(event);
-        } else if (_owner._entryGivenUp && isModified()) {
-            // A copy: the reaction may set another one.
-            const auto reaction = _owner._entryGivenUp;
-            reaction();
-            setModified(false);
-        } else {
-            // There is nothing to give up here.
-            event->ignore();
-        }
-    }
-
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QLineEdit::resizeEvent(event);
-        fit();
-    }
-
-    void focusInEvent(QFocusEvent* event) override
-    {
-        QLineEdit::focusInEvent(event);
-        fit();
-    }
-
-    void focusOutEvent(QFocusEvent* event) override
-    {
-        QLineEdit::focusOutEvent(event);
-        fit();
-    }
-
-    void changeEvent(QEvent* event) override
-    {
-        QLineEdit::changeEvent(event);
-        if (event->type() == QEvent::PaletteChange && !_applying) applyColor();
-    }
-
-private:
-    /// While one types, the size of the letters stays.
-    void fit()
-    {
-        constexpr int besideText = 8;
-        constexpr double smallest = 0.7;
-        const double room = width() - besideText;
-        const double needed = QFontMetricsF(_font).horizontalAdvance(text());
-        const double ratio = needed > 0 ? room / needed : 1;
-        QFont fitting = _font;
-        if (!hasFocus() && ratio < 1 && ratio >= smallest) {
-            fitting.setPixelSize(static_cast<int>(_font.pixelSize() * ratio));
-        }
-        if (fitting.pixelSize() != font().pixelSize()) setFont(fitting);
-    }
-
-    void applyColor()
-    {
-        if (!_color) return;
-        _applying = true;
-        QPalette palette;  // with the text colour alone set, the rest goes on following the theme
-        palette.setColor(QPalette::Text, readableTextColor(*_color, QApplication::palette(this)));
-        setPalette(palette);
-        _applying = false;
-    }
-
-    QtTextField& _owner;
-    QFont _font;  ///< in its full size
-    std::optional<HostColor> _color;
-    bool _applying = false;
-};
-
 QtTextField::QtTextField(const HostControlDescription& description)
-    : QtMirrored(description.frame, new LineEdit(*this, fontOf(description)))
+    : QtMirrored(description.frame, new QtLineEdit(fontOf(description)))
 {
-    QLineEdit* edit = lineEdit();
+    QtLineEdit* edit = lineEdit();
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));
@@ -166,9 +53,9 @@ void QtTextField::finishEditing()
     if (lineEdit()->isVisible() && lineEdit()->isModified()) enterText();
 }
 
-QLineEdit* QtTextField::lineEdit() const
+QtLineEdit* QtTextField::lineEdit() const
 {
-    return static_cast<QLineEdit*>(widget());
+    return static_cast<QtLineEdit*>(widget());
 }
 
 std::u16string QtTextField::stringValue() const
@@ -190,7 +77,7 @@ void QtTextField::setStringValue(const std::u16string& text)
 
 void QtTextField::setTextColor(const HostColor& color)
 {
-    static_cast<LineEdit*>(widget())->setHostColor(color);
+    lineEdit()->setHostColor(color);
 }
 
 bool QtTextField::isEdited() const

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "host/HostInterfaceFactory.h"
+#include "hosts/qt/QtLineEdit.h"
 #include "hosts/qt/QtView.h"
 
 #include <QLabel>
-#include <QLineEdit>
 
 namespace vantorel {
 
@@ -24,16 +24,12 @@ public:
     /// Enters what the user has typed, as Return does. Does nothing if the field is hidden, or
     /// nothing was typed since it was last entered.
     void finishEditing();
-    /// Called when the user gives the entry up (Escape). What was there before is the panel's to
-    /// know: other fields may have followed the typing.
-    void setEntryGivenUp(std::function<void()> reaction) { _entryGivenUp = std::move(reaction); }
+    /// The field's widget.
+    [[nodiscard]] QtLineEdit* lineEdit() const;
 
 private:
-    class LineEdit;
-    [[nodiscard]] QLineEdit* lineEdit() const;
     void enterText();
 
-    std::function<void()> _entryGivenUp;
     bool _textIsBeingSet = false;
 };
 
@@ -49,9 +45,5 @@ public:
 private:
     [[nodiscard]] QLabel* label() const;
 };
-
-/// A text colour of the core on the ground that a palette gives: black becomes the palette's own
-/// text colour, and what would be too dark on a dark ground is lightened.
-[[nodiscard]] QColor readableTextColor(const HostColor& color, const QPalette& palette);
 
 }  // namespace vantorel

@@ -16,6 +16,16 @@ public:
 
 [[nodiscard]] QWidget* widgetOf(const HostView* view);
 
+/// Visits a view and those below it that are of a class. `view` may be null.
+template <class View, class Visit>
+void forEachBelow(HostView* view, const Visit& visit)
+{
+    if (view == nullptr) return;
+    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
+    for (HostView* subview : view->subviews())
+        forEachBelow<View>(subview, visit);
+}
+
 /// Where a view's widget stands in its superview's: this is the one place that turns the core's
 /// coordinates, y up and with an origin of their own, into Qt's. Edges are rounded, not sizes, so
 /// that views side by side stay so.

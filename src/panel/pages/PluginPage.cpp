@@ -8,16 +8,6 @@
 #include <vector>
 
 namespace vantorel {
-namespace {
-
-void collectTextFields(HostView& view, std::vector<QtTextField*>& fields)
-{
-    if (auto* field = dynamic_cast<QtTextField*>(&view)) fields.push_back(field);
-    for (HostView* subview : view.subviews())
-        collectTextFields(*subview, fields);
-}
-
-}  // namespace
 
 PluginPage::PluginPage(const LoadedPlugin& plugin, LoadedPlugin::Picker picker)
     : _plugin(plugin), _picker(std::move(picker))
@@ -114,9 +104,9 @@ void PluginPage::setColor(const HostColor& color)
 
 void PluginPage::finishEditing()
 {
-    if (_view == nullptr) return;
+    // Collected first: what a field enters may change the views.
     std::vector<QtTextField*> fields;
-    collectTextFields(*_view, fields);
+    forEachBelow<QtTextField>(_view, [&](QtTextField& field) { fields.push_back(&field); });
     for (QtTextField* field : fields)
         field->finishEditing();
 }

@@ -127,7 +127,7 @@ TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
     int shortcuts = 0;
     QShortcut closing(QKeySequence(Qt::Key_Escape), &window, [&] { ++shortcuts; });
     int givenUp = 0;
-    _field.setEntryGivenUp([&] { ++givenUp; });
+    QObject::connect(_field.lineEdit(), &QtLineEdit::entryGivenUp, [&] { ++givenUp; });
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     edit()->setFocus();
@@ -139,6 +139,20 @@ TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
     EXPECT_EQ(shortcuts, 0);
     EXPECT_TRUE(window.isVisible());
     edit()->setParent(nullptr);
+}
+
+TEST_F(QtTextFieldTest, WhatWasTypedIsEnteredOnceWhenTheEditingIsFinished)
+{
+    _field.finishEditing();
+    EXPECT_EQ(_actions, 0) << "nothing was typed";
+    QTest::keyClicks(edit(), "12");
+    _field.finishEditing();
+    _field.finishEditing();
+    EXPECT_EQ(_actions, 1);
+    QTest::keyClicks(edit(), "3");
+    edit()->hide();
+    _field.finishEditing();
+    EXPECT_EQ(_actions, 1) << "a field out of sight has no entry";
 }
 
 TEST_F(QtTextFieldTest, TheInsertionPointStaysWhenTheTextIsSetWhileTyping)
