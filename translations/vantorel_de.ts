@@ -56,221 +56,50 @@
     </message>
 </context>
 <context>
-    <name>PaletteEntriesView</name>
+    <name>PaletteRemarks</name>
     <message>
-        <source>Colour name</source>
-        <translation>Farbname</translation>
+        <source>&quot;%1&quot; could not be saved, so nothing was changed. May you write in %2, and is there room on the disk?</source>
+        <translation>„%1“ ließ sich nicht sichern, darum wurde nichts geändert. Dürfen Sie in %2 schreiben, und ist Platz auf dem Datenträger?</translation>
     </message>
     <message>
-        <source>Colours of the list</source>
-        <translation>Farben der Liste</translation>
-    </message>
-</context>
-<context>
-    <name>PalettesWidget</name>
-    <message>
-        <source>Palettes</source>
-        <translation>Paletten</translation>
+        <source>&quot;%1&quot; could not be removed. May you write in %2?</source>
+        <translation>„%1“ ließ sich nicht entfernen. Dürfen Sie in %2 schreiben?</translation>
     </message>
     <message>
-        <source>Colour list</source>
-        <translation>Farbliste</translation>
+        <source>The file of &quot;%1&quot; could not be removed, so the list is there under both names.</source>
+        <translation>Die Datei von „%1“ ließ sich nicht entfernen; die Liste ist nun unter beiden Namen da.</translation>
     </message>
     <message>
-        <source>The list on show</source>
-        <translation>Die gezeigte Liste</translation>
+        <source>The name was taken; the list is called &quot;%1&quot;.</source>
+        <translation>Der Name war vergeben; die Liste heißt „%1“.</translation>
     </message>
     <message>
-        <source>Name of the list</source>
-        <translation>Name der Liste</translation>
+        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s is as it was.</source>
+        <translation>„%1“ ist nun Ihre eigene Liste; die des anderen Programms ist, wie sie war.</translation>
     </message>
     <message>
-        <source>Find a name or hex code</source>
-        <translation>Name oder Hex-Code suchen</translation>
+        <source>Another program had changed &quot;%1&quot;, too. It now holds both changes.</source>
+        <translation>Ein anderes Programm hatte „%1“ auch geändert. Die Liste enthält nun beide Änderungen.</translation>
     </message>
     <message>
-        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
-        <translation>Zeigt nur Farben, deren Name oder Hex-Code dies enthält (Strg+F)</translation>
+        <source>Another program had changed the same. Its list is as it was; yours is &quot;%1&quot;.</source>
+        <translation>Ein anderes Programm hatte dasselbe geändert. Seine Liste ist, wie sie war; Ihre heißt „%1“.</translation>
     </message>
     <message>
-        <source>Commands for lists and colours</source>
-        <translation>Befehle für Listen und Farben</translation>
+        <source>Another program had removed &quot;%1&quot;. It is there again, with your change.</source>
+        <translation>Ein anderes Programm hatte „%1“ entfernt. Die Liste ist wieder da, mit Ihrer Änderung.</translation>
     </message>
     <message>
-        <source>Belongs to %1, and is only read</source>
-        <translation>Gehört zu %1 und wird nur gelesen</translation>
+        <source>&quot;%1&quot; stays: another program has changed it meanwhile. Look at it before you remove it.</source>
+        <translation>„%1“ bleibt: Ein anderes Programm hat die Liste inzwischen geändert. Sehen Sie sie an, ehe Sie sie entfernen.</translation>
     </message>
     <message>
-        <source>From %1, read-only. Your first change makes a list of your own.</source>
-        <translation>Von %1, nur lesbar. Ihre erste Änderung macht eine eigene Liste daraus.</translation>
+        <source>What another program has changed in &quot;%1&quot; since was left as it is.</source>
+        <translation>Was ein anderes Programm seither in „%1“ geändert hat, blieb, wie es ist.</translation>
     </message>
     <message>
-        <source>%1 of %2</source>
-        <translation>%1 von %2</translation>
-    </message>
-    <message>
-        <source>Colours in the list</source>
-        <translation>Farben in der Liste</translation>
-    </message>
-    <message>
-        <source>Colours in the list: %1</source>
-        <translation>Farben in der Liste: %1</translation>
-    </message>
-    <message>
-        <source>There is no list yet. Make one, or drop a palette file here.</source>
-        <translation>Es gibt noch keine Liste. Legen Sie eine an, oder lassen Sie eine Palettendatei hier fallen.</translation>
-    </message>
-    <message>
-        <source>The list is empty. The + adds the panel&apos;s colour.</source>
-        <translation>Die Liste ist leer. Das + fügt die Farbe des Fensters hinzu.</translation>
-    </message>
-    <message>
-        <source>No colour has this in its name or hex code.</source>
-        <translation>Keine Farbe enthält dies in Name oder Hex-Code.</translation>
-    </message>
-    <message>
-        <source>Add %1 to the list (%2)</source>
-        <translation>%1 zur Liste hinzufügen (%2)</translation>
-    </message>
-    <message>
-        <source>Give the selected colours the panel&apos;s colour, %1</source>
-        <translation>Den gewählten Einträgen die Farbe des Fensters geben, %1</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been removed by another program.</source>
-        <translation>„%1“ wurde von einem anderen Programm entfernt.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been changed by another program.</source>
-        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
-    </message>
-    <message>
-        <source>New list</source>
-        <translation>Neue Liste</translation>
-    </message>
-    <message>
-        <source>Rename the list</source>
-        <translation>Liste umbenennen</translation>
-    </message>
-    <message>
-        <source>Copy the list</source>
-        <translation>Liste kopieren</translation>
-    </message>
-    <message>
-        <source>Remove the list</source>
-        <translation>Liste entfernen</translation>
-    </message>
-    <message>
-        <source>Import palette files...</source>
-        <translation>Palettendateien übernehmen ...</translation>
-    </message>
-    <message>
-        <source>Save a copy as a file...</source>
-        <translation>Kopie als Datei sichern ...</translation>
-    </message>
-    <message>
-        <source>Add the panel&apos;s colour</source>
-        <translation>Farbe des Fensters hinzufügen</translation>
-    </message>
-    <message>
-        <source>Rename</source>
-        <translation>Umbenennen</translation>
-    </message>
-    <message>
-        <source>Give it the panel&apos;s colour</source>
-        <translation>Farbe des Fensters geben</translation>
-    </message>
-    <message>
-        <source>Move up</source>
-        <translation>Nach oben</translation>
-    </message>
-    <message>
-        <source>Move down</source>
-        <translation>Nach unten</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
-    </message>
-    <message>
-        <source>My colours</source>
-        <translation>Meine Farben</translation>
-    </message>
-    <message>
-        <source>A pattern cannot be kept in a list.</source>
-        <translation>Ein Muster lässt sich nicht in einer Liste aufheben.</translation>
-    </message>
-    <message>
-        <source>A list keeps no opacity; the colour was added without it.</source>
-        <translation>Eine Liste bewahrt keine Deckkraft; die Farbe wurde ohne sie hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>The name was taken; the colour is called &quot;%1&quot;.</source>
-        <translation>Der Name war vergeben; die Farbe heißt „%1“.</translation>
-    </message>
-    <message>
-        <source>%1 copy</source>
-        <translation>%1 Kopie</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been removed. Undo brings it back.</source>
-        <translation>„%1“ wurde entfernt. Rückgängig holt es zurück.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be read.</source>
-        <translation>„%1“ lässt sich nicht lesen.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been imported.</source>
-        <translation>„%1“ wurde übernommen.</translation>
-    </message>
-    <message>
-        <source>Lines that are no colours were left out: %1.</source>
-        <translation>Zeilen, die keine Farben sind, wurden ausgelassen: %1.</translation>
-    </message>
-    <message>
-        <source>Saved as %1.</source>
-        <translation>Gesichert als %1.</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. May you write there, and is there room on the disk?</source>
-        <translation>%1 ließ sich nicht schreiben. Dürfen Sie dort schreiben, und ist Platz auf dem Datenträger?</translation>
-    </message>
-    <message>
-        <source>Import palette files</source>
-        <translation>Palettendateien übernehmen</translation>
-    </message>
-    <message>
-        <source>Save a copy</source>
-        <translation>Kopie sichern</translation>
-    </message>
-    <message>
-        <source>Only files of this computer can be imported.</source>
-        <translation>Nur Dateien dieses Rechners lassen sich übernehmen.</translation>
-    </message>
-    <message>
-        <source>the folder of palettes</source>
-        <translation>dem Ordner der Paletten</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a colour list that can be read. Supported are palettes of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text with one colour a line.</source>
-        <translation>„%1“ ist keine Farbliste, die sich lesen lässt. Unterstützt werden Paletten von GIMP und KDE, CSS, SCSS, JSON, Swatch-Exchange-Dateien und Text mit einer Farbe je Zeile.</translation>
+        <source>The file of &quot;%1&quot; had comments or damaged lines. It is kept beside the new one, with a &quot;~&quot; behind its name.</source>
+        <translation>Die Datei von „%1“ hatte Kommentare oder beschädigte Zeilen. Sie bleibt neben der neuen, mit „~“ hinter ihrem Namen.</translation>
     </message>
 </context>
 <context>
@@ -491,53 +320,6 @@
     </message>
 </context>
 <context>
-    <name>vantorel</name>
-    <message>
-        <source>&quot;%1&quot; could not be saved, so nothing was changed. May you write in %2, and is there room on the disk?</source>
-        <translation>„%1“ ließ sich nicht sichern, darum wurde nichts geändert. Dürfen Sie in %2 schreiben, und ist Platz auf dem Datenträger?</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be removed. May you write in %2?</source>
-        <translation>„%1“ ließ sich nicht entfernen. Dürfen Sie in %2 schreiben?</translation>
-    </message>
-    <message>
-        <source>The file of &quot;%1&quot; could not be removed, so the list is there under both names.</source>
-        <translation>Die Datei von „%1“ ließ sich nicht entfernen; die Liste ist nun unter beiden Namen da.</translation>
-    </message>
-    <message>
-        <source>The name was taken; the list is called &quot;%1&quot;.</source>
-        <translation>Der Name war vergeben; die Liste heißt „%1“.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s is as it was.</source>
-        <translation>„%1“ ist nun Ihre eigene Liste; die des anderen Programms ist, wie sie war.</translation>
-    </message>
-    <message>
-        <source>Another program had changed &quot;%1&quot;, too. It now holds both changes.</source>
-        <translation>Ein anderes Programm hatte „%1“ auch geändert. Die Liste enthält nun beide Änderungen.</translation>
-    </message>
-    <message>
-        <source>Another program had changed the same. Its list is as it was; yours is &quot;%1&quot;.</source>
-        <translation>Ein anderes Programm hatte dasselbe geändert. Seine Liste ist, wie sie war; Ihre heißt „%1“.</translation>
-    </message>
-    <message>
-        <source>Another program had removed &quot;%1&quot;. It is there again, with your change.</source>
-        <translation>Ein anderes Programm hatte „%1“ entfernt. Die Liste ist wieder da, mit Ihrer Änderung.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; stays: another program has changed it meanwhile. Look at it before you remove it.</source>
-        <translation>„%1“ bleibt: Ein anderes Programm hat die Liste inzwischen geändert. Sehen Sie sie an, ehe Sie sie entfernen.</translation>
-    </message>
-    <message>
-        <source>What another program has changed in &quot;%1&quot; since was left as it is.</source>
-        <translation>Was ein anderes Programm seither in „%1“ geändert hat, blieb, wie es ist.</translation>
-    </message>
-    <message>
-        <source>The file of &quot;%1&quot; had comments or damaged lines. It is kept beside the new one, with a &quot;~&quot; behind its name.</source>
-        <translation>Die Datei von „%1“ hatte Kommentare oder beschädigte Zeilen. Sie bleibt neben der neuen, mit „~“ hinter ihrem Namen.</translation>
-    </message>
-</context>
-<context>
     <name>vantorel::ChoiceBar</name>
     <message>
         <source>Choose</source>
@@ -587,6 +369,118 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteCommands</name>
+    <message>
+        <source>New list</source>
+        <translation>Neue Liste</translation>
+    </message>
+    <message>
+        <source>Rename the list</source>
+        <translation>Liste umbenennen</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Liste kopieren</translation>
+    </message>
+    <message>
+        <source>Remove the list</source>
+        <translation>Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Import palette files...</source>
+        <translation>Palettendateien übernehmen ...</translation>
+    </message>
+    <message>
+        <source>Save a copy as a file...</source>
+        <translation>Kopie als Datei sichern ...</translation>
+    </message>
+    <message>
+        <source>Add the panel&apos;s colour</source>
+        <translation>Farbe des Fensters hinzufügen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Give it the panel&apos;s colour</source>
+        <translation>Farbe des Fensters geben</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Add %1 to the list (%2)</source>
+        <translation>%1 zur Liste hinzufügen (%2)</translation>
+    </message>
+    <message>
+        <source>Give the selected colours the panel&apos;s colour, %1</source>
+        <translation>Den gewählten Einträgen die Farbe des Fensters geben, %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteEntriesView</name>
+    <message>
+        <source>Colour name</source>
+        <translation>Farbname</translation>
+    </message>
+    <message>
+        <source>Colours of the list</source>
+        <translation>Farben der Liste</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteListChooser</name>
+    <message>
+        <source>Colour list</source>
+        <translation>Farbliste</translation>
+    </message>
+    <message>
+        <source>The list on show</source>
+        <translation>Die gezeigte Liste</translation>
+    </message>
+    <message>
+        <source>Name of the list</source>
+        <translation>Name der Liste</translation>
+    </message>
+    <message>
+        <source>Belongs to %1, and is only read</source>
+        <translation>Gehört zu %1 und wird nur gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteSession</name>
+    <message>
+        <source>the folder of palettes</source>
+        <translation>dem Ordner der Paletten</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PalettesPage</name>
     <message>
         <source>Palettes</source>
@@ -595,6 +489,125 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Palettes: edit the lists of named colours</source>
         <translation>Paletten: die Listen benannter Farben bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesWidget</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletten</translation>
+    </message>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Name oder Hex-Code suchen</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>Zeigt nur Farben, deren Name oder Hex-Code dies enthält (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Commands for lists and colours</source>
+        <translation>Befehle für Listen und Farben</translation>
+    </message>
+    <message>
+        <source>From %1, read-only. Your first change makes a list of your own.</source>
+        <translation>Von %1, nur lesbar. Ihre erste Änderung macht eine eigene Liste daraus.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Colours in the list</source>
+        <translation>Farben in der Liste</translation>
+    </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Farben in der Liste: %1</translation>
+    </message>
+    <message>
+        <source>There is no list yet. Make one, or drop a palette file here.</source>
+        <translation>Es gibt noch keine Liste. Legen Sie eine an, oder lassen Sie eine Palettendatei hier fallen.</translation>
+    </message>
+    <message>
+        <source>The list is empty. The + adds the panel&apos;s colour.</source>
+        <translation>Die Liste ist leer. Das + fügt die Farbe des Fensters hinzu.</translation>
+    </message>
+    <message>
+        <source>No colour has this in its name or hex code.</source>
+        <translation>Keine Farbe enthält dies in Name oder Hex-Code.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm entfernt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>New list</source>
+        <translation>Neue Liste</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>My colours</source>
+        <translation>Meine Farben</translation>
+    </message>
+    <message>
+        <source>A pattern cannot be kept in a list.</source>
+        <translation>Ein Muster lässt sich nicht in einer Liste aufheben.</translation>
+    </message>
+    <message>
+        <source>A list keeps no opacity; the colour was added without it.</source>
+        <translation>Eine Liste bewahrt keine Deckkraft; die Farbe wurde ohne sie hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>The name was taken; the colour is called &quot;%1&quot;.</source>
+        <translation>Der Name war vergeben; die Farbe heißt „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed. Undo brings it back.</source>
+        <translation>„%1“ wurde entfernt. Rückgängig holt es zurück.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>„%1“ lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour list that can be read. Supported are palettes of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text with one colour a line.</source>
+        <translation>„%1“ ist keine Farbliste, die sich lesen lässt. Unterstützt werden Paletten von GIMP und KDE, CSS, SCSS, JSON, Swatch-Exchange-Dateien und Text mit einer Farbe je Zeile.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been imported.</source>
+        <translation>„%1“ wurde übernommen.</translation>
+    </message>
+    <message>
+        <source>Lines that are no colours were left out: %1.</source>
+        <translation>Zeilen, die keine Farben sind, wurden ausgelassen: %1.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Gesichert als %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. May you write there, and is there room on the disk?</source>
+        <translation>%1 ließ sich nicht schreiben. Dürfen Sie dort schreiben, und ist Platz auf dem Datenträger?</translation>
+    </message>
+    <message>
+        <source>Import palette files</source>
+        <translation>Palettendateien übernehmen</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Kopie sichern</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be imported.</source>
+        <translation>Nur Dateien dieses Rechners lassen sich übernehmen.</translation>
     </message>
 </context>
 <context>

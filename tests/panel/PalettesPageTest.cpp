@@ -271,6 +271,20 @@ TEST_F(PalettesPageTest, ListsAreMadeRenamedCopiedAndRemoved)
     EXPECT_EQ(shownList(), "Blues 2");
 }
 
+TEST_F(PalettesPageTest, ANameThatIsBeingTypedIsTakenWhenTheEditingIsFinished)
+{
+    page()->finishEditing();
+    EXPECT_EQ(shownList(), "Reds") << "no name is being typed";
+    press(Qt::Key_F2, Qt::ShiftModifier);
+    auto* field = child<QLineEdit>("paletteListName");
+    field->selectAll();
+    QTest::keyClicks(field, "Crimsons");
+    page()->finishEditing();
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_EQ(shownList(), "Crimsons");
+    EXPECT_NE(own("Crimsons"), "none");
+}
+
 TEST_F(PalettesPageTest, ColoursAreRenamedInTheirRow)
 {
     click(1);

@@ -89,10 +89,10 @@ QVariant PaletteEntriesModel::data(const QModelIndex& index, int role) const
 
 bool PaletteEntriesModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::EditRole || !index.isValid() || !_rename) return false;
+    if (role != Qt::EditRole || !index.isValid()) return false;
     const QString name = value.toString();
     if (name == data(index, Qt::EditRole).toString()) return false;
-    _rename(placeOfRow(index.row()), name);
+    emit nameEntered(placeOfRow(index.row()), name);
     return true;
 }
 

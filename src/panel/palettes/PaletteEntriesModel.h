@@ -5,7 +5,6 @@
 #include <QAbstractListModel>
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 namespace vantorel {
@@ -13,15 +12,13 @@ namespace vantorel {
 /// The entries of a list for a view, or those of them that a filter lets through. Rows count what
 /// is shown, places count the entries of the list.
 class PaletteEntriesModel final : public QAbstractListModel {
-public:
-    /// A new name that the user has typed for the entry at a place.
-    using Rename = std::function<void(std::size_t place, const QString& name)>;
+    Q_OBJECT
 
+public:
     explicit PaletteEntriesModel(QObject* parent) : QAbstractListModel(parent) {}
 
     enum Role { colorRole = Qt::UserRole, hexRole };
 
-    void setRename(Rename rename) { _rename = std::move(rename); }
     void setEntries(const PaletteEntries& entries);
     /// Shows only entries with the text in their name, in any letter case, or with a hex code that
     /// begins with it. Empty shows all.
@@ -44,6 +41,11 @@ public:
     [[nodiscard]] QStringList mimeTypes() const override;
     [[nodiscard]] Qt::DropActions supportedDragActions() const override;
 
+signals:
+    /// The user has entered another name for the entry at a place. The entry keeps its own until
+    /// it is set.
+    void nameEntered(std::size_t place, const QString& name);
+
 private:
     [[nodiscard]] std::vector<std::size_t> shownPlaces(const PaletteEntries& entries) const;
 
@@ -51,7 +53,6 @@ private:
     QString _filter;
     /// Ascending.
     std::vector<std::size_t> _places;
-    Rename _rename;
 };
 
 }  // namespace vantorel

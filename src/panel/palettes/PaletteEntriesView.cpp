@@ -2,7 +2,6 @@
 
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
-#include "panel/widgets/ColorClipboard.h"
 
 #include <QApplication>
 #include <QDragMoveEvent>
@@ -93,7 +92,7 @@ public:
         auto* field = new QLineEdit(parent);
         field->setObjectName(QStringLiteral("paletteEntryName"));
         field->setMaxLength(longestTypedName);
-        field->setAccessibleName(QCoreApplication::translate("PaletteEntriesView", "Colour name"));
+        field->setAccessibleName(PaletteEntriesView::tr("Colour name"));
         return field;
     }
 
@@ -132,11 +131,11 @@ private:
 
 }  // namespace
 
-PaletteEntriesView::PaletteEntriesView(PaletteEntriesModel& model, Reactions reactions,
-                                       QWidget* parent)
-    : QListView(parent), _model(model), _reactions(std::move(reactions))
+PaletteEntriesView::PaletteEntriesView(QWidget* parent)
+    : QListView(parent), _model(*new PaletteEntriesModel(this)), _note(new QLabel(viewport()))
 {
-    setModel(&model);
+    setObjectName(QStringLiteral("paletteEntries"));
+    setModel(&_model);
     setItemDelegate(new EntryDelegate(this));
     setUniformItemSizes(true);
     setSelectionMode(ExtendedSelection);
@@ -150,6 +149,32 @@ PaletteEntriesView::PaletteEntriesView(PaletteEntriesModel& model, Reactions rea
     setDropIndicatorShown(false);
     setFont(fontOfSize(12));
     setAccessibleName(tr("Colours of the list"));
+
+    _note->setObjectName(QStringLiteral("paletteEmptyNote"));
+    _note->setFont(fontOfSize(11));
+    _note->setTextFormat(Qt::PlainText);
+    _note->setWordWrap(true);
+    _note->setAlignment(Qt::AlignCenter);
+    _note->setForegroundRole(QPalette::PlaceholderText);
+    _note->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PaletteEntriesView::setNote(const QString& note)
+{
+    _note->setText(note);
+    _note->setVisible(!note.isEmpty());
+    placeNote();
+}
+
+void PaletteEntriesView::placeNote()
+{
+    _note->setGeometry(viewport()->rect().adjusted(scaled(8), 0, -scaled(8), 0));
+}
+
+void PaletteEntriesView::resizeEvent(QResizeEvent* event)
+{
+    QListView::resizeEvent(event);
+    placeNote();
 }
 
 std::vector<std::size_t> PaletteEntriesView::selectedPlaces() const
@@ -221,7 +246,7 @@ void PaletteEntriesView::mouseReleaseEvent(QMouseEvent* event)
     QListView::mouseReleaseEvent(event);
     const bool isClick = isPlain && released.isValid() && _pressed == released && !wasDragged;
     _pressed = QModelIndex();
-    if (isClick) _reactions.choose(_model.placeOfRow(released.row()));
+    if (isClick) emit colorChosen(_model.placeOfRow(released.row()));
 }
 
 void PaletteEntriesView::keyPressEvent(QKeyEvent* event)
@@ -230,7 +255,7 @@ void PaletteEntriesView::keyPressEvent(QKeyEvent* event)
                        event->key() == Qt::Key_Space;
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (takes && isPlain && currentIndex().isValid() && state() != EditingState) {
-        _reactions.choose(currentPlace());
+        emit colorChosen(currentPlace());
         return;
     }
     QListView::keyPressEvent(event);
@@ -304,9 +329,11 @@ void PaletteEntriesView::dropEvent(QDropEvent* event)
     event->setDropAction(Qt::CopyAction);
     if (event->source() == this) {
         event->accept();
-        _reactions.moveSelected(before);
+        emit selectionMoved(before);
     } else {
-        event->setAccepted(_reactions.drop(*event->mimeData(), before));
+        const ColorOffer offer = colorFromMimeData(*event->mimeData());
+        event->setAccepted(offer.color.has_value());
+        emit colorDropped(offer, before);
     }
 }
 

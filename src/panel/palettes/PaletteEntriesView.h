@@ -1,11 +1,10 @@
 #pragma once
 
 #include "panel/palettes/PaletteEntriesModel.h"
+#include "panel/widgets/ColorClipboard.h"
 
-#include <QCoreApplication>
+#include <QLabel>
 #include <QListView>
-
-#include <functional>
 
 namespace vantorel {
 
@@ -13,20 +12,14 @@ namespace vantorel {
 /// Return takes a colour, a double click or F2 renames it, a drag moves it in the list or carries
 /// it away. Only what is seen is painted, so a list may be as long as it likes.
 class PaletteEntriesView final : public QListView {
-    Q_DECLARE_TR_FUNCTIONS(PaletteEntriesView)
+    Q_OBJECT
 
 public:
-    struct Reactions {
-        /// Takes the colour at a place.
-        std::function<void(std::size_t place)> choose;
-        /// Moves the selected entries before a place.
-        std::function<void(std::size_t before)> moveSelected;
-        /// Something else is dropped before a place; gives whether it is of use.
-        std::function<bool(const QMimeData& data, std::size_t before)> drop;
-    };
+    explicit PaletteEntriesView(QWidget* parent);
 
-    /// `model` must outlive the view.
-    PaletteEntriesView(PaletteEntriesModel& model, Reactions reactions, QWidget* parent);
+    [[nodiscard]] PaletteEntriesModel& entriesModel() { return _model; }
+    /// Shows a text where rows would be; an empty one takes it away.
+    void setNote(const QString& note);
 
     /// Ascending.
     [[nodiscard]] std::vector<std::size_t> selectedPlaces() const;
@@ -37,6 +30,14 @@ public:
     /// Lets the user type a name for the entry at a place.
     void renameAt(std::size_t place);
 
+signals:
+    /// The user takes the colour at a place.
+    void colorChosen(std::size_t place);
+    /// The user drags the selected entries before a place.
+    void selectionMoved(std::size_t before);
+    /// Something else is dropped before a place. `offer` may hold no colour, but a remark then.
+    void colorDropped(const vantorel::ColorOffer& offer, std::size_t before);
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -46,6 +47,7 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void takeDrag(QDragMoveEvent& event);
@@ -53,9 +55,10 @@ private:
     [[nodiscard]] int dropRowAt(QPoint point) const;
     [[nodiscard]] std::size_t placeBeforeRow(int row) const;
     void setDropRow(int row);
+    void placeNote();
 
     PaletteEntriesModel& _model;
-    Reactions _reactions;
+    QLabel* _note;
     QPersistentModelIndex _pressed;
     /// Where a line shows what a drop would do; -1 for none.
     int _dropRow = -1;

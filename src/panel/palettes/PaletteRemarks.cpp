@@ -10,12 +10,15 @@
 namespace vantorel {
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PaletteRemarks", text);
-}
+/// The context of the texts: lupdate finds none for those of a free function.
+class PaletteRemarks {
+    Q_DECLARE_TR_FUNCTIONS(PaletteRemarks)
 
-QString textOfKind(EditRemark kind)
+public:
+    [[nodiscard]] static QString textOf(EditRemark kind);
+};
+
+QString PaletteRemarks::textOf(EditRemark kind)
 {
     switch (kind) {
         case EditRemark::notSaved:
@@ -65,7 +68,7 @@ QString textOfRemarks(const EditOutcome& outcome, const QString& folder)
         if (shown.size() > longestShownName) {
             shown = shown.left(longestShownName) + QStringLiteral("\u2026");
         }
-        const QString text = textOfKind(kind);
+        const QString text = PaletteRemarks::textOf(kind);
         // In one go: a name may hold a "%2" itself.
         texts.append(text.contains(QLatin1String("%2")) ? text.arg(shown, folder)
                                                         : text.arg(shown));

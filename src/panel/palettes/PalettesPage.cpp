@@ -38,7 +38,8 @@ QSize PalettesPage::minimumSize() const
 void PalettesPage::show(HostView& holder)
 {
     if (!_widget) {
-        _widget = new PalettesWidget(_files, _store, [this](const HostColor& chosen) {
+        _widget = new PalettesWidget(_files, _store);
+        connect(_widget, &PalettesWidget::colorChosen, this, [this](const HostColor& chosen) {
             // The entries of a list have no opacity, so the panel's stays.
             emit colorChosen(chosen.colorWithAlphaComponent(_color.alphaComponent()));
         });
@@ -67,6 +68,11 @@ void PalettesPage::setColor(const HostColor& color)
 {
     _color = color;
     if (_widget) _widget->setColor(color);
+}
+
+void PalettesPage::finishEditing()
+{
+    if (_widget) _widget->finishEditing();
 }
 
 }  // namespace vantorel

@@ -25,6 +25,7 @@ public:
     void hide() override;
     void resize(HostSize size) override;
     void setColor(const HostColor& color) override;
+    void finishEditing() override;
 
 private:
     HostFiles& _files;

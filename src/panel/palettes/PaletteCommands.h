@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QObject>
+
+#include <map>
+
+namespace vantorel {
+
+/// The commands for colour lists and their colours: an action for each, with its keys, and the
+/// menus that offer them.
+class PaletteCommands final : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Command {
+        newList,
+        renameList,
+        copyList,
+        removeList,
+        importFiles,
+        saveCopy,
+        addColor,
+        renameColor,
+        recolor,
+        moveUp,
+        moveDown,
+        removeColors,
+        find,
+        undo,
+        redo,
+    };
+    /// What there is to work on.
+    struct Situation {
+        bool hasList = false;
+        bool ownsList = false;
+        bool hasSelection = false;
+        bool canUndo = false;
+        bool canRedo = false;
+    };
+
+    /// `page` owns the commands and their menus.
+    explicit PaletteCommands(QWidget& page);
+
+    [[nodiscard]] QAction* action(Command command) const { return _offers.at(command).action; }
+    /// All commands.
+    [[nodiscard]] QMenu* menu() const { return _menu; }
+    /// The commands for colours.
+    [[nodiscard]] QMenu* colorMenu() const { return _colorMenu; }
+
+    /// Enables what makes sense.
+    void enableFor(const Situation& situation);
+    /// Names the panel's colour, a hex code, in the tool tips.
+    void setPanelColor(const QString& hexCode);
+    /// The action for a key; null if the key is not of the page, or if a text field has its own
+    /// use for it.
+    [[nodiscard]] QAction* actionFor(const QKeyEvent& event, bool inField) const;
+
+private:
+    /// What a command needs to make sense.
+    enum class Needs { nothing, list, ownList, selection, undo, redo };
+    struct Offer {
+        QAction* action;
+        Needs needs;
+    };
+
+    QAction* add(QMenu* menu, Command command, const QString& text, const QKeySequence& key,
+                 Needs needs);
+
+    QMenu* _menu;
+    QMenu* _colorMenu;
+    std::map<Command, Offer> _offers;
+};
+
+}  // namespace vantorel

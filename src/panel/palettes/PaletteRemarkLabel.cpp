@@ -1,0 +1,56 @@
+#include "panel/palettes/PaletteRemarkLabel.h"
+
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
+
+#include <QAccessible>
+
+#include <chrono>
+
+namespace vantorel {
+namespace {
+
+constexpr std::chrono::milliseconds newsTime{12000};
+
+QColor mixed(const QColor& ground, const QColor& color, double share)
+{
+    const auto channel = [share](int from, int to) { return qRound(from + (to - from) * share); };
+    return {channel(ground.red(), color.red()), channel(ground.green(), color.green()),
+            channel(ground.blue(), color.blue())};
+}
+
+}  // namespace
+
+PaletteRemarkLabel::PaletteRemarkLabel(QWidget* parent) : QLabel(parent)
+{
+    setFont(fontOfSize(10));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setMargin(scaled(4));
+    setAutoFillBackground(true);
+    hide();
+    _timer.setSingleShot(true);
+    _timer.setInterval(newsTime);
+    connect(&_timer, &QTimer::timeout, this, [this] { showRemark({}, Kind::news); });
+}
+
+void PaletteRemarkLabel::showRemark(const QString& text, Kind kind)
+{
+    setText(text);
+    setAccessibleName(text);
+    setVisible(!text.isEmpty());
+    _timer.stop();
+    if (text.isEmpty()) return;
+    QPalette colors = parentWidget()->palette();
+    const QColor ground = colors.color(QPalette::Window);
+    colors.setColor(QPalette::Window, kind == Kind::failure
+                                          ? mixed(ground, QColor(220, 50, 30), 0.25)
+                                          : mixed(ground, colors.color(QPalette::Highlight), 0.15));
+    setPalette(colors);
+    if (kind == Kind::news) _timer.start();
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace vantorel
