@@ -251,7 +251,7 @@ int main(int argc, char** argv)
     if (choice) return letUserChoose(window, *choice, recalled);
 
     PanelRequests requests(window);
-    PanelService service(window, requests, QDBusConnection::sessionBus());
+    PanelService service(requests, QDBusConnection::sessionBus());
     const auto tell = [&window](const QString& sentence) {
         complain(sentence);
         window.showRemark(sentence);

@@ -9,14 +9,20 @@ namespace {
 
 class ChangeAnnouncerTest : public testing::Test {
 protected:
+    ChangeAnnouncerTest()
+    {
+        QObject::connect(&_announcer, &ChangeAnnouncer::due,
+                         [this] { _announced.push_back(_value); });
+    }
+
     [[nodiscard]] bool comesToRest()
     {
         return QTest::qWaitFor([this] { return _announcer.isAtRest(); });
     }
 
     int _value = 0;
-    std::vector<int> _told;
-    ChangeAnnouncer _announcer{[this] { _told.push_back(_value); }};
+    std::vector<int> _announced;
+    ChangeAnnouncer _announcer;
 };
 
 TEST_F(ChangeAnnouncerTest, IsAtRestBeforeTheFirstChange)
@@ -24,38 +30,37 @@ TEST_F(ChangeAnnouncerTest, IsAtRestBeforeTheFirstChange)
     EXPECT_TRUE(_announcer.isAtRest());
 }
 
-TEST_F(ChangeAnnouncerTest, TellsOfAChangeAtOnceAndOnce)
+TEST_F(ChangeAnnouncerTest, AnnouncesAChangeAtOnceAndOnce)
 {
     _value = 1;
-    _announcer.changed();
-    EXPECT_EQ(_told, std::vector{1});
+    _announcer.noteChange();
+    EXPECT_EQ(_announced, std::vector{1});
     ASSERT_TRUE(comesToRest());
-    EXPECT_EQ(_told, std::vector{1});
+    EXPECT_EQ(_announced, std::vector{1});
 }
 
-TEST_F(ChangeAnnouncerTest, TellsOfTheFirstAndTheLastOfManyChanges)
+TEST_F(ChangeAnnouncerTest, AnnouncesTheFirstAndTheLastOfManyChanges)
 {
     for (_value = 1; _value < 1000; ++_value)
-        _announcer.changed();
-    EXPECT_EQ(_told, std::vector{1});
+        _announcer.noteChange();
+    EXPECT_EQ(_announced, std::vector{1});
     ASSERT_TRUE(comesToRest());
-    EXPECT_EQ(_told, (std::vector{1, 1000}));
+    EXPECT_EQ(_announced, (std::vector{1, 1000}));
 }
 
-TEST_F(ChangeAnnouncerTest, TakesAChangeThatIsMadeWhileItTells)
+TEST_F(ChangeAnnouncerTest, TakesAChangeThatIsMadeWhileItAnnounces)
 {
-    std::vector<int> told;
+    std::vector<int> announced;
     int value = 1;
-    ChangeAnnouncer* self = nullptr;
-    ChangeAnnouncer announcer([&] {
-        told.push_back(value);
-        if (value++ < 3) self->changed();
+    ChangeAnnouncer announcer;
+    QObject::connect(&announcer, &ChangeAnnouncer::due, [&] {
+        announced.push_back(value);
+        if (value++ < 3) announcer.noteChange();
     });
-    self = &announcer;
-    announcer.changed();
-    EXPECT_EQ(told, std::vector{1});
+    announcer.noteChange();
+    EXPECT_EQ(announced, std::vector{1});
     ASSERT_TRUE(QTest::qWaitFor([&] { return announcer.isAtRest(); }));
-    EXPECT_EQ(told, (std::vector{1, 2, 3}));
+    EXPECT_EQ(announced, (std::vector{1, 2, 3}));
 }
 
 }  // namespace

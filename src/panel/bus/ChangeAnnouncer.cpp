@@ -1,21 +1,19 @@
 #include "panel/bus/ChangeAnnouncer.h"
 
-#include <utility>
-
 namespace vantorel {
 
-ChangeAnnouncer::ChangeAnnouncer(std::function<void()> tell) : _tell(std::move(tell))
+ChangeAnnouncer::ChangeAnnouncer()
 {
     _timer.setSingleShot(true);
     _timer.setInterval(leastInterval);
     // Else Qt may move it by a millisecond to suit other timers.
     _timer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&_timer, &QTimer::timeout, &_timer, [this] {
+    connect(&_timer, &QTimer::timeout, this, [this] {
         if (_isWaiting) announce();
     });
 }
 
-void ChangeAnnouncer::changed()
+void ChangeAnnouncer::noteChange()
 {
     if (_timer.isActive()) {
         _isWaiting = true;
@@ -28,7 +26,7 @@ void ChangeAnnouncer::announce()
 {
     _isWaiting = false;
     _timer.start();
-    _tell();
+    emit due();
 }
 
 }  // namespace vantorel

@@ -1,29 +1,35 @@
 #pragma once
 
+#include <QObject>
 #include <QTimer>
-
-#include <functional>
 
 namespace vantorel {
 
-/// Tells of changes at a bearable rate: of the first in a row at once, of those that come within
+/// Announces changes at a bearable rate: the first in a row at once, those that come within
 /// `leastInterval` of the last announcement together, after it. So the last change of all is always
-/// told of, and no timer runs while nothing changes.
-class ChangeAnnouncer {
+/// announced, and no timer runs while nothing changes.
+class ChangeAnnouncer final : public QObject {
+    Q_OBJECT
+
 public:
     /// In milliseconds; about 60 a second.
     static constexpr int leastInterval = 16;
 
-    explicit ChangeAnnouncer(std::function<void()> tell);
+    ChangeAnnouncer();
 
-    void changed();
-    /// Whether nothing waits to be told and no timer runs.
+    /// Whether no change waits to be announced and no timer runs.
     [[nodiscard]] bool isAtRest() const { return !_timer.isActive(); }
+
+public slots:
+    void noteChange();
+
+signals:
+    /// It is time to announce what has changed.
+    void due();
 
 private:
     void announce();
 
-    std::function<void()> _tell;
     bool _isWaiting = false;
     QTimer _timer;
 };

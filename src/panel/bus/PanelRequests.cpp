@@ -4,6 +4,7 @@
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/bus/ClipboardTurn.h"
+#include "panel/window/PanelWindow.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -29,6 +30,7 @@ PanelRequests::PanelRequests(PanelWindow& window) : _window(window)
 {
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             &PanelRequests::lookWhetherNothingIsLeft);
+    connect(&window.colors(), &PanelColors::colorChanged, this, &PanelRequests::colorChanged);
 }
 
 void PanelRequests::show(const ActivationToken& token)
@@ -53,7 +55,12 @@ PanelAnswer PanelRequests::setColor(const QString& text)
 
 QString PanelRequests::color() const
 {
-    return hexCode(_window.colors().color());
+    return hexCode(hostColor());
+}
+
+HostColor PanelRequests::hostColor() const
+{
+    return _window.colors().color();
 }
 
 void PanelRequests::pick(bool copies, Done done)
@@ -107,7 +114,8 @@ void PanelRequests::putOnClipboard(const QString& form, const Done& done)
         return;
     }
     const QString text = form.isEmpty() ? QString() : qStringFrom(chosen->text);
-    whenClipboardIsOurTurn(_window, *this, [this, form, text, done](bool isOurTurn) {
+    auto* turn = new ClipboardTurn(_window, this);
+    connect(turn, &ClipboardTurn::over, this, [this, form, text, done](bool isOurTurn) {
         if (!isOurTurn) {
             done(PanelRefusal{PanelRefusal::Kind::notPossible,
                               tr("The desktop lets only the window in front copy, and has not "
@@ -121,6 +129,7 @@ void PanelRequests::putOnClipboard(const QString& form, const Done& done)
         }
         done(QApplication::clipboard()->text());
     });
+    turn->wait();
 }
 
 void PanelRequests::carryOut(const PanelOrder& order, Done done)

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "host/HostColor.h"
 #include "panel/bus/PanelOrder.h"
-#include "panel/window/PanelWindow.h"
 
-#include <QCoreApplication>
 #include <QObject>
 
 #include <functional>
 
 namespace vantorel {
+
+class PanelWindow;
 
 /// What programs outside ask of the panel, whichever way they reach it.
 ///
@@ -29,6 +30,8 @@ public:
     [[nodiscard]] PanelAnswer setColor(const QString& text);
     /// Hex code, with the alpha where it is not opaque; empty for a pattern.
     [[nodiscard]] QString color() const;
+    /// The colour itself.
+    [[nodiscard]] HostColor hostColor() const;
     /// Answers with the hex code of the colour picked. A pick that is under way is cancelled.
     /// `done` is called once, unless the requests end before.
     void pick(bool copies, Done done);
@@ -42,6 +45,7 @@ public:
     void carryOut(const PanelOrder& order, Done done);
 
 signals:
+    void colorChanged();
     /// `isNothingLeft` has become true, or is so still.
     void nothingLeft();
 

@@ -47,12 +47,8 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, ColorChannels& ch
     return argument;
 }
 
-PanelService::PanelService(PanelWindow& window, PanelRequests& requests, const QDBusConnection& bus)
-    : _window(window),
-      _requests(requests),
-      _bus(bus),
-      _announcer([this] { announceColor(); }),
-      _announcedColor(window.colors().color())
+PanelService::PanelService(PanelRequests& requests, const QDBusConnection& bus)
+    : _requests(requests), _bus(bus), _announcedColor(requests.hostColor())
 {
     qDBusRegisterMetaType<ColorChannels>();
     new ColorPanelAdaptor(this);
@@ -71,7 +67,8 @@ PanelService::PanelService(PanelWindow& window, PanelRequests& requests, const Q
     _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
                  QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                  SLOT(busHasGone()));
-    connect(&_window.colors(), &PanelColors::colorChanged, this, [this] { _announcer.changed(); });
+    connect(&_requests, &PanelRequests::colorChanged, &_announcer, &ChangeAnnouncer::noteChange);
+    connect(&_announcer, &ChangeAnnouncer::due, this, &PanelService::announceColor);
     _bus.registerObject(panelObjectPath, this, QDBusConnection::ExportAdaptors);
 }
 
@@ -109,7 +106,7 @@ void PanelService::releaseName()
 
 ColorChannels PanelService::channels() const
 {
-    const auto color = _window.colors().color().calibratedRGB().value_or(HostColor::Components{});
+    const auto color = _requests.hostColor().calibratedRGB().value_or(HostColor::Components{});
     return {fraction(color.red), fraction(color.green), fraction(color.blue),
             fraction(color.alpha)};
 }
@@ -193,7 +190,7 @@ void PanelService::callerHasGone(const QString& caller)
 
 void PanelService::announceColor()
 {
-    const HostColor color = _window.colors().color();
+    const HostColor color = _requests.hostColor();
     if (color == _announcedColor) return;
     _announcedColor = color;
     emit ColorChanged(_requests.color());

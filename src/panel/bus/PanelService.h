@@ -33,8 +33,8 @@ class PanelService final : public QObject, protected QDBusContext {
 public:
     enum class Claim { claimed, taken, noBus };
 
-    /// The window and the requests must outlive the service.
-    PanelService(PanelWindow& window, PanelRequests& requests, const QDBusConnection& bus);
+    /// `requests` must outlive the service.
+    PanelService(PanelRequests& requests, const QDBusConnection& bus);
     /// Answers the picks that are under way as cancelled.
     ~PanelService() override;
 
@@ -74,7 +74,6 @@ private:
     void callerHasGone(const QString& caller);
     void announceColor();
 
-    PanelWindow& _window;
     PanelRequests& _requests;
     QDBusConnection _bus;
     QDBusServiceWatcher _callers;
