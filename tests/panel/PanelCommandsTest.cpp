@@ -292,6 +292,33 @@ TEST_F(PanelCommandsTest, WhatIsKeptComesBack)
     EXPECT_TRUE(next.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
+TEST_F(PanelCommandsTest, ThePageIsRememberedByItsIdentifierAndByTheNameThatOlderPanelsWrote)
+{
+    struct Row {
+        const char* key;
+        const char* remembered;
+        const char* name;
+    };
+    for (const auto& [key, remembered, name] :
+         {Row{"palettes", "palettes", "Palettes"}, Row{"hex", "org.vantorel.hex", "Hex"},
+          Row{"dialog", "dialog", "Colour dialog"}}) {
+        SCOPED_TRACE(key);
+        ASSERT_TRUE(_window->pages().showPageWithKey(key));
+        const int index = _window->pages().currentIndex();
+        PanelMemory memory = _window->memory();
+        EXPECT_EQ(memory.page, remembered);
+        for (const char* page : {remembered, name}) {
+            _window->pages().showNextPage();
+            memory.page = page;
+            _window->recall(memory);
+            EXPECT_EQ(_window->pages().currentIndex(), index) << page;
+        }
+        memory.page = QStringLiteral("a page that is gone");
+        _window->recall(memory);
+        EXPECT_EQ(_window->pages().currentIndex(), index) << "no page for another";
+    }
+}
+
 TEST_F(PanelCommandsTest, TabGoesFromTheBarThroughThePageToTheTools)
 {
     QWidget* first = child<QLineEdit>("_fullHexText");

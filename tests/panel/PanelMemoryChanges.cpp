@@ -1,9 +1,8 @@
 // Writes the panel's memory, for tests that make that fail, or do it several times at once.
 //
 //     panel-memory-changes SHADE [keep-on]
-//     panel-memory-changes              (writes the memory anew as it has been read, and ends with
-//     1
-//                                        where that is not whole)
+//     panel-memory-changes                    writes what it has read; exit status 1 if that is not
+//                                             whole
 
 #include "panel/window/PanelMemory.h"
 

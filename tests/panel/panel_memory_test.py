@@ -14,9 +14,20 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../
 from failing_calls import FailingCallsTest  # noqa: E402
 
 LIBRARY, CHANGES = sys.argv[1:3]
-MEMORY = ".config/Vantorel/panel.ini"
+MEMORY = ".config/Vantorel/Panel.plist"
+OLDER_MEMORY = ".config/Vantorel/panel.ini"
+DAMAGES = 15
 KILLS = 40
 ROUNDS = 15
+
+
+def older_memory(shade):
+    """The file of an older panel, with what `CHANGES shade` writes."""
+    color = f"#ff{shade:02x}{shade:02x}{shade:02x}"
+    geometry = f"\\x{shade:x}" * 66
+    page = "".join(f"\\x{ord(c):x}" for c in f'page, "{shade}" é')
+    return (f"[General]\nbackground={color}\ncolor={color}\ngeometry=@ByteArray({geometry})\n"
+            f"onTop={'true' if shade % 2 else 'false'}\npage={page}\nrecent={', '.join([color] * 500)}\n")
 
 
 class PanelMemory(FailingCallsTest):
@@ -32,6 +43,33 @@ class PanelMemory(FailingCallsTest):
                 written = home.read(MEMORY)
                 run = home.run([CHANGES])
                 self.assertEqual((run.status, home.read(MEMORY)), (0, written), run.complaint)
+
+    def test_what_older_panels_wrote_is_read_until_there_is_newer(self):
+        with self.home as home:
+            home.run([CHANGES, "7"])
+            expected = home.read(MEMORY)
+        with self.home as home:
+            home.write(OLDER_MEMORY, older_memory(7))
+            run = home.run([CHANGES])
+            self.assertEqual((run.status, home.read(MEMORY)), (0, expected), run.complaint)
+            home.write(OLDER_MEMORY, older_memory(9))
+            home.run([CHANGES])
+            self.assertEqual(home.read(MEMORY), expected)
+
+    def test_a_damaged_file_does_no_harm(self):
+        rand = random.Random(5)
+        with self.home as home:
+            home.run([CHANGES, "1"])
+            whole = home.read(MEMORY)
+            damaged = [whole[:rand.randrange(len(whole))] for _ in range(DAMAGES)]
+            for _ in range(DAMAGES):
+                place = rand.randrange(len(whole))
+                damaged.append(whole[:place] + rand.randbytes(rand.randrange(1, 9)) + whole[place + 1:])
+            for content in damaged + [b"", b"{", b"(a)", b"\xff\xfe", b"(" * 100_000, b" " * 2_000_000]:
+                home.write(MEMORY, content)
+                run = home.run([CHANGES])
+                self.assertIn(run.status, (0, 1), content[-40:])
+                self.assertEqual(home.run([CHANGES, "2"]).status, 0)
 
     def test_a_killed_panel_leaves_it_whole(self):
         rand = random.Random(3)

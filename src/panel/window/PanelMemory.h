@@ -13,6 +13,7 @@ namespace vantorel {
 struct PanelMemory {
     /// As QWidget::saveGeometry writes it; empty for the place that the desktop chooses.
     QByteArray geometry;
+    /// The identifier of a page. From an older panel it is the page's name in the language of then.
     QString page;
     bool onTop = false;
     HostColor color = HostColor::whiteColor();
@@ -20,11 +21,12 @@ struct PanelMemory {
     std::vector<HostColor> recent;
 };
 
-/// From `Vantorel/panel.ini` in the folder of the user's configuration; what is missing or damaged
-/// there has the values above.
+/// Reads `Vantorel/Panel.plist` in the folder of the user's configuration, or `Vantorel/panel.ini`,
+/// in which older panels kept the same, if there is no such file. What is missing or damaged there
+/// has the values above.
 [[nodiscard]] PanelMemory readPanelMemory();
-/// The whole file at once. False where it could not be written, of which a line has been written to
-/// standard error; what was kept before is still there.
+/// Replaces the whole file at once. Returns false if it could not be written, after a line on
+/// standard error; the previous file is then still there.
 bool writePanelMemory(const PanelMemory& memory);
 
 }  // namespace vantorel
