@@ -4,6 +4,7 @@
 #include "commandline/ArgumentReader.h"
 #include "commandline/Programs.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/Output.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -13,8 +14,6 @@
 
 namespace vantorel {
 namespace {
-
-constexpr int usageError = 2;
 
 std::optional<QSize> sizeFromText(const QString& text)
 {

@@ -1,0 +1,134 @@
+#include "panel/OnePanel.h"
+
+#include "panel/Output.h"
+#include "panel/bus/ServiceLifetime.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace vantorel {
+namespace {
+
+/// Prints how an order has ended, and returns the exit status.
+int report(const PanelOrder& order, const PanelAnswer& answer)
+{
+    using Kind = PanelRefusal::Kind;
+    if (const auto* refusal = std::get_if<PanelRefusal>(&answer)) {
+        printProblem(refusal->sentence);
+        if (refusal->kind == Kind::cancelled) return cancelled;
+        return refusal->kind == Kind::notPossible ? notPossible : usageError;
+    }
+    if (order.step != PanelOrder::Step::show) print(stdout, std::get<QString>(answer) + u'\n');
+    return succeeded;
+}
+
+}  // namespace
+
+PanelOrder orderFrom(const PanelOptions& options, const ActivationToken& token)
+{
+    PanelOrder order{options.step, {}, options.copyForm, token};
+    if (options.color) order.color = cssNameOf(*options.color);
+    return order;
+}
+
+OnePanel::OnePanel(const PanelOptions& options, const PanelEnvironment& environment,
+                   const PanelOrder& order, CallersProcess* caller)
+    : _options(options),
+      _environment(environment),
+      _order(order),
+      _caller(caller),
+      _running(QDBusConnection::sessionBus())
+{
+}
+
+std::optional<int> OnePanel::handOver()
+{
+    const auto [contact, answer] = _running.handOver(_order);
+    _contact = contact;
+    if (contact != RunningPanel::Contact::made) return std::nullopt;
+    if (!_options.forStartsOnly.isEmpty()) {
+        printProblem(QCoreApplication::translate("main",
+                                                 "A panel runs already, which does not follow "
+                                                 "%1; --new starts another.")
+                         .arg(_options.forStartsOnly.join(QStringLiteral(", "))));
+    }
+    return report(_order, answer);
+}
+
+std::optional<int> OnePanel::takeName(PanelService& service)
+{
+    // A panel that was quicker may just have ended.
+    constexpr int mostAttempts = 3;
+    for (int i = 0; i < mostAttempts; ++i) {
+        if (service.claimName() != PanelService::Claim::taken) return std::nullopt;
+        // Who called gets the answer of the other.
+        if (_options.service) return succeeded;
+        if (_options.another || _contact != RunningPanel::Contact::none) break;
+        if (const auto status = handOver()) return status;
+    }
+    service.waitForName();
+    return std::nullopt;
+}
+
+int OnePanel::run()
+{
+    if (!_options.another && !_options.service) {
+        if (const auto status = handOver()) return *status;
+    }
+    Panel panel(_options, _environment.userData());
+    PanelWindow& window = panel.window();
+    const PanelMemory recalled = readPanelMemory();
+    window.recall(recalled);
+    panel.apply(_options);
+
+    PanelRequests requests(window);
+    PanelService service(requests, QDBusConnection::sessionBus());
+    const auto warn = [&window](const QString& sentence) {
+        printProblem(sentence);
+        window.showRemark(sentence);
+    };
+    QObject::connect(&service, &PanelService::unreachable, &window, warn);
+    if (const auto status = takeName(service)) return *status;
+    if (const QString remark = RunningPanel::remarkOn(_contact); !remark.isEmpty()) warn(remark);
+
+    const int status = _order.step != PanelOrder::Step::show ? runForOrder(requests)
+                       : _options.service                    ? runForCalls(service, requests)
+                                                             : runForUser(window);
+    PanelMemory memory = window.memory();
+    // A window that was never seen has no place of its own.
+    if (!window.testAttribute(Qt::WA_WState_Created)) memory.geometry = recalled.geometry;
+    writePanelMemory(memory);
+    return status;
+}
+
+int OnePanel::runForOrder(PanelRequests& requests)
+{
+    int status = succeeded;
+    QTimer::singleShot(0, &requests, [&] {
+        // Not sooner: while the order waits there is nothing under way.
+        QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
+        requests.carryOut(_order, [&](const PanelAnswer& answer) {
+            status = report(_order, answer);
+            _caller->release(status);
+        });
+    });
+    QApplication::exec();
+    return status;
+}
+
+int OnePanel::runForCalls(PanelService& service, const PanelRequests& requests)
+{
+    const ServiceLifetime lifetime(service, requests);
+    QObject::connect(&lifetime, &ServiceLifetime::ended, &QApplication::quit);
+    QApplication::exec();
+    return succeeded;
+}
+
+int OnePanel::runForUser(PanelWindow& window)
+{
+    window.show();
+    QApplication::exec();
+    return succeeded;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdio>
+
+namespace vantorel {
+
+/// What the program returns to its caller.
+enum ExitStatus : int {
+    succeeded = 0,
+    failed = 1,
+    /// The user has cancelled a pick or a choice.
+    cancelled = 1,
+    usageError = 2,
+    /// The desktop does not let the panel do what was asked.
+    notPossible = 3,
+};
+
+/// Writes a text to a standard stream at once. If the stream is closed there is no way to report
+/// it.
+void print(std::FILE* stream, const QString& text);
+
+/// Writes a sentence to standard error, after the program's name.
+void printProblem(const QString& sentence);
+
+}  // namespace vantorel

@@ -1,0 +1,41 @@
+#include "panel/PanelRuns.h"
+
+#include "panel/Output.h"
+#include "panel/window/ColorChoice.h"
+
+#include <QApplication>
+
+namespace vantorel {
+
+int takePicture(Panel& panel, const PanelOptions& options)
+{
+    if (!panel.apply(options)) return usageError;
+    PanelWindow& window = panel.window();
+    window.show();
+    QApplication::processEvents();
+    // Painting places some controls, so what counts is the second look.
+    window.grab();
+    QApplication::processEvents();
+    if (window.grab().save(*options.screenshot, "PNG")) return succeeded;
+    printProblem(QStringLiteral("--screenshot: \"%1\" cannot be written").arg(*options.screenshot));
+    return failed;
+}
+
+int letUserChoose(Panel& panel, const PanelOptions& options)
+{
+    PanelWindow& window = panel.window();
+    PanelMemory memory = readPanelMemory();
+    window.recall(memory);
+    const ColorChoice choice(window);
+    panel.apply(options);
+    window.show();
+    QApplication::exec();
+    if (!choice.text()) return cancelled;
+    // It was shown for one colour: beside that colour nothing of the user's own panel changes.
+    memory.recent = window.colors().recent();
+    writePanelMemory(memory);
+    print(stdout, *choice.text() + u'\n');
+    return succeeded;
+}
+
+}  // namespace vantorel
