@@ -12,7 +12,7 @@
 namespace vantorel {
 namespace {
 
-constexpr std::chrono::seconds patience{2};
+constexpr std::chrono::seconds longestWait{2};
 
 }  // namespace
 
@@ -24,7 +24,7 @@ void ClipboardTurn::wait()
         return;
     }
     _window.installEventFilter(this);
-    QTimer::singleShot(patience, this, [this] { finish(false); });
+    QTimer::singleShot(longestWait, this, [this] { finish(false); });
     bringToFront(_window, {});
 }
 
