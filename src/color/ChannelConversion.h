@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <limits>
 
-/// From real numbers to whole ones, without undefined behaviour for any input.
+/// Conversions from real numbers to integers, defined for every input.
 namespace vantorel {
 
-/// What a channel (0..1) may lie above a step of the 8-bit grid and still be exactly that step.
+/// How far a channel (0..1) may lie above a step of the 8-bit grid and still count as exact.
 inline constexpr double exactnessLimit = 0.00002;
 
-/// Truncation towards zero; a negative value or NaN gives 0, one beyond the integers the largest.
+/// Truncates towards zero. Negative values and NaN return 0; values too large return the largest
+/// integer.
 [[nodiscard]] inline std::uint64_t truncatedUnsigned(double value)
 {
     constexpr double pastLargest = 18446744073709551616.0;  // 2^64
@@ -19,7 +20,7 @@ inline constexpr double exactnessLimit = 0.00002;
                                : std::numeric_limits<std::uint64_t>::max();
 }
 
-/// Truncation towards zero, saturating at both ends; NaN gives 0.
+/// Truncates towards zero, saturating at both ends of the range. NaN returns 0.
 [[nodiscard]] inline std::int64_t truncatedSigned(double value)
 {
     constexpr double pastLargest = 9223372036854775808.0;  // 2^63
@@ -28,14 +29,14 @@ inline constexpr double exactnessLimit = 0.00002;
     return value == value ? static_cast<std::int64_t>(value) : 0;
 }
 
-/// The step of the 8-bit grid next to a channel, which counts as 0 or 1 outside 0..1; NaN gives 0.
+/// Returns the nearest step of the 8-bit grid. Channels outside 0..1 are clamped; NaN returns 0.
 [[nodiscard]] inline std::uint8_t nearestByte(double channel)
 {
     if (!(channel > 0)) return 0;
     return channel < 1 ? static_cast<std::uint8_t>(std::lround(channel * 255)) : 255;
 }
 
-/// |a - b| of an unsigned and a signed number, saturating.
+/// Returns |a - b| for an unsigned and a signed number, saturating.
 [[nodiscard]] inline std::uint64_t distanceBetween(std::uint64_t a, std::int64_t b)
 {
     if (b >= 0) {

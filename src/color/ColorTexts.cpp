@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::uint64_t largestComponent = 255;
 
-/// Classifying by the low byte lets a unit such as U+0130 pass for the digit "0". Kept, because
-/// texts that were accepted once must go on being accepted.
+/// Comparing the low byte only means that a unit such as U+0130 passes for the digit "0". This is
+/// kept, because texts that have been accepted must remain valid.
 char lowByte(char16_t unit)
 {
     return static_cast<char>(unit & 0xFF);
@@ -92,7 +92,7 @@ std::uint64_t readComponent(std::u16string_view text, ComponentDisplay display)
 
 std::u16string hexCompStringHexColorSpec(std::uint64_t component, EntryForm entryForm)
 {
-    // A component beyond two digits has no hex digit at its high place, which writes as "0".
+    // The high digit of a component above 255 is out of range and is written as "0".
     const std::uint64_t high = std::min<std::uint64_t>(component >> 4, 16);
     return hexFromInt(static_cast<std::int64_t>(high), entryForm) +
            hexFromInt(static_cast<std::int64_t>(component & 15), entryForm);
@@ -106,7 +106,7 @@ std::optional<std::u16string> compStringHexColorSpec(std::uint64_t component, En
         case ComponentDisplay::codeSnippet:
             return hexCompStringHexColorSpec(component, entryForm);
         case ComponentDisplay::integer:
-            // As a C int: the low 32 bits.
+            // Only the low 32 bits are written, as for a C int.
             return decimalText(static_cast<std::int32_t>(component));
         case ComponentDisplay::fraction:
             return widened(fixedText(static_cast<double>(component) / 255, 3));
@@ -131,7 +131,7 @@ std::optional<std::u16string> validHexString(std::u16string_view text, int digit
         const std::size_t copies = typed.size() == wanted / 2 ? 2 : wanted;
         for (const char16_t digit : typed)
             result.append(copies, digit);
-        // An odd count cannot be made of doubled digits alone.
+        // Truncate: an odd number of digits cannot consist of doubled digits alone.
         result.resize(poundSigns + std::min(wanted, typed.size() * copies));
     }
     const bool lengthMatters = digits == 6 || digits == 7;

@@ -9,34 +9,35 @@
 #include <string>
 #include <string_view>
 
-/// Colour components as text and back. The readers never fail: what they cannot read counts as
-/// zero, and numbers cap at 255. Only `validHexString` rejects a text. An empty view stands for no
-/// text. Lengths and indexes count UTF-16 units.
+/// Conversions between colour components and text. The readers never fail: unreadable text counts
+/// as 0, and numbers are capped at 255. Only `validHexString` rejects a text. An empty view means
+/// "no text". Lengths and indexes count UTF-16 units.
 namespace vantorel {
 
-/// The value of a hex digit, 0..15; 0 for every other character.
+/// Returns the value of a hex digit, 0..15, or 0 for any other character.
 [[nodiscard]] int decodeHex(char16_t character);
 
-/// One hex digit; "0" for a value outside 0..15.
+/// Returns one hex digit, or "0" if the value is outside 0..15.
 [[nodiscard]] std::u16string hexFromInt(std::int64_t value, EntryForm entryForm);
 
-/// The first two characters as hex digits. A single digit is the high one: "a" reads as 0xA0. A
-/// leading "#" is not skipped.
+/// Reads the first two characters as hex digits. A single digit is the high one: "a" reads as 0xA0.
+/// A leading "#" is not skipped.
 [[nodiscard]] std::uint64_t readHex(std::u16string_view text);
 
-/// The first run of at most three decimal digits, capped at 255. Characters are told apart by their
-/// low eight bits alone.
+/// Reads the first run of up to three decimal digits, capped at 255. Only the low eight bits of
+/// each character are compared.
 [[nodiscard]] std::uint64_t readInt(std::u16string_view text);
 
-/// A fraction 0..1 as 0..255: the digits after the first "." (five at most) times 255.5, truncated;
-/// 255 when a digit 1..9 comes before any ".". Characters are told apart by their low eight bits.
+/// Reads a fraction 0..1 as 0..255: up to five digits after the first ".", times 255.5, truncated.
+/// Returns 255 if a digit 1..9 precedes the first ".". Only the low eight bits of each character
+/// are compared.
 [[nodiscard]] std::uint64_t readFraction(std::u16string_view text);
 
-/// By the reader of the display; 0 for displays without one.
+/// Reads a component in the form of a display. Returns 0 for displays without a reader.
 [[nodiscard]] std::uint64_t readComponent(std::u16string_view text, ComponentDisplay display);
 
-/// A component as two hex digits (Hex, Code Snippet), an integer, or a fraction of three decimals.
-/// Nothing for any other display.
+/// Returns a component as two hex digits (Hex, Code Snippet), an integer, or a fraction with three
+/// decimals; `std::nullopt` for any other display.
 [[nodiscard]] std::optional<std::u16string> compStringHexColorSpec(std::uint64_t component,
                                                                    EntryForm entryForm,
                                                                    ComponentDisplay display);
@@ -45,12 +46,14 @@ namespace vantorel {
 [[nodiscard]] std::u16string hexCompStringHexColorSpec(std::uint64_t component,
                                                        EntryForm entryForm);
 
-/// A typed hex code in full length, or nothing when it is none. `digits` is 6 for a whole code, 2
-/// for one component. A leading "#" is kept; half the digits are doubled (abc: aabbcc), a single
-/// one is repeated. With two digits the length is not held to: what is left over is for the reader.
+/// Expands a typed hex code to full length, or returns `std::nullopt` if it is not a hex code.
+/// `digits` is 6 for a whole code, 2 for one component. A leading "#" is kept. If half the digits
+/// are given, each is doubled (abc becomes aabbcc); a single digit is repeated. With two digits,
+/// the length of the result is not checked, and the reader handles the rest.
 [[nodiscard]] std::optional<std::u16string> validHexString(std::u16string_view text, int digits);
 
-/// The colour that a name of at least six characters ends in, as a hex code; else black.
+/// Returns the colour whose hex code ends the name, or black if the name is shorter than six
+/// characters.
 [[nodiscard]] HostColor webSafeColorFromName(std::u16string_view name);
 
 }  // namespace vantorel

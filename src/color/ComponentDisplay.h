@@ -4,8 +4,8 @@
 
 namespace vantorel {
 
-/// How one component is written and read. The numbers are fixed; any other value may be stored, and
-/// has no text.
+/// How a component is written and read. The numbers are fixed. Any other value may be stored; it
+/// has no text form.
 enum class ComponentDisplay : std::int32_t {
     hex = 861,
     integer = 862,

@@ -13,7 +13,7 @@ namespace {
 constexpr double conversionBias = 0.00005;
 constexpr std::uint64_t closenessLimit = 16;
 
-/// The steps of the grid that a channel has reached.
+/// Returns the number of grid steps that a channel has reached.
 std::uint64_t componentOfChannel(double channel)
 {
     return truncatedUnsigned((channel + conversionBias) * 255);
@@ -31,7 +31,7 @@ std::optional<HostColor::Components> rgbOf(const std::optional<HostColor>& color
 
 bool equalsChannel(std::uint64_t component, double channel)
 {
-    // What lies a whole step below zero is no 0, although it is stored as one.
+    // A channel a whole step or more below zero is not 0, although its component is stored as 0.
     return !(channel * 255 <= -1) && component == truncatedUnsigned(channel * 255);
 }
 
@@ -46,7 +46,7 @@ bool differsByLess(std::uint64_t a, std::uint64_t b, std::int64_t limit)
     return limit > 0 && difference < static_cast<std::uint64_t>(limit);
 }
 
-/// "%02x" of a component.
+/// Formats a component like printf's "%02x".
 std::u16string twoLowerHexDigits(std::uint64_t component)
 {
     const auto value = static_cast<std::uint32_t>(component);

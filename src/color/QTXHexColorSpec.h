@@ -11,9 +11,9 @@
 
 namespace vantorel {
 
-/// A colour as three 8-bit web components, with what the 8-bit grid cannot hold beside them: for
-/// each channel a remainder (channel minus component/255, on the 0..1 scale) and the alpha (0..1).
-/// The remainders only tell whether the colour that came from the desktop lies on the grid.
+/// A colour as three 8-bit web components, plus what the 8-bit grid cannot hold: a remainder for
+/// each channel (channel minus component/255, on the 0..1 scale) and the alpha (0..1). The
+/// remainders only record whether the colour received from the desktop lies on the grid.
 ///
 /// Components are 0..255 by convention, but nothing is clamped. A new spec is black with alpha 0.
 /// Component index: 0 red, 1 green, 2 blue. Digit index: 1 the high hex digit, 0 the low one.
@@ -34,54 +34,57 @@ public:
     [[nodiscard]] double alphaComp() const { return _alphaComp; }
     void setAlphaComp(double alpha) { _alphaComp = alpha; }
 
-    /// Sets the components alone.
+    /// Sets the components. Remainders and alpha are unchanged.
     void setHexRed(std::uint64_t red, std::uint64_t green, std::uint64_t blue);
-    /// 0 for an index out of range.
+    /// Returns 0 if the index is out of range.
     [[nodiscard]] std::uint64_t componentWithIndex(std::int64_t componentIndex) const;
-    /// Nothing happens for an index out of range.
+    /// Has no effect if the index is out of range.
     void setComponent(std::uint64_t component, std::int64_t componentIndex);
 
-    /// One hex digit of a component, 0..15. Every digit index but 1 means the low one.
+    /// Returns one hex digit of a component, 0..15. Every digit index other than 1 means the low
+    /// digit.
     [[nodiscard]] std::uint64_t colorSubComponentWithComponentIndex(std::int64_t componentIndex,
                                                                     std::int64_t digitIndex) const;
-    /// Replaces one hex digit by the low four bits of `value`. Every digit index but 0 means the
-    /// high one.
+    /// Replaces one hex digit by the low four bits of `value`. Every digit index other than 0 means
+    /// the high digit.
     void setColorSubComponent(std::uint64_t value, std::int64_t componentIndex,
                               std::int64_t digitIndex);
-    /// As above, but with Shift among the modifier flags a high digit is set in both places.
+    /// Like the overload above. If the modifier flags contain Shift, setting the high digit also
+    /// sets the low one.
     void setColorSubComponent(std::uint64_t value, std::int64_t componentIndex,
                               std::int64_t digitIndex, std::uint64_t modifierFlags);
 
-    /// Takes components and remainders from a colour; the alpha stays. What falls a hair short of a
-    /// step of the grid, as single precision leaves it, lands on that step with a small negative
-    /// remainder. No colour, or one without RGB form, sets the components to 0 and keeps the rest.
+    /// Sets components and remainders from a colour; the alpha is unchanged. A channel slightly
+    /// below a step of the grid, as single precision can leave it, is assigned to that step with a
+    /// small negative remainder. `std::nullopt` and patterns set the components to 0 and leave the
+    /// rest unchanged.
     void setColorHexColorSpec(const std::optional<HostColor>& color);
-    /// The grid colour of the components, always opaque.
+    /// Returns the colour of the components, always opaque.
     [[nodiscard]] HostColor colorHexColorSpec() const;
-    /// Copies another spec; null sets opaque black.
+    /// Copies another spec. Null sets opaque black.
     void loadWithHexColorSpec(const QTXHexColorSpec* other);
     void clearRemainders();
 
-    /// Whether no remainder is 0.00002 or more; negative ones always pass.
+    /// Returns whether all remainders are below 0.00002. Negative remainders always pass.
     [[nodiscard]] bool isExact() const;
-    /// Whether each component is the truncated 8-bit value of the colour's channel.
+    /// Returns whether each component equals the truncated 8-bit value of the colour's channel.
     [[nodiscard]] bool isEqualToColor(const std::optional<HostColor>& color) const;
-    /// Whether each component is within 16 of it.
+    /// Returns whether each component is within 16 of that value.
     [[nodiscard]] bool isCloseToColor(const std::optional<HostColor>& color) const;
-    /// Whether every component differs by less than `limit`.
+    /// Returns whether every component differs by less than `limit`.
     [[nodiscard]] bool isMatchToColorSpec(const QTXHexColorSpec& other, std::int64_t limit) const;
 
-    /// 0xRRGGBB. Components are not masked: a larger one spills into its neighbour.
+    /// Returns 0xRRGGBB. Components are not masked: one above 255 overflows into its neighbour.
     [[nodiscard]] std::uint64_t javaRGBInt() const;
-    /// 0xAARRGGBB, alpha truncated to 8 bits.
+    /// Returns 0xAARRGGBB, with the alpha truncated to 8 bits.
     [[nodiscard]] std::uint64_t javaRGBAInt() const;
-    /// A text for debugging, ending in a line feed.
+    /// Returns a text for debugging that ends in a line feed.
     [[nodiscard]] std::u16string description() const;
 
-    // Texts (CSS Color 4 hex notation and rgb(); see also ColorTexts.h). None of the setters
-    // touches remainders or alpha.
+    // Text forms (CSS Color 4 hex notation and rgb(); see also ColorTexts.h). The setters leave
+    // remainders and alpha unchanged.
 
-    /// Reads up to six hex digits, after a "#" or without one. Missing digits count as 0; three
+    /// Reads up to six hex digits, with or without a leading "#". Missing digits count as 0. Three
     /// digits are not expanded.
     void setWithString(std::u16string_view text);
     void setRedHexCompWithString(std::u16string_view text, ComponentDisplay withComponentDisplay);
@@ -93,12 +96,13 @@ public:
         EntryForm entryForm, ComponentDisplay componentDisplay) const;
     [[nodiscard]] std::optional<std::u16string> blueStringHexColorSpecWithEntryForm(
         EntryForm entryForm, ComponentDisplay componentDisplay) const;
-    /// Six hex digits without "#".
+    /// Returns six hex digits without "#".
     [[nodiscard]] std::u16string fullStringHexColorSpecWithEntryForm(EntryForm entryForm) const;
-    /// The three pairs with blanks between them.
+    /// Returns the three pairs of hex digits, separated by spaces.
     [[nodiscard]] std::u16string fullSpacedStringHexColorSpecWithEntryForm(
         EntryForm entryForm) const;
-    /// "rgb(255, 128, 0);", the function's name in upper case with the upper-case entry form.
+    /// Returns a text such as "rgb(255, 128, 0);". With the upper-case entry form, the function
+    /// name is in upper case.
     [[nodiscard]] std::u16string rgbDecimalStringWithEntryForm(EntryForm entryForm) const;
 
     bool operator==(const QTXHexColorSpec&) const = default;

@@ -13,8 +13,8 @@ bool isSeparator(char16_t c)
     return c == u' ' || c == u',';
 }
 
-/// The place behind the first "rgb(", or npos.
-std::size_t placeBehindOpening(std::u16string_view text)
+/// Returns the index after the first "rgb(", or npos.
+std::size_t placeAfterOpening(std::u16string_view text)
 {
     for (std::size_t i = 0; i + opening.size() <= text.size(); ++i) {
         if (equalIgnoringCase(text.substr(i, opening.size()), opening)) return i + opening.size();
@@ -26,7 +26,7 @@ std::size_t placeBehindOpening(std::u16string_view text)
 
 RgbTripleReading readRgbTriple(std::u16string_view text)
 {
-    std::size_t place = placeBehindOpening(text);
+    std::size_t place = placeAfterOpening(text);
     if (place == std::u16string_view::npos) return {};
 
     RgbTripleReading reading;

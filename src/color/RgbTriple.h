@@ -7,17 +7,17 @@
 
 namespace vantorel {
 
-/// What a text says as an `rgb(...)` triple.
+/// The result of reading a text as an `rgb(...)` triple.
 struct RgbTripleReading {
-    /// Whether "rgb(" stands anywhere in the text, in any letter case.
+    /// Whether the text contains "rgb(", in any letter case.
     bool found = false;
-    /// The three numbers, each 0..255; empty when what follows "rgb(" is no triple.
+    /// The three numbers, each 0..255; `std::nullopt` if no valid triple follows "rgb(".
     std::optional<std::array<std::uint64_t, 3>> components;
 };
 
-/// Reads the three numbers after the first "rgb(" of a text. They are decimal, of at most three
-/// digits, parted by blanks or commas. A missing ")" is forgiven, and so is all that follows the
-/// third number.
+/// Reads the three numbers after the first "rgb(" of a text. They are decimal, have at most three
+/// digits and are separated by spaces or commas. The ")" is optional, and everything after the
+/// third number is ignored.
 [[nodiscard]] RgbTripleReading readRgbTriple(std::u16string_view text);
 
 }  // namespace vantorel

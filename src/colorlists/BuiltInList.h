@@ -4,8 +4,8 @@
 
 namespace vantorel {
 
-/// The built-in colour lists. The numbers are fixed; two of them stand for the CSS keywords. Any
-/// other number may come from outside, and stands for no list.
+/// The built-in colour lists. The numbers are fixed; two of them mean the CSS keywords. Other
+/// numbers may come from outside and denote no list.
 enum class BuiltInList : std::int32_t {
     browserSafe = 12,
     cssKeyword = 13,

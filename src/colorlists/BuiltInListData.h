@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <span>
 
-/// The entries of the built-in lists, in their order.
+/// The entries of the built-in lists, in list order.
 namespace vantorel {
 
 struct BuiltInColor {

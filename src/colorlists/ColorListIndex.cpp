@@ -9,8 +9,8 @@
 namespace vantorel {
 namespace {
 
-/// How far apart the components of close colours are at the most. A cell is as wide, so what is
-/// close to a colour lies in its own cell or in a neighbour.
+/// The maximum difference of components between close colours. A cell has the same width, so the
+/// colours close to a given one are in its cell or in a neighbour.
 constexpr int closeness = 16;
 constexpr int cellsAcross = 256 / closeness;
 constexpr std::size_t cellCount = std::size_t{cellsAcross} * cellsAcross * cellsAcross;
@@ -28,7 +28,7 @@ std::size_t cellOf(const Steps& steps)
     return cellIndex(steps[0] / closeness, steps[1] / closeness, steps[2] / closeness);
 }
 
-/// Nothing for a colour outside the cube.
+/// Returns `std::nullopt` for a colour outside the colour cube.
 std::optional<Steps> stepsOf(const HostColor::Components& rgb)
 {
     Steps steps{};
@@ -75,7 +75,7 @@ void ColorListIndex::update(const std::shared_ptr<const HostColorList>& list)
     sortIntoCells(entries);
 }
 
-/// A counting sort.
+/// Sorts the entries by cell, using a counting sort.
 void ColorListIndex::sortIntoCells(const std::vector<Entry>& entries)
 {
     for (const Entry& entry : entries)
@@ -105,7 +105,7 @@ void ColorListIndex::addPlacesInCells(const QTXHexColorSpec& color,
     };
     for (int red = firstCell(0); red <= lastCell(0); ++red) {
         for (int green = firstCell(1); green <= lastCell(1); ++green) {
-            // Cells that differ in blue alone lie side by side.
+            // Cells that differ only in blue are adjacent.
             const std::uint32_t begin = _cellStarts[cellIndex(red, green, firstCell(2))];
             const std::uint32_t end = _cellStarts[cellIndex(red, green, lastCell(2)) + 1];
             for (std::uint32_t i = begin; i < end; ++i) {

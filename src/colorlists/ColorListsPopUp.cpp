@@ -18,7 +18,7 @@ HostMenuItem itemWithAction(const std::u16string& title,
     HostMenuItem item;
     item.title = title;
     item.action = [action](const HostMenuItem& chosen) {
-        // Copies: the action rebuilds the very menu that holds this item.
+        // Copied, because the action rebuilds the menu that contains this item.
         const auto run = action;
         const std::u16string chosenTitle = chosen.title;
         run(chosenTitle);
@@ -60,7 +60,8 @@ void buildColorListsPopUp(HostPopUpButton& popUp, const std::vector<std::u16stri
         return menu;
     };
     if (activeLists.size() >= 2) popUp.addItem(parentItem(u"Remove", removeMenu));
-    // Made when it opens: to tell what can be added, every installed list must be read.
+    // Built when the submenu opens, because every installed list must be read to find the ones to
+    // offer.
     const auto addMenu = [activeLists, &store, add = actions.add] {
         HostMenu menu;
         for (const std::u16string& name : store.availableColorLists()) {

@@ -8,10 +8,10 @@ namespace {
 
 constexpr HostSize swatchSize{22, 14};
 constexpr double swatchInset = 2;
-/// "No Match" and the separator stand above the keys.
+/// "No Match" and the separator come before the keys.
 constexpr std::size_t itemsAboveKeys = 2;
 
-/// The first index of each title, as `indexOfItemWithTitle` finds it.
+/// Returns the first index of each title, like `indexOfItemWithTitle`.
 std::unordered_map<std::u16string, int> indexesOfTitles(const HostMenu& menu)
 {
     std::unordered_map<std::u16string, int> indexes;
@@ -111,7 +111,7 @@ void ColorNamesPopUpFiller::selectEntry(HostPopUpButton& popUp, const HostColorL
                                         std::size_t place) const
 {
     const std::u16string& key = list.allKeys()[place];
-    // A search by title is a walk over all items, which a long list should not cost each time.
+    // A search by title scans all items, which would be slow for a long list.
     if (isFilledWith(list) && key != popUp.menu().front().title) {
         popUp.selectItemAtIndex(static_cast<int>(itemsAboveKeys + place));
     } else {

@@ -11,24 +11,24 @@
 #include <string>
 #include <vector>
 
-/// The pop-up that shows the colours of the naming list by name, and the matching of the current
-/// colour against that list.
+/// The pop-up menu of the naming list's colours, and the matching of the current colour against
+/// that list.
 namespace vantorel {
 
 inline constexpr const char16_t* noMatchTitle = u"No Match";
 
-/// A swatch for a menu: the colour with a white and a black rim, 22 by 14 points.
+/// Returns a menu swatch of 22 by 14 points: the colour with a white and a black border.
 [[nodiscard]] HostImage swatchImage(const HostColor& color);
 
-/// The swatch of one entry; nothing when the list has no such key.
+/// Returns the swatch of an entry, or `std::nullopt` if the list has no colour of that name.
 [[nodiscard]] std::optional<HostImage> menuImageWithColorList(const HostColorList& list,
                                                               const std::u16string& colorName);
 
-/// How a colour stands to the entries of a list.
+/// The entries of a list that match a colour.
 struct ColorNameMatch {
-    /// The place in the list of the first entry that equals the colour.
+    /// The index of the first entry that equals the colour.
     std::optional<std::size_t> exactPlace;
-    /// Where none does: the places of the entries close to it, in list order.
+    /// If no entry equals the colour: the indexes of the entries close to it, in list order.
     std::vector<std::size_t> closePlaces;
 };
 
@@ -36,26 +36,28 @@ struct ColorNameMatch {
 [[nodiscard]] ColorNameMatch matchColorName(const QTXHexColorSpec& color, const HostColorList& list,
                                             const ColorListIndex& index);
 
-/// What the name pop-up's first item says: "* navy, teal", or "No Match" when no key is close.
+/// Returns the title of the name pop-up's first item: "* navy, teal", or "No Match" if `closeKeys`
+/// is empty.
 [[nodiscard]] std::u16string closeTitle(const std::vector<std::u16string>& closeKeys);
 
-/// Fills a name pop-up, and remembers with what, so that filling it again with the same list is
+/// Fills a name pop-up and remembers its contents, so that filling it again with the same list is
 /// free.
 class ColorNamesPopUpFiller {
 public:
-    /// "No Match", a separator and the keys with their swatches; "Empty" alone for no list.
+    /// Fills the pop-up with "No Match", a separator and the keys with their swatches. If `list` is
+    /// null, adds only "Empty".
     void fill(HostPopUpButton& popUp, const std::shared_ptr<HostColorList>& list);
 
-    /// Selects the item of an entry: the first that has its key for a title.
+    /// Selects the item of an entry: the first item whose title is the entry's key.
     void selectEntry(HostPopUpButton& popUp, const HostColorList& list, std::size_t place) const;
 
-    /// Moves the entries of close colours up, under the first item and above the separator.
-    /// An entry that is the list's first key stays where it is.
+    /// Moves the items of close colours up, between the first item and the separator. The list's
+    /// first entry is not moved.
     void moveCloseEntriesUp(HostPopUpButton& popUp, const HostColorList& list,
                             const std::vector<std::u16string>& closeKeys);
 
 private:
-    /// Whether the pop-up holds exactly the items that the list calls for, in its order.
+    /// Returns whether the pop-up has exactly the items of the list, in list order.
     [[nodiscard]] bool isFilledWith(const HostColorList& list) const;
 
     std::shared_ptr<HostColorList> _filledWith;

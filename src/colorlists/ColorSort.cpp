@@ -7,8 +7,8 @@
 namespace vantorel {
 namespace {
 
-/// The top four bits of a channel's 8-bit value. A negative or NaN channel is 0; one beyond the
-/// integers keeps the bits of the largest.
+/// Returns the top four bits of a channel's 8-bit value. Negative channels and NaN count as 0; a
+/// channel beyond the integers keeps the bits of the largest one.
 std::uint64_t quantized(double channel)
 {
     constexpr double pastLargest = 18446744073709551616.0;
@@ -19,7 +19,7 @@ std::uint64_t quantized(double channel)
     return whole & 0xF0;
 }
 
-/// The quantised components in one number, the most significant first: green, blue, red.
+/// Returns the quantised components as one number, most significant first: green, blue, red.
 std::uint64_t sortKey(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB();

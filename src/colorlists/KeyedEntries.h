@@ -7,8 +7,8 @@
 
 namespace vantorel {
 
-/// Adds colours to a list under keys of their own, so that none is lost: one without a name is
-/// "Untitled", a name that comes again gets a number behind it.
+/// Adds colours to a list under unique keys, so that none is lost. A colour without a name becomes
+/// "Untitled"; a repeated name gets a number appended.
 class KeyedEntries {
 public:
     /// `list` must outlive this object.

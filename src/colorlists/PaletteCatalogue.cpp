@@ -15,8 +15,8 @@ std::u16string bracketedName(const PaletteCatalogue::Entry& entry, std::size_t n
     return name + u')';
 }
 
-/// The number behind the program's name in brackets, 1 where there is none; 0 when that is not what
-/// the name consists of.
+/// Returns the number after the program's name in brackets, 1 if there is no number, or 0 if the
+/// name does not have that form.
 std::size_t numberInBrackets(std::u16string_view name, const PaletteCatalogue::Entry& entry)
 {
     if (!name.starts_with(entry.listName)) return 0;
@@ -55,8 +55,8 @@ void PaletteCatalogue::rebuild(const std::vector<Source>& sources)
             _entries.push_back({folder, fileName, file.version, file.listName, program, false});
         }
     }
-    // Every name goes to its first holder before any is made up, so that none is taken from a list
-    // that is really called so.
+    // First give every name to the first list that has it. Names are made up afterwards, so that
+    // none is taken from a list of that name.
     std::set<std::string> reached;
     std::vector<Entry*> rest;
     for (Entry& entry : _entries) {
@@ -112,7 +112,8 @@ const PaletteCatalogue::Entry* PaletteCatalogue::entryOnceListedAs(const std::u1
         const std::size_t number = numberInBrackets(name, entry);
         if (number == 0) continue;
         if (!entry.isListed) {
-            // Equal to a list with the plain name now; better than nothing.
+            // This entry is not listed, because it equals a listed one. Use it unless a better one
+            // follows.
             if (best == nullptr) best = &entry;
             continue;
         }

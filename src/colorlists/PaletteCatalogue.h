@@ -7,25 +7,26 @@
 
 namespace vantorel {
 
-/// The names under which the palettes of several folders are listed.
+/// Lists the palettes of several folders under unique names.
 ///
-/// The first folder that holds a name gives it to its list. Another list of that name gets the name
-/// of its program behind it, "Reds (GIMP)", and where that is taken a number, "Reds (GIMP 2)". The
-/// same entries under the same name, and a file that was reached before, are listed once.
+/// The first folder that contains a name gives it to its list. Other lists of that name get their
+/// program's name appended, "Reds (GIMP)", and a number if that is taken as well, "Reds (GIMP 2)".
+/// A list with the same name and entries as a listed one is omitted, and so is a file that has
+/// already been reached by another path.
 class PaletteCatalogue {
 public:
     struct Source {
         PaletteFolder* folder;
-        /// Empty for our own folder, whose lists are never renamed: of two with one name the first
-        /// is listed.
+        /// Empty for our own folder. Our own lists are never renamed: if two have the same name,
+        /// only the first is listed.
         std::u16string program;
     };
     struct Entry {
         PaletteFolder* folder;
         std::string fileName;
-        /// Of the file, when the catalogue was built.
+        /// The file's version when the catalogue was built.
         std::uint64_t version;
-        /// The name in the file.
+        /// The list's name in the file.
         std::u16string listName;
         std::u16string program;
         bool isListed;
@@ -33,16 +34,17 @@ public:
         [[nodiscard]] std::string path() const { return folder->pathOfFile(fileName); }
     };
 
-    /// `sources`, the most important first, have been looked at; they must outlive the entries.
-    /// Lists that share a name are loaded to be compared.
+    /// Rebuilds the catalogue. `sources` are given most important first, must have been refreshed
+    /// by `lookAgain`, and must outlive the entries. Lists that share a name are loaded to compare
+    /// them.
     void rebuild(const std::vector<Source>& sources);
 
     [[nodiscard]] std::vector<std::u16string> names() const;
-    /// The palette that is listed under a name; null when there is none. Valid until `rebuild`.
+    /// Returns the palette listed under a name, or null. The pointer is valid until `rebuild`.
     [[nodiscard]] const Entry* entryListedAs(const std::u16string& name) const;
-    /// The palette that would be listed under a name with a program in brackets if other lists held
-    /// the names before it, as they may have done when somebody noted that name; null when there is
-    /// none. Valid until `rebuild`.
+    /// Returns the palette that would be listed under a name with a program in brackets if other
+    /// lists had the preceding names, or null. This finds lists whose names were noted before other
+    /// lists were removed. The pointer is valid until `rebuild`.
     [[nodiscard]] const Entry* entryOnceListedAs(const std::u16string& name) const;
 
 private:

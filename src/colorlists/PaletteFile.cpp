@@ -22,7 +22,7 @@ bool isLineEnd(char c)
     return c == '\r' || c == '\n';
 }
 
-/// A text of the file: UTF-8, or Latin-1 where it is no UTF-8.
+/// Decodes a text as UTF-8, or as Latin-1 if it is not well-formed UTF-8.
 std::u16string decoded(std::string_view text)
 {
     if (isWellFormedUtf8(text)) return utf16FromUtf8(text);
@@ -32,7 +32,7 @@ std::u16string decoded(std::string_view text)
     return result;
 }
 
-/// Walks over the lines of a file, whatever ends them.
+/// Iterates over the lines of a file, which may end in LF, CR LF or CR.
 class Lines {
 public:
     explicit Lines(std::string_view bytes) : _rest(bytes)
@@ -68,7 +68,7 @@ bool readHead(Lines& lines)
     return lines.next(line) && std::find(heads.begin(), heads.end(), trimmed(line)) != heads.end();
 }
 
-/// Reads one number 0..255 and moves on behind it.
+/// Reads a number 0..255 and removes it from the line.
 bool readByte(std::string_view& line, int& byte)
 {
     line = withoutLeading(line, isBlank<char>);
@@ -78,8 +78,8 @@ bool readByte(std::string_view& line, int& byte)
     return line.empty() || isBlank(line.front());
 }
 
-/// What stands behind the numbers. Behind a tab, which our own writer puts there, the name is taken
-/// to the letter; more tabs, which some put there to align the names, are none of it.
+/// Returns the name that follows the numbers of a row. After a tab, which our writer uses, the name
+/// is taken literally. Additional tabs, which some programs use for alignment, are skipped.
 std::u16string rowName(std::string_view rest)
 {
     const std::size_t start = rest.find_first_not_of(' ');
@@ -145,12 +145,13 @@ std::optional<std::u16string> paletteName(std::string_view bytes,
     while (lines.next(line)) {
         const std::string_view content = trimmed(line);
         if (content.starts_with(nameField)) {
-            // One blank belongs to the field; the rest is the name, to the letter.
+            // One space after the colon belongs to the field. The rest is the name, taken
+            // literally.
             std::string_view name = line.substr(line.find(nameField) + nameField.size());
             if (name.starts_with(' ')) name.remove_prefix(1);
             if (!trimmed(name).empty()) return decoded(name);
         }
-        // Behind the first row no head follows.
+        // The head ends at the first row.
         if (!content.empty() && isDigit(content.front())) break;
     }
     return fallbackName;

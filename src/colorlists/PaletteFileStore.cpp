@@ -12,9 +12,10 @@ namespace {
 constexpr const char* settingsFolder = "/Vantorel";
 constexpr const char* palettesFolder = "/Palettes";
 constexpr std::string_view fileEnding = ".gpl";
-/// File systems take 255 bytes a name; the rest is for the ending and a temporary file's.
+/// File systems allow 255 bytes a name. The rest is reserved for the extension and for the suffix
+/// of a temporary file.
 constexpr std::size_t longestBaseName = 200;
-/// Where this many are taken, the disk does not tell which are free.
+/// The maximum number of file names to try. If all are taken, something is wrong with the disk.
 constexpr int mostFilesOfAName = 10000;
 
 bool isSafe(unsigned char c)
@@ -22,7 +23,7 @@ bool isSafe(unsigned char c)
     return c > 0x20 && c != 0x7F && c != '/' && c != '%' && c != '\\' && c != ':';
 }
 
-/// FNV-1a, to tell names apart that are cut to the same length.
+/// Computes the FNV-1a hash, which distinguishes names that are cut to the same length.
 std::string hashText(std::string_view text)
 {
     std::uint64_t hash = 0xcbf29ce484222325U;
@@ -65,7 +66,8 @@ std::string PaletteFileStore::fileNameOfList(const std::u16string& name)
 
 PaletteFolder* PaletteFileStore::ownFolder()
 {
-    // Asking makes the folder of the user's data, so it is not asked before it is needed.
+    // `applicationSupportDirectory` creates the user's data folder, so it is called only when
+    // needed.
     if (!_ownFolder) {
         const auto support = _hostFiles.applicationSupportDirectory();
         if (!support) return nullptr;
@@ -146,8 +148,7 @@ std::optional<std::string> PaletteFileStore::pathOfList(const std::u16string& na
 
 std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
 {
-    // The usual case first: a list in our file that its name says, of which nothing else need be
-    // known.
+    // The usual case first: a list in the file named by `fileNameOfList`. No other file is read.
     if (PaletteFolder* own = ownFolder()) {
         if (isInUsualFile(*own, name)) return own->listInFile(fileNameOfList(name));
     }
@@ -166,7 +167,8 @@ std::optional<std::string> PaletteFileStore::fileNameOfSaved(PaletteFolder& own,
 {
     own.lookAgain();
     const std::string usual = fileNameOfList(name);
-    // A name can hold more than a file tells; what counts is how it would be read there.
+    // A palette file cannot store every name unchanged, so compare with the name as it would be
+    // read back.
     const auto nameInFile = [&](const std::string& fileName) {
         return paletteName(paletteText(HostColorList(name)),
                            PaletteFolder::fallbackListName(fileName));
@@ -214,7 +216,7 @@ std::vector<std::string> PaletteFileStore::folders()
 PaletteFolder* PaletteFileStore::writableFolder()
 {
     PaletteFolder* own = ownFolder();
-    // Asked again: it makes the folder where it has gone.
+    // Called again, because it recreates a folder that has been removed.
     const auto support = _hostFiles.applicationSupportDirectory();
     if (own == nullptr || !support) return nullptr;
     for (const std::string& needed : {*support + settingsFolder, own->path()}) {
@@ -269,7 +271,8 @@ bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list
     const std::string text = paletteText(*list);
     const std::string usual = fileNameOfList(list->name());
     for (int number = 1; number <= mostFilesOfAName; ++number) {
-        // Asked each time: whoever was faster may have saved the same list.
+        // Checked in every iteration, because another program may have saved the same list
+        // meanwhile.
         const auto saved = fileNameOfSaved(*own, list->name());
         const std::string fileName = saved.value_or(numberedFileName(usual, number));
         const std::string path = own->pathOfFile(fileName);
@@ -279,7 +282,7 @@ bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list
                   : _hostFiles.createAtomically(path, text);
         if (creation == HostFileCreation::failed) return false;
         if (creation == HostFileCreation::pathIsTaken) continue;
-        // The list in hand goes on being the installed one.
+        // The caller's list becomes the installed one.
         own->setListInFile(fileName, list);
         return true;
     }

@@ -8,85 +8,88 @@
 
 namespace vantorel {
 
-/// A palette as it is listed.
+/// A palette in a listing.
 struct ListedPalette {
-    /// No other listed palette has it.
+    /// The name, unique among the listed palettes.
     std::u16string name;
-    /// Empty for one of the user's own.
+    /// The program that the palette belongs to; empty for one of the user's own.
     std::u16string program;
     std::string path;
-    /// Of the file, as `HostFiles::versionAtPath`, at the last look.
+    /// The file's `HostFiles::versionAtPath` when it was last checked.
     std::uint64_t version = 0;
 
     [[nodiscard]] bool isOwn() const { return program.empty(); }
 };
 
-/// The colour lists in palette files, one a file: those in the user's own folder,
-/// `Vantorel/Palettes` in the folder of the user's data, and those that other programs have
-/// installed, which are only read (`PalettePlaces`; `PaletteCatalogue` tells their names). Names
-/// sort by their UTF-16 units.
+/// The store of colour lists in palette files, one list a file. It covers the user's own folder,
+/// `Vantorel/Palettes` in the user's data folder, and the palettes installed by other programs,
+/// which are read-only. `PalettePlaces` finds the other programs' folders; `PaletteCatalogue` makes
+/// the names unique. Names are sorted by their UTF-16 units.
 ///
-/// Nothing is read before it is asked for. What another program changes is seen at the next look:
-/// that is `availableColorLists`, and `colorListNamed` of a name that has not been found so far, or
-/// whose file has changed. While nothing changes, asking for a list costs a few looks at versions.
+/// Files are read only on request. Changes by other programs are noticed by `availableColorLists`
+/// and, for an unknown name or a changed file, by `colorListNamed`. As long as nothing changes,
+/// looking up a list costs only a few version checks.
 class PaletteFileStore final : public HostColorListStore {
 public:
     using Log = PaletteFolder::Log;
 
-    /// `files` must outlive the store. `log` gets a line for each line of a file that was passed
-    /// over; it may be empty.
+    /// `files` must outlive the store. `log` gets a message for each skipped line of a file; it may
+    /// be empty.
     explicit PaletteFileStore(HostFiles& files, Log log = {});
 
-    /// Finds also a list that has lost the program behind its name, "Reds (GIMP)", because the list
-    /// that had the plain name went away.
+    /// Also finds a list by a name with a program in brackets, "Reds (GIMP)", after it has become
+    /// plain "Reds" because the other list of that name was removed.
     [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(
         const std::u16string& name) override;
     [[nodiscard]] std::vector<std::u16string> availableColorLists() override;
-    /// Into the file of our own folder that holds the list of that name, else into a new one there:
-    /// a file that holds anything else, even one that cannot be read, is somebody's work and stays.
+    /// Saves a list to the file in our own folder that contains the list of that name, or to a new
+    /// file there. A file with other contents, or one that cannot be read, is never overwritten.
     bool writeColorList(const std::shared_ptr<HostColorList>& list) override;
 
-    // For who edits the files, and so must know what stands where. Only files of our own folder are
-    // ever written.
+    // For editors, which need to know the files. Only files in our own folder are ever written.
 
-    /// Looks again, as `availableColorLists`.
+    /// Refreshes the listing, like `availableColorLists`, and returns it.
     [[nodiscard]] std::vector<ListedPalette> listedPalettes();
-    /// The folders that palettes come from, our own first, whether or not they exist. Those of
-    /// other programs are known after the first look.
+    /// Returns the folders that palettes are read from, our own first, whether or not they exist.
+    /// Those of other programs are known only after the first refresh.
     [[nodiscard]] std::vector<std::string> folders();
-    /// Writes `text` into a file of our own folder that is not there yet, and installs `list` as
-    /// what it holds. The file's path; nothing when it could not be written.
+    /// Writes `text` to a new file in our own folder and installs `list` as its contents. Returns
+    /// the file's path, or `std::nullopt` if it could not be written.
     std::optional<std::string> writeNewFile(const std::shared_ptr<HostColorList>& list,
                                             const std::string& text);
-    /// The same into a file of our own folder that is replaced. False, too, for any other path.
+    /// Replaces an existing file in our own folder and installs `list` as its contents. Returns
+    /// false if the file could not be written or the path is not in our own folder.
     bool replaceFile(const std::string& path, const std::shared_ptr<HostColorList>& list,
                      const std::string& text);
-    /// The file that a list is read from; nothing when there is no list of that name.
+    /// Returns the file that a list is read from, or `std::nullopt` if there is no list of that
+    /// name.
     [[nodiscard]] std::optional<std::string> pathOfList(const std::u16string& name);
-    /// The same among the user's own lists alone; other folders are not looked at.
+    /// Like `pathOfList`, but searches only the user's own lists.
     [[nodiscard]] std::optional<std::string> pathOfOwnList(const std::u16string& name);
 
-    /// The file of a list by its name: no name leads out of the folder, into a hidden file, or
-    /// beyond what file systems take.
+    /// Returns the file name for a list. The name is encoded so that it cannot leave the folder, be
+    /// hidden, or exceed the limits of file systems.
     [[nodiscard]] static std::string fileNameOfList(const std::u16string& name);
 
 private:
-    /// Null when the user has no folder of data.
+    /// Returns null if the user has no data folder.
     [[nodiscard]] PaletteFolder* ownFolder();
-    /// Our own folder, made where it is missing; null where that is not possible.
+    /// Returns our own folder, creating it if necessary; null if the user has no data folder.
     [[nodiscard]] PaletteFolder* writableFolder();
-    /// `usual` with a number behind it, except for 1.
+    /// Returns `usual` with a number appended, except for 1.
     [[nodiscard]] static std::string numberedFileName(const std::string& usual, int number);
-    /// Whether the file that the name of a list of our own says holds that list.
+    /// Returns whether a list of our own is in the file named by `fileNameOfList`.
     [[nodiscard]] static bool isInUsualFile(PaletteFolder& own, const std::u16string& name);
-    /// Whether a name that is not in the catalogue may have come.
+    /// Returns whether the catalogue may be out of date.
     [[nodiscard]] bool mustLookAgain();
     void lookAgain();
-    /// What a name was resolved to; null when it has not been.
+    /// Returns the entry that a name was last resolved to, or null.
     [[nodiscard]] const PaletteCatalogue::Entry* rememberedEntry(const std::u16string& name) const;
-    /// What a name is resolved to now; null when no list has it.
+    /// Resolves a name to an entry, refreshing the catalogue if necessary. Returns null if no list
+    /// has that name.
     [[nodiscard]] const PaletteCatalogue::Entry* entryNamed(const std::u16string& name);
-    /// The file that a list of our own is in, and so is saved to; nothing for a new list.
+    /// Returns the file in our own folder that a list is saved to, or `std::nullopt` for a new
+    /// list.
     [[nodiscard]] std::optional<std::string> fileNameOfSaved(PaletteFolder& own,
                                                              const std::u16string& name);
 
@@ -95,7 +98,7 @@ private:
     std::optional<PaletteFolder> _ownFolder;
     PalettePlaces _places;
     PaletteCatalogue _catalogue;
-    /// Names that are not in the catalogue, and what they were resolved to.
+    /// Names that are not in the catalogue, and the entries that they were resolved to.
     std::unordered_map<std::u16string, const PaletteCatalogue::Entry*> _onceListed;
     bool _isCatalogueCurrent = false;
 };

@@ -66,7 +66,8 @@ void PaletteFolder::refresh(const std::string& fileName, File& file)
     file = {};
     file.version = version;
     const auto bytes = _hostFiles.contentsAtPath(path);
-    // A disk that has failed once may answer the next time, though nothing has changed on it.
+    // Version 0 makes the next refresh try again: a read error may go away without any change on
+    // the disk.
     if (!bytes) file.version = 0;
     auto name = bytes ? listNameIn(*bytes, fileName) : std::nullopt;
     if (!name) return;
@@ -84,7 +85,7 @@ void PaletteFolder::lookAgain()
         for (const std::string& name : _hostFiles.contentsOfDirectory(_path)) {
             if (name.starts_with('.')) continue;
             if (_takes == Takes::gplFiles && !endsIn(name, gplEnding)) continue;
-            // Files that stay keep what has been read of them.
+            // Files that still exist keep what has been read of them.
             auto known = _files.extract(name);
             found[name] = known ? std::move(known.mapped()) : File{};
         }
@@ -109,7 +110,7 @@ void PaletteFolder::load(const std::string& fileName, File& file)
 {
     const auto bytes = _hostFiles.contentsAtPath(pathOfFile(fileName));
     auto reading = bytes ? readPalette(*bytes, fallbackListName(fileName)) : std::nullopt;
-    // It has changed since the look at it; the next look will tell.
+    // The file has changed since it was refreshed. The next refresh will notice.
     if (!reading || listNameIn(*bytes, fileName) != file.listName) return;
     file.list = reading->list;
     if (!_log) return;

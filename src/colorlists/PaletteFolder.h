@@ -10,30 +10,30 @@
 
 namespace vantorel {
 
-/// The palette files of one folder, and what has been read of them. Nothing is read before it is
-/// asked for; a file is read again when its version has changed.
+/// The palette files of one folder and the contents read so far. Files are read only on request,
+/// and again when their version has changed.
 class PaletteFolder {
 public:
     using Log = std::function<void(const std::u16string& line)>;
-    /// Which files of the folder can be palettes: those that end in `.gpl` in any letter case, or
-    /// all. A hidden file is none.
+    /// Which files of the folder can be palettes: those with the extension `.gpl` in any letter
+    /// case, or all files. Hidden files never are.
     enum class Takes { gplFiles, everyFile };
-    /// Names of our own lists count to the letter, as they were saved; in those of other programs
-    /// control characters are blanks, and blanks around them are an oversight. A log line calls a
-    /// file of our own by its name and another by its path.
+    /// Whose files these are. The names of our own lists are taken literally, as they were saved.
+    /// In names of other programs, control characters become spaces, and leading and trailing
+    /// spaces are removed. Log messages show our own files by name and others by path.
     enum class Owner { ourselves, anotherProgram };
 
     struct File {
-        /// 0 where there is nothing that can be read, as behind a link that leads nowhere (yet).
+        /// 0 if the file cannot be read, as for a link whose target does not exist (yet).
         std::uint64_t version = 0;
-        /// Files that are none are kept in mind, too: they may be repaired in their place.
+        /// Files that are not palettes are kept too: they may be repaired in place.
         bool isPalette = false;
         std::u16string listName;
-        /// As `HostFiles::identityAtPath`.
+        /// The file's `HostFiles::identityAtPath`.
         std::string identity;
-        /// Null until somebody has asked for it; called as the file says.
+        /// The list, named as in the file; null until it is requested.
         std::shared_ptr<HostColorList> list;
-        /// The same entries under other names.
+        /// Lists of the same entries under other names.
         std::map<std::u16string, std::shared_ptr<HostColorList>> renamedLists;
     };
 
@@ -43,28 +43,28 @@ public:
     [[nodiscard]] const std::string& path() const { return _path; }
     [[nodiscard]] std::string pathOfFile(const std::string& fileName) const;
 
-    /// Whether the names in the folder may be others than at the last look.
+    /// Returns whether the folder's list of file names may have changed since the last refresh.
     [[nodiscard]] bool hasChanged() const;
 
-    /// Brings `files()` in step with the disk.
+    /// Refreshes `files()` from the disk.
     void lookAgain();
-    /// Brings one file in step with the disk without a look at the others; null when it is not
-    /// there.
+    /// Refreshes one file from the disk and returns it, or null if it does not exist.
     const File* lookAtFile(const std::string& fileName);
-    /// By their names; as they were at the last look.
+    /// The files by name, as of the last refresh.
     [[nodiscard]] const std::map<std::string, File>& files() const { return _files; }
 
-    /// The entries of a file, loaded now if need be, in a list of any name; null when it is no
-    /// palette (any more). A list stays the same object while its file stays the same.
+    /// Returns the list in a file, loading it if necessary; null if the file is not a palette (any
+    /// more). The same object is returned as long as the file does not change.
     std::shared_ptr<HostColorList> listInFile(const std::string& fileName);
-    /// The same entries under a given name.
+    /// Returns the entries of a file as a list with the given name.
     std::shared_ptr<HostColorList> listInFile(const std::string& fileName,
                                               const std::u16string& name);
 
-    /// Takes a list as what was just written into a file: it may hold more than the file can.
+    /// Installs a list as the contents of a file just written. The list may hold more than the file
+    /// can.
     void setListInFile(const std::string& fileName, std::shared_ptr<HostColorList> list);
 
-    /// What a list is called whose file tells no name: the file's name without its ending.
+    /// Returns the name for a list whose file contains none: the file name without its extension.
     [[nodiscard]] static std::u16string fallbackListName(const std::string& fileName);
 
 private:

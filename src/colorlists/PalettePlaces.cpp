@@ -16,13 +16,13 @@ enum class Base { configHome, dataHome, configDirectories, dataDirectories };
 struct Place {
     const char16_t* program;
     Base base;
-    /// Under the base directory. "*" stands for the name of a version.
+    /// Relative to the base directory. "*" matches the name of a version.
     std::string_view path;
     Takes takes;
 };
 
-/// The most important first. KDE has always named its files as it liked; so did those who gave the
-/// swatches that graphics programs share.
+/// The places, most important first. KDE's palettes, and the swatches that graphics programs share,
+/// have no fixed extension.
 constexpr std::array places{
     Place{u"GIMP", Base::configHome, "GIMP/*/palettes", Takes::gplFiles},
     Place{u"Inkscape", Base::configHome, "inkscape/palettes", Takes::gplFiles},
@@ -69,8 +69,8 @@ bool isVersion(std::string_view name)
            std::all_of(name.begin(), name.end(), [](char c) { return isDigit(c) || c == '.'; });
 }
 
-/// Takes the number before the next dot, without its leading zeros: it may be longer than any
-/// integer.
+/// Removes the number before the next dot from `version` and returns it without leading zeros. It
+/// is returned as text, because it may exceed any integer type.
 std::string_view takeNumber(std::string_view& version)
 {
     std::string_view number = version.substr(0, version.find('.'));
@@ -94,7 +94,7 @@ bool isNewerVersion(std::string_view left, std::string_view right)
         if (leftNumber.size() != rightNumber.size()) return leftNumber.size() > rightNumber.size();
         if (leftNumber != rightNumber) return leftNumber > rightNumber;
     }
-    // Only so that the order is a total one.
+    // Makes the order total.
     return left > right;
 }
 
@@ -130,7 +130,7 @@ void PalettePlaces::findFolders()
     std::set<std::string> paths;
     const auto add = [&](const Place& place, const std::string& path) {
         if (!paths.insert(path).second) return;
-        // Folders that stay keep what has been read of them.
+        // Folders that still exist keep what has been read of them.
         if (auto same = known.extract(path)) {
             _folders.push_back(std::move(same.mapped()));
             return;
@@ -150,7 +150,7 @@ void PalettePlaces::findFolders()
             }
             const std::string parent = pathIn(base, place.path.substr(0, wildcard - 1));
             const std::string_view rest = place.path.substr(wildcard + versionWildcard.size());
-            // The version first: what changes behind it is seen at the next look.
+            // Read the version first, so that a later change is noticed at the next refresh.
             _versionsFolders.push_back({parent, _hostFiles.versionAtPath(parent)});
             std::vector<std::string> versions = _hostFiles.contentsOfDirectory(parent);
             std::erase_if(versions, [](const std::string& name) { return name.starts_with('.'); });

@@ -6,29 +6,30 @@
 
 namespace vantorel {
 
-/// The folders where other programs keep palettes, under the base directories of a host's files. A
-/// host without base directories has none.
+/// The folders where other programs keep palettes, below the base directories of the host's files.
+/// A host without base directories has none.
 class PalettePlaces {
 public:
     /// `files` must outlive this object.
     PalettePlaces(HostFiles& files, PaletteFolder::Log log);
 
     struct Folder {
-        /// What people call the program.
+        /// The display name of the program.
         std::u16string program;
         PaletteFolder palettes;
     };
 
-    /// Whether folders, or names in them, may be others than at the last look.
+    /// Returns whether the folders, or the file names in them, may have changed since the last
+    /// refresh.
     [[nodiscard]] bool haveChanged() const;
-    /// Brings the folders and their files in step with the disk.
+    /// Refreshes the folders and their files from the disk.
     void lookAgain();
-    /// The most important first: the user's before the system's, those of a program's newer version
-    /// before those of an older one. Among them are folders that do not exist.
+    /// The folders, most important first: the user's before the system's, those of a program's
+    /// newer version before those of an older one. They include folders that do not exist.
     [[nodiscard]] const std::vector<std::unique_ptr<Folder>>& folders() const { return _folders; }
 
 private:
-    /// A folder whose own folders have the names of a program's versions.
+    /// A folder whose subfolders are named by a program's versions.
     struct VersionsFolder {
         std::string path;
         std::uint64_t version;
@@ -44,9 +45,8 @@ private:
     std::vector<std::unique_ptr<Folder>> _folders;
 };
 
-/// Orders the names of a program's versions, the newest first: numbers between dots count as
-/// numbers
-/// ("2.10" before "2.9"), and names that are none come last.
+/// Orders the names of a program's versions, newest first. Numbers between dots are compared as
+/// numbers ("2.10" before "2.9"). Names that are not versions come last.
 [[nodiscard]] bool isNewerVersion(std::string_view left, std::string_view right);
 
 }  // namespace vantorel

@@ -22,7 +22,7 @@ constexpr std::array namedLists{
 
 using ListReference = std::shared_ptr<HostColorList>;
 
-/// The lists of this process; each is set once and then kept for good.
+/// The lists of this process. Each is set once and never reset.
 struct ListReferences {
     ListReference cssKeywordListS;
     ListReference webSafeColorListS;
@@ -35,7 +35,7 @@ ListReferences& listReferences()
     return references;
 }
 
-/// Finds or builds one list. `fill` adds the entries to a new one.
+/// Finds a list in the store, or builds and saves it. `fill` adds the entries to a new list.
 template <class Fill>
 void buildList(ListReference& reference, BuiltInList token, HostColorListStore& store, Fill&& fill)
 {

@@ -5,9 +5,8 @@
 namespace vantorel {
 namespace {
 
-// clang-format off
-// Some keys are misspelt and some values unusual. They stay so: they are in the lists that users
-// have saved.
+// Some keys are misspelt and some values differ from the SVG standard. They are kept because users'
+// saved lists contain them.
 constexpr std::array entries{
     BuiltInColor{u"aliceblue", 0xF0F8FF},
     BuiltInColor{u"atniquewhite", 0xFAEBD7},

@@ -5,8 +5,8 @@
 namespace vantorel {
 namespace {
 
-/// +1 or -1 when the edge crosses the ray that runs from `p` to the right, 0 otherwise. An edge
-/// owns its lower end and not its upper one, so a ray through a corner is counted once.
+/// Returns +1 or -1 if the edge crosses the ray from `p` to the right, else 0. An edge includes its
+/// lower end but not its upper one, so that a ray through a corner is counted once.
 int windingOfEdge(HostPoint a, HostPoint b, HostPoint p)
 {
     if ((a.y <= p.y) == (b.y <= p.y)) return 0;

@@ -6,14 +6,14 @@
 
 namespace vantorel {
 
-/// A path of straight lines, with the line width that a stroke of it uses. Emptying the path keeps
-/// the width: a path that is reused strokes with the width that its last user left.
+/// A path of straight lines and the line width used to stroke it. `removeAllPoints` keeps the line
+/// width, so a path that is reused strokes with the width set last.
 class HostBezierPath {
 public:
     enum class ElementKind { moveTo, lineTo, close };
     struct Element {
         ElementKind kind = ElementKind::moveTo;
-        HostPoint point;  ///< of no meaning for `close`
+        HostPoint point;  ///< unused for `close`
 
         bool operator==(const Element&) const = default;
     };
@@ -23,18 +23,19 @@ public:
     void lineToPoint(HostPoint point) { _elements.push_back({ElementKind::lineTo, point}); }
     void closePath() { _elements.push_back({ElementKind::close, {}}); }
 
-    /// A closed rectangle, counter-clockwise from its lower left corner.
+    /// Appends a closed rectangle, counter-clockwise from its lower left corner.
     void appendBezierPathWithRect(HostRect rect);
 
     [[nodiscard]] const std::vector<Element>& elements() const { return _elements; }
     [[nodiscard]] bool isEmpty() const { return _elements.empty(); }
 
-    /// In points; 1.0 for a new path.
+    /// The width in points; 1.0 for a new path.
     [[nodiscard]] double lineWidth() const { return _lineWidth; }
     void setLineWidth(double width) { _lineWidth = width; }
 
-    /// Whether a point lies inside by the non-zero winding rule; open parts count as closed. Of the
-    /// outline, left and bottom edges belong to the inside and right and top edges do not.
+    /// Returns whether a point lies inside the path by the non-zero winding rule. Open subpaths
+    /// count as closed. Points on left and bottom edges are inside; points on right and top edges
+    /// are not.
     [[nodiscard]] bool containsPoint(HostPoint point) const;
 
     bool operator==(const HostBezierPath&) const = default;

@@ -4,9 +4,10 @@
 
 namespace vantorel {
 
-/// A colour as a desktop hands it around: calibrated RGB (sRGB) fractions with alpha, or a pattern,
-/// which has no RGB form. Fractions are normally 0..1; values outside, infinities and NaN are kept
-/// as they are, since a host may pass them on. "No colour" is an empty `std::optional<HostColor>`.
+/// A colour as exchanged with the desktop: either calibrated RGB (sRGB) fractions with alpha, or a
+/// pattern, which cannot be converted to RGB. Fractions are normally 0..1. Values outside that
+/// range, infinities and NaN are stored unchanged, since a host may pass them on. "No colour" is an
+/// empty `std::optional<HostColor>`.
 class HostColor {
 public:
     struct Components {
@@ -35,7 +36,7 @@ public:
 
     [[nodiscard]] bool isPattern() const { return _pattern; }
 
-    /// The colour in calibrated RGB; empty for a pattern, which cannot be converted.
+    /// Returns the colour in calibrated RGB, or `std::nullopt` for a pattern.
     [[nodiscard]] std::optional<Components> calibratedRGB() const
     {
         if (_pattern) return std::nullopt;

@@ -22,24 +22,26 @@ public:
     [[nodiscard]] const std::u16string& name() const { return _name; }
     [[nodiscard]] const std::vector<std::u16string>& allKeys() const { return _keys; }
 
-    /// The colour of a key; empty when the list has no such key, or no colour for it.
+    /// Returns the colour of a key, or `std::nullopt` if the list lacks the key or has no colour
+    /// for it.
     [[nodiscard]] std::optional<HostColor> colorWithKey(const std::u16string& key) const
     {
         const auto index = indexOf(key, hashOf(key));
         return index && hasColorAtIndex(*index) ? std::optional(_colors[*index]) : std::nullopt;
     }
 
-    /// The colour at a place of `allKeys()`; the index must be below its size. A pattern stands for
-    /// none: neither has an RGB form.
+    /// Returns the colour at an index of `allKeys()`; the index must be in range. A key without a
+    /// colour returns a pattern, since neither can be converted to RGB.
     [[nodiscard]] const HostColor& colorAtIndex(std::size_t index) const { return _colors[index]; }
 
-    /// Whether the key at that place has a colour at all: a list of another program may lack some.
+    /// Returns whether the key at that index has a colour: lists of other programs may contain keys
+    /// without one.
     [[nodiscard]] bool hasColorAtIndex(std::size_t index) const
     {
         return _colorless.empty() || !_colorless.contains(index);
     }
 
-    /// Replaces the colour of a key in its place, or appends a new entry.
+    /// Replaces the colour of a key, keeping its position, or appends a new entry.
     void setColor(const HostColor& color, const std::u16string& key)
     {
         const std::size_t hash = hashOf(key);
@@ -52,7 +54,7 @@ public:
         }
     }
 
-    /// Appends a new entry; false, with nothing changed, when the list has its key already.
+    /// Appends a new entry. Returns false, leaving the list unchanged, if the key already exists.
     bool addColor(const HostColor& color, const std::u16string& key)
     {
         const std::size_t hash = hashOf(key);
@@ -61,7 +63,8 @@ public:
         return true;
     }
 
-    /// Appends a key without a colour; false, with nothing changed, when the list has it already.
+    /// Appends a key without a colour. Returns false, leaving the list unchanged, if the key
+    /// already exists.
     bool addKey(const std::u16string& key)
     {
         if (!addColor(HostColor::patternColor(), key)) return false;
@@ -69,7 +72,7 @@ public:
         return true;
     }
 
-    /// Grows with every change, so that what was derived from the list can be kept until then.
+    /// Increases with every change, so that callers can cache what they derive from the list.
     [[nodiscard]] std::uint64_t revision() const { return _revision; }
 
 private:
@@ -99,26 +102,26 @@ private:
     std::vector<std::u16string> _keys;
     std::vector<HostColor> _colors;
     std::unordered_set<std::size_t> _colorless;
-    // By the hash of the key, so that no key is kept twice.
+    // Maps the hash of each key to its index, so that each key is stored once.
     std::unordered_multimap<std::size_t, std::size_t> _indexes;
     std::uint64_t _revision = 0;
 };
 
-/// The colour lists that a user shares between programs.
+/// The user's colour lists, which several programs share.
 class HostColorListStore {
 public:
     virtual ~HostColorListStore() = default;
 
-    /// The installed list of exactly that name, or null. A list stays valid while somebody holds
-    /// it, also after the store has found a newer one of that name.
+    /// Returns the installed list of exactly that name, or null. A list stays valid as long as
+    /// somebody holds the pointer, even after the store has loaded a newer list of that name.
     [[nodiscard]] virtual std::shared_ptr<HostColorList> colorListNamed(
         const std::u16string& name) = 0;
 
-    /// The names of all installed lists, in the store's order, each once.
+    /// Returns the names of all installed lists, in the store's order, without duplicates.
     [[nodiscard]] virtual std::vector<std::u16string> availableColorLists() = 0;
 
-    /// Saves a list among the user's own under its own name, replacing one of that name; from then
-    /// on it is installed. False when it could not be saved.
+    /// Saves a list among the user's own lists, replacing an existing list of that name. The list
+    /// is installed from then on. Returns false if it could not be saved.
     virtual bool writeColorList(const std::shared_ptr<HostColorList>& list) = 0;
 };
 

@@ -10,7 +10,7 @@
 
 namespace vantorel {
 
-/// A text that stands for a colour, and what people call its form, e.g. "Hex Code".
+/// A text form of a colour and the display name of that form, e.g. "Hex Code".
 struct HostColorText {
     std::u16string name;
     std::u16string text;
@@ -18,11 +18,11 @@ struct HostColorText {
     bool operator==(const HostColorText&) const = default;
 };
 
-/// One page of a colour panel: what the panel knows of a picker. The panel owns its pickers and
-/// ends them before itself.
+/// One page of a colour panel: the interface through which the panel uses a picker. The panel owns
+/// its pickers and destroys them before itself.
 class HostColorPicker {
 public:
-    /// The mask tells which modes the panel wants; `panel` must outlive the picker.
+    /// `pickerMask` contains the modes that the panel supports. `panel` must outlive the picker.
     HostColorPicker(std::uint32_t pickerMask, HostColorPanel& panel)
         : _pickerMask(pickerMask), _colorPanel(panel)
     {
@@ -34,31 +34,30 @@ public:
     [[nodiscard]] HostColorPanel& colorPanel() const { return _colorPanel; }
     [[nodiscard]] std::uint32_t pickerMask() const { return _pickerMask; }
 
-    /// The page's whole interface, made at the initial request. The picker owns it. Null when it
-    /// could not be made; the panel then shows a plain message in its place.
+    /// Returns the page's root view, created at the initial request. The picker owns it. Returns
+    /// null if the view cannot be created; the panel then shows a plain message in its place.
     virtual HostView* provideNewView(bool initialRequest) = 0;
 
     [[nodiscard]] virtual bool supportsMode(int mode) const = 0;
     [[nodiscard]] virtual int currentMode() const = 0;
     [[nodiscard]] virtual std::u16string buttonToolTip() const = 0;
-    /// The picture on the page's button, in SVG; empty for none.
+    /// The SVG picture for the page's button; empty if there is none.
     [[nodiscard]] virtual std::string buttonImage() const { return {}; }
-    /// The smallest page, in points.
+    /// The minimum size of the page, in points.
     [[nodiscard]] virtual HostSize minContentSize() const = 0;
 
-    /// The panel's colour has changed, also when the picker itself has changed it.
+    /// Called when the panel's colour has changed, including changes made by the picker itself.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
-    /// The page has a new size. `sender` is the view that changed, or null.
+    /// Called when the page has a new size. `sender` is the view that changed, or null.
     virtual void viewSizeChanged(HostView* sender) = 0;
 
-    /// The text that a drag of the colour out of the page carries; nothing when it is the colour
-    /// itself.
+    /// The text to drag out of the page, or `std::nullopt` if a drag carries the colour itself.
     [[nodiscard]] virtual std::optional<std::u16string> dragText() const { return std::nullopt; }
-    /// The current colour in every form of text that the picker can write; the hex code first.
+    /// The current colour in every text form that the picker can write, the hex code first.
     [[nodiscard]] virtual std::vector<HostColorText> colorTexts() const { return {}; }
 
-    /// Sends one of the picker's actions by its name, e.g. "poundSignAction"; `sender` is the
-    /// control that stands for its sender, or null. False when there is no such action.
+    /// Runs the picker's action of that name, e.g. "poundSignAction". `sender` is the control to
+    /// use as the action's sender, or null. Returns false if there is no such action.
     virtual bool performAction(std::string_view name, HostControl* sender) = 0;
 
 private:

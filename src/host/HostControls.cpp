@@ -61,7 +61,7 @@ void HostPopUpButton::moveItems(const std::vector<int>& indexes, int to)
     std::vector<bool> moves(_menu.size());
     for (const int index : indexes)
         moves[static_cast<std::size_t>(index)] = true;
-    // The new order, as old indexes.
+    // The old indexes of the items, in the new order.
     std::vector<int> order;
     order.reserve(_menu.size());
     for (int index = 0; index < numberOfItems(); ++index) {

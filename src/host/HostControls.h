@@ -14,14 +14,14 @@
 
 namespace vantorel {
 
-/// A view that the user operates; ending the operation sends its action.
+/// A view that the user operates. When the user has finished, the control sends its action.
 class HostControl : public HostView {
 public:
     using Action = std::function<void(HostControl& sender)>;
     using HostView::HostView;
 
     void setAction(Action action) { _action = std::move(action); }
-    /// What the control does by itself when the user has operated it.
+    /// Sends the action. Desktops call this when the user has operated the control.
     void sendAction()
     {
         if (_action) _action(*this);
@@ -31,17 +31,18 @@ private:
     Action _action;
 };
 
-/// One line of text, shown or edited. The action is sent when the user ends the entry (Return).
+/// A line of text, editable or not. The action is sent when the user ends the entry (Return).
 class HostTextField : public HostControl {
 public:
     using HostControl::HostControl;
 
     [[nodiscard]] virtual std::u16string stringValue() const = 0;
-    /// Does not count as a change by the user.
+    /// Setting the text from code does not count as a change by the user.
     virtual void setStringValue(const std::u16string& text) = 0;
     virtual void setTextColor(const HostColor& color) = 0;
 
-    /// Called after each edit by the user: a key, an input method, a paste.
+    /// Sets the function to call after each edit by the user: a key press, an input method, a
+    /// paste.
     void setTextDidChange(std::function<void()> reaction) { _textDidChange = std::move(reaction); }
     void sendTextDidChange()
     {
@@ -87,40 +88,41 @@ private:
     int _state = 0;
 };
 
-/// A button that shows one item of its menu and opens the menu when pressed. The item model is
-/// here, so that selection follows the same rules on every desktop; a desktop shows it.
+/// A button that shows one item of its menu and opens the menu when pressed. This class holds the
+/// items, so that selection follows the same rules on every desktop; the desktop only shows them.
 class HostPopUpButton : public HostControl {
 public:
     using HostControl::HostControl;
     static constexpr int noItem = -1;
 
     void removeAllItems();
-    /// Replaces all items; the first one, if there is one, becomes the selected one.
+    /// Replaces all items and selects the first, if any.
     void setItems(HostMenu items);
-    /// The first item put into an empty pop-up becomes the selected one.
+    /// Appends an item. The first item added to an empty pop-up becomes the selected one.
     void addItem(HostMenuItem item);
     void addItemWithTitle(const std::u16string& title);
     void addItemsWithTitles(const std::vector<std::u16string>& titles);
-    /// `index` is clamped to the items that there are; the selected item stays selected.
+    /// Inserts an item. `index` is clamped to the valid range. The selected item stays selected.
     void insertItem(HostMenuItem item, int index);
     void setTitleOfItem(int index, const std::u16string& title);
-    /// Moves the items at `indexes`, each of which must be one and come once, in the order given to
-    /// where the item at `to` stands among the others. The selected item stays selected. Takes one
-    /// pass, however many move.
+    /// Moves the items at `indexes`, in the order given, to just before the item at `to`. The
+    /// indexes must be in range and distinct. The selected item stays selected. Takes a single
+    /// pass, however many items move.
     void moveItems(const std::vector<int>& indexes, int to);
 
     [[nodiscard]] const HostMenu& menu() const { return _menu; }
     [[nodiscard]] int numberOfItems() const { return static_cast<int>(_menu.size()); }
-    /// The first item with that title; `noItem` when there is none. Separators have no title.
+    /// Returns the index of the first item with that title, or `noItem`. Separators have no title.
     [[nodiscard]] int indexOfItemWithTitle(const std::u16string& title) const;
 
-    /// Out of range, or a title that no item has: nothing is selected.
+    /// An index out of range, or a title that no item has, clears the selection.
     void selectItemAtIndex(int index);
     void selectItemWithTitle(const std::u16string& title);
     [[nodiscard]] int indexOfSelectedItem() const { return _selected; }
     [[nodiscard]] std::optional<std::u16string> titleOfSelectedItem() const;
 
-    /// Called each time before the menu opens; an empty function ends that.
+    /// Sets the function to call each time before the menu opens; pass an empty function to remove
+    /// it.
     void setWillPopUp(std::function<void()> reaction) { _willPopUp = std::move(reaction); }
     void sendWillPopUp()
     {
@@ -130,7 +132,7 @@ public:
     }
 
 protected:
-    /// Items or selection have changed.
+    /// Called when the items or the selection have changed.
     virtual void menuDidChange() {}
 
 private:
@@ -141,13 +143,13 @@ private:
     std::function<void()> _willPopUp;
 };
 
-/// What a custom view shows and does; the picker implements it, the desktop calls it.
+/// The drawing and mouse handling of a custom view. The picker implements it; the desktop calls it.
 class HostViewContent {
 public:
     virtual ~HostViewContent() = default;
 
     virtual void drawRect(HostCanvas& canvas) = 0;
-    /// A click into an inactive window counts as well.
+    /// Also called for a click into an inactive window.
     virtual void mouseDown(const HostEvent&) {}
     virtual void mouseDragged(const HostEvent&) {}
     virtual void mouseMoved(const HostEvent&) {}
@@ -155,15 +157,16 @@ public:
     virtual void mouseExited(const HostEvent&) {}
 };
 
-/// A view that is painted by a `HostViewContent`, which must outlive it. It gets `mouseEntered` and
-/// `mouseExited` for its tracking rectangle alone, and `mouseMoved` while the pointer is inside it
-/// and the panel accepts mouse-moved events.
+/// A view painted by a `HostViewContent`, which must outlive it. `mouseEntered` and `mouseExited`
+/// are sent only for its tracking rectangle, `mouseMoved` while the pointer is inside the view and
+/// the panel accepts mouse-moved events.
 class HostCustomView : public HostView {
 public:
     using HostView::HostView;
 
-    /// Returns a tag that is never 0. `rect` is in the view's own coordinates; `assumeInside` tells
-    /// where the pointer is now, so that only a later crossing counts.
+    /// Adds a tracking rectangle and returns its tag, which is never 0. `rect` is in the view's own
+    /// coordinates. `assumeInside` says whether the pointer is inside it now, so that only later
+    /// crossings are reported.
     virtual std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) = 0;
     virtual void removeTrackingRect(std::intptr_t tag) = 0;
 };

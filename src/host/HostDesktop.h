@@ -11,13 +11,13 @@
 
 namespace vantorel {
 
-/// A one-shot timer. Ending the object before it has fired cancels it.
+/// A one-shot timer. Destroying it before it has fired cancels it.
 class HostTimer {
 public:
     virtual ~HostTimer() = default;
 };
 
-/// The services of the desktop that are the same for every panel of a process.
+/// Desktop services shared by all panels of a process.
 class HostDesktop {
 public:
     virtual ~HostDesktop() = default;
@@ -26,14 +26,14 @@ public:
     virtual HostFiles& files() = 0;
     virtual HostInterfaceFactory& interfaceFactory() = 0;
 
-    /// Calls `reaction` once on the user-interface thread after `seconds`.
+    /// Calls `reaction` once, after `seconds`, on the user-interface thread.
     [[nodiscard]] virtual std::unique_ptr<HostTimer> scheduleTimer(
         double seconds, std::function<void()> reaction) = 0;
 
-    /// The size of the laid-out text, in points. Lines part at "\n".
+    /// Returns the size of the laid-out text, in points. Lines are separated by "\n".
     [[nodiscard]] virtual HostSize sizeOfText(const HostText& text) = 0;
 
-    /// The translation of a key in the host application's own texts; the key when there is none.
+    /// Returns the host application's translation of a key, or the key itself if there is none.
     [[nodiscard]] virtual std::u16string localizedString(const std::u16string& key) = 0;
 
     virtual void openURL(const std::string& url) = 0;

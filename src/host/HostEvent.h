@@ -21,16 +21,16 @@ inline constexpr std::uint64_t controlModifierFlag = 0x40000;
 inline constexpr std::uint64_t alternateModifierFlag = 0x80000;
 inline constexpr std::uint64_t commandModifierFlag = 0x100000;
 
-/// The bit of an event type in a mask of types.
+/// Returns the bit of an event type in an event mask.
 [[nodiscard]] constexpr std::uint32_t maskOfEventType(HostEventType type)
 {
     return 1U << static_cast<std::uint32_t>(type);
 }
 
-/// An event of the mouse.
+/// A mouse event.
 struct HostEvent {
     HostEventType type = HostEventType::leftMouseDown;
-    /// In the own coordinates of the view that gets the event.
+    /// The location in the coordinates of the view that receives the event.
     HostPoint location;
     std::uint64_t modifierFlags = 0;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Points, sizes and rectangles. All lengths are in points (device-independent pixels), and the
-/// y axis points up: a rectangle's origin is its lower left corner.
+/// Points, sizes and rectangles. All lengths are in points (device-independent pixels). The y axis
+/// points up: a rectangle's origin is its lower left corner.
 
 namespace vantorel {
 
@@ -32,8 +32,8 @@ struct HostRect {
     [[nodiscard]] HostSize size() const { return {width, height}; }
     [[nodiscard]] HostPoint origin() const { return {x, y}; }
 
-    /// Points on the left and bottom edge are inside, those on the right and top edge are not, so
-    /// that rectangles side by side never share a point. A NaN coordinate is outside.
+    /// Points on the left and bottom edges are inside; points on the right and top edges are not,
+    /// so adjacent rectangles never share a point. A NaN coordinate is outside.
     [[nodiscard]] bool contains(HostPoint p) const
     {
         return p.x >= x && p.x < maxX() && p.y >= y && p.y < maxY();
@@ -42,7 +42,7 @@ struct HostRect {
     bool operator==(const HostRect&) const = default;
 };
 
-/// `rect` made smaller by `dx` on the left and right and by `dy` at the bottom and top.
+/// Returns `rect` reduced by `dx` on the left and right and by `dy` at the bottom and top.
 [[nodiscard]] inline HostRect insetRect(HostRect rect, double dx, double dy)
 {
     return {rect.x + dx, rect.y + dy, rect.width - 2 * dx, rect.height - 2 * dy};

@@ -7,34 +7,34 @@
 
 namespace vantorel {
 
-/// What a desktop must know to make one control of an interface file.
+/// The properties of a control in an interface file, from which a desktop creates the control.
 struct HostControlDescription {
     /// The control's name in the interface file, unique there.
     std::string identifier;
     HostRect frame;
     HostResizing resizing;
-    /// The text of a label, button or field when it is new.
+    /// The initial text of a label, button or field.
     std::u16string title;
     std::u16string toolTip;
-    /// What assistive technology calls the control.
+    /// The name that assistive technology announces for the control.
     std::u16string accessibleName;
-    /// Size of its text; 0 for the desktop's small control size.
+    /// The text size in points; 0 for the desktop's small control size.
     double pointSize = 0;
     enum class Alignment { left, center, right } alignment = Alignment::left;
 
-    /// Text fields: a label when false.
+    /// Text fields only: if false, the field is a label.
     bool editable = true;
-    /// Text fields: digits of equal width.
+    /// Text fields only: whether all digits have the same width.
     bool monospaced = false;
 
     enum class ButtonKind { push, checkBox, toggle } buttonKind = ButtonKind::push;
-    /// Buttons: a picture in SVG that takes the text colour where it says `currentColor`; may be
-    /// empty.
+    /// Buttons only: an SVG picture, drawn with the text colour where it uses `currentColor`; may
+    /// be empty.
     std::string svgImage;
 };
 
-/// Makes a desktop's own controls. They come without superview; the caller owns them, and they must
-/// not outlive the factory.
+/// Creates a desktop's native controls. New controls have no superview. The caller owns them and
+/// must destroy them before the factory.
 class HostInterfaceFactory {
 public:
     virtual ~HostInterfaceFactory() = default;

@@ -12,16 +12,17 @@ namespace vantorel {
 struct HostMenuItem;
 using HostMenu = std::vector<HostMenuItem>;
 
-/// An entry of a menu: a separator, the parent of a submenu, or an item to choose.
+/// A menu item: a separator, the parent of a submenu, or an item that the user can choose.
 struct HostMenuItem {
     std::u16string title;
     bool separator = false;
     std::optional<HostImage> image;
-    /// Only a parent has one. It makes the items of the submenu, each time that they are looked at:
-    /// what costs something to find out is found out when the user opens it. There may be none.
+    /// Set for a submenu's parent only. Called whenever the submenu's items are needed, so that
+    /// items that are expensive to find are looked up only when the user opens the submenu. It may
+    /// return an empty menu.
     std::function<HostMenu()> submenu;
-    /// What choosing it does. Without one, the pop-up that holds it selects it and sends its
-    /// action.
+    /// Called when the user chooses the item. If empty, the pop-up that contains the item selects
+    /// it and sends the pop-up's action.
     std::function<void(const HostMenuItem&)> action;
 
     [[nodiscard]] static HostMenuItem separatorItem()

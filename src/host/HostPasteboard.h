@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// What a drag carries, always of one type alone: a text (UTF-8) or a colour.
+/// The data of a drag, either a text (UTF-8) or a colour.
 using HostPasteboardItem = std::variant<std::string, HostColor>;
 
 }  // namespace vantorel

@@ -9,21 +9,21 @@
 ///     extern "C" const std::uint32_t vantorelPluginABI;                 // = hostPluginABI
 ///     extern "C" const vantorel::HostPlugin* vantorelPlugin();
 ///
-/// The panel reads the first before it calls anything and refuses a library of another number: what
-/// crosses the border are C++ objects, so both sides must be built for the same `host/` folder. The
-/// number grows with every change there.
+/// The panel reads `vantorelPluginABI` before it calls anything and rejects a library with another
+/// number. C++ objects cross the plug-in boundary, so both sides must be built against the same
+/// `host/` folder. Every change to that folder increases the number.
 namespace vantorel {
 
 inline constexpr std::uint32_t hostPluginABI = 9;
 
-/// What a plug-in offers. It lives as long as the library is loaded.
+/// The description of a plug-in. It must stay valid as long as the library is loaded.
 struct HostPlugin {
-    /// A name that no other plug-in has, e.g. "org.vantorel.hex".
+    /// A globally unique name, e.g. "org.vantorel.hex".
     const char* identifier;
-    /// What people call it.
+    /// The name shown to users.
     const char* displayName;
-    /// Makes a picker for a panel. `bundle` gives the plug-in's resources and outlives the picker.
-    /// Null when it cannot be made. May throw nothing.
+    /// Creates a picker for a panel. `bundle` provides the plug-in's resources and outlives the
+    /// picker. Returns null if the picker cannot be created. Must not throw.
     HostColorPicker* (*createPicker)(std::uint32_t pickerMask, HostColorPanel& panel,
                                      const HostBundle& bundle);
     void (*destroyPicker)(HostColorPicker* picker);

@@ -5,12 +5,12 @@
 #include <cstdint>
 #include <type_traits>
 
-/// VANTOREL_PICKER_PLUGIN(Picker, "org.example.name", "Name"): the two symbols of a plug-in whose
-/// one page is a `Picker`, a class derived from `HostColorPicker`. It is written once in a library,
-/// outside of every namespace.
+/// VANTOREL_PICKER_PLUGIN(Picker, "org.example.name", "Name") defines the two symbols of a plug-in
+/// whose only page is a `Picker`, a class derived from `HostColorPicker`. Use it once per library,
+/// outside all namespaces.
 ///
-/// The page is made by `Picker(pickerMask, panel, bundle)`, or without the bundle where the class
-/// has no such constructor. One that throws counts as a page that cannot be made.
+/// The page is created by `Picker(pickerMask, panel, bundle)`, or by `Picker(pickerMask, panel)` if
+/// the class has no such constructor. If the constructor throws, `createPicker` returns null.
 #define VANTOREL_PICKER_PLUGIN(Picker, identifier, displayName)                              \
     extern "C" {                                                                             \
     __attribute__((visibility("default"))) extern const std::uint32_t vantorelPluginABI;     \

@@ -1,6 +1,6 @@
 #pragma once
 
-// Plug-ins find the conversions between UTF-8 and UTF-16 here.
+// Included for plug-ins, which find the conversions between UTF-8 and UTF-16 through this header.
 #include "host/HostColor.h"
 #include "text/Unicode.h"
 
@@ -8,7 +8,7 @@
 
 namespace vantorel {
 
-/// A run of text to be measured or drawn in the desktop's sans-serif face.
+/// A text to measure or draw in the desktop's sans-serif font.
 struct HostText {
     std::u16string string;
     double pointSize = 12;

@@ -13,7 +13,7 @@ HostRect withoutNegativeSize(HostRect rect)
     return rect;
 }
 
-/// Shares a superview's growth along one axis between the stretching parts of a view.
+/// Distributes a superview's growth along one axis among the stretching parts of a view.
 void stretch(double growth, bool before, bool itself, bool after, double& position, double& length)
 {
     const int parts = int{before} + int{itself} + int{after};
@@ -34,7 +34,7 @@ HostView::HostView(HostRect frame)
 
 HostView::~HostView()
 {
-    // The hooks of a derived class are gone by now, so the links are cut without them.
+    // The derived class has been destroyed, so its hooks must not be called.
     if (_superview != nullptr) std::erase(_superview->_subviews, this);
     for (HostView* view : _subviews)
         view->_superview = nullptr;
@@ -106,7 +106,7 @@ void HostView::resizeSubviews(HostSize oldSize)
 {
     const double wider = _askedFrame.width - oldSize.width;
     const double higher = _askedFrame.height - oldSize.height;
-    // A subview's hook may change the tree, so walk a copy of the list.
+    // Iterate over a copy of the list, because a subview's hook may change the tree.
     for (HostView* view : std::vector<HostView*>(_subviews)) {
         const HostResizing& rule = view->_resizing;
         HostRect frame = view->_askedFrame;

@@ -10,9 +10,9 @@
 
 namespace vantorel {
 
-/// How a view follows its superview when that changes size. The parts named may stretch; the
-/// change of size is shared equally between them. With none named, the view keeps its place at the
-/// lower left.
+/// How a view is resized with its superview. The change of size is shared equally between the parts
+/// that are set to true. If none is set, the view keeps its size and its distance from the lower
+/// left corner.
 struct HostResizing {
     bool leftMargin = false;
     bool width = false;
@@ -24,13 +24,14 @@ struct HostResizing {
     bool operator==(const HostResizing&) const = default;
 };
 
-/// A rectangle of the interface, in a tree of its like. A desktop derives its own views from this
-/// class and mirrors the state below in its widgets through the hooks at the end.
+/// A rectangle of the interface, one node of a tree of views. A desktop derives its own views from
+/// this class and mirrors the state below in its widgets through the hooks at the end.
 ///
 /// Frames are in the superview's coordinates, bounds in the view's own; y points up. The scale is
-/// always 1: the size of the bounds is that of the frame, only their origin can differ from (0, 0).
+/// always 1: the bounds have the size of the frame, and only their origin can differ from (0, 0).
 ///
-/// The tree does not own: whoever made a view keeps it, and a view that ends leaves the tree.
+/// Superviews do not own their subviews: whoever creates a view owns it. A view leaves the tree
+/// when it is destroyed.
 class HostView {
 public:
     explicit HostView(HostRect frame);
@@ -39,10 +40,12 @@ public:
     virtual ~HostView();
 
     [[nodiscard]] HostRect frame() const { return _frame; }
-    /// Also resizes the subviews by their resizing rules. Widths and heights below 0 count as 0.
+    /// Sets the frame and resizes the subviews by their resizing rules. Negative widths and heights
+    /// are treated as 0.
     void setFrame(HostRect frame);
-    /// Takes over the frame of another view, and with it what that one would get back when their
-    /// superview, too small now, grows.
+    /// Sets the frame of this view to that of another view, including its size before it was
+    /// clamped to 0. If their superview is too small now and grows again, this view grows as the
+    /// other one would have.
     void setFrameOf(const HostView& view) { setFrame(view._askedFrame); }
     /// Moves the view without changing its size.
     void setFrameOrigin(HostPoint origin)
@@ -51,25 +54,27 @@ public:
     }
 
     [[nodiscard]] HostRect bounds() const { return _bounds; }
-    /// Sets the origin of the view's own coordinates; the size is taken from the frame.
+    /// Sets the origin of the view's own coordinates. The size of `bounds` is ignored; the frame's
+    /// size is used.
     void setBounds(HostRect bounds);
 
     [[nodiscard]] HostView* superview() const { return _superview; }
     [[nodiscard]] const std::vector<HostView*>& subviews() const { return _subviews; }
-    /// Puts `view` on top of the other subviews, taking it out of where it was.
+    /// Puts `view` on top of the other subviews and removes it from its previous superview.
     void addSubview(HostView& view);
     void removeFromSuperview();
 
     [[nodiscard]] HostResizing resizing() const { return _resizing; }
     void setResizing(HostResizing resizing) { _resizing = resizing; }
 
-    /// Nothing removes the tool tip.
+    /// Pass `std::nullopt` to remove the tool tip.
     void setToolTip(std::optional<std::u16string> text);
     [[nodiscard]] const std::optional<std::u16string>& toolTip() const { return _toolTip; }
 
     using AccessibleDescription = std::function<std::u16string()>;
-    /// What assistive technology tells of the view's content besides its name. It is asked for when
-    /// somebody wants to know. Whoever changes the answer also has the view drawn again.
+    /// Sets the function that returns the description of the view's content which assistive
+    /// technology announces after the view's name. It is called on demand. When the description
+    /// changes, redraw the view, so that the change is announced.
     void setAccessibleDescription(AccessibleDescription description)
     {
         _accessibleDescription = std::move(description);
@@ -79,27 +84,27 @@ public:
         return _accessibleDescription ? std::optional(_accessibleDescription()) : std::nullopt;
     }
 
-    /// Marks the whole view for redrawing, or takes the mark away.
+    /// Marks the whole view for redrawing, or removes the mark.
     void setNeedsDisplay(bool flag);
-    /// Marks a part of the view, in its own coordinates.
+    /// Marks a part of the view, in its own coordinates, for redrawing.
     void setNeedsDisplayInRect(HostRect rect);
     [[nodiscard]] bool needsDisplay() const { return _needsDisplay; }
 
 protected:
     virtual void frameDidChange() {}
     virtual void boundsDidChange() {}
-    /// The superview changed; it may be null now.
+    /// Called when the superview has changed; it may be null.
     virtual void hierarchyDidChange() {}
     virtual void toolTipDidChange() {}
-    /// `rect` must be drawn again, in the view's own coordinates.
+    /// Called when `rect`, in the view's own coordinates, must be redrawn.
     virtual void displayDidBecomeNeeded(HostRect rect);
 
 private:
     void resizeSubviews(HostSize oldSize);
 
     HostRect _frame;
-    /// The frame before negative sizes were cut to 0: what a superview that becomes too small takes
-    /// from its subviews they get back when it grows.
+    /// The frame before negative sizes were clamped to 0. When a superview becomes too small and
+    /// grows again, its subviews recover their sizes from it.
     HostRect _askedFrame;
     HostRect _bounds;
     HostView* _superview = nullptr;

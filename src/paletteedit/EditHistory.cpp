@@ -3,7 +3,7 @@
 namespace vantorel {
 namespace {
 
-/// The state before is mostly that after the step before it.
+/// Counts one state only: a step's first state is usually the last state of the step before it.
 std::size_t entryCount(const EditStep& step)
 {
     const auto& state = step.after ? step.after : step.before;

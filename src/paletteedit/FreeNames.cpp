@@ -9,7 +9,7 @@
 namespace vantorel {
 namespace {
 
-/// "Red" and 2 of "Red 2"; the name itself and 1 where no number stands behind it.
+/// Splits "Red 2" into "Red" and 2. A name without a number is returned with 1.
 std::pair<std::u16string, std::size_t> nameAndNumber(const std::u16string& name)
 {
     const std::size_t blank = name.rfind(u' ');

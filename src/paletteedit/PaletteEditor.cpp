@@ -15,7 +15,7 @@ std::u16string fallbackName(const std::string& path)
     return PaletteFolder::fallbackListName(path.substr(path.rfind('/') + 1));
 }
 
-/// Whether a palette file says what `paletteText` would not write again.
+/// Returns whether a palette file contains text that `paletteText` would not write.
 bool holdsOtherLines(const std::string& bytes, const PaletteReading& reading)
 {
     if (!reading.skipped.empty()) return true;
@@ -24,7 +24,7 @@ bool holdsOtherLines(const std::string& bytes, const PaletteReading& reading)
         const std::size_t lineStart = bytes.find_last_of("\r\n", at) + 1;
         const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", at), bytes.size());
         const bool beginsLine = bytes.find_first_not_of(" \t", lineStart) == at;
-        // Programs put a lone "#" below the head; it says nothing.
+        // Some programs write an empty comment, "#", after the head.
         const std::size_t text = bytes.find_first_not_of("# \t", at);
         if (beginsLine && text < lineEnd) return true;
         at = lineEnd;
@@ -37,7 +37,8 @@ PaletteState stateOf(std::u16string name, PaletteEntries entries)
     return {std::move(name), std::make_shared<const PaletteEntries>(std::move(entries)), nullptr};
 }
 
-/// The file as it was where it is known and still right, else one in the strict form.
+/// Returns the original bytes of the file if they are known and still valid, else the list in the
+/// strict form.
 std::string textOfState(const PaletteState& state, const HostColorList& list)
 {
     const bool isRight = state.bytes != nullptr && paletteName(*state.bytes, {}) == state.name;
@@ -67,7 +68,7 @@ PaletteId PaletteEditor::idOfPath(const std::string& path)
 
 void PaletteEditor::readIfChanged(Record& record)
 {
-    // The version first: what changes behind it is seen the next time.
+    // Read the version first, so that a later change is noticed the next time.
     const std::uint64_t version = _files.versionAtPath(record.path);
     if (version != 0 && version == record.version) return;
     record.version = version;
@@ -81,7 +82,7 @@ void PaletteEditor::readIfChanged(Record& record)
     if (record.hasOtherLines) record.state->bytes = std::make_shared<const std::string>(*bytes);
 }
 
-bool PaletteEditor::cannotBeLookedAt(const Record& record) const
+bool PaletteEditor::isUnreadable(const Record& record) const
 {
     return record.version == 0 && _files.kindAtPath(record.path) != HostFileKind::none;
 }
@@ -188,7 +189,8 @@ EditOutcome PaletteEditor::setEntries(PaletteId id, PaletteEntries entries)
     if (record->program.empty()) {
         return doFirst({id, record->state, stateOf(record->state->name, std::move(entries))});
     }
-    // The plain name, which the other program's list leaves to it as soon as the two differ.
+    // Use the plain name: as soon as the two lists differ, the other program's list is listed under
+    // another name.
     std::u16string name = tidyName(record->state->name);
     const bool ownHasIt =
         name.empty() || std::any_of(_palettes.begin(), _palettes.end(), [&](const auto& listed) {
@@ -265,7 +267,7 @@ std::optional<EditStep> PaletteEditor::commit(const EditStep& step, Occasion occ
     PaletteState state = *step.after;
     if (occasion == Occasion::again) {
         const Record* record = recordOf(step.list);
-        // It was not removed when the step was undone.
+        // The list was not removed when the step was undone.
         if (record != nullptr && _files.versionAtPath(record->path) != 0) return step;
         state.name = freeListName(state.name, 0, Among::ownLists);
         if (state.name != step.after->name)
@@ -290,7 +292,7 @@ std::optional<EditStep> PaletteEditor::commitNew(PaletteId id, PaletteState stat
     record.version = _files.versionAtPath(*path);
     record.hasOtherLines = state.bytes != nullptr;
     record.state = state;
-    // A file that is no longer what was just written is read when somebody asks.
+    // If the file has already been changed again, it is read at the next request.
     if (_files.contentsAtPath(*path) != text) record.version = 0;
     _records[id] = std::move(record);
     _idsOfPaths[*path] = id;
@@ -303,17 +305,17 @@ std::optional<EditStep> PaletteEditor::commitRemoval(const EditStep& step, Occas
     Record* record = recordOf(step.list);
     if (record != nullptr) readIfChanged(*record);
     const bool again = occasion == Occasion::again;
-    if (record != nullptr && cannotBeLookedAt(*record)) {
+    if (record != nullptr && isUnreadable(*record)) {
         outcome.remarks.push_back({EditRemark::notRemoved, step.before->name});
         return std::nullopt;
     }
     if (record == nullptr || record->version == 0) {
-        // Gone already; the step has nothing left to do.
+        // The list has already been removed, so there is nothing left to do.
         return EditStep{step.list, step.before, std::nullopt};
     }
     if (!record->state || *record->state->entries != *step.before->entries) {
         outcome.remarks.push_back({EditRemark::changedMeanwhile, step.before->name});
-        // The step counts as undone all the same: nobody could ever undo those before it.
+        // Count the step as undone anyway; otherwise the steps before it could never be undone.
         if (again) return EditStep{step.list, step.before, step.before};
         return std::nullopt;
     }
@@ -332,13 +334,14 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
 {
     Record* record = recordOf(step.list);
     if (record != nullptr) readIfChanged(*record);
-    if (record != nullptr && cannotBeLookedAt(*record)) {
+    if (record != nullptr && isUnreadable(*record)) {
         outcome.remarks.push_back({EditRemark::notSaved, step.after->name});
         return std::nullopt;
     }
     const bool isGone = record == nullptr || record->version == 0;
     if (isGone || !record->state) {
-        // Not a palette any more: what stands there now is somebody's work.
+        // The file is missing or no longer a palette. What is there now may be someone's work, so
+        // the list gets a new file.
         PaletteState state = *step.after;
         state.name = freeListName(state.name, step.list, Among::ownLists);
         outcome.remarks.push_back(
@@ -392,7 +395,7 @@ bool PaletteEditor::save(PaletteId id, Record& record, const PaletteState& state
     if (saved && state.name == record.state->name) {
         saved = _store.replaceFile(path, list, text);
     } else if (saved) {
-        // Written before the old one is removed: whatever happens in between, the list is there.
+        // Write the new file before removing the old one, so that the list exists at every moment.
         const auto newPath = _store.writeNewFile(list, text);
         saved = newPath.has_value();
         if (saved) {

@@ -9,36 +9,39 @@
 
 namespace vantorel {
 
-/// What the user is to be told about a step.
+/// Events of a step that are reported to the user.
 enum class EditRemark {
-    /// The list could not be saved; nothing has changed.
+    /// The list could not be saved and is unchanged.
     notSaved,
     /// The list's file could not be removed.
     notRemoved,
-    /// The old file of a renamed list could not be removed: the list is there twice.
+    /// The old file of a renamed list could not be removed, so the list exists twice.
     oldFileStayed,
-    /// The name was taken; `name` is the one that the list has got.
+    /// The name was taken. `name` is the new name of the list.
     otherName,
-    /// It was another program's; a list of the user's own, `name`, has been made of it.
+    /// The list belonged to another program. It has been copied to `name`, a list of the user's
+    /// own.
     copiedFirst,
-    /// Somebody else had changed the list; both changes are in it.
+    /// Another program had changed the list. Both changes have been merged.
     merged,
-    /// Somebody else had changed the same colours, or damaged the file; the user's list is saved as
-    /// `name`, beside theirs.
+    /// Another program had changed the same colours or damaged the file. The user's list has been
+    /// saved separately as `name`.
     keptBoth,
-    /// Somebody else had removed the list; it is there again.
+    /// Another program had removed the list. It has been restored.
     madeAgain,
-    /// Somebody else has changed the list since it was read, so it has not been removed.
+    /// Another program has changed the list since it was read, so it has not been removed.
     changedMeanwhile,
-    /// A part of the step stays, because somebody else has changed the same colours since.
+    /// The step could be undone only in part, because another program has since changed the same
+    /// colours.
     partlyUndone,
-    /// The file held lines that an edited one cannot keep; it is kept beside it, with a "~".
+    /// The file contained lines that editing would lose. The original has been kept under its name
+    /// with "~" appended.
     keptOriginal,
 };
 
 struct EditOutcome {
     bool done = false;
-    /// The list to look at now; 0 where there is none, as after its removal.
+    /// The list to show now; 0 if there is none, for example after a removal.
     PaletteId list = 0;
     struct Remark {
         EditRemark kind;
@@ -47,44 +50,46 @@ struct EditOutcome {
     std::vector<Remark> remarks;
 };
 
-/// A list that is offered for editing.
+/// A list that can be edited.
 struct EditablePalette {
     PaletteId id = 0;
-    /// As it is listed.
+    /// The name under which it is listed.
     std::u16string name;
-    /// The program that it belongs to; empty for one of the user's own.
+    /// The program that the list belongs to; empty for one of the user's own.
     std::u16string program;
     std::string path;
 
     [[nodiscard]] bool isOwn() const { return program.empty(); }
 };
 
-/// The colour lists of the user, each change saved at once, with undo. A step that cannot be saved
-/// is not done, so that what is shown is what is on the disk.
+/// Edits the user's colour lists. Each change is saved at once and can be undone. A step that
+/// cannot be saved is not applied, so the entries shown are always those on disk.
 ///
-/// Others may write the same files. Before each write the file is compared with what was read, and
-/// what others have changed is merged. A list that is not the user's own is never written: the
-/// first change makes a list of the user's own of it.
+/// Other programs may write the same files. Before each write, the file is compared with what was
+/// read, and foreign changes are merged. Lists of other programs are never written: the first
+/// change copies the list to one of the user's own.
 class PaletteEditor {
 public:
-    /// Removes the file at a path, or moves it where the user finds it again; false when that
-    /// failed. Hosts hand pages no way to remove files, so it comes from whoever owns this object.
+    /// Removes the file at a path, or moves it to the trash; returns false if that failed. Supplied
+    /// by the owner of this object, because `HostFiles` cannot remove files.
     using RemoveFile = std::function<bool(const std::string& path)>;
 
     /// `files` and `store` must outlive the editor.
     PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile);
 
-    /// Brings everything in step with the disk. The lists that others have changed, or removed.
+    /// Refreshes the lists from the disk. Returns those that other programs have changed or
+    /// removed.
     std::vector<EditablePalette> refresh();
 
-    /// As they were at the last refresh or step, in the order of the store.
+    /// The lists as of the last refresh or step, in the order of the store.
     [[nodiscard]] const std::vector<EditablePalette>& palettes() const { return _palettes; }
-    /// Null for a list that is not there.
+    /// Returns a list, or null if it does not exist.
     [[nodiscard]] const EditablePalette* palette(PaletteId id) const;
-    /// Read when first asked for. Empty for a list that is not there, or cannot be read.
+    /// Returns the entries of a list, reading them at the first call. Returns an empty list if the
+    /// list does not exist or cannot be read.
     [[nodiscard]] const PaletteEntries& entriesOf(PaletteId id);
 
-    /// Each is a step. Names are tidied, and made free.
+    /// Each of these is one step. Names are tidied and made unique.
     EditOutcome add(const std::u16string& name, const PaletteEntries& entries);
     EditOutcome rename(PaletteId id, const std::u16string& name);
     EditOutcome remove(PaletteId id);
@@ -96,13 +101,13 @@ public:
     EditOutcome redo();
 
 private:
-    /// What is known of one list's file.
+    /// The known state of a list's file.
     struct Record {
         std::string path;
         std::u16string program;
-        /// Of the file when `state` was read; 0 when it must be read again.
+        /// The file's version when `state` was read; 0 if it must be read again.
         std::uint64_t version = 0;
-        /// Missing while nobody has asked, and when the file is no palette.
+        /// Empty until it is requested, and if the file is not a palette.
         std::optional<PaletteState> state;
         /// Whether the file has lines that saving would drop.
         bool hasOtherLines = false;
@@ -112,18 +117,19 @@ private:
     Record* recordOf(PaletteId id);
     PaletteId idOfPath(const std::string& path);
     void readIfChanged(Record& record);
-    /// Whether the disk does not tell what is at its path. That must not be taken for a list that
-    /// has gone.
-    [[nodiscard]] bool cannotBeLookedAt(const Record& record) const;
+    /// Returns whether something that cannot be read exists at the record's path. Such a list must
+    /// not be treated as removed.
+    [[nodiscard]] bool isUnreadable(const Record& record) const;
     void lookAgain();
-    /// A list of the user's own takes its name from one of another program, which is then listed
-    /// with the program's name; that is no surprise only where it has had the name before.
+    /// Which lists a new name must differ from. One of the user's own lists may take the name of
+    /// another program's list, which is then listed with the program's name appended. That is
+    /// expected only if the user's list has had the name before.
     enum class Among { allLists, ownLists };
     [[nodiscard]] std::u16string freeListName(const std::u16string& wanted, PaletteId except,
                                               Among among) const;
 
-    /// Changes one list from one state into another, as far as the disk agrees. The step as it was
-    /// done; nothing when it was not.
+    /// Applies a step to one list, as far as the file on disk allows. Returns the step that was
+    /// actually applied, or `std::nullopt` if it failed.
     std::optional<EditStep> commit(const EditStep& step, Occasion occasion, EditOutcome& outcome);
     std::optional<EditStep> commitNew(PaletteId id, PaletteState state, EditOutcome& outcome);
     std::optional<EditStep> commitRemoval(const EditStep& step, Occasion occasion,

@@ -8,12 +8,12 @@
 
 namespace vantorel {
 
-/// A named colour of a list, as a palette file can keep it. Copies share what they hold: a long
-/// list costs little in each of the states that undo needs.
+/// A named colour of a list, limited to what a palette file can store. Copies share their data, so
+/// that undo can keep many states of a long list at little cost.
 class PaletteEntry {
 public:
-    /// The colour is rounded to bytes and made opaque; a pattern becomes black. The name is taken
-    /// as it is; `tidyName` makes it fit for a file.
+    /// Rounds the colour to bytes and makes it opaque; a pattern becomes black. The name is not
+    /// changed; use `tidyName` to make it fit for a file.
     PaletteEntry(std::u16string name, const HostColor& color);
 
     [[nodiscard]] const std::u16string& name() const { return _data->name; }
@@ -34,16 +34,16 @@ private:
     std::shared_ptr<const Data> _data;
 };
 
-/// In their order. No two have one name.
+/// Entries in list order. Their names are unique.
 using PaletteEntries = std::vector<PaletteEntry>;
 
 [[nodiscard]] PaletteEntries entriesOfList(const HostColorList& list);
 [[nodiscard]] std::shared_ptr<HostColorList> listOfEntries(const std::u16string& name,
                                                            const PaletteEntries& entries);
 
-/// The colour as an entry keeps it.
+/// Returns the colour as an entry stores it.
 [[nodiscard]] HostColor paletteColor(const HostColor& color);
-/// "#RRGGBB"
+/// Returns "#RRGGBB".
 [[nodiscard]] std::u16string hexCodeOf(const HostColor& color);
 
 }  // namespace vantorel

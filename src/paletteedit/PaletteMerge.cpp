@@ -8,7 +8,7 @@
 namespace vantorel {
 namespace {
 
-/// Finds entries by their names.
+/// Finds the entries of one side by name.
 class Side {
 public:
     explicit Side(const PaletteEntries& entries) : _entries(entries)
@@ -18,7 +18,7 @@ public:
             _places.try_emplace(entries[i].name(), i);
     }
     [[nodiscard]] const PaletteEntries& entries() const { return _entries; }
-    /// Null where there is none.
+    /// Returns null if there is no such entry.
     [[nodiscard]] const PaletteEntry* find(std::u16string_view name) const
     {
         const auto found = _places.find(name);
@@ -30,7 +30,7 @@ private:
     std::unordered_map<std::u16string_view, std::size_t> _places;
 };
 
-/// Whether the entries that both hold follow each other in another order.
+/// Returns whether the entries that exist on both sides are in a different order.
 bool hasMoved(const Side& base, const Side& side)
 {
     std::size_t next = 0;
@@ -63,7 +63,8 @@ public:
         const bool mineLeads = hasMoved(_base, _mine);
         const Side& leading = mineLeads ? _mine : _theirs;
         const Side& other = mineLeads ? _theirs : _mine;
-        // Entries that only the other side has follow the one that they follow there.
+        // Entries that exist only on the other side are placed after the entry that they follow
+        // there.
         std::unordered_map<std::u16string_view, PaletteEntries> followers;
         std::u16string_view last;
         PaletteEntries first;
@@ -90,7 +91,7 @@ public:
     }
 
 private:
-    /// What a name stands for in the end; null when it is gone.
+    /// Returns the merged entry of a name, or null if it has been removed.
     [[nodiscard]] const PaletteEntry* survivor(std::u16string_view name) const
     {
         const PaletteEntry* base = _base.find(name);
@@ -117,7 +118,7 @@ private:
         }
     }
 
-    /// Once every other name is known, that none of them is taken.
+    /// Called last, when all other names are known, so that none of them is taken.
     void renameSecondAdditions()
     {
         if (_secondAdditions.empty()) return;

@@ -9,15 +9,17 @@ namespace vantorel {
 
 struct PaletteMerge {
     PaletteEntries entries;
-    /// The names to which both sides have given different colours. `entries` has theirs.
+    /// The names to which both sides have given different colours. `entries` has the colours of
+    /// `theirs`.
     std::vector<std::u16string> contradictions;
 };
 
-/// Brings two changed states of one list together. Entries are told apart by their names.
+/// Merges two changed versions of one list. Entries are identified by their names.
 ///
-/// What one side changed is taken over; a change beats a removal, so that no work is lost. Where
-/// both have added a name with different colours, theirs keeps it and mine gets a free one. A new
-/// order is taken from the side that has moved entries, from mine where both have.
+/// Changes of either side are applied. A change takes precedence over a removal, so that no work is
+/// lost. If both sides have added a name with different colours, the entry of `theirs` keeps the
+/// name and that of `mine` gets a free one. The order is that of the side that has moved entries,
+/// or of `mine` if both have.
 [[nodiscard]] PaletteMerge mergePalettes(const PaletteEntries& base, const PaletteEntries& mine,
                                          const PaletteEntries& theirs);
 

@@ -4,8 +4,8 @@
 
 namespace vantorel {
 
-/// The name to propose for a new colour of a list: that of the entry which is nearest to it, as
-/// long as a picker would call the two close, with a free number behind it; else the hex code.
+/// Proposes a name for a new colour of a list: the name of the nearest entry with a free number, if
+/// the two colours are close enough for a picker to match them, else the hex code.
 [[nodiscard]] std::u16string proposedName(const HostColor& color, const PaletteEntries& entries);
 
 }  // namespace vantorel

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// Writing into controls that may not be there: without an interface the outlets are null, and the
-/// picker goes on with its colour and settings alone.
+/// Functions that write to controls that may be null. Without an interface the outlets are null,
+/// and the picker keeps only its colour and settings up to date.
 namespace vantorel {
 
 inline void setText(HostTextField* field, const std::u16string& text)
@@ -27,7 +27,8 @@ inline void setItems(HostPopUpButton* popUp, const std::vector<std::u16string>& 
     popUp->addItemsWithTitles(titles);
 }
 
-/// Selects nothing when there is no title or no item has it.
+/// Selects the item with that title. Clears the selection if `title` is `std::nullopt` or no item
+/// has it.
 inline void selectTitle(HostPopUpButton* popUp, const std::optional<std::u16string>& title)
 {
     if (popUp == nullptr) return;

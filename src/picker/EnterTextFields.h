@@ -4,7 +4,7 @@
 
 namespace vantorel {
 
-/// Who reacts to what is typed, key by key.
+/// Handles each keystroke in the entry fields.
 class EnterTextFieldDelegate {
 public:
     virtual ~EnterTextFieldDelegate() = default;
@@ -12,7 +12,7 @@ public:
     virtual void rgbDecimalEntryTextChange(HostTextField& field) = 0;
 };
 
-/// A text field that tells its delegate of every keystroke, in the way that its class has.
+/// Calls its delegate's function `reaction` after every edit of a text field.
 template <void (EnterTextFieldDelegate::*reaction)(HostTextField&)>
 class EnterTextField {
 public:

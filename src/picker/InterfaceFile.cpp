@@ -13,7 +13,7 @@ namespace vantorel {
 namespace {
 
 constexpr std::u16string_view fileVersion = u"1";
-/// Far above any screen; keeps a frame's arithmetic exact.
+/// Far larger than any screen, yet small enough for exact arithmetic on frames.
 constexpr double largestCoordinate = 100000;
 constexpr double largestFontSize = 200;
 
@@ -67,7 +67,7 @@ constexpr std::array alignmentNames{
     AlignmentName{"Right", Description::Alignment::right},
 };
 
-/// The entry of a name table, or null.
+/// Returns the entry of a name table, or null.
 template <class Table>
 auto entryNamed(const Table& table, std::string_view name)
 {
@@ -77,7 +77,7 @@ auto entryNamed(const Table& table, std::string_view name)
     return static_cast<decltype(table.data())>(nullptr);
 }
 
-/// Reads `{{x, y}, {width, height}}`.
+/// Parses `{{x, y}, {width, height}}`.
 std::optional<HostRect> parseFrame(std::string_view text)
 {
     std::string bare;
@@ -102,7 +102,7 @@ std::optional<HostRect> parseFrame(std::string_view text)
     return frame;
 }
 
-/// Reads the dictionaries of the file. The first thing that cannot be read ends it.
+/// Reads the dictionaries of the file and stops at the first invalid value.
 class Reader {
 public:
     std::optional<InterfaceItem> item(const PropertyList& value)

@@ -27,9 +27,9 @@
 ///         );
 ///     }
 ///
-/// A view without `Subviews` above it stands alone, out of any hierarchy. Frames are `{{x, y},
-/// {width, height}}` in points, y up, in the superview. `Class` is one of View, Label, TextField,
-/// PopUpButton, Button, CheckBox, ToggleButton, or a class of the picker's own: QTXHexColorsView,
+/// Top-level views have no superview. Frames are `{{x, y}, {width, height}}` in points, y up, in
+/// the superview's coordinates. `Class` is one of View, Label, TextField, PopUpButton, Button,
+/// CheckBox, ToggleButton, or one of the picker's own classes: QTXHexColorsView,
 /// QTXHexSettingsView, QTXHexEnterTextField, QTXRGBDecimalEnterTextField. Further keys: `Title`,
 /// `Image` (a resource `NAME.svg`), `FontSize` (points), `Alignment` (Left, Center, Right),
 /// `Monospaced` (YES).
@@ -49,15 +49,16 @@ struct InterfaceItem {
 
     Kind kind = Kind::view;
     HostControlDescription description;
-    /// The name of the action that the control sends; empty for none.
+    /// The name of the control's action; empty if it has none.
     std::string action;
-    /// The name of the picture; empty for none.
+    /// The name of the control's picture; empty if it has none.
     std::string image;
     std::vector<InterfaceItem> subviews;
 };
 
-/// The items that stand in no other. Nothing when the text is no interface file: not a property
-/// list, another version, an unknown class, a frame that cannot be read, a name twice.
+/// Parses an interface file and returns its top-level items. Returns `std::nullopt` if the file is
+/// not valid: not a property list, an unsupported version, an unknown class, an unreadable frame,
+/// or a duplicate name.
 [[nodiscard]] std::optional<std::vector<InterfaceItem>> parseInterfaceFile(std::string_view utf8);
 
 }  // namespace vantorel

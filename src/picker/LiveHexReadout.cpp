@@ -9,7 +9,7 @@
 namespace vantorel {
 namespace {
 
-/// By the number of characters typed.
+/// Indexed by the number of characters typed.
 constexpr std::array<std::u16string_view, 7> progressFormats{
     u"R:---  G:---  B:---",     u"%d: R:%03d* G:--- B:---", u"%d: R:%3d G:--- B:---",
     u"%d: R:%3d G:%03d* B:---", u"%d: R:%3d G:%3d B:---",   u"%d: R:%3d G:%3d B:%03d*",

@@ -11,13 +11,13 @@ namespace {
 constexpr std::string_view fileScheme = "file://";
 constexpr const char* manualPage = "supportManual.htm";
 
-/// What RFC 3986 lets stand in a path for itself, without the characters that mean something there.
+/// Returns whether a character is unreserved in RFC 3986 and so needs no percent-encoding.
 bool isUnreserved(char c)
 {
     return isLetterOrDigit(c) || c == '-' || c == '.' || c == '_' || c == '~';
 }
 
-/// The path of a file on this computer; nothing for any other address.
+/// Returns the path of a `file://` URL of this computer, or `std::nullopt` for any other URL.
 std::optional<std::string> pathOfFileURL(std::string_view url)
 {
     if (!url.starts_with(fileScheme) || !url.substr(fileScheme.size()).starts_with('/')) {

@@ -7,13 +7,15 @@
 
 namespace vantorel {
 
-/// The `file://` address of an absolute path: bytes that an address cannot hold are escaped.
+/// Returns the `file://` URL of an absolute path. Bytes that are not allowed in a URL are
+/// percent-encoded.
 [[nodiscard]] std::string fileURLFromPath(std::string_view path);
 
-/// The address of the manual to open. An address that is of no file on this computer, such as a web
-/// page's, is taken as it is. One of a file is taken while that file is there; otherwise the copy
-/// beside the plug-in, which is there when nothing has been installed. Without that, too, the
-/// configured one, so that the desktop can say what is missing.
+/// Returns the URL of the manual to open. A URL that is not that of a local file, such as a web
+/// page's, is returned unchanged, and so is that of an existing file. If the file does not exist,
+/// the copy in the plug-in's resources is used, which is available without an installation. If
+/// there is no copy either, the configured URL is returned, so that the desktop can report what is
+/// missing.
 [[nodiscard]] std::string manualURL(const std::string& configured, const HostFiles& files,
                                     const HostBundle& bundle);
 

@@ -11,7 +11,7 @@ namespace {
 constexpr std::u16string_view rgbOpening = u"rgb(";
 constexpr std::size_t mostCandidates = 7;
 
-/// Letter case of the Latin, Greek and Cyrillic letters that colour names are written in.
+/// Folds the case of the Latin, Greek and Cyrillic letters used in colour names.
 char16_t caseFolded(char16_t c)
 {
     const bool capital = (c >= u'A' && c <= u'Z') ||
@@ -27,7 +27,7 @@ bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view prefix
                       [](char16_t a, char16_t b) { return caseFolded(a) == caseFolded(b); });
 }
 
-/// A name with the rgb text of a colour, as the field shows it and the entry accepts it.
+/// Returns a name with the rgb text of a colour, in the form that the field shows and accepts.
 std::u16string completedText(const std::u16string& name, const HostColor& color,
                              EntryForm entryForm)
 {
@@ -64,8 +64,8 @@ NameCompletion completeColorName(std::u16string_view typed, std::size_t insertio
     const auto whole = std::find_if(candidates.begin(), candidates.end(),
                                     [&](std::size_t i) { return keys[i].size() == typed.size(); });
     if (whole != candidates.end()) {
-        // The name that is as long as the text, but the colour of the first candidate: that is the
-        // rule, so that the read-out does not change before the list of candidates does.
+        // Show the name that is as long as the text, but the colour of the first candidate: the
+        // read-out must not change before the list of candidates does.
         completion.text = completedText(keys[*whole], list.colorAtIndex(first), entryForm);
     }
     return completion;

@@ -10,19 +10,19 @@
 
 namespace vantorel {
 
-/// What typing a colour name into the rgb decimal field leads to.
+/// The result of typing a colour name into the rgb decimal field.
 struct NameCompletion {
-    /// The field's new text; nothing when it stays.
+    /// The field's new text, or `std::nullopt` to leave it unchanged.
     std::optional<std::u16string> text;
-    /// Where the insertion point goes; nothing when the selection stays.
+    /// The new insertion point, or `std::nullopt` to leave the selection unchanged.
     std::optional<std::size_t> insertionPoint;
-    /// The candidates, one a line, to be posted in the colours view; empty for none.
+    /// The candidates, one a line, for the colours view to show; empty if there are none.
     std::u16string message;
 };
 
-/// Completes the first `insertionPoint` UTF-16 units of what is typed to the names of a list,
-/// ignoring case. One name that begins so is filled in with its rgb text; two to seven are listed.
-/// Nothing is completed while an "rgb(" triple is being typed.
+/// Completes the first `insertionPoint` UTF-16 units of a typed text to the names of a list,
+/// ignoring case. A single matching name is filled in with its rgb text; two to seven matches are
+/// listed. A text that starts with "rgb(" is not completed.
 [[nodiscard]] NameCompletion completeColorName(std::u16string_view typed,
                                                std::size_t insertionPoint,
                                                const HostColorList& list, EntryForm entryForm);

@@ -5,7 +5,7 @@
 namespace vantorel {
 namespace {
 
-/// Connects a control to the action that the file names for it. False when nobody has that action.
+/// Connects a control to the action named in the file. Returns false if there is no such action.
 bool connectAction(HostView& view, const std::string& name, const PickerInterface::Parts& parts)
 {
     if (name.empty()) return true;
@@ -45,7 +45,7 @@ std::unique_ptr<PickerInterface> PickerInterface::build(const std::string& inter
 
 PickerInterface::~PickerInterface()
 {
-    // Subviews first, so that no desktop sees a view end before what stands in it.
+    // Destroy subviews first, so that no desktop sees a view destroyed before its subviews.
     while (!_views.empty())
         _views.pop_back();
 }

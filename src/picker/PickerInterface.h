@@ -11,26 +11,27 @@
 
 namespace vantorel {
 
-/// The controls of one picker, built from an interface file through the desktop's factory.
+/// The controls of one picker, created from an interface file by the desktop's factory.
 class PickerInterface {
 public:
-    /// What the builder needs besides the file.
+    /// What `build` needs besides the file.
     struct Parts {
         HostInterfaceFactory& factory;
         /// For the pictures of buttons.
         const HostBundle& bundle;
-        /// What the two custom views show; they must outlive the interface.
+        /// The contents of the two custom views. They must outlive the interface.
         HostViewContent& colorsView;
         HostViewContent& settingsView;
-        /// Gives each control that names an action the function that sends it; an unknown name
-        /// gives an empty function, which makes the file unusable.
+        /// Returns the function that runs the action of that name, or an empty function for an
+        /// unknown name, which makes the file invalid.
         std::function<HostControl::Action(const std::string& name)> actionNamed;
-        /// The translation of a title, tool tip or accessible name; the text itself for none.
+        /// Returns the translation of a title, tool tip or accessible name, or the text itself if
+        /// there is none.
         std::function<std::u16string(const std::u16string& text)> localized;
     };
 
-    /// Null when the file does not read, names an action that nobody has, or the desktop cannot
-    /// make a control.
+    /// Returns null if the file is not valid, names an unknown action, or the desktop cannot create
+    /// a control.
     [[nodiscard]] static std::unique_ptr<PickerInterface> build(const std::string& interfaceFile,
                                                                 const Parts& parts);
 
@@ -39,7 +40,7 @@ public:
     PickerInterface& operator=(const PickerInterface&) = delete;
     ~PickerInterface();
 
-    /// The control of that name if it is a `Control`, else null.
+    /// Returns the control of that name if it is a `Control`, else null.
     template <class Control>
     [[nodiscard]] Control* control(const std::string& name) const
     {

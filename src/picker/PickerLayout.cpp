@@ -28,7 +28,7 @@ void layOutComponents(MainFaceFrames& frames, const MainFaceInput& input)
         frames.snippet.y = r.y - frames.snippet.height - 2;
         return;
     }
-    // Under the middle of each component's two digit columns.
+    // Centred below the two digit columns of each component.
     centerX(frames.red, r.x + r.width * 2.5 / 15);
     frames.green.x = r.x + r.width / 2 - frames.blue.width / 2;
     frames.blue.x = r.x + r.width - r.width * 2.5 / 15 - frames.blue.width / 2;
@@ -106,7 +106,8 @@ SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current, HostRec
     const bool allFit = ground <= dragTypeRow;
     if (!allFit) f.dragType.x = f.dragTypeLabel.x = rightOutOfSight;
     if (!allFit && ground > codeSnippetRow) {
-        // The component display goes with the snippet's row, even where it would fit by itself.
+        // The component display is hidden together with the snippet's row, even if it would fit by
+        // itself.
         f.codeSnippet.x = f.codeSnippetLabel.x = rightOutOfSight;
         f.componentDisplay.x = f.componentDisplayLabel.x = rightOutOfSight;
     }

@@ -2,8 +2,8 @@
 
 #include "host/HostGeometry.h"
 
-/// Where the controls of the picker go, as plain functions of frames: nothing here knows a control.
-/// Every y points up. What must disappear is moved far out of sight.
+/// The layout of the picker's controls, as pure functions of frames. Every y points up. Hidden
+/// controls are moved far out of sight.
 namespace vantorel {
 
 /// The main face, in the page's coordinates.
@@ -14,10 +14,10 @@ struct MainFaceFrames {
 
 struct MainFaceInput {
     MainFaceFrames current;
-    HostRect reference;  ///< the colours view, or the settings view's place where that is shown
+    HostRect reference;  ///< the colours view, or the settings view if it is shown
     HostRect colorsListPopUp;
     HostRect fullHex;
-    HostSize panel;  ///< of the panel's whole frame
+    HostSize panel;  ///< the size of the whole panel
     bool showsCodeSnippet = false;
 };
 
@@ -32,12 +32,14 @@ struct SettingsFaceFrames {
     HostRect moreIndicator, help, versionLabel;
 };
 
-/// `bounds` is the view's bounds; sizes are taken from `current`. Rows that do not fit above the
-/// done button go out of sight, and the "more" indicator comes in.
+/// Lays out the settings face. `bounds` is the settings view's bounds; sizes are taken from
+/// `current`. Rows that do not fit above the done button are moved out of sight, and the "more"
+/// indicator is shown.
 [[nodiscard]] SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current,
                                                     HostRect bounds);
 
-/// `panel` grown by what `page` lacks of `wanted`, its top edge in place.
+/// Returns `panel` enlarged by the difference between `wanted` and `page`, with its top edge in
+/// place.
 [[nodiscard]] HostRect panelFrameGrownFor(HostRect panel, HostSize page, HostSize wanted);
 
 }  // namespace vantorel

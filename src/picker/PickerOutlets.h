@@ -6,8 +6,8 @@ namespace vantorel {
 
 class PickerInterface;
 
-/// The controls that the picker works on, by the names that the interface file gives them. All are
-/// null until `connectOutlets`; from then on none is.
+/// The controls that the picker uses, by their names in the interface file. All are null until
+/// `connectOutlets` succeeds; after that, none is.
 struct PickerOutlets {
     HostView* _hexPickerView = nullptr;
     HostCustomView* _hexSettingsViewOutlet = nullptr;
@@ -28,7 +28,7 @@ struct PickerOutlets {
     HostPopUpButton* codeDragTypePopUp = nullptr;
     HostTextField* codeDragTypeLabel = nullptr;
     HostTextField* codeCodeLabel = nullptr;
-    HostButton* pickViewModeButton = nullptr;  ///< Slider; the next two are the other modes
+    HostButton* pickViewModeButton = nullptr;  ///< Slider; the other modes follow
     HostButton* paletteViewModeButton = nullptr;
     HostButton* wheelViewModeButton = nullptr;
     HostButton* increaseCubeRingsButton = nullptr;
@@ -39,8 +39,8 @@ struct PickerOutlets {
     HostButton* helpButton = nullptr;
     HostTextField* _versionLabelText = nullptr;
 
-    /// Connects every outlet, or none and returns false when the interface lacks one or has it as
-    /// another class.
+    /// Connects all outlets. Returns false, connecting none, if the interface lacks one or has it
+    /// with another class.
     bool connectOutlets(const PickerInterface& interface);
 };
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* interfaceFileName = "QTXHexPick";
 constexpr const char* buttonImageName = "picker.svg";
-/// The read-out's x while there is nothing to read: beside every page.
+/// The x coordinate of the hidden read-out, outside every page.
 constexpr double readoutOutOfSight = 500;
 
 }  // namespace
@@ -27,7 +27,7 @@ QTXHexColorPicker::QTXHexColorPicker(std::uint32_t pickerMask, HostColorPanel& c
 
 QTXHexColorPicker::~QTXHexColorPicker()
 {
-    // The contents outlive their views, but must not ask them for anything while these go.
+    // The contents outlive their native views, but must not use them while these are destroyed.
     _hexColorsView.stopTracking();
     _hexColorsView.attachToView(nullptr);
     _hexSettingsView.attachToView(nullptr);
@@ -75,10 +75,10 @@ void QTXHexColorPicker::awakeFromNib()
 {
     HostDesktop& desktop = colorPanel().desktop();
     __holdOffDefaultsStore = true;
-    // Asked before the settings file is read, so it is always yes here: the built-in lists are
-    // looked up at every start, whatever the file says.
+    // The settings file has not been read yet, so this is always true here: the built-in lists are
+    // looked up at every start, whatever the file contains.
     if (_hexSettings.createColorLists()) checkAndInstallColorLists(desktop.colorLists());
-    _isSettingsFileTakenIn = initializeDefaults(desktop.files(), _hexSettings);
+    _isSettingsFileLoaded = initializeDefaults(desktop.files(), _hexSettings);
     buildColorListsPopup();
     syncListColorNames();
     syncPanel();
@@ -163,7 +163,7 @@ std::u16string QTXHexColorPicker::colorsDescription() const
 
 void QTXHexColorPicker::loadFullHex()
 {
-    // Without the pound sign; the next synchronisation adds it.
+    // Written without "#"; the next `syncPanel` adds it.
     setText(_fullHexText,
             _hexColorSpec.fullStringHexColorSpecWithEntryForm(_hexSettings.entryForm()));
 }

@@ -19,13 +19,13 @@ namespace vantorel {
 
 class PickerInterface;
 
-/// The picker page: holds the current colour and the settings, and keeps every control in step with
-/// them. It is the spine of the page; what a control does in detail lies in the files beside it
-/// (QTXHexColorPicker*.cpp, one subject each) and in the folders below.
+/// The picker page: holds the current colour and the settings, and keeps every control in sync with
+/// them. This class connects the parts of the page. The details of each subject are in the files
+/// beside it (QTXHexColorPicker*.cpp, one subject each) and in lower folders.
 ///
-/// Everything runs on the host's user-interface thread. While `syncPanel` writes into the controls,
-/// `__holdOffSync` makes `setColor` and every action return at once, so that writing a control
-/// never feeds back into the colour or the settings.
+/// Everything runs on the host's user-interface thread. While `syncPanel` writes to the controls,
+/// `__holdOffSync` makes `setColor` and every action return at once, so that writing to a control
+/// never changes the colour or the settings.
 class QTXHexColorPicker final : public HostColorPicker,
                                 public QTXHexColorsViewOwner,
                                 private EnterTextFieldDelegate,
@@ -33,16 +33,16 @@ class QTXHexColorPicker final : public HostColorPicker,
 public:
     static constexpr int hexColorPickerMode = 14;
 
-    /// `colorPanel` and `bundle`, which gives the interface file and its pictures, must outlive the
-    /// picker.
+    /// `bundle` provides the interface file and its pictures. `colorPanel` and `bundle` must
+    /// outlive the picker.
     QTXHexColorPicker(std::uint32_t pickerMask, HostColorPanel& colorPanel,
                       const HostBundle& bundle);
     ~QTXHexColorPicker() override;
 
-    // What the panel calls.
+    // Called by the panel.
 
     /// The initial request loads the interface file, installs the built-in colour lists and reads
-    /// the settings. Null when the interface cannot be made.
+    /// the settings. Returns null if the interface cannot be created.
     HostView* provideNewView(bool initialRequest) override;
     [[nodiscard]] bool supportsMode(int mode) const override;
     [[nodiscard]] int currentMode() const override;
@@ -54,7 +54,7 @@ public:
     bool performAction(std::string_view name, HostControl* sender) override;
     [[nodiscard]] static bool hasAction(std::string_view name);
 
-    // What the colours view and tests ask.
+    // Called by the colours view and by tests.
 
     QTXHexColorSpec& hexColorSpec() override { return _hexColorSpec; }
     QTXHexSettings& hexSettings() override { return _hexSettings; }
@@ -80,16 +80,18 @@ public:
     [[nodiscard]] std::optional<std::u16string> dragText() const override;
     [[nodiscard]] std::vector<HostColorText> colorTexts() const override;
 
-    /// Writes the current colour and settings into every control, in a fixed order.
+    /// Writes the current colour and settings to every control, in a fixed order.
     void syncPanel() override;
-    /// Hands the current colour to the panel, which echoes it, and synchronises.
+    /// Passes the current colour to the panel, which calls `setColor` in turn, and updates all
+    /// controls.
     void colorChanged(HostControl* sender);
 
-    /// The smallest page with the settings face open. (The name is spelled so on purpose.)
+    /// The minimum size of the page while the settings face is shown. (The name is misspelt on
+    /// purpose.)
     [[nodiscard]] HostSize minContentSizeWitSettings() const;
     [[nodiscard]] QTXHexColorsView& hexColorsView() { return _hexColorsView; }
     [[nodiscard]] const QTXHexColorsView& hexColorsView() const { return _hexColorsView; }
-    /// The title of the name pop-up's first item: "No Match", or the names of the close colours.
+    /// The title of the name pop-up's first item: "No Match", or the names of close colours.
     [[nodiscard]] const std::u16string& noMatchString() const { return _noMatchString; }
     /// The keys of the naming list that are close to the current colour.
     [[nodiscard]] const std::vector<std::u16string>& holdCloseMatchColors() const
@@ -103,16 +105,17 @@ private:
         std::string_view name;
         ActionMethod method;
     };
-    /// The actions that controls and hosts can name (QTXHexColorPickerActions.cpp).
+    /// Returns the action of that name, which controls and hosts use
+    /// (QTXHexColorPickerActions.cpp), or null.
     static const NamedAction* actionNamed(std::string_view name);
     HostControl::Action actionFunction(const std::string& name);
 
-    // Life (QTXHexColorPicker.cpp).
+    // Life cycle (QTXHexColorPicker.cpp).
     bool loadInterface();
     void awakeFromNib();
     void fillSettingsPopUps();
     void loadFullHex();
-    /// What the colours view shows, in words: code, name and mode.
+    /// Describes the colours view in words: hex code, name and mode.
     [[nodiscard]] std::u16string colorsDescription() const;
 
     // Texts (QTXHexColorPickerTexts.cpp).
@@ -136,7 +139,7 @@ private:
     void enterComponent(HostTextField* field, int componentIndex);
     void flagInputError();
 
-    // The settings' controls (QTXHexColorPickerSettings.cpp).
+    // Settings controls (QTXHexColorPickerSettings.cpp).
     void entryFormAction(HostControl* sender);
     void poundSignAction(HostControl* sender);
     void componentDisplayAction(HostControl* sender);
@@ -173,7 +176,8 @@ private:
     const HostBundle& _bundle;
     QTXHexColorsView _hexColorsView;
     QTXHexSettingsView _hexSettingsView;
-    /// After the two contents above, which its views show, and before all that refers to controls.
+    /// Declared after the two contents above, which its views refer to, and before everything that
+    /// refers to controls: members are destroyed in reverse order.
     std::unique_ptr<PickerInterface> _interface;
     std::unique_ptr<QTXHexEnterTextField> _hexEnterTextField;
     std::unique_ptr<QTXRGBDecimalEnterTextField> _rgbDecimalEnterTextField;
@@ -182,11 +186,12 @@ private:
     QTXHexColorSpec _hexColorSpec;
     bool _exactHexColorMatch = false;
     bool __holdOffSync = false;
-    /// Set until the interface is awake: start-up itself never writes the settings file, apart from
-    /// making it when it is missing.
+    /// True until the interface has been loaded. Start-up never writes the settings file, except to
+    /// create a missing one.
     bool __holdOffDefaultsStore = true;
-    /// Otherwise the file is kept beside the one that takes its place.
-    bool _isSettingsFileTakenIn = true;
+    /// False if a settings file exists that could not be loaded. It is then copied before it is
+    /// overwritten.
+    bool _isSettingsFileLoaded = true;
     std::u16string _noMatchString;
     ColorNamesPopUpFiller _colorNamesFiller;
     ColorListIndex _namingIndex;

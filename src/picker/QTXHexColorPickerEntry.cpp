@@ -5,14 +5,15 @@
 #include "picker/NameCompletion.h"
 #include "picker/QTXHexColorPicker.h"
 
-/// What happens when the user types: live, at every keystroke, and when the entry ends.
+/// Text entry: reactions to each keystroke and to the end of an entry.
 namespace vantorel {
 namespace {
 
 constexpr int componentDigits = 2;
 constexpr int fullDigits = 6;
 
-/// The field whose entry ends: the sender, or the action's own field when something else sends it.
+/// Returns the field whose entry has ended: the sender, or the action's own field if the sender is
+/// not a text field.
 HostTextField* fieldThatEnded(HostControl* sender, HostTextField* own)
 {
     auto* const field = dynamic_cast<HostTextField*>(sender);

@@ -5,12 +5,12 @@
 #include <initializer_list>
 #include <utility>
 
-/// The two faces of the page, the colours and the settings, and the layout of both. Only one of the
-/// two is in the hierarchy at a time, in the same place.
+/// The two faces of the page, colours and settings, and their layout. Only one of them is in the
+/// view hierarchy at a time, in the same position.
 namespace vantorel {
 namespace {
 
-/// The page in which every row of the settings face fits.
+/// The page size at which every row of the settings face fits.
 constexpr HostSize roomySettingsSize{240, 300};
 
 bool isShown(const HostView* view)
@@ -71,8 +71,8 @@ void QTXHexColorPicker::toggleSettingsView()
         HostView* place = colors->superview();
         colors->removeFromSuperview();
         settings->setFrameOf(*colors);
-        // The bounds take the frame's origin here and zero on the way back: the settings face is
-        // laid out in its superview's coordinates.
+        // The settings face is laid out in its superview's coordinates, so its bounds start at the
+        // frame's origin.
         settings->setBounds(frame);
         place->addSubview(*settings);
         fixSettingsView();

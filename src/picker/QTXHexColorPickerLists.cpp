@@ -40,7 +40,8 @@ void QTXHexColorPicker::syncListColor()
 
     _namingIndex.update(list);
     const ColorNameMatch match = matchColorName(_hexColorSpec, *list, _namingIndex);
-    // Over the old keys: a long list has dozens of close ones, and a drag comes by here each step.
+    // Overwrite the old keys in place: a long list has dozens of close ones, and every step of a
+    // drag runs this.
     __holdCloseMatchColors.resize(match.closePlaces.size());
     for (std::size_t i = 0; i < match.closePlaces.size(); ++i)
         __holdCloseMatchColors[i] = list->allKeys()[match.closePlaces[i]];

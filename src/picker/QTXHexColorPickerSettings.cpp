@@ -15,8 +15,8 @@ void QTXHexColorPicker::storeDefaults()
 {
     if (__holdOffDefaultsStore) return;
     HostFiles& files = colorPanel().desktop().files();
-    if (!_isSettingsFileTakenIn && !keepDefaultsFile(files)) return;
-    _isSettingsFileTakenIn = true;
+    if (!_isSettingsFileLoaded && !keepDefaultsFile(files)) return;
+    _isSettingsFileLoaded = true;
     writeDefaults(files, _hexSettings);
 }
 
@@ -107,7 +107,7 @@ void QTXHexColorPicker::setPickViewMode(PickViewMode mode)
 {
     if (__holdOffSync) return;
     if (_hexSettings.pickViewMode() == mode) {
-        // A toggle switches itself off when the active mode is chosen again.
+        // A toggle switches itself off when the user chooses the active mode again.
         syncViewModeButtons();
         return;
     }

@@ -9,7 +9,7 @@
 namespace vantorel {
 namespace {
 
-// Misspelt on purpose: the name is fixed.
+// The misspelt name is fixed.
 constexpr HostColor exactMatchTextdColorS = HostColor::blackColor();
 constexpr HostColor notExactMatchTextColorS =
     HostColor::colorWithCalibratedRed(200 / 255.0, 30 / 255.0, 30 / 255.0, 1.0);
@@ -54,7 +54,7 @@ void QTXHexColorPicker::syncPanel()
 
 void QTXHexColorPicker::syncNamingList()
 {
-    // A settings file can bring an empty name, which is none.
+    // A settings file can contain an empty name, which counts as no name.
     if (const auto& name = _hexSettings.hexColorList(); name && !name->empty()) {
         selectTitle(hexColorsListPopUp, _hexSettings.hexColorList());
         return;
@@ -84,8 +84,8 @@ void QTXHexColorPicker::syncExactness(const std::u16string& red, const std::u16s
     for (const Row& row : rows) {
         if (row.field == nullptr) continue;
         row.field->setTextColor(exact ? exactMatchTextdColorS : notExactMatchTextColorS);
-        // The tip reads the text as hex in every display, also where the text is no hex: that is
-        // how the tips have always read.
+        // The tip reads the text as hex in every display, even if the text is not hex. This is kept
+        // for compatibility.
         const std::uint64_t value = readComponent(row.text, ComponentDisplay::hex);
         const std::array<FormatArgument, 2> arguments{value, row.remainder * 255.0};
         row.field->setToolTip(formatted(exact ? u"%3.0d" : u"%3.0d + %0.3f", arguments));
@@ -94,7 +94,7 @@ void QTXHexColorPicker::syncExactness(const std::u16string& red, const std::u16s
 
 void QTXHexColorPicker::syncCodeSnippet()
 {
-    // In the other displays the snippet's field keeps what it showed last.
+    // In the other displays, the snippet field keeps its last text.
     if (_hexSettings.componentDisplay() != ComponentDisplay::codeSnippet) return;
     const auto panelColor = colorPanel().color();
     _hexColorSpec.setAlphaComp(panelColor ? panelColor->alphaComponent() : 0.0);

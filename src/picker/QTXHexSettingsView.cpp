@@ -14,7 +14,8 @@ void QTXHexSettingsView::drawRect(HostCanvas& canvas)
     const HostRect bounds = _view->bounds();
     const HostRect inset = insetRect(bounds, 1, 1);
     __bPth.removeAllPoints();
-    // The origin of the bounds with the size of the inset: the frame sits at the lower left.
+    // The rectangle has the origin of the bounds but the size of the inset, so it is aligned to the
+    // lower left.
     __bPth.appendBezierPathWithRect({bounds.x, bounds.y, inset.width, inset.height});
     canvas.fill(__bPth, hexSettingsViewBackgroundColorS);
     canvas.stroke(__bPth, HostColor::blackColor());

@@ -4,10 +4,11 @@
 
 namespace vantorel {
 
-/// The ground of the settings face.
+/// The background of the settings face.
 class QTXHexSettingsView final : public HostViewContent {
 public:
-    /// The desktop's view that shows this one. It must be detached (null) before it ends.
+    /// Attaches the desktop's native view, or detaches it if null. Detach the view before it is
+    /// destroyed.
     void attachToView(HostCustomView* view) { _view = view; }
     [[nodiscard]] HostCustomView* view() const { return _view; }
 

@@ -8,16 +8,16 @@
 
 namespace vantorel {
 
-/// A value of a property list: a string, data, an array or a dictionary. Dictionaries keep the
-/// order in which their keys were set first.
+/// A property-list value: a string, data, an array or a dictionary. Dictionaries keep their keys in
+/// the order in which they were first set.
 class PropertyList {
 public:
     using Array = std::vector<PropertyList>;
     using Dictionary = std::vector<std::pair<std::u16string, PropertyList>>;
 
     PropertyList() = default;
-    // Arrays and dictionaries are written down as lists of plain values.
-    // NOLINTBEGIN(google-explicit-constructor)
+    // The constructors are implicit, so that arrays and dictionaries can be written as lists of
+    // plain values.
     PropertyList(std::u16string string) : _value(std::move(string)) {}
     PropertyList(const char16_t* string) : _value(std::u16string(string)) {}
     PropertyList(Array array) : _value(std::move(array)) {}
@@ -30,7 +30,7 @@ public:
         return result;
     }
 
-    // Null for a value of another kind.
+    // Each returns null if the value is of another kind.
     [[nodiscard]] const std::u16string* string() const
     {
         return std::get_if<std::u16string>(&_value);
@@ -39,11 +39,11 @@ public:
     [[nodiscard]] const Array* array() const { return std::get_if<Array>(&_value); }
     [[nodiscard]] const Dictionary* dictionary() const { return std::get_if<Dictionary>(&_value); }
 
-    /// The value of a key; null when there is none, or for a value that is no dictionary.
+    /// Returns the value of a key, or null if the key is missing or this is not a dictionary.
     [[nodiscard]] const PropertyList* valueForKey(std::u16string_view key) const;
-    /// The string of a key; null when there is none, or it is of another kind.
+    /// Returns the string of a key, or null if the key is missing or its value is not a string.
     [[nodiscard]] const std::u16string* stringForKey(std::u16string_view key) const;
-    /// Sets a key of a dictionary; any other value becomes an empty dictionary first.
+    /// Sets the value of a key. If this is not a dictionary, it is first replaced by an empty one.
     void setValue(PropertyList value, std::u16string_view forKey);
 
     bool operator==(const PropertyList&) const = default;

@@ -34,7 +34,8 @@ std::optional<unsigned> digitOf(char16_t c, unsigned base)
     return value;
 }
 
-/// Reads a value after the other; an empty result anywhere ends the whole.
+/// A recursive-descent parser. Each function returns an empty result on a syntax error, which ends
+/// the parse.
 class Parser {
 public:
     explicit Parser(std::u16string_view text) : _text(text)
@@ -64,7 +65,7 @@ private:
         return true;
     }
 
-    /// White space and comments; false for a comment without end.
+    /// Skips white space and comments. Returns false for an unterminated comment.
     bool skipSpace()
     {
         while (!atEnd()) {
@@ -178,7 +179,8 @@ private:
         return std::nullopt;
     }
 
-    /// What stands behind a backslash.
+    /// Appends the character that the escape after a backslash denotes. Returns false at the end of
+    /// the text.
     bool appendEscape(std::u16string& result)
     {
         if (atEnd()) return false;

@@ -8,23 +8,22 @@
 
 namespace vantorel {
 
-/// Values nested deeper than this are taken for damage, so that no text can exhaust the stack.
+/// The maximum nesting depth. Deeper texts are rejected, so that no text can exhaust the stack.
 inline constexpr std::size_t deepestPropertyList = 512;
 
-/// Reads the old-style text form of a property list:
+/// Reads a property list in the old-style text form:
 ///
 ///     { key = value; "another key" = (first, second); blob = <0fbd77 1c>; }
 ///
-/// Strings are quoted with " or ', or bare when made of letters, digits and `_ $ / : . -`. In
-/// quoted strings \a \b \f \n \r \t \v \" \' \\ and a backslash before a line break (which drops
-/// both) are escapes, \NNN is the code unit of an octal number, \Uhhhh that of a hexadecimal one; a
-/// backslash before any other character stands for that character. The semicolon before "}" and a
-/// comma before
-/// ")" may be missing or superfluous. Comments are // and /* */; a byte-order mark may come first.
-/// Of a key that comes twice the later value counts.
+/// Strings are quoted with " or ', or bare if they consist of letters, digits and `_ $ / : . -`.
+/// Quoted strings support the escapes \a \b \f \n \r \t \v \" \' \\; \NNN is a UTF-16 code unit in
+/// octal, \Uhhhh one in hexadecimal. A backslash and the line feed after it are dropped; a
+/// backslash before any other character yields that character. The semicolon before "}" and the
+/// comma before ")" are optional. Comments are // and /* */. A leading byte-order mark is skipped.
+/// If a key occurs twice, the later value is used.
 ///
-/// Nothing when the text is no property list, or holds anything behind it. Time and memory grow
-/// with the length of the text and no faster.
+/// Returns `std::nullopt` if the text is not a property list or has trailing content. Time and
+/// memory are linear in the length of the text.
 [[nodiscard]] std::optional<PropertyList> parsePropertyList(std::u16string_view text);
 
 }  // namespace vantorel

@@ -6,8 +6,8 @@
 
 namespace vantorel {
 
-/// The old-style text form of a property list, one key or element a line, four blanks of
-/// indentation a level. It is pure ASCII (anything else is escaped) and reads back as the same
+/// Writes a property list in the old-style text form, one key or element a line, indented by four
+/// spaces a level. The text is pure ASCII (other characters are escaped) and reads back as the same
 /// value. Data is written in groups of four bytes.
 [[nodiscard]] std::u16string propertyListText(const PropertyList& value);
 

@@ -8,7 +8,7 @@
 
 namespace vantorel {
 
-/// The display name of one value of an enumeration.
+/// The display name of an enumerator.
 template <class Value>
 struct DisplayName {
     Value value;

@@ -6,13 +6,13 @@
 
 namespace vantorel {
 
-/// The mode of the colours view. The numbers are fixed; any other value may be stored, and is drawn
+/// The mode of the colours view. The numbers are fixed. Any other value may be stored; it is drawn
 /// as the wheel but named "Slider".
 enum class PickViewMode : std::int32_t { slider = 124, palette = 125, wheel = 126 };
 
-/// "Slider" for every value that is neither palette nor wheel.
+/// Returns "Slider" for every value other than palette and wheel.
 [[nodiscard]] std::u16string stringFromPickViewMode(PickViewMode mode);
-/// Slider for an unknown name.
+/// Returns slider for an unknown name.
 [[nodiscard]] PickViewMode pickViewModeFromString(std::u16string_view name);
 
 }  // namespace vantorel

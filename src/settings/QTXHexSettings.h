@@ -15,29 +15,29 @@
 
 namespace vantorel {
 
-/// Every choice of the user. Setters store what they are given, without check; names, not numbers,
-/// are what menus show and the settings file holds.
+/// The user's settings. Setters store any value unchecked. Menus and the settings file use display
+/// names, not numbers.
 class QTXHexSettings {
 public:
     QTXHexSettings();
 
-    /// The odd copy that there has always been: the active lists come behind the three defaults,
-    /// and the naming list and the snippets are not copied.
+    /// Copies the settings, with two historical quirks: the active lists are appended to the three
+    /// default lists, and the naming list and the snippets are not copied.
     [[nodiscard]] QTXHexSettings copyWithZone() const;
 
     /// Letter case of hex texts.
     [[nodiscard]] EntryForm entryForm() const { return _entryForm; }
     void setEntryForm(EntryForm form) { _entryForm = form; }
-    /// Whether hex codes are led by "#".
+    /// Whether hex codes start with "#".
     [[nodiscard]] bool usePoundSign() const { return _usePoundSign; }
     void setUsePoundSign(bool use) { _usePoundSign = use; }
-    /// The list that names the current colour and that the palette shows.
+    /// The naming list: names the current colour and is shown in the palette.
     [[nodiscard]] const std::optional<std::u16string>& hexColorList() const
     {
         return _hexColorList;
     }
     void setHexColorList(std::optional<std::u16string> name) { _hexColorList = std::move(name); }
-    /// The lists that the list pop-up offers, in the user's order; to be changed in place.
+    /// The lists in the list pop-up, in the user's order. Modify them through the reference.
     [[nodiscard]] std::vector<std::u16string>& activeColorLists() { return _activeColorLists; }
     [[nodiscard]] const std::vector<std::u16string>& activeColorLists() const
     {
@@ -45,15 +45,16 @@ public:
     }
     [[nodiscard]] PickViewMode pickViewMode() const { return _pickViewMode; }
     void setPickViewMode(PickViewMode mode) { _pickViewMode = mode; }
-    /// Rings of the wheel. A settings file can bring any number, negative ones included.
+    /// The number of rings of the wheel. A settings file can contain any number, even a negative
+    /// one.
     [[nodiscard]] std::int64_t nColorCubeRings() const { return _nColorCubeRings; }
     void setNColorCubeRings(std::int64_t rings) { _nColorCubeRings = rings; }
-    /// Form of the component fields.
+    /// The form of the component fields.
     [[nodiscard]] ComponentDisplay componentDisplay() const { return _componentDisplay; }
     void setComponentDisplay(ComponentDisplay display) { _componentDisplay = display; }
-    /// The user's snippets; empty until a settings file or the start-up supplies some.
+    /// The user's snippets; empty until the settings file or the start-up code supplies some.
     [[nodiscard]] const std::vector<QTXCodeSnippet>& codeSnippets() const;
-    /// Whether there is an array of them, be it an empty one.
+    /// Whether a snippet array is set, even if it is empty.
     [[nodiscard]] bool hasCodeSnippets() const { return _codeSnippets.has_value(); }
     void setCodeSnippets(std::optional<std::vector<QTXCodeSnippet>> snippets)
     {
@@ -68,42 +69,43 @@ public:
     {
         _codeSnippetName = std::move(name);
     }
-    /// Whether the built-in lists are installed at start.
+    /// Whether the built-in lists are installed at start-up.
     [[nodiscard]] bool createColorLists() const { return _createColorLists; }
     void setCreateColorLists(bool create) { _createColorLists = create; }
     [[nodiscard]] CodeDragType codeDragType() const { return _codeDragType; }
     void setCodeDragType(CodeDragType type) { _codeDragType = type; }
 
-    /// The first snippet with the chosen name; the first built-in one when there is none.
+    /// Returns the first snippet with the chosen name, or the first built-in one if there is none.
     [[nodiscard]] const QTXCodeSnippet& codeSnippet() const;
-    /// The names of the snippets, in order; takes the built-in snippets first where there are none.
-    /// The answer to the first call in the process is the answer to all: the snippets do not change
-    /// while the picker runs.
+    /// Returns the names of the snippets, in order. If there are no snippets, the built-in ones are
+    /// set first. The first result in the process is returned by every later call, since snippets
+    /// do not change while the picker runs.
     [[nodiscard]] const std::vector<std::u16string>& codeSnippetNames();
 
-    // Display names. A value that has none gives nothing; an unknown name gives the first value
-    // named here. Names are compared exactly.
+    // Display names. A value without a name returns `std::nullopt`. An unknown name returns the
+    // value documented at each function. Names are compared exactly.
 
     [[nodiscard]] static std::optional<std::u16string> nameEntryForm(EntryForm form);
-    /// Uppercase, unless the name is "Lowercase".
+    /// Returns uppercase unless the name is "Lowercase".
     [[nodiscard]] static EntryForm entryFormFromName(std::u16string_view name);
     [[nodiscard]] static const std::vector<std::u16string>& entryFormNames();
     [[nodiscard]] static std::optional<std::u16string> nameComponentDisplay(
         ComponentDisplay display);
-    /// Hex for an unknown name.
+    /// Returns hex for an unknown name.
     [[nodiscard]] static ComponentDisplay componentDisplayFromName(std::u16string_view name);
     [[nodiscard]] static const std::vector<std::u16string>& componentDisplayNames();
     [[nodiscard]] static std::optional<std::u16string> nameCodeDragType(CodeDragType type);
-    /// Hex Code for an unknown name.
+    /// Returns hex code for an unknown name.
     [[nodiscard]] static CodeDragType codeDragTypeFromName(std::u16string_view name);
     [[nodiscard]] static const std::vector<std::u16string>& codeDragTypeNames();
 
-    // As a property list (QTXHexSettingsPropertyList.cpp).
+    // Property-list form (QTXHexSettingsPropertyList.cpp).
 
-    /// The settings as a dictionary of strings, with the lists and snippets as arrays.
+    /// Returns the settings as a dictionary of strings, with lists and snippets as arrays.
     [[nodiscard]] PropertyList propertyListRepresentation() const;
-    /// Takes what a dictionary holds; a missing key, or a value of the wrong kind, leaves the
-    /// setting as it is. Afterwards there are always snippets and a chosen name.
+    /// Loads the settings from a dictionary. A key that is missing or has a value of the wrong kind
+    /// leaves its setting unchanged. Afterwards there are always snippets and a chosen snippet
+    /// name.
     void loadPropertyListRepresentation(const PropertyList& dictionary);
 
 private:

@@ -11,13 +11,14 @@ namespace {
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
 
-/// "%d": the low 32 bits, signed.
+/// Formats a number like printf's "%d": the low 32 bits, signed.
 std::u16string integerText(std::int64_t value)
 {
     return decimalText(static_cast<std::int32_t>(value));
 }
 
-/// The number at the start of a text, after blanks and a sign; 0 without one. Saturates.
+/// Parses the number at the start of a text, after optional spaces and a sign. Returns 0 if there
+/// is none. Saturates.
 std::int64_t integerValue(std::u16string_view text)
 {
     std::size_t place = 0;
@@ -49,7 +50,8 @@ PropertyList QTXHexSettings::propertyListRepresentation() const
     const auto set = [&](const char16_t* key, PropertyList value) {
         dictionary.setValue(std::move(value), key);
     };
-    // A value without a name is left out; reading then gives the default, as for an unknown name.
+    // A value without a name is omitted. When the file is read, the missing key then gives the
+    // default.
     const auto setName = [&](const char16_t* key, const std::optional<std::u16string>& name) {
         if (name) set(key, *name);
     };
@@ -109,7 +111,7 @@ void QTXHexSettings::loadCodeSnippets(const PropertyList* snippets)
     if (snippets != nullptr && snippets->array() != nullptr) {
         for (const PropertyList& element : *snippets->array()) {
             if (element.dictionary() == nullptr) {
-                // One bad element makes the whole array suspect.
+                // A single invalid element invalidates the whole array.
                 loaded.clear();
                 break;
             }

@@ -17,7 +17,7 @@ std::optional<std::string> defaultsFolderName(const HostFiles& files)
     return folder;
 }
 
-/// What the bytes of a settings file say; nothing where they say nothing.
+/// Returns the dictionary in the bytes of a settings file, or `std::nullopt` if they are not valid.
 std::optional<PropertyList> dictionaryFromData(const std::string& bytes)
 {
     if (bytes.size() > largestSettingsFile || !isWellFormedUtf8(bytes)) return std::nullopt;
@@ -61,7 +61,7 @@ void writeDefaults(HostFiles& files, const QTXHexSettings& settings)
 bool keepDefaultsFile(HostFiles& files)
 {
     const auto path = hexColorPickerDefaultsFileName(files);
-    // A folder does not give way to a file, so it is safe, too.
+    // A folder cannot be overwritten by a file, so there is nothing to keep.
     if (!path || files.kindAtPath(*path) != HostFileKind::file) return true;
     const auto bytes = files.contentsAtPath(*path);
     return bytes && files.writeAtomically(*path + "~", *bytes);

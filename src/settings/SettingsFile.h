@@ -6,33 +6,35 @@
 #include <optional>
 #include <string>
 
-/// The settings file: `Vantorel/Settings.plist` in the folder of the user's data, a text property
-/// list in UTF-8. Nothing here reports a failure: without a file the picker works with what it has.
+/// The settings file: `Vantorel/Settings.plist` in the user's data folder, a text property list in
+/// UTF-8. Errors are not reported: without a file, the picker works with its current settings.
 namespace vantorel {
 
-/// Settings larger than this are no settings of ours, and are not read.
+/// The largest settings file, in bytes. Larger files are rejected; we never write files that big.
 inline constexpr std::size_t largestSettingsFile = 16 << 20;
 
-/// The path of the file; nothing where there is no folder for the user's data.
+/// Returns the path of the file, or `std::nullopt` if there is no folder for the user's data.
 [[nodiscard]] std::optional<std::string> hexColorPickerDefaultsFileName(const HostFiles& files);
 
-/// The bytes of the file for these settings.
+/// Returns the bytes of the file for these settings.
 [[nodiscard]] std::string settingsData(const QTXHexSettings& settings);
 
-/// Loads the file into the settings. One that cannot be read, or holds no dictionary, counts as an
-/// empty dictionary. False where there is such a file: what it says is not in the settings.
+/// Loads the file into the settings. A file that cannot be read or is not a dictionary counts as an
+/// empty dictionary. Returns false if such a file exists, which means that its contents are not in
+/// the settings.
 bool readDefaults(const HostFiles& files, QTXHexSettings& settings);
 
-/// Writes the whole file at once.
+/// Writes the whole file atomically.
 void writeDefaults(HostFiles& files, const QTXHexSettings& settings);
 
-/// Copies the file to one with a "~" behind its name, for a file that was not understood: a slip of
-/// somebody who edited it must not cost the settings. True where there is nothing (any more) to
-/// copy; false where it cannot be read or copied, and so should not be written over.
+/// Copies the file to one with "~" appended to its name. Used for a file that could not be parsed,
+/// so that a slip in editing it by hand does not cost the user's settings. Returns true if the copy
+/// was made or no file exists (any more). Returns false if the file cannot be read or copied, and
+/// so must not be overwritten.
 [[nodiscard]] bool keepDefaultsFile(HostFiles& files);
 
-/// Makes folder and file where they are missing. A file that was there is loaded; one that is made
-/// is not read back. False where a file is there, or may be, whose contents are not in the
+/// Creates the folder and the file if they are missing. An existing file is loaded; a new one is
+/// not read back. Returns false if a file exists, or may exist, whose contents are not in the
 /// settings.
 bool initializeDefaults(HostFiles& files, QTXHexSettings& settings);
 

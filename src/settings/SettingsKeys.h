@@ -1,7 +1,8 @@
 #pragma once
 
 /// The keys of the settings file. `PickModeColorListsKey` holds a mode, not lists, and
-/// `HexColorLlstKey` has an "l" where one expects an "i": files out there have them so.
+/// `HexColorLlstKey` is spelt with an "l" instead of an "i". Existing files use them, so they must
+/// stay.
 namespace vantorel {
 
 inline constexpr const char16_t* ComponentDisplayKey = u"ComponentDisplay";

@@ -10,8 +10,9 @@
 
 namespace vantorel {
 
-/// The text that a drag carries; nothing when it carries the colour alone. `colorSpec` has the real
-/// alpha, which only the snippet shows. The pound sign goes with the hex code alone.
+/// Returns the text that a drag carries, or `std::nullopt` if it carries only the colour.
+/// `colorSpec` must have the actual alpha, which only the code snippet uses. `usePoundSign` affects
+/// only the hex code.
 [[nodiscard]] std::optional<std::u16string> dragStringWithDragType(CodeDragType type,
                                                                    const QTXHexColorSpec& colorSpec,
                                                                    EntryForm entryForm,

@@ -11,11 +11,12 @@
 namespace vantorel {
 namespace {
 
-/// Room for the longest double in %f, 309 digits, with the finest precision behind it.
+/// Room for the longest double in %f, 309 digits, plus the largest precision.
 constexpr std::size_t longestReal = 1024;
 constexpr int defaultPrecision = 6;
 
-/// Sign or "0x" first, then zeros as asked, then the digits; blanks on the other side.
+/// Pads a number to the field's width: spaces on the left or right, or zeros between the prefix
+/// (sign or "0x") and the digits.
 std::u16string padded(const std::u16string& prefix, const std::u16string& digits,
                       const FormatField& field, bool zeros)
 {
@@ -33,7 +34,7 @@ std::u16string signText(bool negative, const FormatField& field)
     return field.blankSign ? u" " : u"";
 }
 
-/// The digits of a whole number, at least as many as the precision says; none for zero with
+/// Returns the digits of an integer, at least as many as the precision; an empty text for zero with
 /// precision zero.
 std::u16string wholeDigits(std::uint64_t value, int base, const FormatField& field)
 {
@@ -84,14 +85,14 @@ std::u16string realDigits(double magnitude, const FormatField& field, const Real
     return widened({first, static_cast<std::size_t>(end - first)});
 }
 
-/// What "#" adds to the digits of a real number: a point always, and with `%g` the zeros behind it
-/// up to that many significant digits.
+/// Applies the "#" flag to the digits of a real number: adds a decimal point and, for `%g`,
+/// trailing zeros up to the number of significant digits.
 std::u16string alternateDigits(std::u16string digits, std::size_t significant)
 {
     std::size_t end = std::min(digits.find_first_of(u"ep"), digits.size());
     if (digits.find(u'.') == std::u16string::npos) digits.insert(end++, 1, u'.');
     const std::size_t first = digits.find_first_not_of(u"0.");
-    // All digits of zero count; before another number's first digit, zeros do not.
+    // Leading zeros are not significant, except in zero itself.
     const std::size_t from = first < end ? first : 0;
     const std::size_t point = digits.find(u'.');
     const std::size_t have = end - from - (point >= from ? 1 : 0);
@@ -132,7 +133,7 @@ std::u16string formattedReal(double value, const FormatField& field, char16_t le
         digits = realDigits(std::fabs(value), field, style);
         if (field.alternate) {
             const bool general = style.format == std::chars_format::general;
-            // A precision of 0 counts as 1 there.
+            // `%g` treats a precision of 0 as 1.
             const std::size_t significant =
                 general ? std::max<std::size_t>(field.precision.value_or(defaultPrecision), 1) : 0;
             digits = alternateDigits(std::move(digits), significant);
@@ -141,7 +142,7 @@ std::u16string formattedReal(double value, const FormatField& field, char16_t le
     } else {
         digits = std::isnan(value) ? u"nan" : u"inf";
     }
-    // Zeros in front of "inf" or "nan" would make no number of them.
+    // "inf" and "nan" are not padded with zeros.
     std::u16string result = padded(prefix, digits, field, field.zeroPadded && finite);
     return style.upperCase ? upperCased(std::move(result)) : result;
 }

@@ -5,14 +5,14 @@
 #include <optional>
 #include <string>
 
-/// The conversions of C's printf for one value, in the C locale.
+/// C's printf conversions of a single value, in the C locale.
 namespace vantorel {
 
-/// Flags, width and precision of a conversion.
+/// The flags, width and precision of a conversion.
 struct FormatField {
     bool leftAligned = false;  ///< -
     bool plusSign = false;     ///< +
-    bool blankSign = false;    ///< blank
+    bool blankSign = false;    ///< space
     bool zeroPadded = false;   ///< 0
     bool alternate = false;    ///< #
     std::size_t width = 0;
@@ -26,7 +26,7 @@ struct FormatField {
                                                char16_t letter);
 /// %f %F %e %E %g %G %a %A, by the letter.
 [[nodiscard]] std::u16string formattedReal(double value, const FormatField& field, char16_t letter);
-/// %s; the precision counts UTF-16 units.
+/// %s. The precision counts UTF-16 units.
 [[nodiscard]] std::u16string formattedText(const std::u16string& text, const FormatField& field);
 
 }  // namespace vantorel

@@ -12,7 +12,7 @@ namespace {
 
 enum class Length { hh, h, none, l };
 
-/// One conversion of a format, from its "%" to its letter.
+/// One conversion of a format, from its "%" up to its letter.
 struct Conversion {
     FormatField field;
     Length length = Length::none;
@@ -71,8 +71,8 @@ Length readLength(std::u16string_view format, std::size_t& place)
     return length;
 }
 
-/// Reads the conversion that starts at `place` and moves on behind it; nothing when the format ends
-/// before its letter.
+/// Reads the conversion that starts at `place` and advances `place` past it. Returns
+/// `std::nullopt`, leaving `place` unchanged, if the format ends before the conversion's letter.
 std::optional<Conversion> readConversion(std::u16string_view format, std::size_t& place)
 {
     const std::size_t start = place++;
@@ -147,7 +147,7 @@ std::u16string numberAsText(const FormatArgument& argument)
     return formattedUnsigned(std::get<std::uint64_t>(argument), {}, u'u');
 }
 
-/// The conversion of an argument; nothing for a letter that is no conversion.
+/// Converts an argument. Returns `std::nullopt` if the letter is not a conversion.
 std::optional<std::u16string> converted(const Conversion& conversion,
                                         const FormatArgument& argument)
 {

@@ -35,7 +35,8 @@ constexpr std::array builtInSnippets{
 };
 // clang-format on
 
-/// What fills the format, by the variable form; nothing for an unknown one.
+/// Returns the arguments of the format for a variable form, or `std::nullopt` if the form is
+/// unknown.
 std::optional<std::vector<FormatArgument>> argumentsOfForm(std::u16string_view form,
                                                            const QTXHexColorSpec& spec)
 {
@@ -44,7 +45,7 @@ std::optional<std::vector<FormatArgument>> argumentsOfForm(std::u16string_view f
                                                 static_cast<double>(spec.blueHexComp()) / 255};
     const std::vector<FormatArgument> integers{spec.redHexComp(), spec.greenHexComp(),
                                                spec.blueHexComp()};
-    // A negative one keeps its sign, in two's complement like every integer of a format.
+    // A negative alpha keeps its sign, in two's complement like every integer argument.
     const auto alphaByte = static_cast<std::uint64_t>(truncatedSigned(spec.alphaComp() * 255));
     const auto with = [](std::vector<FormatArgument> arguments, FormatArgument alpha) {
         arguments.push_back(std::move(alpha));

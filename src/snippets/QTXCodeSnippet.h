@@ -9,8 +9,8 @@
 
 namespace vantorel {
 
-/// A template that turns a colour into a line of source code: a name, a printf format (see
-/// FormatString.h) and a variable form, which says what fills the format:
+/// A template that turns a colour into a line of source code. It has a name, a printf format (see
+/// FormatString.h) and a variable form, which selects the arguments of the format:
 ///
 ///     rgbaFloats          red/255, green/255, blue/255, alpha
 ///     rgbFloats           red/255, green/255, blue/255
@@ -29,7 +29,7 @@ public:
     {
     }
 
-    /// The name is the snippet's identity.
+    /// The name identifies the snippet.
     [[nodiscard]] const std::optional<std::u16string>& nameSnippet() const { return _nameSnippet; }
     void setNameSnippet(std::optional<std::u16string> name) { _nameSnippet = std::move(name); }
     [[nodiscard]] const std::optional<std::u16string>& formatStringSnippet() const
@@ -49,18 +49,19 @@ public:
         _varFormSnippet = std::move(form);
     }
 
-    /// The line for a colour; "??" for an unknown variable form. The letter case of hex digits is
-    /// the format's own.
+    /// Returns the line for a colour, or "??" if the variable form is unknown. The format
+    /// determines the letter case of hex digits.
     [[nodiscard]] std::u16string codeSnippetWithColorSpec(const QTXHexColorSpec& colorSpec) const;
 
-    /// A dictionary of strings; what is not set is left out.
+    /// Returns a dictionary of strings without the fields that are not set.
     [[nodiscard]] PropertyList propertyListRepresentation() const;
-    /// Sets each field whose key is there with a string; the others stay.
+    /// Sets each field whose key has a string value; the other fields are unchanged.
     void loadPropertyListRepresentation(const PropertyList& dictionary);
 
-    /// The built-in snippets as an array of dictionaries. The first is the fallback everywhere.
+    /// The built-in snippets as an array of dictionaries. The first one is used wherever no other
+    /// is available.
     [[nodiscard]] static const PropertyList& buildDefaultCodeSnippetDictionaries();
-    /// The built-in snippets; the same object at every call.
+    /// The built-in snippets. Every call returns the same object.
     [[nodiscard]] static const std::vector<QTXCodeSnippet>& buildDefaultCodeSnippets();
 
     bool operator==(const QTXCodeSnippet&) const = default;

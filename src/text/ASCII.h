@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-/// ASCII characters in UTF-8 and UTF-16 texts. No locale takes part: a character outside ASCII
-/// belongs to no class and has no other case.
+/// ASCII character classes and letter case for UTF-8 and UTF-16 texts. The functions ignore the
+/// locale: a character outside ASCII belongs to no class and has no other case.
 namespace vantorel {
 
-/// A unit of UTF-8 or UTF-16, or a character.
+/// A code unit of UTF-8 or UTF-16, or a whole character.
 template <class Type>
 concept TextUnit =
     std::same_as<Type, char> || std::same_as<Type, char16_t> || std::same_as<Type, char32_t>;
@@ -84,7 +84,7 @@ template <TextUnit Unit>
     return std::ranges::equal(left, right, {}, lowerCase<Unit>, lowerCase<Unit>);
 }
 
-/// The text with a space in place of each control character, as it can be shown on one line.
+/// Replaces each control character by a space, so that the text can be shown on one line.
 template <TextUnit Unit>
 [[nodiscard]] std::basic_string<Unit> withoutControls(std::basic_string<Unit> text)
 {
@@ -92,7 +92,7 @@ template <TextUnit Unit>
     return text;
 }
 
-/// An ASCII text as UTF-16.
+/// Converts ASCII to UTF-16. Bytes above 0x7F are not decoded.
 [[nodiscard]] inline std::u16string widened(std::string_view ascii)
 {
     return {ascii.begin(), ascii.end()};

@@ -6,7 +6,7 @@ namespace vantorel {
 
 std::string fixedText(double number, int decimals)
 {
-    // A sign, the 309 digits of the largest number, the point and the decimals.
+    // Room for a sign, the 309 digits of the largest number, the decimal point and the decimals.
     std::array<char, 1 + 309 + 1 + 100> buffer{};
     const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                             std::chars_format::fixed, std::clamp(decimals, 0, 100));

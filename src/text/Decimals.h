@@ -11,16 +11,16 @@
 #include <string>
 #include <string_view>
 
-/// Decimal numbers. No locale takes part: the point is always ".".
+/// Decimal numbers. The functions ignore the locale: the decimal point is always ".".
 namespace vantorel {
 
-/// A whole number, with "-" before a negative one.
+/// Formats a whole number; negative numbers start with "-".
 [[nodiscard]] inline std::u16string decimalText(std::integral auto number)
 {
     return widened(std::to_string(number));
 }
 
-/// Appends 0..255.
+/// Appends a byte as a decimal number without leading zeros.
 template <TextUnit Unit>
 constexpr void appendDecimal(std::basic_string<Unit>& text, std::uint8_t byte)
 {
@@ -29,14 +29,15 @@ constexpr void appendDecimal(std::basic_string<Unit>& text, std::uint8_t byte)
     text += static_cast<Unit>('0' + byte % 10);
 }
 
-/// Any number with that many decimals, 0 to 100, correctly rounded.
+/// Formats a number with the given number of decimals (0 to 100), correctly rounded.
 [[nodiscard]] std::string fixedText(double number, int decimals);
 
-/// As `fixedText`, but without zeros at the end and without "-" before 0.
+/// Like `fixedText`, but without trailing zeros and without "-" before 0.
 [[nodiscard]] std::string shortFixedText(double number, int mostDecimals);
 
-/// A text that is a whole number of that type and nothing else: digits, for a signed type after "-"
-/// or without it. `std::nullopt` for any other text and for a number that the type cannot hold.
+/// Parses a text that consists of one whole number: decimal digits, for signed types with an
+/// optional leading "-". Returns `std::nullopt` for any other text and for numbers out of the
+/// type's range.
 template <std::integral Number>
 [[nodiscard]] std::optional<Number> wholeNumber(std::string_view text)
 {
@@ -47,7 +48,8 @@ template <std::integral Number>
     return number;
 }
 
-/// The number that tells names apart, as in "Red 2": one to nine digits, the first of them not 0.
+/// Parses the number at the end of a name such as "Red 2". Returns `std::nullopt` unless `digits`
+/// is one to nine digits, the first of which is not 0.
 [[nodiscard]] std::optional<std::size_t> nameNumber(std::u16string_view digits);
 
 }  // namespace vantorel

@@ -12,16 +12,17 @@ namespace vantorel {
 
 enum class HexCase : bool { lower, upper };
 
-/// The sixteen digits by value.
+/// The sixteen digits, indexed by value.
 [[nodiscard]] constexpr std::string_view hexDigits(HexCase letterCase)
 {
     return letterCase == HexCase::upper ? "0123456789ABCDEF" : "0123456789abcdef";
 }
 
-/// Larger than the value of any digit, also after "or" with other values.
+/// Returned for characters that are not hex digits. Callers may combine several values with "or":
+/// the result is at least 16 if one of them was not a digit.
 inline constexpr std::uint8_t notAHexDigit = 0xFF;
 
-/// The value of each byte as a digit.
+/// The digit value of each byte, or `notAHexDigit`.
 inline constexpr std::array<std::uint8_t, 256> hexDigitValues = [] {
     std::array<std::uint8_t, 256> values{};
     values.fill(notAHexDigit);
@@ -33,7 +34,7 @@ inline constexpr std::array<std::uint8_t, 256> hexDigitValues = [] {
     return values;
 }();
 
-/// 0..15, or `notAHexDigit`.
+/// Returns 0..15, or `notAHexDigit`.
 [[nodiscard]] constexpr std::uint8_t hexDigitValue(char c)
 {
     return hexDigitValues[static_cast<unsigned char>(c)];
@@ -49,7 +50,8 @@ inline constexpr std::array<std::uint8_t, 256> hexDigitValues = [] {
     return hexDigitValue(c) != notAHexDigit;
 }
 
-/// Appends the lowest `count` digits of a value, the high one first, zeros included.
+/// Appends the lowest `count` hex digits of a value, most significant first, including leading
+/// zeros.
 template <TextUnit Unit>
 constexpr void appendHexDigits(std::basic_string<Unit>& text, std::uint64_t value,
                                std::size_t count, HexCase letterCase)
@@ -59,7 +61,7 @@ constexpr void appendHexDigits(std::basic_string<Unit>& text, std::uint64_t valu
         text += static_cast<Unit>(digits[count < 16 ? value >> (4 * count) & 15 : 0]);
 }
 
-/// Appends both digits of a byte.
+/// Appends a byte as two hex digits.
 template <TextUnit Unit>
 constexpr void appendHexByte(std::basic_string<Unit>& text, std::uint8_t byte, HexCase letterCase)
 {

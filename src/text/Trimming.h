@@ -6,10 +6,11 @@
 #include <string_view>
 #include <utility>
 
-/// Texts without what surrounds them. Callers say what counts as blank, because formats differ.
+/// Functions that remove leading and trailing characters. Callers choose which characters count as
+/// blank, because file formats differ.
 ///
-/// The searches of `std::string_view` for one of several characters call a function for each
-/// character, which takes a third of the time of reading a long colour list; these are inlined.
+/// `std::string_view::find_first_not_of` calls a function for each character, which takes a third
+/// of the time of reading a long colour list. These templates are inlined instead.
 namespace vantorel {
 
 template <TextUnit Unit, std::predicate<Unit> IsBlank>
@@ -37,14 +38,15 @@ template <TextUnit Unit, std::predicate<Unit> IsBlank>
     return withoutTrailing(withoutLeading(text, isBlankUnit), isBlankUnit);
 }
 
-/// Without spaces and tabs around it.
+/// Removes leading and trailing spaces and tabs.
 template <TextUnit Unit>
 [[nodiscard]] constexpr std::basic_string_view<Unit> trimmed(std::basic_string_view<Unit> text)
 {
     return trimmed(text, isBlank<Unit>);
 }
 
-/// A name as menus show it on one line: a space for each control character, and none around it.
+/// Makes a name fit for one line of a menu: replaces control characters by spaces, then removes
+/// leading and trailing spaces.
 [[nodiscard]] inline std::u16string tidied(std::u16string name)
 {
     return std::u16string(trimmed(std::u16string_view(withoutControls(std::move(name)))));

@@ -13,7 +13,7 @@ constexpr bool isSurrogate(char32_t character)
     return character >= 0xD800 && character <= 0xDFFF;
 }
 
-/// Decodes the sequence at `position`; returns its length in bytes, or 0 when it is ill-formed.
+/// Decodes the sequence at `position`. Returns its length in bytes, or 0 if it is ill-formed.
 std::size_t decodeSequence(std::string_view text, std::size_t position, char32_t& character)
 {
     const auto byteAt = [&](std::size_t i) {
@@ -71,7 +71,7 @@ void appendUtf8(std::string& text, char32_t character)
     }
 }
 
-/// Most texts are plain ASCII, which is the same in both forms.
+/// Most texts are plain ASCII, whose units are the same in UTF-8 and UTF-16.
 template <class Text>
 bool isASCII(Text text)
 {

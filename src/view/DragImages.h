@@ -5,14 +5,14 @@
 
 #include <string>
 
-/// What hangs at the pointer during a drag.
+/// The images shown at the pointer during a drag.
 namespace vantorel {
 
-/// The text itself, cut to its first 20 characters with "..." when it is both longer than that and
-/// wider than 140 points.
+/// Returns an image of the text. A text longer than 20 characters and wider than 140 points is cut
+/// to its first 20 characters and "...".
 [[nodiscard]] HostImage stringDragImage(HostDesktop& desktop, const std::u16string& text);
 
-/// A swatch with a black and a white rim, and `label` above it.
+/// Returns a swatch with a black and a white border, with `label` above it.
 [[nodiscard]] HostImage colorDragImage(HostDesktop& desktop, const HostColor& color,
                                        const std::u16string& label);
 

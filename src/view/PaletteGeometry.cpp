@@ -6,7 +6,8 @@ namespace vantorel {
 namespace {
 
 constexpr double drawingOffset = 2.0;
-/// More columns than any screen has points, yet far from the end of the integers.
+/// The largest number of columns: more than any screen has points, yet far below the integer
+/// limits.
 constexpr double mostColumns = 1e9;
 
 std::uint64_t browserSafeColumns(HostSize rect)
@@ -22,7 +23,8 @@ std::uint64_t nearlySquareColumns(std::size_t count, HostSize rect)
     return static_cast<std::uint64_t>(columns < mostColumns ? columns : mostColumns);
 }
 
-/// The integer part of a quotient, towards zero; nothing when it is no number that an index can be.
+/// Returns the integer part of a quotient, truncated towards zero, or `std::nullopt` if it cannot
+/// be an index.
 std::optional<std::int64_t> integerPart(double quotient)
 {
     if (!(std::abs(quotient) < mostColumns)) return std::nullopt;

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <optional>
 
-/// The grid of swatches, row 0 at the top.
+/// The grid of swatches in the palette. Row 0 is at the top.
 namespace vantorel {
 
 struct PaletteGrid {
@@ -15,31 +15,32 @@ struct PaletteGrid {
     HostSize swatch;
 };
 
-/// The grid for a number of colours in a rectangle. Around 216 colours the columns are those that
-/// the browser-safe list divides into; otherwise the swatches come out nearly square.
+/// Returns the grid for a number of colours in a rectangle. For 201 to 249 colours, the number of
+/// columns divides the 216 colours of the browser-safe list evenly; otherwise the swatches are
+/// nearly square.
 [[nodiscard]] PaletteGrid paletteGrid(std::size_t count, HostSize rect);
 
-/// A swatch of the grid, by its column and row.
+/// The position of a swatch in the grid.
 struct PalettePlace {
     std::uint64_t column = 0;
     std::uint64_t row = 0;
 
-    /// The one that follows in reading order.
+    /// Returns the next position in reading order.
     [[nodiscard]] PalettePlace next(const PaletteGrid& grid) const
     {
         return column + 1 < grid.across ? PalettePlace{column + 1, row} : PalettePlace{0, row + 1};
     }
 };
 
-/// Where a swatch is drawn, in a rectangle of that height.
+/// Returns the rectangle of a swatch in a rectangle of that height.
 [[nodiscard]] HostRect paletteSwatchRect(const PaletteGrid& grid, PalettePlace place,
                                          double rectHeight);
 [[nodiscard]] HostRect paletteSwatchRect(const PaletteGrid& grid, std::size_t index,
                                          double rectHeight);
 
-/// The index of the swatch that a click at `point` means in a view of that height, which may be
-/// beyond the last one; nothing outside the grid. It differs from the drawing by a point or two at
-/// the edges, as it always has.
+/// Returns the index of the swatch at `point` in a view of that height, or `std::nullopt` outside
+/// the grid. The index may be beyond the last swatch. At the edges it differs from the drawn
+/// rectangles by a point or two; this is kept for compatibility.
 [[nodiscard]] std::optional<std::size_t> paletteIndexAtPoint(const PaletteGrid& grid,
                                                              HostPoint point, double boundsHeight);
 

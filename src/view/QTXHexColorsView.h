@@ -21,14 +21,16 @@ namespace vantorel {
 /// swatches of a colour list (Palette) or the rings of the colour cube (Wheel). It also shows
 /// messages that fade, follows the pointer for the read-out, and starts drags of the colour.
 ///
-/// This class is what the view shows and does; the desktop's own view, which it is attached to, has
-/// its place and size. Without one it does nothing. Points are in that view's coordinates, y up.
+/// This class draws the view and handles its events. The desktop's native view, to which it is
+/// attached, determines its position and size. A detached view does nothing. Points are in the
+/// native view's coordinates, y up.
 class QTXHexColorsView final : public HostViewContent {
 public:
     /// `owner` must outlive the view.
     explicit QTXHexColorsView(QTXHexColorsViewOwner& owner) : _hostHexColorPicker(owner) {}
 
-    /// The desktop's view that shows this one. It must be detached (null) before it ends.
+    /// Attaches the desktop's native view, or detaches it if null. Detach the view before it is
+    /// destroyed.
     void attachToView(HostCustomView* view) { _view = view; }
     [[nodiscard]] HostCustomView* view() const { return _view; }
 
@@ -44,26 +46,27 @@ public:
     // Slider mode (QTXHexColorsViewSlider.cpp).
 
     [[nodiscard]] HostRect colorMatrixRect() const { return sliderMatrixRect(bounds()); }
-    /// Takes the size of one cell from the bounds as they are now.
+    /// Computes the cell size from the current bounds.
     void loadColorMatrixSize();
-    /// Uses the size that `loadColorMatrixSize` took last.
+    /// Uses the cell size computed by the last `loadColorMatrixSize`.
     [[nodiscard]] HostRect colorMatrixRectWithComponent(int component, int digit, int value) const;
-    /// Component, digit and value of the cell under a point; nothing between the columns and
-    /// outside.
+    /// Returns the component, digit and value of the cell at a point, or `std::nullopt` outside the
+    /// columns.
     [[nodiscard]] std::optional<SliderCell> getComponent(HostPoint fromHitPoint);
 
     // Palette mode (QTXHexColorsViewPalette.cpp).
 
-    /// Nothing beyond the last swatch, before the first drawing, and without a list.
+    /// Returns `std::nullopt` beyond the last swatch, before the first drawing, and if there is no
+    /// list.
     [[nodiscard]] std::optional<HostColor> getPaletteColorWithPoint(HostPoint point) const;
 
     // Wheel mode (QTXHexColorsViewWheel.cpp).
 
-    /// Nothing outside the wheel that is drawn in `rect`.
+    /// Returns `std::nullopt` outside the wheel drawn in `rect`.
     [[nodiscard]] std::optional<HostColor> getWheelColorWithPoint(HostPoint point,
                                                                   HostRect rect) const;
 
-    // Messages (QTXHexColorsViewMessages.cpp). Posting does not redraw; clearing does.
+    // Messages (QTXHexColorsViewMessages.cpp). Posting does not redraw the view; clearing does.
 
     void postMessage(const std::u16string& text);
     void postWarning(const std::u16string& text);
@@ -85,21 +88,21 @@ public:
 
 private:
     [[nodiscard]] HostRect bounds() const;
-    /// The rectangle that the modes draw in.
+    /// The rectangle in which the modes draw.
     [[nodiscard]] HostRect modeRect() const;
     [[nodiscard]] HostColorPanel& panel() const { return _hostHexColorPicker.hostPanel(); }
     void pickColor(const std::optional<HostColor>& color);
 
-    /// Hands the drawing rectangle to the mode and puts the ring buttons in or out of sight.
+    /// Draws the current mode in `rect` and shows the ring buttons, or moves them out of sight.
     void drawHecColorMatrixWithRect(HostRect rect, HostCanvas& canvas);
 
-    /// Draws the six columns where `colorMatrixRectWithComponent` has their cells.
+    /// Draws the six columns at the positions given by `colorMatrixRectWithComponent`.
     void drawHexSlidersWithRect(HostCanvas& canvas);
     void drawHexColorsWithRect(QTXHexColorSpec& colorSpec, int component, int digit,
                                HostCanvas& canvas);
     void strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas);
     void slidersMouseDownWithEvent(const HostEvent& event);
-    /// Sets a cell's digit in the work colour, which starts as the current colour.
+    /// Sets the work colour to the current colour with the cell's digit replaced.
     void loadWorkColorSpecWithCell(const SliderCell& cell, std::uint64_t modifierFlags);
 
     [[nodiscard]] std::shared_ptr<HostColorList> paletteList() const;
@@ -122,17 +125,17 @@ private:
 
     /// Scratch colour for drawing and picking; loaded before each use.
     QTXHexColorSpec __workColorSpec;
-    /// One path for every shape. Its line width outlives the shape, so that a stroke which sets
-    /// none has the width of the stroke before it.
+    /// The path used for every shape. Its line width persists: a stroke that does not set a width
+    /// uses that of the stroke before it.
     HostBezierPath __bPth;
     HostSize __colorMatrixRectSize;
-    /// The controller's exact match as it was when the drawing began.
+    /// The controller's `exactHexColorMatch` when the current drawing began.
     bool __exactHexColorMatch = false;
 
     std::uint64_t _nDownPaletteMode = 0;
     std::uint64_t _nAcrossPaletteMode = 0;
     HostSize _swatchSizePaletteMode;
-    /// Kept between drawings, because a click indexes it.
+    /// Kept between drawings, because clicks are looked up in it.
     SortedColorKeys __sortedPaletteColorKeys;
 
     std::optional<std::u16string> _messageStr;
@@ -145,7 +148,7 @@ private:
     };
     std::vector<MessageTimer> _messageTimers;
 
-    /// 0 while nothing is tracked.
+    /// 0 while the pointer is not tracked.
     std::intptr_t __trackingRectTag = 0;
     bool __holdAcceptsMouseMovedEvents = false;
 };

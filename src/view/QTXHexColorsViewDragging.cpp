@@ -21,8 +21,8 @@ void QTXHexColorsView::mouseDragged(const HostEvent& event)
     const auto text = _hostHexColorPicker.dragString();
     const auto panelColor = panel().color();
     if (text && !text->empty()) {
-        // Black in the panel, so that a colour well under the pointer is not taken for the target
-        // of a colour.
+        // Set the panel to black during the drag, so that a colour well under the pointer is not
+        // mistaken for a target of a colour.
         panel().setColor(HostColor::blackColor());
         panel().dragImage(dragImageWithString(*text), utf8FromUtf16(*text), event, *_view);
         panel().setColor(panelColor);

@@ -3,15 +3,16 @@
 namespace vantorel {
 namespace {
 
-/// A message is gone once its opacity is no more than this.
+/// The opacity at and below which a message is not drawn.
 constexpr double faintestAlpha = 0.2;
 constexpr double fadingStep = 0.05;
 
-/// What sets a warning apart from a plain message.
+/// The differences between a plain message and a warning.
 struct MessageStyle {
     double pointSize = 0;
     HostColor color;
-    /// While the opacity is above this, the message is at rest for longer.
+    /// Above this opacity, the message waits `restingSeconds` before the next step, else
+    /// `fadingSeconds`.
     double restingAbove = 0;
     double restingSeconds = 0;
     double fadingSeconds = 0;
@@ -69,8 +70,8 @@ void QTXHexColorsView::drawMessage(HostCanvas& canvas)
     scheduleMessageTimer(alpha > style.restingAbove ? style.restingSeconds : style.fadingSeconds);
 }
 
-/// One timer for every drawing, and none is cancelled: a redraw for another reason adds a step and
-/// so speeds the fading up.
+/// Each drawing starts a timer, and none is cancelled. A redraw for another reason therefore adds a
+/// step and makes the message fade faster.
 void QTXHexColorsView::scheduleMessageTimer(double seconds)
 {
     std::erase_if(_messageTimers, [](const MessageTimer& timer) { return *timer.fired; });

@@ -39,7 +39,7 @@ void QTXHexColorsView::drawHexPaletteWithRect(HostRect rect, HostCanvas& canvas)
     setPaletteMatrixWithCount(count, rect);
     const PaletteGrid grid = currentPaletteGrid();
 
-    // From place to place, because to divide for each took a quarter of the time of a long list.
+    // Advance from swatch to swatch: a division for each took a quarter of the time of a long list.
     PalettePlace place;
     for (std::size_t i = 0; i < count; ++i, place = place.next(grid)) {
         if (!__sortedPaletteColorKeys.hasColorAtPosition(i)) continue;
@@ -77,7 +77,7 @@ void QTXHexColorsView::paletteMouseDownWithEvent(const HostEvent& event)
     pickColor(getPaletteColorWithPoint(event.location));
 }
 
-/// Takes a colour as it is named or drawn, so without remainders.
+/// Sets the picked colour. Palette and wheel colours are used without remainders.
 void QTXHexColorsView::pickColor(const std::optional<HostColor>& color)
 {
     if (!color) return;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int componentCount = 3;
 constexpr int digitValueCount = 16;
-/// How far the pointer must have left the press behind before a drag-out begins.
+/// How far, in points, the pointer must move from the press before a drag-out begins.
 constexpr double dragOutDistance = 4.0;
 
 }  // namespace
@@ -69,13 +69,14 @@ void QTXHexColorsView::drawHexColorsWithRect(QTXHexColorSpec& colorSpec, int com
                                                    : hexColorsSelectedColorWithoutMatchColorS);
     }
 
-    // Only the name of the second one, which is an index, is what the first parameter is called.
+    // The check is misled by names: the second argument is an index, but the first parameter is
+    // called `component`.
     // NOLINTNEXTLINE(readability-suspicious-call-argument)
     colorSpec.setComponent(savedComponent, component);
 }
 
-/// Two lines from a high digit's cursor towards the low-digit column beside it, to show that the
-/// whole of that column lies within the chosen high value.
+/// Draws two lines from the cursor of a high digit to the low-digit column beside it. They show
+/// that the whole column lies within the chosen high value.
 void QTXHexColorsView::strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas)
 {
     const HostRect matrix = colorMatrixRect();
@@ -119,7 +120,8 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
     if (_view == nullptr) return;
     const HostPoint pressed = event.location;
     HostPoint current = pressed;
-    HostPoint previous{pressed.x + 1, pressed.y};  // so that the press itself is never skipped
+    HostPoint previous{pressed.x + 1,
+                       pressed.y};  // differs from the press, so that the press is handled
     HostEventType type = event.type;
     std::uint64_t modifierFlags = event.modifierFlags;
     std::optional<SliderCell> lastHit;
@@ -155,8 +157,8 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
     const auto hit = getComponent(current);
     if (!hit) return;
     loadWorkColorSpecWithCell(*hit, modifierFlags);
-    // On release the controller, too, gets the colour with the panel's alpha; while the pointer
-    // moves it gets the plain one.
+    // On release, the controller also gets the colour with the panel's alpha. While the pointer
+    // moves, it gets the opaque one.
     const auto color =
         _hostHexColorPicker.colorRespectingAlpha(__workColorSpec.colorHexColorSpec());
     if (color) {

@@ -4,7 +4,8 @@
 namespace vantorel {
 namespace {
 
-/// How near the current colour's components must be to a cell's for the cell to be outlined.
+/// A cell is outlined if each of its components differs from the current colour's by less than
+/// this.
 constexpr int matchLimit = 2;
 
 void loadPathWithCell(HostBezierPath& path, const WheelCell& cell)
@@ -27,7 +28,7 @@ WheelPlace QTXHexColorsView::currentWheelPlace(HostRect rect) const
 void QTXHexColorsView::drawHexColorWheelWithRect(HostRect rect, HostCanvas& canvas)
 {
     const QTXHexColorSpec& current = _hostHexColorPicker.hexColorSpec();
-    HostBezierPath matching;  // a copy of the last matching cell's path; empty for none
+    HostBezierPath matching;  // the last matching cell's path; empty if none
     const auto outlineMatching = [&] {
         if (matching.isEmpty()) return;
         matching.setLineWidth(1.0);

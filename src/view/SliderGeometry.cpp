@@ -36,7 +36,7 @@ std::optional<SliderCell> sliderCellAtPoint(HostRect matrix, HostPoint point)
     if (!matrix.contains(point)) return std::nullopt;
     const HostSize cellSize = sliderCellSize(matrix);
     const int column = static_cast<int>((point.x - matrix.x) / cellSize.width);
-    // Rounding can lift a point just below the top edge into a row that does not exist.
+    // Rounding can place a point just below the top edge into a row that does not exist.
     const int row =
         std::min(static_cast<int>((point.y - matrix.y) / cellSize.height), rowCount - 1);
     const int place = column % columnsPerComponent;

@@ -4,11 +4,11 @@
 
 #include <optional>
 
-/// The matrix of hex digits: 15 columns of 16 rows, of which six columns are used. Each holds one
-/// digit of one component, the row being the digit's value, 0 at the bottom.
+/// The matrix of hex digits: 15 columns of 16 rows, of which six columns are used. Each of them
+/// holds one digit of one component. The row is the digit's value, 0 at the bottom.
 namespace vantorel {
 
-/// One cell of the matrix, or what a point of it stands for.
+/// A cell of the matrix: a digit of a component and its value.
 struct SliderCell {
     int component = 0;  ///< 0 red, 1 green, 2 blue
     int digit = 0;      ///< 1 the high hex digit, 0 the low one
@@ -17,15 +17,16 @@ struct SliderCell {
     bool operator==(const SliderCell&) const = default;
 };
 
-/// The matrix within the view's bounds.
+/// Returns the rectangle of the matrix within the view's bounds.
 [[nodiscard]] HostRect sliderMatrixRect(HostRect bounds);
 
-/// The size of one cell.
+/// Returns the size of one cell.
 [[nodiscard]] HostSize sliderCellSize(HostRect matrix);
 
 [[nodiscard]] HostRect sliderCellRect(HostRect matrix, HostSize cellSize, const SliderCell& cell);
 
-/// The cell under a point; nothing outside the matrix and in the gaps between its columns.
+/// Returns the cell at a point, or `std::nullopt` outside the matrix and in the gaps between its
+/// columns.
 [[nodiscard]] std::optional<SliderCell> sliderCellAtPoint(HostRect matrix, HostPoint point);
 
 }  // namespace vantorel

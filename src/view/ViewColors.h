@@ -2,8 +2,8 @@
 
 #include "host/HostColor.h"
 
-/// The fixed colours of the picker's own drawing; they are the same in light and dark themes,
-/// because the colours beside them are to be judged against one known ground.
+/// The fixed colours of the picker's own drawing. They are the same in light and dark themes, so
+/// that colours are always judged against the same background.
 namespace vantorel {
 
 [[nodiscard]] constexpr HostColor colorFromBytes(int red, int green, int blue)
@@ -12,9 +12,9 @@ namespace vantorel {
 }
 
 inline constexpr HostColor hexColorsViewBackgroundColorS = colorFromBytes(241, 241, 245);
-/// Cursor and marks when the colour is on the 8-bit grid, or equals the swatch.
+/// The cursor and marks if the colour is on the 8-bit grid or equals the swatch.
 inline constexpr HostColor hexColorsSelectedColorWithMatchColorS = colorFromBytes(30, 80, 30);
-/// The same when it is not, or is only close.
+/// The cursor and marks if the colour is off the grid or only close to the swatch.
 inline constexpr HostColor hexColorsSelectedColorWithoutMatchColorS = colorFromBytes(200, 30, 30);
 inline constexpr HostColor dragStringColorS = colorFromBytes(0, 0, 129);
 

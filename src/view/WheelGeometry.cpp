@@ -11,8 +11,9 @@ namespace {
 constexpr double halfSqrt3 = 0.8660254037844387;
 constexpr std::array<std::uint8_t, 6> centerGreys{192, 255, 0, 48, 96, 144};
 
-/// The corners of the hexagon of size 1, in units, from the lower left one clockwise. The
-/// difference of two neighbours is again a corner, so all cells lie on one triangular lattice.
+/// The corners of the hexagon of size 1, in units, clockwise from the lower left one. The
+/// difference of two neighbouring corners is again a corner, so all cells lie on one triangular
+/// lattice.
 constexpr std::array<HostPoint, 6> corners{{
     {-1, -0.5},
     {-1, 0.5},
@@ -24,7 +25,7 @@ constexpr std::array<HostPoint, 6> corners{{
 
 enum Component : std::size_t { red, green, blue };
 
-/// How the colour runs along one side of a ring: one component stays high, one low, one ramps.
+/// The colours along one side of a ring: one component stays high, one stays low, one is a ramp.
 struct SideColors {
     Component high;
     Component low;
@@ -46,7 +47,8 @@ struct RingColors {
     int low = 0;
 };
 
-/// The outer rings are tints, the inner ones shades. `size` is n for the outermost ring, 1 inmost.
+/// Returns the colours of a ring. The outer rings are tints, the inner ones shades. `size` is n for
+/// the outermost ring and 1 for the innermost.
 RingColors ringColors(int rings, int size)
 {
     const int half = rings / 2;
@@ -59,8 +61,8 @@ HostPoint pointOnLattice(const WheelPlace& place, HostPoint units)
     return {place.center.x + units.x * place.unit, place.center.y + units.y * place.unit};
 }
 
-/// Triangle `index` of a ring's side. Even ones have an edge on the outer hexagon, odd ones on the
-/// inner.
+/// Returns triangle `index` of a ring's side. Even triangles have an edge on the outer hexagon, odd
+/// ones on the inner hexagon.
 std::array<HostPoint, 3> triangle(const WheelPlace& place, int ring, std::size_t side, int index)
 {
     const HostPoint from = corners[side];

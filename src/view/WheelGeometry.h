@@ -7,16 +7,16 @@
 #include <optional>
 #include <vector>
 
-/// The wheel: hexagonal rings of hues around the six edges of the RGB colour cube, tints in the
-/// outer half, shades in the inner one, six greys in the middle. Its cells are triangles with one
-/// vertical edge as long as the triangle is wide.
+/// The geometry of the wheel: hexagonal rings of hues around the six edges of the RGB colour cube,
+/// tints in the outer half, shades in the inner half, and six greys in the middle. Its cells are
+/// triangles with one vertical edge, as long as the triangle is wide.
 namespace vantorel {
 
-/// The ring counts that are drawn. What is stored may be anything; it is clamped where it is used.
+/// The limits of the ring count. Settings may store any number; it is clamped where it is used.
 inline constexpr int fewestDrawnRings = 2;
 inline constexpr int mostDrawnRings = 128;
 
-/// A stored ring count as it is drawn.
+/// Returns a stored ring count clamped to these limits.
 [[nodiscard]] int drawnRingCount(std::int64_t stored);
 
 struct WheelCell {
@@ -28,7 +28,7 @@ struct WheelCell {
     bool center = false;
 };
 
-/// The place of a wheel: unit and centre from a rectangle's size alone.
+/// The position and scale of a wheel, computed from the size of its rectangle.
 struct WheelPlace {
     HostPoint center;
     double unit = 0;  ///< width and height of a cell
@@ -37,15 +37,15 @@ struct WheelPlace {
 
 [[nodiscard]] WheelPlace wheelPlace(HostSize rect, int rings);
 
-/// The corners of the outermost hexagon, from the lower left one clockwise.
+/// Returns the corners of the outermost hexagon, clockwise from the lower left one.
 [[nodiscard]] std::array<HostPoint, 6> wheelOutline(const WheelPlace& place);
 
-/// All 6 n² cells in drawing order: the rings from the outside in, each from its lower left corner
-/// clockwise, then the greys.
+/// Returns all 6 n² cells in drawing order: the rings from the outside in, each clockwise from its
+/// lower left corner, then the greys.
 [[nodiscard]] std::vector<WheelCell> wheelCells(const WheelPlace& place);
 
-/// The cell under a point: the one with the nearest centroid, the earlier of two equally near.
-/// Nothing outside the outermost hexagon.
+/// Returns the cell with the centroid nearest to a point, the earlier one of two at the same
+/// distance, or `std::nullopt` outside the outermost hexagon.
 [[nodiscard]] std::optional<WheelCell> wheelCellAtPoint(const WheelPlace& place, HostPoint point);
 
 }  // namespace vantorel
