@@ -180,7 +180,7 @@ int nameColors(Session& session, const CommandLine& commandLine)
     return areAllColors ? 0 : failureStatus;
 }
 
-int tellSnippets(Session& session, const CommandLine& commandLine)
+int printSnippets(Session& session, const CommandLine& commandLine)
 {
     for (const QTXCodeSnippet& snippet : session.settings().codeSnippets()) {
         const std::string name = utf8FromUtf16(snippet.nameSnippet().value_or(u""));
@@ -204,7 +204,7 @@ int tellSnippets(Session& session, const CommandLine& commandLine)
     return 0;
 }
 
-int tellContrast(Session& session, const CommandLine& commandLine)
+int printContrast(Session& session, const CommandLine& commandLine)
 {
     ColorTextReader reader = readerWithNamesOf(session, commandLine);
     const ByteColor foreground = requiredColor(reader, commandLine.operands.at(0));

@@ -40,7 +40,7 @@ std::array<std::string, 3> componentTexts(const QTXHexColorSpec& spec, EntryForm
             utf8(spec.blueStringHexColorSpecWithEntryForm(form, display))};
 }
 
-/// The shortest decimal number that is read back as the same.
+/// Returns the shortest decimal number that is read back as the same value.
 std::string numberText(double number)
 {
     std::array<char, 32> buffer{};

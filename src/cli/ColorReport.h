@@ -10,35 +10,35 @@
 
 namespace vantorel {
 
-/// What is told of a colour, and how.
+/// The contents and the form of a colour's report.
 struct ReportForm {
     EntryForm entryForm = EntryForm::uppercase;
     bool poundSign = true;
-    /// What names are taken from; null for none. Must outlive the report.
+    /// Names the colour; null for a report without a name. Not owned.
     const ColorNamer* namer = nullptr;
     std::vector<QTXCodeSnippet> snippets;
     bool swatches = false;
 };
 
-/// "#FF8000", with two digits more for an alpha that is not opaque in 8 bits.
+/// Returns a hex code such as "#FF8000", with two more digits if the alpha is not opaque in 8 bits.
 [[nodiscard]] std::string hexTextOf(const ByteColor& color, const ReportForm& form);
 
-/// All about a colour in several lines.
+/// Returns the report of a colour as several lines of text.
 [[nodiscard]] std::string reportOf(const ByteColor& color, const ReportForm& form);
-/// The same as a JSON object on one line.
+/// Returns the report of a colour as a JSON object on one line.
 [[nodiscard]] std::string jsonReportOf(const ByteColor& color, const ReportForm& form);
 
-/// How a colour is named, as a JSON object.
+/// Appends the name of a colour as a JSON object.
 void appendJsonName(std::string& json, const ColorNamer& namer, const ColorNameMatch& match);
 
-/// What stands for a colour of a stream: hex code, tab, rgb() text, and with a list a tab and the
-/// name. Without line feed.
+/// Returns the line for a colour of a stream: the hex code, a tab and the rgb() text, followed by a
+/// tab and the name if the form has a namer. The line feed is not included.
 [[nodiscard]] std::string lineOf(const ByteColor& color, const ReportForm& form);
 
-/// Whether the lines of a form can be written by `writePlainLine`.
+/// Whether `writePlainLine` can write the lines of a form.
 [[nodiscard]] bool hasPlainLines(const ReportForm& form);
-/// Writes the line of an opaque colour, with its line feed, at `place`, which has room for
-/// `Output::mostReserved` bytes; returns where it ends.
+/// Writes the line of an opaque colour, including its line feed, to `place`, which must have room
+/// for `Output::mostReserved` bytes. Returns the end of the line.
 [[nodiscard]] char* writePlainLine(char* place, const ByteColor& color, EntryForm entryForm,
                                    bool poundSign);
 

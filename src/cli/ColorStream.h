@@ -8,16 +8,16 @@
 
 namespace vantorel {
 
-/// Writes what is told of a colour. `isLine` says that it came as a line of standard input.
+/// Writes the output for a colour. `isLine` is true for a colour from a line of standard input.
 class ColorWriter {
 public:
     virtual ~ColorWriter() = default;
     virtual void write(Output& output, const ByteColor& color, bool isLine) = 0;
 };
 
-/// Reads the colours of the arguments and hands them to a writer. "-" stands for the lines of
-/// standard input, and so do no arguments at all. What is no colour is told on standard error, and
-/// the rest goes on; then the result is false.
+/// Reads colours from the arguments and passes them to a writer. The argument "-", or an empty list
+/// of arguments, reads the lines of standard input. Texts that are not colours are reported on
+/// standard error and skipped. Returns false if there were any.
 [[nodiscard]] bool writeColors(const std::vector<std::string>& arguments, ColorTextReader& reader,
                                ColorWriter& writer, Output& output);
 

@@ -3,7 +3,8 @@
 namespace vantorel {
 namespace {
 
-/// True for the one option, false for the other, empty where neither is given.
+/// Returns true if the first option is given, false if the second is, and `std::nullopt` if neither
+/// is.
 std::optional<bool> eitherOf(const GivenArguments& given, std::string_view yes, std::string_view no)
 {
     if (given.has(yes)) return true;

@@ -8,11 +8,11 @@
 
 namespace vantorel {
 
-/// What the user asks of a command. Texts are as they were given.
+/// The arguments of a command. Texts are not yet interpreted.
 struct CommandLine {
     explicit CommandLine(GivenArguments given);
 
-    /// Colours, files, names, in their order.
+    /// Colours, files or names, in the order of the command line.
     std::vector<std::string> operands;
     std::optional<std::string> listName;
     std::optional<std::string> snippetName;

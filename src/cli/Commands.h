@@ -12,21 +12,23 @@
 
 namespace vantorel {
 
-/// What the commands work with. Settings and lists are read when they are asked for first.
+/// The user's files, settings and lists, and the output of a command. Settings and lists are read
+/// when they are first needed.
 class Session {
 public:
-    /// What cannot be written is told with the system's reason.
+    /// A file that cannot be written is reported on standard error with the system's reason.
     Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
     [[nodiscard]] Output& output() { return _output; }
-    /// The user's files, which may be written to.
+    /// The user's files, with write access.
     [[nodiscard]] PosixFiles& files() { return _files; }
-    /// The user's settings, or the usual ones where there are none.
+    /// Returns the user's settings, or the default ones if there are none.
     [[nodiscard]] const QTXHexSettings& settings();
     [[nodiscard]] UserLists& lists() { return _lists; }
-    /// The list of `--list`, which must be there, else that of the settings, or null.
+    /// Returns the list that `--list` names, which must exist. Without that option, returns the
+    /// list in the settings, or null if there is none.
     [[nodiscard]] std::shared_ptr<HostColorList> namingList(const CommandLine& commandLine);
 
 private:
@@ -37,15 +39,15 @@ private:
     Output _output;
 };
 
-// Each carries out a command and returns the exit status. What ends a command early is a `Failure`.
+// Each carries out a command and returns the exit status, or throws a `Failure`.
 
 int showColors(Session& session, const CommandLine& commandLine);
 int nameColors(Session& session, const CommandLine& commandLine);
-int tellSnippets(Session& session, const CommandLine& commandLine);
-int tellContrast(Session& session, const CommandLine& commandLine);
+int printSnippets(Session& session, const CommandLine& commandLine);
+int printContrast(Session& session, const CommandLine& commandLine);
 
-int tellLists(Session& session, const CommandLine& commandLine);
-int tellList(Session& session, const CommandLine& commandLine);
+int printLists(Session& session, const CommandLine& commandLine);
+int printList(Session& session, const CommandLine& commandLine);
 int importLists(Session& session, const CommandLine& commandLine);
 int exportList(Session& session, const CommandLine& commandLine);
 int publishList(Session& session, const CommandLine& commandLine);
@@ -53,7 +55,7 @@ int publishList(Session& session, const CommandLine& commandLine);
 int drawWheel(Session& session, const CommandLine& commandLine);
 int drawPalette(Session& session, const CommandLine& commandLine);
 
-// These become the panel; they return only by a `Failure`.
+// These replace the process by the panel. They do not return, and throw a `Failure` if that fails.
 [[noreturn]] int pickColor(Session& session, const CommandLine& commandLine);
 [[noreturn]] int chooseColor(Session& session, const CommandLine& commandLine);
 [[noreturn]] int startPanel(Session& session, const CommandLine& commandLine);

@@ -19,7 +19,7 @@ std::string_view withoutCarriageReturn(std::string_view line)
 
 }  // namespace
 
-/// A line that is not whole yet stands before the next chunk.
+/// The buffer has room for an incomplete line followed by the next chunk.
 LineReader::LineReader(int descriptor) : _descriptor(descriptor), _buffer(longestLine + 1 + chunk)
 {
 }

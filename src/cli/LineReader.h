@@ -7,19 +7,20 @@
 
 namespace vantorel {
 
-/// Cuts what a descriptor brings into lines, in bounded memory. A line ends in a line feed, with a
-/// carriage return before it or without one; the last one may lack it.
+/// Reads lines from a file descriptor in bounded memory. A line ends in a line feed, which a
+/// carriage return may precede. The last line may lack the line feed.
 class LineReader {
 public:
-    /// In bytes.
+    /// The length limit in bytes.
     static constexpr std::size_t longestLine = std::size_t{64} << 10;
 
     explicit LineReader(int descriptor);
 
     enum class Result { line, tooLong, end, failed };
 
-    /// `beforeReading` is called before more is read, which may wait for a long time. The line is
-    /// valid until the next call. Of a line that is too long nothing is told but that it was there.
+    /// Reads the next line, which is valid until the next call. `beforeReading` is called before
+    /// each read, because reading can block. For a line longer than `longestLine` returns `tooLong`
+    /// and skips its contents.
     template <class BeforeReading>
     Result next(std::string_view& line, BeforeReading&& beforeReading)
     {
@@ -32,7 +33,7 @@ public:
         }
     }
 
-    /// Lines so far, that of the last result included.
+    /// Returns the number of lines read, including that of the last result.
     [[nodiscard]] std::uint64_t number() const { return _number; }
 
 private:
@@ -47,7 +48,7 @@ private:
     std::size_t _begin = 0;
     std::size_t _end = 0;
     bool _isAtEnd = false;
-    /// Of the line at hand the beginning has been dropped.
+    /// Whether the beginning of the current line has been dropped.
     bool _isTooLong = false;
     std::uint64_t _number = 0;
 };

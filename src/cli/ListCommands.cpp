@@ -127,7 +127,7 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 
 }  // namespace
 
-int tellLists(Session& session, const CommandLine& commandLine)
+int printLists(Session& session, const CommandLine& commandLine)
 {
     for (const std::u16string& name : session.lists().names()) {
         const auto list = session.lists().listNamed(name);
@@ -158,7 +158,7 @@ int tellLists(Session& session, const CommandLine& commandLine)
     return 0;
 }
 
-int tellList(Session& session, const CommandLine& commandLine)
+int printList(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.operands.empty()) {
         throw Failure{"there is no NAME",

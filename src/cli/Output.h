@@ -6,8 +6,8 @@
 
 namespace vantorel {
 
-/// Standard output, gathered in a buffer. What cannot be written ends the command by a `Failure`; a
-/// reader who went away ends it silently.
+/// Buffered standard output. Throws a `Failure` if writing fails, and a `SilentFailure` if the
+/// reader has closed its end.
 // NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): see _buffer.
 class Output {
 public:
@@ -19,8 +19,8 @@ public:
     void write(std::string_view bytes);
     void write(char byte) { write(std::string_view(&byte, 1)); }
 
-    /// Room for at least `mostReserved` bytes, to be filled from its beginning; `commit` says where
-    /// what was filled ends.
+    /// Returns room for at least `mostReserved` bytes. Fill it from its beginning, then pass the
+    /// end of the written bytes to `commit`.
     static constexpr std::size_t mostReserved = 256;
     [[nodiscard]] char* reserve()
     {
@@ -35,19 +35,19 @@ private:
     static constexpr std::size_t bufferSize = std::size_t{128} << 10;
 
     std::size_t _used = 0;
-    // Not initialised: a short command touches one page of it.
+    // Not initialised, so that a short command touches only one page of it.
     std::array<char, bufferSize> _buffer;
 };
 
-/// Takes the numbers of standard streams that are closed, so that no file that is opened later gets
-/// one of them and is mistaken for it; reading or writing there goes on failing.
+/// Occupies the descriptors of closed standard streams, so that no file opened later gets one of
+/// them and is mistaken for the stream. Reading from or writing to such a stream still fails.
 void occupyClosedStreams();
 
-/// Writes a file, or standard output for "-". A regular file is replaced at once or stays. A file
-/// that cannot be written is a `Failure`.
+/// Writes a file, or standard output for "-". A regular file is replaced atomically. Throws a
+/// `Failure` if the file cannot be written.
 void writeFile(Output& output, const std::string& path, std::string_view bytes);
 
-/// A path from the working directory as an absolute one.
+/// Makes a path absolute; a relative one starts at the working directory.
 [[nodiscard]] std::string absolutePath(const std::string& path);
 
 }  // namespace vantorel

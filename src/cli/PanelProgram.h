@@ -5,9 +5,9 @@
 
 namespace vantorel {
 
-/// Goes on as the program `vantorel-panel` with these arguments, so that its output and its exit
-/// status are the caller's. It is looked for beside this program, then in PATH; where it is
-/// missing, or cannot be run, that is a `Failure`. Does not return.
+/// Replaces this process by `vantorel-panel` with the given arguments, so that its output and exit
+/// status go to the caller. The program is searched for in this program's folder, then in PATH.
+/// Does not return. Throws a `Failure` if the program is missing or cannot be run.
 [[noreturn]] void becomePanel(const std::vector<std::string>& arguments);
 
 }  // namespace vantorel

@@ -21,7 +21,7 @@ void writeToString(png_structp png, png_bytep data, png_size_t length)
     bytes->append(reinterpret_cast<const char*>(data), length);
 }
 
-/// The colours of one row of pixels.
+/// Computes the colours of a row of pixels.
 class PaletteRaster {
 public:
     /// `list` must outlive this object.
@@ -68,11 +68,12 @@ private:
     PalettePicture _picture;
 };
 
-/// Nothing in here may need a destructor: a failure jumps out of it.
+/// This function must not have objects with destructors, because libpng leaves it by longjmp if it
+/// fails.
 bool writePng(png_structp png, png_infop info, const PaletteRaster& raster, HostSize size,
               std::vector<png_byte>& row)
 {
-    // libpng tells of failures in no other way.
+    // libpng has no other way of reporting errors.
     // NOLINTNEXTLINE(cert-err52-cpp)
     if (setjmp(png_jmpbuf(png)) != 0) return false;
     png_set_IHDR(png, info, static_cast<png_uint_32>(size.width),

@@ -5,16 +5,17 @@
 
 #include <string>
 
-/// The picker's palette and wheel as pictures, by the same geometry as on the screen. Sizes are in
-/// points, or pixels of a PNG, and must be at least `smallestPicture` wide and high.
+/// Pictures of the picker's palette and wheel, with the same geometry as on the screen. Sizes are
+/// in points, or in pixels for PNG. Width and height must be at least `smallestPicture`.
 namespace vantorel {
 
 inline constexpr int smallestPicture = 8;
 inline constexpr int largestPicture = 16384;
 
-/// The palette as PNG, without names; empty when it cannot be made.
+/// Returns the palette as PNG, without names. Empty if libpng fails.
 [[nodiscard]] std::string palettePng(const HostColorList& list, HostSize size);
-/// `rings` must be a number that is drawn (see `drawnRingCount`).
+/// Returns the wheel as SVG. `rings` must be a number that the wheel can draw (see
+/// `drawnRingCount`).
 [[nodiscard]] std::string wheelSvg(int rings, HostSize size);
 
 }  // namespace vantorel

@@ -45,7 +45,7 @@ std::optional<PublishedFile> publishedFileOf(const PropertyList& dictionary)
     return PublishedFile{*path, *written, bytesForKey(dictionary, beforeKey)};
 }
 
-/// Whether a link stands at a path; `HostFiles` follows links.
+/// Whether a path is a symbolic link, which `HostFiles` would follow.
 bool isLink(const std::string& path)
 {
     char byte = 0;
@@ -56,8 +56,8 @@ bool isLink(const std::string& path)
 
 PublishPlan planPublish(const HostFiles& files, const HostColorList& list)
 {
-    // Nothing is published for everybody on the machine, nor into a folder of the user's that only
-    // stands in for one of the machine's.
+    // Lists are not published to system-wide folders, nor to a user's folder that is only a
+    // substitute for one.
     ReadOnlyFiles own(files, ReadOnlyFiles::Places::usersOwn);
     PalettePlaces places(own, {});
     places.lookAgain();
@@ -67,7 +67,7 @@ PublishPlan planPublish(const HostFiles& files, const HostColorList& list)
     for (const auto& folder : places.folders()) {
         const std::string& folderPath = folder->palettes.path();
         if (files.kindAtPath(folderPath) != HostFileKind::folder) continue;
-        // Versions of a program can share a folder by a link.
+        // Versions of a program can share a folder through a symbolic link.
         const std::string identity = files.identityAtPath(folderPath);
         if (std::find(seenFolders.begin(), seenFolders.end(), identity) != seenFolders.end())
             continue;
@@ -82,7 +82,7 @@ PublishPlan planPublish(const HostFiles& files, const HostColorList& list)
             target.file.before = files.contentsAtPath(path);
             target.isBlocked = !target.file.before;
         } else {
-            // Behind a link that leads nowhere a file would come up in a strange place.
+            // Writing through a dangling link would create a file in an unexpected place.
             target.isBlocked = isLink(path);
         }
         target.isAsWanted = target.file.before == bytes;
@@ -151,7 +151,7 @@ bool PublishRecords::replaceLatest(const Publish& publish)
 bool PublishRecords::save() const
 {
     const auto support = _files.applicationSupportDirectory();
-    // It may hold the only copies of what was replaced.
+    // The record may contain the only copies of replaced files.
     if (!_path || !support || !_isReadable) return false;
     if (_damaged && !_files.writeAtomically(*_path + "~", *_damaged)) return false;
     if (_publishes.empty()) return removeFile(*_path);

@@ -8,36 +8,37 @@
 #include <string>
 #include <vector>
 
-/// Puts a colour list into the palette folders of graphics programs, and takes it back.
+/// Publishes a colour list to the palette folders of graphics programs, and reverts that.
 namespace vantorel {
 
-/// A file that is written, or has been.
+/// A file that is to be published or has been published.
 struct PublishedFile {
     std::string path;
     /// The bytes that publishing wrote.
     std::string written;
-    /// What it replaced; nothing where there was no file.
+    /// The replaced bytes; `std::nullopt` if there was no file.
     std::optional<std::string> before;
 };
 
-/// What a publish would do, before it does it.
+/// The files that a publish would write.
 struct PublishPlan {
     struct Target {
-        /// What people call the program.
+        /// The program's name, as shown to users.
         std::u16string program;
         PublishedFile file;
+        /// The file already has these bytes.
         bool isAsWanted = false;
-        /// Something that is no file, or cannot be read, stands there.
+        /// The path exists but cannot be read as a file, or is a dangling symbolic link.
         bool isBlocked = false;
     };
     std::vector<Target> targets;
 };
 
-/// The files for a list: one in each folder for the user's own palettes that exists.
+/// Plans a file for a list in each existing folder for the user's own palettes.
 [[nodiscard]] PublishPlan planPublish(const HostFiles& files, const HostColorList& list);
 
-/// The records of what was published, the latest last, under the user's data. A record is written
-/// before the files, so that what they replace is safe whatever happens.
+/// The records of published files, the latest last, in the user's data folder. A record is written
+/// before the files, so that the replaced bytes are never lost.
 class PublishRecords {
 public:
     /// `files` must outlive this object.
@@ -45,17 +46,17 @@ public:
 
     using Publish = std::vector<PublishedFile>;
 
-    /// False while a record is there that the disk does not give; then nothing is recorded.
+    /// Returns false if a record exists but cannot be read. In that case new ones are not written.
     [[nodiscard]] bool isReadable() const { return _isReadable; }
-    /// Nothing when nothing has been published.
+    /// Returns the latest publish; `std::nullopt` if the list has not been published.
     [[nodiscard]] std::optional<Publish> latest() const;
-    /// False when the record cannot be written.
+    /// Adds a publish. Returns false if the record cannot be written.
     [[nodiscard]] bool add(const Publish& publish);
-    /// Puts another in the place of the latest; an empty one removes it.
+    /// Replaces the latest publish. An empty one removes it.
     [[nodiscard]] bool replaceLatest(const Publish& publish);
 
 private:
-    /// More are forgotten, the oldest first.
+    /// The number of publishes kept. Beyond it the oldest are dropped.
     static constexpr std::size_t mostKept = 20;
 
     void read(const std::string& bytes);
@@ -64,8 +65,8 @@ private:
     HostFiles& _files;
     std::optional<std::string> _path;
     bool _isReadable = true;
-    /// A record that is not understood whole; it is kept, with a "~", before another takes its
-    /// place.
+    /// The bytes of a record that could not be parsed completely. They are saved in a file with "~"
+    /// at the end of its name before the record is overwritten.
     std::optional<std::string> _damaged;
     std::vector<Publish> _publishes;
 };
@@ -73,14 +74,14 @@ private:
 enum class TakenBack {
     restored,
     removed,
-    /// It is gone already, or as it was before.
+    /// The file no longer exists, or has its old contents already.
     nothingToDo,
-    /// Its contents are no longer what was published.
+    /// The contents have changed since they were published.
     changedSince,
     failed,
 };
 
-/// Brings a file back to what it was before it was published.
+/// Restores a file to its contents before it was published.
 [[nodiscard]] TakenBack takeBack(HostFiles& files, const PublishedFile& file);
 
 }  // namespace vantorel

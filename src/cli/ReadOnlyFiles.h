@@ -4,11 +4,11 @@
 
 namespace vantorel {
 
-/// The files of a host, of which nothing is made or changed, not even the folder of the user's
-/// data: a command that tells something leaves no trace.
+/// Read-only access to the files of a host. Even the user's data folder is not created, so that
+/// commands that only print something leave no trace.
 class ReadOnlyFiles final : public HostFiles {
 public:
-    /// Base directories that are told: all, or only those of the user.
+    /// Which base directories are available: all, or only those of the user.
     enum class Places { all, usersOwn };
 
     /// `files` must outlive this object.

@@ -50,7 +50,7 @@ bool confirms(const std::string& question)
     if (!canAsk()) return false;
     const std::string text = harmlessLine(question) + " [y/N] ";
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text.data(), text.size());
-    // A terminal hands out one line at a time, so nothing of the next answer is lost.
+    // A terminal returns one line per read, so no part of the next answer is lost.
     LineReader lines(STDIN_FILENO);
     std::string_view answer;
     if (lines.next(answer, [] {}) != LineReader::Result::line) return false;

@@ -8,16 +8,18 @@ namespace vantorel {
 
 [[nodiscard]] bool isTerminal(int descriptor);
 
-/// Whether standard output is a terminal that says it shows true colour, and the user has not asked
-/// for none (https://no-color.org).
+/// Whether standard output is a terminal that supports true colour, according to COLORTERM, and the
+/// user has not turned colours off by NO_COLOR (https://no-color.org).
 [[nodiscard]] bool showsSwatches();
 
-/// A patch of a colour and a blank, for such a terminal. What the colour lets through is white.
+/// Returns a patch of a colour, followed by a space, as escape sequences for a true-colour
+/// terminal. A translucent colour is composed over white.
 [[nodiscard]] std::string swatchOf(const ByteColor& color);
 
-/// Asks a question on a terminal; only "y" and "yes" are a yes. Nobody to ask is a no.
+/// Asks a question on the terminal. Returns true only for the answers "y", "Y" and "yes", and false
+/// without a terminal.
 [[nodiscard]] bool confirms(const std::string& question);
-/// Whether there is somebody to ask.
+/// Whether there is a terminal to ask a question on.
 [[nodiscard]] bool canAsk();
 
 }  // namespace vantorel

@@ -13,21 +13,21 @@
 
 namespace vantorel {
 
-/// The colour lists as the picker offers them. The built-in ones are there before the picker has
-/// saved them, too; nothing is saved here.
+/// The colour lists that the picker offers. The built-in lists are available even before the picker
+/// has saved them. This class never saves a list.
 class UserLists {
 public:
     /// `files` must outlive this object.
     explicit UserLists(HostFiles& files) : _store(files) {}
 
-    /// Null when there is none of that name. Reads no other list's file when the name is that of a
-    /// built-in list.
+    /// Returns the list of a name, or null if there is none. For the name of a built-in list, the
+    /// files of other lists are not read.
     [[nodiscard]] std::shared_ptr<HostColorList> listNamed(const std::u16string& name);
-    /// The same; a name without a list is a `Failure`.
+    /// Like `listNamed`, but throws a `Failure` if there is none.
     [[nodiscard]] std::shared_ptr<HostColorList> requiredList(const std::string& utf8Name);
-    /// Sorted.
+    /// Returns the names of all lists, sorted.
     [[nodiscard]] std::vector<std::u16string> names();
-    /// The file of a list; nothing for one that is built in and has not been saved.
+    /// Returns the file of a list; `std::nullopt` for a built-in list that has not been saved.
     [[nodiscard]] std::optional<std::string> pathOfList(const std::u16string& name);
 
 private:
@@ -36,7 +36,7 @@ private:
     PaletteFileStore _store;
 };
 
-/// Names colours by a list, as the picker does.
+/// Finds the names of colours in a list, as the picker does.
 class ColorNamer {
 public:
     /// `list` must not be null.
@@ -50,8 +50,8 @@ public:
     {
         return matchColorName(color, *_list, _index);
     }
-    /// The name, or what the picker's name pop-up says where none is exact: "* navy, teal" or "No
-    /// Match".
+    /// Returns the name. If none is exact, returns the title of the picker's name pop-up, such as
+    /// "* navy, teal" or "No Match".
     [[nodiscard]] std::u16string title(const ColorNameMatch& match) const;
 
 private:

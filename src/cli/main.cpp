@@ -34,21 +34,11 @@ using Function = int (*)(Session& session, const CommandLine& commandLine);
 
 /// Each command of `vantorelProgram`.
 constexpr std::pair<std::string_view, Function> functions[] = {
-    {"show", showColors},
-    {"name", nameColors},
-    {"lists", tellLists},
-    {"list", tellList},
-    {"list import", importLists},
-    {"list export", exportList},
-    {"list publish", publishList},
-    {"snippets", tellSnippets},
-    {"contrast", tellContrast},
-    {"wheel", drawWheel},
-    {"palette", drawPalette},
-    {"pick", pickColor},
-    {"choose", chooseColor},
-    {"panel", startPanel},
-    {"completions", printCompletions},
+    {"show", showColors},          {"name", nameColors},         {"lists", printLists},
+    {"list", printList},           {"list import", importLists}, {"list export", exportList},
+    {"list publish", publishList}, {"snippets", printSnippets},  {"contrast", printContrast},
+    {"wheel", drawWheel},          {"palette", drawPalette},     {"pick", pickColor},
+    {"choose", chooseColor},       {"panel", startPanel},        {"completions", printCompletions},
     {"manpage", printManualPage},
 };
 

@@ -8,14 +8,14 @@
 
 namespace vantorel {
 
-/// A colour in 8 bits, to which it has been rounded as browsers do.
+/// A colour whose channels have been rounded to 8 bits, as in browsers.
 struct ByteColor {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
     /// 0..1
     double alpha = 1;
-    /// The text named a colour outside sRGB, and this is the nearest colour inside.
+    /// Whether the text named a colour outside sRGB, of which this is the nearest colour inside.
     bool wasOutsideSRGB = false;
 
     [[nodiscard]] QTXHexColorSpec spec() const;
@@ -24,7 +24,7 @@ struct ByteColor {
 
 [[nodiscard]] ByteColor byteColorOf(const HostColor& color);
 
-/// "#rrggbb", without the colour's alpha.
+/// Returns "#rrggbb", ignoring the alpha.
 [[nodiscard]] std::string opaqueHexText(const HostColor& color);
 
 }  // namespace vantorel

@@ -46,7 +46,7 @@ std::string usageOf(const CommandRow& command)
         if (option.isRequired) usage.append(" ").append(formOf(option));
     usage += " [OPTION...]";
     for (const OperandRow& operand : command.operands) {
-        // Two colours are two words.
+        // An operand that is given twice, such as the colours of "contrast", is shown twice.
         for (std::size_t i = 0; i < std::max<std::size_t>(operand.most, 1); ++i) {
             const std::string form = formOf(operand);
             usage += i < operand.fewest ? " " + form : " [" + form + "]";

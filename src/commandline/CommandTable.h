@@ -5,90 +5,91 @@
 #include <string_view>
 #include <vector>
 
-/// What a program's command line takes, as tables: arguments are read by them, and help, manual
-/// page and completions are written from them.
+/// Tables that describe a program's command line. Arguments are parsed with them, and the help
+/// texts, the manual page and the completion scripts are generated from them.
 namespace vantorel {
 
-/// One of the values that an option or operand can have.
+/// A value that an option or operand accepts.
 struct Choice {
     std::string_view value;
-    /// Explains the value, in parentheses behind it; may be empty.
+    /// Explains the value, and follows it in parentheses; may be empty.
     std::string_view text;
 };
 using Choices = std::vector<Choice> (*)();
 
 struct OptionRow {
-    /// "--list"
+    /// The option as it is typed, such as "--list".
     std::string_view name;
-    /// What follows it, such as "NAME"; empty for a flag. "FILE" is completed by the names of
-    /// files.
+    /// The placeholder of the option's value, such as "NAME"; empty for a flag. For "FILE",
+    /// completions offer file names.
     std::string_view value = {};
-    /// Empty where the choices explain themselves.
+    /// The help text; empty if the choices are explanation enough.
     std::string_view text = {};
     bool isRequired = false;
     bool isRepeatable = false;
-    /// The only values that can follow; null for any.
+    /// The accepted values; null if any value is accepted.
     Choices choices = nullptr;
-    /// Another option that cannot be given beside it; empty for none.
+    /// An option that cannot be combined with this one; empty for none.
     std::string_view excludes = {};
 };
 
-/// Arguments that are given without an option.
+/// Arguments that do not belong to an option.
 struct OperandRow {
-    /// As `OptionRow::value`.
+    /// The placeholder, as in `OptionRow::value`.
     std::string_view value;
     std::string_view text;
     std::size_t fewest = 0;
-    /// 0 is any number.
+    /// 0 allows any number.
     std::size_t most = 0;
     Choices choices = nullptr;
 };
 
 struct CommandRow {
     std::string_view name;
-    /// A line, and behind it, parted by line feeds, further paragraphs.
+    /// A summary of one line. Further paragraphs may follow, separated by line feeds.
     std::string_view text = {};
     std::span<const OperandRow> operands = {};
-    /// Besides "-h" and "--help", which each command has.
+    /// The options other than "-h" and "--help", which every command has.
     std::span<const OptionRow> options = {};
     std::span<const CommandRow> commands = {};
-    /// Whatever follows is an operand, "--help" and "--" too: another program reads it.
+    /// Every argument that follows is an operand, including "--help" and "--", because another
+    /// program reads them.
     bool handsOn = false;
 
-    /// The first line of the text.
+    /// Returns the first line of the text.
     [[nodiscard]] std::string_view summary() const { return text.substr(0, text.find('\n')); }
-    /// Whether the command does nothing without one of its own commands.
+    /// Whether the command can only be used with one of its subcommands.
     [[nodiscard]] bool needsCommand() const { return !commands.empty() && operands.empty(); }
 };
 
 struct ProgramRow {
-    /// Its options include "--version".
+    /// The program itself. Its options include "--version".
     CommandRow command;
-    /// Behind the name in the manual page: "colours for people who write CSS and code".
+    /// Follows the name in the manual page: "colours for people who write CSS and code".
     std::string_view subject = {};
     std::string_view version;
-    /// The sections of the manual page that follow the commands, in the macros of man.
+    /// The sections of the manual page after the commands, written in man macros.
     std::string_view furtherSections = {};
 };
 
-/// "-h" and "--help", for those who write about options.
+/// The option "-h" or "--help", for generators of texts about options.
 inline constexpr OptionRow helpOption{"--help", {}, "Show this help."};
 
-/// The texts between the line feeds of a text.
+/// Splits a text at its line feeds.
 [[nodiscard]] std::vector<std::string_view> paragraphsOf(std::string_view text);
 
-/// "--list NAME" or "-h, --help".
+/// Returns an option as help texts show it, such as "--list NAME" or "-h, --help".
 [[nodiscard]] std::string formOf(const OptionRow& option);
-/// "COLOR..." or "COLOR".
+/// Returns an operand as help texts show it, such as "COLOR..." or "COLOR".
 [[nodiscard]] std::string formOf(const OperandRow& operand);
 
-/// What is explained of an option: its text, or its choices with theirs.
+/// Returns the text that explains an option, or its choices with their explanations if it has none.
 [[nodiscard]] std::string explanationOf(const OptionRow& option);
 
-/// How a command is called, from its own name on: "show [OPTION...] [COLOR...]".
+/// Returns the usage of a command, beginning with its name: "show [OPTION...] [COLOR...]".
 [[nodiscard]] std::string usageOf(const CommandRow& command);
 
-/// Values in a sentence: "bash, zsh or fish".
+/// Lists values as in a sentence: "bash, zsh or fish".
 [[nodiscard]] std::string sentenceOf(const std::vector<std::string>& values);
 
 }  // namespace vantorel

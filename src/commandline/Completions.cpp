@@ -6,7 +6,8 @@
 namespace vantorel {
 namespace {
 
-/// In single quotation marks, as all three shells take it; fish also wants backslashes doubled.
+/// Quotes a text in single quotation marks for any of the three shells. fish also needs backslashes
+/// doubled.
 std::string shellQuoted(std::string_view text, bool isFish = false)
 {
     std::string result = "'";
@@ -54,7 +55,7 @@ bool takesFile(std::string_view value)
     return value == "FILE";
 }
 
-/// The options with the one that every command has.
+/// The options of a command, including --help, which every command has.
 std::vector<const OptionRow*> allOptions(const CommandRow& command)
 {
     std::vector<const OptionRow*> options{&helpOption};
@@ -63,7 +64,7 @@ std::vector<const OptionRow*> allOptions(const CommandRow& command)
     return options;
 }
 
-/// "--help" and what else an option is called.
+/// The names of an option; --help also has a short one.
 Words namesOf(const OptionRow& option)
 {
     Words names;
@@ -77,7 +78,8 @@ std::string pathOf(const std::string& path, const CommandRow& inner)
     return (path.empty() ? "" : path + " ") + std::string(inner.name);
 }
 
-/// Calls for a command and all below it; `path` are the names behind the program's own.
+/// Calls a function for a command and all its subcommands. `path` holds the names after the
+/// program's.
 void forEachCommand(const CommandRow& command, const std::string& path,
                     const std::function<void(const CommandRow&, const std::string& path)>& call)
 {
@@ -86,7 +88,7 @@ void forEachCommand(const CommandRow& command, const std::string& path,
         forEachCommand(inner, pathOf(path, inner), call);
 }
 
-/// "_vantorel_list_export"
+/// Returns a name such as "_vantorel_list_export".
 std::string functionName(const CommandRow& program, const std::string& path)
 {
     std::string name = "_" + std::string(program.name);
@@ -104,8 +106,8 @@ std::string bashValues(std::string_view value, Choices choices)
            " -- \"$current\"); ";
 }
 
-/// The first word behind the options is a command; so may be the second. What the shells share is
-/// which words those can be.
+/// The first word after the options is a command, and the second may be one. All shells offer the
+/// same words for them.
 std::string bashScript(const CommandRow& program)
 {
     Words paths;
@@ -165,7 +167,7 @@ std::string bashScript(const CommandRow& program)
            function + " " + name + "\n";
 }
 
-/// For the descriptions of _arguments, in which brackets and colons part things.
+/// Escapes brackets and colons, which are separators in the descriptions of _arguments.
 std::string zshText(std::string_view text)
 {
     std::string result;
@@ -195,7 +197,7 @@ std::string zshArguments(const CommandRow& command)
             words.push_back(word);
         }
     }
-    // Where commands may stand, the name of a list is one of many words.
+    // Where a command is possible, a list's name is only one of many possible words.
     for (const OperandRow& operand : command.operands) {
         for (std::size_t i = 0; i < std::max<std::size_t>(operand.most, 1); ++i) {
             if (!command.commands.empty()) continue;
@@ -245,8 +247,8 @@ std::string zshScript(const CommandRow& program)
            " \"$@\"\nelse\n    compdef " + function + " " + name + "\nfi\n";
 }
 
-/// What must hold of the words before: each name of the path was given, and none of what may
-/// follow.
+/// The condition under which fish offers a word: each name of the path has been given, and none of
+/// the commands that can follow.
 std::string fishCondition(const CommandRow& command, const std::string& path, bool isCommand)
 {
     std::string condition;

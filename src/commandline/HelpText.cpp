@@ -5,7 +5,7 @@ namespace {
 
 constexpr std::size_t lineWidth = 79;
 
-/// Appends words behind `column` characters of a line; further lines are indented.
+/// Appends words to a line that already has `column` characters; further lines are indented.
 void appendWrapped(std::string& result, std::string_view text, std::size_t column,
                    std::size_t indent)
 {
@@ -70,7 +70,7 @@ std::string helpText(const CommandRow& command, const std::string& names)
     for (const OptionRow& option : command.options)
         appendHelpRow(text, formOf(option), explanationOf(option));
     if (!command.commands.empty())
-        text += "\n\"" + names + " COMMAND --help\" tells more about a command.\n";
+        text += "\n\"" + names + " COMMAND --help\" shows the help of a command.\n";
     return text;
 }
 

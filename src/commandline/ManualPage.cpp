@@ -4,7 +4,7 @@
 namespace vantorel {
 namespace {
 
-/// A text in which no character commands roff.
+/// Escapes the characters of a text that are commands to roff.
 std::string roffText(std::string_view text)
 {
     std::string result;
@@ -94,8 +94,9 @@ std::string manualPage(const ProgramRow& program)
     appendParagraphs(page, command.text);
     page += ".SH OPTIONS\n";
     appendEntry(page, formOf(helpOption),
-                command.commands.empty() ? explanationOf(helpOption)
-                                         : "Show help; behind a command, that of the command.");
+                command.commands.empty()
+                    ? explanationOf(helpOption)
+                    : "Show help. After a command, show the help of that command.");
     appendArguments(page, command);
     if (!command.commands.empty()) {
         page += ".SH COMMANDS\n";

@@ -4,9 +4,9 @@
 
 namespace vantorel {
 
-/// The command line.
+/// Describes `vantorel`, the command line program.
 extern const ProgramRow vantorelProgram;
-/// The colour panel.
+/// Describes `vantorel-panel`, the colour panel.
 extern const ProgramRow vantorelPanelProgram;
 
 }  // namespace vantorel

@@ -17,34 +17,37 @@ std::vector<Choice> exportFormats()
     return choices;
 }
 
-constexpr std::string_view jsonLines = "Write JSON, an object a line.";
+constexpr std::string_view jsonLines = "Write JSON, one object per line.";
 
 constexpr OptionRow sizeOption{
-    "--size", "WxH",
-    "Width and height in points or pixels, such as 640x480, which is the default."};
+    "--size", "WxH", "Width and height in points, or in pixels for PNG. The default is 640x480."};
 
-constexpr OperandRow listName{"NAME", "The list.", 1, 1};
+constexpr OperandRow listName{"NAME", "The name of the list.", 1, 1};
 
 constexpr OperandRow showOperands[] = {
     {"COLOR",
-     "What to show; \"-\" stands for the lines of standard input, and so does no COLOR at all."}};
+     "The colour to show. With \"-\", or without COLOR, colours are read from standard input, one "
+     "per line."}};
 constexpr OptionRow showOptions[] = {
     {"--json", {}, jsonLines},
     {"--list", "NAME",
-     "Name the colour by this list, not by that of the settings. With standard input, add the name "
-     "to each line."},
-    {"--snippet", "NAME", "Write the text of this snippet alone."},
-    {.name = "--lowercase", .text = "Hex digits in lower case.", .excludes = "--uppercase"},
-    {"--uppercase", {}, "Hex digits in upper case."},
-    {"--no-pound-sign", {}, "Hex codes without \"#\"."},
+     "Take the name from this list instead of the list in the settings. With standard input, add "
+     "the name to each line."},
+    {"--snippet", "NAME", "Write only the text of this snippet."},
+    {.name = "--lowercase", .text = "Write hex digits in lower case.", .excludes = "--uppercase"},
+    {"--uppercase",
+     {},
+     "Write hex digits in upper case. Without --lowercase or --uppercase, the settings decide."},
+    {"--no-pound-sign", {}, "Write hex codes without \"#\"."},
     {.name = "--pound-sign",
-     .text = "Hex codes with \"#\". What of these is not given is as in the settings.",
+     .text = "Write hex codes with \"#\". Without --pound-sign or --no-pound-sign, the settings "
+             "decide.",
      .excludes = "--no-pound-sign"},
 };
 
-constexpr OperandRow nameOperands[] = {{"COLOR", "What to name, as for \"show\"."}};
+constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};
 constexpr OptionRow nameOptions[] = {
-    {"--list", "NAME", "Take the names from this list, not from that of the settings."},
+    {"--list", "NAME", "Take the names from this list instead of the list in the settings."},
     {"--json", {}, jsonLines},
 };
 
@@ -52,48 +55,51 @@ constexpr OptionRow jsonLinesOption[] = {{"--json", {}, jsonLines}};
 constexpr OptionRow jsonOption[] = {{"--json", {}, "Write JSON."}};
 
 constexpr OperandRow importOperands[] = {
-    {"FILE", "Palettes in any of the formats of export but svg.", 1}};
+    {"FILE", "A palette file in any format of \"export\" except svg.", 1}};
 constexpr OptionRow importOptions[] = {
-    {"--name", "NAME", "Call the list so; with one FILE only."},
-    {"--yes", {}, "Replace lists of the same names without asking."},
+    {"--name", "NAME", "Save the list under this name. Requires a single FILE."},
+    {"--yes", {}, "Replace lists of the same name without asking."},
 };
 
 constexpr OperandRow exportOperands[] = {listName};
 constexpr OptionRow exportOptions[] = {
     {.name = "--format", .value = "FORMAT", .isRequired = true, .choices = exportFormats},
-    {"--output", "FILE", "Write to FILE, not to standard output."},
+    {"--output", "FILE", "Write to FILE instead of standard output."},
 };
 
 constexpr OperandRow publishOperands[] = {listName};
 constexpr OptionRow publishOptions[] = {
-    {"--yes", {}, "Replace files that differ without asking."},
+    {"--yes", {}, "Replace files with different contents without asking."},
     {"--undo",
      {},
-     "Take the last publish of the list back: what it replaced is restored, and what it made is "
-     "removed. A file that has been changed since stays."},
+     "Revert the last publish of the list: restore the files that it replaced and remove those "
+     "that it created. Files that have changed since are kept."},
 };
 
 constexpr OperandRow listOperands[] = {
-    {"NAME", "The list; one that is called like a command comes behind \"--\".", 0, 1}};
+    {"NAME", "The name of the list. If it is also the name of a command, put \"--\" before it.", 0,
+     1}};
 constexpr CommandRow listCommands[] = {
     {"import",
-     "Save palette files among your colour lists.\n"
-     "A list of the same name is replaced only when you agree.",
+     "Add palette files to your colour lists.\n"
+     "A list of the same name is replaced only if you agree.",
      importOperands, importOptions},
-    {"export", "Write a colour list for other programs.", exportOperands, exportOptions},
+    {"export", "Write a colour list in a format that other programs read.", exportOperands,
+     exportOptions},
     {"publish",
      "Put a colour list into the palette folders of graphics programs.\n"
-     "One palette file is written into each folder for your own palettes that exists: of every "
-     "version of GIMP, of Inkscape, Krita and KDE. A file that differs is replaced only when you "
-     "agree.",
+     "A palette file is written into your palette folder of every version of GIMP, of Inkscape, "
+     "Krita and KDE, if the folder exists. A file with different contents is "
+     "replaced only if you agree.",
      publishOperands, publishOptions},
 };
 
-constexpr OperandRow contrastOperands[] = {{"COLOR", "The foreground, then the background.", 2, 2}};
+constexpr OperandRow contrastOperands[] = {
+    {"COLOR", "The foreground colour, then the background colour.", 2, 2}};
 
 constexpr OptionRow wheelOptions[] = {
-    {"--rings", "N", "Rings, 2 to 128; those of the settings otherwise."},
-    {"--svg", "FILE", "Where to write; \"-\" is standard output.", true},
+    {"--rings", "N", "Number of rings, 2 to 128. The default is the number in the settings."},
+    {"--svg", "FILE", "Write SVG to FILE; \"-\" is standard output.", true},
     sizeOption,
 };
 
@@ -110,30 +116,33 @@ constexpr OptionRow paletteOptions[] = {
 constexpr OptionRow pickOptions[] = {{"--copy", {}, "Copy the colour to the clipboard."}};
 constexpr OperandRow chooseOperands[] = {{"COLOR", "The colour to start with.", 0, 1}};
 constexpr OperandRow completionsOperands[] = {{"SHELL", "bash, zsh or fish.", 1, 1, shells}};
-constexpr OptionRow completionsOptions[] = {{"--panel", {}, "Print that of vantorel-panel."}};
-constexpr OptionRow manualOptions[] = {{"--panel", {}, "Print the page of vantorel-panel."}};
+constexpr OptionRow completionsOptions[] = {
+    {"--panel", {}, "Print the completion script of vantorel-panel."}};
+constexpr OptionRow manualOptions[] = {{"--panel", {}, "Print the manual page of vantorel-panel."}};
 
 constexpr CommandRow vantorelCommands[] = {
     {"show",
-     "Show what a colour is in every form, its name and its snippets.\n"
-     "Colours from standard input come one a line and are written one a line: the hex code, a tab "
-     "and the rgb() text; with --list a tab and the name. Empty lines are passed over; a line that "
-     "is no colour is told on standard error, and the rest goes on.",
+     "Show a colour in every form, with its name and snippets.\n"
+     "Colours on standard input are read one per line. For each, one line is written: the hex "
+     "code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A "
+     "line that is not a colour is reported on standard error, and the following lines are still "
+     "read.",
      showOperands, showOptions},
     {"name",
-     "Tell the name of a colour, one a line.\n"
-     "Where no name is exact, the close ones stand behind a \"*\", or it says \"No Match\".",
+     "Print the name of each colour on a line of its own.\n"
+     "If no name is exact, the names of close colours follow a \"*\"; if no colour is close, the "
+     "line is \"No Match\".",
      nameOperands, nameOptions},
     {"lists",
-     "Tell all colour lists: the number of colours, the name and the file.",
+     "List all colour lists with their number of colours, name and file.",
      {},
      jsonLinesOption},
-    {"list", "Tell the colours of a list, or import, export or publish one.", listOperands,
+    {"list", "List the colours of a list, or import, export or publish a list.", listOperands,
      jsonOption, listCommands},
-    {"snippets", "Tell the snippets of the settings with their formats.", {}, jsonLinesOption},
+    {"snippets", "List the snippets in the settings with their formats.", {}, jsonLinesOption},
     {"contrast",
-     "Tell the contrast ratio of two colours and which criteria of WCAG 2.2 it meets.\n"
-     "The ratio is cut, not rounded, after two decimals.",
+     "Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.\n"
+     "The ratio is truncated to two decimals, not rounded.",
      contrastOperands, jsonOption},
     {"wheel", "Draw the colour wheel.", {}, wheelOptions},
     {"palette", "Draw the palette of a colour list.", paletteOperands, paletteOptions},
@@ -141,12 +150,12 @@ constexpr CommandRow vantorelCommands[] = {
     {"choose", "Choose a colour in the colour panel and print it (vantorel-panel).",
      chooseOperands},
     {.name = "panel",
-     .text = "Start the colour panel with the options that follow; \"panel --help\" tells them.",
+     .text = "Start the colour panel with the options that follow. \"panel --help\" lists them.",
      .handsOn = true},
     {"completions",
      "Print a completion script for a shell.\nFor bash: source <(vantorel completions bash)",
      completionsOperands, completionsOptions},
-    {"manpage", "Print the manual page, for man.", {}, manualOptions},
+    {"manpage", "Print the manual page, formatted for man.", {}, manualOptions},
 };
 
 constexpr OptionRow vantorelOptions[] = {{"--version", {}, "Show the version."}};
@@ -157,9 +166,9 @@ constinit const ProgramRow vantorelProgram{
     .command = {.name = "vantorel",
                 .text = "Colours for people who write CSS and code.\n"
                         "A COLOR is any form of CSS Color 4 (\"#ff8000\", \"rgb(255 128 0)\", "
-                        "\"oklch(70% 0.1 50)\", \"orange\"), a text that the colour picker takes "
+                        "\"oklch(70% 0.1 50)\", \"orange\"), a text that the colour picker accepts "
                         "(\"ff8000\", \"RGB(255, 128, 0);\"), or a name of the colour list.\n"
-                        "Settings, snippets and colour lists are those of the colour picker.",
+                        "Settings, snippets and colour lists are shared with the colour picker.",
                 .options = vantorelOptions,
                 .commands = vantorelCommands},
     .subject = "colours for people who write CSS and code",
@@ -167,54 +176,62 @@ constinit const ProgramRow vantorelProgram{
     .furtherSections = R"(.SH EXIT STATUS
 .TP
 .B 0
-All went well.
+Success.
 .TP
 .B 1
-.B vantorel choose
+The user left
+.B choose
 or
-.B vantorel pick
-was left without a colour.
+.B pick
+without a colour.
 .TP
 .B 2
-Something is wrong with the command line, a text that is no colour, a list, or a file.
+An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is
+reported on standard error.
+.TP
+.B 3
+.B choose
+or
+.B pick
+is not possible, for example without a display.
 .PP
 .BR pick ,
 .B choose
 and
 .B panel
-end with the status of
+exit with the status of
 .BR vantorel\-panel .
 .SH ENVIRONMENT
 .TP
 .B COLORTERM
-Where it is
+If it is
 .I truecolor
 or
 .IR 24bit ,
-colours are shown as patches on a terminal.
+a terminal shows a patch of each colour.
 .TP
 .B NO_COLOR
-Where it is set and not empty, they are not.
+If it is set and not empty, no patches are shown.
 .TP
 .B XDG_DATA_HOME
-The folder of settings and colour lists, in place of
+The folder that contains settings and colour lists, instead of
 .IR \(ti/.local/share .
 .TP
 .B XDG_CONFIG_HOME
-Where graphics programs keep their palettes, in place of
+The folder that contains the palettes of graphics programs, instead of
 .IR \(ti/.config .
 .SH FILES
 .TP
 .I $XDG_DATA_HOME/Vantorel/Settings.plist
-The settings of the colour picker. They are only read.
+The settings of the colour picker. They are never changed.
 .TP
 .I $XDG_DATA_HOME/Vantorel/Palettes/*.gpl
 Your colour lists.
 .TP
 .I $XDG_DATA_HOME/Vantorel/Published/*.plist
-What
+The files that
 .B list publish
-replaced, for its
+replaced, for its option
 .BR \-\-undo .
 .SH EXAMPLES
 .nf

@@ -28,13 +28,13 @@ std::optional<Fractions> fractionsOf(const HostColor& color)
         fraction(components->alpha)};
 }
 
-/// Without zeros at the end.
+/// Removes trailing zeros.
 std::u16string shortText(double value, int mostDecimals)
 {
     return widened(shortFixedText(value, mostDecimals));
 }
 
-/// A number of 0..1 in thousandths, without zeros at its end.
+/// Formats a number of 0..1, given in thousandths, without trailing zeros.
 std::u16string thousandthsText(int thousandths)
 {
     if (thousandths == 0) return u"0";
@@ -45,10 +45,10 @@ std::u16string thousandthsText(int thousandths)
     return text;
 }
 
-/// Two decimals where they give the same alpha in 8 bits, else three (section 15.1).
+/// Uses two decimals if they result in the same alpha in 8 bits, otherwise three (section 15.1).
 std::u16string alphaText(double alpha)
 {
-    // In whole numbers: with fractions some halves would be rounded down.
+    // In integers, because floating point would round some halves down.
     const int byte = nearestByte(alpha);
     const auto parts = [byte](int whole) {
         return (byte * whole * 2 + opaqueByte) / (2 * opaqueByte);
@@ -105,7 +105,7 @@ std::optional<std::u16string> hslText(const HostColor& color)
 
 std::optional<std::u16string> oklchText(const HostColor& color)
 {
-    // Below this the chroma is written as 0 and the hue is noise.
+    // A chroma below this is written as 0, and its hue is noise.
     constexpr double smallestChroma = 0.000005;
     const auto fractions = fractionsOf(color);
     if (!fractions) return std::nullopt;

@@ -5,22 +5,23 @@
 #include <optional>
 #include <string>
 
-/// Colours as texts of CSS Color 4. An alpha is written when it is not opaque in 8 bits. Fractions
-/// outside 0..1 count as the nearer end, and NaN as 0. A pattern has no text. No text depends on a
-/// locale, and `readCSSColor` reads each one back as the same colour in 8 bits.
+/// Colours as texts of CSS Color 4. The alpha is written unless it is opaque in 8 bits. Components
+/// outside 0..1 are clamped, and NaN counts as 0. All functions return `std::nullopt` for a
+/// pattern. The texts do not depend on the locale, and `readCSSColor` reads each of them back as
+/// the same colour in 8 bits.
 namespace vantorel {
 
-/// "#ff8000" or "#ff800080".
+/// Returns "#ff8000" or "#ff800080".
 [[nodiscard]] std::optional<std::u16string> hexText(const HostColor& color);
 
-/// As browsers write sRGB colours (section 15.2): "rgb(255, 128, 0)" or "rgba(255, 128, 0, 0.5)".
+/// Returns "rgb(255, 128, 0)" or "rgba(255, 128, 0, 0.5)", as browsers do (section 15.2).
 [[nodiscard]] std::optional<std::u16string> rgbText(const HostColor& color);
 
-/// "hsl(30.12 100% 50%)" or "hsl(30.12 100% 50% / 0.5)", with two decimals at most.
+/// Returns "hsl(30.12 100% 50%)" or "hsl(30.12 100% 50% / 0.5)", with at most two decimals.
 [[nodiscard]] std::optional<std::u16string> hslText(const HostColor& color);
 
-/// "oklch(73.227% 0.18566 53.148)" or "oklch(... / 0.5)": five digits that count in each value, as
-/// the examples of CSS Color 4 have. A grey has the hue 0.
+/// Returns "oklch(73.227% 0.18566 53.148)" or "oklch(... / 0.5)". Each value has five significant
+/// digits, as in the examples of CSS Color 4. The hue of a grey is 0.
 [[nodiscard]] std::optional<std::u16string> oklchText(const HostColor& color);
 
 }  // namespace vantorel

@@ -12,8 +12,8 @@ struct NamedColor {
 };
 
 // clang-format off
-// The colour lists of the picker hold most of these names too, but with misspelt keys, and users
-// edit them; what CSS says must not depend on that.
+// The picker's colour lists also contain most of these names, but with misspelt keys, and users can
+// edit them. CSS names must not depend on that.
 constexpr std::array namedColors{
     NamedColor{u"aliceblue", 0xF0F8FF},
     NamedColor{u"antiquewhite", 0xFAEBD7},

@@ -6,13 +6,14 @@
 
 namespace vantorel {
 
-/// The value 0xRRGGBB of one of the 148 named colours (CSS Color 4, section 6.1). `name` must be in
-/// lower case. `transparent` is not among them, since it has an alpha.
+/// Returns the value 0xRRGGBB of one of the 148 named colours (CSS Color 4, section 6.1), or
+/// `std::nullopt` for any other name. `name` must be in lower case. `transparent` is not among
+/// them, because it has an alpha.
 [[nodiscard]] std::optional<std::uint32_t> cssNamedColor(std::u16string_view name);
 
-/// Whether a keyword, in lower case, stands for a colour that depends on the page or the desktop
-/// where it is used: `currentcolor` (section 6.4) and the system colours (section 6.2, and the
-/// deprecated ones of appendix A).
+/// Whether the colour of a keyword depends on the page or the desktop: `currentcolor` (section 6.4)
+/// and the system colours (section 6.2, and the deprecated ones of appendix A). `keyword` must be
+/// in lower case.
 [[nodiscard]] bool isContextualCSSColor(std::u16string_view keyword);
 
 }  // namespace vantorel

@@ -27,8 +27,8 @@ bool isSign(char16_t c)
     return c == u'+' || c == u'-';
 }
 
-/// The whole number that a text begins with, with its sign; giant ones are cut where they still
-/// dwarf the length of any text.
+/// Returns the integer at the beginning of a text, including its sign. Huge values are limited to
+/// one that is still far larger than the length of any text.
 std::int64_t exponentOf(std::u16string_view text)
 {
     constexpr std::int64_t farAway = 1'000'000'000'000'000;
@@ -40,9 +40,9 @@ std::int64_t exponentOf(std::u16string_view text)
     return negative ? -value : value;
 }
 
-/// The value of a text of the form of a CSS number (CSS Syntax 3, section 4.3.13). std::from_chars
-/// does not say whether what it cannot hold is too large or too small, and a text may have digits
-/// by the million; so the digits that count are handed to it in a form that it can always hold.
+/// Returns the value of a CSS number (CSS Syntax 3, section 4.3.13). For values out of range,
+/// std::from_chars does not report whether they are too large or too small, and a text may have
+/// millions of digits. So it gets only the significant digits, in a form that is always in range.
 double numberValue(std::u16string_view text)
 {
     constexpr std::size_t mostDigits = 40;
@@ -165,7 +165,7 @@ bool CSSTokenizer::skipBlanks()
     }
 }
 
-/// NUL stands for what lies behind the text too: no token holds it.
+/// Returns NUL also past the end of the text. No token contains NUL.
 char16_t CSSTokenizer::at(std::size_t index) const
 {
     return index < _text.size() ? _text[index] : u'\0';

@@ -8,13 +8,13 @@ namespace vantorel {
 
 enum class CSSTokenKind {
     name,
-    /// A name with "(" right after it.
+    /// A name directly followed by "(".
     function,
-    /// "#" with the characters of a name after it.
+    /// "#" followed by the characters of a name.
     hash,
     number,
     percentage,
-    /// A number with a unit right after it.
+    /// A number directly followed by a unit.
     dimension,
     comma,
     slash,
@@ -22,7 +22,7 @@ enum class CSSTokenKind {
     semicolon,
     openParenthesis,
     closeParenthesis,
-    /// A comment that the text does not close. Nothing follows it.
+    /// A comment that is not closed. It extends to the end of the text.
     unclosedComment,
     /// Any other single character.
     other,
@@ -31,24 +31,25 @@ enum class CSSTokenKind {
 
 struct CSSToken {
     CSSTokenKind kind = CSSTokenKind::end;
-    /// Of numbers, percentages (50 for "50%") and dimensions. Always finite, see
+    /// The value of a number, percentage (50 for "50%") or dimension. Always finite, see
     /// `largestCSSNumber`.
     double number = 0;
-    /// The name, what follows the "#", or the unit: ASCII letters in lower case, escapes resolved.
+    /// The name, the text after the "#", or the unit. ASCII letters are in lower case and escapes
+    /// are resolved.
     std::u16string name;
-    /// Where the token stands in the text.
+    /// The range of the token in the text, in UTF-16 units.
     std::size_t begin = 0;
     std::size_t end = 0;
 };
 
-/// Larger numbers count as this one, and far smaller fractions as 0. It is that of single
-/// precision, which browsers store, and small enough that every colour conversion stays finite in
-/// double.
+/// Larger numbers are replaced by this one, and tiny fractions by 0. It is the limit of single
+/// precision, in which browsers store numbers. With it, all colour conversions stay finite in
+/// double precision.
 inline constexpr double largestCSSNumber = 3.4028234663852886e38;
 
-/// Cuts a text into the tokens of CSS Syntax 3, section 4, as far as colours need them: strings and
-/// URLs fall into single characters. Comments and white space part tokens and are not returned.
-/// Takes linear time for the whole text.
+/// Splits a text into the tokens of CSS Syntax 3, section 4, as far as colours need them: strings
+/// and URLs become single characters. Comments and white space separate tokens and are not
+/// returned. Takes linear time for the whole text.
 class CSSTokenizer {
 public:
     /// `text` must outlive the tokenizer.
@@ -56,7 +57,7 @@ public:
 
     [[nodiscard]] CSSToken next();
 
-    /// Goes on behind white space and comments; false at a comment without an end.
+    /// Skips white space and comments. Returns false at a comment that is not closed.
     bool skipBlanks();
     [[nodiscard]] std::size_t place() const { return _place; }
     void moveTo(std::size_t place) { _place = place; }
@@ -74,7 +75,7 @@ private:
     std::size_t _place = 0;
 };
 
-/// Space, tab, line feed, carriage return and form feed.
+/// Whether a character is a space, tab, line feed, carriage return or form feed.
 [[nodiscard]] bool isCSSWhiteSpace(char16_t character);
 
 }  // namespace vantorel

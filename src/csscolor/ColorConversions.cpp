@@ -73,7 +73,7 @@ double normalizedHue(double degrees)
 {
     const double hue = std::fmod(degrees, fullTurn);
     const double positive = hue < 0 ? hue + fullTurn : hue;
-    // The sum rounds to a full turn for the tiniest of negative angles.
+    // For tiny negative angles, the sum is rounded to a full turn.
     return positive < fullTurn ? positive : 0;
 }
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
-/// From one colour space to another, as in CSS Color 4. Nothing is clamped: colours may lie outside
-/// of any gamut. Finite input of at most `largestCSSNumber` in size gives finite output, through
-/// any chain of these functions from a space of CSS to sRGB.
+/// Conversions between colour spaces, as in CSS Color 4. Values are not clamped, so colours may lie
+/// outside any gamut. If the absolute values of the input are at most `largestCSSNumber`, any chain
+/// of these functions from a CSS colour space to sRGB returns finite values.
 namespace vantorel {
 
 /// Three components of a colour, in the order of the space's name.
@@ -13,16 +13,16 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 
 [[nodiscard]] ColorTriple multiplied(const ColorMatrix& matrix, const ColorTriple& vector);
 
-/// An angle in degrees as one in [0, 360).
+/// Returns the equivalent of an angle in [0, 360) degrees.
 [[nodiscard]] double normalizedHue(double degrees);
 
-/// sRGB as it is stored to linear light (section 10.2); negative values mirror positive ones.
+/// Converts encoded sRGB to linear light (section 10.2). Negative values mirror positive ones.
 [[nodiscard]] double linearFromSRGB(double encoded);
 [[nodiscard]] double srgbFromLinear(double linear);
 [[nodiscard]] ColorTriple linearFromSRGB(const ColorTriple& encoded);
 [[nodiscard]] ColorTriple srgbFromLinear(const ColorTriple& linear);
 
-/// XYZ here is relative to D65, with Y = 1 for white.
+/// XYZ is relative to D65, with Y = 1 for white.
 [[nodiscard]] ColorTriple xyzFromLinearSRGB(const ColorTriple& linear);
 [[nodiscard]] ColorTriple linearSRGBFromXYZ(const ColorTriple& xyz);
 
@@ -38,8 +38,8 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 [[nodiscard]] ColorTriple oklabFromSRGB(const ColorTriple& srgb);
 [[nodiscard]] ColorTriple srgbFromOklab(const ColorTriple& oklab);
 
-/// Lightness, a, b to lightness, chroma, hue in degrees: Lab to LCH and Oklab to OkLCh. The hue of
-/// a grey is without meaning.
+/// Converts lightness, a and b to lightness, chroma and hue in degrees: Lab to LCH and Oklab to
+/// OkLCh. The hue of a grey is meaningless.
 [[nodiscard]] ColorTriple polarFromRectangular(const ColorTriple& rectangular);
 [[nodiscard]] ColorTriple rectangularFromPolar(const ColorTriple& polar);
 

@@ -16,14 +16,14 @@ bool fitsWithin(const ColorTriple& srgb, double tolerance)
     });
 }
 
-/// deltaE OK (CSS Color 4, "Sample code for ΔE2000 and ΔEOK Color Differences"): the distance in
-/// Oklab.
+/// The deltaE OK (CSS Color 4, "Sample code for ΔE2000 and ΔEOK Color Differences"): the distance
+/// in Oklab.
 double difference(const ColorTriple& oklab1, const ColorTriple& oklab2)
 {
     return std::hypot(oklab1[0] - oklab2[0], oklab1[1] - oklab2[1], oklab1[2] - oklab2[2]);
 }
 
-/// Between a colour, which is given in both spaces, and what clipping makes of it.
+/// Returns the distance between a colour, given in both spaces, and its clipped version.
 double differenceByClipping(const ColorTriple& linear, const ColorTriple& oklab)
 {
     return difference(oklabFromXYZ(xyzFromLinearSRGB(clippedToSRGB(linear))), oklab);
@@ -57,8 +57,8 @@ ColorTriple srgbByReducedChroma(const ColorTriple& oklab)
     if (origin[0] >= 1) return {1, 1, 1};
     if (origin[0] <= 0) return {0, 0, 0};
 
-    // A channel is cut at the same colours in linear light as it is stored, so the search needs
-    // none of the powers that lead from the one to the other, which would take most of its time.
+    // Clipping affects the same colours in linear light as in encoded values, so the search works
+    // in linear light. Encoding would take most of its time.
     ColorTriple linear = linearSRGBFromXYZ(xyzFromOklab(origin));
     if (differenceByClipping(linear, origin) >= justNoticeableDifference) {
         // This ends for any chroma, since all chromas that become the smallest one are those of

@@ -4,21 +4,22 @@
 
 namespace vantorel {
 
-/// Whether a colour lies outside sRGB by more than half a step of 8 bits in some channel. What lies
-/// closer is put down to the few digits that colours on the border of sRGB are written with.
+/// Whether a colour is outside sRGB by more than half an 8-bit step in any channel. Smaller
+/// differences are attributed to rounding: colours on the border of sRGB are written with few
+/// digits.
 [[nodiscard]] bool isOutsideSRGB(const ColorTriple& srgb);
 
-/// Cuts each channel to 0..1.
+/// Clamps each channel to 0..1.
 [[nodiscard]] ColorTriple clippedToSRGB(const ColorTriple& srgb);
 
-/// The colour itself when it is not outside sRGB, else what `srgbByReducedChroma` makes of it. The
-/// channels must be finite; those of the result are 0..1.
+/// Maps a colour into sRGB by `srgbByReducedChroma`. A colour that is not outside sRGB is only
+/// clamped. The channels must be finite; those of the result are 0..1.
 [[nodiscard]] ColorTriple mappedIntoSRGB(const ColorTriple& srgb);
 
-/// The nearest colour within sRGB of the same hue and about the same lightness, by the algorithm of
-/// CSS Color 4, section 13.2: the chroma in OkLCh is bisected until cutting the channels makes a
-/// difference that is just not noticeable. White from lightness 1 on, black from 0 down. For
-/// colours outside sRGB; finite.
+/// Returns the nearest colour within sRGB of the same hue and about the same lightness, by the
+/// algorithm of CSS Color 4, section 13.2: the chroma in OkLCh is bisected until clipping the
+/// channels makes a difference that is just not noticeable. A lightness of 1 or more results in
+/// white, one of 0 or less in black. The colour must be outside sRGB and finite.
 [[nodiscard]] ColorTriple srgbByReducedChroma(const ColorTriple& oklab);
 
 }  // namespace vantorel

@@ -51,8 +51,8 @@ double linearFromProPhotoRGB(double encoded)
     return encoded <= 16.0 / 512 ? encoded / 16 : std::pow(encoded, 1.8);
 }
 
-/// CSS Color 4, the rec2020 keyword. This is what a display of this space makes of a value
-/// (BT.1886), not the curve of a camera, which early drafts had.
+/// CSS Color 4, the rec2020 keyword. This is the curve of a display (BT.1886), not that of a
+/// camera, which early drafts had.
 double linearFromRec2020(double encoded)
 {
     return std::pow(encoded, 2.4);
@@ -87,7 +87,7 @@ ColorTriple srgbFromPredefined(PredefinedColorSpace space, const ColorTriple& va
         case PredefinedColorSpace::srgbLinear:
             return srgbFromLinear(values);
         case PredefinedColorSpace::displayP3:
-            // Display P3 is encoded as sRGB is.
+            // Display P3 has the encoding of sRGB.
             return srgbFromXYZ(multiplied(linearDisplayP3ToXYZ, linearFromSRGB(values)));
         case PredefinedColorSpace::displayP3Linear:
             return srgbFromXYZ(multiplied(linearDisplayP3ToXYZ, values));

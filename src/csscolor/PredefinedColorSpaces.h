@@ -21,11 +21,11 @@ enum class PredefinedColorSpace {
     xyzD50,
 };
 
-/// The space of a name in lower case.
+/// Returns the space of a name, which must be in lower case; `std::nullopt` if there is none.
 [[nodiscard]] std::optional<PredefinedColorSpace> predefinedColorSpaceNamed(
     std::u16string_view name);
 
-/// From a space as it is stored to sRGB as it is stored; nothing is clamped.
+/// Converts encoded values of a space to encoded sRGB. Values are not clamped.
 [[nodiscard]] ColorTriple srgbFromPredefined(PredefinedColorSpace space, const ColorTriple& values);
 
 }  // namespace vantorel

@@ -8,27 +8,28 @@
 
 namespace vantorel {
 
-/// A form of colour-list files. `readColorList` reads each that `isRead`.
+/// A file format of colour lists.
 struct ListFormat {
-    /// As in "vantorel list export --format gpl".
+    /// The name in "vantorel list export --format gpl".
     std::string_view name;
-    /// A few words of explanation; may be empty.
+    /// A short explanation; may be empty.
     std::string_view description;
-    /// The endings of such files, without dot; the first is given to new files.
+    /// The file name extensions, without a dot. New files get the first one.
     std::span<const std::string_view> endings;
-    /// Bytes that could command a terminal.
+    /// Whether the bytes could be taken for commands by a terminal.
     bool isBinary;
-    /// Pictures are only written.
+    /// Whether `readColorList` reads the format. Pictures can only be written.
     bool isRead;
     std::string (*write)(const HostColorList& list);
 };
 
-/// All of them, that of graphics programs first.
+/// Returns all formats. The palette format of graphics programs is the first.
 [[nodiscard]] std::span<const ListFormat> listFormats();
 
-/// Null when there is no such format.
+/// Returns the format of a name, or null if there is none.
 [[nodiscard]] const ListFormat* listFormatNamed(std::string_view name);
-/// The format that the ending of a file's name stands for, in any letter case, or null.
+/// Returns the format for the extension of a file name, in any letter case, or null if it is
+/// unknown.
 [[nodiscard]] const ListFormat* listFormatOfFile(std::string_view fileName);
 
 }  // namespace vantorel

@@ -17,7 +17,7 @@ std::string lineOf(const std::u16string& name)
     return harmlessLine(utf8FromUtf16(name));
 }
 
-/// A name that cannot end the comment that it stands in.
+/// Changes a name so that it cannot end the comment that contains it.
 std::string commentOf(const std::u16string& name)
 {
     std::string text = lineOf(name);
@@ -26,7 +26,7 @@ std::string commentOf(const std::u16string& name)
     return text;
 }
 
-/// Identifiers of CSS out of names, each of its own.
+/// Makes unique CSS identifiers from names.
 class Identifiers {
 public:
     std::string identifierOf(const std::u16string& name)
@@ -44,7 +44,7 @@ public:
         while (base.ends_with('-'))
             base.pop_back();
         if (base.empty()) base = "color";
-        // A variable of SCSS cannot begin with a digit.
+        // An SCSS variable must not begin with a digit.
         if (isDigit(base.front())) base.insert(0, "color-");
         std::string identifier = base;
         while (_taken.contains(identifier))

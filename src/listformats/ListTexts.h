@@ -4,17 +4,17 @@
 
 #include <string>
 
-/// Colour lists as texts for other programs; each can be read by `readColorList`, and gives the
-/// names and colours back, but for control characters in names, which become blanks.
+/// Colour lists as texts for other programs. `readColorList` reads each of them back with the same
+/// names and colours, except that control characters in names become spaces.
 namespace vantorel {
 
-/// Custom properties in a `:root` rule, the names in comments.
+/// Returns custom properties in a `:root` rule, with the names in comments.
 [[nodiscard]] std::string cssText(const HostColorList& list);
-/// Variables, the names in comments.
+/// Returns SCSS variables, with the names in comments.
 [[nodiscard]] std::string scssText(const HostColorList& list);
-/// An object with the list's name and an array of names and hex codes, in order.
+/// Returns an object with the list's name and an array of names and hex codes, in the list's order.
 [[nodiscard]] std::string jsonText(const HostColorList& list);
-/// A line for each colour: hex code, tab, name.
+/// Returns a line for each colour: the hex code, a tab and the name.
 [[nodiscard]] std::string plainText(const HostColorList& list);
 
 }  // namespace vantorel

@@ -24,7 +24,7 @@ PalettePicture::PalettePicture(const HostColorList& list, HostSize size)
 HostRect PalettePicture::swatch(std::size_t index) const
 {
     const HostRect rect = paletteSwatchRect(_grid, index, _inside.height);
-    // The geometry's y axis points up from a corner that is itself two points off.
+    // In the geometry, the y axis points up and the origin is two points off the corner.
     return {rect.x, _inside.height + 2 * rim - rect.maxY(), rect.width, rect.height};
 }
 

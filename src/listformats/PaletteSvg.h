@@ -10,21 +10,21 @@
 
 namespace vantorel {
 
-/// The swatches of a list as the picker's palette arranges them, in a picture of at least 8 points
-/// in width and height.
+/// The layout of a list's swatches in a picture, as the picker's palette arranges them. The picture
+/// must be at least 8 points wide and high.
 class PalettePicture {
 public:
-    /// The geometry draws two points off the corner; a rim of that width comes out on all sides.
+    /// The geometry is two points off the corner, so the picture has a rim of this width in points.
     static constexpr double rim = 2;
 
     PalettePicture(const HostColorList& list, HostSize size);
 
-    /// The places in the list, in the order of the swatches.
+    /// Returns the indices of the colours in the list, in the order of the swatches.
     [[nodiscard]] const std::vector<std::size_t>& places() const { return _places; }
     [[nodiscard]] const PaletteGrid& grid() const { return _grid; }
-    /// The size within the rim.
+    /// Returns the size within the rim.
     [[nodiscard]] HostSize inside() const { return _inside; }
-    /// Where a swatch is, from the top left of the picture.
+    /// Returns the rectangle of a swatch; the origin is the top left of the picture.
     [[nodiscard]] HostRect swatch(std::size_t index) const;
 
 private:
@@ -33,7 +33,7 @@ private:
     PaletteGrid _grid;
 };
 
-/// The swatches in the palette's order, each with its name as a title.
+/// Returns the palette as SVG. Each swatch has the name of its colour as a title.
 [[nodiscard]] std::string paletteSvg(const HostColorList& list, HostSize size);
 
 }  // namespace vantorel

@@ -51,7 +51,7 @@ std::string svgOpening(HostSize size, const std::string& title)
            "\">\n<title>" + title + "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"" +
            svgColor(hexColorsViewBackgroundColorS) +
            "\"/>\n"
-           // Neighbours share an edge, through which the ground would shine.
+           // Without this, the background would shine through the common edges of neighbours.
            "<g shape-rendering=\"crispEdges\">\n";
 }
 

@@ -5,20 +5,21 @@
 
 #include <string>
 
-/// The parts of the pictures that are written as SVG.
+/// Parts of pictures in SVG.
 namespace vantorel {
 
-/// A number with at most three decimals.
+/// Formats a number with at most three decimals.
 [[nodiscard]] std::string svgNumber(double value);
 
-/// "#ff8000": the colour without its opacity.
+/// Returns a colour without its opacity, such as "#ff8000".
 [[nodiscard]] std::string svgColor(const HostColor& color);
 
-/// A text between tags. XML takes no control characters, not even escaped, so they become blanks,
-/// and U+FFFE and U+FFFF become U+FFFD.
+/// Escapes a text for use between tags. XML does not allow control characters, not even escaped
+/// ones, so they become spaces. U+FFFE and U+FFFF become U+FFFD.
 [[nodiscard]] std::string svgText(const std::u16string& text);
 
-/// The picture up to its first shape. `title` is markup.
+/// Returns the beginning of a picture, up to its first shape. `title` is markup, and is not
+/// escaped.
 [[nodiscard]] std::string svgOpening(HostSize size, const std::string& title);
 inline constexpr const char* svgClosing = "</g>\n</svg>\n";
 

@@ -19,7 +19,7 @@ constexpr std::uint16_t groupStart = 0xC001;
 constexpr std::uint16_t groupEnd = 0xC002;
 constexpr std::uint16_t colorEntry = 0x0001;
 constexpr std::uint16_t normalColor = 2;
-/// Names are counted in 16 bits, their final NUL included.
+/// The length of a name is stored in 16 bits and includes the final NUL.
 constexpr std::size_t longestName = 0xFFFE;
 
 void appendNumber(std::string& bytes, std::uint32_t number, int width)
@@ -44,7 +44,7 @@ void appendBlock(std::string& bytes, std::uint16_t kind, std::string_view conten
     bytes += content;
 }
 
-/// Takes numbers from the beginning of bytes; past their end everything is 0 and `hasFailed`.
+/// Reads numbers from bytes. Past their end, all numbers are 0 and `hasFailed` returns true.
 class Bytes {
 public:
     explicit Bytes(std::string_view bytes) : _rest(bytes) {}
@@ -158,7 +158,7 @@ std::optional<SwatchExchangeReading> readSwatchExchange(std::string_view bytes,
 {
     Bytes file(bytes);
     if (file.take(signature.size()) != signature) return std::nullopt;
-    file.number(4);  // the version; there is one
+    file.number(4);  // the version; only one exists
     const std::uint32_t blocks = file.number(4);
 
     std::u16string name;

@@ -11,18 +11,18 @@
 /// and blocks of groups and colours, all numbers with the most significant byte first.
 namespace vantorel {
 
-/// One group, called as the list, with its colours as RGB.
+/// Returns a file with one group, which has the list's name and its colours as RGB.
 [[nodiscard]] std::string swatchExchangeBytes(const HostColorList& list);
 
 struct SwatchExchangeReading {
-    /// Called as the first group, else `fallbackName`.
+    /// The list, named after the first group, or `fallbackName` if there is none.
     std::shared_ptr<HostColorList> list;
-    /// Colours of models that are not known.
+    /// The number of colours that were skipped because their colour model is unknown.
     std::size_t skipped = 0;
 };
 
-/// Colours of the models RGB, grey, CMYK (converted without profiles) and Lab; names that come
-/// twice get a number. Nothing when the bytes are no such file, or end before they should.
+/// Reads colours of the models RGB, grey, CMYK (converted without profiles) and Lab. Repeated names
+/// get a number. Returns `std::nullopt` if the bytes are not such a file or end too early.
 [[nodiscard]] std::optional<SwatchExchangeReading> readSwatchExchange(
     std::string_view bytes, const std::u16string& fallbackName);
 

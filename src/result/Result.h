@@ -9,8 +9,8 @@
 
 namespace vantorel {
 
-/// A value, or why there is none: a message, or an error type that holds more than that. In the
-/// manner of C++23's std::expected.
+/// A value, or an error that explains why there is none: a message, or a type with more details.
+/// Modelled on C++23's std::expected.
 template <class Value, class Error = Message>
 class [[nodiscard]] Result {
 public:
@@ -21,16 +21,16 @@ public:
     [[nodiscard]] bool hasValue() const { return _state.index() == 0; }
     explicit operator bool() const { return hasValue(); }
 
-    /// There must be a value.
+    /// Returns the value, which must exist.
     [[nodiscard]] const Value& operator*() const& { return *valueOrNull(); }
     [[nodiscard]] Value& operator*() & { return *std::get_if<0>(&_state); }
     [[nodiscard]] Value&& operator*() && { return std::move(*std::get_if<0>(&_state)); }
     [[nodiscard]] const Value* operator->() const { return valueOrNull(); }
     [[nodiscard]] Value* operator->() { return std::get_if<0>(&_state); }
-    /// The value; throws `std::bad_variant_access` where there is none.
+    /// Returns the value. Throws `std::bad_variant_access` if there is none.
     [[nodiscard]] const Value& value() const { return std::get<0>(_state); }
 
-    /// There must be no value.
+    /// Returns the error. There must not be a value.
     [[nodiscard]] const Error& error() const&
     {
         assert(!hasValue());
@@ -54,7 +54,7 @@ private:
     std::variant<Value, Error> _state;
 };
 
-/// Success, or why there was none.
+/// Success, or a message that explains the failure.
 class [[nodiscard]] Status {
 public:
     /// Success.
@@ -63,7 +63,7 @@ public:
 
     [[nodiscard]] bool isOk() const { return !_error; }
     explicit operator bool() const { return isOk(); }
-    /// Must not be a success.
+    /// Returns the message. The status must not be a success.
     [[nodiscard]] const Message& error() const
     {
         assert(_error);

@@ -20,7 +20,8 @@ namespace {
 constexpr mode_t ownFileMode = 0600;
 constexpr mode_t usualFileMode = 0666;
 
-/// Hidden, so that no program takes it for a palette, and short, whatever the file is called.
+/// Temporary names are hidden, so that no program reads such a file as a palette, and short,
+/// however long the file's own name is.
 constexpr std::string_view newFilePrefix = ".vantorel-";
 constexpr std::size_t newFileLetters = 8;
 
@@ -28,7 +29,7 @@ std::string newFileName()
 {
     constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz012345";
     std::array<unsigned char, newFileLetters> chance{};
-    // Without chance the names of several processes would only meet, which is seen.
+    // If there is no randomness, processes may choose the same name; that is detected.
     if (::getentropy(chance.data(), chance.size()) != 0) chance = {};
     std::string name(newFilePrefix);
     for (const unsigned char byte : chance)
@@ -36,7 +37,8 @@ std::string newFileName()
     return name;
 }
 
-/// Where the links at a path lead. A dangling link leads to where the file will be.
+/// The path that symbolic links lead to, or the `errno` of the failure. A dangling link leads to
+/// the path at which the file will be created.
 struct Destination {
     std::string path;
     int error = 0;
@@ -49,7 +51,7 @@ Destination withLinksFollowed(std::string path)
         const ssize_t length =
             uninterrupted([&] { return ::readlink(path.c_str(), target.data(), target.size()); });
         if (length < 0 && (errno == EINVAL || errno == ENOENT)) return {std::move(path)};
-        // A link that cannot be read must not be mistaken for a file that may be replaced.
+        // An unreadable link must not be mistaken for a file, which could be replaced.
         if (length < 0) return {{}, errno};
         if (static_cast<std::size_t>(length) == target.size()) return {{}, ENAMETOOLONG};
         std::string next(target.data(), static_cast<std::size_t>(length));
@@ -74,7 +76,7 @@ int writeAll(int file, std::string_view bytes)
 int synchronize(int file)
 {
     if (uninterrupted([&] { return ::fsync(file); }) == 0) return 0;
-    // Some file systems that programs serve have nothing to synchronise.
+    // Some file systems in user space do not support synchronising.
     return errno == EINVAL ? 0 : errno;
 }
 
@@ -90,18 +92,19 @@ int takeOverPermissions(int file, const struct stat& replaced)
     if (uninterrupted([&] { return ::fstat(file, &made); }) != 0) return errno;
     mode_t mode = replaced.st_mode & 0777;
     if (made.st_uid != replaced.st_uid || made.st_gid != replaced.st_gid) {
-        // Root must not take a file away from its user.
+        // A file written by root must still belong to its user.
         const bool sameGroup = ::fchown(file, replaced.st_uid, replaced.st_gid) == 0 ||
                                made.st_gid == replaced.st_gid ||
                                ::fchown(file, static_cast<uid_t>(-1), replaced.st_gid) == 0;
-        // What one group might do is not for another.
+        // Permissions of the old group must not pass to another group.
         if (!sameGroup) mode &= static_cast<mode_t>(~S_IRWXG);
     }
     return setPermissions(file, mode);
 }
 
-/// A file that no one knows yet. It is locked while it is written, which tells it from one that a
-/// killed process has left; the lock goes with the process, however that ends.
+/// A temporary file, removed on destruction unless it has been moved to its target. It is locked
+/// while it is written, which distinguishes it from a file that a killed process has left: the
+/// system releases the lock when the process ends.
 class NewFile {
 public:
     NewFile(const std::string& folder, mode_t mode)
@@ -142,10 +145,11 @@ public:
     }
 
 private:
-    /// False where somebody who tidies up was faster than the lock.
+    /// Locks the file. Returns false if a clean-up by another process came first.
     static bool isKept(int file)
     {
-        // A file system without locks keeps none; then nobody can tidy up there, either.
+        // On a file system without locks, clean-up cannot lock the file either, and leaves it
+        // alone.
         if (::flock(file, LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
         struct stat status {};
         return ::fstat(file, &status) != 0 || status.st_nlink > 0;
@@ -166,7 +170,7 @@ private:
             return 0;
         }
         if (errno != EINVAL && errno != ENOSYS) return errno;
-        // Network file systems know no such renaming, but a second name is refused in the same way.
+        // Some network file systems lack this flag. A hard link also fails if the target exists.
         if (uninterrupted([&] { return ::link(_path.c_str(), target.c_str()); }) != 0) return errno;
         uninterrupted([&] { return ::unlink(_path.c_str()); });
         return 0;
@@ -191,7 +195,7 @@ void removeIfAbandoned(const std::string& path)
         opened.st_uid != ::geteuid() || ::flock(file.value(), LOCK_EX | LOCK_NB) != 0) {
         return;
     }
-    // Between opening and locking it may have been given its name, and another this one.
+    // Between opening and locking, the file may have been renamed and its name taken by another.
     struct stat named {};
     if (::lstat(path.c_str(), &named) != 0 || named.st_dev != opened.st_dev ||
         named.st_ino != opened.st_ino) {
@@ -200,7 +204,8 @@ void removeIfAbandoned(const std::string& path)
     ::unlink(path.c_str());
 }
 
-/// One that a process is still writing stays, as does what is another user's.
+/// Removes temporary files, except those that a process is still writing or that belong to another
+/// user.
 void removeAbandonedFiles(const std::string& folder)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
@@ -231,7 +236,7 @@ int AtomicWriter::write(const std::string& path, std::string_view bytes, AtomicW
     const std::string folder = folderOfPath(target);
     if (_tidiedFolders.insert(folder).second) removeAbandonedFiles(folder);
 
-    // The system applies the process's mask, so nobody need ask for it.
+    // `open` applies the umask itself, so the umask need not be queried.
     const bool isUsual = !isThere && manner.readers == AtomicWrite::Readers::usual;
     NewFile file(folder, isUsual ? usualFileMode : ownFileMode);
     int error = file.error();
@@ -240,7 +245,7 @@ int AtomicWriter::write(const std::string& path, std::string_view bytes, AtomicW
     if (error == 0) error = writeAll(file.value(), bytes);
     if (error == 0) error = synchronize(file.value());
     if (error == 0) error = file.moveTo(target, manner.existing);
-    // The new bytes are in place, so a failure of what follows would be no failure to write.
+    // The new file is in place, so an error from here on would not mean that writing failed.
     if (error == 0) synchronizeFolder(folder);
     return error;
 }

@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-/// Whole files that take their place at once.
+/// Atomic writing: readers see either the old file or the complete new one.
 namespace vantorel {
 
 struct AtomicWrite {
-    /// Who may read a file that has not been there before: the user alone, or whom the process's
-    /// file mode creation mask leaves.
+    /// Who may read a newly created file: only the user, or everyone whom the process's umask
+    /// permits.
     enum class Readers { userAlone, usual };
-    /// Whether a file that stands there is replaced, or is an error (EEXIST).
+    /// Whether an existing file is replaced or is an error (EEXIST).
     enum class Existing { replaced, refused };
 
     Readers readers = Readers::userAlone;
@@ -20,27 +20,28 @@ struct AtomicWrite {
 
 class AtomicWriter {
 public:
-    /// Writes a new file in the same folder, synchronises it with the disk, and renames it. 0, or
-    /// the error number of the step that failed, with nothing changed and nothing left behind.
+    /// Writes a new file in the same folder, synchronises it with the disk, and renames it. Returns
+    /// 0, or the `errno` of the step that failed. In that case the target is unchanged and the new
+    /// file has been removed.
     ///
-    /// A file that is replaced hands its permissions on, and its owner and group as far as the
-    /// process may set them. A symbolic link is followed, and stays, unless nothing may be
-    /// replaced: people keep their settings in another folder that way, and a file in the place of
-    /// the link would part the two. Links that lead in a circle, and what is no regular file, are
-    /// errors.
+    /// The new file takes over the permissions of the file it replaces, and its owner and group as
+    /// far as the process may set them. If replacing is allowed, a symbolic link is followed and
+    /// kept: people use links to keep their settings in another folder. Circular links, and targets
+    /// that are not regular files, are errors.
     ///
-    /// The first write into a folder also removes the new files that processes which were killed
-    /// have left there.
+    /// The first write into a folder also removes temporary files that killed processes have left
+    /// there.
     [[nodiscard]] int write(const std::string& path, std::string_view bytes, AtomicWrite manner);
 
 private:
     std::set<std::string> _tidiedFolders;
 };
 
-/// The folder that a path is in.
+/// Returns the folder that contains a path; "." if the path has no slash.
 [[nodiscard]] std::string folderOfPath(const std::string& path);
 
-/// Makes a change of the names in a folder last, as far as the disk can promise that.
+/// Synchronises a folder with the disk, so that files created or renamed in it survive a crash.
+/// Errors are ignored, because not every file system supports this.
 void synchronizeFolder(const std::string& path);
 
 }  // namespace vantorel

@@ -4,8 +4,8 @@
 
 namespace vantorel {
 
-/// Removes a file, or a link at its path, not what that leads to. True where nothing stands there
-/// in the end. No part of `HostFiles`, because pages cannot remove files.
+/// Removes a file. A symbolic link is removed itself, not its target. Returns true if the path does
+/// not exist afterwards. This is not part of `HostFiles`, because pages must not remove files.
 [[nodiscard]] bool removeFile(const std::string& path);
 
 }  // namespace vantorel

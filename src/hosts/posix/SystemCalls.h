@@ -6,7 +6,7 @@
 
 namespace vantorel {
 
-/// A file descriptor that is closed at the end.
+/// Owns a file descriptor and closes it on destruction. A negative value means that it has none.
 class Descriptor {
 public:
     explicit Descriptor(int value) : _value(value) {}
@@ -25,8 +25,8 @@ private:
     int _value;
 };
 
-/// The result of a system call, which is made again when a signal has interrupted it: that happens
-/// to more calls than `read` and `write` where a file system is a program or a network.
+/// Repeats a system call while signals interrupt it (EINTR), and returns its result. On file
+/// systems in user space or on a network, signals interrupt more calls than `read` and `write`.
 template <class Call>
 auto uninterrupted(Call call)
 {

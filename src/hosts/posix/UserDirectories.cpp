@@ -17,8 +17,8 @@ std::string withoutEndSlash(std::string_view path)
     return std::string(path);
 }
 
-/// The absolute paths in a list that ":" separates; others have no meaning (freedesktop base
-/// directories).
+/// Returns the absolute paths in a list separated by ":". Relative paths are ignored, as the XDG
+/// Base Directory Specification requires.
 std::vector<std::string> absolutePaths(std::string_view list)
 {
     std::vector<std::string> paths;
@@ -34,7 +34,7 @@ std::vector<std::string> absolutePaths(std::string_view list)
 
 std::string_view environmentValue(const char* name)
 {
-    // The program has one thread when this is asked, at its start.
+    // Safe, because the environment is read at start, when the program has only one thread.
     const char* value = std::getenv(name);
     return value != nullptr ? std::string_view(value) : std::string_view();
 }
@@ -60,7 +60,7 @@ std::optional<std::string> homeDirectory()
     return entry.pw_dir;
 }
 
-/// One path, so a ":" in it is part of it.
+/// Reads a variable with a single path, in which a ":" is not a separator.
 std::optional<std::string> userDirectory(const char* variable,
                                          const std::optional<std::string>& home,
                                          const char* pathInHome)

@@ -14,20 +14,20 @@
 namespace vantorel {
 namespace {
 
-/// The arguments of one call, read by place.
+/// The arguments of a call, read by their index.
 class Arguments {
 public:
     explicit Arguments(const Json& list) : _list(list) {}
 
     [[nodiscard]] const Json& at(std::size_t index) const { return argumentAt(_list, index); }
     [[nodiscard]] std::u16string text(std::size_t i) const { return textFrom(at(i), name(i)); }
-    /// Null counts as an empty text, as no text does for the readers.
+    /// Returns an empty text for null. Readers treat a missing text as an empty one.
     [[nodiscard]] std::u16string textOrNull(std::size_t i) const
     {
         return optionalTextFrom(at(i), name(i)).value_or(u"");
     }
     [[nodiscard]] std::int64_t integer(std::size_t i) const { return integerFrom(at(i), name(i)); }
-    /// A component may be any word; what is negative here has the word's upper bits set.
+    /// Reads any 64-bit component. Negative numbers are converted to unsigned ones.
     [[nodiscard]] std::uint64_t component(std::size_t i) const
     {
         return at(i).is_number_unsigned() ? at(i).get<std::uint64_t>()

@@ -76,7 +76,7 @@ std::string Driver::reply(std::string_view line)
     } catch (const Json::exception& error) {
         result = {{"ok", false}, {"error", error.what()}};
     }
-    // Error texts can quote a broken line, so the output replaces what is no UTF-8.
+    // Error texts can quote a malformed line, so bytes that are not UTF-8 are replaced.
     return result.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 

@@ -7,18 +7,18 @@
 
 namespace vantorel {
 
-/// Answers requests, one line each, in the order in which they come. Whatever a line holds, the
-/// answer is one line, and the next request finds everything as the last good one left it.
+/// Answers requests, one line each, in the order in which they arrive. Every line, even a malformed
+/// one, gets a reply of one line. A request that fails does not change the state.
 class Driver {
 public:
-    /// The reply to one line, without line end.
+    /// Returns the reply to a line, without a line end.
     [[nodiscard]] std::string reply(std::string_view line);
 
 private:
     DriverSession _session;
 };
 
-// The requests that need no picker; each throws a DriverError for arguments that do not fit.
+// Requests that do not need a picker. Each throws a DriverError if its arguments are invalid.
 
 [[nodiscard]] Json replyToCall(const Json& request);
 [[nodiscard]] Json replyToSpec(const Json& request);

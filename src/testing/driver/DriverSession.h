@@ -9,7 +9,7 @@
 
 namespace vantorel {
 
-/// One panel with one picker on a headless desktop.
+/// A panel with a picker on a headless desktop.
 class DriverPanel {
 public:
     struct Options {
@@ -23,7 +23,7 @@ public:
         std::optional<std::string> settingsFile;
     };
 
-    /// Makes the picker and asks it for its view.
+    /// Creates the picker and its view.
     explicit DriverPanel(Options options);
     DriverPanel(const DriverPanel&) = delete;
     DriverPanel& operator=(const DriverPanel&) = delete;
@@ -32,12 +32,12 @@ public:
     [[nodiscard]] HeadlessDesktop& desktop() { return _desktop; }
     [[nodiscard]] HeadlessColorPanel& panel() { return _panel; }
     [[nodiscard]] QTXHexColorPicker& picker() { return *_picker; }
-    /// The custom view that is on show; null without an interface.
+    /// Returns the custom view that is visible; null if the interface file is missing.
     [[nodiscard]] HeadlessCustomView* shownView();
-    /// Its name.
+    /// Returns the name of the visible custom view.
     [[nodiscard]] std::string shownViewName();
     [[nodiscard]] HeadlessCustomView* customView(const std::string& name);
-    /// Nobody edits a text field any more.
+    /// Ends the editing of all text fields.
     void endEditing();
 
 private:
@@ -49,8 +49,8 @@ private:
     std::unique_ptr<QTXHexColorPicker> _picker;
 };
 
-/// The requests on a picker. Each throws a DriverError, with nothing changed, for a request that
-/// cannot be met.
+/// The requests that need a picker. If a request cannot be carried out, it throws a DriverError and
+/// changes nothing.
 class DriverSession {
 public:
     Json open(const Json& request);

@@ -9,7 +9,7 @@ namespace {
 
 using Spec = QTXHexColorSpec;
 
-/// Arguments of a call `[METHOD, ARG...]`, from 1.
+/// The arguments of a call `[METHOD, ARG...]`, counted from 1.
 std::uint64_t word(const Json& call, std::size_t i)
 {
     return unsignedFrom(argumentAt(call, i), "argument " + std::to_string(i));
@@ -64,7 +64,7 @@ void setColorSubComponent(Spec& s, const Json& call)
 
 Json isMatch(Spec& s, const Json& call)
 {
-    // No other colour is as if it were a new one.
+    // If there is no other colour, a new one takes its place.
     const Spec other = spec(call, 1).value_or(Spec());
     return s.isMatchToColorSpec(other, integer(call, 2));
 }

@@ -6,7 +6,7 @@
 
 #include <array>
 
-/// Looking and waiting.
+/// Requests that return the state or advance the clock.
 namespace vantorel {
 namespace {
 

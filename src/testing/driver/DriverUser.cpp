@@ -7,11 +7,11 @@
 #include <map>
 #include <span>
 
-/// What a user does.
+/// Requests that act as a user does.
 namespace vantorel {
 namespace {
 
-/// The control of a name and a kind, or an error that says so.
+/// Returns the control of a name. Throws a DriverError if there is none or it is of another type.
 template <class Control>
 Control& controlNamed(DriverPanel& panel, const Json& request, const char* key, const char* kind)
 {
@@ -42,12 +42,12 @@ std::vector<std::u16string> pathFrom(const Json& request)
     return path;
 }
 
-/// The item that a path of titles leads to.
+/// Returns the menu item at a path of titles.
 HostMenuItem itemAtPath(const HostMenu& menu, std::span<const std::u16string> path)
 {
     const std::u16string& title = path.front();
     const bool isLast = path.size() == 1;
-    // A list may be titled like a submenu, so the title alone does not tell which item is meant.
+    // A colour list may have the title of a submenu, so the title alone is ambiguous.
     const auto found = std::find_if(menu.begin(), menu.end(), [&](const HostMenuItem& item) {
         return !item.separator && item.title == title && !item.submenu == isLast;
     });
@@ -108,7 +108,7 @@ Json DriverSession::choose(const Json& request)
     static_cast<void>(itemAtPath(popUp.menu(), path));
     current().endEditing();
     popUp.sendWillPopUp();
-    // A copy: what it does may rebuild the menu.
+    // This is a copy, because the action may rebuild the menu.
     const HostMenuItem item = itemAtPath(popUp.menu(), path);
     if (item.action) {
         item.action(item);

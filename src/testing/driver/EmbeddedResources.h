@@ -5,7 +5,7 @@
 
 namespace vantorel {
 
-/// The picker's resources by name, as they were when the program was built.
+/// Returns the picker's resources, compiled in, by file name.
 [[nodiscard]] const std::map<std::string, std::string>& embeddedResources();
 
 }  // namespace vantorel

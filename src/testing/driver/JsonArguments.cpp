@@ -14,7 +14,7 @@ namespace {
     throw DriverError(std::string(what) + " must be " + wanted);
 }
 
-/// `count` numbers.
+/// Reads an array of exactly `count` numbers.
 template <std::size_t count>
 std::array<double, count> numbersFrom(const Json& value, const std::string& what,
                                       const char* wanted)

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// What the driver answers with.
+/// Conversions of values to the JSON of the driver's replies.
 namespace vantorel {
 
 [[nodiscard]] Json jsonFromText(const std::u16string& text);
@@ -19,10 +19,10 @@ namespace vantorel {
 [[nodiscard]] Json jsonFromRect(HostRect rect);
 [[nodiscard]] Json jsonFromColor(const std::optional<HostColor>& color);
 [[nodiscard]] Json jsonFromSpec(const QTXHexColorSpec& spec);
-/// Data becomes its text form, a string in angle brackets.
+/// Converts a property list. Data becomes a string in angle brackets, its text form.
 [[nodiscard]] Json jsonFromPropertyList(const PropertyList& value);
 [[nodiscard]] Json jsonFromOperations(const std::vector<PaintOperation>& operations);
-/// The size and the painting of an image; null for none.
+/// Returns the size and the paint operations of an image, or a JSON null for `std::nullopt`.
 [[nodiscard]] Json jsonFromImage(const std::optional<HostImage>& image);
 [[nodiscard]] Json jsonFromMenu(const HostMenu& menu);
 [[nodiscard]] Json jsonFromJournal(const HeadlessJournal& journal);

@@ -7,11 +7,11 @@
 
 namespace vantorel {
 
-/// Lists that are only in memory, which can hold colours that no file can, followed by those in
-/// files.
+/// Colour lists in memory, followed by those in files. Lists in memory can contain colours that no
+/// file can represent.
 class HeadlessColorListStore final : public HostColorListStore {
 public:
-    /// Both must outlive the store.
+    /// Both arguments must outlive the store.
     HeadlessColorListStore(HostFiles& files, HeadlessJournal& journal);
 
     void install(std::shared_ptr<HostColorList> list);

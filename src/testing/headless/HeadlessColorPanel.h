@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// A colour panel with one picker and no screen. A bar of its own stands above the picker's page.
+/// A colour panel with one picker and no screen. Like a real panel it has a bar above the page.
 class HeadlessColorPanel final : public HostColorPanel {
 public:
     static constexpr double barHeight = 32;
@@ -16,9 +16,9 @@ public:
     HeadlessColorPanel(HeadlessDesktop& desktop, HostRect frame, std::optional<HostColor> color);
     ~HeadlessColorPanel() override;
 
-    /// The picker whose page the panel shows; it must be taken away (null) before it ends.
+    /// Sets the picker whose page the panel shows. Pass null before the picker is destroyed.
     void setPicker(HostColorPicker* picker);
-    /// Shows the page's view, or nothing for null.
+    /// Shows the view of a page. Pass null to show no page.
     void showPage(HostView* view);
 
     HeadlessDesktop& desktop() override { return _desktop; }
@@ -31,27 +31,28 @@ public:
     [[nodiscard]] HostPoint mouseLocation(const HostView& view) const override;
     void makeFirstResponder(HostView&) override {}
     HostFieldEditor* fieldEditor(HostTextField& field) override;
-    /// Takes the next such event of the queue and leaves the others there; when there is none, the
-    /// button is released at the last point.
+    /// Takes the next event of the mask's types from the queue and leaves the others in it. If
+    /// there is none, returns a release of the left button at the last pointer position.
     HostEvent nextEventMatchingMask(std::uint32_t mask, HostView& view) override;
-    /// Takes the events up to the next release.
+    /// Consumes the events up to the next release of the button.
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;
 
-    // What happens outside the picker.
+    // Events outside the picker.
 
-    /// Another page has changed the colour.
+    /// Changes the colour as another page would.
     void changeColor(std::optional<HostColor> color);
-    /// The user has resized the panel; its top left corner stays.
+    /// Resizes the panel as a user would. Its top left corner keeps its position.
     void resize(HostSize size);
-    /// Where the pointer is, in the coordinates of the custom view; far outside for nothing.
+    /// Sets the pointer's position in the coordinates of the custom view. Pass `std::nullopt` for a
+    /// pointer far outside the panel.
     void setPointer(std::optional<HostPoint> point);
-    /// Delivers events to a view, in order.
+    /// Delivers events to a view in their order.
     void deliver(const std::vector<HostEvent>& events, HeadlessCustomView& view);
 
 private:
     void deliver(const HostEvent& event, HeadlessCustomView& view);
-    /// Takes an event out of the queue.
+    /// Removes an event from the queue and moves the pointer to its position.
     HostEvent takeEvent(const std::deque<HostEvent>::const_iterator& place);
     void applyFrame(HostRect frame);
     [[nodiscard]] HostRect pageFrame() const;

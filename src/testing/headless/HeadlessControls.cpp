@@ -7,7 +7,7 @@ namespace vantorel {
 void HeadlessTextField::setStringValue(const std::u16string& text)
 {
     _text = text;
-    // The insertion point stays where it is, as far as there is text.
+    // The insertion point keeps its position, or moves to the end of a shorter text.
     if (_selection) setSelectedRange(*_selection);
 }
 

@@ -10,10 +10,10 @@
 
 namespace vantorel {
 
-/// The living controls by the names that the interface file gives them.
+/// The existing controls by their names in the interface file.
 using ControlRegister = std::map<std::string, HostView*>;
 
-/// Enters a control into a register for as long as it lives.
+/// Keeps a control in a register for the lifetime of this object.
 class Registration {
 public:
     Registration(std::shared_ptr<ControlRegister> controls, std::string name, HostView& view)
@@ -30,7 +30,7 @@ private:
     std::string _name;
 };
 
-/// Adds registration to a class of views.
+/// A view class whose objects are in a register while they exist.
 template <class Base>
 class Registered : public Base {
 public:
@@ -53,7 +53,7 @@ public:
     void setTextColor(const HostColor& color) override { _color = color; }
     [[nodiscard]] const std::optional<HostColor>& textColor() const { return _color; }
 
-    /// What a user does: the text after a keystroke, with the insertion point in it.
+    /// Sets the text and the insertion point as they are after a user's keystroke.
     void type(const std::u16string& text, std::size_t insertionPoint);
     void endEditing() { _selection.reset(); }
     [[nodiscard]] bool isEdited() const { return _selection.has_value(); }
@@ -79,14 +79,15 @@ public:
     }
 
     [[nodiscard]] HostViewContent& content() const { return _content; }
-    /// Paints the whole view and takes its mark for redisplay away.
+    /// Paints the whole view and clears its mark for redisplay.
     [[nodiscard]] RecordingCanvas draw();
 
     std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) override;
     void removeTrackingRect(std::intptr_t tag) override;
     [[nodiscard]] bool isTracking() const { return _tracking.has_value(); }
     [[nodiscard]] bool pointerIsInside() const { return _tracking && _tracking->inside; }
-    /// The pointer has moved: enters or leaves the tracking rectangle. True when it is inside now.
+    /// Moves the pointer, which may enter or leave the tracking rectangle. Returns whether it is
+    /// now inside.
     bool movePointer(const HostEvent& event);
 
 private:
@@ -113,7 +114,7 @@ public:
         const HostControlDescription& description) override;
 
     [[nodiscard]] const ControlRegister& controls() const { return *_controls; }
-    /// The living control of that name if it is a `Control`, else null.
+    /// Returns the control of a name, or null if there is none or it is not a `Control`.
     template <class Control>
     [[nodiscard]] Control* control(const std::string& name) const
     {

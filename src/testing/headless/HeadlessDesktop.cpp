@@ -8,7 +8,8 @@ namespace vantorel {
 namespace {
 
 constexpr double lineHeight = 1.25;
-/// Forgives what adding up seconds loses, so that "0.9 three times" reaches what is due at 2.7.
+/// The tolerance for rounding errors of added seconds, so that advancing by 0.9 three times fires a
+/// timer that is due at 2.7.
 constexpr double clockTolerance = 1e-9;
 
 }  // namespace

@@ -11,12 +11,12 @@
 
 namespace vantorel {
 
-/// A desktop without a screen, the same at every run: its own clock, text of equal letters, and a
-/// journal in place of the world outside.
+/// A desktop without a screen whose behaviour is reproducible: it has its own clock, characters of
+/// equal width, and a journal that records calls to the outside.
 class HeadlessDesktop final : public HostDesktop {
 public:
     struct Options {
-        /// The user's files; the desktop takes them over.
+        /// The user's files.
         std::unique_ptr<HostFiles> files;
         /// Width of a character as a multiple of the point size.
         double charWidth = 0.6;
@@ -31,7 +31,8 @@ public:
     HeadlessInterfaceFactory& interfaceFactory() override { return _factory; }
     [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,
                                                            std::function<void()> reaction) override;
-    /// A line is 1.25 times the point size high; a line break at the end adds no line.
+    /// The height of a line is 1.25 times the point size. A trailing line break does not add a
+    /// line.
     [[nodiscard]] HostSize sizeOfText(const HostText& text) override;
     [[nodiscard]] std::u16string localizedString(const std::u16string& key) override;
     void openURL(const std::string& url) override { _journal.emplace_back(URLOpened{url}); }
@@ -40,10 +41,10 @@ public:
 
     [[nodiscard]] HeadlessJournal& journal() { return _journal; }
 
-    /// Lets the clock run on, and fires what becomes due, in that order. Calls `look` first and
-    /// after every timer. Returns how many have fired.
+    /// Advances the clock and fires the timers that become due, in the order in which they are due.
+    /// Calls `look` first and after every timer. Returns the number of timers that fired.
     int advance(double seconds, const std::function<void()>& look);
-    /// Seconds until each timer is due, soonest first.
+    /// Returns the seconds until each timer is due, soonest first.
     [[nodiscard]] std::vector<double> pendingTimers() const;
 
 private:
@@ -61,7 +62,8 @@ private:
     HeadlessColorListStore _colorLists;
     HeadlessInterfaceFactory _factory;
     double _now = 0;
-    std::vector<std::shared_ptr<Timer>> _timers;  // soonest first; of equal ones the older
+    std::vector<std::shared_ptr<Timer>>
+        _timers;  // soonest first; the older one first if due together
 };
 
 }  // namespace vantorel

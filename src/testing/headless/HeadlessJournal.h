@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-/// What has left the picker, in order.
+/// A journal of the picker's effects on its surroundings, in order.
 namespace vantorel {
 
 struct PanelColorSet {
@@ -28,7 +28,7 @@ struct SettingsWritten {};
 struct ListSaved {
     std::u16string name;
 };
-/// One of text and color is there.
+/// A drag of either a text or a colour.
 struct Dragged {
     std::optional<std::string> text;
     std::optional<HostColor> color;

@@ -7,10 +7,11 @@
 
 namespace vantorel {
 
-/// Passes everything on, and notes in a journal when the settings file is written.
+/// Forwards all calls to another `HostFiles`, and records in a journal when the settings file is
+/// written.
 class JournalingFiles final : public HostFiles {
 public:
-    /// `journal` must outlive this object.
+    /// Takes ownership of `files`. `journal` must outlive this object.
     JournalingFiles(std::unique_ptr<HostFiles> files, HeadlessJournal& journal)
         : _files(std::move(files)), _journal(journal)
     {

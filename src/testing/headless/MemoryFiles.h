@@ -6,11 +6,11 @@
 
 namespace vantorel {
 
-/// A user's files in memory, with the rules of a disk: a folder must exist before anything is in
+/// A user's files in memory. As on a disk, a folder must exist before a file can be created in
 /// it.
 class MemoryFiles : public HostFiles {
 public:
-    /// The given folder exists; none at all for nothing.
+    /// Creates the given folder. Pass `std::nullopt` for a user without one.
     explicit MemoryFiles(
         std::optional<std::string> applicationSupportDirectory = "/home/user/.local/share");
 
@@ -18,7 +18,7 @@ public:
     [[nodiscard]] HostBaseDirectories baseDirectories() const override { return _baseDirectories; }
     [[nodiscard]] HostFileKind kindAtPath(const std::string& path) const override;
     [[nodiscard]] std::uint64_t versionAtPath(const std::string& path) const override;
-    /// There are no links here, so the path itself.
+    /// Returns the path itself, because there are no links.
     [[nodiscard]] std::string identityAtPath(const std::string& path) const override;
     bool createDirectory(const std::string& path) override;
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
     HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
-    /// There are no permissions here.
+    /// The same as `writeAtomically`, because there are no permissions.
     bool writeForOthers(const std::string& path, const std::string& bytes) override
     {
         return writeAtomically(path, bytes);
@@ -36,11 +36,11 @@ public:
     {
         _baseDirectories = std::move(directories);
     }
-    /// Removes a file, or a folder with all that is in it.
+    /// Removes a file, or a folder with its contents.
     void remove(const std::string& path);
-    /// From now on nothing can be made or written.
+    /// If true, every attempt to create or write a file or folder fails from now on.
     void failWrites(bool fail) { _failWrites = fail; }
-    /// Every file and folder, sorted.
+    /// Returns the paths of all files and folders, sorted.
     [[nodiscard]] std::vector<std::string> allPaths() const;
 
 private:

@@ -13,7 +13,7 @@ struct FillOperation {
 };
 
 struct StrokeOperation {
-    HostBezierPath path;  ///< with the line width of the stroke
+    HostBezierPath path;  ///< including the line width of the stroke
     HostColor color;
 };
 
@@ -24,7 +24,7 @@ struct TextOperation {
 
 using PaintOperation = std::variant<FillOperation, StrokeOperation, TextOperation>;
 
-/// Keeps what is painted, in order.
+/// Records the paint operations in their order.
 class RecordingCanvas final : public HostCanvas {
 public:
     void fill(const HostBezierPath& path, const HostColor& color) override
