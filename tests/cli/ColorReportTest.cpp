@@ -10,7 +10,7 @@ namespace {
 
 using namespace vantorel;
 
-TEST(ColorReportTest, TheFastLineIsTheSlowOne)
+TEST(ColorReportTest, TheFastPathWritesTheSameLineAsTheSlowOne)
 {
     for (const EntryForm entryForm : {EntryForm::uppercase, EntryForm::lowercase}) {
         for (const bool poundSign : {true, false}) {
@@ -36,7 +36,7 @@ TEST(ColorReportTest, JsonTextsAreEscaped)
     EXPECT_EQ(json, "\"a\\\"\\\\\\u000a\\u001b\\u007f\xEF\xBF\xBD\xC3\xA9\"");
 }
 
-TEST(ColorReportTest, ASentenceIsPartedWhereItTellsWhatWouldBeRight)
+TEST(ColorReportTest, AMessageIsSplitBeforeItsAdvice)
 {
     const Complaint complaint = complaintFromSentence("\"a; b\" is wrong; write \"c; d\".");
     EXPECT_EQ(complaint.what, "\"a; b\" is wrong");
@@ -44,7 +44,7 @@ TEST(ColorReportTest, ASentenceIsPartedWhereItTellsWhatWouldBeRight)
     EXPECT_EQ(complaintFromSentence("Only this.").right, "");
 }
 
-TEST(ColorReportTest, LongTextsAreCutBetweenCharacters)
+TEST(ColorReportTest, LongTextsAreTruncatedBetweenCharacters)
 {
     const std::string text = quotedText(std::string(59, 'x') + "\xF0\x9F\x8E\xA8 and more");
     EXPECT_EQ(text, '"' + std::string(59, 'x') + "...\"");

@@ -11,8 +11,8 @@ namespace {
 
 using namespace vantorel;
 
-/// What the reader makes of bytes that come in pieces: lines with a "|" behind each, "!" for one
-/// that is too long.
+/// The lines read from bytes that arrive in pieces, each followed by "|"; a line that is too long
+/// is shown as "!".
 std::string read(const std::string& bytes, std::size_t piece)
 {
     int ends[2];
@@ -40,7 +40,7 @@ std::string read(const std::string& bytes, std::size_t piece)
     return seen;
 }
 
-TEST(LineReaderTest, LinesAreCutWhateverThePieces)
+TEST(LineReaderTest, LinesAreSplitHoweverTheBytesArrive)
 {
     const std::string longest(LineReader::longestLine, 'x');
     const std::string longer = longest + "x";
@@ -65,7 +65,7 @@ TEST(LineReaderTest, LinesAreCutWhateverThePieces)
     EXPECT_EQ(read("one\ntwo\r\nthree", 1), "one|two|three|");
 }
 
-TEST(LineReaderTest, ADescriptorThatCannotBeReadIsTold)
+TEST(LineReaderTest, ADescriptorThatCannotBeReadIsReported)
 {
     LineReader reader(-1);
     std::string_view line;

@@ -16,7 +16,7 @@ std::size_t countOf(const std::string& text, const std::string& part)
     return count;
 }
 
-TEST(PicturesTest, AnyNumberOfColoursFitsIntoAnySize)
+TEST(PicturesTest, AnyNumberOfColoursFitsAnySize)
 {
     for (const int count : {0, 1, 2, 17, 216, 1000}) {
         const auto list = std::make_shared<HostColorList>(u"L");
@@ -34,7 +34,7 @@ TEST(PicturesTest, AnyNumberOfColoursFitsIntoAnySize)
     }
 }
 
-TEST(PicturesTest, NamesAreTextsOfXml)
+TEST(PicturesTest, NamesAreEscapedForXml)
 {
     const auto list = std::make_shared<HostColorList>(u"<&>");
     list->setColor(HostColor::blackColor(), u"a\x01\uFFFE\"]]>");

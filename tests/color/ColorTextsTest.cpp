@@ -23,7 +23,7 @@ TEST(ColorTextsTest, EveryComponentSurvivesHexAndInteger)
         const auto fraction =
             *compStringHexColorSpec(k, EntryForm::uppercase, ComponentDisplay::fraction);
         const std::uint64_t back = readFraction(fraction);
-        EXPECT_LE(back > k ? back - k : k - back, 1U);  // three decimals are not quite enough
+        EXPECT_LE(back > k ? back - k : k - back, 1U);  // three decimals may be off by one
     }
     EXPECT_EQ(
         readFraction(*compStringHexColorSpec(7, EntryForm::uppercase, ComponentDisplay::fraction)),
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ValidRow{u"a", 2147483647, nullptr}, ValidRow{u"a", 8, nullptr},
                     ValidRow{u"abc", 7, nullptr}, ValidRow{u"abcdefa", 7, u"abcdefa"}));
 
-TEST(ColorTextsTest, ReadersTakeTextsOfAnyKindAndLength)
+TEST(ColorTextsTest, ReadersAcceptTextsOfAnyKindAndLength)
 {
     std::mt19937 random(7);
     std::u16string text(100000, u'0');
@@ -93,7 +93,7 @@ TEST(ColorTextsTest, ReadersTakeTextsOfAnyKindAndLength)
     }
 }
 
-TEST(ColorTextsTest, AComponentBeyondTwoDigitsWritesAsCWould)
+TEST(ColorTextsTest, AComponentOfMoreThanTwoDigitsIsWrittenAsPrintfWould)
 {
     EXPECT_EQ(hexCompStringHexColorSpec(0x1FF, EntryForm::uppercase), u"0F");
     EXPECT_EQ(compStringHexColorSpec(0xFFFFFFFF, EntryForm::uppercase, ComponentDisplay::integer),

@@ -26,7 +26,7 @@ QTXHexColorSpec specOf(std::uint64_t red, std::uint64_t green, std::uint64_t blu
     return spec;
 }
 
-TEST(QTXHexColorSpecTest, EveryStepOfTheGridComesBackExactly)
+TEST(QTXHexColorSpecTest, EveryGridStepSurvivesARoundTripExactly)
 {
     for (std::uint64_t k = 0; k <= 255; ++k) {
         QTXHexColorSpec spec;
@@ -38,7 +38,7 @@ TEST(QTXHexColorSpecTest, EveryStepOfTheGridComesBackExactly)
     }
 }
 
-TEST(QTXHexColorSpecTest, SinglePrecisionLandsOnTheSameStep)
+TEST(QTXHexColorSpecTest, SinglePrecisionGivesTheSameStep)
 {
     for (std::uint64_t k = 0; k <= 255; ++k) {
         QTXHexColorSpec spec;
@@ -55,13 +55,13 @@ struct OutOfRangeRow {
 
 class OutOfRangeTest : public testing::TestWithParam<OutOfRangeRow> {};
 
-TEST_P(OutOfRangeTest, ChannelGivesAComponentWithoutUndefinedBehaviour)
+TEST_P(OutOfRangeTest, AnyChannelBecomesAComponentWithoutUndefinedBehaviour)
 {
     const auto [channel, component] = GetParam();
     QTXHexColorSpec spec;
     spec.setColorHexColorSpec(gray(channel));
     EXPECT_EQ(spec.blueHexComp(), component);
-    // None of these may trap, whatever it answers.
+    // The results do not matter, but none of these calls may trap.
     static_cast<void>(spec.isExact());
     static_cast<void>(spec.isEqualToColor(gray(channel)));
     static_cast<void>(spec.isCloseToColor(gray(-channel)));
@@ -100,7 +100,7 @@ TEST(QTXHexColorSpecTest, ComparesTruncatedWithoutBias)
     EXPECT_FALSE(specOf(0, 0, 0).isCloseToColor(HostColor::patternColor()));
 }
 
-TEST(QTXHexColorSpecTest, ClosenessEndsAtSixteenInEachChannel)
+TEST(QTXHexColorSpecTest, ColoursAreCloseWithinSixteenInEachChannel)
 {
     const HostColor middle = gray(100 / 255.0);
     EXPECT_TRUE(specOf(116, 84, 100).isCloseToColor(middle));
@@ -118,7 +118,7 @@ TEST(QTXHexColorSpecTest, MatchesStrictlyWithinALimit)
     EXPECT_FALSE(specOf(0, 0, 0).isMatchToColorSpec(specOf(largest, 0, 0), 2));
 }
 
-TEST(QTXHexColorSpecTest, DigitsTakeFourBitsAndLeaveTheOthers)
+TEST(QTXHexColorSpecTest, SettingADigitChangesOnlyItsFourBits)
 {
     auto spec = specOf(0x3C, 0, 0);
     spec.setColorSubComponent(0xFA, 0, 1);

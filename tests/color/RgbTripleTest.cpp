@@ -15,7 +15,7 @@ struct TripleRow {
 
 class RgbTripleTest : public testing::TestWithParam<TripleRow> {};
 
-TEST_P(RgbTripleTest, ReadsWhatStandsBehindTheName)
+TEST_P(RgbTripleTest, ReadsTheValuesAfterTheName)
 {
     const auto reading = readRgbTriple(GetParam().text);
     EXPECT_EQ(reading.found, GetParam().found);

@@ -19,7 +19,7 @@ std::u16string keyOfNumber(std::size_t number)
     return std::u16string(digits.begin(), digits.end());
 }
 
-/// Colours that crowd in the corners of the cube, where cells end, and outside it.
+/// Colours clustered in the corners of the cube, at the edges of cells and outside the cube.
 class ColorSource {
 public:
     HostColor next()
@@ -81,7 +81,7 @@ std::vector<std::size_t> placesNearByWalking(const QTXHexColorSpec& color,
     return places;
 }
 
-TEST(ColorListIndexTest, FindsWhatAWalkOverTheListFinds)
+TEST(ColorListIndexTest, FindsTheSameAsALinearSearch)
 {
     ColorSource source;
     std::size_t found = 0;
@@ -100,7 +100,7 @@ TEST(ColorListIndexTest, FindsWhatAWalkOverTheListFinds)
     EXPECT_GT(found, 1000U) << "the colours must be near each other often enough to tell";
 }
 
-TEST(ColorListIndexTest, SeesThatTheListHasGrown)
+TEST(ColorListIndexTest, NoticesThatTheListHasGrown)
 {
     const auto list = std::make_shared<HostColorList>(u"list");
     ColorListIndex index;
@@ -113,7 +113,7 @@ TEST(ColorListIndexTest, SeesThatTheListHasGrown)
     EXPECT_TRUE(index.placesNear(QTXHexColorSpec()).empty());
 }
 
-TEST(SortedColorKeysTest, AreInTheOrderOfThePalette)
+TEST(SortedColorKeysTest, AreInPaletteOrder)
 {
     ColorSource source;
     const auto list = listFrom(source, 500);
@@ -125,7 +125,7 @@ TEST(SortedColorKeysTest, AreInTheOrderOfThePalette)
         EXPECT_LE(colorSortFunc(keys[i], keys[i + 1], *list), 0) << i;
 }
 
-TEST(SortedColorKeysTest, FindThePositionsOfNearColoursInTheirOrder)
+TEST(SortedColorKeysTest, FindThePositionsOfNearColoursInOrder)
 {
     ColorSource source;
     const auto list = listFrom(source, 500);

@@ -34,7 +34,7 @@ std::uint64_t checksum(const HostColorList& list)
     return hash;
 }
 
-TEST_F(BuiltInListsTest, HoldExactlyWhatTheyAlwaysHeld)
+TEST_F(BuiltInListsTest, HaveTheExpectedEntries)
 {
     checkAndInstallColorLists(_store);
     struct Row {
@@ -53,7 +53,7 @@ TEST_F(BuiltInListsTest, HoldExactlyWhatTheyAlwaysHeld)
     }
 }
 
-TEST_F(BuiltInListsTest, AreSavedAmongTheUsersListsAndReadBackTheSame)
+TEST_F(BuiltInListsTest, AreSavedWithTheUsersListsAndReadBackUnchanged)
 {
     checkAndInstallColorLists(_store);
     PaletteFileStore other(_files);
@@ -70,7 +70,7 @@ TEST_F(BuiltInListsTest, AreSavedAmongTheUsersListsAndReadBackTheSame)
     }
 }
 
-TEST_F(BuiltInListsTest, AnInstalledListIsUsedAsItIs)
+TEST_F(BuiltInListsTest, AnInstalledListIsUsedUnchanged)
 {
     auto mine = std::make_shared<HostColorList>(u"CSS Keyword");
     mine->setColor(HostColor::blackColor(), u"only one");
@@ -81,7 +81,7 @@ TEST_F(BuiltInListsTest, AnInstalledListIsUsedAsItIs)
     EXPECT_EQ(mine->allKeys().size(), 1U);
 }
 
-TEST_F(BuiltInListsTest, ServeThisProcessWhenTheyCannotBeSaved)
+TEST_F(BuiltInListsTest, AreUsableInThisProcessWhenTheyCannotBeSaved)
 {
     _files.failWrites(true);
     checkAndInstallColorLists(_store);
@@ -125,7 +125,7 @@ TEST_F(BuiltInListsTest, KeepTheirOwnSpellingsAndValues)
               hexColorListWithToken(BuiltInList::cssKeywordAgain));
 }
 
-TEST(HexColorListNamesTest, StandForTheirTokens)
+TEST(HexColorListNamesTest, MapToTheirTokens)
 {
     struct Row {
         BuiltInList token;

@@ -29,7 +29,7 @@ protected:
     ColorNamesPopUpFiller _filler;
 };
 
-TEST_F(ColorNamesPopUpTest, HoldsTheKeysBelowASeparator)
+TEST_F(ColorNamesPopUpTest, ListsTheKeysBelowASeparator)
 {
     _filler.fill(_popUp, listWithKeys({u"b", u"a"}));
     EXPECT_EQ(titlesOf(_popUp), (Titles{u"No Match", u"-", u"b", u"a"}));
@@ -39,7 +39,7 @@ TEST_F(ColorNamesPopUpTest, HoldsTheKeysBelowASeparator)
     EXPECT_EQ(titlesOf(_popUp), Titles{u"Empty"});
 }
 
-TEST_F(ColorNamesPopUpTest, FillingAgainPutsBackOrderTitleAndSelection)
+TEST_F(ColorNamesPopUpTest, RefillingRestoresOrderTitleAndSelection)
 {
     const auto list = listWithKeys({u"a", u"b", u"c"});
     _filler.fill(_popUp, list);
@@ -64,7 +64,7 @@ TEST_F(ColorNamesPopUpTest, CloseEntriesMoveAboveTheSeparatorOnce)
     for (const auto& [closeKeys, expected] : {
              Row{{}, {u"No Match", u"-", u"a", u"b", u"c", u"d"}},
              Row{{u"b", u"d"}, {u"No Match", u"b", u"d", u"-", u"a", u"c"}},
-             // The list's first key stays, and so does what is no item.
+             // The list's first key and keys that are not items stay where they are.
              Row{{u"a"}, {u"No Match", u"-", u"a", u"b", u"c", u"d"}},
              Row{{u"a", u"c"}, {u"No Match", u"c", u"-", u"a", u"b", u"d"}},
              Row{{u"x", u"No Match", u"d"}, {u"No Match", u"d", u"-", u"a", u"b", u"c"}},
@@ -78,7 +78,7 @@ TEST_F(ColorNamesPopUpTest, CloseEntriesMoveAboveTheSeparatorOnce)
     }
 }
 
-TEST_F(ColorNamesPopUpTest, AKeyThatIsCalledNoMatchSelectsTheFirstItemOfThatTitle)
+TEST_F(ColorNamesPopUpTest, AKeyNamedNoMatchSelectsTheFirstItemWithThatTitle)
 {
     const auto list = listWithKeys({u"a", u"No Match", u"b"});
     _filler.fill(_popUp, list);
@@ -95,7 +95,7 @@ TEST_F(ColorNamesPopUpTest, AKeyThatIsCalledNoMatchSelectsTheFirstItemOfThatTitl
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"b");
 }
 
-TEST(MatchColorNameTest, TakesTheFirstEqualElseAllCloseEntries)
+TEST(MatchColorNameTest, ReturnsTheFirstEqualEntryOrElseAllCloseOnes)
 {
     const auto list = std::make_shared<HostColorList>(u"list");
     const auto add = [&](const char16_t* key, int red) {

@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// A user's files in memory on a machine with other programs, which count what is asked of them.
+/// In-memory files of a user on a machine with other programs; counts the calls made on them.
 class ForeignFiles final : public MemoryFiles {
 public:
     static constexpr const char* ours = "/home/user/.local/share/Vantorel/Palettes/";
@@ -26,7 +26,7 @@ public:
         setBaseDirectories(std::move(directories));
     }
 
-    /// Writes a file and makes the folders that it needs.
+    /// Writes a file and creates the folders it needs.
     void put(const std::string& path, const std::string& text)
     {
         for (std::size_t end = path.find('/', 1); end != std::string::npos;
@@ -35,13 +35,13 @@ public:
         }
         if (!writeAtomically(path, text)) throw std::runtime_error("cannot write " + path);
     }
-    /// A palette of one colour, whose name and shade tell which one it is.
+    /// A palette of one colour, identified by its name and shade.
     void putPalette(const std::string& path, const std::string& name, int shade)
     {
         const std::string number = std::to_string(shade);
         put(path, "GIMP Palette\nName: " + name + "\n" + number + " 0 0\tcolour " + number + "\n");
     }
-    /// From now on a file or folder is there, but nothing can be read in it.
+    /// Makes a file or folder unreadable from now on; it still exists.
     void makeUnreadable(const std::string& path) { _unreadable.insert(path); }
 
     [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A user and a machine in a scratch folder, which the environment leads to.
+/// User and system folders below a scratch folder; the environment variables point to them.
 class ForeignPalettesOnDiskTest : public testing::Test {
 protected:
     void SetUp() override
@@ -37,7 +37,7 @@ protected:
         const fs::path file = _base + "/" + path;
         fs::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary) << text;
-        // So long ago that whatever happens to the folder next has another time.
+        // Old enough that any later change gives the folder a different time.
         fs::last_write_time(file.parent_path(),
                             fs::file_time_type::clock::now() - std::chrono::hours(24));
     }
@@ -55,7 +55,7 @@ protected:
     std::string _base;
 };
 
-TEST_F(ForeignPalettesOnDiskTest, EveryPlaceIsFoundThroughTheEnvironment)
+TEST_F(ForeignPalettesOnDiskTest, EveryFolderIsFoundThroughTheEnvironment)
 {
     const std::vector<std::string> files{"home/.config/GIMP/2.10/palettes/a.gpl",
                                          "home/.config/inkscape/palettes/b.gpl",
@@ -86,7 +86,7 @@ TEST_F(ForeignPalettesOnDiskTest, EveryPlaceIsFoundThroughTheEnvironment)
     EXPECT_THAT(PaletteFileStore(other).availableColorLists(), ElementsAre(u"e"));
 }
 
-TEST_F(ForeignPalettesOnDiskTest, AFileThatLinksReachTwiceIsListedOnce)
+TEST_F(ForeignPalettesOnDiskTest, AFileReachedThroughTwoLinksIsListedOnce)
 {
     put("home/.local/share/Vantorel/Palettes/mine.gpl", palette("mine"));
     put("share/gimp/2.0/palettes/reds.gpl", palette("reds"));
@@ -104,7 +104,7 @@ TEST_F(ForeignPalettesOnDiskTest, AFileThatLinksReachTwiceIsListedOnce)
     EXPECT_THAT(PaletteFileStore(files).availableColorLists(), ElementsAre(u"mine", u"other-name"));
 }
 
-TEST_F(ForeignPalettesOnDiskTest, WhatChangesOnTheDiskIsSeenAtTheNextLook)
+TEST_F(ForeignPalettesOnDiskTest, ChangesOnDiskAreSeenAtTheNextLookup)
 {
     put("share/gimp/2.0/palettes/a.gpl", "GIMP Palette\nName: Reds\n1 2 3\told\n");
     PosixFiles files;
@@ -126,7 +126,7 @@ TEST_F(ForeignPalettesOnDiskTest, WhatChangesOnTheDiskIsSeenAtTheNextLook)
     EXPECT_THAT(store.availableColorLists(), IsEmpty());
 }
 
-TEST_F(ForeignPalettesOnDiskTest, ALinkThatLedNowhereIsReadOnceItsFileIsThere)
+TEST_F(ForeignPalettesOnDiskTest, ADanglingLinkIsReadOnceItsTargetExists)
 {
     link("../../../elsewhere/reds", "share/inkscape/palettes/reds.gpl");
     PosixFiles files;
@@ -136,7 +136,7 @@ TEST_F(ForeignPalettesOnDiskTest, ALinkThatLedNowhereIsReadOnceItsFileIsThere)
     EXPECT_THAT(store.availableColorLists(), ElementsAre(u"reds"));
 }
 
-TEST_F(ForeignPalettesOnDiskTest, AFolderThatCannotBeReadIsReadOnceItCan)
+TEST_F(ForeignPalettesOnDiskTest, AnUnreadableFolderIsReadOnceItBecomesReadable)
 {
     if (::geteuid() == 0) GTEST_SKIP() << "root reads every folder";
     put("share/inkscape/palettes/reds.gpl", palette("red"));
@@ -149,7 +149,7 @@ TEST_F(ForeignPalettesOnDiskTest, AFolderThatCannotBeReadIsReadOnceItCan)
     EXPECT_THAT(store.availableColorLists(), ElementsAre(u"reds"));
 }
 
-TEST_F(ForeignPalettesOnDiskTest, NothingIsMadeInForeignPlaces)
+TEST_F(ForeignPalettesOnDiskTest, NoFilesAreCreatedInForeignFolders)
 {
     put("share/gimp/2.0/palettes/a.gpl", "GIMP Palette\nName: Reds\n1 2 3\told\n");
     PosixFiles files;

@@ -36,7 +36,7 @@ protected:
     PaletteFileStore _store{_files, [this](const std::u16string& line) { _log.push_back(line); }};
 };
 
-TEST_F(ForeignPalettesTest, FilesCountByTheirEndingWhereProgramsGiveThemOne)
+TEST_F(ForeignPalettesTest, FilesAreRecognisedByTheirExtensionWhereProgramsUseOne)
 {
     const std::string palette = "GIMP Palette\n1 2 3\tx\n";
     for (const char* name :
@@ -53,7 +53,7 @@ TEST_F(ForeignPalettesTest, FilesCountByTheirEndingWhereProgramsGiveThemOne)
                             u"plain"));
 }
 
-TEST_F(ForeignPalettesTest, BlanksAroundForeignNamesAreNoPartOfThem)
+TEST_F(ForeignPalettesTest, BlanksAroundForeignNamesAreTrimmed)
 {
     _files.put(gimp + "a.gpl", "GIMP Palette\nName:\t Oxygen\t\n1 2 3\tx\n");
     _files.put(gimp + "b.gpl", "GIMP Palette\nName: Two\tWords\n1 2 3\tx\n");
@@ -69,7 +69,7 @@ TEST_F(ForeignPalettesTest, BlanksAroundForeignNamesAreNoPartOfThem)
     }
 }
 
-TEST_F(ForeignPalettesTest, AVersionFolderThatIsAFileIsPassedOver)
+TEST_F(ForeignPalettesTest, AFileInPlaceOfAVersionFolderIsSkipped)
 {
     _files.put("/home/user/.config/GIMP/2.10", "a file");
     _files.put("/home/machine/usr/share/inkscape", "a file");
@@ -79,7 +79,7 @@ TEST_F(ForeignPalettesTest, AVersionFolderThatIsAFileIsPassedOver)
     EXPECT_THAT(_store.availableColorLists(), ElementsAre(u"Old"));
 }
 
-TEST_F(ForeignPalettesTest, WhatCannotBeReadHidesNothingElse)
+TEST_F(ForeignPalettesTest, AnUnreadableFileDoesNotHideTheOthers)
 {
     _files.putPalette(userGimp + "a.gpl", "Unreadable", 1);
     _files.putPalette(userGimp + "b.gpl", "Readable", 2);
@@ -91,7 +91,7 @@ TEST_F(ForeignPalettesTest, WhatCannotBeReadHidesNothingElse)
     EXPECT_EQ(_store.colorListNamed(u"Unreadable"), nullptr);
 }
 
-TEST_F(ForeignPalettesTest, WithoutAHomeTheMachinesPalettesAreThere)
+TEST_F(ForeignPalettesTest, WithoutAHomeFolderTheSystemPalettesAreListed)
 {
     ForeignFiles files(ForeignFiles::Home::isMissing);
     files.putPalette(gimp + "a.gpl", "Reds", 1);
@@ -101,7 +101,7 @@ TEST_F(ForeignPalettesTest, WithoutAHomeTheMachinesPalettesAreThere)
     EXPECT_FALSE(store.writeColorList(listOfOne(u"Mine")));
 }
 
-TEST_F(ForeignPalettesTest, FilesWithoutBaseDirectoriesShowOurOwnFolderAlone)
+TEST_F(ForeignPalettesTest, WithoutBaseDirectoriesOnlyOurOwnFolderIsRead)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     _files.putPalette(ours + "b.gpl", "Mine", 2);
@@ -110,7 +110,7 @@ TEST_F(ForeignPalettesTest, FilesWithoutBaseDirectoriesShowOurOwnFolderAlone)
     EXPECT_EQ(_store.colorListNamed(u"Reds"), nullptr);
 }
 
-TEST_F(ForeignPalettesTest, NothingIsReadBeforeItIsNeeded)
+TEST_F(ForeignPalettesTest, FilesAreReadOnDemand)
 {
     _files.putPalette(ours + "Mine.gpl", "Mine", 1);
     _files.putPalette(ours + "other.gpl", "Other", 2);
@@ -129,7 +129,7 @@ TEST_F(ForeignPalettesTest, NothingIsReadBeforeItIsNeeded)
     }
 }
 
-TEST_F(ForeignPalettesTest, NamesCostOneReadOfEachFileAndListsAnother)
+TEST_F(ForeignPalettesTest, NamesTakeOneReadPerFileAndListsAnother)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     _files.putPalette(gimp + "b.gpl", "Blues", 2);
@@ -145,7 +145,7 @@ TEST_F(ForeignPalettesTest, NamesCostOneReadOfEachFileAndListsAnother)
     EXPECT_THAT(_files.readPaths, ElementsAre(gimp + "a.gpl"));
 }
 
-TEST_F(ForeignPalettesTest, AskingAgainCostsAFewVersions)
+TEST_F(ForeignPalettesTest, ARepeatedLookupOnlyChecksVersions)
 {
     for (int i = 0; i < 50; ++i) {
         const std::string number = std::to_string(i);
@@ -161,12 +161,12 @@ TEST_F(ForeignPalettesTest, AskingAgainCostsAFewVersions)
         EXPECT_EQ(_store.colorListNamed(name), first);
         EXPECT_THAT(_files.readPaths, IsEmpty());
         EXPECT_EQ(_files.listings + _files.others, 0);
-        // For a name that nobody holds, one for each folder where a list of it could have come.
+        // Looking up an unknown name checks one version for each folder that could have gained it.
         EXPECT_LE(_files.versions, isNobodys ? 25 : 2);
     }
 }
 
-TEST_F(ForeignPalettesTest, WhatComesLaterIsFoundAtTheNextLook)
+TEST_F(ForeignPalettesTest, ANewFileIsFoundAtTheNextLookup)
 {
     const std::vector<std::string> newPlaces{
         gimp, userGimp, "/home/user/.config/GIMP/2.99/palettes/", inkscape, kde, create, ours};
@@ -181,7 +181,7 @@ TEST_F(ForeignPalettesTest, WhatComesLaterIsFoundAtTheNextLook)
     EXPECT_EQ(_store.availableColorLists().size(), newPlaces.size());
 }
 
-TEST_F(ForeignPalettesTest, WhatComesLaterCostsNoReadOfWhatWasThere)
+TEST_F(ForeignPalettesTest, ANewFileDoesNotCauseTheOthersToBeReadAgain)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     ASSERT_EQ(_store.availableColorLists().size(), 1U);
@@ -213,7 +213,7 @@ TEST_F(ForeignPalettesTest, AFileThatChangesIsReadAgain)
     EXPECT_THAT(_store.availableColorLists(), IsEmpty());
 }
 
-TEST_F(ForeignPalettesTest, AFileThatTakesAnothersNameIsNotTakenForIt)
+TEST_F(ForeignPalettesTest, AFileMovedToAnothersNameIsNotMistakenForIt)
 {
     _files.putPalette(ours + "Reds.gpl", "Blues", 1);
     ASSERT_NE(_store.colorListNamed(u"Blues"), nullptr);
@@ -223,7 +223,7 @@ TEST_F(ForeignPalettesTest, AFileThatTakesAnothersNameIsNotTakenForIt)
     EXPECT_NE(_store.colorListNamed(u"Greens"), nullptr);
 }
 
-TEST_F(ForeignPalettesTest, OurOwnListComesBeforeAForeignOneAsSoonAsItIsThere)
+TEST_F(ForeignPalettesTest, OurOwnListTakesPrecedenceAsSoonAsItExists)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     ASSERT_EQ(_store.colorListNamed(u"Reds")->allKeys().front(), u"colour 1");
@@ -232,7 +232,7 @@ TEST_F(ForeignPalettesTest, OurOwnListComesBeforeAForeignOneAsSoonAsItIsThere)
     EXPECT_EQ(_store.colorListNamed(u"Reds (GIMP)")->allKeys().front(), u"colour 1");
 }
 
-TEST_F(ForeignPalettesTest, WritingAListOfAForeignNameLeavesTheForeignFile)
+TEST_F(ForeignPalettesTest, WritingAListWithAForeignNameLeavesTheForeignFileAlone)
 {
     for (const std::string& folder : {userGimp, gimp, kde})
         _files.putPalette(folder + "Reds.gpl", "Reds", 1);
@@ -255,7 +255,7 @@ TEST_F(ForeignPalettesTest, WritingAListOfAForeignNameLeavesTheForeignFile)
     EXPECT_EQ(_files.contentsAtPath(userGimp + "Reds.gpl"), before);
 }
 
-TEST_F(ForeignPalettesTest, WritingLooksAtOurOwnFolderAlone)
+TEST_F(ForeignPalettesTest, WritingReadsOnlyOurOwnFolder)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     _files.resetCounts();
@@ -264,7 +264,7 @@ TEST_F(ForeignPalettesTest, WritingLooksAtOurOwnFolderAlone)
     EXPECT_LE(_files.listings, 1);
 }
 
-TEST_F(ForeignPalettesTest, AWriteThatFailsHidesNothing)
+TEST_F(ForeignPalettesTest, AFailedWriteHidesNoList)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     const auto before = _store.colorListNamed(u"Reds");
@@ -317,7 +317,7 @@ TEST_F(ForeignPalettesTest, HostileNamesAreListedAndFound)
     EXPECT_EQ(colors.size(), listed.size()) << "each is a list of its own";
 }
 
-TEST_F(ForeignPalettesTest, AnyBytesInFilesAreTaken)
+TEST_F(ForeignPalettesTest, FilesMayHoldAnyBytes)
 {
     std::mt19937 random(3);
     for (int round = 0; round < 300; ++round) {

@@ -23,7 +23,7 @@ struct Row {
     bool operator==(const Row&) const = default;
 };
 
-/// The rows of a palette by the simplest rule there is: a line that begins with three numbers.
+/// The rows of a palette by the simplest possible rule: lines that begin with three numbers.
 std::vector<Row> rowsOf(const std::string& text)
 {
     std::vector<Row> rows;
@@ -47,7 +47,7 @@ std::vector<Row> rowsOf(const HostColorList& list)
     return rows;
 }
 
-/// The palettes that the machine's packages have brought, wherever their programs look for them.
+/// The palettes installed by the machine's packages, wherever their programs look for them.
 std::vector<fs::path> installedPalettes(const HostBaseDirectories& directories)
 {
     std::vector<fs::path> roots;
@@ -78,7 +78,7 @@ std::string contents(const fs::path& path)
     return text.str();
 }
 
-TEST(InstalledPalettesTest, EveryOneIsListedWithAllOfItsColours)
+TEST(InstalledPalettesTest, EveryPaletteIsListedWithAllItsColours)
 {
     // The machine's palettes, not the user's.
     std::string user = (fs::temp_directory_path() / "vantorel-test-XXXXXX").string();

@@ -36,14 +36,14 @@ protected:
     PaletteFileStore _store{_files, [this](const std::u16string& line) { _log.push_back(line); }};
 };
 
-TEST_F(PaletteFileStoreTest, AnEmptyOneHasNoListsAndMakesNoFolder)
+TEST_F(PaletteFileStoreTest, AnEmptyStoreHasNoListsAndCreatesNoFolder)
 {
     EXPECT_TRUE(_store.availableColorLists().empty());
     EXPECT_EQ(_store.colorListNamed(u"any"), nullptr);
     EXPECT_EQ(_files.kindAtPath(folder), HostFileKind::none);
 }
 
-TEST_F(PaletteFileStoreTest, ListsAreFoundByTheNameInTheFile)
+TEST_F(PaletteFileStoreTest, ListsAreFoundByTheNameInsideTheFile)
 {
     put("a.gpl", "GIMP Palette\nName: Zebra\n1 2 3 x\n");
     put("b.gpl", "GIMP Palette\n1 2 3 x\n");
@@ -55,7 +55,7 @@ TEST_F(PaletteFileStoreTest, ListsAreFoundByTheNameInTheFile)
     EXPECT_EQ(_store.colorListNamed(u"Text"), nullptr);
 }
 
-TEST_F(PaletteFileStoreTest, ALookUpByNameFindsTheOtherListsLaterToo)
+TEST_F(PaletteFileStoreTest, ALookupByNameDoesNotHideTheOtherLists)
 {
     put("b.gpl", "GIMP Palette\nName: b\n1 2 3 x\n");
     put("a.gpl", "GIMP Palette\nName: a\n1 2 3 x\n");
@@ -63,7 +63,7 @@ TEST_F(PaletteFileStoreTest, ALookUpByNameFindsTheOtherListsLaterToo)
     EXPECT_EQ(_store.availableColorLists(), (std::vector<std::u16string>{u"a", u"b"}));
 }
 
-TEST_F(PaletteFileStoreTest, AChangeOnDiskIsSeenAtTheNextLook)
+TEST_F(PaletteFileStoreTest, AChangeOnDiskIsSeenAtTheNextLookup)
 {
     put("a.gpl", "GIMP Palette\nName: a\n1 2 3 old\n");
     const auto before = _store.colorListNamed(u"a");
@@ -107,7 +107,7 @@ TEST_F(PaletteFileStoreTest, NoNameLeadsOutOfTheFolder)
     EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 11U);
 }
 
-TEST_F(PaletteFileStoreTest, AWrittenListIsInstalledAtOnce)
+TEST_F(PaletteFileStoreTest, AWrittenListIsAvailableAtOnce)
 {
     const auto list = listNamed(u"Mine");
     EXPECT_TRUE(_store.writeColorList(list));
@@ -116,7 +116,7 @@ TEST_F(PaletteFileStoreTest, AWrittenListIsInstalledAtOnce)
     EXPECT_EQ(_files.contentsAtPath(folder + "/Mine.gpl"), paletteText(*list));
 }
 
-TEST_F(PaletteFileStoreTest, AFailedWriteInstallsNothing)
+TEST_F(PaletteFileStoreTest, AFailedWriteAddsNoList)
 {
     _files.failWrites(true);
     EXPECT_FALSE(_store.writeColorList(listNamed(u"Mine")));
@@ -139,14 +139,14 @@ TEST_F(PaletteFileStoreTest, AFileThatHoldsAnotherListIsNeverOverwritten)
     EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 2U) << "the second save found its file";
 }
 
-TEST_F(PaletteFileStoreTest, AListIsSavedInTheFileThatHoldsIt)
+TEST_F(PaletteFileStoreTest, AListIsSavedToTheFileItCameFrom)
 {
     put("other.gpl", "GIMP Palette\nName: Mine\n1 2 3 x\n");
     EXPECT_TRUE(_store.writeColorList(listNamed(u"Mine")));
     EXPECT_EQ(_files.contentsOfDirectory(folder), std::vector<std::string>{"other.gpl"});
 }
 
-TEST_F(PaletteFileStoreTest, SavingAgainInAnotherProcessMakesNoSecondFile)
+TEST_F(PaletteFileStoreTest, SavingAgainInAnotherProcessCreatesNoSecondFile)
 {
     for (const std::u16string& name : {std::u16string(u"a\tb"), std::u16string(),
                                        std::u16string(u" "), std::u16string(1, char16_t{0xD800})}) {
@@ -157,7 +157,7 @@ TEST_F(PaletteFileStoreTest, SavingAgainInAnotherProcessMakesNoSecondFile)
     }
 }
 
-TEST_F(PaletteFileStoreTest, AFloodOfBadLinesIsLoggedInPart)
+TEST_F(PaletteFileStoreTest, OnlyTheFirstOfManyBadLinesAreLogged)
 {
     std::string text = "GIMP Palette\n1 2 3 x\n";
     for (int i = 0; i < 5000; ++i)
@@ -168,7 +168,7 @@ TEST_F(PaletteFileStoreTest, AFloodOfBadLinesIsLoggedInPart)
     EXPECT_NE(_log.back().find(u"4900 more"), std::u16string::npos);
 }
 
-/// The real disk, where another program may also write into a file in its place.
+/// On the real disk, where another program may also overwrite a file in place.
 class PaletteFileStoreOnDiskTest : public testing::Test {
 protected:
     void SetUp() override
@@ -191,7 +191,7 @@ protected:
     std::string _palettes;
 };
 
-TEST_F(PaletteFileStoreOnDiskTest, AFileThatIsRepairedInItsPlaceIsSeenAtTheNextLook)
+TEST_F(PaletteFileStoreOnDiskTest, AFileRepairedInPlaceIsSeenAtTheNextLookup)
 {
     writeInPlace("a.gpl", "damaged");
     PosixFiles files(_base);
@@ -202,7 +202,7 @@ TEST_F(PaletteFileStoreOnDiskTest, AFileThatIsRepairedInItsPlaceIsSeenAtTheNextL
     EXPECT_NE(store.colorListNamed(u"Repaired"), nullptr);
 }
 
-TEST_F(PaletteFileStoreOnDiskTest, AFileTooLargeForMemoryIsNoPalette)
+TEST_F(PaletteFileStoreOnDiskTest, AFileTooLargeForMemoryIsNotAPalette)
 {
     writeInPlace("huge.gpl", "GIMP Palette\n");
     std::error_code error;

@@ -41,7 +41,7 @@ TEST(PaletteFileTest, EveryByteSurvives)
     }
 }
 
-TEST(PaletteFileTest, TakesWhatOtherProgramsWrite)
+TEST(PaletteFileTest, ReadsFilesOfOtherPrograms)
 {
     const auto reading = readPalette(
         "\xEF\xBB\xBFGIMP Palette\r\nName: Caf\xC3\xA9\r\nColumns: 4\r\n#\r\n# note\r\n\r\n"
@@ -54,14 +54,14 @@ TEST(PaletteFileTest, TakesWhatOtherProgramsWrite)
     EXPECT_EQ(reading->list->colorWithKey(u"one 2"), bytes(4, 5, 6));
 }
 
-TEST(PaletteFileTest, TabsThatAlignNamesAreNoPartOfThem)
+TEST(PaletteFileTest, TabsBeforeNamesAreTrimmed)
 {
     const auto reading = readPalette("GIMP Palette\n1 2 3\t\tone\n4\t5\t6\t\n7 8 9\t two \n", u"x");
     ASSERT_TRUE(reading.has_value());
     EXPECT_EQ(reading->list->allKeys(), (Keys{u"one", u"Untitled", u" two "}));
 }
 
-TEST(PaletteFileTest, EveryPrefixOfAFileGivesTheRowsThatAreInIt)
+TEST(PaletteFileTest, EveryPrefixOfAFileYieldsItsRows)
 {
     const std::string text =
         "\xEF\xBB\xBFGIMP Palette\r\nName: n\r\n# \xE9\r\n 10  20  30\tcaf\xC3\xA9\r\n40 50 60\n";
@@ -77,7 +77,7 @@ TEST(PaletteFileTest, EveryPrefixOfAFileGivesTheRowsThatAreInIt)
     EXPECT_EQ(colors, 2U);
 }
 
-TEST(PaletteFileTest, PassesOverBadLinesAndTellsTheirNumbers)
+TEST(PaletteFileTest, SkipsBadLinesAndReportsTheirNumbers)
 {
     const auto reading = readPalette(
         "KDE RGB Palette\n1 2 3 good\n1 2 bad\n256 0 0 bad\n-1 0 0 bad\nwords\n1 2 3x bad\n",
@@ -91,14 +91,14 @@ TEST(PaletteFileTest, PassesOverBadLinesAndTellsTheirNumbers)
     EXPECT_EQ(numbers, (std::vector<std::size_t>{3, 4, 5, 6, 7}));
 }
 
-TEST(PaletteFileTest, AnotherKindOfFileIsNoPalette)
+TEST(PaletteFileTest, AnotherKindOfFileIsNotAPalette)
 {
     for (const char* file : {"", "\n", "GIMP", "JASC-PAL\n0100\n", "GIMP Palette 2\n"}) {
         EXPECT_FALSE(readPalette(file, u"x").has_value()) << file;
     }
 }
 
-TEST(PaletteFileTest, ManyEqualNamesAreNotSlow)
+TEST(PaletteFileTest, ManyEqualNamesAreReadQuickly)
 {
     std::string text = "GIMP Palette\n";
     for (int i = 0; i < 50000; ++i)

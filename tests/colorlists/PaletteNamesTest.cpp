@@ -31,8 +31,8 @@ const std::string kde = "/home/machine/etc/xdg/colors/";
 
 class PaletteNamesTest : public testing::Test {
 protected:
-    /// The shade of a list's one colour, which tells the file; -1 when there is no such list, or
-    /// when it is not called as it was asked for.
+    /// The shade of a list's only colour, which identifies the file; -1 if there is no such list or
+    /// if its name differs from `name`.
     static int shade(HostColorListStore& store, const std::u16string& name)
     {
         const auto list = store.colorListNamed(name);
@@ -46,9 +46,9 @@ protected:
     PaletteFileStore _store{_files};
 };
 
-TEST_F(PaletteNamesTest, EachListHasANameUnderWhichItIsFound)
+TEST_F(PaletteNamesTest, EachListIsFoundByItsListedName)
 {
-    // From the most important to the least, as the numbers say.
+    // Numbered from highest to lowest precedence.
     const std::vector<std::string> folders{ours,    userGimp,  userOldGimp, userInkscape, userKrita,
                                            userKde, localGimp, newGimp,     gimp,         inkscape,
                                            krita,   create,    kde};
@@ -64,7 +64,7 @@ TEST_F(PaletteNamesTest, EachListHasANameUnderWhichItIsFound)
         EXPECT_EQ(shade(expected[i]), static_cast<int>(i));
 }
 
-TEST_F(PaletteNamesTest, AStoreFindsEachNameBeforeItHasListedThem)
+TEST_F(PaletteNamesTest, EachNameIsFoundBeforeTheNamesAreListed)
 {
     _files.putPalette(userGimp + "a.gpl", "Reds", 1);
     _files.putPalette(gimp + "a.gpl", "Reds", 2);
@@ -75,7 +75,7 @@ TEST_F(PaletteNamesTest, AStoreFindsEachNameBeforeItHasListedThem)
     }
 }
 
-TEST_F(PaletteNamesTest, NamesAreSortedWhateverTheirPlace)
+TEST_F(PaletteNamesTest, NamesAreSortedAcrossFolders)
 {
     _files.putPalette(kde + "x", "Apple", 1);
     _files.putPalette(ours + "x.gpl", "Pear", 2);
@@ -84,7 +84,7 @@ TEST_F(PaletteNamesTest, NamesAreSortedWhateverTheirPlace)
     EXPECT_THAT(_store.availableColorLists(), ElementsAre(u"Apple", u"Cherry", u"Pear", u"Plum"));
 }
 
-TEST_F(PaletteNamesTest, TheSameEntriesUnderTheSameNameAreListedOnce)
+TEST_F(PaletteNamesTest, IdenticalListsOfOneNameAreListedOnce)
 {
     for (const std::string& folder : {ours, userGimp, gimp, inkscape, kde})
         _files.putPalette(folder + "reds.gpl", "Reds", 7);
@@ -94,7 +94,7 @@ TEST_F(PaletteNamesTest, TheSameEntriesUnderTheSameNameAreListedOnce)
     EXPECT_THAT(_store.availableColorLists(), ElementsAre(u"Other", u"Reds", u"Reds (Krita)"));
 }
 
-TEST_F(PaletteNamesTest, ListsOfOneFolderWithOneNameAreAllListed)
+TEST_F(PaletteNamesTest, ListsWithTheSameNameInOneFolderAreAllListed)
 {
     _files.putPalette(gimp + "a.gpl", "Reds", 1);
     _files.putPalette(gimp + "b.gpl", "Reds", 2);
@@ -104,7 +104,7 @@ TEST_F(PaletteNamesTest, ListsOfOneFolderWithOneNameAreAllListed)
     EXPECT_EQ(shade(u"Reds (GIMP 2)"), 3);
 }
 
-TEST_F(PaletteNamesTest, NoNameInAFileIsTakenByOneThatWasMadeUp)
+TEST_F(PaletteNamesTest, AGeneratedNameNeverTakesANameFromAFile)
 {
     _files.putPalette(ours + "a.gpl", "Reds", 1);
     _files.putPalette(userGimp + "a.gpl", "Reds", 2);
@@ -164,7 +164,7 @@ TEST_F(PaletteNamesTest, ABracketedListStaysTheSameObject)
     EXPECT_EQ(_store.colorListNamed(u"Reds (GIMP 2)"), former);
 }
 
-TEST(PaletteVersionsTest, TheNewestComesFirst)
+TEST(PaletteVersionsTest, TheNewestVersionComesFirst)
 {
     std::vector<std::string> versions{"2.8",
                                       "backup",

@@ -15,10 +15,10 @@ std::string codeOf(const std::optional<ByteColor>& color)
     return text;
 }
 
-TEST(ColorTextReaderTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
+TEST(ColorTextReaderTest, TheFastPathAgreesWithTheSlowOneOrDefersToIt)
 {
     ColorTextReader reader([] { return nullptr; });
-    // A blank goes the slow way, to the same end.
+    // A blank takes the slow path, with the same result.
     for (std::uint32_t value = 0; value < 0x1000000; value += 4099) {
         char text[16];
         std::snprintf(text, sizeof text, "#%06X", value);
@@ -31,7 +31,7 @@ TEST(ColorTextReaderTest, TheFastWayReadsAsTheSlowOneOrLeavesItAlone)
         EXPECT_FALSE(readPlainHex(text)) << text;
 }
 
-TEST(ColorTextReaderTest, ChannelsAreRoundedAsBrowsersDo)
+TEST(ColorTextReaderTest, ChannelsAreRoundedAsInBrowsers)
 {
     const auto codeOfChannel = [](double channel) {
         return int{byteColorOf(HostColor::colorWithCalibratedRed(channel, 0, 0, 1)).red};
@@ -44,7 +44,7 @@ TEST(ColorTextReaderTest, ChannelsAreRoundedAsBrowsersDo)
     EXPECT_EQ(byteColorOf(HostColor::colorWithCalibratedRed(0, 0, 0, -3)).alpha, 0);
 }
 
-TEST(ColorTextReaderTest, AListIsAskedForOnceAndOnlyForItsNames)
+TEST(ColorTextReaderTest, AListIsLoadedOnceAndOnlyToLookUpNames)
 {
     int asked = 0;
     auto list = std::make_shared<HostColorList>(u"List");

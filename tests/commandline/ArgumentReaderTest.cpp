@@ -35,7 +35,7 @@ constexpr ProgramRow program{
     .command = {.name = "p", .text = "Things.", .options = programOptions, .commands = commands},
     .version = "1.2"};
 
-TEST(ArgumentReaderTest, OptionsAndOperandsComeInAnyOrder)
+TEST(ArgumentReaderTest, OptionsAndOperandsMayComeInAnyOrder)
 {
     const auto reading = readArguments(
         program, {"keep", "a", "--place=x=y", "--tag", "--dry", "--dry", "--tag", "2", "-"});
@@ -48,7 +48,7 @@ TEST(ArgumentReaderTest, OptionsAndOperandsComeInAnyOrder)
     EXPECT_EQ(reading.arguments->value("--size"), std::nullopt);
 }
 
-TEST(ArgumentReaderTest, WhatFollowsTheMarkIsAnOperand)
+TEST(ArgumentReaderTest, EverythingAfterTheDoubleDashIsAnOperand)
 {
     const auto reading = readArguments(program, {"find", "--all", "--", "again", "--", "--all"});
     ASSERT_TRUE(reading.arguments);
@@ -57,14 +57,14 @@ TEST(ArgumentReaderTest, WhatFollowsTheMarkIsAnOperand)
     EXPECT_EQ(readArguments(program, {"find", "again", "x"}).arguments->command, "find again");
 }
 
-TEST(ArgumentReaderTest, ACommandCanHandOnAllThatFollows)
+TEST(ArgumentReaderTest, ACommandCanPassOnTheRemainingArguments)
 {
     const auto reading = readArguments(program, {"run", "--help", "--", "x"});
     ASSERT_TRUE(reading.arguments);
     EXPECT_THAT(reading.arguments->operands, ElementsAre("--help", "--", "x"));
 }
 
-TEST(ArgumentReaderTest, HelpAndVersionComeBeforeMistakes)
+TEST(ArgumentReaderTest, HelpAndVersionTakePrecedenceOverErrors)
 {
     EXPECT_EQ(readArguments(program, {"--version"}).text, "p 1.2\n");
     EXPECT_THAT(readArguments(program, {"keep", "--nothing", "-h"}).text,

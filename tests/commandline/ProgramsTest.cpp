@@ -9,7 +9,7 @@
 namespace vantorel {
 namespace {
 
-/// Calls for a command and all below it.
+/// Invokes `call` for a command and all its subcommands.
 template <class Call>
 void forEachCommand(const CommandRow& command, Call call)
 {
@@ -20,7 +20,7 @@ void forEachCommand(const CommandRow& command, Call call)
 
 class ProgramsTest : public testing::TestWithParam<const ProgramRow*> {};
 
-TEST_P(ProgramsTest, EveryOptionIsExplainedOnce)
+TEST_P(ProgramsTest, EveryOptionIsDocumentedOnce)
 {
     forEachCommand(GetParam()->command, [](const CommandRow& command) {
         for (const OptionRow& option : command.options) {
@@ -35,7 +35,7 @@ TEST_P(ProgramsTest, EveryOptionIsExplainedOnce)
     });
 }
 
-TEST_P(ProgramsTest, OnlyTheLastOperandsCanBeLeftOut)
+TEST_P(ProgramsTest, OnlyTrailingOperandsAreOptional)
 {
     forEachCommand(GetParam()->command, [](const CommandRow& command) {
         for (std::size_t i = 1; i < command.operands.size(); ++i) {
@@ -45,7 +45,7 @@ TEST_P(ProgramsTest, OnlyTheLastOperandsCanBeLeftOut)
     });
 }
 
-TEST_P(ProgramsTest, EveryOptionIsDescribedEverywhere)
+TEST_P(ProgramsTest, EveryOptionIsInTheManualAndTheCompletions)
 {
     const std::string page = manualPage(*GetParam());
     forEachCommand(GetParam()->command, [&](const CommandRow& command) {

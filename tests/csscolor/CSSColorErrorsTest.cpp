@@ -89,7 +89,7 @@ TEST(CSSColorErrorsTest, Names)
     });
 }
 
-TEST(CSSColorErrorsTest, PropertiesAndWhatElseStandsAroundTheColour)
+TEST(CSSColorErrorsTest, PropertiesAndOtherTextAroundTheColour)
 {
     expectErrors({
         {"color: red;",

@@ -92,8 +92,8 @@ TEST(CSSColorReaderTest, AnglesInRadiansAreRead)
     expectColor("hsl(3.14159265358979rad 100% 50%)", 0, 255, 255, 1, 1e-6);
 }
 
-/// The same five colours stand in CSS Color 4 as examples of lab(), lch(), oklab() and oklch(); the
-/// hex codes are those of the swatches there.
+/// CSS Color 4 gives the same five colours as examples of lab(), lch(), oklab() and oklch(); the
+/// hex codes are those of its swatches.
 TEST(CSSColorReaderTest, TheExamplesOfTheSpecificationGiveTheirSwatches)
 {
     struct Example {
@@ -130,7 +130,7 @@ struct AnchorRow {
     double tolerance;
 };
 
-TEST(CSSColorReaderTest, WellKnownColoursComeOutOfEverySpace)
+TEST(CSSColorReaderTest, WellKnownColoursAreReadFromEverySpace)
 {
     const std::vector<AnchorRow> rows{
         {"oklch(62.796% 0.25768 29.234)", 255, 0, 0, 0.1},
@@ -170,7 +170,7 @@ struct SameRow {
     const char* plain;
 };
 
-TEST(CSSColorReaderTest, TextsOfOneColourAreReadAlike)
+TEST(CSSColorReaderTest, TextsOfTheSameColourAreReadAlike)
 {
     const std::vector<SameRow> rows{
         // Percentages of each kind of value.
@@ -179,7 +179,7 @@ TEST(CSSColorReaderTest, TextsOfOneColourAreReadAlike)
         {"oklab(50% 25% -25%)", "oklab(0.5 0.1 -0.1)"},
         {"oklch(50% 25% 60)", "oklch(0.5 0.1 60)"},
         {"color(xyz 20% 30% 40%)", "color(xyz 0.2 0.3 0.4)"},
-        // Values out of range count as the end of the range where CSS says so.
+        // Values out of range are clamped where CSS says so.
         {"rgb(300 -20 0)", "rgb(255 0 0)"},
         {"rgb(120%, -10%, 0%)", "rgb(100%, 0%, 0%)"},
         {"rgb(1 2 3 / 5)", "rgb(1 2 3)"},
@@ -199,19 +199,19 @@ TEST(CSSColorReaderTest, TextsOfOneColourAreReadAlike)
         {"lab(none 20 30)", "lab(0 20 30)"},
         {"oklch(0.5 none none)", "oklch(0.5 0 0)"},
         {"color(xyz NONE 0.3 0.4 / None)", "color(xyz 0 0.3 0.4 / 0)"},
-        // Comments and white space count as nothing.
+        // Comments and white space are ignored.
         {" \t\r\n\f#f80 \n", "#f80"},
         {"/**//* rgb( */rgb(/**/1/**/2/* , */3/**/)/* ; */;/**/ ", "rgb(1 2 3)"},
         {"/* bare */f80/**/;", "#f80"},
         {"rgb( 1 , 2 , 3 )", "rgb(1,2,3)"},
         {"rgb(1 2 3/.5)", "rgb(1 2 3 / 50%)"},
-        // Escapes of CSS.
+        // CSS escapes.
         {"\\72 ed", "red"},
         {"R\\45\r\nd", "red"},
         {"#\\66 80", "#f80"},
         {"\\000072gb(1 2 3)", "rgb(1 2 3)"},
         {"hsl(120\\64 eg 100% 50%)", "lime"},
-        // Numbers that no double holds.
+        // Numbers beyond the range of double.
         {"rgb(1e999999999999999999999 0 0)", "rgb(255 0 0)"},
         {"rgb(-1e999999999999999999999 0 0)", "rgb(0 0 0)"},
         {"rgb(1e-999999999999999999999 0 0)", "rgb(0 0 0)"},
@@ -230,7 +230,7 @@ TEST(CSSColorReaderTest, TextsOfOneColourAreReadAlike)
     }
 }
 
-TEST(CSSColorReaderTest, NULsAtTheEndAreLeftOut)
+TEST(CSSColorReaderTest, TrailingNULsAreIgnored)
 {
     using namespace std::string_view_literals;
     for (const auto text : {"red\0"sv, "red;\0\0\0"sv, "f00 \0 \0\n"sv})
@@ -239,7 +239,7 @@ TEST(CSSColorReaderTest, NULsAtTheEndAreLeftOut)
         EXPECT_FALSE(readCSSColor(text).color);
 }
 
-TEST(CSSColorReaderTest, DigitsCountWhereverThePointStands)
+TEST(CSSColorReaderTest, DigitsCountOnBothSidesOfThePoint)
 {
     const std::string zeros(400, '0');
     expectColor("rgb(0." + zeros + "12e403 0 0)", 120, 0, 0, 1);
@@ -249,7 +249,7 @@ TEST(CSSColorReaderTest, DigitsCountWhereverThePointStands)
                 12.3456789012345678, 0, 0, 1);
 }
 
-TEST(CSSColorReaderTest, ColoursOutsideSRGBAreToldAndComeOutWithinIt)
+TEST(CSSColorReaderTest, ColoursOutsideSRGBAreReportedAndMappedIntoIt)
 {
     for (const char* text :
          {"color(display-p3 1 0 0)", "color(rec2020 0 1 0)", "color(a98-rgb 0 1 0)",
@@ -268,14 +268,14 @@ TEST(CSSColorReaderTest, ColoursOutsideSRGBAreToldAndComeOutWithinIt)
     }
 }
 
-TEST(CSSColorReaderTest, GiantChromasKeepTheirLightnessAndHue)
+TEST(CSSColorReaderTest, HugeChromasKeepTheirLightnessAndHue)
 {
     const auto nearby = *readCSSColor("oklch(50% 0.4 30)").color->color.calibratedRGB();
     expectColor("oklch(50% 1e38 30)", nearby.red * 255, nearby.green * 255, nearby.blue * 255, 1,
                 0.5);
 }
 
-TEST(CSSColorReaderTest, TheChannelsOfHSLAndHWBAreCutAndNotMapped)
+TEST(CSSColorReaderTest, HSLAndHWBAreClippedAndNotMapped)
 {
     expectColor("hsl(40 200% 50%)", 255, 212.5, 0, 1);
     expectColor("hwb(40 -50% 0%)", 255, 127.5, 0, 1);

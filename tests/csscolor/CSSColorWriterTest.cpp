@@ -76,7 +76,7 @@ TEST(CSSColorWriterTest, EveryAlphaReadsBackAsTheSameEightBits)
     }
 }
 
-TEST(CSSColorWriterTest, FractionsOutOfRangeCountAsTheNearerEnd)
+TEST(CSSColorWriterTest, FractionsOutOfRangeAreClamped)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     const auto strange =

@@ -47,7 +47,7 @@ ColorTriple xyzOfChromaticity(double x, double y)
 const ColorTriple d65 = xyzOfChromaticity(0.3127, 0.3290);
 const ColorTriple d50 = xyzOfChromaticity(0.3457, 0.3585);
 
-/// The chromaticities of a space's primaries and its white, from which all else of it follows.
+/// The chromaticities of a space's primaries and white, which define everything else.
 struct Primaries {
     double redX, redY, greenX, greenY, blueX, blueY;
     ColorTriple white;
@@ -132,25 +132,25 @@ TEST(ColorConversionsTest, MatricesFollowFromTheChromaticitiesOfTheirSpaces)
     }
 }
 
-TEST(ColorConversionsTest, D50TurnsIntoD65)
+TEST(ColorConversionsTest, D50IsAdaptedToD65)
 {
     expectNear(xyzFromXYZD50(d50), d65, 1e-9);
     for (const ColorTriple& sample : samples)
         expectNear(xyzFromXYZD50(sample), adapted(sample, d50, d65), 1e-9);
 }
 
-TEST(ColorConversionsTest, LabIsThatOfItsDefinition)
+TEST(ColorConversionsTest, LabMatchesItsDefinition)
 {
     expectNear(xyzD50FromLab({100, 0, 0}), d50, 1e-9);
     expectNear(xyzD50FromLab({0, 0, 0}), {0, 0, 0}, 1e-9);
     // A reflectance of 18.4187% has the lightness 50: 100 * ((50 + 16) / 116)^3.
     const double middle = std::pow(66.0 / 116, 3);
     expectNear(xyzD50FromLab({50, 0, 0}), {d50[0] * middle, middle, d50[2] * middle}, 1e-9);
-    // The straight part, below lightness 8.
+    // The linear part, below lightness 8.
     expectNear(xyzD50FromLab({0.9032963, -3.8935, 1.5574}), {0, 0.001, 0}, 1e-6);
 }
 
-/// CIE Lab, relative to D50, by its definition.
+/// CIE Lab relative to D50, computed from its definition.
 ColorTriple labByDefinition(const ColorTriple& xyz)
 {
     const auto f = [](double value) {
@@ -162,8 +162,8 @@ ColorTriple labByDefinition(const ColorTriple& xyz)
     return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
 }
 
-/// From sRGB to Oklab by the constants of Oklab's first description, which are rounded and go by
-/// another way than XYZ.
+/// Converts sRGB to Oklab with the rounded constants of the original Oklab description, which
+/// bypasses XYZ.
 ColorTriple oklabByFirstDescription(const ColorTriple& srgb)
 {
     const auto [r, g, b] = linearFromSRGB(srgb);
@@ -175,7 +175,7 @@ ColorTriple oklabByFirstDescription(const ColorTriple& srgb)
             0.0259040371 * l + 0.7827717662 * m - 0.8086757660 * s};
 }
 
-TEST(ColorConversionsTest, ThreeDigitColoursSurviveEverySpaceAndBack)
+TEST(ColorConversionsTest, ThreeDigitColoursSurviveARoundTripThroughEverySpace)
 {
     for (int code = 0; code < 4096; ++code) {
         const ColorTriple srgb{(code >> 8) / 15.0, ((code >> 4) & 15) / 15.0, (code & 15) / 15.0};
@@ -225,7 +225,7 @@ TEST(ColorConversionsTest, HuesWrapIntoOneTurn)
     EXPECT_LT(normalizedHue(std::numeric_limits<double>::max()), 360);
 }
 
-TEST(ColorConversionsTest, WhitenessAndBlacknessMakeGreyWhereTheyFillTheColour)
+TEST(ColorConversionsTest, WhitenessAndBlacknessOfAHundredOrMoreMakeGrey)
 {
     expectNear(srgbFromHWB({70, 60, 60}), {0.5, 0.5, 0.5}, 1e-12);
     expectNear(srgbFromHWB({70, 100, 0}), {1, 1, 1}, 1e-12);

@@ -21,7 +21,7 @@ struct ContrastRow {
     double ratio;
 };
 
-TEST(ContrastTest, RatiosAreThoseOfTheGuidelines)
+TEST(ContrastTest, RatiosMatchTheGuidelines)
 {
     for (const ContrastRow& row : {
              ContrastRow{"black", "white", 21},
@@ -47,7 +47,7 @@ TEST(ContrastTest, RatiosAreThoseOfTheGuidelines)
     }
 }
 
-TEST(ContrastTest, LuminancesAreThoseOfTheGuidelines)
+TEST(ContrastTest, LuminancesMatchTheGuidelines)
 {
     EXPECT_DOUBLE_EQ(relativeLuminance(color("black")).value(), 0);
     EXPECT_DOUBLE_EQ(relativeLuminance(color("white")).value(), 1);
@@ -88,7 +88,7 @@ TEST(ContrastTest, TheLightestGreyForTextOnWhiteIs767676)
     EXPECT_FALSE(contrastVerdicts(*contrastRatio(color("#959595"), color("white"))).componentAA);
 }
 
-TEST(ContrastTest, TransparentColoursMixAsBrowsersMixThem)
+TEST(ContrastTest, TransparentColoursAreBlendedAsInBrowsers)
 {
     const auto mixed = composedOver(color("rgb(255 0 0 / 50%)"), color("rgb(0 0 255 / 50%)"))
                            .value()

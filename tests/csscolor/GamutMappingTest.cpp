@@ -13,7 +13,7 @@ ColorTriple srgbOfOklch(double lightness, double chroma, double hue)
     return srgbFromOklab(rectangularFromPolar({lightness, chroma, hue}));
 }
 
-TEST(GamutMappingTest, ColoursWithinStayAsTheyAre)
+TEST(GamutMappingTest, ColoursInGamutAreUnchanged)
 {
     for (const ColorTriple& srgb : {ColorTriple{0, 0, 0}, ColorTriple{1, 1, 1},
                                     ColorTriple{1, 0, 0.25}, ColorTriple{0.1, 0.2, 0.3}}) {
@@ -22,7 +22,7 @@ TEST(GamutMappingTest, ColoursWithinStayAsTheyAre)
     }
 }
 
-TEST(GamutMappingTest, HalfAStepOfEightBitsCountsAsWithin)
+TEST(GamutMappingTest, HalfAnEightBitStepOutsideCountsAsInGamut)
 {
     EXPECT_FALSE(isOutsideSRGB({1.0019, 0.5, -0.0019}));
     EXPECT_EQ(mappedIntoSRGB({1.0019, 0.5, -0.0019}), (ColorTriple{1, 0.5, 0}));
@@ -30,7 +30,7 @@ TEST(GamutMappingTest, HalfAStepOfEightBitsCountsAsWithin)
     EXPECT_TRUE(isOutsideSRGB({0.5, -0.002, 0}));
 }
 
-TEST(GamutMappingTest, BeyondWhiteAndBlackNothingIsLeftOfTheHue)
+TEST(GamutMappingTest, ColoursBeyondWhiteAndBlackLoseTheirHue)
 {
     EXPECT_EQ(mappedIntoSRGB({1.5, 1.5, 1.2}), (ColorTriple{1, 1, 1}));
     EXPECT_EQ(mappedIntoSRGB({-0.2, -0.1, -0.2}), (ColorTriple{0, 0, 0}));
@@ -38,8 +38,9 @@ TEST(GamutMappingTest, BeyondWhiteAndBlackNothingIsLeftOfTheHue)
     EXPECT_EQ(srgbByReducedChroma({0, 0.2, 0.1}), (ColorTriple{0, 0, 0}));
 }
 
-/// What is not noticeably outside is cut and keeps its chroma: the red of Display P3 is not.
-TEST(GamutMappingTest, KnownColoursComeOutAsKnown)
+/// Colours not noticeably out of gamut are clipped and keep their chroma; Display P3 red is further
+/// out than that.
+TEST(GamutMappingTest, KnownColoursAreMappedAsExpected)
 {
     struct Row {
         ColorTriple srgb;
@@ -57,7 +58,7 @@ TEST(GamutMappingTest, KnownColoursComeOutAsKnown)
     }
 }
 
-TEST(GamutMappingTest, MappedColoursKeepHueAndLightnessWithinWhatIsNoticeable)
+TEST(GamutMappingTest, MappingDoesNotNoticeablyChangeHueOrLightness)
 {
     int outside = 0;
     for (double lightness = 0.05; lightness < 1; lightness += 0.05) {
@@ -69,13 +70,14 @@ TEST(GamutMappingTest, MappedColoursKeepHueAndLightnessWithinWhatIsNoticeable)
                     mapped, [](double channel) { return channel >= 0 && channel <= 1; }));
                 if (!isOutsideSRGB(srgb)) continue;
                 ++outside;
-                // A cut may move a colour by the noticeable difference of 0.02 in any direction.
+                // Clipping may move a colour by the just noticeable difference of 0.02 in any
+                // direction.
                 const ColorTriple oklab = oklabFromSRGB(mapped);
                 const double angle = hue * 3.14159265358979 / 180;
                 const double offHue = oklab[1] * std::sin(angle) - oklab[2] * std::cos(angle);
                 ASSERT_NEAR(oklab[0], lightness, 0.0201) << chroma << ' ' << hue;
                 ASSERT_NEAR(offHue, 0, 0.0201) << lightness << ' ' << chroma << ' ' << hue;
-                // And no more chroma is lost than that: some channel lies at its end.
+                // No more chroma than that is lost: some channel is at its limit.
                 ASSERT_TRUE(std::ranges::any_of(
                     mapped, [](double channel) { return channel <= 1e-9 || channel >= 1 - 1e-9; }));
             }

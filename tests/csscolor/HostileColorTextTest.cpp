@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// Quadratic time would take hours here, so that the time limit of the test run tells.
+/// Quadratic time would take hours here and so exceed the time limit of the test run.
 namespace vantorel {
 namespace {
 
@@ -26,7 +26,7 @@ void expectSoundReading(const CSSColorReading& reading)
         ASSERT_TRUE(fraction >= 0 && fraction <= 1) << fraction;  // NaN fails both
 }
 
-TEST(HostileColorTextTest, RandomBytesGiveAColourOrASentence)
+TEST(HostileColorTextTest, RandomBytesGiveAColourOrAnError)
 {
     std::mt19937 random(20);
     for (int round = 0; round < 100000; ++round) {
@@ -37,7 +37,7 @@ TEST(HostileColorTextTest, RandomBytesGiveAColourOrASentence)
     }
 }
 
-TEST(HostileColorTextTest, RandomUnitsGiveAColourOrASentence)
+TEST(HostileColorTextTest, RandomUnitsGiveAColourOrAnError)
 {
     std::mt19937 random(21);
     for (int round = 0; round < 50000; ++round) {
@@ -48,7 +48,7 @@ TEST(HostileColorTextTest, RandomUnitsGiveAColourOrASentence)
     }
 }
 
-TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrASentence)
+TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
 {
     const std::vector<std::string> pieces{
         "rgb(",     "hsla(",       "hwb(",     "lab(",  "lch(",     "oklab(",
@@ -125,7 +125,7 @@ TEST(HostileColorTextTest, MegabytesTakeLinearTime)
     expectSoundReading(readCSSColor(std::string(size, '\0')));
 }
 
-TEST(HostileColorTextTest, MegabytesOfCommentsZerosAndBlanksMayStandInAColour)
+TEST(HostileColorTextTest, AColourMayContainMegabytesOfCommentsZerosAndBlanks)
 {
     constexpr std::size_t size = std::size_t{2} << 20;
     const HostColor expected = HostColor::colorWithCalibratedRed(1, 0, 0, 1);

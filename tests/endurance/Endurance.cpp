@@ -12,15 +12,15 @@
 #include <vector>
 
 #ifdef __SANITIZE_ADDRESS__
-// Of the sanitizers' runtime; g++ has it without the header.
+// Declared in the sanitizers' runtime; g++ provides the function without the header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace vantorel {
 namespace {
 
-/// What the program has asked for and not given back. The size of the process says less: it depends
-/// on what the allocator keeps.
+/// The bytes allocated and not freed. The size of the process is less precise: it depends on what
+/// the allocator keeps.
 std::size_t allocatedBytes()
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -48,7 +48,7 @@ struct Sample {
     double bytes = 0;
 };
 
-/// By least squares.
+/// The slope fitted by least squares.
 double slopeOf(std::span<const Sample> samples)
 {
     const auto count = static_cast<double>(samples.size());
@@ -95,7 +95,7 @@ Endurance endure(std::size_t events, const std::function<void()>& act,
     result.bytesPerEvent = slopeOf(samples);
     settle();
     result.handlesAfter = openHandles();
-    // What fills once makes the second half flatter than the whole; what is lost does not.
+    // A cache that fills once makes the second half flatter than the whole; a leak does not.
     const double secondHalf = slopeOf(std::span(samples).subspan(samples.size() / 2));
     std::printf(
         "%zu events; after the first tenth %.0f bytes in use, at the end %.0f: %.4f bytes "

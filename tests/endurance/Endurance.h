@@ -7,23 +7,23 @@
 
 namespace vantorel {
 
-/// What a long run has shown.
+/// The measurements of a long run.
 struct Endurance {
     std::size_t events = 0;
-    /// Growth of the memory in use over the last nine tenths of the run, as a straight line through
-    /// all samples has it.
+    /// Growth of the memory in use over the last nine tenths of the run, from a straight line
+    /// fitted to all samples.
     double bytesPerEvent = 0;
     [[nodiscard]] double growth() const { return bytesPerEvent * static_cast<double>(events); }
-    /// What open files, pipes and sockets lead to, after the first tenth and at the end, sorted.
+    /// The targets of open files, pipes and sockets after the first tenth and at the end, sorted.
     std::vector<std::string> handlesBefore;
     std::vector<std::string> handlesAfter;
 };
 
-/// How many events a run has: VANTOREL_EVENTS of the environment, or `usual`.
+/// The number of events in a run: VANTOREL_EVENTS from the environment, or `usual`.
 [[nodiscard]] std::size_t eventsToEndure(std::size_t usual);
 
-/// Calls `act` that often and watches the process; prints what it sees. `settle` is called before
-/// each look, to take back what costs memory by right.
+/// Calls `act` `events` times, measures the process and prints the results. `settle` is called
+/// before each measurement to release memory that is legitimately in use.
 [[nodiscard]] Endurance endure(
     std::size_t events, const std::function<void()>& act,
     const std::function<void()>& settle = [] {});

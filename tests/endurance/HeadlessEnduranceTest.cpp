@@ -6,7 +6,7 @@
 namespace vantorel {
 namespace {
 
-TEST(HeadlessEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
+TEST(HeadlessEnduranceTest, MemoryDoesNotGrowWhateverTheUserDoes)
 {
     constexpr std::uint64_t seed = 20;
     RandomChoices choices(seed);

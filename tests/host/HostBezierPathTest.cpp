@@ -5,7 +5,7 @@
 namespace vantorel {
 namespace {
 
-TEST(HostBezierPathTest, ARectangleOwnsItsLeftAndBottomEdge)
+TEST(HostBezierPathTest, ARectangleContainsItsLeftAndBottomEdges)
 {
     HostBezierPath path;
     path.appendBezierPathWithRect({10, 20, 30, 40});
@@ -16,7 +16,7 @@ TEST(HostBezierPathTest, ARectangleOwnsItsLeftAndBottomEdge)
     EXPECT_FALSE(path.containsPoint({9.9, 30}));
 }
 
-TEST(HostBezierPathTest, PointsSideBySideBelongToOneRectangleOnly)
+TEST(HostBezierPathTest, AdjacentRectanglesShareNoPoint)
 {
     for (double x = 0; x < 20; x += 0.5) {
         int owners = 0;
@@ -29,7 +29,7 @@ TEST(HostBezierPathTest, PointsSideBySideBelongToOneRectangleOnly)
     }
 }
 
-TEST(HostBezierPathTest, WindsWithoutRegardToDirection)
+TEST(HostBezierPathTest, ContainmentDoesNotDependOnDirection)
 {
     HostBezierPath path;
     path.moveToPoint({0, 0});

@@ -13,7 +13,7 @@ protected:
     HostColorList _list{u"List"};
 };
 
-TEST_F(HostColorListTest, KeepsTheOrderInWhichColorsCame)
+TEST_F(HostColorListTest, KeepsColorsInTheOrderAdded)
 {
     _list.setColor(white, u"b");
     _list.setColor(white, u"a");
@@ -52,7 +52,7 @@ TEST_F(HostColorListTest, HoldsKeysWithoutColors)
     EXPECT_EQ(_list.colorWithKey(u"none"), black);
 }
 
-TEST_F(HostColorListTest, TellsEachChange)
+TEST_F(HostColorListTest, NotifiesOfEachChange)
 {
     const std::uint64_t empty = _list.revision();
     _list.setColor(white, u"a");
@@ -62,7 +62,7 @@ TEST_F(HostColorListTest, TellsEachChange)
     EXPECT_GT(_list.revision(), added);
 }
 
-TEST_F(HostColorListTest, FindsEachOfManyKeysAlsoInACopy)
+TEST_F(HostColorListTest, FindsEachOfManyKeysEvenInACopy)
 {
     constexpr int count = 5000;
     const auto key = [](int i) {

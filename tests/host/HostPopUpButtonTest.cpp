@@ -10,14 +10,14 @@ protected:
     HostPopUpButton _popUp{HostRect{}};
 };
 
-TEST_F(HostPopUpButtonTest, FillingAnEmptyOneSelectsTheFirstItem)
+TEST_F(HostPopUpButtonTest, FillingAnEmptyButtonSelectsTheFirstItem)
 {
     EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
     _popUp.addItemsWithTitles({u"a", u"b"});
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"a");
 }
 
-TEST_F(HostPopUpButtonTest, AnUnknownTitleSelectsNothing)
+TEST_F(HostPopUpButtonTest, AnUnknownTitleClearsTheSelection)
 {
     _popUp.addItemsWithTitles({u"a", u"b"});
     _popUp.selectItemWithTitle(u"c");
@@ -33,7 +33,7 @@ TEST_F(HostPopUpButtonTest, SeparatorsAreNotFoundByTheirEmptyTitle)
     EXPECT_EQ(_popUp.indexOfItemWithTitle(u""), HostPopUpButton::noItem);
 }
 
-TEST_F(HostPopUpButtonTest, TheSelectedItemStaysSelectedWhenOthersCome)
+TEST_F(HostPopUpButtonTest, TheSelectedItemStaysSelectedWhenOthersAreAdded)
 {
     _popUp.addItemsWithTitles({u"a", u"b", u"c"});
     _popUp.selectItemAtIndex(1);
@@ -47,7 +47,7 @@ TEST_F(HostPopUpButtonTest, TheSelectedItemStaysSelectedWhenOthersCome)
     EXPECT_EQ(_popUp.numberOfItems(), 5) << "an index beyond the end is the end";
 }
 
-TEST_F(HostPopUpButtonTest, ManyItemsMoveInOnePass)
+TEST_F(HostPopUpButtonTest, ManyItemsAreMovedAtOnce)
 {
     struct Row {
         std::vector<int> indexes;
@@ -73,7 +73,7 @@ TEST_F(HostPopUpButtonTest, ManyItemsMoveInOnePass)
     }
 }
 
-TEST_F(HostPopUpButtonTest, NewItemsAtOnceSelectTheFirst)
+TEST_F(HostPopUpButtonTest, ReplacingTheItemsSelectsTheFirst)
 {
     _popUp.addItemsWithTitles({u"a", u"b"});
     _popUp.selectItemAtIndex(1);
@@ -85,7 +85,7 @@ TEST_F(HostPopUpButtonTest, NewItemsAtOnceSelectTheFirst)
     EXPECT_EQ(_popUp.indexOfSelectedItem(), HostPopUpButton::noItem);
 }
 
-TEST_F(HostPopUpButtonTest, TheNoticeMayEndItself)
+TEST_F(HostPopUpButtonTest, TheCallbackMayRemoveItself)
 {
     int notices = 0;
     _popUp.setWillPopUp([&] {

@@ -14,7 +14,7 @@ struct ResizingRow {
 
 class HostViewResizingTest : public testing::TestWithParam<ResizingRow> {};
 
-TEST_P(HostViewResizingTest, SharesTheGrowthBetweenWhatStretches)
+TEST_P(HostViewResizingTest, SharesGrowthAmongFlexibleParts)
 {
     HostView superview({0, 0, 100, 100});
     HostView view({10, 20, 30, 40});
@@ -34,7 +34,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ResizingRow{{.leftMargin = true, .width = true, .rightMargin = true},
                                 {30, 20, 50, 40}}));
 
-TEST(HostViewTest, WhatHadNoRoomComesBackAsItWas)
+TEST(HostViewTest, AViewSqueezedToZeroGetsItsSizeBack)
 {
     const HostResizing both{.width = true, .height = true};
     HostView superview({0, 0, 100, 100});
@@ -53,7 +53,7 @@ TEST(HostViewTest, WhatHadNoRoomComesBackAsItWas)
     EXPECT_EQ(other.frame(), (HostRect{10, 20, 30, 40}));
 }
 
-TEST(HostViewTest, AViewThatEndsLeavesTheTree)
+TEST(HostViewTest, ADestroyedViewLeavesTheTree)
 {
     HostView superview({0, 0, 10, 10});
     auto view = std::make_unique<HostView>(HostRect{});
@@ -65,7 +65,7 @@ TEST(HostViewTest, AViewThatEndsLeavesTheTree)
     EXPECT_EQ(subview.superview(), nullptr);
 }
 
-TEST(HostViewTest, AViewIsInOnePlaceOnly)
+TEST(HostViewTest, AViewHasOneSuperview)
 {
     HostView first({});
     HostView second({});
@@ -88,7 +88,7 @@ TEST(HostViewTest, BoundsHaveTheFramesSizeAndAnOriginOfTheirOwn)
     EXPECT_EQ(view.bounds(), (HostRect{10, 20, 50, 0}));
 }
 
-TEST(HostViewTest, MarksForRedrawing)
+TEST(HostViewTest, MarksViewsForRedrawing)
 {
     HostView view({0, 0, 10, 10});
     view.setNeedsDisplay(false);

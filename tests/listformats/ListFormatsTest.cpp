@@ -20,7 +20,7 @@ using Row = std::pair<const char*, std::string (*)(const HostColorList&)>;
 constexpr Row formats[] = {
     {"x.css", cssText}, {"x.scss", scssText}, {"x.json", jsonText}, {"x.txt", plainText}};
 
-TEST(ListFormatsTest, NamesThatLookLikeTheFormatComeBack)
+TEST(ListFormatsTest, NamesThatLookLikeFormatSyntaxSurvive)
 {
     for (const char16_t* name :
          {u"a",    u"a;b",    u"}",          u"{", u"--x: red;", u"$x: red;", u"// y",
@@ -31,7 +31,7 @@ TEST(ListFormatsTest, NamesThatLookLikeTheFormatComeBack)
             const auto reading = readColorList(write(*list), file);
             ASSERT_TRUE(reading.list) << file;
             ASSERT_EQ(reading.list->allKeys().size(), 3U) << file;
-            // A tab is a control character, so it has become a blank; JSON can hold it.
+            // A tab is a control character and becomes a blank, except in JSON.
             const bool isChanged = std::u16string(name) == u"a\tb" && std::string(file) != "x.json";
             EXPECT_EQ(reading.list->allKeys()[1], isChanged ? u"a b" : name) << file;
             EXPECT_EQ(reading.list->colorAtIndex(1), list->colorAtIndex(1)) << file;
@@ -40,7 +40,7 @@ TEST(ListFormatsTest, NamesThatLookLikeTheFormatComeBack)
     }
 }
 
-TEST(ListFormatsTest, IdentifiersAreEachOfTheirOwn)
+TEST(ListFormatsTest, IdentifiersAreUnique)
 {
     HostColorList list(u"L");
     for (const char16_t* key :
@@ -52,7 +52,7 @@ TEST(ListFormatsTest, IdentifiersAreEachOfTheirOwn)
         EXPECT_NE(text.find(line), std::string::npos) << line << text;
 }
 
-TEST(ListFormatsTest, WhatIsNoColourIsCounted)
+TEST(ListFormatsTest, EntriesThatAreNotColoursAreCounted)
 {
     const auto css = readColorList(":root { --a: red; --b: 12px; --c: var(--a); }", "x.css");
     ASSERT_TRUE(css.list);

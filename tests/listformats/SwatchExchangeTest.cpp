@@ -17,7 +17,7 @@ std::shared_ptr<HostColorList> list()
     return result;
 }
 
-TEST(SwatchExchangeTest, WhatIsWrittenReadsBack)
+TEST(SwatchExchangeTest, WrittenListsReadBack)
 {
     for (int value = 0; value < 256; ++value) {
         HostColorList one(u"One");
@@ -32,7 +32,7 @@ TEST(SwatchExchangeTest, WhatIsWrittenReadsBack)
     EXPECT_EQ(plainText(*reading->list), plainText(*list()));
 }
 
-TEST(SwatchExchangeTest, EveryBeginningOfAFileIsRefused)
+TEST(SwatchExchangeTest, EveryTruncatedFileIsRejected)
 {
     const std::string bytes = swatchExchangeBytes(*list());
     for (std::size_t length = 0; length < bytes.size(); ++length)
@@ -40,7 +40,7 @@ TEST(SwatchExchangeTest, EveryBeginningOfAFileIsRefused)
     EXPECT_FALSE(readSwatchExchange("ASEX", u""));
 }
 
-TEST(SwatchExchangeTest, NoByteThatIsChangedDoesHarm)
+TEST(SwatchExchangeTest, ChangingAnyByteIsHarmless)
 {
     const std::string bytes = swatchExchangeBytes(*list());
     for (std::size_t place = 0; place < bytes.size(); ++place) {

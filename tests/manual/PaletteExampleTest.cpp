@@ -8,7 +8,7 @@
 namespace vantorel {
 namespace {
 
-TEST(ManualTest, ThePaletteFileOfThePageIsOne)
+TEST(ManualTest, ThePaletteFileInTheManualIsValid)
 {
     std::ifstream file(VANTOREL_MANUAL);
     const std::string page{std::istreambuf_iterator<char>(file), {}};

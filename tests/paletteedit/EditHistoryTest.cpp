@@ -12,7 +12,7 @@ EditStep stepWithEntries(PaletteId list, std::size_t count)
     return {list, std::nullopt, PaletteState{u"list", entries, nullptr}};
 }
 
-TEST(EditHistoryTest, StepsComeBackInReverse)
+TEST(EditHistoryTest, StepsAreUndoneInReverse)
 {
     EditHistory history;
     for (PaletteId list : {1U, 2U, 3U})
@@ -29,7 +29,7 @@ TEST(EditHistoryTest, StepsComeBackInReverse)
     EXPECT_FALSE(history.canRedo()) << "a new step ends what could be redone";
 }
 
-TEST(EditHistoryTest, OnlyTheOldestStepsAreForgotten)
+TEST(EditHistoryTest, OnlyTheOldestStepsAreDropped)
 {
     EditHistory history;
     for (PaletteId list = 1; list <= EditHistory::mostSteps + 10; ++list)

@@ -14,7 +14,7 @@ using Places = std::vector<std::size_t>;
 
 const PaletteEntries five = entriesFrom("a=1 b=2 c=3 d=4 e=5");
 
-TEST(EntryEditsTest, NewEntriesGoWhereTheyAreWanted)
+TEST(EntryEditsTest, EntriesAreInsertedAtTheGivenPosition)
 {
     struct Row {
         std::size_t before;
@@ -60,7 +60,7 @@ TEST(EntryEditsTest, EntriesMoveTogether)
     }
 }
 
-TEST(EntryEditsTest, StepsStopAtTheEdges)
+TEST(EntryEditsTest, MovesStopAtTheEnds)
 {
     struct Row {
         Places places;
@@ -91,7 +91,7 @@ TEST(EntryEditsTest, ARenamedEntryKeepsItsPlaceAndColour)
     EXPECT_EQ(withRenamed(five, 99, u"x").entries, five);
 }
 
-TEST(EntryEditsTest, ColoursAreKeptAsAFileKeepsThem)
+TEST(EntryEditsTest, ColoursAreRoundedAsInAFile)
 {
     const EntryEdit edit = withRecolored(
         five, {1, 3, 9}, HostColor::colorWithCalibratedRed(1 / 3.0, 7, std::nan(""), 0.25));
@@ -105,7 +105,7 @@ TEST(EntryEditsTest, ColoursAreKeptAsAFileKeepsThem)
     EXPECT_EQ(PaletteEntry(u"p", HostColor::patternColor()).color(), HostColor::blackColor());
 }
 
-TEST(EntryEditsTest, ThirtyThousandEntriesLoseNothing)
+TEST(EntryEditsTest, ThirtyThousandEntriesAreAllKept)
 {
     PaletteEntries many;
     Places odd;

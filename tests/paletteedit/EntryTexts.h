@@ -9,7 +9,7 @@
 #include <string>
 
 /// Entries as short texts, which tests can read: "red=1 dark_red=2"; the number is the red channel,
-/// and "_" stands for a blank.
+/// and "_" is a blank.
 namespace vantorel {
 
 inline PaletteEntry entryWithShade(const std::string& name, int shade)

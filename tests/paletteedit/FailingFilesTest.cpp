@@ -10,7 +10,8 @@
 #include <functional>
 #include <map>
 
-/// Each call of the editor on the files fails once: a list is the old one or the new one.
+/// Makes each of the editor's file operations fail once; a list must be either the old or the new
+/// one.
 namespace vantorel {
 namespace {
 

@@ -32,7 +32,7 @@ TEST(FreeNamesTest, ATakenNameGetsTheNextNumber)
     }
 }
 
-TEST(FreeNamesTest, ThirtyThousandOfOneNameAllGetTheirOwn)
+TEST(FreeNamesTest, ThirtyThousandEqualNamesBecomeUnique)
 {
     FreeNames names;
     std::unordered_set<std::u16string> seen;
@@ -42,7 +42,7 @@ TEST(FreeNamesTest, ThirtyThousandOfOneNameAllGetTheirOwn)
     EXPECT_EQ(names.take(u"Grey 30000"), u"Grey 30001");
 }
 
-TEST(FreeNamesTest, ATidyNameComesBackFromAFileAsItIs)
+TEST(FreeNamesTest, ATidyNameReadsBackFromAFileUnchanged)
 {
     for (const std::u16string& typed :
          {std::u16string(u"Red"), std::u16string(u"  Red\t"), std::u16string(u"a\nb\r\nc"),
@@ -64,7 +64,7 @@ TEST(FreeNamesTest, ATidyNameComesBackFromAFileAsItIs)
     }
 }
 
-TEST(ProposedNameTest, IsTheNearestNameOrTheHexCode)
+TEST(ProposedNameTest, IsTheNearestColourNameOrTheHexCode)
 {
     const PaletteEntries entries{
         {u"Red", HostColor::colorWithCalibratedRed(1, 0, 0, 1)},

@@ -12,7 +12,7 @@
 
 namespace vantorel {
 
-/// A user's own lists and those of another program, in memory.
+/// The user's own lists and those of another program, in memory.
 class PaletteEditorFixture : public testing::Test {
 protected:
     static constexpr const char* ours = "/home/user/.local/share/Vantorel/Palettes/";
@@ -30,13 +30,13 @@ protected:
         _files.setBaseDirectories(directories);
     }
 
-    /// As another program, or another panel, writes a list.
+    /// Writes a list as another program or another panel would.
     void put(const std::string& path, const std::string& name, const std::string& entries)
     {
         ASSERT_TRUE(_files.writeAtomically(
             path, paletteText(*listOfEntries(utf16FromUtf8(name), entriesFrom(entries)))));
     }
-    /// What a file holds, "Name: entries"; "none" when there is none.
+    /// The contents of a file as "Name: entries"; "none" if there is no file.
     [[nodiscard]] std::string fileAt(const std::string& path) const
     {
         const auto bytes = _files.contentsAtPath(path);

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 class PaletteEditorTest : public PaletteEditorFixture {
 protected:
-    /// Every file and what it holds, that nothing is overlooked.
+    /// Every file with its contents.
     [[nodiscard]] std::map<std::string, std::string> allFiles() const
     {
         std::map<std::string, std::string> files;
@@ -103,7 +103,7 @@ TEST_F(PaletteEditorTest, EveryStepIsSavedAndCanBeUndoneAndRedone)
     }
 }
 
-TEST_F(PaletteEditorTest, WhatChangesNothingIsNoStep)
+TEST_F(PaletteEditorTest, AnEditWithoutEffectIsNotAStep)
 {
     put(ours + std::string("Reds.gpl"), "Reds", "a=1");
     put(theirs + std::string("Web.gpl"), "Web", "w=5");
@@ -126,7 +126,7 @@ TEST_F(PaletteEditorTest, WhatChangesNothingIsNoStep)
     EXPECT_EQ(allFiles(), before);
 }
 
-TEST_F(PaletteEditorTest, HostileNamesOfListsStayInTheFolder)
+TEST_F(PaletteEditorTest, HostileListNamesStayInTheFolder)
 {
     PaletteEditor editor(_files, _store, remover());
     const std::vector<std::u16string> names{u"../../escape",
@@ -153,7 +153,7 @@ TEST_F(PaletteEditorTest, HostileNamesOfListsStayInTheFolder)
     EXPECT_TRUE(allFiles().empty());
 }
 
-TEST_F(PaletteEditorTest, ATakenNameOfAListMakesWay)
+TEST_F(PaletteEditorTest, AListNameThatIsTakenIsReplacedByAFreeOne)
 {
     put(ours + std::string("Reds.gpl"), "Reds", "a=1");
     put(theirs + std::string("Web.gpl"), "Web", "w=5");
@@ -168,7 +168,7 @@ TEST_F(PaletteEditorTest, ATakenNameOfAListMakesWay)
     EXPECT_EQ(editor.palette(renamed.list)->name, u"Web 3");
 }
 
-TEST_F(PaletteEditorTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
+TEST_F(PaletteEditorTest, TheFirstChangeToAForeignListCreatesAUserCopy)
 {
     put(theirs + std::string("Web.gpl"), "Web", "w=5");
     PaletteEditor editor(_files, _store, remover());
@@ -184,7 +184,7 @@ TEST_F(PaletteEditorTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
     EXPECT_EQ(editor.palette(second.list)->name, u"Web 2");
 }
 
-TEST_F(PaletteEditorTest, WhatCannotBeSavedIsNotDone)
+TEST_F(PaletteEditorTest, AnEditThatCannotBeSavedIsNotMade)
 {
     put(ours + std::string("Reds.gpl"), "Reds", "a=1");
     put(theirs + std::string("Web.gpl"), "Web", "w=5");
@@ -222,7 +222,7 @@ TEST_F(PaletteEditorTest, WhatCannotBeSavedIsNotDone)
     EXPECT_EQ(fileAt(ours + std::string("Reds.gpl")), "Reds: a=1");
 }
 
-TEST_F(PaletteEditorTest, ARenamedListIsWrittenBeforeItsOldFileGoes)
+TEST_F(PaletteEditorTest, ARenamedListIsWrittenBeforeItsOldFileIsRemoved)
 {
     put(ours + std::string("Reds.gpl"), "Reds", "a=1");
     PaletteEditor editor(_files, _store, [this](const std::string& path) {
@@ -234,7 +234,7 @@ TEST_F(PaletteEditorTest, ARenamedListIsWrittenBeforeItsOldFileGoes)
     EXPECT_EQ(namesIn(editor), "New");
 }
 
-TEST_F(PaletteEditorTest, AnOldFileThatStaysIsToldOf)
+TEST_F(PaletteEditorTest, AnOldFileThatCannotBeRemovedIsReported)
 {
     put(ours + std::string("Reds.gpl"), "Reds", "a=1");
     PaletteEditor editor(_files, _store, remover());
@@ -245,7 +245,7 @@ TEST_F(PaletteEditorTest, AnOldFileThatStaysIsToldOf)
     EXPECT_EQ(namesIn(editor), "New, Reds");
 }
 
-TEST_F(PaletteEditorTest, AFileWithLinesOfItsOwnIsKeptBesideTheEditedOne)
+TEST_F(PaletteEditorTest, AFileWithExtraLinesIsKeptBesideTheEditedOne)
 {
     const std::string path = ours + std::string("Reds.gpl");
     struct Row {
@@ -277,7 +277,7 @@ TEST_F(PaletteEditorTest, AFileWithLinesOfItsOwnIsKeptBesideTheEditedOne)
     }
 }
 
-TEST_F(PaletteEditorTest, ThirtyThousandEntriesAreChangedStepByStep)
+TEST_F(PaletteEditorTest, ThirtyThousandEntriesAreEditedStepByStep)
 {
     PaletteEntries many;
     for (int i = 0; i < 30000; ++i)

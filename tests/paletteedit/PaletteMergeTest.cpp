@@ -22,7 +22,7 @@ struct Row {
 
 class PaletteMergeRows : public testing::TestWithParam<Row> {};
 
-TEST_P(PaletteMergeRows, GivesWhatIsExpected)
+TEST_P(PaletteMergeRows, GivesTheExpectedEntries)
 {
     const Row& row = GetParam();
     const PaletteMerge merge =
@@ -110,14 +110,15 @@ TEST(PaletteMergeTest, NoAdditionOrNewColourIsEverLost)
         }
         for (const PaletteEntry& entry : mine) {
             if (contains(base, entry) || contains(merge.entries, entry)) continue;
-            const bool told = std::find(merge.contradictions.begin(), merge.contradictions.end(),
-                                        entry.name()) != merge.contradictions.end();
+            const bool reported =
+                std::find(merge.contradictions.begin(), merge.contradictions.end(), entry.name()) !=
+                merge.contradictions.end();
             const bool renamed =
                 std::any_of(merge.entries.begin(), merge.entries.end(), [&](const auto& other) {
                     return other.color() == entry.color() && other.name() != entry.name() &&
                            other.name().starts_with(u"new");
                 });
-            ASSERT_TRUE(told || renamed) << "an entry of mine was lost";
+            ASSERT_TRUE(reported || renamed) << "an entry of mine was lost";
         }
     }
 }

@@ -3,7 +3,7 @@
 #include <random>
 #include <set>
 
-/// Several editors on one folder: nothing that either has made goes without a word.
+/// Several editors on one folder: no change of either is lost silently.
 namespace vantorel {
 namespace {
 
@@ -17,7 +17,7 @@ protected:
     const std::string reds = ours + std::string("Reds.gpl");
 };
 
-TEST_F(SharedFolderTest, ARefreshShowsWhatOthersHaveDone)
+TEST_F(SharedFolderTest, ARefreshShowsChangesByOthers)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -36,7 +36,7 @@ TEST_F(SharedFolderTest, ARefreshShowsWhatOthersHaveDone)
     EXPECT_THAT(editor.refresh(), IsEmpty());
 }
 
-TEST_F(SharedFolderTest, ChangesOfBothAreInTheFile)
+TEST_F(SharedFolderTest, ChangesByBothEditorsAreSaved)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -52,7 +52,7 @@ TEST_F(SharedFolderTest, ChangesOfBothAreInTheFile)
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 m=3 t=4");
 }
 
-TEST_F(SharedFolderTest, ContradictionsMakeASecondList)
+TEST_F(SharedFolderTest, ConflictingChangesCreateASecondList)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -68,7 +68,7 @@ TEST_F(SharedFolderTest, ContradictionsMakeASecondList)
     EXPECT_EQ(namesIn(editor), "Reds");
 }
 
-TEST_F(SharedFolderTest, AnUndoLeavesWhatOthersDidSince)
+TEST_F(SharedFolderTest, AnUndoKeepsLaterChangesByOthers)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -81,7 +81,7 @@ TEST_F(SharedFolderTest, AnUndoLeavesWhatOthersDidSince)
     EXPECT_EQ(fileAt(reds), "Reds: a=7 b=2 t=4");
 }
 
-TEST_F(SharedFolderTest, AListThatOthersRemovedIsMadeAgainByAChange)
+TEST_F(SharedFolderTest, ChangingAListThatOthersRemovedRestoresIt)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -95,7 +95,7 @@ TEST_F(SharedFolderTest, AListThatOthersRemovedIsMadeAgainByAChange)
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2");
 }
 
-TEST_F(SharedFolderTest, AListThatOthersChangedIsNotRemovedUnseen)
+TEST_F(SharedFolderTest, AListThatOthersChangedIsRemovedOnlyAtTheSecondRequest)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");
@@ -111,7 +111,7 @@ TEST_F(SharedFolderTest, AListThatOthersChangedIsNotRemovedUnseen)
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2 t=3");
 }
 
-TEST_F(SharedFolderTest, UndoingTheMakingOfAListLeavesWhatOthersPutIntoIt)
+TEST_F(SharedFolderTest, UndoingANewListKeepsEntriesThatOthersAdded)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = editor.add(u"New", {}).list;
@@ -138,7 +138,7 @@ TEST_F(SharedFolderTest, ADamagedFileIsLeftAlone)
     EXPECT_EQ(fileAt(ours + std::string("Reds 2.gpl")), "Reds: a=1 b=2 m=3");
 }
 
-TEST_F(SharedFolderTest, ARenameByOthersStays)
+TEST_F(SharedFolderTest, ARenameByOthersIsKept)
 {
     PaletteEditor editor(_files, _store, remover());
     const PaletteId id = idOf(editor, "Reds");

@@ -25,7 +25,7 @@ protected:
     ChangeAnnouncer _announcer;
 };
 
-TEST_F(ChangeAnnouncerTest, IsAtRestBeforeTheFirstChange)
+TEST_F(ChangeAnnouncerTest, IsIdleBeforeTheFirstChange)
 {
     EXPECT_TRUE(_announcer.isAtRest());
 }
@@ -48,7 +48,7 @@ TEST_F(ChangeAnnouncerTest, AnnouncesTheFirstAndTheLastOfManyChanges)
     EXPECT_EQ(_announced, (std::vector{1, 1000}));
 }
 
-TEST_F(ChangeAnnouncerTest, TakesAChangeThatIsMadeWhileItAnnounces)
+TEST_F(ChangeAnnouncerTest, AcceptsAChangeMadeDuringAnAnnouncement)
 {
     std::vector<int> announced;
     int value = 1;

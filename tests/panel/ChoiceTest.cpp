@@ -8,7 +8,7 @@
 namespace vantorel {
 namespace {
 
-/// A panel that is asked for one colour.
+/// A panel started to choose one colour.
 class ChoiceTest : public PanelWindowFixture {
 protected:
     void SetUp() override
@@ -31,13 +31,13 @@ protected:
     std::optional<ColorChoice> _choice;
 };
 
-TEST_F(ChoiceTest, IsOpenWhileTheWindowIs)
+TEST_F(ChoiceTest, IsPendingWhileTheWindowIsOpen)
 {
     EXPECT_EQ(_choice->text(), std::nullopt);
     EXPECT_TRUE(_window->isVisible());
 }
 
-TEST_F(ChoiceTest, TheButtonChoosesWhatIsShown)
+TEST_F(ChoiceTest, TheButtonChoosesTheColourShown)
 {
     QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
     EXPECT_EQ(_choice->text(), "#102030");
@@ -46,7 +46,7 @@ TEST_F(ChoiceTest, TheButtonChoosesWhatIsShown)
         << "what was chosen was used";
 }
 
-TEST_F(ChoiceTest, WhatWasTypedAndNotYetEnteredCounts)
+TEST_F(ChoiceTest, TextNotYetEnteredCounts)
 {
     auto* field = child<QLineEdit>("_fullHexText");
     QTest::mouseClick(field, Qt::LeftButton);
@@ -56,20 +56,20 @@ TEST_F(ChoiceTest, WhatWasTypedAndNotYetEnteredCounts)
     EXPECT_EQ(_choice->text(), "#FF8800");
 }
 
-TEST_F(ChoiceTest, TheOtherButtonChoosesNothing)
+TEST_F(ChoiceTest, TheOtherButtonCancels)
 {
     QTest::mouseClick(button(QDialogButtonBox::RejectRole), Qt::LeftButton);
     EXPECT_EQ(_choice->text(), std::nullopt);
     EXPECT_FALSE(_window->isVisible());
 }
 
-TEST_F(ChoiceTest, ClosingTheWindowChoosesNothing)
+TEST_F(ChoiceTest, ClosingTheWindowCancels)
 {
     _window->close();
     EXPECT_EQ(_choice->text(), std::nullopt);
 }
 
-TEST_F(ChoiceTest, EnterInAFieldTakesTheTextAndChoosesNothingYet)
+TEST_F(ChoiceTest, EnterInAFieldAppliesTheTextWithoutChoosing)
 {
     auto* field = child<QLineEdit>("_fullHexText");
     field->setFocus();
@@ -80,7 +80,7 @@ TEST_F(ChoiceTest, EnterInAFieldTakesTheTextAndChoosesNothingYet)
     EXPECT_EQ(chosenColor(), QColor(0xFF, 0x88, 0));
 }
 
-TEST_F(ChoiceTest, TheFirstEscapeInAFieldTakesTheTypingBackAndTheNextCancels)
+TEST_F(ChoiceTest, TheFirstEscapeInAFieldDiscardsTheTextAndTheNextCancels)
 {
     auto* field = child<QLineEdit>("_fullHexText");
     field->setFocus();
@@ -94,14 +94,14 @@ TEST_F(ChoiceTest, TheFirstEscapeInAFieldTakesTheTypingBackAndTheNextCancels)
     EXPECT_EQ(_choice->text(), std::nullopt);
 }
 
-TEST_F(ChoiceTest, ThePanelsOwnPagesChooseInTheSameForm)
+TEST_F(ChoiceTest, ThePanelsOwnPagesChooseInTheSameFormat)
 {
     ASSERT_TRUE(_window->pages().showPageWithKey("dialog"));
     QTest::keyClick(_window.get(), Qt::Key_Return);
     EXPECT_EQ(_choice->text(), "#102030");
 }
 
-TEST_F(ChoiceTest, NothingOfThePageIsHiddenByTheButtons)
+TEST_F(ChoiceTest, TheButtonsDoNotCoverThePage)
 {
     const QWidget* box = _window->findChild<QDialogButtonBox*>();
     const QWidget* hex = child<QWidget>("_fullHexText");

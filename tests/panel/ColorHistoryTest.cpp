@@ -15,7 +15,7 @@ protected:
     ColorHistory _history{grey(0)};
 };
 
-TEST_F(ColorHistoryTest, ChangesFarApartAreStepsOfTheirOwn)
+TEST_F(ColorHistoryTest, ChangesFarApartAreSeparateSteps)
 {
     EXPECT_FALSE(_history.canUndo());
     _history.record(grey(0.1), 10);
@@ -37,7 +37,7 @@ TEST_F(ColorHistoryTest, ADragIsOneStep)
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)}) << "none of what it passed over";
 }
 
-TEST_F(ColorHistoryTest, AChangeAfterAnUndoEndsTheRedo)
+TEST_F(ColorHistoryTest, AChangeAfterAnUndoClearsTheRedoSteps)
 {
     _history.record(grey(0.1), 10);
     _history.record(grey(0.2), 20);
@@ -47,14 +47,14 @@ TEST_F(ColorHistoryTest, AChangeAfterAnUndoEndsTheRedo)
     EXPECT_EQ(_history.undo(), grey(0.1)) << "the change is a step, however soon it came";
 }
 
-TEST_F(ColorHistoryTest, TheSameColourIsNoChange)
+TEST_F(ColorHistoryTest, TheSameColourIsNotAChange)
 {
     _history.record(grey(0), 10);
     EXPECT_FALSE(_history.canUndo());
     EXPECT_TRUE(_history.recent().empty());
 }
 
-TEST_F(ColorHistoryTest, WhatIsForgottenHasNotHappened)
+TEST_F(ColorHistoryTest, AForgottenChangeCannotBeUndone)
 {
     _history.record(grey(0.5), 10);
     _history.record(grey(0.9), 20);
@@ -67,7 +67,7 @@ TEST_F(ColorHistoryTest, WhatIsForgottenHasNotHappened)
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)});
 }
 
-TEST_F(ColorHistoryTest, TheRowHoldsEachColourOnceAndHasAnEnd)
+TEST_F(ColorHistoryTest, RecentColoursAreDistinctAndLimited)
 {
     for (int i = 0; i < 100; ++i)
         _history.remember(grey(i % 40 / 100.0));
@@ -77,7 +77,7 @@ TEST_F(ColorHistoryTest, TheRowHoldsEachColourOnceAndHasAnEnd)
     EXPECT_EQ(_history.recent(), (std::vector<HostColor>{grey(0.2), grey(0.3)}));
 }
 
-TEST_F(ColorHistoryTest, ManyStepsForgetTheFirst)
+TEST_F(ColorHistoryTest, TheOldestOfManyStepsAreDropped)
 {
     for (int i = 1; i <= 1000; ++i)
         _history.record(grey(i / 1000.0), i * 10);

@@ -1,5 +1,5 @@
-/// A program with a text field and a colour dialog, to drop things on. It prints what they hold
-/// whenever that changes, after a line with the places of both on the screen.
+/// A program with a text field and a colour dialog as drop targets. It prints the screen positions
+/// of both, then their contents whenever these change.
 #include <QApplication>
 #include <QColorDialog>
 #include <QLineEdit>
@@ -11,7 +11,7 @@ namespace {
 
 void print(const QString& line)
 {
-    // There is nowhere to tell that standard output is closed.
+    // If stdout is closed there is no way to report it.
     static_cast<void>(std::puts(line.toUtf8().constData()));
     static_cast<void>(std::fflush(stdout));
 }

@@ -12,14 +12,14 @@
 namespace vantorel {
 namespace {
 
-/// Takes the addresses of files while it lives, in a web browser's place.
+/// Receives file URLs in place of a web browser while it exists.
 class Browser : public QTextBrowser {
 public:
     Browser() { QDesktopServices::setUrlHandler("file", this, "setSource"); }
     ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
 };
 
-TEST(HelpButtonTest, OpensTheInstalledManualOrElseTheOneBesideThePlugin)
+TEST(HelpButtonTest, OpensTheInstalledManualOrTheOneBesideThePlugin)
 {
     Browser browser;
     const QSignalSpy opened(&browser, &QTextBrowser::sourceChanged);

@@ -68,7 +68,7 @@ const std::vector<OfferRow>& offers()
     return rows;
 }
 
-/// What other programs may hold out to the panel.
+/// Data that other programs may offer to the panel.
 class HostileDropsTest : public PanelWindowFixture {
 protected:
     void SetUp() override
@@ -77,7 +77,7 @@ protected:
         _window->colors().setColor(HostColor::colorWithCalibratedRed(0.2, 0.4, 0.6, 1));
     }
 
-    /// Drops it on everything that takes drops, on every page.
+    /// Drops the data on everything that accepts drops, on every page.
     int dropEverywhere(const QMimeData& data)
     {
         int taken = 0;
@@ -105,7 +105,7 @@ protected:
 
 class HostileOfferTest : public HostileDropsTest, public testing::WithParamInterface<int> {};
 
-TEST_P(HostileOfferTest, ChangesNoColour)
+TEST_P(HostileOfferTest, LeavesTheColourUnchanged)
 {
     const OfferRow& row = offers()[static_cast<std::size_t>(GetParam())];
     SCOPED_TRACE(row.name);
@@ -128,7 +128,7 @@ TEST_P(HostileOfferTest, ChangesNoColour)
 INSTANTIATE_TEST_SUITE_P(Offers, HostileOfferTest,
                          testing::Range(0, static_cast<int>(offers().size())));
 
-TEST_F(HostileDropsTest, AListNamedLikeAPathStaysInTheFolderOfLists)
+TEST_F(HostileDropsTest, AListNamedLikeAPathStaysInTheListFolder)
 {
     QFile file(_scratch.filePath("evil.gpl"));
     ASSERT_TRUE(file.open(QFile::WriteOnly));

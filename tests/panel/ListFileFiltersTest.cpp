@@ -5,7 +5,7 @@
 namespace vantorel {
 namespace {
 
-TEST(ListFileFiltersTest, EachFormHasItsOwn)
+TEST(ListFileFiltersTest, EachFormatHasAFilter)
 {
     for (const ListFormat& format : listFormats()) {
         const QString filter = ListFileFilters::filterOf(format);
@@ -14,12 +14,12 @@ TEST(ListFileFiltersTest, EachFormHasItsOwn)
         EXPECT_EQ(ListFileFilters::forReading().split(";;").contains(filter), format.isRead);
         for (const std::string_view ending : format.endings)
             EXPECT_TRUE(filter.contains("*." + QString::fromStdString(std::string(ending))));
-        // The bare name would mean that the form has no title.
+        // The bare name would mean that the format has no title.
         EXPECT_FALSE(filter.startsWith(QString::fromStdString(std::string(format.name)) + " "));
     }
 }
 
-TEST(ListFileFiltersTest, AnotherFormChangesTheEnding)
+TEST(ListFileFiltersTest, ChoosingAnotherFormatChangesTheExtension)
 {
     const ListFormat& json = *listFormatNamed("json");
     EXPECT_EQ(ListFileFilters::withEnding("Reds.gpl", json), "Reds.json");

@@ -20,7 +20,7 @@
 namespace vantorel {
 namespace {
 
-/// Folders of a user who has two lists, and Krita with one.
+/// The folders of a user with two lists of their own and one of Krita.
 class UserFolders {
 protected:
     UserFolders()
@@ -29,14 +29,14 @@ protected:
         _environment.set("XDG_CONFIG_HOME", at("config").toStdString());
         _environment.set("XDG_DATA_DIRS", at("machine").toStdString());
         _environment.set("XDG_CONFIG_DIRS", at("machine").toStdString());
-        // So that the tests about permissions can act as another user.
+        // Lets the tests of permissions act as another user.
         QFile::setPermissions(_folder.path(), QFile::Permissions(0x7755));
         for (const char* path : {"data/Vantorel/Palettes", "data/krita/palettes", "elsewhere"})
             QDir().mkpath(at(path));
         put("data/Vantorel/Palettes/Reds.gpl", reds);
         put("data/Vantorel/Palettes/Blues.gpl",
             "GIMP Palette\nName: Blues\nColumns: 0\n  0   0 255\tblue\n");
-        // Built in; a process that has made it once does not make it again.
+        // A built-in list, which a process creates only once.
         put("data/Vantorel/Palettes/CSS Keyword.gpl",
             "GIMP Palette\nName: CSS Keyword\nColumns: 0\n  0   0 128\tNavy\n");
         put("data/krita/palettes/Web.gpl", "GIMP Palette\nName: Web\n  0 128 128\tteal\n");
@@ -49,7 +49,7 @@ protected:
         file.open(QIODevice::WriteOnly);
         file.write(bytes);
     }
-    /// What a file holds, one row a colour as "name=ff0000"; "none" when there is none.
+    /// The contents of a file, one colour a row as "name=ff0000"; "none" if there is no file.
     [[nodiscard]] std::string rowsAt(const QString& path) const
     {
         QFile file(at(path));
@@ -136,7 +136,7 @@ protected:
         }
         return nullptr;
     }
-    /// Types into the field that a command has opened.
+    /// Types into the field opened by a command.
     void typeName(const QString& name) const
     {
         auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -144,7 +144,7 @@ protected:
         field->selectAll();
         QTest::keyClicks(field, name);
         QTest::keyClick(field, Qt::Key_Return);
-        // A row takes the name once its field has seen the key.
+        // A row accepts the name once its field has received the key.
         QApplication::processEvents();
     }
     static bool drop(QWidget* target, const QMimeData& data, QPoint at)
@@ -158,7 +158,7 @@ protected:
     }
 };
 
-TEST_F(PalettesPageTest, AClickTakesAColourAndKeepsTheOpacity)
+TEST_F(PalettesPageTest, AClickSelectsAColourAndKeepsTheOpacity)
 {
     _window->colors().setColor(rgb(1, 2, 3, 0.5));
     click(1);
@@ -211,7 +211,7 @@ TEST_F(PalettesPageTest, SeveralColoursAreMovedRecolouredAndRemoved)
                 testing::HasSubstr("empty"));
 }
 
-TEST_F(PalettesPageTest, UndoAndRedoAreThePagesOwn)
+TEST_F(PalettesPageTest, UndoAndRedoBelongToThePage)
 {
     click(0);
     const QColor chosen = chosenColor();
@@ -244,7 +244,7 @@ TEST_F(PalettesPageTest, UndoAndRedoAreThePagesOwn)
     EXPECT_EQ(own("Reds"), "darker=800000 darkest=400000");
 }
 
-TEST_F(PalettesPageTest, ListsAreMadeRenamedCopiedAndRemoved)
+TEST_F(PalettesPageTest, ListsAreCreatedRenamedCopiedAndRemoved)
 {
     press(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(own("New list"), "");
@@ -271,7 +271,7 @@ TEST_F(PalettesPageTest, ListsAreMadeRenamedCopiedAndRemoved)
     EXPECT_EQ(shownList(), "Blues 2");
 }
 
-TEST_F(PalettesPageTest, ANameThatIsBeingTypedIsTakenWhenTheEditingIsFinished)
+TEST_F(PalettesPageTest, ANameBeingTypedIsAppliedWhenEditingFinishes)
 {
     page()->finishEditing();
     EXPECT_EQ(shownList(), "Reds") << "no name is being typed";
@@ -285,7 +285,7 @@ TEST_F(PalettesPageTest, ANameThatIsBeingTypedIsTakenWhenTheEditingIsFinished)
     EXPECT_NE(own("Crimsons"), "none");
 }
 
-TEST_F(PalettesPageTest, ColoursAreRenamedInTheirRow)
+TEST_F(PalettesPageTest, ColoursAreRenamedInPlace)
 {
     click(1);
     press(Qt::Key_F2);
@@ -299,7 +299,7 @@ TEST_F(PalettesPageTest, ColoursAreRenamedInTheirRow)
     EXPECT_EQ(shownNames(), "red red 2 tomato darkest");
 }
 
-TEST_F(PalettesPageTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
+TEST_F(PalettesPageTest, TheFirstChangeToAForeignListCreatesAUserCopy)
 {
     show("Web (Krita)");
     EXPECT_TRUE(child<QLabel>("paletteOwnership")->isVisible());
@@ -320,10 +320,10 @@ TEST_F(PalettesPageTest, TheFirstChangeOfAnothersListMakesOneOfTheUsersOwn)
     EXPECT_EQ(rowsAt("data/krita/palettes/Web.gpl"), before);
 }
 
-TEST_F(PalettesPageTest, WhatOthersChangeShowsByItself)
+TEST_F(PalettesPageTest, ChangesByOthersShowAutomatically)
 {
     click(2, Qt::ControlModifier);
-    // Some programs replace a file, some write into it.
+    // Some programs replace a file, others overwrite it in place.
     put("data/Vantorel/Palettes/.new", "GIMP Palette\nName: Reds\n9 9 9\tnew\n128 0 0\tdarker\n");
     ASSERT_EQ(::rename(at("data/Vantorel/Palettes/.new").toLocal8Bit().constData(),
                        at("data/Vantorel/Palettes/Reds.gpl").toLocal8Bit().constData()),
@@ -341,7 +341,7 @@ TEST_F(PalettesPageTest, WhatOthersChangeShowsByItself)
     EXPECT_THAT(remark(), testing::HasSubstr("removed by another program"));
 }
 
-TEST_F(PalettesPageTest, ChangesOfBothAreMerged)
+TEST_F(PalettesPageTest, ChangesByBothSidesAreMerged)
 {
     // No event loop runs in between, so the page cannot know.
     put("data/Vantorel/Palettes/Reds.gpl",
@@ -353,7 +353,7 @@ TEST_F(PalettesPageTest, ChangesOfBothAreMerged)
     EXPECT_EQ(shownNames(), "dark darker darkest theirs");
 }
 
-TEST_F(PalettesPageTest, FilesAreImportedByDrop)
+TEST_F(PalettesPageTest, DroppedFilesAreImported)
 {
     put("elsewhere/a.gpl", "GIMP Palette\nName: Reds\n1 2 3\tfirst\nnonsense\n");
     put("elsewhere/b.colors", "KDE RGB Palette\n4 5 6 second\n");
@@ -399,7 +399,7 @@ TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
     EXPECT_THAT(remark(), testing::HasSubstr("could not be written"));
 }
 
-TEST_F(PalettesPageTest, EveryFormIsSavedAndImported)
+TEST_F(PalettesPageTest, EveryFormatIsSavedAndImported)
 {
     const auto list = readPalette(reds, u"")->list;
     const std::string original = own("Reds");
@@ -427,7 +427,7 @@ TEST_F(PalettesPageTest, APictureIsNotImported)
     EXPECT_THAT(remark(), testing::HasSubstr("\"copy.svg\" is not a colour list"));
 }
 
-/// Acts as a user who may not write into the folders that the test has made.
+/// Acts as a user without write permission for the test's folders.
 class ReadOnlyFolder {
 public:
     explicit ReadOnlyFolder(const QString& path) : _path(path)
@@ -457,7 +457,7 @@ private:
     bool _isOtherUser = false;
 };
 
-TEST_F(PalettesPageTest, AFolderThatCannotBeWrittenLosesNothing)
+TEST_F(PalettesPageTest, AnUnwritableFolderLosesNoData)
 {
     const std::string before = own("Reds");
     {
@@ -479,7 +479,7 @@ TEST_F(PalettesPageTest, AFolderThatCannotBeWrittenLosesNothing)
     EXPECT_EQ(own("Reds"), "dark=c00000 darker=800000 darkest=400000") << "it works again";
 }
 
-TEST_F(PalettesPageTest, ThirtyThousandColoursAreFilteredAndPaintedAsTheyAreSeen)
+TEST_F(PalettesPageTest, ThirtyThousandColoursAreFilteredAndPaintedOnDemand)
 {
     QByteArray text = "GIMP Palette\nName: Many\n";
     for (int i = 0; i < 30000; ++i)

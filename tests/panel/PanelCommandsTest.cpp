@@ -15,7 +15,7 @@
 namespace vantorel {
 namespace {
 
-/// Answers at once with what the test says.
+/// Answers at once with the outcome set by the test.
 class ScriptedScreenPicker final : public ScreenPicker {
 public:
     explicit ScriptedScreenPicker(const ScreenPickResult& result) : _result(result) {}
@@ -42,7 +42,7 @@ protected:
         return std::make_unique<ScriptedScreenPicker>(_pick);
     }
     static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
-    /// The sentence in the bar, which is its tool tip as well; empty if the page's name is there.
+    /// The message in the bar, which is also its tool tip; empty if the bar shows the page's name.
     [[nodiscard]] QString remark() const
     {
         return child<QWidget>("topBar")->findChild<QLabel*>()->toolTip();
@@ -60,7 +60,7 @@ protected:
     ScreenPickResult _pick;
 };
 
-TEST_F(PanelCommandsTest, CopyTakesWhatADragCarriesAndTheColour)
+TEST_F(PanelCommandsTest, CopyPutsTheDragTextAndTheColourOnTheClipboard)
 {
     type(QKeySequence("Ctrl+C"));
     EXPECT_EQ(clipboard().text(), "#FF8000");
@@ -88,7 +88,7 @@ TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
     EXPECT_TRUE(clipboard().text().startsWith("oklch(")) << clipboard().text().toStdString();
 }
 
-TEST_F(PanelCommandsTest, APageWithoutTextsCopiesTheHexCode)
+TEST_F(PanelCommandsTest, APageWithoutSnippetsCopiesTheHexCode)
 {
     _window->pages().showPage(_window->pages().count() - 1);
     type(QKeySequence("Ctrl+Shift+C"));
@@ -102,7 +102,7 @@ struct PasteRow {
 
 class PasteTest : public PanelCommandsTest, public testing::WithParamInterface<PasteRow> {};
 
-TEST_P(PasteTest, TakesEveryFormOfCSS)
+TEST_P(PasteTest, AcceptsEveryCSSColour)
 {
     QApplication::clipboard()->setText(QString::fromUtf8(GetParam().text));
     type(QKeySequence("Ctrl+V"));
@@ -120,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
                                          PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
                                          PasteRow{"navy", QColor(0, 0, 128)}));
 
-TEST_F(PanelCommandsTest, TheWellsTakeDrops)
+TEST_F(PanelCommandsTest, TheColourWellsAcceptDrops)
 {
     const auto drop = [&](const char* well, QMimeData& data) {
         auto* target = child<QWidget>(well);
@@ -150,7 +150,7 @@ TEST_F(PanelCommandsTest, TheWellsTakeDrops)
     EXPECT_FALSE(drop("colorWell", picture));
 }
 
-TEST_F(PanelCommandsTest, PasteTakesTheColourBeforeTheText)
+TEST_F(PanelCommandsTest, PastePrefersTheColourToTheText)
 {
     auto data = mimeDataFromColor(rgb(1, 2, 3, 0.5), QStringLiteral("white"));
     QApplication::clipboard()->setMimeData(data.release());
@@ -158,7 +158,7 @@ TEST_F(PanelCommandsTest, PasteTakesTheColourBeforeTheText)
     EXPECT_EQ(chosenColor().rgba(), qRgba(1, 2, 3, 128));
 }
 
-TEST_F(PanelCommandsTest, WhatIsNoColourChangesNothingAndSaysWhy)
+TEST_F(PanelCommandsTest, PastingAnInvalidColourChangesNoColourAndSaysWhy)
 {
     for (const QString& text : {QStringLiteral("no colour"), QString(100000, u'x'), QString()}) {
         QApplication::clipboard()->setText(text);
@@ -173,7 +173,7 @@ TEST_F(PanelCommandsTest, WhatIsNoColourChangesNothingAndSaysWhy)
     EXPECT_FALSE(colorFromMimeData(damaged).remark.isEmpty());
 }
 
-TEST_F(PanelCommandsTest, AColourOutsideSRGBIsMappedAndSaysSo)
+TEST_F(PanelCommandsTest, PastingAColourOutsideSRGBMapsItAndSaysSo)
 {
     QApplication::clipboard()->setText("color(display-p3 1 0 0)");
     type(QKeySequence("Ctrl+V"));
@@ -181,7 +181,7 @@ TEST_F(PanelCommandsTest, AColourOutsideSRGBIsMappedAndSaysSo)
     EXPECT_TRUE(remark().contains("sRGB"));
 }
 
-TEST_F(PanelCommandsTest, UndoAndRedoGoThroughTheColours)
+TEST_F(PanelCommandsTest, UndoAndRedoStepThroughTheColours)
 {
     QTest::qWait(static_cast<int>(ColorHistory::settlingSeconds * 1000) + 50);
     _window->colors().setColor(rgb(1, 2, 3));
@@ -201,7 +201,7 @@ TEST_F(PanelCommandsTest, XSwapsTheTwoColours)
     EXPECT_EQ(_window->colors().background(), rgb(255, 128, 0));
 }
 
-TEST_F(PanelCommandsTest, AnXThatIsTypedSwapsNothing)
+TEST_F(PanelCommandsTest, TypingAnXInAFieldDoesNotSwap)
 {
     auto* field = child<QLineEdit>("_fullHexText");
     field->setFocus();
@@ -209,7 +209,7 @@ TEST_F(PanelCommandsTest, AnXThatIsTypedSwapsNothing)
     EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
 }
 
-TEST_F(PanelCommandsTest, TheContrastIsShownLive)
+TEST_F(PanelCommandsTest, TheContrastIsUpdatedLive)
 {
     _window->colors().setBackground(rgb(255, 255, 255));
     struct Row {
@@ -224,7 +224,7 @@ TEST_F(PanelCommandsTest, TheContrastIsShownLive)
     }
 }
 
-TEST_F(PanelCommandsTest, ARecentColourIsTakenByAClickAndByTheKeyboard)
+TEST_F(PanelCommandsTest, ARecentColourIsSelectedByMouseAndKeyboard)
 {
     PanelMemory memory;
     memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(3, 3, 3)};
@@ -238,7 +238,7 @@ TEST_F(PanelCommandsTest, ARecentColourIsTakenByAClickAndByTheKeyboard)
     EXPECT_EQ(chosenColor().rgb(), qRgb(3, 3, 3));
 }
 
-TEST_F(PanelCommandsTest, APickFromTheScreenBecomesTheColour)
+TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
 {
     using Outcome = ScreenPickResult::Outcome;
     _pick = {Outcome::picked, rgb(10, 20, 30), {}};
@@ -253,7 +253,7 @@ TEST_F(PanelCommandsTest, APickFromTheScreenBecomesTheColour)
     EXPECT_EQ(remark(), "Nothing to pick with.");
 }
 
-TEST_F(PanelCommandsTest, ThePagesAreWalkedByKeys)
+TEST_F(PanelCommandsTest, KeysSwitchPages)
 {
     type(QKeySequence("Ctrl+PgDown"));
     EXPECT_EQ(_window->pages().currentIndex(), 1);
@@ -263,7 +263,7 @@ TEST_F(PanelCommandsTest, ThePagesAreWalkedByKeys)
     EXPECT_EQ(_window->pages().currentIndex(), _window->pages().count() - 1);
 }
 
-TEST_F(PanelCommandsTest, TheShortcutsAreShownAndGoAway)
+TEST_F(PanelCommandsTest, TheShortcutsAreShownAndHidden)
 {
     type(QKeySequence("F1"));
     QLabel* overlay = nullptr;
@@ -277,7 +277,7 @@ TEST_F(PanelCommandsTest, TheShortcutsAreShownAndGoAway)
     EXPECT_FALSE(overlay->isVisible());
 }
 
-TEST_F(PanelCommandsTest, WhatIsKeptComesBack)
+TEST_F(PanelCommandsTest, TheStateIsRestored)
 {
     _window->colors().setBackground(rgb(1, 2, 3));
     _window->pages().showPage(1);
@@ -319,7 +319,7 @@ TEST_F(PanelCommandsTest, ThePageIsRememberedByItsIdentifierAndByTheNameThatOlde
     }
 }
 
-TEST_F(PanelCommandsTest, TabGoesFromTheBarThroughThePageToTheTools)
+TEST_F(PanelCommandsTest, TabMovesFromTheBarThroughThePageToTheTools)
 {
     QWidget* first = child<QLineEdit>("_fullHexText");
     first->setFocus();
@@ -339,7 +339,7 @@ TEST_F(PanelCommandsTest, TabGoesFromTheBarThroughThePageToTheTools)
     EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
 }
 
-TEST_F(PanelCommandsTest, FromRightToLeftBarAndToolsAreMirrored)
+TEST_F(PanelCommandsTest, BarAndToolsAreMirroredRightToLeft)
 {
     _window->setLayoutDirection(Qt::RightToLeft);
     QApplication::processEvents();

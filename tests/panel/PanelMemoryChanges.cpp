@@ -1,8 +1,8 @@
-// Writes the panel's memory, for tests that make that fail, or do it several times at once.
+// Writes the panel's memory, for tests that make writing fail or write concurrently.
 //
 //     panel-memory-changes SHADE [keep-on]
-//     panel-memory-changes                    writes what it has read; exit status 1 if that is not
-//                                             whole
+//     panel-memory-changes              (reads the memory and writes it back; exits with 1 if it
+//                                        is incomplete)
 
 #include "panel/window/PanelMemory.h"
 

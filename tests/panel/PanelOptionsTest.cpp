@@ -14,7 +14,7 @@ struct ColorRow {
 
 class ColorOptionTest : public testing::TestWithParam<ColorRow> {};
 
-TEST_P(ColorOptionTest, TakesWhatIsTakenElsewhere)
+TEST_P(ColorOptionTest, AcceptsTheSameColoursAsEverythingElse)
 {
     const auto line = readCommandLine({"p", "--color", GetParam().text});
     EXPECT_EQ(line.options.color, GetParam().color);
@@ -33,7 +33,7 @@ INSTANTIATE_TEST_SUITE_P(
         ColorRow{"#fff000fff000", std::nullopt}, ColorRow{"", std::nullopt},
         ColorRow{"nonsense", std::nullopt}));
 
-TEST(PanelOptionsTest, AWrongColourIsExplained)
+TEST(PanelOptionsTest, AnInvalidColourIsExplained)
 {
     EXPECT_EQ(readCommandLine({"p", "--color", "orang"}).message.toStdString(),
               "vantorel-panel: --color: \"orang\" is no colour name of CSS; write a colour such as "
@@ -57,7 +57,7 @@ TEST(PanelOptionsTest, EveryOptionIsRead)
     EXPECT_EQ(line.options.dataFolder, QDir::currentPath());
 }
 
-TEST(PanelOptionsTest, ChoosingIsNoOrderToAPanelThatRuns)
+TEST(PanelOptionsTest, ChoosingIsNotPassedToARunningPanel)
 {
     const auto line = readCommandLine({"p", "--choose", "--color", "red"});
     ASSERT_FALSE(line.exitStatus.has_value());
@@ -73,7 +73,7 @@ struct StepRow {
 
 class StepTest : public testing::TestWithParam<StepRow> {};
 
-TEST_P(StepTest, IsWhatTheOptionSays)
+TEST_P(StepTest, MatchesTheOption)
 {
     const auto line =
         readCommandLine(QStringList{"p", "--new", "--color", "red"} + GetParam().arguments);
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StepRow{{"--copy"}, PanelOrder::Step::copy, ""},
                     StepRow{{"--copy-as", "HSL (CSS)"}, PanelOrder::Step::copy, "HSL (CSS)"}));
 
-TEST(PanelOptionsTest, WhatOnlyAStartCanFollowIsListed)
+TEST(PanelOptionsTest, OptionsThatOnlyApplyAtStartAreListed)
 {
     const auto line = readCommandLine({"p", "--print-color", "--size", "1x1", "--color", "red"});
     EXPECT_EQ(line.options.forStartsOnly, (QStringList{"--size", "--print-color"}));
@@ -100,7 +100,7 @@ TEST(PanelOptionsTest, WhatOnlyAStartCanFollowIsListed)
 
 class BadOptionTest : public testing::TestWithParam<QStringList> {};
 
-TEST_P(BadOptionTest, SaysWhatIsWrong)
+TEST_P(BadOptionTest, IsExplained)
 {
     const auto line = readCommandLine(QStringList{"p"} + GetParam());
     EXPECT_EQ(line.exitStatus, 2);
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
                     QStringList{"--service", "--screenshot", "f.png"}, QStringList{"--copy-as"},
                     QStringList{"--nothing"}, QStringList{"stray"}, QStringList{"--color"}));
 
-TEST(PanelOptionsTest, HelpAndVersionEndWell)
+TEST(PanelOptionsTest, HelpAndVersionExitSuccessfully)
 {
     EXPECT_EQ(readCommandLine({"p", "--help"}).exitStatus, 0);
     EXPECT_TRUE(readCommandLine({"p", "--help"}).message.contains("--screenshot"));

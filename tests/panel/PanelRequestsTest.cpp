@@ -10,7 +10,7 @@ namespace {
 using Kind = PanelRefusal::Kind;
 using Outcome = ScreenPickResult::Outcome;
 
-/// Answers when the test says so.
+/// Answers on request of the test.
 class HeldScreenPicker final : public ScreenPicker {
 public:
     void start(QWidget*, Callback done) override
@@ -52,7 +52,7 @@ protected:
     std::vector<PanelAnswer> _answers;
 };
 
-TEST_F(PanelRequestsTest, APickIsAnsweredWithTheColourThatWasPicked)
+TEST_F(PanelRequestsTest, APickReturnsThePickedColour)
 {
     _requests->pick(false, keep());
     EXPECT_TRUE(_answers.empty());
@@ -71,7 +71,7 @@ TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
     ASSERT_EQ(_answers.size(), 2U);
 }
 
-TEST_F(PanelRequestsTest, APickThatIsNotPossibleSaysWhy)
+TEST_F(PanelRequestsTest, AnImpossiblePickSaysWhy)
 {
     _requests->pick(true, keep());
     _picker->answer({Outcome::notPossible, HostColor::blackColor(), "No screen."});
@@ -79,13 +79,13 @@ TEST_F(PanelRequestsTest, APickThatIsNotPossibleSaysWhy)
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{expected});
 }
 
-TEST_F(PanelRequestsTest, AnOrderSetsTheColourBeforeItsStep)
+TEST_F(PanelRequestsTest, ARequestSetsTheColourBeforeItsStep)
 {
     _requests->carryOut({PanelOrder::Step::copy, "lime", "HSL (CSS)", {}}, keep());
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("hsl(120 100% 50%)")});
 }
 
-TEST_F(PanelRequestsTest, AnOrderWithABadColourDoesNothingElse)
+TEST_F(PanelRequestsTest, ARequestWithAnInvalidColourIsRejectedWhole)
 {
     _requests->carryOut({PanelOrder::Step::pick, "nonsense", {}, {}}, keep());
     ASSERT_EQ(_answers.size(), 1U);
@@ -93,7 +93,7 @@ TEST_F(PanelRequestsTest, AnOrderWithABadColourDoesNothingElse)
     EXPECT_FALSE(_picker->isPicking());
 }
 
-TEST_F(PanelRequestsTest, APanelWithoutAWindowEndsWhenAllIsAnswered)
+TEST_F(PanelRequestsTest, APanelWithoutAWindowExitsOnceEveryRequestIsAnswered)
 {
     QSignalSpy nothingLeft(_requests.get(), &PanelRequests::nothingLeft);
     _requests->pick(false, keep());
@@ -107,7 +107,7 @@ TEST_F(PanelRequestsTest, APanelWithoutAWindowEndsWhenAllIsAnswered)
     EXPECT_EQ(nothingLeft.count(), 1);
 }
 
-TEST(PanelNamesTest, EveryRefusalIsReadBackFromItsErrorName)
+TEST(PanelNamesTest, EveryErrorIsReadBackFromItsName)
 {
     for (Kind kind : {Kind::notAColor, Kind::noSuchForm, Kind::cancelled, Kind::notPossible})
         EXPECT_EQ(refusalKindFor(errorNameFor(kind)), kind);

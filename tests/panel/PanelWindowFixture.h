@@ -33,7 +33,7 @@ protected:
         _window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(_window.get()));
     }
-    /// What the panel picks from the screen with.
+    /// The screen picker of the panel.
     virtual std::unique_ptr<ScreenPicker> screenPicker() { return makeScreenPicker(); }
     [[nodiscard]] QColor chosenColor() const { return qColorFrom(_window->colors().color()); }
     template <class Widget>

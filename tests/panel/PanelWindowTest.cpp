@@ -23,7 +23,7 @@ TEST_F(PanelWindowTest, AColourSetOnThePanelShowsInEveryField)
     EXPECT_EQ(child<QWidget>("_redHexText")->toolTip(), "255");
 }
 
-TEST_F(PanelWindowTest, TheWindowsIconComesBehindItsFirstPicture)
+TEST_F(PanelWindowTest, TheWindowIconIsSetAfterTheFirstPaint)
 {
     PanelWindow window(_desktop, _search.plugins, _problems);
     EXPECT_TRUE(window.windowIcon().isNull());
@@ -46,7 +46,7 @@ TEST_F(PanelWindowTest, AClickInADigitCellChangesTheColourEverywhere)
     EXPECT_EQ(chosenColor(), QColor(0xA0, 0, 0));
 }
 
-TEST_F(PanelWindowTest, ATypedCodeChangesThePanel)
+TEST_F(PanelWindowTest, TypingAHexCodeChangesThePanelsColour)
 {
     auto* field = child<QLineEdit>("_fullHexText");
     field->selectAll();
@@ -57,9 +57,9 @@ TEST_F(PanelWindowTest, ATypedCodeChangesThePanel)
     EXPECT_EQ(field->text(), "#FF8800");
 }
 
-TEST_F(PanelWindowTest, EscapeInAFieldShowsTheColourAgainInEveryField)
+TEST_F(PanelWindowTest, EscapeInAFieldRestoresEveryField)
 {
-    // A third is no colour of eight bits; Escape must not round it.
+    // One third is not an eight-bit value; Escape must not round it.
     const HostColor color = HostColor::colorWithCalibratedRed(1 / 3.0, 128 / 255.0, 0, 0.5);
     struct Row {
         const char* field;
@@ -84,7 +84,7 @@ TEST_F(PanelWindowTest, EscapeInAFieldShowsTheColourAgainInEveryField)
     }
 }
 
-TEST_F(PanelWindowTest, TheOpacityIsThePanelsAlpha)
+TEST_F(PanelWindowTest, TheOpacitySliderSetsThePanelsAlpha)
 {
     auto* slider = _window->findChild<QSlider*>();
     slider->setValue(50);
@@ -95,7 +95,7 @@ TEST_F(PanelWindowTest, TheOpacityIsThePanelsAlpha)
     EXPECT_EQ(chosenColor().green(), 255);
 }
 
-TEST_F(PanelWindowTest, TheModesButtonsShowWhatIsActive)
+TEST_F(PanelWindowTest, TheModeButtonsShowTheActiveMode)
 {
     auto* wheel = child<QToolButton>("wheelViewModeButton");
     auto* slider = child<QToolButton>("pickViewModeButton");
@@ -110,7 +110,7 @@ TEST_F(PanelWindowTest, TheModesButtonsShowWhatIsActive)
     slider->click();
 }
 
-TEST_F(PanelWindowTest, TheSettingsFaceTakesTheColoursPlace)
+TEST_F(PanelWindowTest, TheSettingsReplaceTheColours)
 {
     const QRect place = child<QWidget>("_hexColorsView")->geometry();
     child<QToolButton>("settingsButton")->click();
@@ -126,7 +126,7 @@ TEST_F(PanelWindowTest, TheSettingsFaceTakesTheColoursPlace)
     EXPECT_NE(child<QWidget>("_hexColorsView"), nullptr);
 }
 
-TEST_F(PanelWindowTest, NothingOverlapsAtAnySize)
+TEST_F(PanelWindowTest, NoControlsOverlapAtAnySize)
 {
     for (const QSize size : {QSize(175, 190), QSize(212, 220), QSize(260, 340), QSize(480, 600)}) {
         _window->resizeToPage(size);
@@ -164,7 +164,7 @@ TEST_F(PanelWindowTest, TheOtherPageFollowsTheColour)
     EXPECT_EQ(text("_fullHexText"), "#010203");
 }
 
-TEST(PanelPluginsTest, OnesThatMakeNoPageAreNamedAndTheRestWorks)
+TEST(PanelPluginsTest, PluginsWithoutAPageAreNamedAndTheOthersWork)
 {
     const std::string folder = VANTOREL_TEST_PLUGINS;
     QtDesktop desktop;
@@ -178,7 +178,7 @@ TEST(PanelPluginsTest, OnesThatMakeNoPageAreNamedAndTheRestWorks)
     EXPECT_THAT(problems[0], testing::HasSubstr("throwing-plugin.so is left out"));
     EXPECT_THAT(problems[0], testing::HasSubstr("on purpose"));
     EXPECT_THAT(problems[1], testing::HasSubstr("empty-plugin.so is left out"));
-    // The good one has no interface file: a plain message stands in its page's place.
+    // The good plug-in has no interface file: a message takes the place of its page.
     QStringList texts;
     for (const QLabel* label : window.findChildren<QLabel*>())
         texts.append(label->text());

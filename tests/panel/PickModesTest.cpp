@@ -13,7 +13,7 @@
 namespace vantorel {
 namespace {
 
-/// Picking as a user does: what is seen under the pointer is what a click gives.
+/// Picks as a user does: a click must give the colour seen under the pointer.
 class PickModesTest : public PanelWindowFixture {
 protected:
     void TearDown() override
@@ -54,7 +54,7 @@ protected:
         return true;
     }
 
-    /// Clicks on one pixel of each colour on show, and returns how many there were.
+    /// Clicks on one pixel of each visible colour and returns the number of colours.
     std::size_t clickEveryColour(const QRect& where, int reach)
     {
         const QRgb background = qRgb(241, 241, 245);
@@ -115,7 +115,7 @@ TEST_F(PickModesTest, EveryColourOfTheWheelIsPickedByAClick)
     EXPECT_GT(clickEveryColour(below, 2), 200U) << "8 rings have 384 cells";
 }
 
-TEST_F(PickModesTest, AClickBesideTheWheelPicksNothing)
+TEST_F(PickModesTest, AClickOutsideTheWheelPicksNoColour)
 {
     _window->colors().setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 1));
     showMode("wheelViewModeButton");
@@ -134,7 +134,7 @@ TEST_F(PickModesTest, TheRingButtonsChangeTheWheel)
     EXPECT_EQ(colors()->grab().toImage(), eight);
 }
 
-TEST_F(PickModesTest, ANameIsChosenFromTheList)
+TEST_F(PickModesTest, ANameIsSelectedFromTheList)
 {
     _window->colors().setColor(HostColor::blackColor());
     QListView* view = openList("hexColorNamePopUp");
@@ -159,7 +159,7 @@ TEST_F(PickModesTest, CloseNamesComeFirst)
     EXPECT_EQ(text("_fullHexText"), "#FF0004") << "the first item changes nothing";
 }
 
-TEST_F(PickModesTest, AListIsAddedAndRemovedThroughTheSubmenus)
+TEST_F(PickModesTest, AListIsAddedAndRemovedInTheSubmenus)
 {
     auto list = std::make_shared<HostColorList>(u"Brand & more");
     list->setColor(HostColor::colorWithCalibratedRed(0, 128 / 255.0, 1, 1), u"sky");

@@ -5,7 +5,7 @@
 namespace vantorel {
 namespace {
 
-/// Notes what is painted of a widget.
+/// Records the painted region of a widget.
 class PaintedRegions final : public QObject {
 public:
     explicit PaintedRegions(QWidget& widget) { widget.installEventFilter(this); }
@@ -28,7 +28,7 @@ private:
 
 class RepaintTest : public PanelWindowFixture {};
 
-TEST_F(RepaintTest, AFadingMessageRepaintsItsBoxAlone)
+TEST_F(RepaintTest, AFadingMessageRepaintsOnlyItsBox)
 {
     auto* colors = child<QWidget>("_hexColorsView");
     auto* field = child<QLineEdit>("_fullHexText");

@@ -25,7 +25,7 @@ void visit(const std::vector<InterfaceItem>& items,
     }
 }
 
-TEST(InterfaceFileTest, TheFileThatIsShippedReads)
+TEST(InterfaceFileTest, TheShippedFileIsValid)
 {
     const auto items = parseInterfaceFile(fileText());
     ASSERT_TRUE(items.has_value());
@@ -52,7 +52,7 @@ struct BrokenRow {
 
 class BrokenInterfaceTest : public testing::TestWithParam<BrokenRow> {};
 
-TEST_P(BrokenInterfaceTest, IsRefused)
+TEST_P(BrokenInterfaceTest, IsRejected)
 {
     EXPECT_FALSE(parseInterfaceFile(GetParam().text).has_value()) << GetParam().name;
 }
@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=big;});}"},
         BrokenRow{"no UTF-8", "{Version=1;Views=();}\xFF"}));
 
-TEST(InterfaceFileTest, DamageNeverFailsWorse)
+TEST(InterfaceFileTest, DamagedFilesAreReadWithoutCrashing)
 {
     const std::string good = fileText();
     std::mt19937 random(4);

@@ -25,7 +25,7 @@ private:
     std::optional<std::string> _path;
 };
 
-/// A disk with one installed manual, in a folder whose name an address cannot hold as it is.
+/// A disk with one installed manual, in a folder whose name must be escaped in URLs.
 MemoryFiles filesWithInstalledManual()
 {
     MemoryFiles files("/a b");
@@ -76,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(
         AddressRow{"a file on another computer", "file://server/supportManual.htm",
                    "/p/supportManual.htm", "file://server/supportManual.htm"}));
 
-TEST(FileURLTest, EscapesWhatAnAddressCannotHold)
+TEST(FileURLTest, EscapesCharactersNotAllowedInURLs)
 {
     EXPECT_EQ(fileURLFromPath("/usr/share-1/~a_b.c/d"), "file:///usr/share-1/~a_b.c/d");
     EXPECT_EQ(fileURLFromPath("/a b#c?d%e"), "file:///a%20b%23c%3Fd%25e");

@@ -17,7 +17,7 @@ MainFaceInput mainInput(double width)
     return input;
 }
 
-TEST(PickerLayoutTest, ComponentsStandUnderTheirColumns)
+TEST(PickerLayoutTest, ComponentsAreBelowTheirColumns)
 {
     const auto frames = mainFaceLayout(mainInput(260));
     EXPECT_DOUBLE_EQ(frames.red.midX(), 10 + 240 * 2.5 / 15);
@@ -26,7 +26,7 @@ TEST(PickerLayoutTest, ComponentsStandUnderTheirColumns)
     EXPECT_EQ(frames.snippet.x, -500);
 }
 
-TEST(PickerLayoutTest, TheSnippetTakesTheirPlace)
+TEST(PickerLayoutTest, TheSnippetReplacesTheComponents)
 {
     auto input = mainInput(260);
     input.showsCodeSnippet = true;
@@ -43,7 +43,7 @@ struct NameRow {
 
 class ColorNameTest : public testing::TestWithParam<NameRow> {};
 
-TEST_P(ColorNameTest, TakesTheRoomThereIs)
+TEST_P(ColorNameTest, FillsTheAvailableWidth)
 {
     EXPECT_EQ(mainFaceLayout(mainInput(GetParam().width)).colorName, GetParam().name);
 }
@@ -75,7 +75,7 @@ SettingsFaceFrames settingsFrames()
     return frames;
 }
 
-TEST(PickerLayoutTest, RoomySettingsShowEveryRow)
+TEST(PickerLayoutTest, TallSettingsShowEveryRow)
 {
     const auto f = settingsFaceLayout(settingsFrames(), {10, 60, 240, 186});
     EXPECT_EQ(f.doneButton, (HostRect{100, 70, 60, 24}));
@@ -90,7 +90,7 @@ TEST(PickerLayoutTest, RoomySettingsShowEveryRow)
     EXPECT_EQ(f.versionLabel, (HostRect{182, 68, 60, 14}));
 }
 
-TEST(PickerLayoutTest, RowsLeaveFromTheBottomAndTwoOfThemTogether)
+TEST(PickerLayoutTest, RowsAreHiddenFromTheBottomAndTwoOfThemTogether)
 {
     const auto dragGone = settingsFaceLayout(settingsFrames(), {0, 0, 240, 146});
     EXPECT_EQ(dragGone.dragType.x, 500);

@@ -56,7 +56,7 @@ TEST_F(NameCompletionTest, OneCandidateIsFilledIn)
     EXPECT_TRUE(completion.message.empty());
 }
 
-TEST_F(NameCompletionTest, SeveralAreListedAndTheRestIsDropped)
+TEST_F(NameCompletionTest, SeveralCandidatesAreListedAndTheRestIsDropped)
 {
     const auto completion = complete(u"blxyzx", 2);
     EXPECT_EQ(completion.message, u"blue\nblack\nBlush\n");
@@ -64,12 +64,12 @@ TEST_F(NameCompletionTest, SeveralAreListedAndTheRestIsDropped)
     EXPECT_EQ(completion.insertionPoint, 2U);
 }
 
-TEST_F(NameCompletionTest, TheNameOfTheLengthTypedHasTheFirstCandidatesColour)
+TEST_F(NameCompletionTest, TheFirstCandidateGivesTheColour)
 {
     EXPECT_EQ(complete(u"black", 2).text, u"black: rgb(0, 0, 102);");
 }
 
-TEST_F(NameCompletionTest, NothingIsCompletedForATripleNoTextOrTooMany)
+TEST_F(NameCompletionTest, TriplesEmptyTextsAndTooManyCandidatesAreNotCompleted)
 {
     EXPECT_EQ(complete(u"RGB(1", 5).text, std::nullopt);
     EXPECT_EQ(complete(u"", 0).text, std::nullopt);

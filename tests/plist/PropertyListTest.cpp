@@ -45,7 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class RefusingTest : public testing::TestWithParam<const char16_t*> {};
 
-TEST_P(RefusingTest, TextIsNoPropertyList)
+TEST_P(RefusingTest, InvalidTextsAreRejected)
 {
     EXPECT_FALSE(parsePropertyList(GetParam()).has_value());
 }
@@ -66,7 +66,7 @@ TEST(PropertyListReaderTest, DepthIsBounded)
     EXPECT_FALSE(parsePropertyList(std::u16string(1000000, u'{')).has_value());
 }
 
-TEST(PropertyListReaderTest, AGiantTextIsReadInOneGo)
+TEST(PropertyListReaderTest, AHugeTextIsRead)
 {
     std::u16string text = u"(";
     for (int i = 0; i < 1000000; ++i)
@@ -120,7 +120,7 @@ PropertyList randomValue(std::mt19937& random, int depth)
     }
 }
 
-TEST(PropertyListWriterTest, WhatIsWrittenReadsBackTheSame)
+TEST(PropertyListWriterTest, WrittenListsReadBackUnchanged)
 {
     std::mt19937 random(5);
     for (int round = 0; round < 3000; ++round) {
@@ -149,7 +149,7 @@ TEST(PropertyListReaderTest, DamagedTextsNeverFail)
     }
 }
 
-TEST(PropertyListTest, AnotherKindHasNoKeys)
+TEST(PropertyListTest, OnlyDictionariesHaveKeys)
 {
     EXPECT_EQ(PropertyList(u"text").valueForKey(u"a"), nullptr);
     EXPECT_EQ(PropertyList(Dictionary{{u"a", Array{}}}).stringForKey(u"a"), nullptr);

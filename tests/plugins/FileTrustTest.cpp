@@ -39,7 +39,7 @@ protected:
     const fs::path _file = _folder / "plugin.so";
 };
 
-TEST_F(FileTrustTest, WhatOnlyTheUserCanChangeIsTrusted)
+TEST_F(FileTrustTest, AFileThatOnlyTheUserCanChangeIsTrusted)
 {
     EXPECT_EQ(whyNotTrusted(_folder), "");
     EXPECT_EQ(whyNotTrusted(_file), "");
@@ -47,7 +47,7 @@ TEST_F(FileTrustTest, WhatOnlyTheUserCanChangeIsTrusted)
     EXPECT_EQ(whyNotTrusted(_folder / "missing.so"), "");
 }
 
-TEST_F(FileTrustTest, AFileIsNotTrustedWhenAnybodyCanChangeItOrAFolderOnTheWay)
+TEST_F(FileTrustTest, AFileIsNotTrustedIfAnyoneCanChangeItOrAFolderAboveIt)
 {
     for (const fs::path& path : {_file, _folder, _root / "above"}) {
         SCOPED_TRACE(path);
@@ -60,7 +60,7 @@ TEST_F(FileTrustTest, AFileIsNotTrustedWhenAnybodyCanChangeItOrAFolderOnTheWay)
     }
 }
 
-TEST_F(FileTrustTest, AStickyFolderIsNoPlaceForPluginsButMayStandAboveOne)
+TEST_F(FileTrustTest, PluginsMayBeBelowAStickyFolderButNotInIt)
 {
     setMode(_root / "above", 01777);
     EXPECT_EQ(whyNotTrusted(_file), "");
@@ -69,7 +69,7 @@ TEST_F(FileTrustTest, AStickyFolderIsNoPlaceForPluginsButMayStandAboveOne)
     EXPECT_THAT(whyNotTrusted(_folder), HasSubstr("all users can write"));
 }
 
-TEST_F(FileTrustTest, ALinkIsTrustedAsMuchAsWhatItLeadsTo)
+TEST_F(FileTrustTest, ALinkIsTrustedAsMuchAsItsTarget)
 {
     fs::create_directories(_root / "elsewhere");
     fs::create_directory_symlink(_folder, _root / "elsewhere/link");
@@ -82,7 +82,7 @@ TEST_F(FileTrustTest, ALinkIsTrustedAsMuchAsWhatItLeadsTo)
         << "another link could stand there";
 }
 
-TEST_F(FileTrustTest, WhatBelongsToAnotherUserIsNotTrusted)
+TEST_F(FileTrustTest, AFileOfAnotherUserIsNotTrusted)
 {
     constexpr uid_t nobody = 65534;
     if (::chown(_file.c_str(), nobody, static_cast<gid_t>(-1)) != 0)
@@ -90,7 +90,7 @@ TEST_F(FileTrustTest, WhatBelongsToAnotherUserIsNotTrusted)
     EXPECT_THAT(whyNotTrusted(_file), HasSubstr("belongs to another user"));
 }
 
-TEST_F(FileTrustTest, AGroupIsTrustedWhenTheAdministratorHasChosenIt)
+TEST_F(FileTrustTest, AGroupIsTrustedIfTheAdministratorHasChosenIt)
 {
     constexpr uid_t user = 54321;
     constexpr gid_t group = 65534;
@@ -103,7 +103,7 @@ TEST_F(FileTrustTest, AGroupIsTrustedWhenTheAdministratorHasChosenIt)
     EXPECT_EQ(whyNotTrusted(_folder, user), "");
 }
 
-TEST_F(FileTrustTest, PluginsFromSuchAFolderAreNotLoaded)
+TEST_F(FileTrustTest, PluginsFromUntrustedFoldersAreNotLoaded)
 {
     fs::remove(_file);
     fs::copy_file(fs::path(VANTOREL_TEST_PLUGINS) / "good-plugin.so", _file);
@@ -117,7 +117,7 @@ TEST_F(FileTrustTest, PluginsFromSuchAFolderAreNotLoaded)
     }
 }
 
-TEST_F(FileTrustTest, APipeIsNotWaitedFor)
+TEST_F(FileTrustTest, APipeDoesNotBlock)
 {
     fs::remove(_file);
     ASSERT_EQ(::mkfifo(_file.c_str(), 0600), 0);

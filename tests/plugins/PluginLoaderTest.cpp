@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 const std::string plugins = VANTOREL_TEST_PLUGINS;
 
-TEST(PluginLoaderTest, OneThatFitsIsLoaded)
+TEST(PluginLoaderTest, ACompatiblePluginIsLoaded)
 {
     const auto search = loadPlugins({}, {plugins + "/good-plugin.so"});
     EXPECT_TRUE(search.problems.empty());
@@ -23,7 +23,7 @@ TEST(PluginLoaderTest, OneThatFitsIsLoaded)
     EXPECT_STREQ(search.plugins.front().plugin().identifier, "good-plugin");
 }
 
-TEST(PluginLoaderTest, OneOfAnotherABIIsNotCalled)
+TEST(PluginLoaderTest, APluginOfAnotherABIIsNotCalled)
 {
     const auto search = loadPlugins({}, {plugins + "/other-abi-plugin.so"});
     EXPECT_TRUE(search.plugins.empty());
@@ -32,7 +32,7 @@ TEST(PluginLoaderTest, OneOfAnotherABIIsNotCalled)
     EXPECT_THAT(search.problems.front(), HasSubstr("version " + std::to_string(hostPluginABI + 1)));
 }
 
-TEST(PluginLoaderTest, WhatIsNoPluginIsLeftOutWithItsNameAndAReason)
+TEST(PluginLoaderTest, FilesThatAreNotPluginsAreSkippedWithTheirNameAndAReason)
 {
     const ScratchFolder folder;
     const std::string text = folder.pathOf("text.so");
@@ -44,7 +44,7 @@ TEST(PluginLoaderTest, WhatIsNoPluginIsLeftOutWithItsNameAndAReason)
     EXPECT_THAT(search.problems[1], HasSubstr("/missing/file.so is left out: "));
 }
 
-TEST(PluginLoaderTest, ALibraryWithoutTheSymbolsIsNoPlugin)
+TEST(PluginLoaderTest, ALibraryWithoutTheSymbolsIsNotAPlugin)
 {
     std::string libm;
     for (const auto& folder :
@@ -58,7 +58,7 @@ TEST(PluginLoaderTest, ALibraryWithoutTheSymbolsIsNoPlugin)
     EXPECT_THAT(search.problems.front(), HasSubstr("no picker plug-in"));
 }
 
-TEST(PluginLoaderTest, TheFirstOfTwoEqualOnesCounts)
+TEST(PluginLoaderTest, TheFirstOfTwoIdenticalPluginsIsUsed)
 {
     const ScratchFolder folder;
     const std::string copy = folder.pathOf("copy.so");
@@ -70,7 +70,7 @@ TEST(PluginLoaderTest, TheFirstOfTwoEqualOnesCounts)
     EXPECT_THAT(search.problems.front(), HasSubstr("came first"));
 }
 
-TEST(PluginLoaderTest, ResourcesAreThoseOfTheFolderBesideTheLibrary)
+TEST(PluginLoaderTest, ResourcesAreInTheFolderBesideTheLibrary)
 {
     const auto search = loadPlugins({VANTOREL_PICKERS}, {});
     ASSERT_EQ(search.plugins.size(), 1U);
@@ -86,7 +86,7 @@ TEST(PluginLoaderTest, ResourcesAreThoseOfTheFolderBesideTheLibrary)
     }
 }
 
-TEST(PluginLoaderTest, OwnFolderThenTheUsers)
+TEST(PluginLoaderTest, OurOwnFolderIsSearchedBeforeTheUsers)
 {
     EXPECT_EQ(pluginFolders("/opt/x/bin", "/home/u/.local/share"),
               (std::vector<std::string>{"/opt/x/lib/vantorel/pickers",

@@ -16,7 +16,7 @@ std::string inGerman(const char* text)
     return text;
 }
 
-TEST(MessageTest, ArgumentsTakeTheirPlaces)
+TEST(MessageTest, ArgumentsReplaceTheirPlaceholders)
 {
     EXPECT_EQ(english(phrase("no arguments")), "no arguments");
     EXPECT_EQ(english(phrase("%2 after %1, %2", "a", "b")), "b after a, b");
@@ -26,12 +26,12 @@ TEST(MessageTest, ArgumentsTakeTheirPlaces)
               "100% and %0 are no places, this is");
 }
 
-TEST(MessageTest, ArgumentsAreNeverReadForPlaces)
+TEST(MessageTest, PlaceholdersInArgumentsAreNotReplaced)
 {
     EXPECT_EQ(english(phrase("%1, %2", "%2", "%1")), "%2, %1");
 }
 
-TEST(MessageTest, ArgumentsCannotCommandATerminal)
+TEST(MessageTest, ArgumentsCannotControlATerminal)
 {
     EXPECT_EQ(english(phrase("%1", "a\x1B[2J\nb\xC2\x9B")), "a [2J b ");
     EXPECT_EQ(english(phrase("%1", "\xFF")), "\uFFFD");
@@ -45,7 +45,7 @@ TEST(MessageTest, PhrasesWithinPhrasesAreTranslatedToo)
     EXPECT_EQ(missing.inWords(inGerman), "rgb() hat keinen Wert für Rot");
 }
 
-TEST(MessageTest, ATranslationWithAPlaceTooManyIsShownAsItIs)
+TEST(MessageTest, ASurplusPlaceholderInATranslationIsShownUnchanged)
 {
     EXPECT_EQ(phrase("lost %1 and %2", "A", "B").inWords(inGerman), "A, %3 und B verloren");
 }
@@ -57,7 +57,7 @@ TEST(MessageTest, AMessageSaysWhatToDoAfterASemicolon)
     EXPECT_EQ(english(Message{phrase("it is a pipe")}), "it is a pipe");
 }
 
-TEST(MessageTest, EqualMessagesSayTheSame)
+TEST(MessageTest, MessagesWithTheSameTextAndArgumentsAreEqual)
 {
     const Message message{phrase("%1 is a pipe", "a")};
     EXPECT_EQ(message, (Message{phrase("%1 is a pipe", "a")}));

@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Answers when the test says so.
+/// Answers on request of the test.
 class FakeMethod final : public PickMethod {
 public:
     explicit FakeMethod(FakeMethod** self) { *self = this; }
@@ -78,7 +78,7 @@ const HostColor orange = HostColor::colorWithCalibratedRed(1, 0.5, 0, 1);
 const PickMethod::Failure noPortal{QStringLiteral("the desktop portal has no PickColor")};
 const PickMethod::Failure noDisplay{QStringLiteral("there is no X11 display")};
 
-TEST_F(DesktopScreenPickerTest, asksOnlyTheFirstMethodWhenThatPicks)
+TEST_F(DesktopScreenPickerTest, stopsAtTheFirstMethodThatPicks)
 {
     start();
     EXPECT_TRUE(_picker->isPicking());
@@ -89,7 +89,7 @@ TEST_F(DesktopScreenPickerTest, asksOnlyTheFirstMethodWhenThatPicks)
     EXPECT_EQ(_magnifier->starts, 0);
 }
 
-TEST_F(DesktopScreenPickerTest, asksTheNextMethodWhenOneFails)
+TEST_F(DesktopScreenPickerTest, triesTheNextMethodWhenOneFails)
 {
     start();
     _portal->answer(noPortal);
@@ -98,7 +98,7 @@ TEST_F(DesktopScreenPickerTest, asksTheNextMethodWhenOneFails)
     EXPECT_THAT(results(), ElementsAre(picked(orange)));
 }
 
-TEST_F(DesktopScreenPickerTest, asksNoOtherMethodWhenTheUserLeaves)
+TEST_F(DesktopScreenPickerTest, triesNoOtherMethodWhenTheUserCancels)
 {
     start();
     _portal->answer(PickMethod::CancelledByUser{});
@@ -106,7 +106,7 @@ TEST_F(DesktopScreenPickerTest, asksNoOtherMethodWhenTheUserLeaves)
     EXPECT_EQ(_magnifier->starts, 0);
 }
 
-TEST_F(DesktopScreenPickerTest, saysInOneSentenceWhatIsMissing)
+TEST_F(DesktopScreenPickerTest, reportsInOneSentenceWhatIsMissing)
 {
     start();
     _portal->answer(noPortal);
@@ -122,7 +122,7 @@ TEST_F(DesktopScreenPickerTest, saysInOneSentenceWhatIsMissing)
     EXPECT_THAT(results(), ElementsAre(sentence, sentence)) << "earlier reasons are not repeated";
 }
 
-TEST_F(DesktopScreenPickerTest, cancelsTheMethodThatIsAtWork)
+TEST_F(DesktopScreenPickerTest, cancelsTheActiveMethod)
 {
     start();
     _portal->answer(noPortal);
@@ -135,7 +135,7 @@ TEST_F(DesktopScreenPickerTest, cancelsTheMethodThatIsAtWork)
     EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}));
 }
 
-TEST_F(DesktopScreenPickerTest, aSecondStartCancelsTheFirstAndBeginsAtTheFirstMethod)
+TEST_F(DesktopScreenPickerTest, aSecondStartCancelsTheFirstAndRestartsWithTheFirstMethod)
 {
     start();
     _portal->answer(noPortal);
@@ -146,7 +146,7 @@ TEST_F(DesktopScreenPickerTest, aSecondStartCancelsTheFirstAndBeginsAtTheFirstMe
     EXPECT_THAT(results(), ElementsAre(ScreenPickResult{}, picked(orange)));
 }
 
-TEST_F(DesktopScreenPickerTest, canBeStartedAgainFromItsAnswer)
+TEST_F(DesktopScreenPickerTest, canBeRestartedFromItsCallback)
 {
     _picker->start(nullptr, [this](const ScreenPickResult&) { start(); });
     _portal->answer(PickMethod::CancelledByUser{});
@@ -156,7 +156,7 @@ TEST_F(DesktopScreenPickerTest, canBeStartedAgainFromItsAnswer)
     EXPECT_THAT(results(), ElementsAre(picked(orange)));
 }
 
-TEST_F(DesktopScreenPickerTest, canBeEndedFromItsAnswer)
+TEST_F(DesktopScreenPickerTest, canBeDestroyedFromItsCallback)
 {
     _picker->start(nullptr, [this](const ScreenPickResult&) { _picker.reset(); });
     _portal->answer(orange);
@@ -164,7 +164,7 @@ TEST_F(DesktopScreenPickerTest, canBeEndedFromItsAnswer)
     EXPECT_EQ(_picker, nullptr);
 }
 
-TEST_F(DesktopScreenPickerTest, isSilentOnceItHasEnded)
+TEST_F(DesktopScreenPickerTest, reportsNoResultOnceDestroyed)
 {
     start();
     _portal->answer(orange);
@@ -172,7 +172,7 @@ TEST_F(DesktopScreenPickerTest, isSilentOnceItHasEnded)
     EXPECT_THAT(results(), ElementsAre());
 }
 
-TEST(makeScreenPicker, saysWhatIsMissingWithoutBusAndScreen)
+TEST(makeScreenPicker, reportsWhatIsMissingWithoutBusAndScreen)
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     const auto picker = makeScreenPicker();

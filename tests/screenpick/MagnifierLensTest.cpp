@@ -9,7 +9,8 @@ namespace {
 
 constexpr QSize screenSize{600, 500};
 
-/// Every pixel has a colour of its own; without reds above half, so that red can be a marker.
+/// Gives every pixel a different colour, none with a red above one half, so that red can mark
+/// the background.
 QImage pattern()
 {
     QImage image(screenSize, QImage::Format_RGB32);
@@ -30,7 +31,7 @@ struct View {
     QRect bounds;
 };
 
-/// The lens on a red ground.
+/// The lens on a red background.
 View lensAt(QPoint pixel, double ratio = 1, int zoom = 0, const QPalette& palette = QPalette())
 {
     const DesktopPicture picture = desktop();
@@ -44,7 +45,7 @@ View lensAt(QPoint pixel, double ratio = 1, int zoom = 0, const QPalette& palett
     return view;
 }
 
-/// How far the pixels around `from` have its colour, to the right.
+/// The number of pixels to the right of `from` with its colour.
 int runToTheRight(const QImage& image, QPoint from)
 {
     int length = 0;
@@ -53,7 +54,7 @@ int runToTheRight(const QImage& image, QPoint from)
     return length;
 }
 
-TEST(MagnifierLens, showsThePixelInItsMiddleAsOneEvenCell)
+TEST(MagnifierLens, showsThePixelAtItsCentreAsOneUniformCell)
 {
     for (const double ratio : {1.0, 1.5, 2.0}) {
         const View view = lensAt({300, 200}, ratio);
@@ -67,7 +68,7 @@ TEST(MagnifierLens, showsThePixelInItsMiddleAsOneEvenCell)
     }
 }
 
-TEST(MagnifierLens, framesTheMiddleInBlackAndWhite)
+TEST(MagnifierLens, framesTheCentreInBlackAndWhite)
 {
     const View view = lensAt({300, 200});
     EXPECT_EQ(view.image.pixelColor(294, 200), QColor(Qt::white));
@@ -109,7 +110,7 @@ TEST(MagnifierLens, paintsOnlyWithinItsBounds)
     }
 }
 
-TEST(MagnifierLens, isWhollyOnTheScreenAtEveryCorner)
+TEST(MagnifierLens, isEntirelyOnTheScreenAtEveryCorner)
 {
     // With its label: 84 + 4 to each side, 8 + 28 below, and a margin of 4.
     const struct {
@@ -144,7 +145,7 @@ TEST(MagnifierLens, showsTheNextScreenBesideTheEdge)
     EXPECT_EQ(image.pixelColor(529, 200), QColor(Qt::green));
 }
 
-TEST(MagnifierLens, takesItsGroundFromTheTheme)
+TEST(MagnifierLens, takesItsBackgroundFromTheTheme)
 {
     for (const char* ground : {"#efeff1", "#2b2c30"}) {
         const QColor color(ground);
@@ -155,7 +156,7 @@ TEST(MagnifierLens, takesItsGroundFromTheTheme)
     }
 }
 
-TEST(hexCodeOf, isOfSixDigitsInLowerCase)
+TEST(hexCodeOf, hasSixLowerCaseDigits)
 {
     EXPECT_EQ(hexCodeOf(QColor(10, 171, 255)), QStringLiteral("#0aabff"));
 }

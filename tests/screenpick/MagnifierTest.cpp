@@ -33,7 +33,7 @@ protected:
             for (int x = 0; x < image.width(); ++x)
                 image.setPixelColor(x, y, colorOf(x, y));
         }
-        // The platform tells the overlay where its own mouse is, sooner or later.
+        // The platform reports its own mouse position to the overlay sooner or later.
         QCursor::setPos(50, 60);
         _magnifier =
             std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60),
@@ -85,7 +85,7 @@ protected:
     std::vector<std::optional<QColor>> _answers;
 };
 
-TEST_F(MagnifierTest, picksWhereTheMouseWasAndGoesAway)
+TEST_F(MagnifierTest, picksAtTheMousePositionAndCloses)
 {
     key(Qt::Key_Return);
     EXPECT_THAT(_answers, ElementsAre()) << "answers come from the event loop";
@@ -120,7 +120,7 @@ TEST_F(MagnifierTest, stepsByOneOrTenPixels)
     EXPECT_THAT(answers(), ElementsAre(colorOf(50 - 1 + 10, 60 + 10 - 2)));
 }
 
-TEST_F(MagnifierTest, picksOnTheReleaseOfAPressThatItSaw)
+TEST_F(MagnifierTest, picksOnReleaseOnlyIfItSawThePress)
 {
     mouse(QEvent::MouseButtonRelease, {80, 90}, Qt::LeftButton);
     EXPECT_THAT(answers(), ElementsAre());
@@ -131,7 +131,7 @@ TEST_F(MagnifierTest, picksOnTheReleaseOfAPressThatItSaw)
     EXPECT_THAT(answers(), ElementsAre(colorOf(81, 92)));
 }
 
-TEST_F(MagnifierTest, aClickAfterStepsPicksWhereTheStepsLed)
+TEST_F(MagnifierTest, aClickAfterKeyStepsPicksThePixelSteppedTo)
 {
     mouse(QEvent::MouseMove, {80, 90});
     key(Qt::Key_Right);
@@ -140,25 +140,25 @@ TEST_F(MagnifierTest, aClickAfterStepsPicksWhereTheStepsLed)
     EXPECT_THAT(answers(), ElementsAre(colorOf(82, 90)));
 }
 
-TEST_F(MagnifierTest, leavesOnEscape)
+TEST_F(MagnifierTest, cancelsOnEscape)
 {
     key(Qt::Key_Escape);
     EXPECT_THAT(answers(), ElementsAre(std::nullopt));
 }
 
-TEST_F(MagnifierTest, leavesOnARightClick)
+TEST_F(MagnifierTest, cancelsOnARightClick)
 {
     click({80, 90}, Qt::RightButton);
     EXPECT_THAT(answers(), ElementsAre(std::nullopt));
 }
 
-TEST_F(MagnifierTest, leavesWhenItsWindowIsClosed)
+TEST_F(MagnifierTest, cancelsWhenItsWindowIsClosed)
 {
     overlay().close();
     EXPECT_THAT(answers(), ElementsAre(std::nullopt));
 }
 
-TEST_F(MagnifierTest, answersOnlyOnce)
+TEST_F(MagnifierTest, reportsOnlyOneResult)
 {
     key(Qt::Key_Return);
     key(Qt::Key_Escape);
@@ -167,7 +167,7 @@ TEST_F(MagnifierTest, answersOnlyOnce)
     EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
 }
 
-TEST_F(MagnifierTest, takesNoOtherButtonOrKeyForAPick)
+TEST_F(MagnifierTest, picksWithNoOtherButtonOrKey)
 {
     click({80, 90}, Qt::MiddleButton);
     for (const int code : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Shift, Qt::Key_F1})
@@ -199,7 +199,7 @@ TEST_F(MagnifierTest, theWheelChangesTheMagnification)
     EXPECT_TRUE(look() == larger);
 }
 
-TEST_F(MagnifierTest, tellsAssistiveProgramsItsNameAndTheHexCode)
+TEST_F(MagnifierTest, exposesItsNameAndTheHexCodeToAssistivePrograms)
 {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&overlay())->text(QAccessible::Name),
               QStringLiteral("Colour magnifier"));
@@ -210,7 +210,7 @@ TEST_F(MagnifierTest, tellsAssistiveProgramsItsNameAndTheHexCode)
     EXPECT_EQ(spokenDescription(), QStringLiteral("#020107")) << "with the key's step";
 }
 
-TEST_F(MagnifierTest, isSilentOnceItHasEnded)
+TEST_F(MagnifierTest, reportsNoResultOnceDestroyed)
 {
     key(Qt::Key_Return);
     _magnifier.reset();

@@ -18,7 +18,7 @@ struct Row {
 
 class PixelCursorTest : public testing::TestWithParam<Row> {};
 
-TEST_P(PixelCursorTest, stepsAsFarAsThereAreScreens)
+TEST_P(PixelCursorTest, stepsToTheEdgesOfTheScreens)
 {
     PixelCursor cursor(screens, GetParam().mouse);
     cursor.step(GetParam().step);
@@ -54,7 +54,7 @@ TEST(PixelCursor, followsTheMouse)
     EXPECT_TRUE(cursor.position() == QPoint(130, 70));
 }
 
-TEST(PixelCursor, keepsTheDistanceThatTheKeysHaveMade)
+TEST(PixelCursor, keepsTheOffsetMadeByKeys)
 {
     PixelCursor cursor(screens, {10, 10});
     cursor.step({3, 0});
@@ -64,7 +64,7 @@ TEST(PixelCursor, keepsTheDistanceThatTheKeysHaveMade)
     EXPECT_TRUE(cursor.position() == QPoint(14, 12));
 }
 
-TEST(PixelCursor, givesTheDistanceUpAtAnEdge)
+TEST(PixelCursor, dropsTheOffsetAtAnEdge)
 {
     PixelCursor cursor(screens, {10, 10});
     cursor.step({5, -3});
@@ -84,7 +84,7 @@ TEST(PixelCursor, doesNotLeaveTheScreensWithTheMouse)
     EXPECT_TRUE(cursor.position() == QPoint(98, 20)) << "the rest of the distance is gone";
 }
 
-TEST(PixelCursor, canStepAwayFromAMouseThatIsAtTheEdge)
+TEST(PixelCursor, canStepAwayFromAMouseAtTheEdge)
 {
     PixelCursor cursor(screens, {0, 20});
     cursor.step({4, 0});

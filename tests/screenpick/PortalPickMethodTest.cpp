@@ -53,7 +53,7 @@ protected:
     {
         EXPECT_TRUE(QTest::qWaitFor([this] { return _answers > 0; }, 20000));
     }
-    /// Long enough for what must not come.
+    /// Waits long enough to see that no answer comes.
     void waitInVain() { QTest::qWait(200); }
 
     /// Starts a pick and lets the portal answer it.
@@ -88,14 +88,14 @@ TEST_F(PortalPickMethodTest, takesTheColourFromEveryVersionSince2)
     }
 }
 
-TEST_F(PortalPickMethodTest, tellsThatTheUserCancelled)
+TEST_F(PortalPickMethodTest, reportsThatTheUserCancelled)
 {
     startPortal();
     pickWithAnswer({1U, QVariantMap{}});
     EXPECT_EQ(_outcome, Outcome(PickMethod::CancelledByUser{}));
 }
 
-TEST_F(PortalPickMethodTest, cutsChannelsOutsideTheRange)
+TEST_F(PortalPickMethodTest, clampsChannelsOutsideTheRange)
 {
     startPortal();
     constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -103,7 +103,7 @@ TEST_F(PortalPickMethodTest, cutsChannelsOutsideTheRange)
     EXPECT_EQ(_outcome, Outcome(opaque(0, 1, 1)));
 }
 
-TEST_F(PortalPickMethodTest, takesOnlyAColourForAnAnswer)
+TEST_F(PortalPickMethodTest, rejectsAnAnswerThatIsNotAColour)
 {
     const QString key = QStringLiteral("color");
     QDBusArgument two;
@@ -133,7 +133,7 @@ TEST_F(PortalPickMethodTest, takesOnlyAColourForAnAnswer)
     }
 }
 
-TEST_F(PortalPickMethodTest, findsAPortalThatCannotPick)
+TEST_F(PortalPickMethodTest, reportsAPortalThatCannotPick)
 {
     const std::optional<uint> versions[] = {std::nullopt, 0U, 1U};
     startPortal();
@@ -147,7 +147,7 @@ TEST_F(PortalPickMethodTest, findsAPortalThatCannotPick)
     EXPECT_EQ(_portal->calls, 0);
 }
 
-TEST_F(PortalPickMethodTest, tellsWhyTheCallFailed)
+TEST_F(PortalPickMethodTest, reportsWhyTheCallFailed)
 {
     const struct {
         QString error;
@@ -167,14 +167,14 @@ TEST_F(PortalPickMethodTest, tellsWhyTheCallFailed)
     }
 }
 
-TEST_F(PortalPickMethodTest, tellsThatThereIsNoPortal)
+TEST_F(PortalPickMethodTest, reportsThatThereIsNoPortal)
 {
     pick();
     waitForAnswer();
     EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("there is no desktop portal")}));
 }
 
-TEST_F(PortalPickMethodTest, tellsThatThereIsNoBus)
+TEST_F(PortalPickMethodTest, reportsThatThereIsNoBus)
 {
     _client = QDBusConnection(QStringLiteral("never connected"));
     pick();
@@ -183,7 +183,7 @@ TEST_F(PortalPickMethodTest, tellsThatThereIsNoBus)
     EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("there is no session bus")}));
 }
 
-TEST_F(PortalPickMethodTest, doesNotWaitForeverForAPortalThatIsStuck)
+TEST_F(PortalPickMethodTest, timesOutOnAPortalThatHangs)
 {
     startPortal();
     _portal->isSilent = true;
@@ -192,7 +192,7 @@ TEST_F(PortalPickMethodTest, doesNotWaitForeverForAPortalThatIsStuck)
     EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("the desktop portal does not answer")}));
 }
 
-TEST_F(PortalPickMethodTest, hearsAnAnswerThatComesBeforeTheCallReturns)
+TEST_F(PortalPickMethodTest, acceptsAnAnswerBeforeTheCallReturns)
 {
     startPortal();
     _portal->answersBeforeItReturns = true;
@@ -201,7 +201,7 @@ TEST_F(PortalPickMethodTest, hearsAnAnswerThatComesBeforeTheCallReturns)
     EXPECT_EQ(_outcome, Outcome(opaque(0, 1, 0)));
 }
 
-TEST_F(PortalPickMethodTest, hearsAPortalThatMakesUpItsHandles)
+TEST_F(PortalPickMethodTest, acceptsAPortalThatChoosesItsOwnHandles)
 {
     startPortal();
     _portal->makesUpItsHandles = true;
@@ -213,7 +213,7 @@ TEST_F(PortalPickMethodTest, hearsAPortalThatMakesUpItsHandles)
     EXPECT_EQ(_outcome, Outcome(opaque(1, 0, 0)));
 }
 
-TEST_F(PortalPickMethodTest, noticesThatThePortalHasGoneWhileItWaits)
+TEST_F(PortalPickMethodTest, noticesThatThePortalExitsDuringAPick)
 {
     startPortal();
     pick();
@@ -225,7 +225,7 @@ TEST_F(PortalPickMethodTest, noticesThatThePortalHasGoneWhileItWaits)
     EXPECT_EQ(_answers, 1);
 }
 
-TEST_F(PortalPickMethodTest, noticesThatTheBusHasGoneWhileItWaits)
+TEST_F(PortalPickMethodTest, noticesThatTheBusExitsDuringAPick)
 {
     startPortal();
     pick();
@@ -236,7 +236,7 @@ TEST_F(PortalPickMethodTest, noticesThatTheBusHasGoneWhileItWaits)
     EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("the session bus has gone")}));
 }
 
-TEST_F(PortalPickMethodTest, closesAtThePortalWhatItGivesUp)
+TEST_F(PortalPickMethodTest, closesTheRequestOfACancelledPick)
 {
     startPortal();
     pick();
@@ -251,7 +251,7 @@ TEST_F(PortalPickMethodTest, closesAtThePortalWhatItGivesUp)
     EXPECT_EQ(_answers, 0);
 }
 
-TEST_F(PortalPickMethodTest, closesAPickThatHadNoHandleYetWhenItWasGivenUp)
+TEST_F(PortalPickMethodTest, closesTheRequestOfAPickCancelledBeforeItHadAHandle)
 {
     startPortal();
     _portal->holdsHandleBack = true;
@@ -267,7 +267,7 @@ TEST_F(PortalPickMethodTest, closesAPickThatHadNoHandleYetWhenItWasGivenUp)
     EXPECT_EQ(_answers, 0);
 }
 
-TEST_F(PortalPickMethodTest, asksThePortalForNothingAfterItIsGivenUp)
+TEST_F(PortalPickMethodTest, makesNoCallsAfterACancelledPick)
 {
     startPortal();
     pick();
@@ -277,7 +277,7 @@ TEST_F(PortalPickMethodTest, asksThePortalForNothingAfterItIsGivenUp)
     EXPECT_EQ(_answers, 0);
 }
 
-TEST_F(PortalPickMethodTest, doesNotCloseWhatHasEnded)
+TEST_F(PortalPickMethodTest, doesNotCloseAFinishedRequest)
 {
     startPortal();
     pickWithAnswer({1U, QVariantMap{}});
@@ -286,7 +286,7 @@ TEST_F(PortalPickMethodTest, doesNotCloseWhatHasEnded)
     EXPECT_EQ(_portal->closedHandles, QStringList{});
 }
 
-TEST_F(PortalPickMethodTest, aSecondPickEndsTheFirstAndGetsItsOwnAnswer)
+TEST_F(PortalPickMethodTest, aSecondPickCancelsTheFirstAndGetsItsOwnAnswer)
 {
     startPortal();
     DesktopScreenPicker::Methods methods;

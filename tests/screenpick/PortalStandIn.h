@@ -6,14 +6,14 @@
 
 #include <optional>
 
-/// Stands at the desktop portal's place on a bus, and does what a test tells it.
+/// Replaces the desktop portal on a bus and answers as a test requires.
 class PortalStandIn final : public QDBusVirtualObject {
 public:
-    /// Takes the portal's name on that bus.
+    /// Registers the portal's name on that bus.
     explicit PortalStandIn(QDBusConnection bus);
 
-    // What it is like.
-    /// Empty: it has no such interface.
+    // Behaviour.
+    /// `std::nullopt` if the portal lacks the interface.
     std::optional<uint> version = 2;
     bool isSilent = false;
     bool holdsHandleBack = false;
@@ -21,7 +21,7 @@ public:
     bool makesUpItsHandles = false;
     QString errorOfPickColor;
 
-    // What it has seen.
+    // Recorded calls.
     int calls = 0;
     int versionCalls = 0;
     QString parentWindow;

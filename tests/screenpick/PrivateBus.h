@@ -4,17 +4,17 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// A message bus of a test's own, on which no service starts by itself.
+/// A private message bus for a test, without service activation.
 class PrivateBus {
 public:
     PrivateBus();
     ~PrivateBus();
 
     [[nodiscard]] bool isRunning() const { return !_address.isEmpty(); }
-    /// A connection of its own for each name.
+    /// Returns a separate connection for each name.
     [[nodiscard]] QDBusConnection connect(const QString& name);
     void disconnect(const QString& name);
-    /// Ends the bus under all that are connected.
+    /// Stops the bus while clients are connected.
     void stop();
 
 private:

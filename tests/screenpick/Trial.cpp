@@ -18,7 +18,7 @@ using namespace vantorel;
 
 namespace {
 
-/// Fills all screens with a picture in which the colour of every pixel tells its place.
+/// Fills all screens with a picture in which the colour of every pixel encodes its position.
 class PatternWindow final : public QWidget {
 public:
     PatternWindow() : QWidget(nullptr, Qt::Window | Qt::BypassWindowManagerHint)

@@ -12,7 +12,7 @@ namespace {
 using Array = PropertyList::Array;
 using Dictionary = PropertyList::Dictionary;
 
-TEST(QTXHexSettingsTest, ANewOneHasTheDefaults)
+TEST(QTXHexSettingsTest, NewSettingsHaveTheDefaults)
 {
     const QTXHexSettings settings;
     EXPECT_EQ(settings.entryForm(), EntryForm::uppercase);
@@ -25,7 +25,7 @@ TEST(QTXHexSettingsTest, ANewOneHasTheDefaults)
     EXPECT_EQ(settings.codeSnippetName(), std::nullopt);
 }
 
-TEST(QTXHexSettingsTest, TheDictionaryHasItsKeysInOrder)
+TEST(QTXHexSettingsTest, TheDictionaryKeysAreInOrder)
 {
     QTXHexSettings settings;
     settings.setCodeSnippetName(u"VBasic");
@@ -53,7 +53,7 @@ TEST(QTXHexSettingsTest, AFreshDictionaryHasNoSnippetsAndLoadsThem)
     EXPECT_EQ(loaded.codeSnippetName(), u"ObjC fraction");
 }
 
-TEST(QTXHexSettingsTest, EverySettingSurvives)
+TEST(QTXHexSettingsTest, EverySettingSurvivesARoundTrip)
 {
     QTXHexSettings settings;
     settings.setEntryForm(EntryForm::lowercase);
@@ -80,7 +80,7 @@ struct RingRow {
 
 class RingCountTest : public testing::TestWithParam<RingRow> {};
 
-TEST_P(RingCountTest, ReadsAsTheIntegerAtTheStart)
+TEST_P(RingCountTest, IsReadFromTheLeadingInteger)
 {
     QTXHexSettings settings;
     settings.loadPropertyListRepresentation(
@@ -137,7 +137,7 @@ TEST(QTXHexSettingsTest, ACopyKeepsTheOddRules)
     EXPECT_EQ(copy.nColorCubeRings(), 5);
 }
 
-TEST(QTXHexSettingsTest, TheFirstSnippetOfTheNameIsTheChosenOne)
+TEST(QTXHexSettingsTest, TheFirstSnippetWithTheNameIsSelected)
 {
     QTXHexSettings settings;
     settings.setCodeSnippets(
@@ -148,7 +148,7 @@ TEST(QTXHexSettingsTest, TheFirstSnippetOfTheNameIsTheChosenOne)
     EXPECT_EQ(settings.codeSnippet().nameSnippet(), u"ObjC fraction");
 }
 
-TEST(QTXHexSettingsTest, TheSnippetNamesOfTheProcessAreThoseOfTheFirstCall)
+TEST(QTXHexSettingsTest, TheFirstCallFixesTheSnippetNamesOfTheProcess)
 {
     QTXHexSettings settings;
     const auto names = settings.codeSnippetNames();

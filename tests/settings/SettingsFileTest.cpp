@@ -10,7 +10,7 @@ namespace {
 const std::string folder = "/home/user/.local/share/Vantorel";
 const std::string file = folder + "/Settings.plist";
 
-TEST(SettingsFileTest, TheFirstStartMakesFolderAndFile)
+TEST(SettingsFileTest, TheFirstStartCreatesFolderAndFile)
 {
     MemoryFiles files;
     QTXHexSettings settings;
@@ -19,7 +19,7 @@ TEST(SettingsFileTest, TheFirstStartMakesFolderAndFile)
     EXPECT_TRUE(settings.codeSnippets().empty()) << "what was made is not read back";
 }
 
-TEST(SettingsFileTest, AFileThatIsThereIsLoaded)
+TEST(SettingsFileTest, AnExistingFileIsLoaded)
 {
     MemoryFiles files;
     files.createDirectory(folder);
@@ -30,7 +30,7 @@ TEST(SettingsFileTest, AFileThatIsThereIsLoaded)
     EXPECT_EQ(files.contentsAtPath(file), "{ NColorCubeRings = 5; }");
 }
 
-TEST(SettingsFileTest, AFileInTheFoldersPlaceLeavesAllAsItIs)
+TEST(SettingsFileTest, AFileInPlaceOfTheFolderIsLeftAlone)
 {
     MemoryFiles files;
     files.writeAtomically(folder, "in the way");
@@ -41,7 +41,7 @@ TEST(SettingsFileTest, AFileInTheFoldersPlaceLeavesAllAsItIs)
     EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
 }
 
-TEST(SettingsFileTest, WithoutAPlaceForDataNothingHappens)
+TEST(SettingsFileTest, WithoutADataFolderNoFileIsWritten)
 {
     MemoryFiles files(std::nullopt);
     QTXHexSettings settings;
@@ -63,7 +63,7 @@ TEST(SettingsFileTest, FailingWritesAreIgnored)
 
 class DamagedSettingsTest : public testing::TestWithParam<std::string> {};
 
-TEST_P(DamagedSettingsTest, CountAsAnEmptyDictionary)
+TEST_P(DamagedSettingsTest, AreReadAsAnEmptyDictionary)
 {
     MemoryFiles files;
     files.createDirectory(folder);

@@ -32,7 +32,7 @@ const std::array flagSets{"", "-", "+", " ", "0", "#", "-0", "+0", " 0", "#0", "
 const std::array widths{"", "1", "7", "20"};
 const std::array precisions{"", ".", ".0", ".3", ".12"};
 
-TEST(FormatStringTest, WholeNumbersReadAsInC)
+TEST(FormatStringTest, IntegersAreReadAsInC)
 {
     const std::array<std::uint64_t, 8> values{0,          1,          42,         255,
                                               0x7FFFFFFF, 0x80000000, 0xFFFF8000, 0xFF123456};
@@ -53,7 +53,7 @@ TEST(FormatStringTest, WholeNumbersReadAsInC)
     }
 }
 
-TEST(FormatStringTest, RealNumbersReadAsInC)
+TEST(FormatStringTest, RealNumbersAreReadAsInC)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     const std::array values{0.0,  -0.0, 1.0,  0.5019607843137255, 1.0 / 3,  123456.789, 100000.0,
@@ -91,7 +91,7 @@ struct HostileRow {
 
 class HostileFormatTest : public testing::TestWithParam<HostileRow> {};
 
-TEST_P(HostileFormatTest, RendersHarmlessly)
+TEST_P(HostileFormatTest, IsRenderedHarmlessly)
 {
     const std::array<FormatArgument, 2> arguments{std::uint64_t{7}, 0.5};
     EXPECT_EQ(utf8FromUtf16(formatted(utf16FromUtf8(GetParam().format), arguments)),

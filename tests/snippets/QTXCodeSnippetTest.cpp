@@ -48,17 +48,17 @@ TEST(QTXCodeSnippetTest, TheBuiltInSnippetsRenderInTheirOrder)
     EXPECT_EQ(&QTXCodeSnippet::buildDefaultCodeSnippets(), &snippets);
 }
 
-TEST(QTXCodeSnippetTest, LoadingSetsOnlyTheKeysThatAreThere)
+TEST(QTXCodeSnippetTest, LoadingSetsOnlyTheKeysPresent)
 {
     QTXCodeSnippet snippet(u"a", u"b", u"c");
     PropertyList onlyName(PropertyList::Dictionary{});
     onlyName.setValue(u"new", u"NameSnippet");
-    onlyName.setValue(PropertyList::Array{}, u"FormatSnippet");  // of the wrong kind: not there
+    onlyName.setValue(PropertyList::Array{}, u"FormatSnippet");  // wrong kind: missing
     snippet.loadPropertyListRepresentation(onlyName);
     EXPECT_EQ(snippet, QTXCodeSnippet(u"new", u"b", u"c"));
 }
 
-TEST(QTXCodeSnippetTest, SurvivesItsPropertyList)
+TEST(QTXCodeSnippetTest, SurvivesARoundTripThroughAPropertyList)
 {
     for (const QTXCodeSnippet& snippet : QTXCodeSnippet::buildDefaultCodeSnippets()) {
         QTXCodeSnippet loaded;
@@ -67,7 +67,7 @@ TEST(QTXCodeSnippetTest, SurvivesItsPropertyList)
     }
 }
 
-TEST(QTXCodeSnippetTest, AnUnknownFormDoesNotTouchTheFormat)
+TEST(QTXCodeSnippetTest, AnUnknownTypeIsRenderedAsQuestionMarks)
 {
     EXPECT_EQ(QTXCodeSnippet(u"x", u"%n", u"RGBFixed").codeSnippetWithColorSpec(orange()), u"??");
     EXPECT_EQ(QTXCodeSnippet().codeSnippetWithColorSpec(orange()), u"??");

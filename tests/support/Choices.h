@@ -8,7 +8,7 @@
 
 namespace vantorel {
 
-/// What decides for a user that does anything: chance, or the input of a fuzzer.
+/// Makes the decisions of a simulated user: at random or from the input of a fuzzer.
 class Choices {
 public:
     Choices() = default;
@@ -20,12 +20,12 @@ public:
     [[nodiscard]] virtual std::uint64_t integer(std::uint64_t from, std::uint64_t to) = 0;
     /// 0..1
     [[nodiscard]] virtual double fraction() = 0;
-    /// At most `most` of them, of any value.
+    /// Up to `most` bytes of any value.
     [[nodiscard]] virtual std::string bytes(std::size_t most) = 0;
 
     [[nodiscard]] bool oneIn(std::uint64_t count) { return integer(1, count) == 1; }
     [[nodiscard]] double between(double from, double to) { return from + fraction() * (to - from); }
-    /// Of a range that is not empty.
+    /// An element of a range, which must not be empty.
     template <class Range>
     [[nodiscard]] const auto& oneOf(const Range& range)
     {
@@ -34,7 +34,7 @@ public:
     }
 };
 
-/// Chance that can be repeated.
+/// Reproducible random choices.
 class RandomChoices final : public Choices {
 public:
     explicit RandomChoices(std::uint64_t seed) : _engine(seed) {}

@@ -1,15 +1,15 @@
-// A library to preload: makes one of the system calls fail that a program makes on the files of a
-// folder, so that a test can go through all of them.
+// A library to preload. It makes one of a program's system calls on the files of a folder fail, so
+// that a test can go through all of them.
 //
 //     FAILING_CALLS_FOLDER   calls on paths below it, and on files opened there, count from 1
-//     FAILING_CALLS_REPORT   a file that gets a line for each: its name and path
-//     FAILING_CALLS_AT       the number of the call that fails; none when it is missing
-//     FAILING_CALLS_HOW      an error number, "short" for a write of half the bytes whose rest
-//                            fails for want of room, "kill" for the end of the process in place of
-//                            the call, or "kill-short" for that after half of a write
-//     FAILING_CALLS_ON       "1" when all later calls that change something fail, too
+//     FAILING_CALLS_REPORT   a file to which the name and path of each call are written
+//     FAILING_CALLS_AT       the number of the call that fails; if unset, none fails
+//     FAILING_CALLS_HOW      an error number; "short" to write half the bytes and then fail as
+//                            on a full disk; "kill" to end the process instead of the call; or
+//                            "kill-short" to end it after half a write
+//     FAILING_CALLS_ON       "1" to make all later calls that change something fail too
 //
-// Errors are those of the process, so it is told by them alone what has happened.
+// The process sees failures only through the error numbers.
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -46,7 +46,7 @@ struct Plan {
         goesOn = value("FAILING_CALLS_ON") == "1";
         const std::string path = value("FAILING_CALLS_REPORT");
         if (path.empty()) return;
-        // Out of the way of the numbers that programs expect.
+        // Above the numbers that programs expect.
         const long file = ::syscall(SYS_openat, AT_FDCWD, path.c_str(),
                                     O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
         report = static_cast<int>(::syscall(SYS_fcntl, file, F_DUPFD_CLOEXEC, 500));
@@ -76,7 +76,7 @@ bool isInFolder(const std::string& path)
            (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-/// The path of an open file; empty for what has none.
+/// The path of an open file; empty if it has none.
 std::string pathOf(int file)
 {
     std::array<char, PATH_MAX> target{};
@@ -128,7 +128,7 @@ bool fails(const char* call, const std::string& path, Effect effect)
     return fateOf(call, path, effect) != Fate::goesThrough;
 }
 
-/// An absolute path for one that is relative to an open folder.
+/// The absolute form of a path relative to an open folder.
 std::string absolutePath(int folder, const char* path)
 {
     if (path == nullptr) return {};

@@ -4,10 +4,10 @@
 
 namespace vantorel {
 
-/// A user's files in memory, of which one call fails as a disk's calls do.
+/// In-memory files of a user on which one call fails as it would on a disk.
 class FailingFiles final : public MemoryFiles {
 public:
-    /// Calls count from 1, anew; 0 for none.
+    /// Restarts the count of calls at 1 and makes this call fail; 0 for none.
     void failAt(int number)
     {
         _calls = 0;

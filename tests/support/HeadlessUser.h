@@ -5,16 +5,16 @@
 
 namespace vantorel {
 
-/// A user with a colour panel without a screen, who does anything that a user and a panel can do to
-/// a picker.
+/// A simulated user of a colour panel without a screen, who does anything that a user and a panel
+/// can do to a picker.
 class HeadlessUser {
 public:
     /// `choices` must outlive the user.
     explicit HeadlessUser(Choices& choices);
 
-    /// Does one thing.
+    /// Performs one random action.
     void act();
-    /// Whether a colour of the panel still shows in the fields, as it must after anything.
+    /// Whether the fields still show a colour set on the panel, as they must after any action.
     [[nodiscard]] bool panelWorks();
 
 private:

@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// Sets and unsets environment variables; the end of its life brings the old values back.
+/// Sets and unsets environment variables; the destructor restores the old values.
 class ScopedEnvironment {
 public:
     ScopedEnvironment() = default;
@@ -19,7 +19,7 @@ public:
             put(name, value);
     }
 
-    /// Nothing unsets the variable.
+    /// Pass `std::nullopt` to unset the variable.
     void set(const std::string& name, const std::optional<std::string>& value)
     {
         const char* before = std::getenv(name.c_str());

@@ -28,7 +28,7 @@ const Class classes[] = {
     {"blank", isBlank<char32_t>, "\t "},
 };
 
-TEST(ASCIITest, AClassHasItsMembersAndNoOthers)
+TEST(ASCIITest, EachClassHasExactlyItsMembers)
 {
     for (const Class& each : classes) {
         for (char32_t c = 0; c < 0x20000; ++c) {
@@ -70,7 +70,7 @@ TEST(ASCIITest, ControlsAreThoseBelowSpaceAndDelete)
         ASSERT_EQ(isControl(c), c < 0x20 || c == 0x7F) << static_cast<std::uint32_t>(c);
 }
 
-TEST(ASCIITest, OnlyASCIILettersHaveAnotherCase)
+TEST(ASCIITest, OnlyASCIILettersChangeCase)
 {
     for (char32_t c = 0; c < 0x20000; ++c) {
         const std::size_t asUpper = c < 0x80 ? upper.find(static_cast<char>(c)) : upper.npos;
@@ -83,7 +83,7 @@ TEST(ASCIITest, OnlyASCIILettersHaveAnotherCase)
     }
 }
 
-TEST(ASCIITest, WholeTextsChangeTheirCase)
+TEST(ASCIITest, WholeTextsChangeCase)
 {
     EXPECT_EQ(lowerCased(std::string("Az09-\xC3\x84")), "az09-\xC3\x84");
     EXPECT_EQ(upperCased(std::u16string(u"aZ09-\u00E4\u0131")), u"AZ09-\u00E4\u0131");
@@ -96,7 +96,7 @@ struct Pair {
     bool areEqual;
 };
 
-TEST(ASCIITest, TextsAreComparedWithoutTheirCase)
+TEST(ASCIITest, TextsAreComparedIgnoringCase)
 {
     using namespace std::string_view_literals;
     const Pair pairs[] = {

@@ -44,13 +44,13 @@ TEST(DecimalsTest, RealNumbersAreWrittenWithTheirDecimals)
         {1, 3, "1.000", "1"},
         {100, 0, "100", "100"},
         {100, 2, "100.00", "100"},
-        {0.5, 0, "0", "0"},  // to the even one
+        {0.5, 0, "0", "0"},  // rounded to even
         {1.5, 0, "2", "2"},
         {0.125, 2, "0.12", "0.12"},
         {0.375, 2, "0.38", "0.38"},
         {0.999, 2, "1.00", "1"},
         {12.340, 5, "12.34000", "12.34"},
-        {10.05, 1, "10.1", "10.1"},  // what is stored lies above
+        {10.05, 1, "10.1", "10.1"},  // the stored double is slightly larger
         {1e17, 1, "100000000000000000.0", "100000000000000000"},
         {1, -5, "1", "1"},
     };
@@ -82,7 +82,7 @@ TEST(DecimalsTest, WholeNumbersAreRead)
     EXPECT_EQ(wholeNumber<std::uint8_t>("255"), 255);
 }
 
-TEST(DecimalsTest, NothingElseIsAWholeNumber)
+TEST(DecimalsTest, OtherTextsAreNotWholeNumbers)
 {
     using namespace std::string_view_literals;
     for (const std::string_view text :
@@ -95,14 +95,14 @@ TEST(DecimalsTest, NothingElseIsAWholeNumber)
     EXPECT_EQ(wholeNumber<std::uint8_t>("256"), std::nullopt);
 }
 
-TEST(DecimalsTest, NumbersOfNamesAreRead)
+TEST(DecimalsTest, NumbersInNamesAreRead)
 {
     EXPECT_EQ(nameNumber(u"1"), 1);
     EXPECT_EQ(nameNumber(u"20"), 20);
     EXPECT_EQ(nameNumber(u"999999999"), 999'999'999);
 }
 
-TEST(DecimalsTest, NothingElseIsTheNumberOfAName)
+TEST(DecimalsTest, OtherTextsAreNotNumbersInNames)
 {
     for (const std::u16string_view text : {u"", u"0", u"01", u"-1", u"+1", u" 1", u"1 ", u"1a",
                                            u"1000000000", u"\u0661", u"\uFF11", u"\u0131"}) {

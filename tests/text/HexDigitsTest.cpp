@@ -22,7 +22,7 @@ TEST(HexDigitsTest, DigitsHaveTheirValues)
     }
 }
 
-TEST(HexDigitsTest, NoOtherUnitIsADigit)
+TEST(HexDigitsTest, OtherUnitsAreNotDigits)
 {
     int digits = 0;
     for (int c = 0; c <= 0xFFFF; ++c)
@@ -38,9 +38,9 @@ TEST(HexDigitsTest, NoOtherUnitIsADigit)
         EXPECT_EQ(hexDigitValue(static_cast<char>(byte)), notAHexDigit);
 }
 
-TEST(HexDigitsTest, WhatIsNoDigitShowsInASum)
+TEST(HexDigitsTest, AnInvalidDigitShowsInTheCombinedValue)
 {
-    // Readers of many digits test them all at once.
+    // Readers of several digits check them all at once.
     for (const char digit : {'0', '7', 'f'})
         EXPECT_GT(hexDigitValue(digit) | hexDigitValue('x'), 15);
 }
@@ -96,7 +96,7 @@ TEST(HexDigitsTest, ColorsAreWritten)
     EXPECT_EQ(wide, u"#00A9FF");
 }
 
-TEST(HexDigitsTest, AConstantCanBeRead)
+TEST(HexDigitsTest, DigitsCanBeReadAtCompileTime)
 {
     static_assert(hexDigitValue('c') == 12);
     static_assert(hexDigits(HexCase::upper)[12] == 'C');

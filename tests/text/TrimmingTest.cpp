@@ -19,7 +19,7 @@ struct Row {
     std::string_view trimmed;
 };
 
-TEST(TrimmingTest, WhatCountsAsBlankIsTakenFromTheSides)
+TEST(TrimmingTest, BlanksAreTrimmedFromBothEnds)
 {
     const Row rows[] = {
         {"", "", "", ""},
@@ -39,7 +39,7 @@ TEST(TrimmingTest, WhatCountsAsBlankIsTakenFromTheSides)
     }
 }
 
-TEST(TrimmingTest, SpacesAndTabsAreTakenFromTheSides)
+TEST(TrimmingTest, SpacesAndTabsAreTrimmedFromBothEnds)
 {
     EXPECT_EQ(trimmed(" \t a\tb \t"sv), "a\tb");
     EXPECT_EQ(trimmed(u" \t a\tb \t"sv), u"a\tb");
@@ -49,13 +49,13 @@ TEST(TrimmingTest, SpacesAndTabsAreTakenFromTheSides)
         EXPECT_EQ(trimmed(text), text);
 }
 
-TEST(TrimmingTest, WhatIsLeftIsAPartOfTheText)
+TEST(TrimmingTest, TheResultIsAViewIntoTheText)
 {
     const std::string_view text = "  a  ";
     EXPECT_EQ(trimmed(text).data(), text.data() + 2);
 }
 
-TEST(TrimmingTest, NamesFitOnALine)
+TEST(TrimmingTest, NamesAreTidiedToOneLine)
 {
     const std::pair<std::u16string_view, std::u16string_view> rows[] = {
         {u"", u""},

@@ -69,7 +69,7 @@ TEST(UnicodeTest, TheBoundariesOfEachLengthConvert)
     }
 }
 
-TEST(UnicodeTest, WhatIsNoCharacterIsAppendedAsAReplacement)
+TEST(UnicodeTest, AnInvalidCodePointIsAppendedAsAReplacement)
 {
     for (const char32_t character : {0xD800U, 0xDBFFU, 0xDC00U, 0xDFFFU, 0x110000U, 0xFFFFFFFFU}) {
         std::u16string text;

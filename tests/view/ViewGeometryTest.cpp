@@ -12,7 +12,7 @@ namespace {
 
 constexpr HostRect bounds{0, 0, 240, 194};
 
-TEST(SliderGeometryTest, EveryCellIsFoundAtItsCornerAndItsMiddle)
+TEST(SliderGeometryTest, EveryCellIsFoundAtItsCornerAndCentre)
 {
     const HostRect matrix = sliderMatrixRect(bounds);
     const HostSize size = sliderCellSize(matrix);
@@ -28,7 +28,7 @@ TEST(SliderGeometryTest, EveryCellIsFoundAtItsCornerAndItsMiddle)
     }
 }
 
-TEST(SliderGeometryTest, GapsAndOutsideHoldNothing)
+TEST(SliderGeometryTest, GapsAndTheOutsideContainNoCell)
 {
     const HostRect matrix = sliderMatrixRect(bounds);
     const HostSize size = sliderCellSize(matrix);
@@ -70,7 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
                     GridRow{5, {1, 1000}, 5, 1}, GridRow{1, {50, 50}, 1, 1},
                     GridRow{3, {-5, 10}, 3, 1}, GridRow{0, {50, 50}, 0, 0}));
 
-TEST(PaletteGeometryTest, AClickInTheMiddleOfASwatchMeansIt)
+TEST(PaletteGeometryTest, AClickAtTheCentreOfASwatchSelectsIt)
 {
     const HostSize rect{234, 185};
     for (const std::size_t count : {17U, 146U, 216U}) {
@@ -82,7 +82,7 @@ TEST(PaletteGeometryTest, AClickInTheMiddleOfASwatchMeansIt)
     }
 }
 
-TEST(PaletteGeometryTest, NoIndexIsMadeOfNothing)
+TEST(PaletteGeometryTest, EmptyGridsAndImpossiblePointsHaveNoIndex)
 {
     EXPECT_FALSE(paletteIndexAtPoint({}, {1, 1}, 100));
     const PaletteGrid grid = paletteGrid(17, {100, 100});
@@ -96,7 +96,7 @@ protected:
     WheelPlace _place = wheelPlace({234, 185}, GetParam());
 };
 
-TEST_P(WheelTest, CellsTileTheHexagonAndEachCentroidPicksItsOwn)
+TEST_P(WheelTest, CellsTileTheHexagonAndEachCentroidPicksItsCell)
 {
     const auto cells = wheelCells(_place);
     EXPECT_EQ(cells.size(), static_cast<std::size_t>(6 * GetParam() * GetParam()));
@@ -113,7 +113,7 @@ TEST_P(WheelTest, CellsTileTheHexagonAndEachCentroidPicksItsOwn)
     EXPECT_NEAR(area, 3.0 * GetParam() * GetParam() * _place.unit * _place.unit, 1e-6);
 }
 
-TEST_P(WheelTest, JustOutsideTheHexagonIsNothing)
+TEST_P(WheelTest, APointJustOutsideTheHexagonIsInNoCell)
 {
     const auto outline = wheelOutline(_place);
     EXPECT_FALSE(wheelCellAtPoint(_place, {outline[0].x - 0.01, _place.center.y}));
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Rings, WheelColorsTest,
                                          RingRow{8, 2, 66, 0}, RingRow{4, 4, 255, 0},
                                          RingRow{4, 3, 255, 128}, RingRow{4, 2, 128, 0}));
 
-TEST(WheelGeometryTest, TheMiddleIsSixGreys)
+TEST(WheelGeometryTest, TheCentreIsSixGreys)
 {
     const auto cells = wheelCells(wheelPlace({200, 200}, 4));
     const std::array greys{192, 255, 0, 48, 96, 144};
@@ -160,7 +160,7 @@ TEST(WheelGeometryTest, TheMiddleIsSixGreys)
     }
 }
 
-TEST(WheelGeometryTest, StoredRingCountsAreClampedWhereTheyAreDrawn)
+TEST(WheelGeometryTest, StoredRingCountsAreClampedWhenDrawn)
 {
     EXPECT_EQ(drawnRingCount(0), 2);
     EXPECT_EQ(drawnRingCount(-5), 2);

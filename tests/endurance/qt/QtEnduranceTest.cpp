@@ -13,18 +13,18 @@ namespace {
 
 class QtEnduranceTest : public PanelWindowFixture {};
 
-/// Without those of threads: the toolkit paints large gradients in some, which end when they have
-/// had nothing to do for a while.
+/// Leaves out threads: the toolkit paints large gradients in threads that end after some idle
+/// time.
 std::vector<std::string> handlesButOfThreads(std::vector<std::string> handles)
 {
     std::erase(handles, "anon_inode:[eventfd]");
     return handles;
 }
 
-TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
+TEST_F(QtEnduranceTest, MemoryDoesNotGrowWhateverTheUserDoes)
 {
-    // The toolkit keeps the swatches of past colours up to a limit, which is so far away that a
-    // short run only sees it come nearer.
+    // The toolkit caches the swatches of past colours up to a limit that a short run does not
+    // reach.
     QPixmapCache::setCacheLimit(100);
     // The first pick from the screen would start the bus connection's thread, which stays.
     QDBusConnection::sessionBus();
@@ -39,7 +39,7 @@ TEST_F(QtEnduranceTest, MemoryStaysAsItIsWhateverTheUserDoes)
             _window->resizeToPage({260, 340});
             QApplication::processEvents();
         });
-    // Caches of the toolkit fill in this time, however long it takes: glyphs, sizes of text.
+    // Lets the toolkit's caches of glyphs and text sizes fill, however long that takes.
     EXPECT_LT(run.growth(), 4e6);
     const std::vector<std::string> handles = handlesButOfThreads(run.handlesAfter);
     EXPECT_EQ(handles, handlesButOfThreads(run.handlesBefore));

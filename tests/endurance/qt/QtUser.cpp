@@ -51,7 +51,7 @@ QtUser::QtUser(PanelWindow& window, Choices& choices) : _window(window), _choice
 void QtUser::act()
 {
     _inLoops.start();
-    // What is done on the page of palettes makes them larger, and so the memory that they need.
+    // Edits on the Palettes page make the lists larger, and with them the memory in use.
     const bool mayEdit = _window.pages().currentPicker() != nullptr;
     constexpr std::uint64_t lastOfAll = 13;
     constexpr std::uint64_t lastThatEditsNothing = 6;
@@ -134,7 +134,7 @@ HostColor QtUser::color()
 void QtUser::press(QWidget& target)
 {
     _pressed = &target;
-    // Some views follow the mouse in a loop of their own; then actInLoop lets it go.
+    // Some views track the mouse in their own event loop; actInLoop then releases it.
     QTest::mousePress(
         &target, Qt::LeftButton, modifiersFrom(_choices),
         target.rect().center() / 2 + QPoint(static_cast<int>(_choices.integer(0, 99)),

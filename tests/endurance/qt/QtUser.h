@@ -7,14 +7,14 @@
 
 namespace vantorel {
 
-/// A user with the panel's window, who does anything with mouse, keyboard, clipboard and drops but
-/// leave the panel.
+/// A simulated user of the panel's window who does anything with mouse, keyboard, clipboard and
+/// drops except leave the panel.
 class QtUser {
 public:
     /// Both must outlive the user.
     QtUser(PanelWindow& window, Choices& choices);
 
-    /// Does one thing.
+    /// Performs one random action.
     void act();
 
 private:
@@ -25,7 +25,7 @@ private:
     void pressKey();
     void drop();
     void resize();
-    /// In loops of their own, such as a menu's, that the last thing has begun.
+    /// Acts in a nested event loop, such as a menu's, started by the last action.
     void actInLoop();
     void handlePopUp(QWidget& popUp);
     [[nodiscard]] QPoint placeIn(const QWidget& widget);
@@ -35,7 +35,7 @@ private:
     PanelWindow& _window;
     Choices& _choices;
     QTimer _inLoops;
-    /// Where the mouse is down.
+    /// The widget in which the mouse is pressed.
     QWidget* _pressed = nullptr;
 };
 

@@ -1,12 +1,11 @@
-// Changes lists and settings on the real disk, as a panel does, for tests that make that fail.
+// Changes lists and settings on the real disk, as a panel does, for tests that make calls fail.
 //
 //     list-changes FOLDER make NAME SHADE | change NAME SHADE | rename NAME NEW | remove NAME
 //     list-changes FOLDER settings RINGS
 //     list-changes FOLDER keep-on SHADE    (all of these in turn, until it is killed)
 //
-// FOLDER is that of the user's data. A list has `entryCount` colours of one shade, so that a file
-// that holds others than that has been mixed from two, or cut. Ends with 1 where a step was not
-// done.
+// FOLDER is the user's data folder. A list has `entryCount` colours of one shade: a file with
+// anything else has been mixed from two or truncated. Exits with 1 if a step failed.
 
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/PosixFiles.h"

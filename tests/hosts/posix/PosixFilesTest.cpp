@@ -43,7 +43,7 @@ protected:
     PosixFiles _files{"/nowhere"};
 };
 
-TEST_F(PosixFilesTest, WritesTheWholeFileForTheUserAlone)
+TEST_F(PosixFilesTest, WritesAWholeFileThatOnlyTheUserCanRead)
 {
     const std::string bytes("a\0b", 3);
     EXPECT_TRUE(_files.writeAtomically(inFolder("file"), bytes));
@@ -52,7 +52,7 @@ TEST_F(PosixFilesTest, WritesTheWholeFileForTheUserAlone)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"file"});
 }
 
-TEST_F(PosixFilesTest, AReplacedFileHandsItsPermissionsOn)
+TEST_F(PosixFilesTest, ReplacingAFileKeepsItsPermissions)
 {
     _files.writeAtomically(inFolder("file"), "old");
     ::chmod(inFolder("file").c_str(), 0644);
@@ -61,7 +61,7 @@ TEST_F(PosixFilesTest, AReplacedFileHandsItsPermissionsOn)
     EXPECT_EQ(_files.contentsAtPath(inFolder("file")), "new");
 }
 
-TEST_F(PosixFilesTest, ALinkIsFollowedAndStays)
+TEST_F(PosixFilesTest, ALinkIsFollowedAndKept)
 {
     fs::create_directory(inFolder("elsewhere"));
     fs::create_symlink("elsewhere/target", inFolder("link"));
@@ -70,7 +70,7 @@ TEST_F(PosixFilesTest, ALinkIsFollowedAndStays)
     EXPECT_EQ(_files.contentsAtPath(inFolder("elsewhere/target")), "text");
 }
 
-TEST_F(PosixFilesTest, NothingIsLeftOfAWriteThatFails)
+TEST_F(PosixFilesTest, AFailedWriteLeavesNoFile)
 {
     fs::create_directory(inFolder("place"));
     EXPECT_FALSE(_files.writeAtomically(inFolder("place"), "text"));
@@ -78,7 +78,7 @@ TEST_F(PosixFilesTest, NothingIsLeftOfAWriteThatFails)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"place"});
 }
 
-TEST_F(PosixFilesTest, AFullDiskLeavesTheOldBytes)
+TEST_F(PosixFilesTest, AFullDiskLeavesTheOldContents)
 {
     ASSERT_TRUE(_files.writeAtomically(inFolder("file"), "old"));
     rlimit before{};
@@ -94,7 +94,7 @@ TEST_F(PosixFilesTest, AFullDiskLeavesTheOldBytes)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), std::vector<std::string>{"file"});
 }
 
-TEST_F(PosixFilesTest, LinksInACircleAreNotReplaced)
+TEST_F(PosixFilesTest, CircularLinksAreNotReplaced)
 {
     fs::create_symlink("b", inFolder("a"));
     fs::create_symlink("a", inFolder("b"));
@@ -104,7 +104,7 @@ TEST_F(PosixFilesTest, LinksInACircleAreNotReplaced)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), (std::vector<std::string>{"a", "b"}));
 }
 
-TEST_F(PosixFilesTest, AFileIsReadWholeUpToTheLargest)
+TEST_F(PosixFilesTest, AFileIsReadWholeUpToTheSizeLimit)
 {
     std::ofstream(inFolder("file")) << "x";
     std::error_code error;
@@ -117,7 +117,7 @@ TEST_F(PosixFilesTest, AFileIsReadWholeUpToTheLargest)
     EXPECT_EQ(_files.contentsAtPath(inFolder("file")), std::nullopt);
 }
 
-TEST_F(PosixFilesTest, APipeIsNotWaitedFor)
+TEST_F(PosixFilesTest, APipeDoesNotBlock)
 {
     ASSERT_EQ(::mkfifo(inFolder("pipe").c_str(), 0600), 0);
     EXPECT_EQ(_files.contentsAtPath(inFolder("pipe")), std::nullopt);
@@ -125,7 +125,7 @@ TEST_F(PosixFilesTest, APipeIsNotWaitedFor)
     EXPECT_EQ(_files.contentsAtPath(inFolder("missing")), std::nullopt);
 }
 
-TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndTheFolder)
+TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndItsFolder)
 {
     EXPECT_EQ(_files.versionAtPath(inFolder("file")), 0U);
     const auto empty = _files.versionAtPath(_folder);
@@ -143,7 +143,7 @@ TEST_F(PosixFilesTest, TheVersionChangesWithTheFileAndTheFolder)
     EXPECT_NE(_files.versionAtPath(inFolder("file")), second);
 }
 
-TEST_F(PosixFilesTest, TheIdentityTellsWhatLinksLeadTo)
+TEST_F(PosixFilesTest, TheIdentityIsThatOfTheLinkTarget)
 {
     _files.writeAtomically(inFolder("file"), "a");
     _files.writeAtomically(inFolder("equal"), "a");
@@ -162,7 +162,7 @@ TEST_F(PosixFilesTest, TheIdentityTellsWhatLinksLeadTo)
     EXPECT_EQ(_files.identityAtPath(inFolder("missing")), "");
 }
 
-TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
+TEST_F(PosixFilesTest, FoldersAreCreatedOneAtATime)
 {
     EXPECT_FALSE(_files.createDirectory(inFolder("a/b")));
     EXPECT_TRUE(_files.createDirectory(inFolder("a")));
@@ -171,7 +171,7 @@ TEST_F(PosixFilesTest, FoldersAreMadeOneAtATime)
     EXPECT_EQ(_files.kindAtPath(inFolder("a")), HostFileKind::folder);
 }
 
-TEST_F(PosixFilesTest, TheUsersDataIsWhereTheBaseDirectoriesSay)
+TEST_F(PosixFilesTest, UserDataFollowsTheBaseDirectories)
 {
     ScopedEnvironment environment;
     environment.set("XDG_DATA_HOME", inFolder("data/deep"));

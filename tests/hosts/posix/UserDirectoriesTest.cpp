@@ -11,7 +11,7 @@ namespace {
 using Paths = std::vector<std::string>;
 using Value = std::optional<std::string>;
 
-TEST(UserDirectoriesTest, AVariableWithoutAnAbsolutePathMeansItsDefault)
+TEST(UserDirectoriesTest, AVariableWithoutAnAbsolutePathIsIgnored)
 {
     ScopedEnvironment environment;
     environment.set("HOME", "/home/me");
@@ -29,7 +29,7 @@ TEST(UserDirectoriesTest, AVariableWithoutAnAbsolutePathMeansItsDefault)
     }
 }
 
-TEST(UserDirectoriesTest, TheVariablesCountInTheirOrder)
+TEST(UserDirectoriesTest, VariablesAreUsedInOrderOfPrecedence)
 {
     ScopedEnvironment environment;
     environment.set("XDG_CONFIG_HOME", "/c:with colon/");
@@ -43,7 +43,7 @@ TEST(UserDirectoriesTest, TheVariablesCountInTheirOrder)
     EXPECT_EQ(directories.dataDirectories, (Paths{"/z", "/a", "/"}));
 }
 
-TEST(UserDirectoriesTest, OnlyTheRealUsersFilesHaveThem)
+TEST(UserDirectoriesTest, OnlyFilesOfTheRealUserHaveThem)
 {
     ScopedEnvironment environment;
     environment.set("XDG_DATA_DIRS", "/somewhere");

@@ -29,7 +29,7 @@ class NoContent final : public HostViewContent {
     void drawRect(HostCanvas&) override {}
 };
 
-TEST(QtAccessibilityTest, APopUpIsAComboBoxThatTellsItsValueAndOpens)
+TEST(QtAccessibilityTest, APopUpIsAComboBoxWithAValueThatOpens)
 {
     QtInterfaceFactory factory;
     const auto popUp = factory.makePopUpButton(describe(u"Letter case"));
@@ -54,7 +54,7 @@ TEST(QtAccessibilityTest, APopUpIsAComboBoxThatTellsItsValueAndOpens)
     EXPECT_TRUE(interface->actionInterface()->actionNames().isEmpty());
 }
 
-TEST(QtAccessibilityTest, ThePopUpsTextTakesAnyRange)
+TEST(QtAccessibilityTest, ThePopUpsTextAcceptsAnyRange)
 {
     QtInterfaceFactory factory;
     const auto popUp = factory.makePopUpButton(describe(u"Letter case"));
@@ -73,7 +73,7 @@ TEST(QtAccessibilityTest, ThePopUpsTextTakesAnyRange)
     EXPECT_EQ(text->characterCount(), 5);
 }
 
-TEST(QtAccessibilityTest, ADescribedViewIsAColourChooserAndOneWithoutIsAGround)
+TEST(QtAccessibilityTest, OnlyAViewWithADescriptionIsAColourChooser)
 {
     QtInterfaceFactory factory;
     NoContent content;
@@ -91,7 +91,7 @@ TEST(QtAccessibilityTest, ADescribedViewIsAColourChooserAndOneWithoutIsAGround)
     EXPECT_EQ(accessible(*ground)->text(QAccessible::Name), "Settings");
 }
 
-TEST(QtAccessibilityTest, ALabelWithANameOfItsOwnStillTellsItsText)
+TEST(QtAccessibilityTest, ALabelWithItsOwnNameStillExposesItsText)
 {
     QtInterfaceFactory factory;
     auto description = describe(u"Version");
@@ -104,7 +104,7 @@ TEST(QtAccessibilityTest, ALabelWithANameOfItsOwnStillTellsItsText)
     EXPECT_EQ(accessible(*label)->text(QAccessible::Description), "Version 2");
 }
 
-TEST(QtAccessibilityTest, TogglingWithoutAClickSendsTheAction)
+TEST(QtAccessibilityTest, TogglingThroughAccessibilitySendsTheAction)
 {
     QtInterfaceFactory factory;
     auto description = describe(u"Lead hex codes with #");
@@ -125,7 +125,7 @@ TEST(QtAccessibilityTest, TogglingWithoutAClickSendsTheAction)
     }
 }
 
-TEST(QtAccessibilityTest, WhatLiesBesideItsSuperviewIsNotThere)
+TEST(QtAccessibilityTest, AViewOutsideItsSuperviewIsInvisible)
 {
     QtInterfaceFactory factory;
     const auto page = factory.makeView(describe(u"Page"));

@@ -11,7 +11,7 @@
 namespace vantorel {
 namespace {
 
-TEST(QtCanvasTest, RectanglesSideBySideLeaveNoSeam)
+TEST(QtCanvasTest, AdjacentRectanglesLeaveNoSeam)
 {
     for (const qreal ratio : {1.0, 1.5, 2.0}) {
         QImage image(QSize(60, 60) * ratio, QImage::Format_ARGB32_Premultiplied);
@@ -50,7 +50,7 @@ TEST(QtCanvasTest, OddColoursAndPathsAreHarmless)
               QColor(0, 255, 0));
 }
 
-/// A line that runs level, upright and aslant, on white.
+/// A line with horizontal, vertical and slanted pieces, on white.
 QImage drawnLine(const HostColor& color, qreal ratio)
 {
     QImage image(QSize(20, 20) * ratio, QImage::Format_ARGB32_Premultiplied);
@@ -77,7 +77,7 @@ int countOf(const QImage& image, const QColor& color)
     return count;
 }
 
-TEST(QtCanvasTest, LevelAndUprightLinesAreCrispAndSlantedOnesSmooth)
+TEST(QtCanvasTest, HorizontalAndVerticalLinesAreCrispAndSlantedOnesSmooth)
 {
     for (const qreal ratio : {1.0, 2.0}) {
         const QImage image = drawnLine(HostColor::blackColor(), ratio);
@@ -93,7 +93,7 @@ TEST(QtCanvasTest, LevelAndUprightLinesAreCrispAndSlantedOnesSmooth)
         EXPECT_EQ(at(8.3, 8), black) << ratio;
         EXPECT_EQ(at(7, 8), white) << ratio;
         EXPECT_EQ(at(9.9, 8), white) << ratio;
-        EXPECT_EQ(at(8.3, 11.4), black) << ratio;  // where it turns aslant
+        EXPECT_EQ(at(8.3, 11.4), black) << ratio;  // where the slanted piece begins
         EXPECT_LT(at(11.3, 14.4).red(), 128) << ratio;
         // Grey pixels are those beside the slanted piece.
         const int grey =
@@ -103,7 +103,7 @@ TEST(QtCanvasTest, LevelAndUprightLinesAreCrispAndSlantedOnesSmooth)
     }
 }
 
-TEST(QtCanvasTest, ATranslucentLineCoversNoPixelTwice)
+TEST(QtCanvasTest, ATranslucentLinePaintsNoPixelTwice)
 {
     const QImage image = drawnLine(HostColor::colorWithCalibratedRed(0, 0, 0, 0.5), 1);
     for (int y = 0; y < image.height(); ++y) {

@@ -44,7 +44,7 @@ protected:
     QtTextField _field{describe()};
 };
 
-TEST_F(QtTextFieldTest, ReturnEndsTheEntryOnce)
+TEST_F(QtTextFieldTest, ReturnCommitsTheEntryOnce)
 {
     QTest::keyClicks(edit(), "ff80");
     QTest::keyClick(edit(), Qt::Key_Return);
@@ -53,21 +53,21 @@ TEST_F(QtTextFieldTest, ReturnEndsTheEntryOnce)
     EXPECT_EQ(_changes, 4);
 }
 
-TEST_F(QtTextFieldTest, SettingTheTextIsNoChangeByTheUser)
+TEST_F(QtTextFieldTest, SettingTheTextDoesNotCountAsTyping)
 {
     _field.setStringValue(u"abc");
     EXPECT_EQ(_changes, 0);
     EXPECT_EQ(edit()->text(), "abc");
 }
 
-TEST_F(QtTextFieldTest, ThePasteCountsAsTyping)
+TEST_F(QtTextFieldTest, PastingCountsAsTyping)
 {
     edit()->selectAll();
     edit()->insert("navy");
     EXPECT_EQ(_changes, 1);
 }
 
-TEST_F(QtTextFieldTest, APasteFromTheClipboardCountsOnce)
+TEST_F(QtTextFieldTest, PastingFromTheClipboardCountsOnce)
 {
     QApplication::clipboard()->setText("rgb(1, 2, 3)");
     QTest::keyClick(edit(), Qt::Key_V, Qt::ControlModifier);
@@ -91,7 +91,7 @@ TEST_F(QtTextFieldTest, AnInputMethodCountsWhenItCommits)
     EXPECT_EQ(_field.stringValue(), u"navy");
 }
 
-TEST_F(QtTextFieldTest, WhatAnAssistiveProgramEntersCountsAsTyping)
+TEST_F(QtTextFieldTest, InputFromAssistiveProgramsCountsAsTyping)
 {
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(edit());
     ASSERT_NE(accessible, nullptr);
@@ -101,7 +101,7 @@ TEST_F(QtTextFieldTest, WhatAnAssistiveProgramEntersCountsAsTyping)
     EXPECT_EQ(_changes, 1);
 }
 
-TEST_F(QtTextFieldTest, AReactionMaySetTheText)
+TEST_F(QtTextFieldTest, AHandlerMaySetTheText)
 {
     _field.setTextDidChange([this] {
         ++_changes;
@@ -112,7 +112,7 @@ TEST_F(QtTextFieldTest, AReactionMaySetTheText)
     EXPECT_EQ(_changes, 1);
 }
 
-TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
+TEST_F(QtTextFieldTest, EscapeOnlyDiscardsTheEntry)
 {
     class Window final : public QWidget {
     public:
@@ -141,7 +141,7 @@ TEST_F(QtTextFieldTest, EscapeGivesTheEntryUpAndDoesNothingElse)
     edit()->setParent(nullptr);
 }
 
-TEST_F(QtTextFieldTest, WhatWasTypedIsEnteredOnceWhenTheEditingIsFinished)
+TEST_F(QtTextFieldTest, TypedTextIsCommittedOnceWhenEditingFinishes)
 {
     _field.finishEditing();
     EXPECT_EQ(_actions, 0) << "nothing was typed";
@@ -165,7 +165,7 @@ TEST_F(QtTextFieldTest, TheInsertionPointStaysWhenTheTextIsSetWhileTyping)
     EXPECT_EQ(_field.selectedRange().location, 2U);
 }
 
-TEST_F(QtTextFieldTest, ATextThatNearlyFitsIsWrittenSmaller)
+TEST_F(QtTextFieldTest, ATextThatNearlyFitsIsDrawnSmaller)
 {
     const int full = edit()->font().pixelSize();
     edit()->clearFocus();
@@ -184,7 +184,7 @@ TEST_F(QtTextFieldTest, ATextThatNearlyFitsIsWrittenSmaller)
     EXPECT_EQ(edit()->font().pixelSize(), full) << "not while one types";
 }
 
-TEST(ReadableTextColorTest, BlackAndRedCanBeReadOnEveryGround)
+TEST(ReadableTextColorTest, BlackAndRedAreReadableOnEveryBackground)
 {
     QPalette light;
     light.setColor(QPalette::Base, Qt::white);
@@ -262,7 +262,7 @@ TEST_F(QtPopUpButtonTest, AnItemOfASubmenuRunsItsOwnAction)
     EXPECT_EQ(_actions, 0);
 }
 
-TEST_F(QtPopUpButtonTest, LettersFindAnItemOfTheMenu)
+TEST_F(QtPopUpButtonTest, TypingSelectsAnItemInTheMenu)
 {
     QTest::keyClick(_popUp.widget(), Qt::Key_Space);
     ASSERT_NE(openMenu(), nullptr);
@@ -272,7 +272,7 @@ TEST_F(QtPopUpButtonTest, LettersFindAnItemOfTheMenu)
     EXPECT_EQ(_actions, 1);
 }
 
-TEST_F(QtPopUpButtonTest, LettersFindWhatBeginsSo)
+TEST_F(QtPopUpButtonTest, TypingSelectsAnItemByItsPrefix)
 {
     HostMenu menu;
     for (const char16_t* title : {u"Browns & Yellows", u"Web", u"Web hues", u"Whites"})
@@ -297,7 +297,7 @@ TEST_F(QtPopUpButtonTest, LettersFindWhatBeginsSo)
     }
 }
 
-TEST_F(QtPopUpButtonTest, AnEmptySubmenuSaysSo)
+TEST_F(QtPopUpButtonTest, AnEmptySubmenuIsLabelledAsEmpty)
 {
     HostMenu menu(1);
     menu[0].title = u"Add";
@@ -311,7 +311,7 @@ TEST_F(QtPopUpButtonTest, AnEmptySubmenuSaysSo)
     EXPECT_FALSE(submenu->actions().front()->isEnabled());
 }
 
-TEST_F(QtPopUpButtonTest, KeysChooseWithoutTheMenu)
+TEST_F(QtPopUpButtonTest, KeysSelectWithoutOpeningTheMenu)
 {
     QTest::keyClick(_popUp.widget(), Qt::Key_Down);
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
@@ -325,7 +325,7 @@ TEST_F(QtPopUpButtonTest, KeysChooseWithoutTheMenu)
     EXPECT_EQ(openMenu(), nullptr);
 }
 
-TEST(QtButtonTest, ACheckBoxTakesItsStateBeforeItsAction)
+TEST(QtButtonTest, ACheckBoxChangesStateBeforeItsActionRuns)
 {
     auto description = describe();
     description.buttonKind = HostControlDescription::ButtonKind::checkBox;
@@ -338,7 +338,7 @@ TEST(QtButtonTest, ACheckBoxTakesItsStateBeforeItsAction)
     EXPECT_FALSE(static_cast<QAbstractButton*>(button.widget())->isChecked());
 }
 
-TEST(QtButtonTest, AToggleShowsWhatItsActionDecides)
+TEST(QtButtonTest, AToggleShowsTheStateSetByItsAction)
 {
     auto description = describe();
     description.buttonKind = HostControlDescription::ButtonKind::toggle;

@@ -10,7 +10,7 @@ namespace {
 
 const HostImage dragImage{{40, 16}, [](HostCanvas&) {}};
 
-TEST(QtDragTest, AColourGoesAsAColourAlone)
+TEST(QtDragTest, AColourIsDraggedOnlyAsAColour)
 {
     QWidget source;
     const QDrag* drag =
@@ -24,7 +24,7 @@ TEST(QtDragTest, AColourGoesAsAColourAlone)
     EXPECT_NEAR(color.alpha(), 0x8000, 1);
 }
 
-TEST(QtDragTest, ATextGoesAsUtf8Alone)
+TEST(QtDragTest, ATextIsDraggedOnlyAsUtf8)
 {
     QWidget source;
     const std::string text = "#ff8000 \xC3\xA4 \xF0\x9F\x8E\xA8";

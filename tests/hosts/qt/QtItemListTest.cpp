@@ -61,7 +61,7 @@ protected:
     QtPopUpButton _popUp{describedPopUp()};
 };
 
-TEST_F(QtItemListTest, AClickChooses)
+TEST_F(QtItemListTest, AClickSelects)
 {
     fill(5);
     QListView* view = open();
@@ -72,7 +72,7 @@ TEST_F(QtItemListTest, AClickChooses)
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
-TEST_F(QtItemListTest, TheSeparatorCannotBeChosen)
+TEST_F(QtItemListTest, TheSeparatorCannotBeSelected)
 {
     fill(5);
     QListView* view = open();
@@ -84,7 +84,7 @@ TEST_F(QtItemListTest, TheSeparatorCannotBeChosen)
     EXPECT_EQ(view->currentIndex().row(), 2) << "the keys pass over it";
 }
 
-TEST_F(QtItemListTest, TheReleaseOfThePressThatOpenedItChoosesNothing)
+TEST_F(QtItemListTest, TheReleaseAfterTheOpeningPressSelectsNoItem)
 {
     fill(5);
     QListView* view = open();
@@ -96,7 +96,7 @@ TEST_F(QtItemListTest, TheReleaseOfThePressThatOpenedItChoosesNothing)
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"name 1");
 }
 
-TEST_F(QtItemListTest, KeysMoveAndChoose)
+TEST_F(QtItemListTest, KeysMoveAndSelect)
 {
     fill(50);
     struct Row {
@@ -121,7 +121,7 @@ TEST_F(QtItemListTest, KeysMoveAndChoose)
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"name 0");
 }
 
-TEST_F(QtItemListTest, OnlyTheSwatchesOnShowArePainted)
+TEST_F(QtItemListTest, OnlyVisibleSwatchesArePainted)
 {
     fill(30000);
     QListView* view = open();
@@ -134,7 +134,7 @@ TEST_F(QtItemListTest, OnlyTheSwatchesOnShowArePainted)
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"name 29999");
 }
 
-TEST_F(QtItemListTest, ItemsThatChangeMeanwhileAreChosenByTheirTitle)
+TEST_F(QtItemListTest, ItemsThatChangeMeanwhileAreSelectedByTitle)
 {
     fill(5);
     QListView* view = open();

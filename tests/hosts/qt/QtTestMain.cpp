@@ -6,13 +6,14 @@
 
 namespace {
 
-/// A widget that nobody owns is no leak for a sanitizer, because the toolkit knows all widgets.
+/// Reports ownerless widgets. Sanitizers do not see them as leaks, because the toolkit keeps a
+/// reference to every widget.
 class WidgetsGoAway final : public testing::EmptyTestEventListener {
     void OnTestEnd(const testing::TestInfo& /*info*/) override
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         for (const QWidget* widget : QApplication::allWidgets()) {
-            // The toolkit makes one for the screen when it first needs it, and keeps it.
+            // The toolkit creates one for the screen on first use and keeps it.
             if (widget->windowType() == Qt::Desktop) continue;
             ADD_FAILURE() << "left behind: " << widget->metaObject()->className();
         }
@@ -23,7 +24,7 @@ class WidgetsGoAway final : public testing::EmptyTestEventListener {
 
 int main(int argc, char** argv)
 {
-    // Nothing of the real user's is read or written, nor what other programs have installed read.
+    // Keeps the tests from using the real user's files and files installed by other programs.
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());

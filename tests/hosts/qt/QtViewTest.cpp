@@ -22,7 +22,7 @@ HostControlDescription describe(const char* name, HostRect frame)
     return description;
 }
 
-TEST(QtViewTest, FramesWithYUpBecomeGeometryWithYDown)
+TEST(QtViewTest, FramesWithYUpAreConvertedToYDown)
 {
     EXPECT_EQ(widgetGeometry({10, 20, 30, 40}, {0, 0, 100, 200}), QRect(10, 140, 30, 40));
     EXPECT_EQ(widgetGeometry({10, 20, 30, 40}, {10, 20, 100, 200}), QRect(0, 160, 30, 40));
@@ -112,7 +112,7 @@ TEST_F(QtCustomViewTest, PaintsWithYUp)
     EXPECT_NE(image.pixelColor(25, 85), QColor(Qt::red));
 }
 
-TEST_F(QtCustomViewTest, GivesPointsAndModifiersOfItsOwn)
+TEST_F(QtCustomViewTest, MouseEventsAreConvertedToHostPointsAndModifiers)
 {
     send(QEvent::MouseButtonPress, {10, 30}, Qt::LeftButton, Qt::LeftButton,
          Qt::ShiftModifier | Qt::ControlModifier);
@@ -124,7 +124,7 @@ TEST_F(QtCustomViewTest, GivesPointsAndModifiersOfItsOwn)
     EXPECT_EQ(_content._drags, 1) << "a drag counts between press and release";
 }
 
-TEST_F(QtCustomViewTest, ALoopTakesDragsInOrderWhileTheProgramGoesOn)
+TEST_F(QtCustomViewTest, ATrackingLoopReceivesDragsInOrderWhileTheProgramRuns)
 {
     std::vector<HostEvent> taken;
     int ticks = 0;
@@ -156,7 +156,7 @@ TEST_F(QtCustomViewTest, ALoopTakesDragsInOrderWhileTheProgramGoesOn)
     EXPECT_EQ(_content._drags, 0);
 }
 
-TEST_F(QtCustomViewTest, ALoopEndsWhenTheViewIsHidden)
+TEST_F(QtCustomViewTest, ATrackingLoopEndsWhenTheViewIsHidden)
 {
     HostEvent last;
     _content._onDown = [&] {
@@ -168,7 +168,7 @@ TEST_F(QtCustomViewTest, ALoopEndsWhenTheViewIsHidden)
     EXPECT_EQ(last.location, (HostPoint{5, 5}));
 }
 
-TEST_F(QtCustomViewTest, ALoopEndsWhenTheViewIsGone)
+TEST_F(QtCustomViewTest, ATrackingLoopEndsWhenTheViewIsDestroyed)
 {
     HostEvent last;
     _content._onDown = [&] {
@@ -196,7 +196,7 @@ TEST_F(QtCustomViewTest, MovesCrossTheTrackingRectangleOnce)
     EXPECT_EQ(_content._calls, "entered moved exited ");
 }
 
-TEST(TextScaleTest, GrowsInQuartersFromTheUsualFont)
+TEST(TextScaleTest, GrowsInQuarterStepsFromTheDefaultFont)
 {
     struct Row {
         double pixels;

@@ -2,7 +2,8 @@
 
 #include <stdexcept>
 
-/// A picker with no interface, built several times with one thing wrong each (see CMakeLists.txt).
+/// A picker without an interface, built in several variants with one fault each (see
+/// CMakeLists.txt).
 namespace {
 
 using namespace vantorel;
@@ -46,7 +47,7 @@ __attribute__((visibility("default"))) const HostPlugin* vantorelPlugin();
 
 #ifdef TEST_PLUGIN_OF_ANOTHER_ABI
 const std::uint32_t vantorelPluginABI = hostPluginABI + 1;
-// Never to be called: what it returns is of another kind.
+// Must never be called: it returns an object of another type.
 const HostPlugin* vantorelPlugin()
 {
     __builtin_trap();

@@ -12,7 +12,7 @@ protected:
     HeadlessColorPanel _panel{_desktop, {200, 400, 260, 340}, HostColor::whiteColor()};
 };
 
-TEST_F(HeadlessHostTest, TimersFireInDueOrderAtTheirMoment)
+TEST_F(HeadlessHostTest, TimersFireInOrderAtTheirDueTime)
 {
     std::vector<int> fired;
     const auto late = _desktop.scheduleTimer(2, [&] { fired.push_back(2); });
@@ -36,7 +36,7 @@ TEST_F(HeadlessHostTest, ATimerMadeByATimerFiresInTheSameWait)
     EXPECT_EQ(looks, 3);
 }
 
-TEST_F(HeadlessHostTest, TextIsAsWideAsItsWidestLine)
+TEST_F(HeadlessHostTest, TheWidthOfATextIsThatOfItsWidestLine)
 {
     const auto size = [&](const char16_t* text) { return _desktop.sizeOfText({text, 10}); };
     EXPECT_EQ(size(u"abc"), (HostSize{18, 12.5}));
@@ -97,7 +97,7 @@ TEST_F(HeadlessHostTest, AnExhaustedQueueEndsWithARelease)
     EXPECT_EQ(event.location, (HostPoint{3, 4}));
 }
 
-TEST_F(HeadlessHostTest, TheRegisterKnowsLivingControlsOnly)
+TEST_F(HeadlessHostTest, OnlyLivingControlsAreRegistered)
 {
     HostControlDescription description;
     description.identifier = "field";
