@@ -56,6 +56,73 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>all users can write to &quot;%1&quot;</source>
+        <translation>alle Benutzer dürfen in „%1“ schreiben</translation>
+    </message>
+    <message>
+        <source>&quot;chmod o-w&quot; would change that</source>
+        <translation>„chmod o-w“ würde das ändern</translation>
+    </message>
+    <message>
+        <source>a group can write to &quot;%1&quot;</source>
+        <translation>eine Gruppe darf in „%1“ schreiben</translation>
+    </message>
+    <message>
+        <source>&quot;chmod g-w&quot; would change that</source>
+        <translation>„chmod g-w“ würde das ändern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>„%1“ gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it cannot be loaded</source>
+        <translation>es lässt sich nicht laden</translation>
+    </message>
+    <message>
+        <source>it is not a picker plug-in (it lacks vantorelPluginABI)</source>
+        <translation>es ist kein Plug-in mit einer Farbauswahl (vantorelPluginABI fehlt)</translation>
+    </message>
+    <message>
+        <source>it was built for version %1 of the plug-in interface, and this panel has version %2</source>
+        <translation>es ist für Version %1 der Plug-in-Schnittstelle gebaut, und dieses Fenster hat Version %2</translation>
+    </message>
+    <message>
+        <source>install one that was built for this panel</source>
+        <translation>installieren Sie eines, das für dieses Fenster gebaut ist</translation>
+    </message>
+    <message>
+        <source>it offers no picker</source>
+        <translation>es bietet keine Farbauswahl an</translation>
+    </message>
+    <message>
+        <source>%1 is the same plug-in and came first</source>
+        <translation>%1 ist dasselbe Plug-in und war zuerst da</translation>
+    </message>
+    <message>
+        <source>it made no page</source>
+        <translation>es hat keine Seite erzeugt</translation>
+    </message>
+    <message>
+        <source>it failed while its page was made: %1</source>
+        <translation>es ist gescheitert, während seine Seite erzeugt wurde: %1</translation>
+    </message>
+    <message>
+        <source>it failed while its page was made</source>
+        <translation>es ist gescheitert, während seine Seite erzeugt wurde</translation>
+    </message>
+    <message>
+        <source>%1 is left out: %2</source>
+        <translation>%1 wurde ausgelassen: %2</translation>
+    </message>
+</context>
+<context>
     <name>PaletteRemarks</name>
     <message>
         <source>&quot;%1&quot; could not be saved, so nothing was changed. May you write in %2, and is there room on the disk?</source>

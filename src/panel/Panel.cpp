@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtColors.h"
 #include "panel/Output.h"
+#include "result/Message.h"
 
 #include <QCoreApplication>
 
@@ -28,8 +29,8 @@ QString cssNameOf(const QColor& color)
 Panel::Panel(const PanelOptions& options, const std::string& userData)
     : _search(searchFor(options, userData)), _window(_desktop, _search.plugins, _search.problems)
 {
-    for (const std::string& problem : _search.problems)
-        printProblem(QString::fromStdString(problem));
+    for (const Message& problem : _search.problems)
+        printProblem(QString::fromStdString(english(problem)));
     if (!_search.problems.empty()) _window.showProblems(_search.problems);
 }
 

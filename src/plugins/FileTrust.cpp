@@ -32,20 +32,19 @@ bool isGroupOfTheUserAlone(gid_t group, uid_t user)
     return true;
 }
 
-std::string inQuotes(const fs::path& path)
-{
-    return '"' + path.string() + '"';
-}
-
-std::string whyOthersCanWrite(const fs::path& path, const struct stat& status, Sticky sticky,
-                              uid_t user)
+Status checkThatOthersCannotWrite(const fs::path& path, const struct stat& status, Sticky sticky,
+                                  uid_t user)
 {
     if (sticky == Sticky::counts && (status.st_mode & S_ISVTX) != 0) return {};
-    if ((status.st_mode & S_IWOTH) != 0)
-        return "all users can write to " + inQuotes(path) + "; \"chmod o-w\" would change that";
+    if ((status.st_mode & S_IWOTH) != 0) {
+        return Message{phrase("all users can write to \"%1\"", path.string()),
+                       phrase("\"chmod o-w\" would change that")};
+    }
     if ((status.st_mode & S_IWGRP) != 0 && status.st_uid != administrator &&
-        !isGroupOfTheUserAlone(status.st_gid, user))
-        return "a group can write to " + inQuotes(path) + "; \"chmod g-w\" would change that";
+        !isGroupOfTheUserAlone(status.st_gid, user)) {
+        return Message{phrase("a group can write to \"%1\"", path.string()),
+                       phrase("\"chmod g-w\" would change that")};
+    }
     return {};
 }
 
@@ -56,11 +55,11 @@ uid_t ownerOfThisProgram()
     return ::stat("/proc/self/exe", &status) == 0 ? status.st_uid : administrator;
 }
 
-std::string whyOwnerIsNotTrusted(const fs::path& path, const struct stat& status, uid_t user)
+Status checkOwner(const fs::path& path, const struct stat& status, uid_t user)
 {
     const uid_t owner = status.st_uid;
     if (owner == administrator || owner == user || owner == ownerOfThisProgram()) return {};
-    return inQuotes(path) + " belongs to another user";
+    return Message{phrase("\"%1\" belongs to another user", path.string())};
 }
 
 std::optional<struct stat> statusOf(const fs::path& path)
@@ -72,12 +71,12 @@ std::optional<struct stat> statusOf(const fs::path& path)
 
 /// Who can write to a folder above can put another one in this one's place. Who owns it is not
 /// asked: it is a matter of where the user keeps things.
-std::string whyFoldersAboveAreNotTrusted(const fs::path& folder, uid_t user)
+Status checkFoldersAbove(const fs::path& folder, uid_t user)
 {
     for (fs::path above = folder.parent_path(); !above.empty(); above = above.parent_path()) {
         if (const auto status = statusOf(above)) {
-            std::string reason = whyOthersCanWrite(above, *status, Sticky::counts, user);
-            if (!reason.empty()) return reason;
+            Status trust = checkThatOthersCannotWrite(above, *status, Sticky::counts, user);
+            if (!trust) return trust;
         }
         if (above == above.parent_path()) break;
     }
@@ -96,20 +95,20 @@ std::vector<fs::path> waysTo(const std::string& path)
 
 }  // namespace
 
-std::string whyNotTrusted(const std::string& path)
+Status checkTrust(const std::string& path)
 {
-    return whyNotTrusted(path, ::geteuid());
+    return checkTrust(path, ::geteuid());
 }
 
-std::string whyNotTrusted(const std::string& path, uid_t user)
+Status checkTrust(const std::string& path, uid_t user)
 {
     for (const fs::path& way : waysTo(path)) {
         const auto status = statusOf(way);
         if (!status) continue;
-        std::string reason = whyOwnerIsNotTrusted(way, *status, user);
-        if (reason.empty()) reason = whyOthersCanWrite(way, *status, Sticky::doesNotCount, user);
-        if (reason.empty()) reason = whyFoldersAboveAreNotTrusted(way, user);
-        if (!reason.empty()) return reason;
+        Status trust = checkOwner(way, *status, user);
+        if (trust) trust = checkThatOthersCannotWrite(way, *status, Sticky::doesNotCount, user);
+        if (trust) trust = checkFoldersAbove(way, user);
+        if (!trust) return trust;
     }
     return {};
 }

@@ -50,34 +50,28 @@ private:
     fs::path _folder;
 };
 
-/// The plug-in of a library; null, with a reason, when it has none that fits.
-const HostPlugin* pluginOfLibrary(const std::string& file, std::string& reason)
+/// Never null.
+Result<const HostPlugin*> pluginOfLibrary(const std::string& file)
 {
-    reason = whyNotTrusted(file);
-    if (!reason.empty()) return nullptr;
+    if (const Status trust = checkTrust(file); !trust) return trust.error();
     std::error_code error;
-    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
-        // A pipe would keep the panel waiting.
-        reason = "it is no file";
-        return nullptr;
-    }
+    // A pipe would keep the panel waiting.
+    if (fs::exists(file, error) && !fs::is_regular_file(file, error))
+        return Message{phrase("it is not a regular file")};
     // Never closed: see LoadedPlugin.
     void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) {
-        const char* message = ::dlerror();
-        reason = message != nullptr ? message : "it cannot be loaded";
-        return nullptr;
+        const char* reason = ::dlerror();
+        return Message{reason != nullptr ? verbatim(reason) : phrase("it cannot be loaded")};
     }
     const auto* abi = static_cast<const std::uint32_t*>(::dlsym(library, "vantorelPluginABI"));
-    if (abi == nullptr) {
-        reason = "it is no picker plug-in (it lacks vantorelPluginABI)";
-        return nullptr;
-    }
+    if (abi == nullptr)
+        return Message{phrase("it is not a picker plug-in (it lacks vantorelPluginABI)")};
     if (*abi != hostPluginABI) {
-        reason = "it was built for version " + std::to_string(*abi) +
-                 " of the plug-in interface; this panel has version " +
-                 std::to_string(hostPluginABI);
-        return nullptr;
+        return Message{phrase("it was built for version %1 of the plug-in interface, and this "
+                              "panel has version %2",
+                              *abi, hostPluginABI),
+                       phrase("install one that was built for this panel")};
     }
     using Entry = const HostPlugin* (*)();
     const auto entry = reinterpret_cast<Entry>(::dlsym(library, "vantorelPlugin"));
@@ -90,10 +84,7 @@ const HostPlugin* pluginOfLibrary(const std::string& file, std::string& reason)
     const bool complete = plugin != nullptr && plugin->identifier != nullptr &&
                           plugin->displayName != nullptr && plugin->createPicker != nullptr &&
                           plugin->destroyPicker != nullptr;
-    if (!complete) {
-        reason = "it offers no picker";
-        return nullptr;
-    }
+    if (!complete) return Message{phrase("it offers no picker")};
     return plugin;
 }
 
@@ -110,21 +101,20 @@ std::vector<std::string> librariesIn(const std::string& folder)
 
 void load(const std::string& file, PluginSearch& search)
 {
-    std::string reason;
-    const HostPlugin* plugin = pluginOfLibrary(file, reason);
-    if (plugin == nullptr) {
-        search.problems.push_back(file + " is left out: " + reason);
+    const Result<const HostPlugin*> plugin = pluginOfLibrary(file);
+    if (!plugin) {
+        search.problems.push_back(leftOut(file, plugin.error()));
         return;
     }
-    const std::string identifier = plugin->identifier;
+    const std::string identifier = (*plugin)->identifier;
     const auto known = std::find_if(
         search.plugins.begin(), search.plugins.end(),
         [&](const LoadedPlugin& other) { return other.plugin().identifier == identifier; });
     if (known == search.plugins.end()) {
-        search.plugins.emplace_back(*plugin, file);
+        search.plugins.emplace_back(**plugin, file);
     } else if (known->file() != file) {
-        search.problems.push_back(file + " is left out: " + known->file() +
-                                  " is the same plug-in and came first");
+        search.problems.push_back(
+            leftOut(file, {phrase("%1 is the same plug-in and came first", known->file())}));
     }
 }
 
@@ -135,18 +125,22 @@ LoadedPlugin::LoadedPlugin(const HostPlugin& plugin, std::string file)
 {
 }
 
-LoadedPlugin::Picker LoadedPlugin::makePicker(HostColorPanel& panel, std::string& reason) const
+Result<LoadedPlugin::Picker> LoadedPlugin::makePicker(HostColorPanel& panel) const
 {
-    HostColorPicker* picker = nullptr;
     try {
-        picker = _plugin.createPicker(0, panel, *_bundle);
-        if (picker == nullptr) reason = "it made no page";
+        HostColorPicker* picker = _plugin.createPicker(0, panel, *_bundle);
+        if (picker == nullptr) return Message{phrase("it made no page")};
+        return Picker(picker, {_plugin.destroyPicker});
     } catch (const std::exception& error) {
-        reason = std::string("it failed while its page was made: ") + error.what();
+        return Message{phrase("it failed while its page was made: %1", error.what())};
     } catch (...) {
-        reason = "it failed while its page was made";
+        return Message{phrase("it failed while its page was made")};
     }
-    return Picker(picker, {_plugin.destroyPicker});
+}
+
+Message leftOut(const std::string& path, Message why)
+{
+    return {phrase("%1 is left out: %2", path, std::move(why.what)), std::move(why.remedy)};
 }
 
 std::vector<std::string> pluginFolders(const std::string& programFolder,
@@ -163,8 +157,8 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
 {
     PluginSearch search;
     for (const std::string& folder : folders) {
-        if (const std::string reason = whyNotTrusted(folder); !reason.empty()) {
-            search.problems.push_back(std::string(folder).append(" is left out: ").append(reason));
+        if (const Status trust = checkTrust(folder); !trust) {
+            search.problems.push_back(leftOut(folder, trust.error()));
             continue;
         }
         for (const std::string& file : librariesIn(folder))

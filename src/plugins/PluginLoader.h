@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostPlugin.h"
+#include "result/Result.h"
 
 #include <memory>
 #include <string>
@@ -24,9 +25,8 @@ public:
     };
     using Picker = std::unique_ptr<HostColorPicker, PickerDeleter>;
 
-    /// Null, with a reason, when the plug-in makes none; a plug-in that throws counts as one of
-    /// those.
-    [[nodiscard]] Picker makePicker(HostColorPanel& panel, std::string& reason) const;
+    /// Never null. Fails if the plug-in makes no page or throws.
+    [[nodiscard]] Result<Picker> makePicker(HostColorPanel& panel) const;
 
 private:
     const HostPlugin& _plugin;
@@ -34,11 +34,14 @@ private:
     std::unique_ptr<HostBundle> _bundle;
 };
 
-/// Plug-ins, and a line for each file that is none: what it is called and why.
+/// Plug-ins, and why each other file or folder was left out.
 struct PluginSearch {
     std::vector<LoadedPlugin> plugins;
-    std::vector<std::string> problems;
+    std::vector<Message> problems;
 };
+
+/// Says that a plug-in's file, or a folder of plug-ins, is left out, and why.
+[[nodiscard]] Message leftOut(const std::string& path, Message why);
 
 /// Where plug-ins are looked for: the panel's own folder, found from the program's place
 /// (`../lib/vantorel/pickers`), then `Vantorel/Plugins` in the folder of the user's data.

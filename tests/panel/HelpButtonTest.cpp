@@ -25,7 +25,7 @@ TEST(HelpButtonTest, OpensTheInstalledManualOrTheOneBesideThePlugin)
     const QSignalSpy opened(&browser, &QTextBrowser::sourceChanged);
     QtDesktop desktop;
     const PluginSearch search = loadPlugins({VANTOREL_PICKERS}, {});
-    std::vector<std::string> problems;
+    std::vector<Message> problems;
     PanelWindow window(desktop, search.plugins, problems);
     window.resizeToPage({260, 340});
     window.show();

@@ -45,7 +45,7 @@ protected:
 
     QtDesktop _desktop;
     PluginSearch _search;
-    std::vector<std::string> _problems;
+    std::vector<Message> _problems;
     std::unique_ptr<PanelWindow> _window;
 };
 

@@ -171,13 +171,13 @@ TEST(PanelPluginsTest, PluginsWithoutAPageAreNamedAndTheOthersWork)
     const auto search = loadPlugins({}, {folder + "/throwing-plugin.so",
                                          folder + "/empty-plugin.so", folder + "/good-plugin.so"});
     EXPECT_TRUE(search.problems.empty());
-    std::vector<std::string> problems;
+    std::vector<Message> problems;
     PanelWindow window(desktop, search.plugins, problems);
     EXPECT_EQ(window.pages().count(), 3) << "the good one's and the panel's own";
     ASSERT_EQ(problems.size(), 2U);
-    EXPECT_THAT(problems[0], testing::HasSubstr("throwing-plugin.so is left out"));
-    EXPECT_THAT(problems[0], testing::HasSubstr("on purpose"));
-    EXPECT_THAT(problems[1], testing::HasSubstr("empty-plugin.so is left out"));
+    EXPECT_THAT(english(problems[0]), testing::HasSubstr("throwing-plugin.so is left out"));
+    EXPECT_THAT(english(problems[0]), testing::HasSubstr("on purpose"));
+    EXPECT_THAT(english(problems[1]), testing::HasSubstr("empty-plugin.so is left out"));
     // The good plug-in has no interface file: a message takes the place of its page.
     QStringList texts;
     for (const QLabel* label : window.findChildren<QLabel*>())

@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/pages/DialogPage.h"
 #include "panel/pages/PluginPage.h"
@@ -32,8 +33,7 @@ QSize scaledSize(QSize points)
 }  // namespace
 
 PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
-                         std::vector<std::string>& problems,
-                         std::unique_ptr<ScreenPicker> screenPicker)
+                         std::vector<Message>& problems, std::unique_ptr<ScreenPicker> screenPicker)
     : _topBar(new PanelTopBar(this)),
       _problems(new QLabel(this)),
       _pages(*this),
@@ -81,16 +81,14 @@ void PanelWindow::connectParts()
     connect(&_pages, &PanelPages::pageShown, this, &PanelWindow::adaptToPage);
 }
 
-void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins,
-                           std::vector<std::string>& problems)
+void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems)
 {
     for (const LoadedPlugin& plugin : plugins) {
-        std::string reason;
-        auto picker = plugin.makePicker(_host, reason);
+        auto picker = plugin.makePicker(_host);
         if (picker) {
-            addPage(std::make_unique<PluginPage>(plugin, std::move(picker)));
+            addPage(std::make_unique<PluginPage>(plugin, *std::move(picker)));
         } else {
-            problems.push_back(plugin.file() + " is left out: " + reason);
+            problems.push_back(leftOut(plugin.file(), picker.error()));
         }
     }
     addPage(std::make_unique<DialogPage>());
@@ -149,11 +147,11 @@ void PanelWindow::showHistory()
     _tools->setRecentColors(_colors.recent());
 }
 
-void PanelWindow::showProblems(const std::vector<std::string>& problems)
+void PanelWindow::showProblems(const std::vector<Message>& problems)
 {
     QStringList lines;
-    for (const std::string& problem : problems)
-        lines.append(QString::fromStdString(problem));
+    for (const Message& problem : problems)
+        lines.append(translated(problem));
     _problems->setVisible(!lines.isEmpty());
     _problems->setToolTip(lines.join(u'\n'));
     _problems->setText(lines.size() == 1 ? tr("A plug-in was left out")

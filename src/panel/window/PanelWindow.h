@@ -6,6 +6,7 @@
 #include "panel/window/PanelTools.h"
 #include "panel/window/PanelTopBar.h"
 #include "plugins/PluginLoader.h"
+#include "result/Message.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -22,9 +23,9 @@ class PanelWindow final : public QWidget {
 
 public:
     /// Makes a page for each plug-in, and the panel's own. All must outlive the window. `problems`
-    /// gets a line for each plug-in that makes no page.
+    /// gets a message for each plug-in that makes no page.
     PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
-                std::vector<std::string>& problems,
+                std::vector<Message>& problems,
                 std::unique_ptr<ScreenPicker> screenPicker = makeScreenPicker());
     ~PanelWindow() override;
 
@@ -34,7 +35,7 @@ public:
     [[nodiscard]] PanelCommands& commands() { return _commands; }
 
     /// Shows what went wrong while the plug-ins were loaded, one a line.
-    void showProblems(const std::vector<std::string>& problems);
+    void showProblems(const std::vector<Message>& problems);
     /// Shows a sentence for a while.
     void showRemark(const QString& remark);
     /// Puts a bar below everything else. To be called once, before the window is shown.
@@ -58,7 +59,7 @@ protected:
 
 private:
     void connectParts();
-    void addPages(const std::vector<LoadedPlugin>& plugins, std::vector<std::string>& problems);
+    void addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems);
     void addPage(std::unique_ptr<PanelPage> page);
     void adaptToPage(int index);
     void showHistory();

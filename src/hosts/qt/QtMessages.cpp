@@ -1,0 +1,25 @@
+#include "hosts/qt/QtMessages.h"
+
+#include <QCoreApplication>
+
+namespace vantorel {
+namespace {
+
+QString translated(const Phrase& phrase)
+{
+    return QString::fromStdString(phrase.inWords([](const char* text) {
+        // The context in which tools/update-translations lists them.
+        return QCoreApplication::translate("Messages", text).toStdString();
+    }));
+}
+
+}  // namespace
+
+QString translated(const Message& message)
+{
+    QString words = translated(message.what);
+    if (!message.remedy.isEmpty()) words += QStringLiteral("; ") + translated(message.remedy);
+    return words;
+}
+
+}  // namespace vantorel
