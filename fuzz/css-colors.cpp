@@ -7,21 +7,23 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace vantorel;
-    const CSSColorReading reading = readCSSColor(bytesFrom(data, size));
-    require(reading.color.has_value() == reading.error.empty());
-    if (!reading.color) return 0;
-    const auto rgb = reading.color->color.calibratedRGB();
+    const Result<CSSColor> reading = readCSSColor(bytesFrom(data, size));
+    if (!reading) {
+        require(!english(reading.error()).empty());
+        return 0;
+    }
+    const auto rgb = reading->color.calibratedRGB();
     require(rgb.has_value());
     for (const double channel : {rgb->red, rgb->green, rgb->blue, rgb->alpha})
         require(channel >= 0 && channel <= 1);
     // Compared in 8 bits, as in the texts: a fraction between two bytes may be rounded either way.
-    const HostColor color = readCSSColor(*hexText(reading.color->color)).color->color;
+    const HostColor color = readCSSColor(*hexText(reading->color))->color;
     for (const auto& text : {hexText(color), rgbText(color), hslText(color), oklchText(color)}) {
         const auto again = readCSSColor(*text);
-        require(again.color.has_value());
-        require(hexText(again.color->color) == hexText(color));
+        require(again.hasValue());
+        require(hexText(again->color) == hexText(color));
     }
-    const auto ratio = contrastRatio(reading.color->color, HostColor::whiteColor());
+    const auto ratio = contrastRatio(reading->color, HostColor::whiteColor());
     require(ratio && *ratio >= 1 && *ratio <= 21.0001);
     return 0;
 }

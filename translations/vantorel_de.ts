@@ -121,6 +121,270 @@
         <source>%1 is left out: %2</source>
         <translation>%1 wurde ausgelassen: %2</translation>
     </message>
+    <message>
+        <source>hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>alpha</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>whiteness</source>
+        <translation>Weißanteil</translation>
+    </message>
+    <message>
+        <source>blackness</source>
+        <translation>Schwarzanteil</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>b</source>
+        <translation>b</translation>
+    </message>
+    <message>
+        <source>chroma</source>
+        <translation>Buntheit</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot;</source>
+        <translation>schreiben Sie „%1“</translation>
+    </message>
+    <message>
+        <source>an angle or a number</source>
+        <translation>ein Winkel oder eine Zahl</translation>
+    </message>
+    <message>
+        <source>a number or a percentage</source>
+        <translation>eine Zahl oder ein Prozentwert</translation>
+    </message>
+    <message>
+        <source>A hex colour without &quot;#&quot; has 3 or 6 digits, not %1</source>
+        <translation>Eine Hex-Farbe ohne „#“ hat 3 oder 6 Ziffern, nicht %1</translation>
+    </message>
+    <message>
+        <source>The text holds no colour</source>
+        <translation>Der Text enthält keine Farbe</translation>
+    </message>
+    <message>
+        <source>write one such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>schreiben Sie eine wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour</source>
+        <translation>„%1“ ist keine Farbe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; follows the colour</source>
+        <translation>Nach der Farbe folgt „%1“</translation>
+    </message>
+    <message>
+        <source>give one colour alone</source>
+        <translation>geben Sie nur eine Farbe an</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no hex digit</source>
+        <translation>„%1“ ist keine Hex-Ziffer</translation>
+    </message>
+    <message>
+        <source>after &quot;#&quot; come digits from 0 to 9 and letters from a to f</source>
+        <translation>nach „#“ kommen Ziffern von 0 bis 9 und Buchstaben von a bis f</translation>
+    </message>
+    <message>
+        <source>A hex colour has 3, 4, 6 or 8 digits after the &quot;#&quot;, not %1</source>
+        <translation>Eine Hex-Farbe hat 3, 4, 6 oder 8 Ziffern nach dem „#“, nicht %1</translation>
+    </message>
+    <message>
+        <source>The property &quot;%1&quot; does not belong to the colour</source>
+        <translation>Die Eigenschaft „%1“ gehört nicht zur Farbe</translation>
+    </message>
+    <message>
+        <source>give its value alone, such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>geben Sie nur ihren Wert an, etwa „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no colour without the page where it stands</source>
+        <translation>„%1“ hat ohne die Seite, in der es steht, keine Farbe</translation>
+    </message>
+    <message>
+        <source>write a fixed one such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>schreiben Sie eine feste wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
+    </message>
+    <message>
+        <source>Nothing may stand between &quot;%1&quot; and its parenthesis</source>
+        <translation>Zwischen „%1“ und seiner Klammer darf nichts stehen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour name of CSS</source>
+        <translation>„%1“ ist kein Farbname von CSS</translation>
+    </message>
+    <message>
+        <source>write a colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>schreiben Sie eine Farbe wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour function that can be read</source>
+        <translation>„%1“ ist keine lesbare Farbfunktion</translation>
+    </message>
+    <message>
+        <source>rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() and color() are</source>
+        <translation>lesbar sind rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() und color()</translation>
+    </message>
+    <message>
+        <source>A colour relative to another, with &quot;from&quot;, cannot be read</source>
+        <translation>Eine Farbe relativ zu einer anderen, mit „from“, ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>write its values, as in &quot;%1&quot;</source>
+        <translation>schreiben Sie ihre Werte wie in „%1“</translation>
+    </message>
+    <message>
+        <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
+        <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 oder xyz-d65</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour space of color()</source>
+        <translation>„%1“ ist kein Farbraum von color()</translation>
+    </message>
+    <message>
+        <source>write %1</source>
+        <translation>schreiben Sie %1</translation>
+    </message>
+    <message>
+        <source>color() begins with a colour space: %1</source>
+        <translation>color() beginnt mit einem Farbraum: %1</translation>
+    </message>
+    <message>
+        <source>%1 has no commas between its values</source>
+        <translation>%1 hat keine Kommas zwischen den Werten</translation>
+    </message>
+    <message>
+        <source>The hue of %1 is %2, not &quot;%3&quot;</source>
+        <translation>Der Farbton von %1 ist %2, nicht „%3“</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 is %3, not &quot;%4&quot;</source>
+        <translation>Der Wert für %1 von %2 ist %3, nicht „%4“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no angle</source>
+        <translation>„%1“ ist kein Winkel</translation>
+    </message>
+    <message>
+        <source>the units of angles are deg, grad, rad and turn</source>
+        <translation>die Einheiten von Winkeln sind deg, grad, rad und turn</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read inside a colour</source>
+        <translation>„%1“ ist innerhalb einer Farbe nicht lesbar</translation>
+    </message>
+    <message>
+        <source>write the number that it results in</source>
+        <translation>schreiben Sie die Zahl, die sich daraus ergibt</translation>
+    </message>
+    <message>
+        <source>The alpha of %1 is missing</source>
+        <translation>Die Deckkraft von %1 fehlt</translation>
+    </message>
+    <message>
+        <source>write %1 before the &quot;)&quot;</source>
+        <translation>vor die „)“ gehört %1</translation>
+    </message>
+    <message>
+        <source>%1 needs 3 values and has %2</source>
+        <translation>%1 braucht 3 Werte und hat %2</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 is missing before &quot;%3&quot;</source>
+        <translation>Vor „%3“ fehlt der Wert für %1 von %2</translation>
+    </message>
+    <message>
+        <source>write %1 there</source>
+        <translation>dorthin gehört %1</translation>
+    </message>
+    <message>
+        <source>In %1 the alpha follows a &quot;/&quot;</source>
+        <translation>In %1 folgt die Deckkraft auf ein „/“</translation>
+    </message>
+    <message>
+        <source>In %1 with commas the alpha follows a comma</source>
+        <translation>In %1 mit Kommas folgt die Deckkraft auf ein Komma</translation>
+    </message>
+    <message>
+        <source>&quot;none&quot; does not go with commas</source>
+        <translation>„none“ verträgt sich nicht mit Kommas</translation>
+    </message>
+    <message>
+        <source>In %1 &quot;%2&quot; stands where its &quot;)&quot; belongs</source>
+        <translation>In %1 steht „%2“ an der Stelle der „)“</translation>
+    </message>
+    <message>
+        <source>With commas the values of %1 are all numbers or all percentages</source>
+        <translation>Mit Kommas sind die Werte von %1 alle Zahlen oder alle Prozentwerte</translation>
+    </message>
+    <message>
+        <source>With commas the %1 of %2 is a percentage</source>
+        <translation>Mit Kommas ist der Wert für %1 von %2 ein Prozentwert</translation>
+    </message>
+    <message>
+        <source>The values of %1 are parted all by commas or all by blanks</source>
+        <translation>Die Werte von %1 sind entweder alle durch Kommas oder alle durch Leerzeichen getrennt</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot; or &quot;%2&quot;</source>
+        <translation>schreiben Sie „%1“ oder „%2“</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 hat kein Ende</translation>
+    </message>
+    <message>
+        <source>close it with a &quot;)&quot; after its values</source>
+        <translation>schließen Sie es mit einer „)“ nach den Werten</translation>
+    </message>
+    <message>
+        <source>The comment that begins with &quot;/*&quot; has no end</source>
+        <translation>Der Kommentar, der mit „/*“ beginnt, hat kein Ende</translation>
+    </message>
+    <message>
+        <source>close it with &quot;*/&quot;</source>
+        <translation>schließen Sie ihn mit „*/“</translation>
+    </message>
 </context>
 <context>
     <name>PaletteRemarks</name>

@@ -23,8 +23,8 @@ QTXCodeSnippet requiredSnippet(const QTXHexSettings& settings, const std::string
         std::find_if(snippets.begin(), snippets.end(),
                      [&](const QTXCodeSnippet& snippet) { return snippet.nameSnippet() == name; });
     if (found == snippets.end()) {
-        throw Failure{"there is no snippet " + quotedText(utf8Name),
-                      "\"vantorel snippets\" tells which there are"};
+        throw Failure{{phrase("there is no snippet \"%1\"", excerpt(utf8Name)),
+                       phrase("\"vantorel snippets\" tells which there are")}};
     }
     return *found;
 }
@@ -142,10 +142,9 @@ private:
 
 ByteColor requiredColor(ColorTextReader& reader, const std::string& text)
 {
-    const ColorTextReading reading = reader.read(text);
-    if (reading.color) return *reading.color;
-    const Complaint complaint = complaintFromSentence(reading.error);
-    throw Failure{complaint.what, complaint.right};
+    const Result<ByteColor> color = reader.read(text);
+    if (!color) throw Failure{color.error()};
+    return *color;
 }
 
 /// A ratio that only rounds to a limit does not reach it, so it is cut.
@@ -170,8 +169,9 @@ int nameColors(Session& session, const CommandLine& commandLine)
 {
     auto list = session.namingList(commandLine);
     if (!list) {
-        throw Failure{"there is no colour list to name colours by",
-                      "\"--list NAME\" gives one; \"vantorel lists\" tells which there are"};
+        throw Failure{
+            {phrase("there is no colour list to name colours by"),
+             phrase("\"--list NAME\" gives one; \"vantorel lists\" tells which there are")}};
     }
     ColorTextReader reader([&] { return list; });
     const ColorNamer namer(list);

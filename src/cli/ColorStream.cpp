@@ -57,7 +57,7 @@ class LineComplaints {
 public:
     LineComplaints(Progress& progress, Output& output) : _progress(progress), _output(output) {}
 
-    void add(std::uint64_t number, const std::string& what, const std::string& right)
+    void add(std::uint64_t number, const Message& message)
     {
         constexpr std::uint64_t mostTold = 100;
         if (++_count > mostTold) {
@@ -67,16 +67,15 @@ public:
         // In the order of the lines, where both can be seen.
         _output.flush();
         _progress.clear();
-        complain("standard input, line " + std::to_string(number) + ": " + what, right);
+        complain({phrase("standard input, line %1: %2", number, message.what), message.remedy});
     }
     void finish()
     {
         if (_untold == 0) return;
         _output.flush();
         _progress.clear();
-        complain(
-            "standard input has " + std::to_string(_untold) + " more lines that are no colours",
-            "give one colour a line");
+        complain({phrase("standard input has %1 more lines that are no colours", _untold),
+                  phrase("give one colour a line")});
     }
     [[nodiscard]] bool isEmpty() const { return _count == 0; }
 
@@ -104,26 +103,26 @@ bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& ou
                 if (const auto plain = readPlainHex(line)) {
                     writer.write(output, *plain, true);
                 } else if (!trimmed(line).empty()) {
-                    const ColorTextReading reading = reader.read(line);
-                    if (reading.color) {
-                        writer.write(output, *reading.color, true);
+                    const Result<ByteColor> color = reader.read(line);
+                    if (color) {
+                        writer.write(output, *color, true);
                     } else {
-                        const Complaint complaint = complaintFromSentence(reading.error);
-                        complaints.add(lines.number(), complaint.what, complaint.right);
+                        complaints.add(lines.number(), color.error());
                     }
                 }
                 break;
             case LineReader::Result::tooLong:
-                complaints.add(lines.number(), "the line is longer than 64 KiB",
-                               "give one colour a line");
+                complaints.add(lines.number(), {phrase("the line is longer than 64 KiB"),
+                                                phrase("give one colour a line")});
                 break;
             case LineReader::Result::end:
                 complaints.finish();
                 return complaints.isEmpty();
             case LineReader::Result::failed:
                 output.flush();
-                throw Failure{"standard input cannot be read",
-                              "give colours as arguments, or a file or program to read from"};
+                throw Failure{
+                    {phrase("standard input cannot be read"),
+                     phrase("give colours as arguments, or a file or program to read from")}};
         }
     }
 }
@@ -140,16 +139,15 @@ bool writeColors(const std::vector<std::string>& arguments, ColorTextReader& rea
             areAllColors = writeStandardInput(reader, writer, output) && areAllColors;
             continue;
         }
-        const ColorTextReading reading = reader.read(argument);
-        if (reading.color) {
-            writer.write(output, *reading.color, false);
+        const Result<ByteColor> color = reader.read(argument);
+        if (color) {
+            writer.write(output, *color, false);
             continue;
         }
         areAllColors = false;
         // So that the message stands where the colour would.
         output.flush();
-        const Complaint complaint = complaintFromSentence(reading.error);
-        complain(complaint.what, complaint.right);
+        complain(color.error());
     }
     return areAllColors;
 }

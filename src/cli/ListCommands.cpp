@@ -38,8 +38,8 @@ HostSize pictureSize(const CommandLine& commandLine)
         return length && *length >= smallestPicture && *length <= largestPicture;
     };
     if (!fits(width) || !fits(height)) {
-        throw Failure{"--size is " + quotedText(text),
-                      "it can be from 8x8 to 16384x16384, such as 640x480"};
+        throw Failure{{phrase("--size is \"%1\"", excerpt(text)),
+                       phrase("it can be from 8x8 to 16384x16384, such as 640x480")}};
     }
     return {static_cast<double>(*width), static_cast<double>(*height)};
 }
@@ -49,9 +49,9 @@ int ringCount(Session& session, const CommandLine& commandLine)
     if (!commandLine.rings) return drawnRingCount(session.settings().nColorCubeRings());
     const auto rings = wholeNumber<int>(*commandLine.rings);
     if (!rings || drawnRingCount(*rings) != *rings) {
-        throw Failure{"--rings is " + quotedText(*commandLine.rings),
-                      "it can be a whole number from " + std::to_string(fewestDrawnRings) + " to " +
-                          std::to_string(mostDrawnRings)};
+        throw Failure{
+            {phrase("--rings is \"%1\"", excerpt(*commandLine.rings)),
+             phrase("it can be a whole number from %1 to %2", fewestDrawnRings, mostDrawnRings)}};
     }
     return *rings;
 }
@@ -60,8 +60,8 @@ int ringCount(Session& session, const CommandLine& commandLine)
 void refuseBytesOnTerminal(const std::string& path)
 {
     if (path != "-" || !isTerminal(STDOUT_FILENO)) return;
-    throw Failure{"the bytes of this format are nothing for a terminal",
-                  "name a file, or send them into one"};
+    throw Failure{{phrase("the bytes of this format are nothing for a terminal"),
+                   phrase("name a file, or send them into one")}};
 }
 
 bool haveSameColors(const HostColorList& left, const HostColorList& right)
@@ -83,12 +83,15 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 {
     const auto bytes = session.files().contentsAtPath(path);
     if (!bytes) {
-        throw Failure{quotedText(path) + " cannot be read",
-                      "name a file of at most 64 MiB that may be read"};
+        throw Failure{{phrase("\"%1\" cannot be read", excerpt(path)),
+                       phrase("name a file of at most 64 MiB that may be read")}};
     }
-    ColorListReading reading = readColorList(*bytes, path);
-    if (!reading.list) throw Failure{quotedText(path) + ": " + reading.what, reading.right};
-    std::shared_ptr<HostColorList> list = reading.list;
+    const Result<ListFile> file = readColorList(*bytes, path);
+    if (!file) {
+        throw Failure{
+            {phrase("\"%1\": %2", excerpt(path), file.error().what), file.error().remedy}};
+    }
+    std::shared_ptr<HostColorList> list = file->list;
     if (commandLine.newName) list = renamed(*list, utf16FromUtf8(*commandLine.newName));
     const std::string name = utf8Line(list->name());
 
@@ -103,25 +106,25 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
     }
     if (isOwn && !commandLine.yes) {
         if (!canAsk()) {
-            throw Failure{"a list " + quotedText(name) + " with other colours is there",
-                          "\"--yes\" replaces it, \"--name NAME\" gives the new one another name"};
+            throw Failure{
+                {phrase("a list \"%1\" with other colours is there", excerpt(name)),
+                 phrase("\"--yes\" replaces it, \"--name NAME\" gives the new one another name")}};
         }
         session.output().flush();
         if (!confirms("Replace the list \"" + name + "\"?")) {
-            throw Failure{quotedText(path) + " is not imported",
-                          "\"--name NAME\" gives it another name"};
+            throw Failure{{phrase("\"%1\" is not imported", excerpt(path)),
+                           phrase("\"--name NAME\" gives it another name")}};
         }
     }
     if (!store.writeColorList(list)) {
-        throw Failure{"the list " + quotedText(name) + " cannot be saved",
-                      "the folder of your data must be there and may be written to"};
+        throw Failure{{phrase("the list \"%1\" cannot be saved", excerpt(name)),
+                       phrase("the folder of your data must be there and may be written to")}};
     }
     session.output().write("\"" + name + "\": " + count + " from " + harmlessLine(path) + "\n");
-    if (reading.skipped > 0) {
+    if (file->skipped > 0) {
         session.output().flush();
-        complain(quotedText(path) + ": " + std::to_string(reading.skipped) +
-                     " lines or entries were left out",
-                 "each holds one colour");
+        complain({phrase("\"%1\": %2 lines or entries were left out", excerpt(path), file->skipped),
+                  phrase("each holds one colour")});
     }
 }
 
@@ -161,9 +164,9 @@ int printLists(Session& session, const CommandLine& commandLine)
 int printList(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.operands.empty()) {
-        throw Failure{"there is no NAME",
-                      "\"vantorel lists\" tells the lists, \"vantorel list --help\" "
-                      "what can be done with one"};
+        throw Failure{
+            {phrase("there is no NAME"), phrase("\"vantorel lists\" tells the lists, \"vantorel "
+                                                "list --help\" what can be done with one")}};
     }
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.json) {
@@ -183,12 +186,11 @@ int printList(Session& session, const CommandLine& commandLine)
 int importLists(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.newName && commandLine.operands.size() > 1) {
-        throw Failure{
-            "--name is given for " + std::to_string(commandLine.operands.size()) + " files",
-            "it goes with one FILE"};
+        throw Failure{{phrase("--name is given for %1 files", commandLine.operands.size()),
+                       phrase("it goes with one FILE")}};
     }
     if (commandLine.newName && commandLine.newName->empty())
-        throw Failure{"--name is empty", "give the list a name"};
+        throw Failure{{phrase("--name is empty"), phrase("give the list a name")}};
     int status = 0;
     for (const std::string& file : commandLine.operands) {
         try {
@@ -196,7 +198,7 @@ int importLists(Session& session, const CommandLine& commandLine)
         } catch (const Failure& failure) {
             // The files do not depend on each other.
             session.output().flush();
-            complain(failure.what, failure.right);
+            complain(failure.message);
             status = failureStatus;
         }
     }
@@ -223,7 +225,8 @@ int drawWheel(Session& session, const CommandLine& commandLine)
 int drawPalette(Session& session, const CommandLine& commandLine)
 {
     if (!commandLine.svg && !commandLine.png)
-        throw Failure{"there is no file to write", "give --svg FILE or --png FILE"};
+        throw Failure{
+            {phrase("there is no file to write"), phrase("give --svg FILE or --png FILE")}};
     const HostSize size = pictureSize(commandLine);
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.svg) {
@@ -233,7 +236,8 @@ int drawPalette(Session& session, const CommandLine& commandLine)
     refuseBytesOnTerminal(*commandLine.png);
     const std::string png = palettePng(*list, size);
     if (png.empty())
-        throw Failure{"the picture cannot be made", "a smaller --size needs less room"};
+        throw Failure{
+            {phrase("the picture cannot be made"), phrase("a smaller --size needs less room")}};
     writeFile(session.output(), *commandLine.png, png);
     return 0;
 }

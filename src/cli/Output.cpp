@@ -56,8 +56,8 @@ void Output::flush()
     _used = 0;
     if (writeAll(STDOUT_FILENO, bytes)) return;
     if (errno == EPIPE) throw SilentFailure{};
-    throw Failure{std::string("standard output cannot be written (") + std::strerror(errno) + ")",
-                  "give it a file with room or a program that reads"};
+    throw Failure{{phrase("standard output cannot be written (%1)", std::strerror(errno)),
+                   phrase("give it a file with room or a program that reads")}};
 }
 
 void occupyClosedStreams()
@@ -94,8 +94,8 @@ void writeFile(Output& output, const std::string& path, std::string_view bytes)
             PosixFiles(std::string("/")).writeForOthers(absolutePath(path), std::string(bytes));
     }
     if (!written) {
-        throw Failure{quotedText(path) + " cannot be written",
-                      "name a file in a folder that exists and may be written to"};
+        throw Failure{{phrase("\"%1\" cannot be written", excerpt(path)),
+                       phrase("name a file in a folder that exists and may be written to")}};
     }
 }
 

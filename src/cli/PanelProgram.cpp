@@ -59,8 +59,8 @@ void becomePanel(const std::vector<std::string>& arguments)
 {
     std::string path = pathOfPanel();
     if (path.empty()) {
-        throw Failure{"the program vantorel-panel is missing",
-                      "install it beside vantorel or in a folder of PATH"};
+        throw Failure{{phrase("the program vantorel-panel is missing"),
+                       phrase("install it beside vantorel or in a folder of PATH")}};
     }
     std::vector<std::string> words{path};
     words.insert(words.end(), arguments.begin(), arguments.end());
@@ -70,8 +70,8 @@ void becomePanel(const std::vector<std::string>& arguments)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
     ::execv(path.c_str(), pointers.data());
-    throw Failure{quotedText(path) + " cannot be run (" + std::strerror(errno) + ")",
-                  "install vantorel-panel anew"};
+    throw Failure{{phrase("\"%1\" cannot be run (%2)", excerpt(path), std::strerror(errno)),
+                   phrase("install vantorel-panel anew")}};
 }
 
 }  // namespace vantorel

@@ -14,23 +14,24 @@ void tell(Session& session, const std::string& what, const std::string& path)
 }
 
 /// What stands on standard output so far comes before a message.
-void complainInOrder(Session& session, const std::string& what, const std::string& right)
+void complainInOrder(Session& session, const Message& message)
 {
     session.output().flush();
-    complain(what, right);
+    complain(message);
 }
 
 int takeListBack(Session& session, const std::u16string& name)
 {
     PublishRecords records(session.files(), name);
     if (!records.isReadable()) {
-        throw Failure{"the record of what was published cannot be read",
-                      "the folder of your data may be read by you"};
+        throw Failure{{phrase("the record of what was published cannot be read"),
+                       phrase("the folder of your data may be read by you")}};
     }
     const auto latest = records.latest();
     if (!latest) {
-        throw Failure{"the list " + quotedText(utf8FromUtf16(name)) + " has not been published",
-                      "only what \"list publish\" has written can be taken back"};
+        throw Failure{
+            {phrase("the list \"%1\" has not been published", excerpt(utf8FromUtf16(name))),
+             phrase("only what \"list publish\" has written can be taken back")}};
     }
     PublishRecords::Publish left;
     for (const PublishedFile& file : *latest) {
@@ -45,20 +46,22 @@ int takeListBack(Session& session, const std::u16string& name)
                 tell(session, "already as it was", file.path);
                 break;
             case TakenBack::changedSince:
-                complainInOrder(session, quotedText(file.path) + " has been changed since",
-                                "what is there stays; remove it yourself if it is not needed");
+                complainInOrder(
+                    session,
+                    {phrase("\"%1\" has been changed since", excerpt(file.path)),
+                     phrase("what is there stays; remove it yourself if it is not needed")});
                 left.push_back(file);
                 break;
             case TakenBack::failed:
-                complainInOrder(session, quotedText(file.path) + " cannot be written",
-                                "its folder may be written to by you");
+                complainInOrder(session, {phrase("\"%1\" cannot be written", excerpt(file.path)),
+                                          phrase("its folder may be written to by you")});
                 left.push_back(file);
                 break;
         }
     }
     if (!records.replaceLatest(left)) {
-        complainInOrder(session, "the record of what was published cannot be written",
-                        "the folder of your data may be written to by you");
+        complainInOrder(session, {phrase("the record of what was published cannot be written"),
+                                  phrase("the folder of your data may be written to by you")});
         return failureStatus;
     }
     return left.empty() ? 0 : failureStatus;
@@ -80,8 +83,8 @@ int publishList(Session& session, const CommandLine& commandLine)
     const auto list = session.lists().requiredList(utf8Name);
     const PublishPlan plan = planPublish(session.files(), *list);
     if (plan.targets.empty()) {
-        throw Failure{"no graphics program has a folder for palettes of yours",
-                      "start GIMP, Inkscape or Krita once, which makes theirs"};
+        throw Failure{{phrase("no graphics program has a folder for palettes of yours"),
+                       phrase("start GIMP, Inkscape or Krita once, which makes theirs")}};
     }
     int status = 0;
     PublishRecords::Publish publish;
@@ -89,24 +92,27 @@ int publishList(Session& session, const CommandLine& commandLine)
         if (target.isAsWanted) {
             tell(session, "already there", target.file.path);
         } else if (target.isBlocked) {
-            complainInOrder(session, quotedText(target.file.path) + " cannot be replaced",
-                            "a file that may be read, or nothing, stands there");
+            complainInOrder(session,
+                            {phrase("\"%1\" cannot be replaced", excerpt(target.file.path)),
+                             phrase("a file that may be read, or nothing, stands there")});
             status = failureStatus;
         } else if (target.file.before && !commandLine.yes && !canAsk()) {
-            complainInOrder(session, quotedText(target.file.path) + " is there and differs",
-                            "\"--yes\" replaces it");
+            complainInOrder(session,
+                            {phrase("\"%1\" is there and differs", excerpt(target.file.path)),
+                             phrase("\"--yes\" replaces it")});
             status = failureStatus;
         } else {
             session.output().flush();
             if (target.file.before && !commandLine.yes &&
-                !confirms("Replace " + quotedText(target.file.path) + ", which differs?")) {
+                !confirms("Replace \"" + excerpt(target.file.path) + "\", which differs?")) {
                 tell(session, "left as it is", target.file.path);
                 continue;
             }
             // The answer can take a while.
             if (session.files().contentsAtPath(target.file.path) != target.file.before) {
-                complainInOrder(session, quotedText(target.file.path) + " has just been changed",
-                                "publish once more");
+                complainInOrder(session,
+                                {phrase("\"%1\" has just been changed", excerpt(target.file.path)),
+                                 phrase("publish once more")});
                 status = failureStatus;
                 continue;
             }
@@ -117,8 +123,8 @@ int publishList(Session& session, const CommandLine& commandLine)
 
     PublishRecords records(session.files(), list->name());
     if (!records.add(publish)) {
-        throw Failure{"what is published cannot be recorded, so nothing was written",
-                      "the folder of your data may be written to by you"};
+        throw Failure{{phrase("what is published cannot be recorded, so nothing was written"),
+                       phrase("the folder of your data may be written to by you")}};
     }
     PublishRecords::Publish written;
     for (const PublishPlan::Target& target : plan.targets) {
@@ -131,8 +137,8 @@ int publishList(Session& session, const CommandLine& commandLine)
                                    harmlessLine(describe(target)) + '\n');
             written.push_back(target.file);
         } else {
-            complainInOrder(session, quotedText(target.file.path) + " cannot be written",
-                            "its folder may be written to by you");
+            complainInOrder(session, {phrase("\"%1\" cannot be written", excerpt(target.file.path)),
+                                      phrase("its folder may be written to by you")});
             status = failureStatus;
         }
     }

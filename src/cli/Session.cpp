@@ -1,18 +1,18 @@
 #include "cli/Commands.h"
 #include "cli/Failure.h"
 
-#include "result/HarmlessLine.h"
+#include "result/Message.h"
 #include "settings/SettingsFile.h"
 
 namespace vantorel {
 
 Session::Session()
 {
-    _files.setComplaint([this](const auto& path, auto trouble, const auto& reason) {
-        // What is missing of an answer is told by the command that wanted it.
-        if (trouble == PosixFiles::Trouble::reading) return;
+    _files.setFailureHandler([this](auto access, const Message& message) {
+        // What is missing of an answer is reported by the command that wanted it.
+        if (access == PosixFiles::Access::reading) return;
         _output.flush();
-        complain(quotedText(path) + " cannot be written", reason);
+        complain(message);
     });
 }
 

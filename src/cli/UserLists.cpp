@@ -67,8 +67,8 @@ std::shared_ptr<HostColorList> UserLists::requiredList(const std::string& utf8Na
     const std::u16string name = utf16FromUtf8(utf8Name);
     auto list = listNamed(name);
     if (!list) {
-        throw Failure{"there is no colour list " + quotedText(utf8Name),
-                      "\"vantorel lists\" tells which there are"};
+        throw Failure{{phrase("there is no colour list \"%1\"", excerpt(utf8Name)),
+                       phrase("\"vantorel lists\" tells which there are")}};
     }
     return list;
 }

@@ -44,16 +44,16 @@ constexpr std::pair<std::string_view, Function> functions[] = {
 
 int runArguments(Session& session, const std::vector<std::string>& arguments)
 {
-    ArgumentReading reading = readArguments(vantorelProgram, arguments);
-    if (!reading.what.empty()) throw Failure{reading.what, reading.right};
+    Result<ArgumentReading> reading = readArguments(vantorelProgram, arguments);
+    if (!reading) throw Failure{reading.error()};
     int status = 0;
-    if (reading.arguments) {
+    if (reading->arguments) {
         const auto* const function =
-            std::ranges::find(functions, std::string_view(reading.arguments->command),
+            std::ranges::find(functions, std::string_view(reading->arguments->command),
                               &std::pair<std::string_view, Function>::first);
-        status = function->second(session, CommandLine(std::move(*reading.arguments)));
+        status = function->second(session, CommandLine(std::move(*reading->arguments)));
     } else {
-        session.output().write(reading.text);
+        session.output().write(reading->text);
     }
     session.output().flush();
     return status;
@@ -75,13 +75,13 @@ int main(int argc, char** argv)
                 session->output().flush();
             } catch (const Failure&) {
             }
-            complain(failure.what, failure.right);
+            complain(failure.message);
             return failureStatus;
         }
     } catch (const SilentFailure&) {
         return failureStatus;
     } catch (const std::bad_alloc&) {
-        complain("there is not enough memory", "less at once needs less");
+        complain({phrase("there is not enough memory"), phrase("less at once needs less")});
         return failureStatus;
     }
 }

@@ -20,31 +20,30 @@ std::u16string_view withoutSurroundings(std::u16string_view text)
 
 }  // namespace
 
-ColorTextReading ColorTextReader::read(std::string_view utf8)
+Result<ByteColor> ColorTextReader::read(std::string_view utf8)
 {
-    if (const auto plain = readPlainHex(utf8)) return {plain, {}};
+    if (const auto plain = readPlainHex(utf8)) return *plain;
     const std::u16string text = utf16FromUtf8(utf8);
-    CSSColorReading css = readCSSColor(std::u16string_view(text));
-    if (css.color) {
-        ByteColor color = byteColorOf(css.color->color);
-        color.wasOutsideSRGB = css.color->wasOutsideSRGB;
-        return {color, {}};
+    Result<CSSColor> css = readCSSColor(std::u16string_view(text));
+    if (css) {
+        ByteColor color = byteColorOf(css->color);
+        color.wasOutsideSRGB = css->wasOutsideSRGB;
+        return color;
     }
     const std::u16string name(withoutSurroundings(text));
     if (const auto hex = validHexString(name, fullDigits)) {
         QTXHexColorSpec spec;
         spec.setWithString(*hex);
-        return {byteColorOf(spec.colorHexColorSpec()), {}};
+        return byteColorOf(spec.colorHexColorSpec());
     }
     // A name of the list before the triple: a name may hold anything.
-    if (const auto named = colorInList(name)) return {byteColorOf(*named), {}};
+    if (const auto named = colorInList(name)) return byteColorOf(*named);
     if (const auto triple = readRgbTriple(text); triple.components) {
         const auto& [red, green, blue] = *triple.components;
-        return {ByteColor{static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green),
-                          static_cast<std::uint8_t>(blue)},
-                {}};
+        return ByteColor{static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green),
+                         static_cast<std::uint8_t>(blue)};
     }
-    return {std::nullopt, utf8FromUtf16(css.error)};
+    return std::move(css).error();
 }
 
 /// By its exact name, else by the first that differs in letter case alone.

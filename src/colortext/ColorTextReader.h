@@ -2,6 +2,7 @@
 
 #include "colortext/ByteColor.h"
 #include "host/HostColorList.h"
+#include "result/Result.h"
 #include "text/HexDigits.h"
 
 #include <cstdint>
@@ -12,12 +13,6 @@
 #include <string_view>
 
 namespace vantorel {
-
-struct ColorTextReading {
-    std::optional<ByteColor> color;
-    /// As `CSSColorReading::error`, in UTF-8.
-    std::string error;
-};
 
 /// Reads colours as they are typed: a hex code, any form of CSS, what the picker's fields take, and
 /// names of a colour list.
@@ -30,7 +25,7 @@ public:
     explicit ColorTextReader(FindList findList) : _findList(std::move(findList)) {}
 
     /// Texts of any length; takes time in proportion to it.
-    [[nodiscard]] ColorTextReading read(std::string_view utf8);
+    [[nodiscard]] Result<ByteColor> read(std::string_view utf8);
 
 private:
     [[nodiscard]] std::optional<HostColor> colorInList(const std::u16string& name);

@@ -21,33 +21,31 @@ public:
     {
     }
 
-    ArgumentReading read()
+    Result<ArgumentReading> read()
     {
         while (_next < _arguments.size() && !_command->handsOn && _arguments[_next] != "--")
             take(_arguments[_next++]);
-        if (_wantsHelp) return {{}, helpText(*_command, _names), {}, {}};
+        if (_wantsHelp) return ArgumentReading{{}, helpText(*_command, _names)};
         if (_given.has(versionOption))
-            return {{}, _names + " " + std::string(_program.version) + "\n", {}, {}};
+            return ArgumentReading{{}, _names + " " + std::string(_program.version) + "\n"};
 
         if (_next < _arguments.size() && !_command->handsOn) ++_next;
         for (; _next < _arguments.size(); ++_next)
             _given.operands.push_back(_arguments[_next]);
-        if (_what.empty()) checkOptions();
-        if (_what.empty() && !_command->handsOn) checkOperands();
-        if (!_what.empty()) return {{}, {}, std::move(_what), std::move(_right)};
-        return {std::move(_given), {}, {}, {}};
+        if (!_error) checkOptions();
+        if (!_error && !_command->handsOn) checkOperands();
+        if (_error) return *std::move(_error);
+        return ArgumentReading{std::move(_given), {}};
     }
 
 private:
-    void fail(const std::string& what, const std::string& right)
+    void fail(Phrase what, Phrase remedy)
     {
-        if (!_what.empty()) return;
-        _what = what;
-        _right = right;
+        if (!_error) _error = {std::move(what), std::move(remedy)};
     }
-    void fail(const std::string& what)
+    void fail(Phrase what)
     {
-        fail(what, "\"" + _names + " --help\" tells what can be given");
+        fail(std::move(what), phrase("\"%1 --help\" tells what can be given", _names));
     }
 
     void take(const std::string& argument)
@@ -57,7 +55,8 @@ private:
             std::find_if(_command->commands.begin(), _command->commands.end(),
                          [&](const CommandRow& command) { return command.name == argument; });
         if (inner != _command->commands.end()) return enter(*inner);
-        if (_command->needsCommand()) return fail(quotedText(argument) + " is no command");
+        if (_command->needsCommand())
+            return fail(phrase("\"%1\" is no command", excerpt(argument)));
         _given.operands.push_back(argument);
     }
 
@@ -65,11 +64,13 @@ private:
     {
         const std::string names = _names + " " + std::string(inner.name);
         // What stands between a command and one of its own belongs to neither.
-        const std::string right = "write it behind \"" + names + "\"";
+        const Phrase remedy = phrase("write it behind \"%1\"", names);
         if (!_given.operands.empty())
-            fail(quotedText(_given.operands.front()) + " stands before the command", right);
+            fail(phrase("\"%1\" stands before the command", excerpt(_given.operands.front())),
+                 remedy);
         if (!_given.options.empty())
-            fail(std::string(_given.options.front().first) + " stands before the command", right);
+            fail(phrase("%1 stands before the command", std::string(_given.options.front().first)),
+                 remedy);
         _command = &inner;
         _names = names;
         _given.command.append(_given.command.empty() ? "" : " ").append(inner.name);
@@ -86,20 +87,20 @@ private:
         const auto option = std::find_if(_command->options.begin(), _command->options.end(),
                                          [&](const OptionRow& row) { return row.name == name; });
         if (option == _command->options.end())
-            return fail(quotedText(argument) + " does not belong to \"" + _names + "\"");
+            return fail(phrase("\"%1\" does not belong to \"%2\"", excerpt(argument), _names));
         const std::string named(name);
         std::string value;
         if (option->value.empty()) {
-            if (equals != std::string::npos) return fail(named + " takes no value");
+            if (equals != std::string::npos) return fail(phrase("%1 takes no value", named));
         } else if (equals != std::string::npos) {
             value = argument.substr(equals + 1);
         } else if (_next < _arguments.size()) {
             value = _arguments[_next++];
         } else {
-            return fail(named + " has no value");
+            return fail(phrase("%1 has no value", named));
         }
         if (!option->value.empty() && !option->isRepeatable && _given.has(name))
-            return fail(named + " is given twice");
+            return fail(phrase("%1 is given twice", named));
         _given.options.emplace_back(option->name, std::move(value));
     }
 
@@ -107,9 +108,9 @@ private:
     {
         for (const OptionRow& option : _command->options) {
             const std::string name(option.name);
-            if (option.isRequired && !_given.has(option.name)) fail(name + " is required");
+            if (option.isRequired && !_given.has(option.name)) fail(phrase("%1 is required", name));
             if (_given.has(option.name) && _given.has(option.excludes))
-                fail(name + " excludes " + std::string(option.excludes));
+                fail(phrase("%1 excludes %2", name, std::string(option.excludes)));
             for (const std::string& value : _given.values(option.name))
                 checkChoice(name, value, option.choices);
         }
@@ -117,19 +118,20 @@ private:
 
     void checkOperands()
     {
-        if (_command->needsCommand()) return fail("there is no command");
+        if (_command->needsCommand()) return fail(phrase("there is no command"));
         std::size_t begin = 0;
         for (const OperandRow& operand : _command->operands) {
             const std::size_t count =
                 std::min(_given.operands.size() - begin,
                          operand.most == 0 ? std::string::npos : operand.most);
-            if (count < operand.fewest) return fail("there is no " + std::string(operand.value));
+            if (count < operand.fewest)
+                return fail(phrase("there is no %1", std::string(operand.value)));
             for (std::size_t i = begin; i < begin + count; ++i)
                 checkChoice(std::string(operand.value), _given.operands[i], operand.choices);
             begin += count;
         }
         if (begin < _given.operands.size())
-            fail(quotedText(_given.operands[begin]) + " is one argument too many");
+            fail(phrase("\"%1\" is one argument too many", excerpt(_given.operands[begin])));
     }
 
     void checkChoice(const std::string& what, const std::string& value, Choices choices)
@@ -139,7 +141,8 @@ private:
         for (const Choice& choice : choices())
             values.emplace_back(choice.value);
         if (std::find(values.begin(), values.end(), value) == values.end())
-            fail(what + " is " + quotedText(value), "it can be " + sentenceOf(values));
+            fail(phrase("%1 is \"%2\"", what, excerpt(value)),
+                 phrase("it can be %1", sentenceOf(values)));
     }
 
     const ProgramRow& _program;
@@ -150,8 +153,7 @@ private:
     std::size_t _next = 0;
     GivenArguments _given;
     bool _wantsHelp = false;
-    std::string _what;
-    std::string _right;
+    std::optional<Message> _error;
 };
 
 }  // namespace
@@ -178,7 +180,8 @@ std::vector<std::string> GivenArguments::values(std::string_view option) const
     return result;
 }
 
-ArgumentReading readArguments(const ProgramRow& program, const std::vector<std::string>& arguments)
+Result<ArgumentReading> readArguments(const ProgramRow& program,
+                                      const std::vector<std::string>& arguments)
 {
     return ArgumentReader(program, arguments).read();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commandline/CommandTable.h"
+#include "result/Result.h"
 
 #include <optional>
 #include <string>
@@ -25,20 +26,17 @@ struct GivenArguments {
     [[nodiscard]] std::vector<std::string> values(std::string_view option) const;
 };
 
-/// Arguments, or a text to print in their place, or what is wrong with them.
+/// Arguments, or a text to print in their place.
 struct ArgumentReading {
     std::optional<GivenArguments> arguments;
     /// The answer to --help or --version.
     std::string text;
-    /// What is wrong, and what would be right.
-    std::string what;
-    std::string right;
 };
 
 /// Reads the arguments that follow a program's name. An option that takes a value takes the next
 /// argument, whatever it is, or what follows a "=". What follows "--" are operands; "-" is one,
 /// too.
-[[nodiscard]] ArgumentReading readArguments(const ProgramRow& program,
-                                            const std::vector<std::string>& arguments);
+[[nodiscard]] Result<ArgumentReading> readArguments(const ProgramRow& program,
+                                                    const std::vector<std::string>& arguments);
 
 }  // namespace vantorel

@@ -8,39 +8,41 @@ namespace {
 
 constexpr double unlimited = largestCSSNumber;
 
-constexpr CSSValueRule hue{u"hue", true, 0, -unlimited, unlimited};
+constexpr CSSValueRule hue{phraseText("hue"), true, 0, -unlimited, unlimited};
 
-constexpr CSSValueRule channel(std::u16string_view name)
+constexpr CSSValueRule channel(PhraseText<> name)
 {
     return {name, false, 255, 0, 255};
 }
 
 constexpr CSSValueRule lightness(double hundredPercent)
 {
-    return {u"lightness", false, hundredPercent, 0, hundredPercent};
+    return {phraseText("lightness"), false, hundredPercent, 0, hundredPercent};
 }
 
 /// A saturation or chroma: never negative.
-constexpr CSSValueRule strength(std::u16string_view name, double hundredPercent)
+constexpr CSSValueRule strength(PhraseText<> name, double hundredPercent)
 {
     return {name, false, hundredPercent, 0, unlimited};
 }
 
-constexpr CSSValueRule unbounded(std::u16string_view name, double hundredPercent)
+constexpr CSSValueRule unbounded(PhraseText<> name, double hundredPercent)
 {
     return {name, false, hundredPercent, -unlimited, unlimited};
 }
 
-constexpr std::array<CSSValueRule, 3> rgbValues{channel(u"red"), channel(u"green"),
-                                                channel(u"blue")};
+constexpr std::array<CSSValueRule, 3> rgbValues{
+    channel(phraseText("red")), channel(phraseText("green")), channel(phraseText("blue"))};
 // A saturation above 100% is not cut when it is read (CSS Color 4, section 7), the lightness is:
 // beyond its ends such a saturation would turn white and black into the opposite colour.
-constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(u"saturation", 100), lightness(100)};
-constexpr std::array<CSSValueRule, 3> predefinedRGBValues{
-    unbounded(u"red", 1), unbounded(u"green", 1), unbounded(u"blue", 1)};
-constexpr std::array<CSSValueRule, 3> predefinedXYZValues{unbounded(u"X", 1), unbounded(u"Y", 1),
-                                                          unbounded(u"Z", 1)};
-constexpr CSSValueRule alphaRule{u"alpha", false, 1, 0, 1};
+constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(phraseText("saturation"), 100),
+                                                lightness(100)};
+constexpr std::array<CSSValueRule, 3> predefinedRGBValues{unbounded(phraseText("red"), 1),
+                                                          unbounded(phraseText("green"), 1),
+                                                          unbounded(phraseText("blue"), 1)};
+constexpr std::array<CSSValueRule, 3> predefinedXYZValues{
+    unbounded(phraseText("X"), 1), unbounded(phraseText("Y"), 1), unbounded(phraseText("Z"), 1)};
+constexpr CSSValueRule alphaRule{phraseText("alpha"), false, 1, 0, 1};
 
 constexpr std::u16string_view rgbExample = u"rgb(255 128 0 / 50%)";
 constexpr std::u16string_view rgbExampleWithCommas = u"rgb(255, 128, 0, 0.5)";
@@ -56,34 +58,37 @@ constexpr std::array functions{
                      hslExample, hslExampleWithCommas},
     CSSColorFunction{u"hsla", CSSColorForm::hsl, CSSCommaForm::hueAndPercentages, hslValues,
                      hslExample, hslExampleWithCommas},
-    CSSColorFunction{u"hwb",
-                     CSSColorForm::hwb,
-                     CSSCommaForm::none,
-                     {hue, unbounded(u"whiteness", 100), unbounded(u"blackness", 100)},
-                     u"hwb(30 0% 0% / 50%)",
-                     u""},
-    CSSColorFunction{u"lab",
-                     CSSColorForm::lab,
-                     CSSCommaForm::none,
-                     {lightness(100), unbounded(u"a", 125), unbounded(u"b", 125)},
-                     u"lab(67 42 74 / 50%)",
-                     u""},
+    CSSColorFunction{
+        u"hwb",
+        CSSColorForm::hwb,
+        CSSCommaForm::none,
+        {hue, unbounded(phraseText("whiteness"), 100), unbounded(phraseText("blackness"), 100)},
+        u"hwb(30 0% 0% / 50%)",
+        u""},
+    CSSColorFunction{
+        u"lab",
+        CSSColorForm::lab,
+        CSSCommaForm::none,
+        {lightness(100), unbounded(phraseText("a"), 125), unbounded(phraseText("b"), 125)},
+        u"lab(67 42 74 / 50%)",
+        u""},
     CSSColorFunction{u"lch",
                      CSSColorForm::lch,
                      CSSCommaForm::none,
-                     {lightness(100), strength(u"chroma", 150), hue},
+                     {lightness(100), strength(phraseText("chroma"), 150), hue},
                      u"lch(67 85 60 / 50%)",
                      u""},
-    CSSColorFunction{u"oklab",
-                     CSSColorForm::oklab,
-                     CSSCommaForm::none,
-                     {lightness(1), unbounded(u"a", 0.4), unbounded(u"b", 0.4)},
-                     u"oklab(73% 0.1 0.15 / 50%)",
-                     u""},
+    CSSColorFunction{
+        u"oklab",
+        CSSColorForm::oklab,
+        CSSCommaForm::none,
+        {lightness(1), unbounded(phraseText("a"), 0.4), unbounded(phraseText("b"), 0.4)},
+        u"oklab(73% 0.1 0.15 / 50%)",
+        u""},
     CSSColorFunction{u"oklch",
                      CSSColorForm::oklch,
                      CSSCommaForm::none,
-                     {lightness(1), strength(u"chroma", 0.4), hue},
+                     {lightness(1), strength(phraseText("chroma"), 0.4), hue},
                      u"oklch(73% 0.18 54 / 50%)",
                      u""},
     CSSColorFunction{u"color", CSSColorForm::color, CSSCommaForm::none, predefinedRGBValues,

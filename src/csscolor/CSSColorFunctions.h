@@ -3,6 +3,7 @@
 #include "csscolor/CSSColorReader.h"
 #include "csscolor/ColorConversions.h"
 #include "csscolor/PredefinedColorSpaces.h"
+#include "result/Message.h"
 
 #include <array>
 #include <string_view>
@@ -12,7 +13,7 @@ namespace vantorel {
 /// What CSS Color 4 says of one value of a colour function.
 struct CSSValueRule {
     /// For messages.
-    std::u16string_view name;
+    PhraseText<> name;
     /// A hue is an angle or a number of degrees; every other value a number or a percentage.
     bool isHue;
     double hundredPercent;

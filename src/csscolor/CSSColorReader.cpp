@@ -3,8 +3,7 @@
 #include "csscolor/CSSColorFunctions.h"
 #include "csscolor/CSSNamedColors.h"
 #include "csscolor/CSSTokenizer.h"
-#include "csscolor/MessageText.h"
-#include "text/Decimals.h"
+#include "result/HarmlessLine.h"
 #include "text/HexDigits.h"
 #include "text/Trimming.h"
 #include "text/Unicode.h"
@@ -16,7 +15,22 @@
 namespace vantorel {
 namespace {
 
-constexpr std::u16string_view someColors = u"\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"";
+/// A piece of the text as messages quote it.
+std::u16string quote(std::u16string_view text)
+{
+    constexpr std::size_t mostUnits = 24;
+    return excerpt(text, mostUnits);
+}
+
+Phrase writeAs(std::u16string_view example)
+{
+    return phrase("write \"%1\"", example);
+}
+
+Phrase kindsOf(const CSSValueRule& rule)
+{
+    return rule.isHue ? phrase("an angle or a number") : phrase("a number or a percentage");
+}
 
 bool isSurroundingBlank(char16_t c)
 {
@@ -58,22 +72,22 @@ HostColor colorOf(const ColorTriple& srgb, double alpha)
     return HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], alpha);
 }
 
-/// One reading. The functions that return nothing or false have set `_error`.
+/// One reading. The functions that return `std::nullopt` or false have set `_error`.
 class Reader {
 public:
     explicit Reader(std::u16string_view text) : _text(text), _tokens(text) {}
 
-    CSSColorReading read()
+    Result<CSSColor> read()
     {
-        std::optional<CSSColor> color = readColor();
-        if (color && !readEnd()) color.reset();
-        return {color, color ? std::u16string() : _error};
+        const std::optional<CSSColor> color = readColor();
+        if (color && readEnd()) return *color;
+        return std::move(_error);
     }
 
 private:
-    std::nullopt_t fail(std::initializer_list<std::u16string_view> parts)
+    std::nullopt_t fail(Phrase what, Phrase remedy = {})
     {
-        _error = joined(parts);
+        _error = {std::move(what), std::move(remedy)};
         return std::nullopt;
     }
     void advance() { _token = _tokens.next(); }
@@ -107,7 +121,7 @@ private:
     const std::array<CSSValueRule, 3>* _rules = nullptr;
     /// With its parentheses, e.g. "rgb()".
     std::u16string _functionName;
-    std::u16string _error;
+    Message _error;
 };
 
 /// Before any other form, since digits and "e" would be a number to CSS.
@@ -125,8 +139,7 @@ std::optional<CSSColor> Reader::readBareHex()
     if (digits.size() != 3 && digits.size() != 6) {
         const bool hasNumber = digits.find_first_of(u"0123456789") != std::u16string_view::npos;
         if (hasNumber) {
-            fail({u"A hex colour without \"#\" has 3 or 6 digits, not ", decimalText(digits.size()),
-                  u"."});
+            fail(phrase("A hex colour without \"#\" has 3 or 6 digits, not %1", digits.size()));
         }
         return std::nullopt;
     }
@@ -139,7 +152,8 @@ std::optional<CSSColor> Reader::readBareHex()
 
 std::optional<CSSColor> Reader::readColor()
 {
-    if (std::optional<CSSColor> color = readBareHex(); color || !_error.empty()) return color;
+    if (std::optional<CSSColor> color = readBareHex(); color || !_error.what.isEmpty())
+        return color;
     advance();
     switch (_token.kind) {
         case CSSTokenKind::hash:
@@ -151,9 +165,11 @@ std::optional<CSSColor> Reader::readColor()
         case CSSTokenKind::unclosedComment:
             return failUnclosedComment();
         case CSSTokenKind::end:
-            return fail({u"The text holds no colour; write one such as ", someColors, u"."});
+            return fail(phrase("The text holds no colour"),
+                        phrase("write one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
         default:
-            return fail({quoted(source()), u" is no colour; write one such as ", someColors, u"."});
+            return fail(phrase("\"%1\" is no colour", quote(source())),
+                        phrase("write one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
 }
 
@@ -166,7 +182,8 @@ bool Reader::readEnd()
     if (is(CSSTokenKind::unclosedComment)) {
         failUnclosedComment();
     } else {
-        fail({quoted(_text.substr(_token.begin)), u" follows the colour; give one colour alone."});
+        fail(phrase("\"%1\" follows the colour", quote(_text.substr(_token.begin))),
+             phrase("give one colour alone"));
     }
     return false;
 }
@@ -178,14 +195,12 @@ std::optional<CSSColor> Reader::readHex()
     if (wrong != digits.end()) {
         const auto index = static_cast<std::size_t>(wrong - digits.begin());
         const std::size_t width = (*wrong & 0xFC00) == 0xD800 ? 2 : 1;
-        return fail({quoted(digits.substr(index, width)),
-                     u" is no hex digit; after \"#\" come digits from 0 to 9 and letters from a "
-                     u"to f."});
+        return fail(phrase("\"%1\" is no hex digit", quote(digits.substr(index, width))),
+                    phrase("after \"#\" come digits from 0 to 9 and letters from a to f"));
     }
     const std::size_t count = digits.size();
     if (count != 3 && count != 4 && count != 6 && count != 8) {
-        return fail({u"A hex colour has 3, 4, 6 or 8 digits after the \"#\", not ",
-                     decimalText(count), u"."});
+        return fail(phrase("A hex colour has 3, 4, 6 or 8 digits after the \"#\", not %1", count));
     }
     const bool isShort = count < 6;
     const auto channel = [&](std::size_t index) {
@@ -209,40 +224,37 @@ std::optional<CSSColor> Reader::readName()
     }
     advance();
     if (is(CSSTokenKind::colon)) {
-        return fail({u"The property ", quoted(written),
-                     u" does not belong to the colour; give its value alone, such as ", someColors,
-                     u"."});
+        return fail(
+            phrase("The property \"%1\" does not belong to the colour", quote(written)),
+            phrase("give its value alone, such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
     if (isContextualCSSColor(name)) {
-        return fail({quoted(written),
-                     u" has no colour without the page where it stands; write a fixed one such as ",
-                     someColors, u"."});
+        return fail(
+            phrase("\"%1\" has no colour without the page where it stands", quote(written)),
+            phrase("write a fixed one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
     if (is(CSSTokenKind::openParenthesis) && cssColorFunctionNamed(name) != nullptr) {
-        return fail({u"Nothing may stand between ", quoted(written),
-                     u" and its parenthesis; write \"", cssColorFunctionNamed(name)->example,
-                     u"\"."});
+        return fail(phrase("Nothing may stand between \"%1\" and its parenthesis", quote(written)),
+                    writeAs(cssColorFunctionNamed(name)->example));
     }
-    return fail(
-        {quoted(written), u" is no colour name of CSS; write a colour such as ", someColors, u"."});
+    return fail(phrase("\"%1\" is no colour name of CSS", quote(written)),
+                phrase("write a colour such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
 }
 
 std::optional<CSSColor> Reader::readFunction()
 {
     _function = cssColorFunctionNamed(_token.name);
     if (_function == nullptr) {
-        return fail({quoted(source().substr(0, source().size() - 1)),
-                     u" is no colour function that can be read; rgb(), hsl(), hwb(), lab(), lch(), "
-                     u"oklab(), oklch() and color() are."});
+        return fail(phrase("\"%1\" is no colour function that can be read",
+                           quote(source().substr(0, source().size() - 1))),
+                    phrase("rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() and color() are"));
     }
-    _functionName = joined({_function->name, u"()"});
+    _functionName = std::u16string(_function->name) + u"()";
     _rules = &_function->values;
     advance();
     if (is(CSSTokenKind::name) && _token.name == u"from") {
-        return fail(
-            {u"A colour relative to another, with \"from\", cannot be read; write its "
-             u"values, as in \"",
-             _function->example, u"\"."});
+        return fail(phrase("A colour relative to another, with \"from\", cannot be read"),
+                    phrase("write its values, as in \"%1\"", _function->example));
     }
     auto space = PredefinedColorSpace::srgb;
     if (_function->form == CSSColorForm::color) {
@@ -277,12 +289,13 @@ std::optional<PredefinedColorSpace> Reader::readColorSpace()
         advance();
         return space;
     }
-    constexpr std::u16string_view spaces =
-        u"srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, "
-        u"xyz-d50 or xyz-d65";
+    const Phrase spaces = phrase(
+        "srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, "
+        "xyz-d50 or xyz-d65");
     if (is(CSSTokenKind::name))
-        return fail({quoted(source()), u" is no colour space of color(); write ", spaces, u"."});
-    return fail({u"color() begins with a colour space: ", spaces, u"."});
+        return fail(phrase("\"%1\" is no colour space of color()", quote(source())),
+                    phrase("write %1", spaces));
+    return fail(phrase("color() begins with a colour space: %1", spaces));
 }
 
 /// What stands before the value of an index of 1 or 2; the first one decides on commas or none.
@@ -290,8 +303,8 @@ bool Reader::readSeparator(std::size_t index, bool& commas)
 {
     const bool comma = is(CSSTokenKind::comma);
     if (comma && _function->commaForm == CSSCommaForm::none) {
-        fail({_functionName, u" has no commas between its values; write \"", _function->example,
-              u"\"."});
+        fail(phrase("%1 has no commas between its values", _functionName),
+             writeAs(_function->example));
         return false;
     }
     // At the end of the values their number is what is wrong.
@@ -308,8 +321,6 @@ bool Reader::readSeparator(std::size_t index, bool& commas)
 
 std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t valuesBefore)
 {
-    const std::u16string_view kinds =
-        rule.isHue ? u"an angle or a number" : u"a number or a percentage";
     CSSValue value;
     switch (_token.kind) {
         case CSSTokenKind::number:
@@ -317,51 +328,53 @@ std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t 
             break;
         case CSSTokenKind::percentage:
             if (rule.isHue) {
-                return fail({u"The hue of ", _functionName, u" is ", kinds, u", not ",
-                             quoted(source()), u"."});
+                return fail(phrase("The hue of %1 is %2, not \"%3\"", _functionName, kindsOf(rule),
+                                   quote(source())));
             }
             value.number = _token.number / 100 * rule.hundredPercent;
             value.isPercentage = true;
             break;
         case CSSTokenKind::dimension:
             if (!rule.isHue) {
-                return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
-                             quoted(source()), u"."});
+                return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+                                   kindsOf(rule), quote(source())));
             }
             if (unitsPerTurn(_token.name) == 0) {
-                return fail({quoted(source()),
-                             u" is no angle; the units of angles are deg, grad, rad and turn."});
+                return fail(phrase("\"%1\" is no angle", quote(source())),
+                            phrase("the units of angles are deg, grad, rad and turn"));
             }
             value.number = degreesOf(_token.number, unitsPerTurn(_token.name));
             break;
         case CSSTokenKind::name:
             if (_token.name != u"none") {
-                return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
-                             quoted(source()), u"."});
+                return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+                                   kindsOf(rule), quote(source())));
             }
             value.isNone = true;
             break;
         case CSSTokenKind::function:
-            return fail({quoted(source().substr(0, source().size() - 1)),
-                         u" cannot be read inside a colour; write the number that it results in."});
+            return fail(phrase("\"%1\" cannot be read inside a colour",
+                               quote(source().substr(0, source().size() - 1))),
+                        phrase("write the number that it results in"));
         case CSSTokenKind::closeParenthesis:
             if (valuesBefore == 3) {
-                return fail({u"The alpha of ", _functionName, u" is missing; write ", kinds,
-                             u" before the \")\"."});
+                return fail(phrase("The alpha of %1 is missing", _functionName),
+                            phrase("write %1 before the \")\"", kindsOf(rule)));
             }
-            return fail({_functionName, u" needs 3 values and has ", decimalText(valuesBefore),
-                         u"; write \"", _function->example, u"\"."});
+            return fail(phrase("%1 needs 3 values and has %2", _functionName, valuesBefore),
+                        writeAs(_function->example));
         case CSSTokenKind::end:
             return failUnclosed();
         case CSSTokenKind::unclosedComment:
             return failUnclosedComment();
         case CSSTokenKind::comma:
         case CSSTokenKind::slash:
-            return fail({u"The ", rule.name, u" of ", _functionName, u" is missing before ",
-                         quoted(source()), u"; write ", kinds, u" there."});
+            return fail(phrase("The %1 of %2 is missing before \"%3\"", rule.name, _functionName,
+                               quote(source())),
+                        phrase("write %1 there", kindsOf(rule)));
         default:
-            return fail({u"The ", rule.name, u" of ", _functionName, u" is ", kinds, u", not ",
-                         quoted(source()), u"."});
+            return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+                               kindsOf(rule), quote(source())));
     }
     advance();
     value.number = std::clamp(value.number, rule.smallest, rule.largest);
@@ -375,19 +388,19 @@ std::optional<double> Reader::readAlpha(bool commas)
     const bool slash = is(CSSTokenKind::slash);
     if (!comma && !slash) return 1;
     if (comma && _function->commaForm == CSSCommaForm::none) {
-        return fail({u"In ", _functionName, u" the alpha follows a \"/\"; write \"",
-                     _function->example, u"\"."});
+        return fail(phrase("In %1 the alpha follows a \"/\"", _functionName),
+                    writeAs(_function->example));
     }
     if (slash && commas) {
-        return fail({u"In ", _functionName, u" with commas the alpha follows a comma; write \"",
-                     _function->exampleWithCommas, u"\"."});
+        return fail(phrase("In %1 with commas the alpha follows a comma", _functionName),
+                    writeAs(_function->exampleWithCommas));
     }
     if (comma && !commas) return failMixed();
     advance();
     const auto value = readValue(cssAlphaRule(), 3);
     if (!value) return std::nullopt;
     if (commas && value->isNone) {
-        return fail({u"\"none\" does not go with commas; write \"", _function->example, u"\"."});
+        return fail(phrase("\"none\" does not go with commas"), writeAs(_function->example));
     }
     return value->number;
 }
@@ -404,8 +417,9 @@ bool Reader::readClosing()
             failUnclosedComment();
             return false;
         default:
-            fail({u"In ", _functionName, u" ", quoted(source()),
-                  u" stands where its \")\" belongs; write \"", _function->example, u"\"."});
+            fail(phrase("In %1 \"%2\" stands where its \")\" belongs", _functionName,
+                        quote(source())),
+                 writeAs(_function->example));
             return false;
     }
 }
@@ -414,21 +428,22 @@ bool Reader::checkLegacyValues(const std::array<CSSValue, 3>& values)
 {
     const auto isPercentage = [](const CSSValue& value) { return value.isPercentage; };
     if (std::ranges::any_of(values, &CSSValue::isNone)) {
-        fail({u"\"none\" does not go with commas; write \"", _function->example, u"\"."});
+        fail(phrase("\"none\" does not go with commas"), writeAs(_function->example));
         return false;
     }
     if (_function->commaForm == CSSCommaForm::allOfOneKind) {
         const auto percentages = std::ranges::count_if(values, isPercentage);
         if (percentages == 0 || percentages == 3) return true;
-        fail({u"With commas the values of ", _functionName,
-              u" are all numbers or all percentages; write \"", _function->exampleWithCommas,
-              u"\"."});
+        fail(phrase("With commas the values of %1 are all numbers or all percentages",
+                    _functionName),
+             writeAs(_function->exampleWithCommas));
         return false;
     }
     for (const std::size_t index : {std::size_t{1}, std::size_t{2}}) {
         if (values[index].isPercentage) continue;
-        fail({u"With commas the ", (*_rules)[index].name, u" of ", _functionName,
-              u" is a percentage; write \"", _function->exampleWithCommas, u"\"."});
+        fail(phrase("With commas the %1 of %2 is a percentage", (*_rules)[index].name,
+                    _functionName),
+             writeAs(_function->exampleWithCommas));
         return false;
     }
     return true;
@@ -436,29 +451,30 @@ bool Reader::checkLegacyValues(const std::array<CSSValue, 3>& values)
 
 std::nullopt_t Reader::failMixed()
 {
-    return fail({u"The values of ", _functionName,
-                 u" are parted all by commas or all by blanks; write \"", _function->example,
-                 u"\" or \"", _function->exampleWithCommas, u"\"."});
+    return fail(phrase("The values of %1 are parted all by commas or all by blanks", _functionName),
+                phrase("write \"%1\" or \"%2\"", _function->example, _function->exampleWithCommas));
 }
 
 std::nullopt_t Reader::failUnclosed()
 {
-    return fail({_functionName, u" has no end; close it with a \")\" after its values."});
+    return fail(phrase("%1 has no end", _functionName),
+                phrase("close it with a \")\" after its values"));
 }
 
 std::nullopt_t Reader::failUnclosedComment()
 {
-    return fail({u"The comment that begins with \"/*\" has no end; close it with \"*/\"."});
+    return fail(phrase("The comment that begins with \"/*\" has no end"),
+                phrase("close it with \"*/\""));
 }
 
 }  // namespace
 
-CSSColorReading readCSSColor(std::u16string_view text)
+Result<CSSColor> readCSSColor(std::u16string_view text)
 {
     return Reader(withoutSurroundings(text)).read();
 }
 
-CSSColorReading readCSSColor(std::string_view utf8)
+Result<CSSColor> readCSSColor(std::string_view utf8)
 {
     return readCSSColor(std::u16string_view(utf16FromUtf8(utf8)));
 }

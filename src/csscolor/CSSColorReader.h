@@ -1,9 +1,8 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "result/Result.h"
 
-#include <optional>
-#include <string>
 #include <string_view>
 
 namespace vantorel {
@@ -38,14 +37,6 @@ struct CSSColor {
     bool wasOutsideSRGB = false;
 };
 
-/// A colour, or what is wrong with its text.
-struct CSSColorReading {
-    std::optional<CSSColor> color;
-    /// One sentence in English that says what is wrong and what would be right; empty when there is
-    /// a colour.
-    std::u16string error;
-};
-
 /// Reads a text that is one colour of CSS Color 4, in any of its forms and with its rules for
 /// values out of range. Numbers of any size are taken; `none` counts as zero.
 ///
@@ -55,8 +46,8 @@ struct CSSColorReading {
 /// has no colour here (`currentcolor`, system colours, calc(), var(), relative colours).
 ///
 /// Takes time in proportion to the text's length.
-[[nodiscard]] CSSColorReading readCSSColor(std::u16string_view text);
+[[nodiscard]] Result<CSSColor> readCSSColor(std::u16string_view text);
 /// The same from UTF-8, well formed or not.
-[[nodiscard]] CSSColorReading readCSSColor(std::string_view utf8);
+[[nodiscard]] Result<CSSColor> readCSSColor(std::string_view utf8);
 
 }  // namespace vantorel

@@ -36,9 +36,9 @@ std::string_view withoutSurroundings(std::string_view text)
 std::optional<HostColor> colorOf(std::string_view text)
 {
     if (text.size() > longestColorText) return std::nullopt;
-    const CSSColorReading reading = readCSSColor(text);
-    if (!reading.color) return std::nullopt;
-    return byteColorOf(reading.color->color).hostColor().colorWithAlphaComponent(1);
+    const Result<CSSColor> css = readCSSColor(text);
+    if (!css) return std::nullopt;
+    return byteColorOf(css->color).hostColor().colorWithAlphaComponent(1);
 }
 
 std::string_view baseName(std::string_view path)
@@ -206,68 +206,58 @@ std::optional<Found> readJson(std::string_view text)
     return found;
 }
 
-ColorListReading listOf(const Found& found, const std::string& fileName)
+Result<ListFile> listOf(const Found& found, const std::string& fileName)
 {
-    ColorListReading reading;
-    reading.skipped = found.skipped;
     if (found.entries.empty()) {
-        reading.what = "it holds no colours";
-        reading.right = "give a file of one of the forms of export but svg";
-        return reading;
+        return Message{phrase("it holds no colours"),
+                       phrase("give a file of one of the forms of export but svg")};
     }
-    reading.list =
-        std::make_shared<HostColorList>(found.name.empty() ? nameFromFile(fileName) : found.name);
-    KeyedEntries entries(*reading.list);
+    ListFile file{
+        std::make_shared<HostColorList>(found.name.empty() ? nameFromFile(fileName) : found.name),
+        found.skipped};
+    KeyedEntries entries(*file.list);
     for (const auto& [color, name] : found.entries)
         entries.add(color, name);
-    return reading;
-}
-
-ColorListReading failure(const char* what, const char* right)
-{
-    ColorListReading reading;
-    reading.what = what;
-    reading.right = right;
-    return reading;
+    return file;
 }
 
 }  // namespace
 
-ColorListReading readColorList(std::string_view bytes, const std::string& fileName)
+Result<ListFile> readColorList(std::string_view bytes, const std::string& fileName)
 {
     const std::u16string fallbackName = nameFromFile(fileName);
     if (const auto palette = readPalette(bytes, fallbackName)) {
         if (palette->list->allKeys().empty())
-            return failure("it is a palette without colours", "give one with rows \"R G B NAME\"");
-        ColorListReading reading;
-        reading.list = palette->list;
-        reading.skipped = palette->skipped.size() + palette->furtherSkippedLines;
-        return reading;
+            return Message{phrase("it is a palette without colours"),
+                           phrase("give one with rows \"R G B NAME\"")};
+        return ListFile{palette->list, palette->skipped.size() + palette->furtherSkippedLines};
     }
     if (bytes.starts_with("ASEF")) {
         const auto swatches = readSwatchExchange(bytes, fallbackName);
-        if (!swatches) return failure("it ends before its last swatch", "give the whole file");
-        if (swatches->list->allKeys().empty())
-            return failure("it holds no colours",
-                           "give a file with colours of RGB, CMYK, Lab or grey");
-        ColorListReading reading;
-        reading.list = swatches->list;
-        reading.skipped = swatches->skipped;
-        return reading;
+        if (!swatches)
+            return Message{phrase("it ends before its last swatch"), phrase("give the whole file")};
+        if (swatches->list->allKeys().empty()) {
+            return Message{phrase("it holds no colours"),
+                           phrase("give a file with colours of RGB, CMYK, Lab or grey")};
+        }
+        return ListFile{swatches->list, swatches->skipped};
     }
     const ListFormat* ofEnding = listFormatOfFile(fileName);
     const std::string_view form = ofEnding != nullptr ? ofEnding->name : std::string_view();
-    if (form == "svg")
-        return failure("a picture does not tell its list",
-                       "give a palette, as \"--format gpl\" makes it");
+    if (form == "svg") {
+        return Message{phrase("a picture does not tell its list"),
+                       phrase("give a palette, as \"--format gpl\" makes it")};
+    }
     const std::string_view content = withoutSurroundings(bytes);
     const bool isStyleSheet = form == "css" || form == "scss";
     if (!isStyleSheet && (content.starts_with('{') || content.starts_with('['))) {
         const auto json = readJson(content);
-        if (!json)
-            return failure(
-                "it is no JSON list of colours",
-                "write {\"name\": NAME, \"colors\": [{\"name\": NAME, \"hex\": \"#ff8000\"}]}");
+        if (!json) {
+            return Message{
+                phrase("it is no JSON list of colours"),
+                phrase("write %1",
+                       R"({"name": NAME, "colors": [{"name": NAME, "hex": "#ff8000"}]})")};
+        }
         return listOf(*json, fileName);
     }
     return listOf(isStyleSheet ? StyleSheetReader(bytes).read() : readLines(bytes), fileName);

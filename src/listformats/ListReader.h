@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostColorList.h"
+#include "result/Result.h"
 
 #include <memory>
 #include <string>
@@ -8,19 +9,17 @@
 
 namespace vantorel {
 
-struct ColorListReading {
-    /// Null where the bytes are no list of colours.
+/// A colour list as a file holds it.
+struct ListFile {
+    /// Never null, never empty.
     std::shared_ptr<HostColorList> list;
-    /// Lines, declarations or entries that were passed over because they are no colours.
+    /// Lines, declarations or entries that were passed over because they are not colours.
     std::size_t skipped = 0;
-    /// What is wrong and what would be right, where there is no list.
-    std::string what;
-    std::string right;
 };
 
 /// Reads a colour list of any form that can be told by its beginning or by the ending of the file's
 /// name: palettes of GIMP and KDE, swatch exchange, JSON, CSS, SCSS, and lines of a colour and a
 /// name. The list is called as the file says, else as the file is called.
-[[nodiscard]] ColorListReading readColorList(std::string_view bytes, const std::string& fileName);
+Result<ListFile> readColorList(std::string_view bytes, const std::string& fileName);
 
 }  // namespace vantorel

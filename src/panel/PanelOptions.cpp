@@ -23,24 +23,10 @@ std::optional<QSize> sizeFromText(const QString& text)
     return QSize(match.captured(1).toInt(), match.captured(2).toInt());
 }
 
-/// Returns what is wrong with the text, or an empty text.
-QString readColor(const QString& text, std::optional<QColor>& color)
+PanelCommandLine refusal(const Message& message)
 {
-    // Names of a colour list do not count: the lists are the pages', which are not loaded yet.
-    const ColorTextReading reading =
-        ColorTextReader([] { return nullptr; }).read(text.toStdString());
-    if (reading.color) {
-        color = qColorFrom(reading.color->hostColor());
-        return {};
-    }
-    QString wrong = QString::fromStdString(reading.error);
-    if (wrong.endsWith(u'.')) wrong.chop(1);
-    return wrong;
-}
-
-PanelCommandLine refusal(const QString& what)
-{
-    return {{}, usageError, QStringLiteral("vantorel-panel: ") + what + u'\n'};
+    const std::string line = "vantorel-panel: " + english(message, ": ") + '\n';
+    return {{}, usageError, QString::fromStdString(line)};
 }
 
 std::optional<QString> textOf(const GivenArguments& given, std::string_view option)
@@ -49,8 +35,8 @@ std::optional<QString> textOf(const GivenArguments& given, std::string_view opti
     return value ? std::optional(QString::fromStdString(*value)) : std::nullopt;
 }
 
-/// Returns what is wrong.
-QString readStep(const GivenArguments& given, PanelOptions& options)
+/// What a start does; fails where two things are asked for that exclude each other.
+Status readStep(const GivenArguments& given, PanelOptions& options)
 {
     using Step = PanelOrder::Step;
     constexpr std::array steps{std::pair{"--pick", Step::pick},
@@ -67,7 +53,8 @@ QString readStep(const GivenArguments& given, PanelOptions& options)
     for (const char* name : {"--choose", "--screenshot", "--service"})
         if (given.has(name)) alone.append(QLatin1String(name));
     if (alone.size() < 2) return {};
-    return QStringLiteral("%1 do not go together").arg(alone.join(QStringLiteral(" and ")));
+    return Message{
+        phrase("%1 do not go together", alone.join(QStringLiteral(" and ")).toStdString())};
 }
 
 }  // namespace
@@ -77,27 +64,27 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     std::vector<std::string> texts;
     for (const QString& argument : arguments.mid(1))
         texts.push_back(argument.toStdString());
-    const ArgumentReading reading = readArguments(vantorelPanelProgram, texts);
-    if (!reading.what.empty())
-        return refusal(QString::fromStdString(reading.what + ": " + reading.right));
-    if (!reading.arguments) return {{}, 0, QString::fromStdString(reading.text)};
+    const Result<ArgumentReading> reading = readArguments(vantorelPanelProgram, texts);
+    if (!reading) return refusal(reading.error());
+    if (!reading->arguments) return {{}, 0, QString::fromStdString(reading->text)};
 
-    const GivenArguments& given = *reading.arguments;
+    const GivenArguments& given = *reading->arguments;
     PanelCommandLine result;
     PanelOptions& options = result.options;
-    if (const auto color = textOf(given, "--color")) {
-        const QString wrong = readColor(*color, options.color);
-        if (!wrong.isEmpty()) return refusal(QStringLiteral("--color: ") + wrong);
+    if (const auto color = given.value("--color")) {
+        // Names of a colour list do not count: the lists are the pages', which are not loaded yet.
+        const auto read = ColorTextReader([] { return nullptr; }).read(*color);
+        if (!read) return refusal({phrase("--color: %1", read.error().what), read.error().remedy});
+        options.color = qColorFrom(read->hostColor());
     }
-    if (const auto size = textOf(given, "--size")) {
-        options.size = sizeFromText(*size);
+    if (const auto size = given.value("--size")) {
+        options.size = sizeFromText(QString::fromStdString(*size));
         if (!options.size)
-            return refusal(QStringLiteral("--size: \"%1\" is no size; try 260x340").arg(*size));
+            return refusal({phrase("--size: \"%1\" is no size", *size), phrase("try 260x340")});
     }
-    if (const auto data = textOf(given, "--data")) {
-        const QFileInfo folder(*data);
-        if (!folder.isDir())
-            return refusal(QStringLiteral("--data: there is no folder \"%1\"").arg(*data));
+    if (const auto data = given.value("--data")) {
+        const QFileInfo folder(QString::fromStdString(*data));
+        if (!folder.isDir()) return refusal({phrase("--data: there is no folder \"%1\"", *data)});
         options.dataFolder = folder.absoluteFilePath();
     }
     options.page = textOf(given, "--page");
@@ -113,8 +100,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     for (const char* name :
          {"--page", "--mode", "--size", "--face", "--theme", "--data", "--plugin", "--print-color"})
         if (given.has(name)) options.forStartsOnly.append(QLatin1String(name));
-    const QString error = readStep(given, options);
-    if (!error.isEmpty()) return refusal(error);
+    if (const Status step = readStep(given, options); !step) return refusal(step.error());
     return result;
 }
 

@@ -14,18 +14,23 @@ std::string harmlessLine(std::string_view utf8)
     return utf8FromUtf16(text);
 }
 
-std::string quotedText(std::string_view utf8)
+std::string excerpt(std::string_view utf8, std::size_t mostBytes)
 {
-    constexpr std::size_t mostBytes = 60;
-    std::string text(utf8.substr(0, mostBytes));
-    if (utf8.size() > mostBytes) {
-        // Not half a character.
-        while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80)
-            text.pop_back();
-        if (!text.empty() && static_cast<unsigned char>(text.back()) >= 0xC0) text.pop_back();
-        text += "...";
-    }
-    return '"' + harmlessLine(text) + '"';
+    if (utf8.size() <= mostBytes) return std::string(utf8);
+    const auto isContinuation = [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+    };
+    std::size_t end = mostBytes;
+    while (end > 0 && isContinuation(utf8[end]))
+        --end;
+    return std::string(utf8.substr(0, end)) + "...";
+}
+
+std::u16string excerpt(std::u16string_view text, std::size_t mostUnits)
+{
+    if (text.size() <= mostUnits) return std::u16string(text);
+    const bool endsInHighSurrogate = mostUnits > 0 && (text[mostUnits - 1] & 0xFC00) == 0xD800;
+    return std::u16string(text.substr(0, mostUnits - (endsInHighSurrogate ? 1 : 0))) + u"...";
 }
 
 }  // namespace vantorel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,7 +10,8 @@ namespace vantorel {
 /// that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string harmlessLine(std::string_view utf8);
 
-/// A text in quotation marks: the beginning of a long one.
-[[nodiscard]] std::string quotedText(std::string_view utf8);
+/// The text, or the beginning of a long one with "..." after it. Never half a character.
+[[nodiscard]] std::string excerpt(std::string_view utf8, std::size_t mostBytes = 60);
+[[nodiscard]] std::u16string excerpt(std::u16string_view text, std::size_t mostUnits);
 
 }  // namespace vantorel

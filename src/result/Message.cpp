@@ -62,10 +62,10 @@ std::string english(const Phrase& phrase)
     return phrase.inWords(untranslated);
 }
 
-std::string english(const Message& message)
+std::string english(const Message& message, std::string_view separator)
 {
     std::string words = english(message.what);
-    if (!message.remedy.isEmpty()) words.append("; ").append(english(message.remedy));
+    if (!message.remedy.isEmpty()) words.append(separator).append(english(message.remedy));
     return words;
 }
 

@@ -11,6 +11,26 @@
 /// wanted there.
 namespace vantorel {
 
+/// The text of a phrase with so many arguments. Any other number of places does not compile.
+template <class... Arguments>
+class PhraseText {
+public:
+    consteval PhraseText(const char* text) : _text(text)
+    {
+        std::size_t highest = 0;
+        for (const char* c = text; *c != '\0'; ++c) {
+            if (c[0] != '%' || c[1] < '1' || c[1] > '9') continue;
+            const auto number = static_cast<std::size_t>(c[1] - '0');
+            if (number > highest) highest = number;
+        }
+        if (highest != sizeof...(Arguments)) throw "the places do not match the arguments";
+    }
+    [[nodiscard]] constexpr const char* text() const { return _text; }
+
+private:
+    const char* _text;
+};
+
 class PhraseArgument;
 
 /// A piece of a message: an English text with a place, `%1` to `%9`, for each of its arguments.
@@ -39,7 +59,7 @@ private:
     std::vector<PhraseArgument> _arguments;
 };
 
-/// What takes a place in a phrase: a text, a number, or a phrase of its own, which is translated.
+/// What takes a place in a phrase: a text, a number, or a phrase, which is translated, too.
 class PhraseArgument {
 public:
     PhraseArgument(const std::convertible_to<std::string_view> auto& utf8)
@@ -52,6 +72,7 @@ public:
     }
     PhraseArgument(std::integral auto number) : _value(std::to_string(number)) {}
     PhraseArgument(Phrase phrase) : _value(std::move(phrase)) {}
+    PhraseArgument(PhraseText<> text) : _value(Phrase(text.text(), {})) {}
 
     [[nodiscard]] std::string inWords(Phrase::Translate translate) const;
 
@@ -64,26 +85,6 @@ private:
     std::variant<std::string, Phrase> _value;
 };
 
-/// The text of a phrase with so many arguments. Any other number of places does not compile.
-template <class... Arguments>
-class PhraseText {
-public:
-    consteval PhraseText(const char* text) : _text(text)
-    {
-        std::size_t highest = 0;
-        for (const char* c = text; *c != '\0'; ++c) {
-            if (c[0] != '%' || c[1] < '1' || c[1] > '9') continue;
-            const auto number = static_cast<std::size_t>(c[1] - '0');
-            if (number > highest) highest = number;
-        }
-        if (highest != sizeof...(Arguments)) throw "the places do not match the arguments";
-    }
-    [[nodiscard]] const char* text() const { return _text; }
-
-private:
-    const char* _text;
-};
-
 /// Makes a phrase of a literal and its arguments: `phrase("%1 has no end", name)`.
 /// tools/update-translations finds these calls and offers the literals to translators.
 template <class... Arguments>
@@ -94,6 +95,12 @@ template <class... Arguments>
     list.reserve(sizeof...(Arguments));
     (list.emplace_back(std::forward<Arguments>(arguments)), ...);
     return {text.text(), std::move(list)};
+}
+
+/// The text of a phrase without arguments, for tables.
+[[nodiscard]] consteval PhraseText<> phraseText(const char* text)
+{
+    return text;
 }
 
 /// A text that somebody else has written, such as a message of the system, in UTF-8.
@@ -109,7 +116,7 @@ struct Message {
 };
 
 [[nodiscard]] std::string english(const Phrase& phrase);
-/// "WHAT; REMEDY", a sentence without its full stop.
-[[nodiscard]] std::string english(const Message& message);
+/// "WHAT; REMEDY", a sentence without its full stop. Programs print `separator` as ": ".
+[[nodiscard]] std::string english(const Message& message, std::string_view separator = "; ");
 
 }  // namespace vantorel

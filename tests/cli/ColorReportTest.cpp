@@ -36,18 +36,4 @@ TEST(ColorReportTest, JsonTextsAreEscaped)
     EXPECT_EQ(json, "\"a\\\"\\\\\\u000a\\u001b\\u007f\xEF\xBF\xBD\xC3\xA9\"");
 }
 
-TEST(ColorReportTest, AMessageIsSplitBeforeItsAdvice)
-{
-    const Complaint complaint = complaintFromSentence("\"a; b\" is wrong; write \"c; d\".");
-    EXPECT_EQ(complaint.what, "\"a; b\" is wrong");
-    EXPECT_EQ(complaint.right, "write \"c; d\"");
-    EXPECT_EQ(complaintFromSentence("Only this.").right, "");
-}
-
-TEST(ColorReportTest, LongTextsAreTruncatedBetweenCharacters)
-{
-    const std::string text = quotedText(std::string(59, 'x') + "\xF0\x9F\x8E\xA8 and more");
-    EXPECT_EQ(text, '"' + std::string(59, 'x') + "...\"");
-}
-
 }  // namespace

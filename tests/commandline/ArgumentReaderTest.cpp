@@ -39,44 +39,44 @@ TEST(ArgumentReaderTest, OptionsAndOperandsMayComeInAnyOrder)
 {
     const auto reading = readArguments(
         program, {"keep", "a", "--place=x=y", "--tag", "--dry", "--dry", "--tag", "2", "-"});
-    ASSERT_TRUE(reading.arguments) << reading.what;
-    EXPECT_EQ(reading.arguments->command, "keep");
-    EXPECT_THAT(reading.arguments->operands, ElementsAre("a", "-"));
-    EXPECT_EQ(reading.arguments->options,
+    ASSERT_TRUE(reading) << english(reading.error());
+    EXPECT_EQ(reading->arguments->command, "keep");
+    EXPECT_THAT(reading->arguments->operands, ElementsAre("a", "-"));
+    EXPECT_EQ(reading->arguments->options,
               (Options{{"--place", "x=y"}, {"--tag", "--dry"}, {"--dry", ""}, {"--tag", "2"}}));
-    EXPECT_THAT(reading.arguments->values("--tag"), ElementsAre("--dry", "2"));
-    EXPECT_EQ(reading.arguments->value("--size"), std::nullopt);
+    EXPECT_THAT(reading->arguments->values("--tag"), ElementsAre("--dry", "2"));
+    EXPECT_EQ(reading->arguments->value("--size"), std::nullopt);
 }
 
 TEST(ArgumentReaderTest, EverythingAfterTheDoubleDashIsAnOperand)
 {
     const auto reading = readArguments(program, {"find", "--all", "--", "again", "--", "--all"});
-    ASSERT_TRUE(reading.arguments);
-    EXPECT_EQ(reading.arguments->command, "find");
-    EXPECT_THAT(reading.arguments->operands, ElementsAre("again", "--", "--all"));
-    EXPECT_EQ(readArguments(program, {"find", "again", "x"}).arguments->command, "find again");
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(reading->arguments->command, "find");
+    EXPECT_THAT(reading->arguments->operands, ElementsAre("again", "--", "--all"));
+    EXPECT_EQ(readArguments(program, {"find", "again", "x"})->arguments->command, "find again");
 }
 
 TEST(ArgumentReaderTest, ACommandCanPassOnTheRemainingArguments)
 {
     const auto reading = readArguments(program, {"run", "--help", "--", "x"});
-    ASSERT_TRUE(reading.arguments);
-    EXPECT_THAT(reading.arguments->operands, ElementsAre("--help", "--", "x"));
+    ASSERT_TRUE(reading);
+    EXPECT_THAT(reading->arguments->operands, ElementsAre("--help", "--", "x"));
 }
 
 TEST(ArgumentReaderTest, HelpAndVersionTakePrecedenceOverErrors)
 {
-    EXPECT_EQ(readArguments(program, {"--version"}).text, "p 1.2\n");
-    EXPECT_THAT(readArguments(program, {"keep", "--nothing", "-h"}).text,
+    EXPECT_EQ(readArguments(program, {"--version"})->text, "p 1.2\n");
+    EXPECT_THAT(readArguments(program, {"keep", "--nothing", "-h"})->text,
                 testing::StartsWith("Usage: p keep --place PLACE [OPTION...] THING [THING]\n"));
-    EXPECT_THAT(readArguments(program, {"keep", "--help"}).text,
+    EXPECT_THAT(readArguments(program, {"keep", "--help"})->text,
                 testing::HasSubstr("small (a few) or large."));
 }
 
 struct WrongRow {
     std::vector<std::string> arguments;
     const char* what;
-    const char* right;
+    const char* remedy;
 };
 
 class WrongArgumentsTest : public testing::TestWithParam<WrongRow> {};
@@ -84,9 +84,9 @@ class WrongArgumentsTest : public testing::TestWithParam<WrongRow> {};
 TEST_P(WrongArgumentsTest, AreExplained)
 {
     const auto reading = readArguments(program, GetParam().arguments);
-    EXPECT_FALSE(reading.arguments);
-    EXPECT_EQ(reading.what, GetParam().what);
-    EXPECT_EQ(reading.right, GetParam().right);
+    ASSERT_FALSE(reading);
+    EXPECT_EQ(english(reading.error().what), GetParam().what);
+    EXPECT_EQ(english(reading.error().remedy), GetParam().remedy);
 }
 
 constexpr const char* help = "\"p --help\" tells what can be given";

@@ -17,9 +17,9 @@ struct ErrorRow {
 void expectErrors(const std::vector<ErrorRow>& rows)
 {
     for (const ErrorRow& row : rows) {
-        const CSSColorReading reading = readCSSColor(row.text);
-        EXPECT_FALSE(reading.color) << row.text;
-        EXPECT_EQ(utf8FromUtf16(reading.error), row.error) << row.text;
+        const Result<CSSColor> reading = readCSSColor(row.text);
+        ASSERT_FALSE(reading) << row.text;
+        EXPECT_EQ(english(reading.error()) + '.', row.error) << row.text;
     }
 }
 

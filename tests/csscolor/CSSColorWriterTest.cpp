@@ -59,10 +59,10 @@ TEST(CSSColorWriterTest, EveryTextReadsBackAsTheSameEightBits)
         const HostColor color = bytes(byte(), byte(), byte(), byte() / 255.0);
         const auto hex = hexText(color);
         for (const auto& text : {hex, rgbText(color), hslText(color), oklchText(color)}) {
-            const CSSColorReading reading = readCSSColor(*text);
-            ASSERT_TRUE(reading.color);
-            ASSERT_EQ(hexText(reading.color->color), hex);
-            ASSERT_FALSE(reading.color->wasOutsideSRGB);
+            const Result<CSSColor> reading = readCSSColor(*text);
+            ASSERT_TRUE(reading);
+            ASSERT_EQ(hexText(reading->color), hex);
+            ASSERT_FALSE(reading->wasOutsideSRGB);
         }
     }
 }
@@ -72,7 +72,7 @@ TEST(CSSColorWriterTest, EveryAlphaReadsBackAsTheSameEightBits)
     for (int byte = 0; byte <= 255; ++byte) {
         const HostColor color = bytes(1, 2, 3, byte / 255.0);
         for (const auto& text : {rgbText(color), hslText(color), oklchText(color)})
-            EXPECT_EQ(hexText(readCSSColor(*text).color.value().color), hexText(color)) << byte;
+            EXPECT_EQ(hexText(readCSSColor(*text).value().color), hexText(color)) << byte;
     }
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 HostColor color(const char* text)
 {
-    return readCSSColor(text).color.value().color;
+    return readCSSColor(text).value().color;
 }
 
 struct ContrastRow {

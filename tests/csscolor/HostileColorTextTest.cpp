@@ -10,18 +10,17 @@
 namespace vantorel {
 namespace {
 
-void expectSoundReading(const CSSColorReading& reading)
+void expectSoundReading(const Result<CSSColor>& reading)
 {
     constexpr std::size_t longestSentence = 400;
-    if (!reading.color) {
-        ASSERT_FALSE(reading.error.empty());
-        ASSERT_EQ(reading.error.back(), u'.');
-        ASSERT_LT(reading.error.size(), longestSentence);
-        ASSERT_EQ(reading.error.find(u'\n'), std::u16string::npos);
+    if (!reading) {
+        const std::string sentence = english(reading.error());
+        ASSERT_FALSE(sentence.empty());
+        ASSERT_LT(sentence.size(), longestSentence);
+        ASSERT_EQ(sentence.find('\n'), std::string::npos);
         return;
     }
-    ASSERT_TRUE(reading.error.empty());
-    const auto c = reading.color->color.calibratedRGB().value();
+    const auto c = reading->color.calibratedRGB().value();
     for (const double fraction : {c.red, c.green, c.blue, c.alpha})
         ASSERT_TRUE(fraction >= 0 && fraction <= 1) << fraction;  // NaN fails both
 }
@@ -93,9 +92,9 @@ TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
             text = one(functions) + one(numbers) + " " + one(numbers) + " " + one(numbers) + " / " +
                    one(numbers) + ")";
         }
-        const CSSColorReading reading = readCSSColor(text);
+        const Result<CSSColor> reading = readCSSColor(text);
         ASSERT_NO_FATAL_FAILURE(expectSoundReading(reading)) << text;
-        if (reading.color) ++colors;
+        if (reading) ++colors;
     }
     EXPECT_GT(colors, 30000);
 }
@@ -135,9 +134,9 @@ TEST(HostileColorTextTest, AColourMayContainMegabytesOfCommentsZerosAndBlanks)
           "rgb(255." + repeated("0", size) + " 0 0)",
           "rgb(255" + repeated("0", size) + " 0." + repeated("0", size) + "1 0)",
           "rgb(255 0" + repeated(" ", size) + "0" + repeated("/**/", size) + ")"}) {
-        const CSSColorReading reading = readCSSColor(text);
-        ASSERT_TRUE(reading.color);
-        const auto c = reading.color->color.calibratedRGB().value();
+        const Result<CSSColor> reading = readCSSColor(text);
+        ASSERT_TRUE(reading);
+        const auto c = reading->color.calibratedRGB().value();
         EXPECT_EQ(c.red, 1);
         EXPECT_NEAR(c.green, 0, 1e-9);
         EXPECT_EQ(c.blue, expected.calibratedRGB()->blue);

@@ -29,13 +29,13 @@ TEST(ListFormatsTest, NamesThatLookLikeFormatSyntaxSurvive)
         const auto list = listWithName(name);
         for (const auto& [file, write] : formats) {
             const auto reading = readColorList(write(*list), file);
-            ASSERT_TRUE(reading.list) << file;
-            ASSERT_EQ(reading.list->allKeys().size(), 3U) << file;
+            ASSERT_TRUE(reading) << file;
+            ASSERT_EQ(reading->list->allKeys().size(), 3U) << file;
             // A tab is a control character and becomes a blank, except in JSON.
             const bool isChanged = std::u16string(name) == u"a\tb" && std::string(file) != "x.json";
-            EXPECT_EQ(reading.list->allKeys()[1], isChanged ? u"a b" : name) << file;
-            EXPECT_EQ(reading.list->colorAtIndex(1), list->colorAtIndex(1)) << file;
-            EXPECT_EQ(reading.skipped, 0U) << file;
+            EXPECT_EQ(reading->list->allKeys()[1], isChanged ? u"a b" : name) << file;
+            EXPECT_EQ(reading->list->colorAtIndex(1), list->colorAtIndex(1)) << file;
+            EXPECT_EQ(reading->skipped, 0U) << file;
         }
     }
 }
@@ -55,11 +55,11 @@ TEST(ListFormatsTest, IdentifiersAreUnique)
 TEST(ListFormatsTest, EntriesThatAreNotColoursAreCounted)
 {
     const auto css = readColorList(":root { --a: red; --b: 12px; --c: var(--a); }", "x.css");
-    ASSERT_TRUE(css.list);
-    EXPECT_EQ(css.list->allKeys().size(), 1U);
-    EXPECT_EQ(css.skipped, 2U);
-    EXPECT_EQ(css.list->name(), u"x");
-    EXPECT_EQ(readColorList("red\nredd\n", "/a/b.c/names").list->name(), u"names");
+    ASSERT_TRUE(css);
+    EXPECT_EQ(css->list->allKeys().size(), 1U);
+    EXPECT_EQ(css->skipped, 2U);
+    EXPECT_EQ(css->list->name(), u"x");
+    EXPECT_EQ(readColorList("red\nredd\n", "/a/b.c/names")->list->name(), u"names");
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ HostFileKind PosixFiles::kindAtPath(const std::string& path) const
     if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) {
         if (isMissing(errno)) return HostFileKind::none;
         // Nobody may take the place of a file for free because the disk would not tell.
-        complain(path, Trouble::reading, errno);
+        reportFailure(path, Access::reading, errno);
         return HostFileKind::file;
     }
     return S_ISDIR(status.st_mode) ? HostFileKind::folder : HostFileKind::file;
@@ -115,7 +115,7 @@ std::string PosixFiles::identityAtPath(const std::string& path) const
 bool PosixFiles::createDirectory(const std::string& path)
 {
     const int error = makeFolder(path);
-    if (error != 0 && error != EEXIST) complain(path, Trouble::writing, error);
+    if (error != 0 && error != EEXIST) reportFailure(path, Access::writing, error);
     return error == 0;
 }
 
@@ -124,7 +124,7 @@ std::vector<std::string> PosixFiles::contentsOfDirectory(const std::string& path
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(openFolder(path), ::closedir);
     if (!folder) {
-        if (!isMissing(errno)) complain(path, Trouble::reading, errno);
+        if (!isMissing(errno)) reportFailure(path, Access::reading, errno);
         return names;
     }
     errno = 0;
@@ -133,7 +133,7 @@ std::vector<std::string> PosixFiles::contentsOfDirectory(const std::string& path
         const std::string name = entry != nullptr ? entry->d_name : ".";
         if (name != "." && name != "..") names.push_back(name);
     }
-    if (errno != 0) complain(path, Trouble::reading, errno);
+    if (errno != 0) reportFailure(path, Access::reading, errno);
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -144,12 +144,12 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
         uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
     struct stat status {};
     if (!file || uninterrupted([&] { return ::fstat(file.value(), &status); }) != 0) {
-        if (!isMissing(errno)) complain(path, Trouble::reading, errno);
+        if (!isMissing(errno)) reportFailure(path, Access::reading, errno);
         return std::nullopt;
     }
     if (!S_ISREG(status.st_mode)) return std::nullopt;
     if (static_cast<std::uint64_t>(status.st_size) > largestFile) {
-        complain(path, Trouble::reading, EFBIG);
+        reportFailure(path, Access::reading, EFBIG);
         return std::nullopt;
     }
     std::string bytes;
@@ -159,7 +159,7 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
         const ssize_t count =
             uninterrupted([&] { return ::read(file.value(), buffer.data(), buffer.size()); });
         if (count < 0) {
-            complain(path, Trouble::reading, errno);
+            reportFailure(path, Access::reading, errno);
             return std::nullopt;
         }
         if (count == 0) return bytes;
@@ -189,21 +189,19 @@ bool PosixFiles::writeForOthers(const std::string& path, const std::string& byte
 int PosixFiles::write(const std::string& path, const std::string& bytes, AtomicWrite manner)
 {
     const int error = _writer.write(path, bytes, manner);
-    if (error != 0 && error != EEXIST) complain(path, Trouble::writing, error);
+    if (error != 0 && error != EEXIST) reportFailure(path, Access::writing, error);
     return error;
 }
 
-void PosixFiles::complain(const std::string& path, Trouble trouble, int error) const
+void PosixFiles::reportFailure(const std::string& path, Access access, int error) const
 {
     // Programs look at the same files again and again.
-    if (!_complaint || (trouble == Trouble::reading && !_toldUnreadable.insert(path).second))
+    if (!_handleFailure || (access == Access::reading && !_reportedUnreadable.insert(path).second))
         return;
-    _complaint(path, trouble, std::generic_category().message(error));
-}
-
-std::string PosixFiles::textOf(Trouble trouble)
-{
-    return trouble == Trouble::reading ? "cannot be read" : "cannot be written";
+    const std::string reason = std::generic_category().message(error);
+    _handleFailure(
+        access, {access == Access::reading ? phrase("\"%1\" cannot be read: %2", path, reason)
+                                           : phrase("\"%1\" cannot be written: %2", path, reason)});
 }
 
 }  // namespace vantorel

@@ -2,6 +2,7 @@
 
 #include "host/HostFiles.h"
 #include "hosts/posix/AtomicWrite.h"
+#include "result/Message.h"
 
 #include <functional>
 #include <set>
@@ -37,24 +38,21 @@ public:
     HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
     bool writeForOthers(const std::string& path, const std::string& bytes) override;
 
-    enum class Trouble { reading, writing };
-    /// `complaint` is told of each file or folder that stands there and could not be read, or that
-    /// could not be written or made, with the system's reason in English; of what cannot be read
-    /// only once. Pages do not tell of all that fails, so that a host should.
-    using Complaint =
-        std::function<void(const std::string& path, Trouble trouble, const std::string& reason)>;
-    void setComplaint(Complaint complaint) { _complaint = std::move(complaint); }
-    /// The two as a sentence's end: "cannot be read".
-    [[nodiscard]] static std::string textOf(Trouble trouble);
+    enum class Access { reading, writing };
+    /// Gets a message for each file or folder that exists and could not be read, once for each, and
+    /// for each that could not be written or made. A host should report them, because pages do not
+    /// report everything that fails.
+    using FailureHandler = std::function<void(Access access, const Message& message)>;
+    void setFailureHandler(FailureHandler handler) { _handleFailure = std::move(handler); }
 
 private:
     int write(const std::string& path, const std::string& bytes, AtomicWrite manner);
-    void complain(const std::string& path, Trouble trouble, int error) const;
+    void reportFailure(const std::string& path, Access access, int error) const;
 
     HostBaseDirectories _baseDirectories;
     std::optional<std::string> _applicationSupportDirectory;
-    Complaint _complaint;
-    mutable std::set<std::string> _toldUnreadable;
+    FailureHandler _handleFailure;
+    mutable std::set<std::string> _reportedUnreadable;
     AtomicWriter _writer;
 };
 

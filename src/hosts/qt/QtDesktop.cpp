@@ -3,6 +3,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
+#include "result/Message.h"
 #include "text/Unicode.h"
 
 #include <QApplication>
@@ -36,9 +37,8 @@ private:
 
 QtDesktop::QtDesktop() : _colorLists(_files, [this](const std::u16string& line) { log(line); })
 {
-    _files.setComplaint([this](const auto& path, auto trouble, const auto& reason) {
-        log(utf16FromUtf8(path + " " + PosixFiles::textOf(trouble) + ": " + reason));
-    });
+    _files.setFailureHandler(
+        [this](auto, const Message& message) { log(utf16FromUtf8(english(message))); });
 }
 
 std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::function<void()> reaction)

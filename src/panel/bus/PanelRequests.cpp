@@ -3,6 +3,7 @@
 #include "csscolor/CSSColorReader.h"
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "panel/bus/ClipboardTurn.h"
 #include "panel/window/PanelWindow.h"
 
@@ -43,10 +44,10 @@ PanelAnswer PanelRequests::setColor(const QString& text)
     using Kind = PanelRefusal::Kind;
     if (text.size() > longestColorText)
         return PanelRefusal{Kind::notAColor, tr("That is a long text, not a colour.")};
-    const CSSColorReading reading = readCSSColor(u16From(text));
-    if (!reading.color) return PanelRefusal{Kind::notAColor, qStringFrom(reading.error)};
-    _window.colors().setColor(reading.color->color);
-    if (reading.color->wasOutsideSRGB) {
+    const Result<CSSColor> css = readCSSColor(u16From(text));
+    if (!css) return PanelRefusal{Kind::notAColor, translated(css.error()) + u'.'};
+    _window.colors().setColor(css->color);
+    if (css->wasOutsideSRGB) {
         _window.showRemark(tr("%1 is outside sRGB; this is the nearest colour inside.")
                                .arg(text.trimmed().left(longestShownText)));
     }

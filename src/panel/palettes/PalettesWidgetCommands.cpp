@@ -221,10 +221,10 @@ void PalettesWidget::importFiles(const QStringList& paths)
             continue;
         }
         const QByteArray bytes = file.read(largestFile);
-        const ColorListReading reading =
+        const Result<ListFile> read =
             readColorList({bytes.constData(), static_cast<std::size_t>(bytes.size())},
                           info.fileName().toStdString());
-        if (!reading.list) {
+        if (!read) {
             remarks.append(
                 tr("\"%1\" is not a colour list that can be read. Supported are palettes "
                    "of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text "
@@ -233,9 +233,9 @@ void PalettesWidget::importFiles(const QStringList& paths)
             hasFailed = true;
             continue;
         }
-        std::u16string name = reading.list->name();
+        std::u16string name = read->list->name();
         if (tidyName(name).empty()) name = u16From(info.completeBaseName());
-        const EditOutcome outcome = _session.addList(name, entriesOfList(*reading.list));
+        const EditOutcome outcome = _session.addList(name, entriesOfList(*read->list));
         hasFailed = hasFailed || !outcome.done;
         if (!outcome.done) {
             remarks.append(textOfRemarks(outcome, _session.folder()));

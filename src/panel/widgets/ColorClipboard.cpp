@@ -3,6 +3,7 @@
 #include "csscolor/CSSColorReader.h"
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 
 #include <QCoreApplication>
 
@@ -36,10 +37,10 @@ ColorOffer colorFromText(const QString& text)
 {
     if (text.size() > longestColorText)
         return {{}, Texts::tr("That is a long text, not a colour.")};
-    const CSSColorReading reading = readCSSColor(u16From(text));
-    if (!reading.color) return {{}, qStringFrom(reading.error)};
-    ColorOffer offer{reading.color->color, {}};
-    if (reading.color->wasOutsideSRGB) {
+    const Result<CSSColor> css = readCSSColor(u16From(text));
+    if (!css) return {{}, translated(css.error()) + u'.'};
+    ColorOffer offer{css->color, {}};
+    if (css->wasOutsideSRGB) {
         offer.remark = Texts::tr("%1 is outside sRGB; this is the nearest colour inside.")
                            .arg(text.trimmed().left(longestShownText));
     }

@@ -4,6 +4,7 @@
 #include "hosts/qt/QtColors.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
+#include "result/Message.h"
 #include "text/Unicode.h"
 
 #include <QFile>
@@ -134,9 +135,8 @@ bool writePanelMemory(const PanelMemory& memory)
 {
     const std::string folder = memoryFolder();
     PosixFiles files(folder);
-    files.setComplaint([](const auto& name, auto trouble, const auto& reason) {
-        static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s %s: %s\n", name.c_str(),
-                                       PosixFiles::textOf(trouble).c_str(), reason.c_str()));
+    files.setFailureHandler([](auto, const Message& message) {
+        static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s\n", english(message).c_str()));
     });
     // Makes it, for the user alone.
     static_cast<void>(files.applicationSupportDirectory());

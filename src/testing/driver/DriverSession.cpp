@@ -1,6 +1,7 @@
 #include "testing/driver/DriverSession.h"
 
 #include "hosts/posix/PosixFiles.h"
+#include "result/Message.h"
 #include "settings/SettingsFile.h"
 #include "testing/driver/EmbeddedResources.h"
 #include "testing/driver/JsonValues.h"
@@ -64,9 +65,8 @@ std::unique_ptr<HostFiles> filesFrom(const Json& request)
     const auto absolute = std::filesystem::absolute(path, error);
     if (error) throw DriverError("home is no path: " + error.message());
     auto files = std::make_unique<PosixFiles>(absolute.lexically_normal().string());
-    files->setComplaint([](const auto& name, auto trouble, const auto& reason) {
-        std::cerr << "vantorel-driver: " << name << ' ' << PosixFiles::textOf(trouble) << ": "
-                  << reason << '\n';
+    files->setFailureHandler([](auto, const Message& message) {
+        std::cerr << "vantorel-driver: " << english(message) << '\n';
     });
     return files;
 }

@@ -10,6 +10,7 @@
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/PosixFiles.h"
 #include "paletteedit/PaletteEditor.h"
+#include "result/Message.h"
 #include "settings/SettingsFile.h"
 #include "text/Unicode.h"
 
@@ -28,9 +29,8 @@ class Changes {
 public:
     explicit Changes(const std::string& folder) : _files(folder)
     {
-        _files.setComplaint([](const auto& path, auto trouble, const auto& reason) {
-            std::cerr << path << ' ' << PosixFiles::textOf(trouble) << ": " << reason << '\n';
-        });
+        _files.setFailureHandler(
+            [](auto, const Message& message) { std::cerr << english(message) << '\n'; });
         _editor.emplace(_files, _store, removeFile);
     }
 
