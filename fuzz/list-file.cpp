@@ -26,12 +26,12 @@ constexpr std::array<Form, 6> forms{{
 /// The colours come back in their order. Names may lose what a form cannot hold.
 void requireRoundTrip(const HostColorList& list, const Form& form)
 {
-    const ColorListReading again = readColorList(form.write(list), form.fileName);
-    require(again.list != nullptr && again.skipped == 0);
+    const Result<ListFile> again = readColorList(form.write(list), form.fileName);
+    require(again && again->skipped == 0);
     const std::size_t count = list.allKeys().size();
-    require(again.list->allKeys().size() == count);
+    require(again->list->allKeys().size() == count);
     for (std::size_t i = 0; i < count; ++i)
-        require(again.list->colorAtIndex(i) == list.colorAtIndex(i));
+        require(again->list->colorAtIndex(i) == list.colorAtIndex(i));
 }
 
 }  // namespace
@@ -42,10 +42,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     if (size == 0) return 0;
     const Form& form = forms[data[0] % forms.size()];
-    const ColorListReading reading = readColorList(bytesFrom(data + 1, size - 1), form.fileName);
-    require((reading.list == nullptr) == !reading.what.empty());
-    if (reading.list == nullptr) return 0;
-    require(!reading.list->allKeys().empty());
-    requireRoundTrip(*reading.list, forms[data[0] / forms.size() % forms.size()]);
+    const Result<ListFile> file = readColorList(bytesFrom(data + 1, size - 1), form.fileName);
+    if (!file) {
+        require(!english(file.error()).empty());
+        return 0;
+    }
+    require(!file->list->allKeys().empty());
+    requireRoundTrip(*file->list, forms[data[0] / forms.size() % forms.size()]);
     return 0;
 }
