@@ -13,12 +13,13 @@ namespace {
 int report(const PanelOrder& order, const PanelAnswer& answer)
 {
     using Kind = PanelRefusal::Kind;
-    if (const auto* refusal = std::get_if<PanelRefusal>(&answer)) {
-        printProblem(refusal->sentence);
-        if (refusal->kind == Kind::cancelled) return cancelled;
-        return refusal->kind == Kind::notPossible ? notPossible : usageError;
+    if (!answer) {
+        const auto& [kind, sentence] = answer.error();
+        printProblem(sentence);
+        if (kind == Kind::cancelled) return cancelled;
+        return kind == Kind::notPossible ? notPossible : usageError;
     }
-    if (order.step != PanelOrder::Step::show) print(stdout, std::get<QString>(answer) + u'\n');
+    if (order.step != PanelOrder::Step::show) print(stdout, *answer + u'\n');
     return succeeded;
 }
 

@@ -66,7 +66,7 @@ TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
     _requests->pick(false, keep());
     _requests->pick(false, keep());
     ASSERT_EQ(_answers.size(), 1U);
-    EXPECT_EQ(std::get<PanelRefusal>(_answers[0]).kind, Kind::cancelled);
+    EXPECT_EQ(_answers[0].error().kind, Kind::cancelled);
     _requests->cancelPick();
     ASSERT_EQ(_answers.size(), 2U);
 }
@@ -89,7 +89,7 @@ TEST_F(PanelRequestsTest, ARequestWithAnInvalidColourIsRejectedWhole)
 {
     _requests->carryOut({PanelOrder::Step::pick, "nonsense", {}, {}}, keep());
     ASSERT_EQ(_answers.size(), 1U);
-    EXPECT_EQ(std::get<PanelRefusal>(_answers[0]).kind, Kind::notAColor);
+    EXPECT_EQ(_answers[0].error().kind, Kind::notAColor);
     EXPECT_FALSE(_picker->isPicking());
 }
 

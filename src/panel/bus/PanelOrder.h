@@ -1,11 +1,11 @@
 #pragma once
 
 #include "panel/bus/ActivationToken.h"
+#include "result/Result.h"
 
 #include <QString>
 
 #include <optional>
-#include <variant>
 
 namespace vantorel {
 
@@ -42,6 +42,6 @@ struct PanelRefusal {
 };
 
 /// A text, such as the colour picked or what was copied, which may be empty; or why there is none.
-using PanelAnswer = std::variant<QString, PanelRefusal>;
+using PanelAnswer = Result<QString, PanelRefusal>;
 
 }  // namespace vantorel

@@ -77,8 +77,7 @@ void PanelRequests::pick(bool copies, Done done)
         } else if (copies) {
             putOnClipboard({},
                            [this, done, picked = hexCode(result.color)](const PanelAnswer& copied) {
-                               const bool failed = std::holds_alternative<PanelRefusal>(copied);
-                               finish(done, failed ? copied : PanelAnswer(picked));
+                               finish(done, copied ? PanelAnswer(picked) : copied);
                            });
         } else {
             finish(done, hexCode(result.color));
@@ -137,7 +136,7 @@ void PanelRequests::carryOut(const PanelOrder& order, Done done)
 {
     if (order.color) {
         const PanelAnswer answer = setColor(*order.color);
-        if (std::holds_alternative<PanelRefusal>(answer)) {
+        if (!answer) {
             done(answer);
             return;
         }

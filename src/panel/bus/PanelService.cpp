@@ -128,8 +128,7 @@ void PanelService::SetColor(const QString& color)
 {
     emit called();
     const PanelAnswer answer = _requests.setColor(color);
-    if (const auto* refusal = std::get_if<PanelRefusal>(&answer))
-        sendErrorReply(errorNameFor(refusal->kind), refusal->sentence);
+    if (!answer) sendErrorReply(errorNameFor(answer.error().kind), answer.error().sentence);
 }
 
 QString PanelService::GetColor() const
@@ -172,10 +171,11 @@ void PanelService::answer(int call, const PanelAnswer& answer)
     const auto kept = _calls.extract(call);
     if (!kept) return;
     const QDBusMessage& message = kept.mapped();
-    if (const auto* refusal = std::get_if<PanelRefusal>(&answer)) {
-        _bus.send(message.createErrorReply(errorNameFor(refusal->kind), refusal->sentence));
+    if (answer) {
+        _bus.send(message.createReply(*answer));
     } else {
-        _bus.send(message.createReply(std::get<QString>(answer)));
+        const auto& [kind, sentence] = answer.error();
+        _bus.send(message.createErrorReply(errorNameFor(kind), sentence));
     }
 }
 

@@ -53,7 +53,7 @@ RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList
         return {Contact::made, reply.arguments().value(0).toString()};
     if (const auto kind = refusalKindFor(reply.errorName()))
         return {Contact::made, PanelRefusal{*kind, reply.errorMessage()}};
-    return {contactAfter(reply), {}};
+    return {contactAfter(reply), QString()};
 }
 
 RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
@@ -63,8 +63,7 @@ RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
     // A pick cannot tell a user who takes long from a panel that hangs.
     Reply reply = order.color ? call(QStringLiteral("SetColor"), {*order.color})
                               : call(QStringLiteral("GetColor"), {});
-    if (reply.contact != Contact::made || std::holds_alternative<PanelRefusal>(reply.answer))
-        return reply;
+    if (reply.contact != Contact::made || !reply.answer) return reply;
     switch (order.step) {
         case Step::show:
             return call(QStringLiteral("Activate"), {platformData(order.token)});

@@ -27,7 +27,7 @@ public:
     struct Reply {
         Contact contact = Contact::none;
         /// When contact was made.
-        PanelAnswer answer;
+        PanelAnswer answer = QString();
     };
 
     /// In milliseconds. A panel that has much to do answers sooner, and a user still waits.

@@ -242,8 +242,8 @@ void PalettesWidget::importFiles(const QStringList& paths)
             continue;
         }
         remarks.append(tr("\"%1\" has been imported.").arg(_session.listName()));
-        if (reading.skipped > 0) {
-            remarks.append(tr("Lines that are no colours were left out: %1.").arg(reading.skipped));
+        if (read->skipped > 0) {
+            remarks.append(tr("Lines that are no colours were left out: %1.").arg(read->skipped));
         }
     }
     _remark->showRemark(remarks.join(u' '), hasFailed ? RemarkKind::failure : RemarkKind::news);
