@@ -385,6 +385,54 @@
         <source>close it with &quot;*/&quot;</source>
         <translation>schließen Sie ihn mit „*/“</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>This desktop offers no way to pick a colour: %1.</source>
+        <translation>Dieser Desktop bietet keine Möglichkeit, eine Farbe aufzunehmen: %1.</translation>
+    </message>
+    <message>
+        <source>there is no X11 display</source>
+        <translation>es gibt keine X11-Anzeige</translation>
+    </message>
+    <message>
+        <source>the X11 display does not show the windows of Wayland</source>
+        <translation>die X11-Anzeige zeigt die Fenster von Wayland nicht</translation>
+    </message>
+    <message>
+        <source>the X11 display gives no picture of its screens</source>
+        <translation>die X11-Anzeige liefert kein Bild ihrer Bildschirme</translation>
+    </message>
+    <message>
+        <source>the desktop portal has no PickColor</source>
+        <translation>das Desktop-Portal kennt PickColor nicht</translation>
+    </message>
+    <message>
+        <source>the desktop portal could not pick a colour</source>
+        <translation>das Desktop-Portal konnte keine Farbe aufnehmen</translation>
+    </message>
+    <message>
+        <source>there is no desktop portal</source>
+        <translation>es gibt kein Desktop-Portal</translation>
+    </message>
+    <message>
+        <source>the desktop portal does not answer</source>
+        <translation>das Desktop-Portal antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the desktop portal has gone</source>
+        <translation>das Desktop-Portal ist weg</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>es gibt keinen Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>the session bus has gone</source>
+        <translation>der Sitzungsbus ist weg</translation>
+    </message>
 </context>
 <context>
     <name>PaletteRemarks</name>

@@ -3,6 +3,24 @@
 #include <utility>
 
 namespace vantorel {
+namespace {
+
+Message messageOf(const std::vector<PickMethod::Failure>& failures)
+{
+    Phrase clauses;
+    for (const PickMethod::Failure& failure : failures) {
+        clauses = clauses.isEmpty() ? failure.clause : phrase("%1 and %2", clauses, failure.clause);
+    }
+    return {phrase("This desktop offers no way to pick a colour: %1.", clauses)};
+}
+
+}  // namespace
+
+DesktopScreenPicker::DesktopScreenPicker(Methods methods) : _methods(std::move(methods))
+{
+    for (const auto& method : _methods)
+        connect(method.get(), &PickMethod::finished, this, &DesktopScreenPicker::take);
+}
 
 void DesktopScreenPicker::start(QWidget* parent, Callback done)
 {
@@ -26,12 +44,10 @@ void DesktopScreenPicker::tryNextMethod()
 {
     if (_tried == _methods.size()) {
         finish({ScreenPickResult::Outcome::notPossible, HostColor::blackColor(),
-                QStringLiteral("This desktop offers no way to pick a colour: %1.")
-                    .arg(_failures.join(QStringLiteral(" and ")))});
+                messageOf(_failures)});
         return;
     }
-    PickMethod& method = *_methods[_tried++];
-    method.start(_parent, [this](const PickMethod::Outcome& outcome) { take(outcome); });
+    _methods[_tried++]->start(_parent);
 }
 
 void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
@@ -39,7 +55,7 @@ void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
     if (const auto* color = std::get_if<HostColor>(&outcome)) {
         finish({ScreenPickResult::Outcome::picked, *color, {}});
     } else if (const auto* failure = std::get_if<PickMethod::Failure>(&outcome)) {
-        _failures.append(failure->clause);
+        _failures.push_back(*failure);
         tryNextMethod();
     } else {
         finish({});
@@ -49,8 +65,9 @@ void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
 void DesktopScreenPicker::finish(ScreenPickResult result)
 {
     _picking = false;
+    // A result on its way ends with the picker.
     QMetaObject::invokeMethod(
-        &_mail,
+        this,
         [done = std::exchange(_done, nullptr), result = std::move(result)] {
             if (done) done(result);
         },

@@ -5,7 +5,6 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QStringList>
 #include <QWidget>
 
 #include <vector>
@@ -13,11 +12,13 @@
 namespace vantorel {
 
 /// Tries ways to pick in their order, until one of them works or the user leaves.
-class DesktopScreenPicker final : public ScreenPicker {
+class DesktopScreenPicker final : public QObject, public ScreenPicker {
+    Q_OBJECT
+
 public:
     using Methods = std::vector<std::unique_ptr<PickMethod>>;
 
-    explicit DesktopScreenPicker(Methods methods) : _methods(std::move(methods)) {}
+    explicit DesktopScreenPicker(Methods methods);
 
     void start(QWidget* parent, Callback done) override;
     void cancel() override;
@@ -30,12 +31,10 @@ private:
 
     Methods _methods;
     std::size_t _tried = 0;
-    QStringList _failures;
+    std::vector<PickMethod::Failure> _failures;
     QPointer<QWidget> _parent;
     Callback _done;
     bool _picking = false;
-    /// Results on their way are delivered through it, and so end with the picker.
-    QObject _mail;
 };
 
 }  // namespace vantorel

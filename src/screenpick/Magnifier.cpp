@@ -17,11 +17,11 @@ constexpr int grabInterval = 50;  // ms
 
 }  // namespace
 
-Magnifier::Magnifier(DesktopPicture picture, QPoint mouse, Done done)
-    : _picture(std::move(picture)), _cursor(_picture.frames(), mouse), _done(std::move(done))
+Magnifier::Magnifier(DesktopPicture picture, QPoint mouse)
+    : _picture(std::move(picture)), _cursor(_picture.frames(), mouse)
 {
     _grabAgain.setInterval(grabInterval);
-    QObject::connect(&_grabAgain, &QTimer::timeout, &_context, [this] { grabInput(); });
+    connect(&_grabAgain, &QTimer::timeout, this, &Magnifier::grabInput);
     show();
     watchScreens();
     grabInput();
@@ -60,12 +60,11 @@ void Magnifier::show()
 void Magnifier::watchScreens()
 {
     // The picture is no longer that of the desktop.
-    const auto leaveNow = [this] { leave(); };
-    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &_context, leaveNow);
-    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &_context, leaveNow);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &Magnifier::leave);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Magnifier::leave);
     for (const DesktopPicture::Screen& screen : _picture.screens()) {
         if (!screen.screen) continue;
-        QObject::connect(screen.screen, &QScreen::geometryChanged, &_context, leaveNow);
+        connect(screen.screen, &QScreen::geometryChanged, this, &Magnifier::leave);
     }
 }
 
@@ -152,10 +151,13 @@ void Magnifier::finish(std::optional<QColor> color)
     for (const auto& overlay : _overlays)
         overlay->hide();
     QMetaObject::invokeMethod(
-        &_context,
+        this,
         [this, color] {
-            const Done done = std::move(_done);
-            done(color);
+            if (color) {
+                emit picked(*color);
+            } else {
+                emit left();
+            }
         },
         Qt::QueuedConnection);
 }

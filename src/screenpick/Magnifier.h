@@ -22,17 +22,13 @@ class MagnifierOverlay;
 ///
 /// Because the user sees the picture and not the screens, what is picked is what was seen, and the
 /// magnifier never looks at itself.
-class Magnifier final {
-public:
-    /// The picked colour; empty when the user has left.
-    using Done = std::function<void(std::optional<QColor>)>;
+class Magnifier final : public QObject {
+    Q_OBJECT
 
-    /// Shows itself at once. `mouse` is the mouse's place, a pixel of the desktop. `done` is called
-    /// once, from the event loop; never after the magnifier's end, and it may end the magnifier.
-    Magnifier(DesktopPicture picture, QPoint mouse, Done done);
-    ~Magnifier();
-    Magnifier(const Magnifier&) = delete;
-    Magnifier& operator=(const Magnifier&) = delete;
+public:
+    /// Shows itself at once. `mouse` is the mouse's place, a pixel of the desktop.
+    Magnifier(DesktopPicture picture, QPoint mouse);
+    ~Magnifier() override;
 
     void mouseMovedTo(QPoint pixel);
     void buttonPressed(Qt::MouseButton button) { _pressed = button; }
@@ -50,6 +46,13 @@ public:
     /// Whether mouse and keys all come here, wherever the pointer and the focus are.
     [[nodiscard]] bool hasInput() const { return _hasMouse && _hasKeyboard; }
 
+signals:
+    // One of the two comes, once, from the event loop; a slot may end the magnifier.
+
+    void picked(const QColor& color);
+    /// The user has picked no colour.
+    void left();
+
 private:
     void show();
     void watchScreens();
@@ -61,7 +64,6 @@ private:
     DesktopPicture _picture;
     PixelCursor _cursor;
     MagnifierLens _lens;
-    Done _done;
     /// The first one gets all events; the others are its children in Qt's sense.
     std::vector<std::unique_ptr<MagnifierOverlay>> _overlays;
     Qt::MouseButton _pressed = Qt::NoButton;
@@ -69,8 +71,6 @@ private:
     bool _hasMouse = false;
     bool _hasKeyboard = false;
     bool _finished = false;
-    /// What is connected or on its way ends with it.
-    QObject _context;
 };
 
 }  // namespace vantorel

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace vantorel {
 namespace {
@@ -18,17 +17,17 @@ constexpr qint64 menuSettleTime = 60;        // ms
 constexpr qint64 magnifierSettleTime = 300;  // ms
 
 /// Empty when the screen can be seen.
-QString obstacle()
+Phrase obstacle()
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb")) {
-        return QStringLiteral("there is no X11 display");
+        return phrase("there is no X11 display");
     }
     const QList<QScreen*> screens = QGuiApplication::screens();
     const bool rootless = std::any_of(screens.begin(), screens.end(), [](const QScreen* screen) {
         return screen->name().startsWith(QLatin1String("XWAYLAND"));
     });
     if (rootless || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-        return QStringLiteral("the X11 display does not show the windows of Wayland");
+        return phrase("the X11 display does not show the windows of Wayland");
     }
     return {};
 }
@@ -59,14 +58,11 @@ void closePopups()
 MagnifierPickMethod::MagnifierPickMethod()
 {
     _settling.setSingleShot(true);
-    QObject::connect(&_settling, &QTimer::timeout, &_settling, [this] { begin(); });
+    connect(&_settling, &QTimer::timeout, this, &MagnifierPickMethod::begin);
 }
 
-MagnifierPickMethod::~MagnifierPickMethod() = default;
-
-void MagnifierPickMethod::start(QWidget*, Done done)
+void MagnifierPickMethod::start(QWidget*)
 {
-    _done = std::move(done);
     if (!obstacle().isEmpty()) {
         _settling.start(0);
         return;
@@ -78,31 +74,25 @@ void MagnifierPickMethod::start(QWidget*, Done done)
 
 void MagnifierPickMethod::cancel()
 {
-    _done = nullptr;
     end();
 }
 
 void MagnifierPickMethod::begin()
 {
-    const QString reason = obstacle();
-    if (!reason.isEmpty()) {
+    if (const Phrase reason = obstacle(); !reason.isEmpty()) {
         finish(Failure{reason});
         return;
     }
     auto picture = DesktopPicture::take();
     if (!picture) {
-        finish(Failure{QStringLiteral("the X11 display gives no picture of its screens")});
+        finish(Failure{phrase("the X11 display gives no picture of its screens")});
         return;
     }
     _activeBefore = QApplication::activeWindow();
-    _magnifier = std::make_unique<Magnifier>(std::move(*picture), mousePixel(),
-                                             [this](const std::optional<QColor>& color) {
-                                                 if (color) {
-                                                     finish(hostColorFrom(*color));
-                                                 } else {
-                                                     finish(CancelledByUser{});
-                                                 }
-                                             });
+    _magnifier = std::make_unique<Magnifier>(std::move(*picture), mousePixel());
+    connect(_magnifier.get(), &Magnifier::picked, this,
+            [this](const QColor& color) { finish(hostColorFrom(color)); });
+    connect(_magnifier.get(), &Magnifier::left, this, [this] { finish(CancelledByUser{}); });
 }
 
 void MagnifierPickMethod::end()
@@ -118,7 +108,7 @@ void MagnifierPickMethod::end()
 void MagnifierPickMethod::finish(const Outcome& outcome)
 {
     end();
-    if (const Done done = std::exchange(_done, nullptr)) done(outcome);
+    emit finished(outcome);
 }
 
 }  // namespace vantorel

@@ -15,11 +15,12 @@ namespace vantorel {
 /// Picks with a magnifier of our own, where an X11 display shows the whole screen. Colours are
 /// those of the screen's frame buffer, taken as sRGB.
 class MagnifierPickMethod final : public PickMethod {
+    Q_OBJECT
+
 public:
     MagnifierPickMethod();
-    ~MagnifierPickMethod() override;
 
-    void start(QWidget* parent, Done done) override;
+    void start(QWidget* parent) override;
     void cancel() override;
 
     /// The magnifier on the screen; null while there is none.
@@ -30,7 +31,6 @@ private:
     void end();
     void finish(const Outcome& outcome);
 
-    Done _done;
     QPointer<QWidget> _activeBefore;
     std::unique_ptr<Magnifier> _magnifier;
     QTimer _settling;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "result/Message.h"
 
-#include <QString>
+#include <QObject>
 
-#include <functional>
 #include <variant>
 
 class QWidget;
@@ -12,7 +12,9 @@ class QWidget;
 namespace vantorel {
 
 /// One way to pick a colour from the screen.
-class PickMethod {
+class PickMethod : public QObject {
+    Q_OBJECT
+
 public:
     struct CancelledByUser {
         bool operator==(const CancelledByUser&) const = default;
@@ -20,23 +22,21 @@ public:
     /// Why this way is closed: a clause such as "there is no X11 display", which becomes part of a
     /// sentence.
     struct Failure {
-        QString clause;
+        Phrase clause;
         bool operator==(const Failure&) const = default;
     };
     using Outcome = std::variant<HostColor, CancelledByUser, Failure>;
-    using Done = std::function<void(const Outcome&)>;
 
-    PickMethod() = default;
-    PickMethod(const PickMethod&) = delete;
-    PickMethod& operator=(const PickMethod&) = delete;
-    /// As `cancel`.
-    virtual ~PickMethod() = default;
-
-    /// Begins a pick; none is under way. `done` is called at most once, from the event loop. It may
-    /// start or cancel this method again, but not destroy it.
-    virtual void start(QWidget* parent, Done done) = 0;
-    /// Gives up the pick that is under way, if any: its `done` is not called any more.
+    /// Begins a pick; none is under way. `parent` is the window that asks; may be null.
+    virtual void start(QWidget* parent) = 0;
+    /// Gives up the pick that is under way, if any: it does not finish any more. Destroying the
+    /// method does the same.
     virtual void cancel() = 0;
+
+signals:
+    /// The pick is over. Comes from the event loop, once for each start that is not cancelled. A
+    /// slot may start or cancel the method again, but not destroy it.
+    void finished(const vantorel::PickMethod::Outcome& outcome);
 };
 
 }  // namespace vantorel

@@ -28,9 +28,10 @@ PortalPickMethod::~PortalPickMethod()
     cancel();
 }
 
-void PortalPickMethod::start(QWidget* parent, Done done)
+void PortalPickMethod::start(QWidget* parent)
 {
-    _request = new PortalRequest(_bus(), std::move(done));
+    _request = new PortalRequest(_bus());
+    connect(_request, &PortalRequest::finished, this, &PickMethod::finished);
     _request->start(portalNameOf(parent));
 }
 

@@ -5,6 +5,8 @@
 #include <QDBusConnection>
 #include <QPointer>
 
+#include <functional>
+
 namespace vantorel {
 
 class PortalRequest;
@@ -12,12 +14,14 @@ class PortalRequest;
 /// Picks through the desktop portal (`org.freedesktop.portal.Screenshot`, version 2 or later): the
 /// desktop shows its own picker, which also works where programs cannot see the screen.
 class PortalPickMethod final : public PickMethod {
+    Q_OBJECT
+
 public:
     /// `bus` gives the session bus; it is asked at each start.
     explicit PortalPickMethod(std::function<QDBusConnection()> bus);
     ~PortalPickMethod() override;
 
-    void start(QWidget* parent, Done done) override;
+    void start(QWidget* parent) override;
     void cancel() override;
 
 private:

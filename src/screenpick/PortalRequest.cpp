@@ -26,24 +26,34 @@ constexpr int callTimeout = 10000;
 
 enum ResponseCode : uint { succeeded = 0, cancelledByUser = 1 };
 
-QString clauseFor(const QDBusMessage& error)
+Phrase hasNoPickColor()
+{
+    return phrase("the desktop portal has no PickColor");
+}
+
+Phrase couldNotPick()
+{
+    return phrase("the desktop portal could not pick a colour");
+}
+
+Phrase clauseFor(const QDBusMessage& error)
 {
     switch (QDBusError(error).type()) {
         case QDBusError::ServiceUnknown:
         case QDBusError::Disconnected:
-            return QStringLiteral("there is no desktop portal");
+            return phrase("there is no desktop portal");
         case QDBusError::NoReply:
         case QDBusError::Timeout:
         case QDBusError::TimedOut:
-            return QStringLiteral("the desktop portal does not answer");
+            return phrase("the desktop portal does not answer");
         case QDBusError::UnknownInterface:
         case QDBusError::UnknownMethod:
         case QDBusError::UnknownObject:
         case QDBusError::UnknownProperty:
         case QDBusError::InvalidArgs:
-            return QStringLiteral("the desktop portal has no PickColor");
+            return hasNoPickColor();
         default:
-            return QStringLiteral("the desktop portal could not pick a colour");
+            return couldNotPick();
     }
 }
 
@@ -67,17 +77,16 @@ std::optional<HostColor> colorFrom(const QVariant& value)
 
 }  // namespace
 
-PortalRequest::PortalRequest(const QDBusConnection& bus, PickMethod::Done done)
+PortalRequest::PortalRequest(const QDBusConnection& bus)
     // The application owns what is still waiting for a portal when it ends.
     : QObject(QCoreApplication::instance()),
       _bus(bus),
-      _done(std::move(done)),
       _portalWatcher(portalService, bus, QDBusServiceWatcher::WatchForUnregistration),
       // Random, so that no other program on the bus can guess where the answer comes.
       _token(QStringLiteral("vantorel_%1").arg(QRandomGenerator::system()->generate64(), 0, 16))
 {
     connect(&_portalWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this] { fail(QStringLiteral("the desktop portal has gone")); });
+            [this] { fail(phrase("the desktop portal has gone")); });
 }
 
 void PortalRequest::start(const QString& parentWindow)
@@ -85,8 +94,7 @@ void PortalRequest::start(const QString& parentWindow)
     _parentWindow = parentWindow;
     if (!_bus.isConnected()) {
         QMetaObject::invokeMethod(
-            this, [this] { fail(QStringLiteral("there is no session bus")); },
-            Qt::QueuedConnection);
+            this, [this] { fail(phrase("there is no session bus")); }, Qt::QueuedConnection);
         return;
     }
     _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
@@ -99,7 +107,6 @@ void PortalRequest::cancel()
 {
     if (_over) return;
     _over = true;
-    _done = nullptr;
     // A portal that has not yet named the handle may not have made it either; it would miss a
     // Close.
     if (_handleIsPending) return;
@@ -127,7 +134,7 @@ void PortalRequest::takeVersion(const QDBusMessage& reply)
     }
     const uint version = reply.arguments().value(0).value<QDBusVariant>().variant().toUInt();
     if (version < firstVersionWithPickColor) {
-        fail(QStringLiteral("the desktop portal has no PickColor"));
+        fail(hasNoPickColor());
         return;
     }
     callPickColor();
@@ -184,7 +191,7 @@ void PortalRequest::closeAtPortal()
 void PortalRequest::responded(const QDBusMessage& message)
 {
     if (message.signature() != QLatin1String("ua{sv}")) {
-        fail(QStringLiteral("the desktop portal could not pick a colour"));
+        fail(couldNotPick());
         return;
     }
     const QList<QVariant> arguments = message.arguments();
@@ -200,24 +207,23 @@ void PortalRequest::responded(const QDBusMessage& message)
             return;
         }
     }
-    fail(QStringLiteral("the desktop portal could not pick a colour"));
+    fail(couldNotPick());
 }
 
 void PortalRequest::busHasGone()
 {
-    fail(QStringLiteral("the session bus has gone"));
+    fail(phrase("the session bus has gone"));
 }
 
-void PortalRequest::fail(const QString& clause)
+void PortalRequest::fail(const Phrase& clause)
 {
     finish(PickMethod::Failure{clause});
 }
 
 void PortalRequest::finish(const PickMethod::Outcome& outcome)
 {
-    _over = true;
     deleteLater();
-    if (const auto done = std::exchange(_done, nullptr)) done(outcome);
+    if (!std::exchange(_over, true)) emit finished(outcome);
 }
 
 }  // namespace vantorel

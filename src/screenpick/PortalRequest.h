@@ -18,12 +18,16 @@ class PortalRequest final : public QObject {
     Q_OBJECT
 
 public:
-    PortalRequest(const QDBusConnection& bus, PickMethod::Done done);
+    explicit PortalRequest(const QDBusConnection& bus);
 
     /// `parentWindow` in the portal's form, may be empty.
     void start(const QString& parentWindow);
-    /// Gives the pick up: `done` is not called any more, and the portal takes its picker away.
+    /// Gives the pick up: it does not finish any more, and the portal takes its picker away.
     void cancel();
+
+signals:
+    /// The pick is over. Comes at most once, from the event loop.
+    void finished(const vantorel::PickMethod::Outcome& outcome);
 
 private slots:
     void responded(const QDBusMessage& message);
@@ -36,18 +40,17 @@ private:
     void takeHandle(const QDBusMessage& reply);
     void listenAt(const QString& handle);
     void closeAtPortal();
-    void fail(const QString& clause);
+    void fail(const Phrase& clause);
     void finish(const PickMethod::Outcome& outcome);
 
     QDBusConnection _bus;
-    PickMethod::Done _done;
     QDBusServiceWatcher _portalWatcher;
     QString _parentWindow;
     QString _token;
     /// Where the portal answers.
     QString _handle;
     bool _handleIsPending = false;
-    /// The outcome has been told, or is no longer wanted.
+    /// The pick is over, or is no longer wanted.
     bool _over = false;
 };
 

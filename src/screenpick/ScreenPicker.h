@@ -1,8 +1,7 @@
 #pragma once
 
 #include "host/HostColor.h"
-
-#include <QString>
+#include "result/Message.h"
 
 #include <functional>
 #include <memory>
@@ -18,8 +17,8 @@ struct ScreenPickResult {
     Outcome outcome = Outcome::cancelled;
     /// When picked: opaque, each channel 0..1.
     HostColor color = HostColor::blackColor();
-    /// When not possible: one sentence for the user, which says what is missing.
-    QString reason;
+    /// When not possible: what is missing, one sentence for the user.
+    Message reason;
 
     bool operator==(const ScreenPickResult&) const = default;
 };

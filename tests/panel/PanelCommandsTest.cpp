@@ -246,8 +246,7 @@ TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(clipboard().text(), "#0A141E") << "picked and copied in one step";
 
-    _pick = {Outcome::notPossible, HostColor::blackColor(),
-             QStringLiteral("Nothing to pick with.")};
+    _pick = {Outcome::notPossible, HostColor::blackColor(), {phrase("Nothing to pick with.")}};
     type(QKeySequence("Ctrl+P"));
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(remark(), "Nothing to pick with.");

@@ -9,32 +9,33 @@ namespace vantorel {
 namespace {
 
 using testing::ElementsAre;
+using testing::ResultOf;
 
 /// Answers on request of the test.
 class FakeMethod final : public PickMethod {
 public:
     explicit FakeMethod(FakeMethod** self) { *self = this; }
-    void start(QWidget*, Done done) override
+    void start(QWidget*) override
     {
         ++starts;
-        _done = std::move(done);
+        _isWaiting = true;
     }
     void cancel() override
     {
         ++cancels;
-        _done = nullptr;
+        _isWaiting = false;
     }
     void answer(const Outcome& outcome)
     {
-        if (const Done done = std::exchange(_done, nullptr)) done(outcome);
+        if (std::exchange(_isWaiting, false)) emit finished(outcome);
     }
-    [[nodiscard]] bool isWaiting() const { return _done != nullptr; }
+    [[nodiscard]] bool isWaiting() const { return _isWaiting; }
 
     int starts = 0;
     int cancels = 0;
 
 private:
-    Done _done;
+    bool _isWaiting = false;
 };
 
 ScreenPickResult picked(const HostColor& color)
@@ -42,10 +43,10 @@ ScreenPickResult picked(const HostColor& color)
     return {ScreenPickResult::Outcome::picked, color, {}};
 }
 
-ScreenPickResult notPossible(const char* reason)
+/// What a result says where nothing can be picked, in English.
+std::string reasonOf(const ScreenPickResult& result)
 {
-    return {ScreenPickResult::Outcome::notPossible, HostColor::blackColor(),
-            QString::fromLatin1(reason)};
+    return result.outcome == ScreenPickResult::Outcome::notPossible ? english(result.reason) : "";
 }
 
 class DesktopScreenPickerTest : public testing::Test {
@@ -75,8 +76,8 @@ protected:
 };
 
 const HostColor orange = HostColor::colorWithCalibratedRed(1, 0.5, 0, 1);
-const PickMethod::Failure noPortal{QStringLiteral("the desktop portal has no PickColor")};
-const PickMethod::Failure noDisplay{QStringLiteral("there is no X11 display")};
+const PickMethod::Failure noPortal{phrase("the desktop portal has no PickColor")};
+const PickMethod::Failure noDisplay{phrase("there is no X11 display")};
 
 TEST_F(DesktopScreenPickerTest, stopsAtTheFirstMethodThatPicks)
 {
@@ -111,7 +112,8 @@ TEST_F(DesktopScreenPickerTest, reportsInOneSentenceWhatIsMissing)
     start();
     _portal->answer(noPortal);
     _magnifier->answer(noDisplay);
-    const auto sentence = notPossible(
+    const auto sentence = ResultOf(
+        reasonOf,
         "This desktop offers no way to pick a colour: the desktop portal has no PickColor and "
         "there is no X11 display.");
     EXPECT_THAT(results(), ElementsAre(sentence));
@@ -180,9 +182,9 @@ TEST(makeScreenPicker, reportsWhatIsMissingWithoutBusAndScreen)
     picker->start(nullptr, [&](const ScreenPickResult& result) { results.push_back(result); });
     for (int i = 0; i < 1000 && results.empty(); ++i)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    EXPECT_THAT(results, ElementsAre(notPossible("This desktop offers no way to pick a colour: "
-                                                 "there is no session bus and there is no X11 "
-                                                 "display.")));
+    EXPECT_THAT(results, ElementsAre(ResultOf(reasonOf,
+                                              "This desktop offers no way to pick a colour: there "
+                                              "is no session bus and there is no X11 display.")));
 }
 
 }  // namespace

@@ -36,11 +36,16 @@ protected:
         // The platform reports its own mouse position to the overlay sooner or later.
         QCursor::setPos(50, 60);
         _magnifier =
-            std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60),
-                                        [this](const std::optional<QColor>& color) {
-                                            _answers.push_back(color);
-                                            _magnifier.reset();
-                                        });
+            std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60));
+        QObject::connect(_magnifier.get(), &Magnifier::picked,
+                         [this](const QColor& color) { take(color); });
+        QObject::connect(_magnifier.get(), &Magnifier::left, [this] { take(std::nullopt); });
+    }
+
+    void take(const std::optional<QColor>& answer)
+    {
+        _answers.push_back(answer);
+        _magnifier.reset();
     }
 
     static QWidget& overlay()

@@ -19,8 +19,8 @@ namespace {
 using Outcome = PickMethod::Outcome;
 using Failure = PickMethod::Failure;
 
-const QString noPickColor = QStringLiteral("the desktop portal has no PickColor");
-const QString couldNot = QStringLiteral("the desktop portal could not pick a colour");
+const Phrase noPickColor = phrase("the desktop portal has no PickColor");
+const Phrase couldNot = phrase("the desktop portal could not pick a colour");
 
 HostColor opaque(double red, double green, double blue)
 {
@@ -29,7 +29,14 @@ HostColor opaque(double red, double green, double blue)
 
 class PortalPickMethodTest : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(_bus.isRunning()) << "is dbus-daemon installed?"; }
+    void SetUp() override
+    {
+        ASSERT_TRUE(_bus.isRunning()) << "is dbus-daemon installed?";
+        QObject::connect(_method.get(), &PickMethod::finished, [this](const Outcome& outcome) {
+            _outcome = outcome;
+            ++_answers;
+        });
+    }
 
     void startPortal() { _portal.emplace(_bus.connect(portalConnection)); }
     void killPortal()
@@ -38,13 +45,7 @@ protected:
         _bus.disconnect(portalConnection);
     }
 
-    void pick(QWidget* parent = nullptr)
-    {
-        _method->start(parent, [this](const Outcome& outcome) {
-            _outcome = outcome;
-            ++_answers;
-        });
-    }
+    void pick(QWidget* parent = nullptr) { _method->start(parent); }
     [[nodiscard]] bool portalIsPicking()
     {
         return QTest::qWaitFor([this] { return _portal->calls == 1; });
@@ -151,7 +152,7 @@ TEST_F(PortalPickMethodTest, reportsWhyTheCallFailed)
 {
     const struct {
         QString error;
-        QString clause;
+        Phrase clause;
     } rows[] = {
         {QStringLiteral("org.freedesktop.DBus.Error.UnknownMethod"), noPickColor},
         {QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"), couldNot},
@@ -171,7 +172,7 @@ TEST_F(PortalPickMethodTest, reportsThatThereIsNoPortal)
 {
     pick();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("there is no desktop portal")}));
+    EXPECT_EQ(_outcome, Outcome(Failure{phrase("there is no desktop portal")}));
 }
 
 TEST_F(PortalPickMethodTest, reportsThatThereIsNoBus)
@@ -180,7 +181,7 @@ TEST_F(PortalPickMethodTest, reportsThatThereIsNoBus)
     pick();
     EXPECT_EQ(_answers, 0) << "answers come from the event loop";
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("there is no session bus")}));
+    EXPECT_EQ(_outcome, Outcome(Failure{phrase("there is no session bus")}));
 }
 
 TEST_F(PortalPickMethodTest, timesOutOnAPortalThatHangs)
@@ -189,7 +190,7 @@ TEST_F(PortalPickMethodTest, timesOutOnAPortalThatHangs)
     _portal->isSilent = true;
     pick();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("the desktop portal does not answer")}));
+    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the desktop portal does not answer")}));
 }
 
 TEST_F(PortalPickMethodTest, acceptsAnAnswerBeforeTheCallReturns)
@@ -220,7 +221,7 @@ TEST_F(PortalPickMethodTest, noticesThatThePortalExitsDuringAPick)
     ASSERT_TRUE(portalIsPicking());
     killPortal();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("the desktop portal has gone")}));
+    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the desktop portal has gone")}));
     waitInVain();
     EXPECT_EQ(_answers, 1);
 }
@@ -233,7 +234,7 @@ TEST_F(PortalPickMethodTest, noticesThatTheBusExitsDuringAPick)
     waitInVain();
     _bus.stop();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{QStringLiteral("the session bus has gone")}));
+    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the session bus has gone")}));
 }
 
 TEST_F(PortalPickMethodTest, closesTheRequestOfACancelledPick)
@@ -305,8 +306,9 @@ TEST_F(PortalPickMethodTest, aSecondPickCancelsTheFirstAndGetsItsOwnAnswer)
     _portal->respond(0, PortalStandIn::color(0, 0, 1));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !second.empty(); }));
     EXPECT_EQ(first, std::vector{ScreenPickResult{}});
-    EXPECT_EQ(second, (std::vector{ScreenPickResult{ScreenPickResult::Outcome::picked,
-                                                    opaque(0, 0, 1), QString()}}));
+    EXPECT_EQ(
+        second,
+        (std::vector{ScreenPickResult{ScreenPickResult::Outcome::picked, opaque(0, 0, 1), {}}}));
 }
 
 TEST_F(PortalPickMethodTest, namesTheParentWindowWhereItHasAName)

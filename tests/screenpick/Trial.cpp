@@ -1,4 +1,5 @@
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "screenpick/DesktopScreenPicker.h"
 #include "screenpick/MagnifierPickMethod.h"
 #include "screenpick/PortalPickMethod.h"
@@ -56,7 +57,7 @@ QString textOf(const ScreenPickResult& result)
         case ScreenPickResult::Outcome::notPossible:
             break;
     }
-    return QStringLiteral("not possible: ") + result.reason;
+    return QStringLiteral("not possible: ") + translated(result.reason);
 }
 
 /// A window with a button that picks.

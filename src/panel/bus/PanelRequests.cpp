@@ -71,7 +71,7 @@ void PanelRequests::pick(bool copies, Done done)
         using Outcome = ScreenPickResult::Outcome;
         using Kind = PanelRefusal::Kind;
         if (result.outcome == Outcome::notPossible) {
-            finish(done, PanelRefusal{Kind::notPossible, result.reason});
+            finish(done, PanelRefusal{Kind::notPossible, translated(result.reason)});
         } else if (result.outcome == Outcome::cancelled) {
             finish(done, PanelRefusal{Kind::cancelled, tr("Nothing was picked.")});
         } else if (copies) {

@@ -2,6 +2,7 @@
 
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -87,7 +88,7 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
                                  _colors.setColor(result.color);
                                  if (copies) copy();
                              } else if (result.outcome == Outcome::notPossible) {
-                                 emit remark(result.reason);
+                                 emit remark(translated(result.reason));
                              }
                              if (done) done(result);
                          });
