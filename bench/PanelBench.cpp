@@ -96,7 +96,7 @@ void dragStep(benchmark::State& state)
     const PluginSearch search =
         loadPlugins(pluginFolders(QCoreApplication::applicationDirPath().toStdString(), {}), {});
     QtDesktop desktop;
-    std::vector<std::string> problems;
+    std::vector<Message> problems;
     PanelWindow window(desktop, search.plugins, problems);
     window.show();
     QCoreApplication::processEvents();

@@ -74,7 +74,7 @@ TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
 TEST_F(PanelRequestsTest, AnImpossiblePickSaysWhy)
 {
     _requests->pick(true, keep());
-    _picker->answer({Outcome::notPossible, HostColor::blackColor(), "No screen."});
+    _picker->answer({Outcome::notPossible, HostColor::blackColor(), {phrase("No screen.")}});
     const PanelRefusal expected{Kind::notPossible, "No screen."};
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{expected});
 }

@@ -139,7 +139,7 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
     if (!writeFile(home + "/Vantorel/Palettes/Garden.gpl", ownList)) return false;
     QtDesktop desktop;
     const PluginSearch search = loadPlugins({VANTOREL_PICKERS}, {});
-    std::vector<std::string> problems;
+    std::vector<Message> problems;
     PanelWindow window(desktop, search.plugins, problems);
     window.resizeToPage(page);
     window.colors().setColor(hostColorFrom(QColor(picture.color)));
