@@ -10,6 +10,14 @@
 
 namespace vantorel {
 
+/// One value of a colour function as it is written.
+struct CSSValue {
+    /// In degrees for an angle.
+    double number = 0;
+    bool isPercentage = false;
+    bool isNone = false;
+};
+
 /// What CSS Color 4 says of one value of a colour function.
 struct CSSValueRule {
     /// For messages.

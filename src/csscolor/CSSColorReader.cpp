@@ -1,16 +1,15 @@
 #include "csscolor/CSSColorReader.h"
 
+#include "csscolor/CSSAngle.h"
 #include "csscolor/CSSColorFunctions.h"
 #include "csscolor/CSSNamedColors.h"
 #include "csscolor/CSSTokenizer.h"
+#include "csscolor/Surroundings.h"
 #include "result/HarmlessLine.h"
 #include "text/HexDigits.h"
-#include "text/Trimming.h"
 #include "text/Unicode.h"
 
 #include <algorithm>
-#include <cmath>
-#include <numbers>
 
 namespace vantorel {
 namespace {
@@ -30,41 +29,6 @@ Phrase writeAs(std::u16string_view example)
 Phrase kindsOf(const CSSValueRule& rule)
 {
     return rule.isHue ? phrase("an angle or a number") : phrase("a number or a percentage");
-}
-
-bool isSurroundingBlank(char16_t c)
-{
-    constexpr char16_t noBreakSpace = 0x00A0;
-    constexpr char16_t byteOrderMark = 0xFEFF;
-    return isCSSWhiteSpace(c) || c == noBreakSpace || c == byteOrderMark;
-}
-
-std::u16string_view withoutSurroundings(std::u16string_view text)
-{
-    const auto isBlankOrNUL = [](char16_t c) { return isSurroundingBlank(c) || c == u'\0'; };
-    return withoutLeading(withoutTrailing(text, isBlankOrNUL), isSurroundingBlank);
-}
-
-struct CSSValue {
-    double number = 0;
-    bool isPercentage = false;
-    bool isNone = false;
-};
-
-/// 0 for what is no unit of an angle.
-double unitsPerTurn(std::u16string_view unit)
-{
-    if (unit == u"deg") return 360;
-    if (unit == u"grad") return 400;
-    if (unit == u"rad") return 2 * std::numbers::pi;
-    if (unit == u"turn") return 1;
-    return 0;
-}
-
-/// Whole turns are left out in the unit itself, where they leave no rounding error.
-double degreesOf(double number, double unitsInTurn)
-{
-    return std::fmod(number, unitsInTurn) / unitsInTurn * 360;
 }
 
 HostColor colorOf(const ColorTriple& srgb, double alpha)
