@@ -7,7 +7,7 @@ namespace {
 
 // The value of "orange" differs from the CSS standard. It is kept because saved lists and matched
 // names depend on it.
-constexpr std::array entries{
+constexpr std::array cssEntries{
     BuiltInColor{u"maroon", 0x800000}, BuiltInColor{u"red", 0xFF0000},
     BuiltInColor{u"yellow", 0xFFFF00}, BuiltInColor{u"olive", 0x808000},
     BuiltInColor{u"purple", 0x800080}, BuiltInColor{u"fuchsia", 0xFF00FF},
@@ -24,7 +24,7 @@ constexpr std::array entries{
 
 std::span<const BuiltInColor> cssKeywordColors()
 {
-    return entries;
+    return cssEntries;
 }
 
 }  // namespace vantorel

@@ -7,7 +7,7 @@ namespace {
 
 // Some keys are misspelt and some values differ from the SVG standard. They are kept because users'
 // saved lists contain them.
-constexpr std::array entries{
+constexpr std::array svgEntries{
     BuiltInColor{u"aliceblue", 0xF0F8FF},
     BuiltInColor{u"atniquewhite", 0xFAEBD7},
     BuiltInColor{u"aqua", 0x00FFFF},
@@ -161,7 +161,7 @@ constexpr std::array entries{
 
 std::span<const BuiltInColor> svgKeywordColors()
 {
-    return entries;
+    return svgEntries;
 }
 
 }  // namespace vantorel

@@ -1,4 +1,5 @@
 #include "ForeignFiles.h"
+#include "ForeignFolders.h"
 #include "colorlists/PaletteFile.h"
 #include "colorlists/PaletteFileStore.h"
 #include "text/Unicode.h"
@@ -13,14 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-const std::string ours = ForeignFiles::ours;
-const std::string userGimp = "/home/user/.config/GIMP/2.10/palettes/";
-const std::string userKde = "/home/user/.config/colors/";
-const std::string gimp = "/home/machine/usr/share/gimp/2.0/palettes/";
-const std::string inkscape = "/home/machine/usr/share/inkscape/palettes/";
-const std::string create = "/home/machine/usr/share/create/swatches/";
-const std::string kde = "/home/machine/etc/xdg/colors/";
 
 class ForeignPalettesTest : public testing::Test {
 protected:

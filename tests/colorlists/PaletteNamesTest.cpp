@@ -1,4 +1,5 @@
 #include "ForeignFiles.h"
+#include "ForeignFolders.h"
 #include "colorlists/PaletteFileStore.h"
 #include "colorlists/PalettePlaces.h"
 #include "text/Unicode.h"
@@ -14,20 +15,6 @@ namespace {
 
 using testing::ElementsAre;
 using Names = std::vector<std::u16string>;
-
-const std::string ours = ForeignFiles::ours;
-const std::string userGimp = "/home/user/.config/GIMP/2.10/palettes/";
-const std::string userOldGimp = "/home/user/.config/GIMP/2.8/palettes/";
-const std::string userInkscape = "/home/user/.config/inkscape/palettes/";
-const std::string userKrita = "/home/user/.local/share/krita/palettes/";
-const std::string userKde = "/home/user/.config/colors/";
-const std::string localGimp = "/home/machine/usr/local/share/gimp/2.0/palettes/";
-const std::string gimp = "/home/machine/usr/share/gimp/2.0/palettes/";
-const std::string newGimp = "/home/machine/usr/share/gimp/3.0/palettes/";
-const std::string inkscape = "/home/machine/usr/share/inkscape/palettes/";
-const std::string krita = "/home/machine/usr/share/krita/palettes/";
-const std::string create = "/home/machine/usr/share/create/swatches/";
-const std::string kde = "/home/machine/etc/xdg/colors/";
 
 class PaletteNamesTest : public testing::Test {
 protected:

@@ -26,7 +26,7 @@ TEST(DecimalsTest, EachByteIsWritten)
     }
 }
 
-struct Row {
+struct DecimalsRow {
     double number;
     int decimals;
     const char* fixed;
@@ -35,7 +35,7 @@ struct Row {
 
 TEST(DecimalsTest, RealNumbersAreWrittenWithTheirDecimals)
 {
-    const Row rows[] = {
+    const DecimalsRow rows[] = {
         {0, 0, "0", "0"},
         {0, 3, "0.000", "0"},
         {-0.0, 3, "-0.000", "0"},

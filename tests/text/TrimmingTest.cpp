@@ -12,7 +12,7 @@ bool isX(char c)
     return c == 'x';
 }
 
-struct Row {
+struct TrimmingRow {
     std::string_view text;
     std::string_view withoutLeading;
     std::string_view withoutTrailing;
@@ -21,7 +21,7 @@ struct Row {
 
 TEST(TrimmingTest, BlanksAreTrimmedFromBothEnds)
 {
-    const Row rows[] = {
+    const TrimmingRow rows[] = {
         {"", "", "", ""},
         {"x", "", "", ""},
         {"xxx", "", "", ""},
@@ -32,7 +32,7 @@ TEST(TrimmingTest, BlanksAreTrimmedFromBothEnds)
         {" x ", " x ", " x ", " x "},
         {"x\0x"sv, "\0x"sv, "x\0"sv, "\0"sv},
     };
-    for (const Row& row : rows) {
+    for (const TrimmingRow& row : rows) {
         EXPECT_EQ(withoutLeading(row.text, isX), row.withoutLeading);
         EXPECT_EQ(withoutTrailing(row.text, isX), row.withoutTrailing);
         EXPECT_EQ(trimmed(row.text, isX), row.trimmed);
