@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QSettings>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace vantorel {
@@ -105,9 +106,9 @@ PanelMemory memoryFrom(const PropertyList& list)
 
 PropertyList propertyListFrom(const PanelMemory& memory)
 {
-    PropertyList::Array recent;
-    for (const HostColor& color : memory.recent)
-        recent.emplace_back(u16From(textOf(color)));
+    PropertyList::Array recent(memory.recent.size());
+    std::transform(memory.recent.begin(), memory.recent.end(), recent.begin(),
+                   [](const HostColor& color) { return u16From(textOf(color)); });
     return PropertyList::Dictionary{
         {backgroundKey, u16From(textOf(memory.background))},
         {colorKey, u16From(textOf(memory.color))},
