@@ -9,17 +9,17 @@
 
 namespace vantorel {
 
-/// A colour list as a file holds it.
+/// A colour list that has been read from a file.
 struct ListFile {
-    /// Never null, never empty.
+    /// Never null. Contains at least one colour.
     std::shared_ptr<HostColorList> list;
-    /// Lines, declarations or entries that were passed over because they are not colours.
+    /// The number of lines, declarations or entries that were skipped because they are not colours.
     std::size_t skipped = 0;
 };
 
-/// Reads a colour list of any form that can be told by its beginning or by the ending of the file's
-/// name: palettes of GIMP and KDE, swatch exchange, JSON, CSS, SCSS, and lines of a colour and a
-/// name. The list is called as the file says, else as the file is called.
+/// Reads a colour list in any format that can be recognised by its first bytes or by the extension
+/// of the file name: palettes of GIMP and KDE, swatch exchange, JSON, CSS and SCSS, or lines with a
+/// colour and a name. If the file does not name the list, the list is named after the file.
 Result<ListFile> readColorList(std::string_view bytes, const std::string& fileName);
 
 }  // namespace vantorel
