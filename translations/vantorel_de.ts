@@ -62,16 +62,16 @@
         <translation>alle Benutzer dürfen in „%1“ schreiben</translation>
     </message>
     <message>
-        <source>&quot;chmod o-w&quot; would change that</source>
-        <translation>„chmod o-w“ würde das ändern</translation>
+        <source>remove the permission with &quot;chmod o-w&quot;</source>
+        <translation>entziehen Sie das Recht mit „chmod o-w“</translation>
     </message>
     <message>
         <source>a group can write to &quot;%1&quot;</source>
         <translation>eine Gruppe darf in „%1“ schreiben</translation>
     </message>
     <message>
-        <source>&quot;chmod g-w&quot; would change that</source>
-        <translation>„chmod g-w“ würde das ändern</translation>
+        <source>remove the permission with &quot;chmod g-w&quot;</source>
+        <translation>entziehen Sie das Recht mit „chmod g-w“</translation>
     </message>
     <message>
         <source>&quot;%1&quot; belongs to another user</source>
@@ -98,24 +98,24 @@
         <translation>installieren Sie eines, das für dieses Fenster gebaut ist</translation>
     </message>
     <message>
-        <source>it offers no picker</source>
-        <translation>es bietet keine Farbauswahl an</translation>
+        <source>it contains no picker</source>
+        <translation>es enthält keinen Farbwähler</translation>
     </message>
     <message>
-        <source>%1 is the same plug-in and came first</source>
-        <translation>%1 ist dasselbe Plug-in und war zuerst da</translation>
+        <source>%1 is the same plug-in and was loaded first</source>
+        <translation>%1 ist dasselbe Plug-in und wurde zuerst geladen</translation>
     </message>
     <message>
-        <source>it made no page</source>
-        <translation>es hat keine Seite erzeugt</translation>
+        <source>it did not create a page</source>
+        <translation>es hat keine Seite angelegt</translation>
     </message>
     <message>
-        <source>it failed while its page was made: %1</source>
-        <translation>es ist gescheitert, während seine Seite erzeugt wurde: %1</translation>
+        <source>it failed to create its page: %1</source>
+        <translation>das Anlegen seiner Seite ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>it failed while its page was made</source>
-        <translation>es ist gescheitert, während seine Seite erzeugt wurde</translation>
+        <source>it failed to create its page</source>
+        <translation>das Anlegen seiner Seite ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>%1 is left out: %2</source>
@@ -198,7 +198,7 @@
         <translation>Eine Hex-Farbe ohne „#“ hat 3 oder 6 Ziffern, nicht %1</translation>
     </message>
     <message>
-        <source>The text holds no colour</source>
+        <source>The text contains no colour</source>
         <translation>Der Text enthält keine Farbe</translation>
     </message>
     <message>
@@ -206,7 +206,7 @@
         <translation>schreiben Sie eine wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour</source>
+        <source>&quot;%1&quot; is not a colour</source>
         <translation>„%1“ ist keine Farbe</translation>
     </message>
     <message>
@@ -214,71 +214,71 @@
         <translation>Nach der Farbe folgt „%1“</translation>
     </message>
     <message>
-        <source>give one colour alone</source>
-        <translation>geben Sie nur eine Farbe an</translation>
+        <source>give a single colour</source>
+        <translation>geben Sie eine einzige Farbe an</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no hex digit</source>
+        <source>&quot;%1&quot; is not a hex digit</source>
         <translation>„%1“ ist keine Hex-Ziffer</translation>
     </message>
     <message>
-        <source>after &quot;#&quot; come digits from 0 to 9 and letters from a to f</source>
-        <translation>nach „#“ kommen Ziffern von 0 bis 9 und Buchstaben von a bis f</translation>
+        <source>use digits 0 to 9 and letters a to f after the &quot;#&quot;</source>
+        <translation>verwenden Sie nach dem „#“ Ziffern von 0 bis 9 und Buchstaben von a bis f</translation>
     </message>
     <message>
         <source>A hex colour has 3, 4, 6 or 8 digits after the &quot;#&quot;, not %1</source>
         <translation>Eine Hex-Farbe hat 3, 4, 6 oder 8 Ziffern nach dem „#“, nicht %1</translation>
     </message>
     <message>
-        <source>The property &quot;%1&quot; does not belong to the colour</source>
-        <translation>Die Eigenschaft „%1“ gehört nicht zur Farbe</translation>
+        <source>&quot;%1&quot; is a property, not part of the colour</source>
+        <translation>„%1“ ist eine Eigenschaft, kein Teil der Farbe</translation>
     </message>
     <message>
-        <source>give its value alone, such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <source>give only its value, such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
         <translation>geben Sie nur ihren Wert an, etwa „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has no colour without the page where it stands</source>
-        <translation>„%1“ hat ohne die Seite, in der es steht, keine Farbe</translation>
+        <source>The colour of &quot;%1&quot; depends on the page that uses it</source>
+        <translation>Die Farbe von „%1“ hängt von der Seite ab, die sie verwendet</translation>
     </message>
     <message>
-        <source>write a fixed one such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
-        <translation>schreiben Sie eine feste wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
+        <source>write a fixed colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>schreiben Sie eine feste Farbe wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
     </message>
     <message>
-        <source>Nothing may stand between &quot;%1&quot; and its parenthesis</source>
-        <translation>Zwischen „%1“ und seiner Klammer darf nichts stehen</translation>
+        <source>&quot;%1&quot; must be directly followed by its parenthesis</source>
+        <translation>Auf „%1“ muss unmittelbar die Klammer folgen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour name of CSS</source>
-        <translation>„%1“ ist kein Farbname von CSS</translation>
+        <source>&quot;%1&quot; is not a CSS colour name</source>
+        <translation>„%1“ ist kein CSS-Farbname</translation>
     </message>
     <message>
         <source>write a colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
         <translation>schreiben Sie eine Farbe wie „#ff8000“, „rgb(255 128 0)“ oder „orange“</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour function that can be read</source>
-        <translation>„%1“ ist keine lesbare Farbfunktion</translation>
+        <source>&quot;%1&quot; is not a supported colour function</source>
+        <translation>„%1“ ist keine unterstützte Farbfunktion</translation>
     </message>
     <message>
-        <source>rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() and color() are</source>
-        <translation>lesbar sind rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() und color()</translation>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
+        <translation>verwenden Sie rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() oder color()</translation>
     </message>
     <message>
-        <source>A colour relative to another, with &quot;from&quot;, cannot be read</source>
-        <translation>Eine Farbe relativ zu einer anderen, mit „from“, ist nicht lesbar</translation>
+        <source>Relative colours, with &quot;from&quot;, are not supported</source>
+        <translation>Relative Farben, mit „from“, werden nicht unterstützt</translation>
     </message>
     <message>
-        <source>write its values, as in &quot;%1&quot;</source>
-        <translation>schreiben Sie ihre Werte wie in „%1“</translation>
+        <source>write the values themselves, as in &quot;%1&quot;</source>
+        <translation>schreiben Sie die Werte selbst wie in „%1“</translation>
     </message>
     <message>
         <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
         <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 oder xyz-d65</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no colour space of color()</source>
+        <source>&quot;%1&quot; is not a colour space of color()</source>
         <translation>„%1“ ist kein Farbraum von color()</translation>
     </message>
     <message>
@@ -286,35 +286,35 @@
         <translation>schreiben Sie %1</translation>
     </message>
     <message>
-        <source>color() begins with a colour space: %1</source>
-        <translation>color() beginnt mit einem Farbraum: %1</translation>
+        <source>color() must begin with a colour space: %1</source>
+        <translation>color() muss mit einem Farbraum beginnen: %1</translation>
     </message>
     <message>
-        <source>%1 has no commas between its values</source>
-        <translation>%1 hat keine Kommas zwischen den Werten</translation>
+        <source>%1 does not take commas between its values</source>
+        <translation>%1 darf keine Kommas zwischen den Werten haben</translation>
     </message>
     <message>
-        <source>The hue of %1 is %2, not &quot;%3&quot;</source>
-        <translation>Der Farbton von %1 ist %2, nicht „%3“</translation>
+        <source>The hue of %1 must be %2, not &quot;%3&quot;</source>
+        <translation>Der Farbton von %1 muss %2 sein, nicht „%3“</translation>
     </message>
     <message>
-        <source>The %1 of %2 is %3, not &quot;%4&quot;</source>
-        <translation>Der Wert für %1 von %2 ist %3, nicht „%4“</translation>
+        <source>The %1 of %2 must be %3, not &quot;%4&quot;</source>
+        <translation>Der Wert für %1 von %2 muss %3 sein, nicht „%4“</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no angle</source>
+        <source>&quot;%1&quot; is not an angle</source>
         <translation>„%1“ ist kein Winkel</translation>
     </message>
     <message>
-        <source>the units of angles are deg, grad, rad and turn</source>
-        <translation>die Einheiten von Winkeln sind deg, grad, rad und turn</translation>
+        <source>use the unit deg, grad, rad or turn</source>
+        <translation>verwenden Sie die Einheit deg, grad, rad oder turn</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read inside a colour</source>
-        <translation>„%1“ ist innerhalb einer Farbe nicht lesbar</translation>
+        <source>&quot;%1&quot; is not supported inside a colour</source>
+        <translation>„%1“ wird innerhalb einer Farbe nicht unterstützt</translation>
     </message>
     <message>
-        <source>write the number that it results in</source>
+        <source>write the resulting number</source>
         <translation>schreiben Sie die Zahl, die sich daraus ergibt</translation>
     </message>
     <message>
@@ -334,52 +334,52 @@
         <translation>Vor „%3“ fehlt der Wert für %1 von %2</translation>
     </message>
     <message>
-        <source>write %1 there</source>
+        <source>insert %1</source>
         <translation>dorthin gehört %1</translation>
     </message>
     <message>
-        <source>In %1 the alpha follows a &quot;/&quot;</source>
-        <translation>In %1 folgt die Deckkraft auf ein „/“</translation>
+        <source>The alpha of %1 must follow a &quot;/&quot;</source>
+        <translation>Die Deckkraft von %1 muss auf ein „/“ folgen</translation>
     </message>
     <message>
-        <source>In %1 with commas the alpha follows a comma</source>
-        <translation>In %1 mit Kommas folgt die Deckkraft auf ein Komma</translation>
+        <source>With commas, the alpha of %1 must also follow a comma</source>
+        <translation>Mit Kommas muss auch die Deckkraft von %1 auf ein Komma folgen</translation>
     </message>
     <message>
-        <source>&quot;none&quot; does not go with commas</source>
-        <translation>„none“ verträgt sich nicht mit Kommas</translation>
+        <source>&quot;none&quot; cannot be used with commas</source>
+        <translation>„none“ ist zusammen mit Kommas nicht erlaubt</translation>
     </message>
     <message>
-        <source>In %1 &quot;%2&quot; stands where its &quot;)&quot; belongs</source>
-        <translation>In %1 steht „%2“ an der Stelle der „)“</translation>
+        <source>Instead of the &quot;)&quot; of %1 there is &quot;%2&quot;</source>
+        <translation>Anstelle der „)“ von %1 steht „%2“</translation>
     </message>
     <message>
-        <source>With commas the values of %1 are all numbers or all percentages</source>
-        <translation>Mit Kommas sind die Werte von %1 alle Zahlen oder alle Prozentwerte</translation>
+        <source>With commas, the values of %1 must be all numbers or all percentages</source>
+        <translation>Mit Kommas müssen die Werte von %1 alle Zahlen oder alle Prozentwerte sein</translation>
     </message>
     <message>
-        <source>With commas the %1 of %2 is a percentage</source>
-        <translation>Mit Kommas ist der Wert für %1 von %2 ein Prozentwert</translation>
+        <source>With commas, the %1 of %2 must be a percentage</source>
+        <translation>Mit Kommas muss der Wert für %1 von %2 ein Prozentwert sein</translation>
     </message>
     <message>
-        <source>The values of %1 are parted all by commas or all by blanks</source>
-        <translation>Die Werte von %1 sind entweder alle durch Kommas oder alle durch Leerzeichen getrennt</translation>
+        <source>The values of %1 must be separated either by commas or by spaces</source>
+        <translation>Die Werte von %1 müssen entweder durch Kommas oder durch Leerzeichen getrennt sein</translation>
     </message>
     <message>
         <source>write &quot;%1&quot; or &quot;%2&quot;</source>
         <translation>schreiben Sie „%1“ oder „%2“</translation>
     </message>
     <message>
-        <source>%1 has no end</source>
-        <translation>%1 hat kein Ende</translation>
+        <source>%1 is not closed</source>
+        <translation>%1 ist nicht geschlossen</translation>
     </message>
     <message>
-        <source>close it with a &quot;)&quot; after its values</source>
-        <translation>schließen Sie es mit einer „)“ nach den Werten</translation>
+        <source>add a &quot;)&quot; after the values</source>
+        <translation>fügen Sie nach den Werten eine „)“ an</translation>
     </message>
     <message>
-        <source>The comment that begins with &quot;/*&quot; has no end</source>
-        <translation>Der Kommentar, der mit „/*“ beginnt, hat kein Ende</translation>
+        <source>The comment that starts with &quot;/*&quot; is not closed</source>
+        <translation>Der Kommentar, der mit „/*“ beginnt, ist nicht geschlossen</translation>
     </message>
     <message>
         <source>close it with &quot;*/&quot;</source>

@@ -24,18 +24,18 @@ QTXCodeSnippet requiredSnippet(const QTXHexSettings& settings, const std::string
                      [&](const QTXCodeSnippet& snippet) { return snippet.nameSnippet() == name; });
     if (found == snippets.end()) {
         throw Failure{{phrase("there is no snippet \"%1\"", excerpt(utf8Name)),
-                       phrase("\"vantorel snippets\" tells which there are")}};
+                       phrase("run \"vantorel snippets\" to list them")}};
     }
     return *found;
 }
 
-/// Colour texts may be names of the naming list.
+/// Reads colour texts, which may be names of the naming list.
 ColorTextReader readerWithNamesOf(Session& session, const CommandLine& commandLine)
 {
     return ColorTextReader([&] { return session.namingList(commandLine); });
 }
 
-/// Makes the namer when the first colour is to be named: a stream may not need one.
+/// Creates the namer when the first colour is named, because a stream may not need one.
 class LazyNamer {
 public:
     LazyNamer(Session& session, const CommandLine& commandLine)
@@ -75,7 +75,7 @@ public:
         } else {
             _form.snippets = settings.codeSnippets();
         }
-        // A list that is not there is told before anything is written.
+        // Report a missing list before anything is written.
         if (commandLine.listName) _form.namer = _namer.get();
     }
 
@@ -147,7 +147,8 @@ ByteColor requiredColor(ColorTextReader& reader, const std::string& text)
     return *color;
 }
 
-/// A ratio that only rounds to a limit does not reach it, so it is cut.
+/// Formats a ratio with two decimals, truncated, because a ratio that only rounds to a limit does
+/// not reach it.
 std::string ratioText(double ratio)
 {
     const auto hundredths = static_cast<int>(std::floor(ratio * 100 + 1e-9));
@@ -171,7 +172,7 @@ int nameColors(Session& session, const CommandLine& commandLine)
     if (!list) {
         throw Failure{
             {phrase("there is no colour list to name colours by"),
-             phrase("\"--list NAME\" gives one; \"vantorel lists\" tells which there are")}};
+             phrase("choose one with \"--list NAME\"; run \"vantorel lists\" to list them")}};
     }
     ColorTextReader reader([&] { return list; });
     const ColorNamer namer(list);
@@ -241,7 +242,7 @@ int pickColor(Session&, const CommandLine& commandLine)
 int chooseColor(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.operands.empty()) becomePanel({"--choose"});
-    // The name of a colour list's entry means nothing to the panel.
+    // Passed as a hex code, because the panel does not know the names of colour lists.
     ColorTextReader reader = readerWithNamesOf(session, commandLine);
     const ByteColor color = requiredColor(reader, commandLine.operands.front());
     becomePanel({"--choose", "--color",

@@ -12,8 +12,8 @@
 namespace vantorel {
 namespace {
 
-/// Tells on standard error how far a long stream has come. A terminal that gets the output anyway
-/// needs no more than that.
+/// Shows the progress of a long stream on standard error, unless the terminal already shows the
+/// output itself.
 class Progress {
 public:
     Progress()
@@ -34,7 +34,7 @@ public:
         print("\r" + std::to_string(lines) + " lines");
         _hasPrinted = true;
     }
-    /// Before anything else is written there.
+    /// Removes the progress line. Call this before anything else is written to the terminal.
     void clear()
     {
         if (_hasPrinted) print("\r\x1b[K");
@@ -52,30 +52,30 @@ private:
     std::chrono::steady_clock::time_point _last = std::chrono::steady_clock::now();
 };
 
-/// Messages about lines; a file that is no text can have millions of them.
-class LineComplaints {
+/// Reports errors in lines. Their number is limited, because a binary file can have millions.
+class LineErrors {
 public:
-    LineComplaints(Progress& progress, Output& output) : _progress(progress), _output(output) {}
+    LineErrors(Progress& progress, Output& output) : _progress(progress), _output(output) {}
 
     void add(std::uint64_t number, const Message& message)
     {
-        constexpr std::uint64_t mostTold = 100;
-        if (++_count > mostTold) {
-            ++_untold;
+        constexpr std::uint64_t mostReported = 100;
+        if (++_count > mostReported) {
+            ++_unreported;
             return;
         }
-        // In the order of the lines, where both can be seen.
+        // Flushed, so that messages and output appear in the order of the lines.
         _output.flush();
         _progress.clear();
-        complain({phrase("standard input, line %1: %2", number, message.what), message.remedy});
+        reportError({phrase("standard input, line %1: %2", number, message.what), message.remedy});
     }
     void finish()
     {
-        if (_untold == 0) return;
+        if (_unreported == 0) return;
         _output.flush();
         _progress.clear();
-        complain({phrase("standard input has %1 more lines that are no colours", _untold),
-                  phrase("give one colour a line")});
+        reportError({phrase("standard input has %1 more lines that are not colours", _unreported),
+                     phrase("give one colour per line")});
     }
     [[nodiscard]] bool isEmpty() const { return _count == 0; }
 
@@ -83,16 +83,16 @@ private:
     Progress& _progress;
     Output& _output;
     std::uint64_t _count = 0;
-    std::uint64_t _untold = 0;
+    std::uint64_t _unreported = 0;
 };
 
 bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& output)
 {
     LineReader lines(STDIN_FILENO);
     Progress progress;
-    LineComplaints complaints(progress, output);
+    LineErrors errors(progress, output);
     const auto beforeReading = [&] {
-        // What the next read waits for may depend on what has been written.
+        // Whoever writes the next line may be waiting for the output of the previous one.
         output.flush();
         progress.update(lines.number());
     };
@@ -107,22 +107,22 @@ bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& ou
                     if (color) {
                         writer.write(output, *color, true);
                     } else {
-                        complaints.add(lines.number(), color.error());
+                        errors.add(lines.number(), color.error());
                     }
                 }
                 break;
             case LineReader::Result::tooLong:
-                complaints.add(lines.number(), {phrase("the line is longer than 64 KiB"),
-                                                phrase("give one colour a line")});
+                errors.add(lines.number(), {phrase("the line is longer than 64 KiB"),
+                                            phrase("give one colour per line")});
                 break;
             case LineReader::Result::end:
-                complaints.finish();
-                return complaints.isEmpty();
+                errors.finish();
+                return errors.isEmpty();
             case LineReader::Result::failed:
                 output.flush();
-                throw Failure{
-                    {phrase("standard input cannot be read"),
-                     phrase("give colours as arguments, or a file or program to read from")}};
+                throw Failure{{phrase("standard input cannot be read"),
+                               phrase("give colours as arguments, or redirect standard input from "
+                                      "a file or program")}};
         }
     }
 }
@@ -145,9 +145,9 @@ bool writeColors(const std::vector<std::string>& arguments, ColorTextReader& rea
             continue;
         }
         areAllColors = false;
-        // So that the message stands where the colour would.
+        // Flushed, so that the message appears in place of the colour.
         output.flush();
-        complain(color.error());
+        reportError(color.error());
     }
     return areAllColors;
 }

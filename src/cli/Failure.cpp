@@ -6,10 +6,10 @@
 
 namespace vantorel {
 
-void complain(const Message& message)
+void reportError(const Message& message)
 {
     const std::string line = "vantorel: " + english(message, ": ") + '\n';
-    // If standard error is closed there is no way to report it.
+    // If standard error is closed, there is no way to report it.
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line.data(), line.size());
 }
 

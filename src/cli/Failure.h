@@ -4,18 +4,18 @@
 
 namespace vantorel {
 
-/// The exit status of whatever goes wrong. A user who chooses nothing is no error, and has the 1.
+/// The exit status of all errors. Status 1 means that the user cancelled.
 inline constexpr int failureStatus = 2;
 
-/// Ends a command with a message.
+/// Thrown to end a command with an error message.
 struct Failure {
     Message message;
 };
 
-/// Ends a command that has nobody left to say anything to.
+/// Thrown to end a command without a message, because the reader of its output has gone.
 struct SilentFailure {};
 
 /// Writes "vantorel: WHAT: REMEDY" to standard error.
-void complain(const Message& message);
+void reportError(const Message& message);
 
 }  // namespace vantorel

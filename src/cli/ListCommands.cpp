@@ -38,8 +38,8 @@ HostSize pictureSize(const CommandLine& commandLine)
         return length && *length >= smallestPicture && *length <= largestPicture;
     };
     if (!fits(width) || !fits(height)) {
-        throw Failure{{phrase("--size is \"%1\"", excerpt(text)),
-                       phrase("it can be from 8x8 to 16384x16384, such as 640x480")}};
+        throw Failure{{phrase("--size cannot be \"%1\"", excerpt(text)),
+                       phrase("use a size from 8x8 to 16384x16384, such as 640x480")}};
     }
     return {static_cast<double>(*width), static_cast<double>(*height)};
 }
@@ -50,23 +50,24 @@ int ringCount(Session& session, const CommandLine& commandLine)
     const auto rings = wholeNumber<int>(*commandLine.rings);
     if (!rings || drawnRingCount(*rings) != *rings) {
         throw Failure{
-            {phrase("--rings is \"%1\"", excerpt(*commandLine.rings)),
-             phrase("it can be a whole number from %1 to %2", fewestDrawnRings, mostDrawnRings)}};
+            {phrase("--rings cannot be \"%1\"", excerpt(*commandLine.rings)),
+             phrase("use a whole number from %1 to %2", fewestDrawnRings, mostDrawnRings)}};
     }
     return *rings;
 }
 
-/// A terminal that is sent such bytes may do anything.
+/// Throws a `Failure` instead of sending binary data to a terminal, which could interpret them as
+/// commands.
 void refuseBytesOnTerminal(const std::string& path)
 {
     if (path != "-" || !isTerminal(STDOUT_FILENO)) return;
-    throw Failure{{phrase("the bytes of this format are nothing for a terminal"),
-                   phrase("name a file, or send them into one")}};
+    throw Failure{{phrase("this format is binary and is not written to a terminal"),
+                   phrase("give a file, or redirect the output")}};
 }
 
 bool haveSameColors(const HostColorList& left, const HostColorList& right)
 {
-    // As files hold them.
+    // Compared as exported, because files store colours with 8 bits per channel.
     return plainText(left) == plainText(right);
 }
 
@@ -78,13 +79,13 @@ std::shared_ptr<HostColorList> renamed(const HostColorList& list, const std::u16
     return result;
 }
 
-/// Saves the list of one file, or says why not.
+/// Imports the list of one file. Throws a `Failure` if that is not possible.
 void importList(Session& session, const CommandLine& commandLine, const std::string& path)
 {
     const auto bytes = session.files().contentsAtPath(path);
     if (!bytes) {
         throw Failure{{phrase("\"%1\" cannot be read", excerpt(path)),
-                       phrase("name a file of at most 64 MiB that may be read")}};
+                       phrase("check that it is a readable file of at most 64 MiB")}};
     }
     const Result<ListFile> file = readColorList(*bytes, path);
     if (!file) {
@@ -95,36 +96,37 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
     if (commandLine.newName) list = renamed(*list, utf16FromUtf8(*commandLine.newName));
     const std::string name = utf8Line(list->name());
 
-    // Only what would be replaced counts: lists of other programs have places of their own.
+    // Only the user's own lists can be replaced. Lists of other programs stay in their own files.
     PaletteFileStore store(session.files());
     const bool isOwn = store.pathOfOwnList(list->name()).has_value();
     const auto known = isOwn ? store.colorListNamed(list->name()) : nullptr;
     const std::string count = std::to_string(list->allKeys().size()) + " colours";
     if (known && haveSameColors(*known, *list)) {
-        session.output().write("\"" + name + "\" is there already: " + count + "\n");
+        session.output().write("\"" + name + "\" already exists: " + count + "\n");
         return;
     }
     if (isOwn && !commandLine.yes) {
         if (!canAsk()) {
             throw Failure{
-                {phrase("a list \"%1\" with other colours is there", excerpt(name)),
-                 phrase("\"--yes\" replaces it, \"--name NAME\" gives the new one another name")}};
+                {phrase("a list \"%1\" with different colours already exists", excerpt(name)),
+                 phrase("use \"--yes\" to replace it, or \"--name NAME\" to choose another name")}};
         }
         session.output().flush();
         if (!confirms("Replace the list \"" + name + "\"?")) {
-            throw Failure{{phrase("\"%1\" is not imported", excerpt(path)),
-                           phrase("\"--name NAME\" gives it another name")}};
+            throw Failure{{phrase("\"%1\" was not imported", excerpt(path)),
+                           phrase("use \"--name NAME\" to choose another name")}};
         }
     }
     if (!store.writeColorList(list)) {
         throw Failure{{phrase("the list \"%1\" cannot be saved", excerpt(name)),
-                       phrase("the folder of your data must be there and may be written to")}};
+                       phrase("check that you can write to your data folder")}};
     }
     session.output().write("\"" + name + "\": " + count + " from " + harmlessLine(path) + "\n");
     if (file->skipped > 0) {
         session.output().flush();
-        complain({phrase("\"%1\": %2 lines or entries were left out", excerpt(path), file->skipped),
-                  phrase("each holds one colour")});
+        reportError(
+            {phrase("\"%1\": %2 lines or entries were skipped", excerpt(path), file->skipped),
+             phrase("each must contain one colour")});
     }
 }
 
@@ -134,7 +136,7 @@ int printLists(Session& session, const CommandLine& commandLine)
 {
     for (const std::u16string& name : session.lists().names()) {
         const auto list = session.lists().listNamed(name);
-        // Gone since the look at the folder.
+        // The list has been removed since the folder was read.
         if (!list) continue;
         const auto path = session.lists().pathOfList(name);
         const std::string count = std::to_string(list->allKeys().size());
@@ -165,8 +167,9 @@ int printList(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.operands.empty()) {
         throw Failure{
-            {phrase("there is no NAME"), phrase("\"vantorel lists\" tells the lists, \"vantorel "
-                                                "list --help\" what can be done with one")}};
+            {phrase("NAME is missing"),
+             phrase("run \"vantorel lists\" to list the names, or \"vantorel list --help\" for the "
+                    "commands")}};
     }
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.json) {
@@ -187,7 +190,7 @@ int importLists(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.newName && commandLine.operands.size() > 1) {
         throw Failure{{phrase("--name is given for %1 files", commandLine.operands.size()),
-                       phrase("it goes with one FILE")}};
+                       phrase("use it with a single FILE")}};
     }
     if (commandLine.newName && commandLine.newName->empty())
         throw Failure{{phrase("--name is empty"), phrase("give the list a name")}};
@@ -196,9 +199,9 @@ int importLists(Session& session, const CommandLine& commandLine)
         try {
             importList(session, commandLine, absolutePath(file));
         } catch (const Failure& failure) {
-            // The files do not depend on each other.
+            // Continue with the next file.
             session.output().flush();
-            complain(failure.message);
+            reportError(failure.message);
             status = failureStatus;
         }
     }
@@ -225,8 +228,7 @@ int drawWheel(Session& session, const CommandLine& commandLine)
 int drawPalette(Session& session, const CommandLine& commandLine)
 {
     if (!commandLine.svg && !commandLine.png)
-        throw Failure{
-            {phrase("there is no file to write"), phrase("give --svg FILE or --png FILE")}};
+        throw Failure{{phrase("no output file is given"), phrase("give --svg FILE or --png FILE")}};
     const HostSize size = pictureSize(commandLine);
     const auto list = session.lists().requiredList(commandLine.operands.front());
     if (commandLine.svg) {
@@ -236,8 +238,7 @@ int drawPalette(Session& session, const CommandLine& commandLine)
     refuseBytesOnTerminal(*commandLine.png);
     const std::string png = palettePng(*list, size);
     if (png.empty())
-        throw Failure{
-            {phrase("the picture cannot be made"), phrase("a smaller --size needs less room")}};
+        throw Failure{{phrase("the picture cannot be drawn"), phrase("try a smaller --size")}};
     writeFile(session.output(), *commandLine.png, png);
     return 0;
 }

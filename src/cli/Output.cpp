@@ -27,13 +27,13 @@ bool writeAll(int descriptor, std::string_view bytes)
     return true;
 }
 
-/// For pipes and devices, which cannot be replaced.
+/// Writes into an existing pipe or device, which cannot be replaced by a new file.
 bool writeInto(const std::string& path, std::string_view bytes)
 {
     const int file = uninterrupted([&] { return ::open(path.c_str(), O_WRONLY | O_CLOEXEC); });
     if (file < 0) return false;
     const bool written = writeAll(file, bytes);
-    // Interrupted, it is closed all the same.
+    // Not repeated if interrupted: the descriptor is closed even then.
     return (::close(file) == 0 || errno == EINTR) && written;
 }
 
@@ -57,12 +57,12 @@ void Output::flush()
     if (writeAll(STDOUT_FILENO, bytes)) return;
     if (errno == EPIPE) throw SilentFailure{};
     throw Failure{{phrase("standard output cannot be written (%1)", std::strerror(errno)),
-                   phrase("give it a file with room or a program that reads")}};
+                   phrase("redirect it to a file with free space, or to a program that reads it")}};
 }
 
 void occupyClosedStreams()
 {
-    // Each is opened the wrong way round.
+    // Opened in the wrong direction, so that reading or writing fails.
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (::fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
         [[maybe_unused]] const int taken =
@@ -95,7 +95,7 @@ void writeFile(Output& output, const std::string& path, std::string_view bytes)
     }
     if (!written) {
         throw Failure{{phrase("\"%1\" cannot be written", excerpt(path)),
-                       phrase("name a file in a folder that exists and may be written to")}};
+                       phrase("check that its folder exists and that you can write to it")}};
     }
 }
 

@@ -33,7 +33,7 @@ std::string folderOfThisProgram()
     return path.substr(0, path.rfind('/'));
 }
 
-/// Empty where there is none.
+/// Returns the path of the panel's program; empty if it was not found.
 std::string pathOfPanel()
 {
     std::vector<std::string> folders;
@@ -43,7 +43,7 @@ std::string pathOfPanel()
     while (!path.empty()) {
         const std::string_view folder = path.substr(0, path.find(':'));
         path.remove_prefix(std::min(folder.size() + 1, path.size()));
-        // An empty place means the working directory, from which nobody wants to start programs.
+        // An empty entry means the working directory, which is an unexpected place for programs.
         if (!folder.empty()) folders.emplace_back(folder);
     }
     for (const std::string& folder : folders) {
@@ -71,7 +71,7 @@ void becomePanel(const std::vector<std::string>& arguments)
     pointers.push_back(nullptr);
     ::execv(path.c_str(), pointers.data());
     throw Failure{{phrase("\"%1\" cannot be run (%2)", excerpt(path), std::strerror(errno)),
-                   phrase("install vantorel-panel anew")}};
+                   phrase("reinstall vantorel-panel")}};
 }
 
 }  // namespace vantorel

@@ -8,60 +8,60 @@
 namespace vantorel {
 namespace {
 
-void tell(Session& session, const std::string& what, const std::string& path)
+void printResult(Session& session, const std::string& what, const std::string& path)
 {
     session.output().write(what + ": " + harmlessLine(path) + '\n');
 }
 
-/// What stands on standard output so far comes before a message.
-void complainInOrder(Session& session, const Message& message)
+/// Reports an error after the output that precedes it.
+void reportErrorInOrder(Session& session, const Message& message)
 {
     session.output().flush();
-    complain(message);
+    reportError(message);
 }
 
-int takeListBack(Session& session, const std::u16string& name)
+int undoListPublish(Session& session, const std::u16string& name)
 {
     PublishRecords records(session.files(), name);
     if (!records.isReadable()) {
-        throw Failure{{phrase("the record of what was published cannot be read"),
-                       phrase("the folder of your data may be read by you")}};
+        throw Failure{{phrase("the record of published files cannot be read"),
+                       phrase("check that you can read your data folder")}};
     }
     const auto latest = records.latest();
     if (!latest) {
         throw Failure{
             {phrase("the list \"%1\" has not been published", excerpt(utf8FromUtf16(name))),
-             phrase("only what \"list publish\" has written can be taken back")}};
+             phrase("only lists published with \"vantorel list publish\" can be undone")}};
     }
     PublishRecords::Publish left;
     for (const PublishedFile& file : *latest) {
-        switch (takeBack(session.files(), file)) {
-            case TakenBack::restored:
-                tell(session, "restored", file.path);
+        switch (undoPublish(session.files(), file)) {
+            case UndoResult::restored:
+                printResult(session, "restored", file.path);
                 break;
-            case TakenBack::removed:
-                tell(session, "removed", file.path);
+            case UndoResult::removed:
+                printResult(session, "removed", file.path);
                 break;
-            case TakenBack::nothingToDo:
-                tell(session, "already as it was", file.path);
+            case UndoResult::nothingToDo:
+                printResult(session, "already undone", file.path);
                 break;
-            case TakenBack::changedSince:
-                complainInOrder(
+            case UndoResult::changedSince:
+                reportErrorInOrder(
                     session,
-                    {phrase("\"%1\" has been changed since", excerpt(file.path)),
-                     phrase("what is there stays; remove it yourself if it is not needed")});
+                    {phrase("\"%1\" has changed since it was published", excerpt(file.path)),
+                     phrase("it is kept; remove it yourself if you do not need it")});
                 left.push_back(file);
                 break;
-            case TakenBack::failed:
-                complainInOrder(session, {phrase("\"%1\" cannot be written", excerpt(file.path)),
-                                          phrase("its folder may be written to by you")});
+            case UndoResult::failed:
+                reportErrorInOrder(session, {phrase("\"%1\" cannot be written", excerpt(file.path)),
+                                             phrase("check that you can write to its folder")});
                 left.push_back(file);
                 break;
         }
     }
     if (!records.replaceLatest(left)) {
-        complainInOrder(session, {phrase("the record of what was published cannot be written"),
-                                  phrase("the folder of your data may be written to by you")});
+        reportErrorInOrder(session, {phrase("the record of published files cannot be written"),
+                                     phrase("check that you can write to your data folder")});
         return failureStatus;
     }
     return left.empty() ? 0 : failureStatus;
@@ -77,42 +77,44 @@ std::string describe(const PublishPlan::Target& target)
 int publishList(Session& session, const CommandLine& commandLine)
 {
     const std::string& utf8Name = commandLine.operands.front();
-    // A list that has gone can be taken back, too.
-    if (commandLine.undo) return takeListBack(session, utf16FromUtf8(utf8Name));
+    // The list itself need not exist any more.
+    if (commandLine.undo) return undoListPublish(session, utf16FromUtf8(utf8Name));
 
     const auto list = session.lists().requiredList(utf8Name);
     const PublishPlan plan = planPublish(session.files(), *list);
     if (plan.targets.empty()) {
-        throw Failure{{phrase("no graphics program has a folder for palettes of yours"),
-                       phrase("start GIMP, Inkscape or Krita once, which makes theirs")}};
+        throw Failure{{phrase("no graphics program has a folder for your palettes"),
+                       phrase("start GIMP, Inkscape or Krita once to create it")}};
     }
     int status = 0;
     PublishRecords::Publish publish;
     for (const PublishPlan::Target& target : plan.targets) {
         if (target.isAsWanted) {
-            tell(session, "already there", target.file.path);
+            printResult(session, "up to date", target.file.path);
         } else if (target.isBlocked) {
-            complainInOrder(session,
-                            {phrase("\"%1\" cannot be replaced", excerpt(target.file.path)),
-                             phrase("a file that may be read, or nothing, stands there")});
+            reportErrorInOrder(session,
+                               {phrase("\"%1\" cannot be replaced", excerpt(target.file.path)),
+                                phrase("remove it, or make it a readable file")});
             status = failureStatus;
         } else if (target.file.before && !commandLine.yes && !canAsk()) {
-            complainInOrder(session,
-                            {phrase("\"%1\" is there and differs", excerpt(target.file.path)),
-                             phrase("\"--yes\" replaces it")});
+            reportErrorInOrder(session, {phrase("\"%1\" already exists with different contents",
+                                                excerpt(target.file.path)),
+                                         phrase("use \"--yes\" to replace it")});
             status = failureStatus;
         } else {
             session.output().flush();
             if (target.file.before && !commandLine.yes &&
-                !confirms("Replace \"" + excerpt(target.file.path) + "\", which differs?")) {
-                tell(session, "left as it is", target.file.path);
+                !confirms("Replace \"" + excerpt(target.file.path) +
+                          "\", which has different contents?")) {
+                printResult(session, "kept", target.file.path);
                 continue;
             }
-            // The answer can take a while.
+            // The file may have changed while the user was asked.
             if (session.files().contentsAtPath(target.file.path) != target.file.before) {
-                complainInOrder(session,
-                                {phrase("\"%1\" has just been changed", excerpt(target.file.path)),
-                                 phrase("publish once more")});
+                reportErrorInOrder(session,
+                                   {phrase("\"%1\" has just been changed by another program",
+                                           excerpt(target.file.path)),
+                                    phrase("publish again")});
                 status = failureStatus;
                 continue;
             }
@@ -123,8 +125,9 @@ int publishList(Session& session, const CommandLine& commandLine)
 
     PublishRecords records(session.files(), list->name());
     if (!records.add(publish)) {
-        throw Failure{{phrase("what is published cannot be recorded, so nothing was written"),
-                       phrase("the folder of your data may be written to by you")}};
+        throw Failure{
+            {phrase("the record of published files cannot be written, so no file was published"),
+             phrase("check that you can write to your data folder")}};
     }
     PublishRecords::Publish written;
     for (const PublishPlan::Target& target : plan.targets) {
@@ -137,12 +140,13 @@ int publishList(Session& session, const CommandLine& commandLine)
                                    harmlessLine(describe(target)) + '\n');
             written.push_back(target.file);
         } else {
-            complainInOrder(session, {phrase("\"%1\" cannot be written", excerpt(target.file.path)),
-                                      phrase("its folder may be written to by you")});
+            reportErrorInOrder(session,
+                               {phrase("\"%1\" cannot be written", excerpt(target.file.path)),
+                                phrase("check that you can write to its folder")});
             status = failureStatus;
         }
     }
-    // What was not written must not be taken back.
+    // Files that were not written must not be undone.
     if (written.size() < publish.size() && !records.replaceLatest(written)) status = failureStatus;
     return status;
 }

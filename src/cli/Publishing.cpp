@@ -170,19 +170,19 @@ bool PublishRecords::save() const
     return _files.writeAtomically(*_path, utf8FromUtf16(propertyListText(record)));
 }
 
-TakenBack takeBack(HostFiles& files, const PublishedFile& file)
+UndoResult undoPublish(HostFiles& files, const PublishedFile& file)
 {
     if (files.kindAtPath(file.path) == HostFileKind::none) {
-        return file.before ? TakenBack::changedSince : TakenBack::nothingToDo;
+        return file.before ? UndoResult::changedSince : UndoResult::nothingToDo;
     }
     const auto now = files.contentsAtPath(file.path);
-    if (now && now == file.before) return TakenBack::nothingToDo;
-    if (now != file.written) return TakenBack::changedSince;
+    if (now && now == file.before) return UndoResult::nothingToDo;
+    if (now != file.written) return UndoResult::changedSince;
     if (file.before) {
-        return files.writeAtomically(file.path, *file.before) ? TakenBack::restored
-                                                              : TakenBack::failed;
+        return files.writeAtomically(file.path, *file.before) ? UndoResult::restored
+                                                              : UndoResult::failed;
     }
-    return removeFile(file.path) ? TakenBack::removed : TakenBack::failed;
+    return removeFile(file.path) ? UndoResult::removed : UndoResult::failed;
 }
 
 }  // namespace vantorel

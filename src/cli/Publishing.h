@@ -71,7 +71,7 @@ private:
     std::vector<Publish> _publishes;
 };
 
-enum class TakenBack {
+enum class UndoResult {
     restored,
     removed,
     /// The file no longer exists, or has its old contents already.
@@ -82,6 +82,6 @@ enum class TakenBack {
 };
 
 /// Restores a file to its contents before it was published.
-[[nodiscard]] TakenBack takeBack(HostFiles& files, const PublishedFile& file);
+[[nodiscard]] UndoResult undoPublish(HostFiles& files, const PublishedFile& file);
 
 }  // namespace vantorel

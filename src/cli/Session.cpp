@@ -9,10 +9,10 @@ namespace vantorel {
 Session::Session()
 {
     _files.setFailureHandler([this](auto access, const Message& message) {
-        // What is missing of an answer is reported by the command that wanted it.
+        // Read errors are ignored here: the command that needs the file reports it.
         if (access == PosixFiles::Access::reading) return;
         _output.flush();
-        complain(message);
+        reportError(message);
     });
 }
 
@@ -23,7 +23,7 @@ const QTXHexSettings& Session::settings()
         if (hexColorPickerDefaultsFileName(_readOnlyFiles)) {
             readDefaults(_readOnlyFiles, *_settings);
         } else {
-            // As from an empty file: without a home there are snippets, too.
+            // Like an empty file, so that there are snippets even without a home directory.
             _settings->loadPropertyListRepresentation(PropertyList(PropertyList::Dictionary{}));
         }
     }

@@ -16,7 +16,7 @@ bool isBuiltIn(const std::u16string& name)
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Has no lists and saves none, so that built-in lists are built.
+/// A store without lists that saves none, so that the built-in lists are built in memory.
 class EmptyStore final : public HostColorListStore {
 public:
     [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(const std::u16string&) override
@@ -48,8 +48,8 @@ std::shared_ptr<HostColorList> builtInList(const std::u16string& name)
 
 }  // namespace
 
-/// Whether the user's own folder has a list. Other programs' folders are not looked at: a list of
-/// theirs does not take the place of a built-in one.
+/// Whether the user's own folder has a list. Lists of other programs do not count, because they do
+/// not replace built-in ones.
 bool UserLists::isSaved(const std::u16string& name)
 {
     const auto path = _store.pathOfOwnList(name);
@@ -68,7 +68,7 @@ std::shared_ptr<HostColorList> UserLists::requiredList(const std::string& utf8Na
     auto list = listNamed(name);
     if (!list) {
         throw Failure{{phrase("there is no colour list \"%1\"", excerpt(utf8Name)),
-                       phrase("\"vantorel lists\" tells which there are")}};
+                       phrase("run \"vantorel lists\" to list them")}};
     }
     return list;
 }

@@ -65,23 +65,23 @@ int main(int argc, char** argv)
 {
     occupyClosedStreams();
     try {
-        // Its output buffer is nothing for the stack.
+        // On the heap, because its output buffer is large.
         const auto session = std::make_unique<Session>();
         try {
             return runArguments(*session, std::vector<std::string>(argv + (argc > 0), argv + argc));
         } catch (const Failure& failure) {
-            // What was written before it went wrong is not lost.
+            // Keep the output written before the error.
             try {
                 session->output().flush();
             } catch (const Failure&) {
             }
-            complain(failure.message);
+            reportError(failure.message);
             return failureStatus;
         }
     } catch (const SilentFailure&) {
         return failureStatus;
     } catch (const std::bad_alloc&) {
-        complain({phrase("there is not enough memory"), phrase("less at once needs less")});
+        reportError({phrase("out of memory"), phrase("try fewer colours at a time")});
         return failureStatus;
     }
 }

@@ -13,9 +13,9 @@ struct ByteColor {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
-    /// 0..1
+    /// 0..1.
     double alpha = 1;
-    /// Whether the text named a colour outside sRGB, of which this is the nearest colour inside.
+    /// Whether the text denoted a colour outside sRGB, which was replaced by this one inside.
     bool wasOutsideSRGB = false;
 
     [[nodiscard]] QTXHexColorSpec spec() const;

@@ -36,7 +36,7 @@ Result<ByteColor> ColorTextReader::read(std::string_view utf8)
         spec.setWithString(*hex);
         return byteColorOf(spec.colorHexColorSpec());
     }
-    // A name of the list before the triple: a name may hold anything.
+    // Names are looked up before triples, because a name can contain anything.
     if (const auto named = colorInList(name)) return byteColorOf(*named);
     if (const auto triple = readRgbTriple(text); triple.components) {
         const auto& [red, green, blue] = *triple.components;
@@ -46,7 +46,7 @@ Result<ByteColor> ColorTextReader::read(std::string_view utf8)
     return std::move(css).error();
 }
 
-/// By its exact name, else by the first that differs in letter case alone.
+/// Returns the colour with exactly this name, or else the first whose name differs only in case.
 std::optional<HostColor> ColorTextReader::colorInList(const std::u16string& name)
 {
     if (name.empty()) return std::nullopt;

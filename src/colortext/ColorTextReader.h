@@ -14,17 +14,17 @@
 
 namespace vantorel {
 
-/// Reads colours as they are typed: a hex code, any form of CSS, what the picker's fields take, and
-/// names of a colour list.
+/// Reads colours that a user types: hex codes, all forms of CSS, the texts that the picker's fields
+/// accept, and names of a colour list.
 class ColorTextReader {
 public:
     using FindList = std::function<std::shared_ptr<HostColorList>()>;
 
-    /// `findList` gives the list whose names count, or null; it is asked once, and not before a
-    /// text is nothing else.
+    /// `findList` returns the list whose names are accepted, or null. It is called at most once,
+    /// when a text has none of the other forms.
     explicit ColorTextReader(FindList findList) : _findList(std::move(findList)) {}
 
-    /// Texts of any length; takes time in proportion to it.
+    /// Takes linear time for texts of any length.
     [[nodiscard]] Result<ByteColor> read(std::string_view utf8);
 
 private:
@@ -35,8 +35,8 @@ private:
     std::shared_ptr<HostColorList> _list;
 };
 
-/// Reads six or three hex digits behind "#" or without it, as `ColorTextReader` does, but fast.
-/// Nothing for any other text, which may be a colour all the same.
+/// Reads six or three hex digits, with or without "#". The result is that of `ColorTextReader`, but
+/// faster. Returns `std::nullopt` for any other text, even if it is a colour.
 [[nodiscard]] inline std::optional<ByteColor> readPlainHex(std::string_view text)
 {
     if (text.starts_with('#')) text.remove_prefix(1);

@@ -10,7 +10,8 @@ namespace {
 
 constexpr std::string_view versionOption = "--version";
 
-/// Takes argument after argument. The first failure counts, unless help or version is asked for.
+/// Parses the arguments one by one. The first error is returned, unless help or the version is
+/// requested.
 class ArgumentReader {
 public:
     ArgumentReader(const ProgramRow& program, const std::vector<std::string>& arguments)
@@ -43,10 +44,7 @@ private:
     {
         if (!_error) _error = {std::move(what), std::move(remedy)};
     }
-    void fail(Phrase what)
-    {
-        fail(std::move(what), phrase("\"%1 --help\" tells what can be given", _names));
-    }
+    void fail(Phrase what) { fail(std::move(what), phrase("see \"%1 --help\"", _names)); }
 
     void take(const std::string& argument)
     {
@@ -56,20 +54,20 @@ private:
                          [&](const CommandRow& command) { return command.name == argument; });
         if (inner != _command->commands.end()) return enter(*inner);
         if (_command->needsCommand())
-            return fail(phrase("\"%1\" is no command", excerpt(argument)));
+            return fail(phrase("\"%1\" is not a command", excerpt(argument)));
         _given.operands.push_back(argument);
     }
 
     void enter(const CommandRow& inner)
     {
         const std::string names = _names + " " + std::string(inner.name);
-        // What stands between a command and one of its own belongs to neither.
-        const Phrase remedy = phrase("write it behind \"%1\"", names);
+        // Arguments between a command and its subcommand are rejected, because they could be meant
+        // for either.
+        const Phrase remedy = phrase("put it after \"%1\"", names);
         if (!_given.operands.empty())
-            fail(phrase("\"%1\" stands before the command", excerpt(_given.operands.front())),
-                 remedy);
+            fail(phrase("\"%1\" precedes the command", excerpt(_given.operands.front())), remedy);
         if (!_given.options.empty())
-            fail(phrase("%1 stands before the command", std::string(_given.options.front().first)),
+            fail(phrase("%1 precedes the command", std::string(_given.options.front().first)),
                  remedy);
         _command = &inner;
         _names = names;
@@ -87,7 +85,7 @@ private:
         const auto option = std::find_if(_command->options.begin(), _command->options.end(),
                                          [&](const OptionRow& row) { return row.name == name; });
         if (option == _command->options.end())
-            return fail(phrase("\"%1\" does not belong to \"%2\"", excerpt(argument), _names));
+            return fail(phrase("\"%1\" has no option \"%2\"", _names, excerpt(argument)));
         const std::string named(name);
         std::string value;
         if (option->value.empty()) {
@@ -97,7 +95,7 @@ private:
         } else if (_next < _arguments.size()) {
             value = _arguments[_next++];
         } else {
-            return fail(phrase("%1 has no value", named));
+            return fail(phrase("%1 requires a value", named));
         }
         if (!option->value.empty() && !option->isRepeatable && _given.has(name))
             return fail(phrase("%1 is given twice", named));
@@ -110,7 +108,7 @@ private:
             const std::string name(option.name);
             if (option.isRequired && !_given.has(option.name)) fail(phrase("%1 is required", name));
             if (_given.has(option.name) && _given.has(option.excludes))
-                fail(phrase("%1 excludes %2", name, std::string(option.excludes)));
+                fail(phrase("%1 cannot be combined with %2", name, std::string(option.excludes)));
             for (const std::string& value : _given.values(option.name))
                 checkChoice(name, value, option.choices);
         }
@@ -118,14 +116,14 @@ private:
 
     void checkOperands()
     {
-        if (_command->needsCommand()) return fail(phrase("there is no command"));
+        if (_command->needsCommand()) return fail(phrase("the command is missing"));
         std::size_t begin = 0;
         for (const OperandRow& operand : _command->operands) {
             const std::size_t count =
                 std::min(_given.operands.size() - begin,
                          operand.most == 0 ? std::string::npos : operand.most);
             if (count < operand.fewest)
-                return fail(phrase("there is no %1", std::string(operand.value)));
+                return fail(phrase("%1 is missing", std::string(operand.value)));
             for (std::size_t i = begin; i < begin + count; ++i)
                 checkChoice(std::string(operand.value), _given.operands[i], operand.choices);
             begin += count;
@@ -141,13 +139,13 @@ private:
         for (const Choice& choice : choices())
             values.emplace_back(choice.value);
         if (std::find(values.begin(), values.end(), value) == values.end())
-            fail(phrase("%1 is \"%2\"", what, excerpt(value)),
-                 phrase("it can be %1", sentenceOf(values)));
+            fail(phrase("%1 cannot be \"%2\"", what, excerpt(value)),
+                 phrase("use %1", sentenceOf(values)));
     }
 
     const ProgramRow& _program;
     const CommandRow* _command;
-    /// As they were typed: "vantorel list export".
+    /// The names typed so far, such as "vantorel list export".
     std::string _names;
     const std::vector<std::string>& _arguments;
     std::size_t _next = 0;

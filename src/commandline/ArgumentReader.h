@@ -11,31 +11,31 @@
 
 namespace vantorel {
 
-/// What was given on a command line.
+/// The parsed arguments of a command line.
 struct GivenArguments {
-    /// Behind the program's name: "list export"; empty for a program without commands.
+    /// The names after the program's, such as "list export"; empty for a program without commands.
     std::string command;
-    /// In their order.
+    /// The operands, in the order of the command line.
     std::vector<std::string> operands;
-    /// Names of options with their values, in their order. A flag has an empty value.
+    /// The options with their values, in the order of the command line. A flag has an empty value.
     std::vector<std::pair<std::string_view, std::string>> options;
 
     [[nodiscard]] bool has(std::string_view option) const;
-    /// `std::nullopt` for an option that was not given.
+    /// Returns the first value of an option; `std::nullopt` if it was not given.
     [[nodiscard]] std::optional<std::string> value(std::string_view option) const;
     [[nodiscard]] std::vector<std::string> values(std::string_view option) const;
 };
 
-/// Arguments, or a text to print in their place.
+/// The parsed arguments, or a text to print instead of running a command.
 struct ArgumentReading {
     std::optional<GivenArguments> arguments;
-    /// The answer to --help or --version.
+    /// The help text or the version; empty if `arguments` is set.
     std::string text;
 };
 
-/// Reads the arguments that follow a program's name. An option that takes a value takes the next
-/// argument, whatever it is, or what follows a "=". What follows "--" are operands; "-" is one,
-/// too.
+/// Parses the arguments after the program's name. The value of an option is the text after "=", or
+/// the whole next argument, even if that starts with "-". Every argument after "--" is an operand,
+/// and so is "-".
 [[nodiscard]] Result<ArgumentReading> readArguments(const ProgramRow& program,
                                                     const std::vector<std::string>& arguments);
 

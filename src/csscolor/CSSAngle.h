@@ -4,11 +4,11 @@
 #include <numbers>
 #include <string_view>
 
-/// The units of angles, by CSS Values 4.
+/// The units of angles in CSS Values 4.
 namespace vantorel {
 
-/// How many of a unit make a turn; 0 if `unit` is not a unit of an angle. The unit is in lower
-/// case.
+/// Returns the number of units in a full turn, or 0 if `unit` is not a unit of angles. `unit` must
+/// be in lower case.
 [[nodiscard]] inline double unitsPerTurn(std::u16string_view unit)
 {
     if (unit == u"deg") return 360;
@@ -18,8 +18,8 @@ namespace vantorel {
     return 0;
 }
 
-/// The angle in degrees, without whole turns. They are left out in the unit itself, where that
-/// leaves no rounding error.
+/// Converts an angle to degrees and drops whole turns. The turns are dropped before the conversion,
+/// which avoids a rounding error.
 [[nodiscard]] inline double degreesOf(double number, double unitsInTurn)
 {
     return std::fmod(number, unitsInTurn) / unitsInTurn * 360;

@@ -20,7 +20,7 @@ constexpr CSSValueRule lightness(double hundredPercent)
     return {phraseText("lightness"), false, hundredPercent, 0, hundredPercent};
 }
 
-/// A saturation or chroma: never negative.
+/// The rule for a saturation or chroma, which cannot be negative.
 constexpr CSSValueRule strength(PhraseText<> name, double hundredPercent)
 {
     return {name, false, hundredPercent, 0, unlimited};
@@ -33,8 +33,8 @@ constexpr CSSValueRule unbounded(PhraseText<> name, double hundredPercent)
 
 constexpr std::array<CSSValueRule, 3> rgbValues{
     channel(phraseText("red")), channel(phraseText("green")), channel(phraseText("blue"))};
-// A saturation above 100% is not cut when it is read (CSS Color 4, section 7), the lightness is:
-// beyond its ends such a saturation would turn white and black into the opposite colour.
+// A saturation above 100% is not clamped on reading (CSS Color 4, section 7). The lightness is,
+// because beyond its limits such a saturation would turn white and black into the opposite colour.
 constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(phraseText("saturation"), 100),
                                                 lightness(100)};
 constexpr std::array<CSSValueRule, 3> predefinedRGBValues{unbounded(phraseText("red"), 1),
@@ -105,13 +105,13 @@ SRGBResult mapped(const ColorTriple& srgb)
     return {mappedIntoSRGB(srgb), isOutsideSRGB(srgb)};
 }
 
-/// hsl() and hwb() are sRGB by definition: browsers cut their channels and do not map.
+/// Clamps the channels. hsl() and hwb() are sRGB by definition, so browsers do not map them.
 SRGBResult clipped(const ColorTriple& srgb)
 {
     return {clippedToSRGB(srgb), isOutsideSRGB(srgb)};
 }
 
-/// Not by way of sRGB, since that would lose the lightness of giant chromas.
+/// Converts without passing through sRGB, which would lose the lightness of huge chromas.
 SRGBResult mappedOklab(const ColorTriple& oklab)
 {
     const ColorTriple srgb = srgbFromOklab(oklab);

@@ -10,27 +10,28 @@
 
 namespace vantorel {
 
-/// One value of a colour function as it is written.
+/// A value of a colour function, read but not yet converted.
 struct CSSValue {
-    /// In degrees for an angle.
+    /// Angles are in degrees; percentages are converted by `CSSValueRule::hundredPercent`.
     double number = 0;
     bool isPercentage = false;
     bool isNone = false;
 };
 
-/// What CSS Color 4 says of one value of a colour function.
+/// The rule of CSS Color 4 for one value of a colour function.
 struct CSSValueRule {
-    /// For messages.
+    /// The name of the value in messages.
     PhraseText<> name;
-    /// A hue is an angle or a number of degrees; every other value a number or a percentage.
+    /// A hue is an angle or a number of degrees; any other value is a number or a percentage.
     bool isHue;
+    /// The number that 100% stands for.
     double hundredPercent;
-    /// Values beyond these count as the limit.
+    /// Values are clamped to these limits.
     double smallest;
     double largest;
 };
 
-/// Which legacy form with commas a function has.
+/// The legacy form with commas that a function has.
 enum class CSSCommaForm {
     none,
     /// All three values are numbers, or all are percentages.
@@ -44,27 +45,27 @@ struct CSSColorFunction {
     CSSColorForm form;
     CSSCommaForm commaForm;
     std::array<CSSValueRule, 3> values;
-    /// For messages.
+    /// Examples for messages.
     std::u16string_view example;
     std::u16string_view exampleWithCommas;
 };
 
-/// The rule of a function's name in lower case, or null.
+/// Returns the function of a name, which must be in lower case, or null.
 [[nodiscard]] const CSSColorFunction* cssColorFunctionNamed(std::u16string_view name);
 
-/// The values of `color()` in one of its spaces.
+/// Returns the rules for the values of `color()` in a colour space.
 [[nodiscard]] const std::array<CSSValueRule, 3>& cssValueRules(PredefinedColorSpace space);
 
 [[nodiscard]] const CSSValueRule& cssAlphaRule();
 
 struct SRGBResult {
-    /// 0..1 each.
+    /// All components are 0..1.
     ColorTriple srgb;
     bool wasOutside;
 };
 
-/// The colour of a function's values; `space` counts for `color()` alone. The values must be within
-/// their rules.
+/// Converts the values of a function to sRGB. `space` is used only for `color()`. The values must
+/// be within the limits of their rules.
 [[nodiscard]] SRGBResult srgbOfCSSValues(CSSColorForm form, PredefinedColorSpace space,
                                          const ColorTriple& values);
 

@@ -14,7 +14,7 @@
 namespace vantorel {
 namespace {
 
-/// A piece of the text as messages quote it.
+/// Shortens a piece of the text for a message.
 std::u16string quote(std::u16string_view text)
 {
     constexpr std::size_t mostUnits = 24;
@@ -36,7 +36,8 @@ HostColor colorOf(const ColorTriple& srgb, double alpha)
     return HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], alpha);
 }
 
-/// One reading. The functions that return `std::nullopt` or false have set `_error`.
+/// Reads one text. Functions that return `std::nullopt` or false have set `_error`, unless their
+/// comment says otherwise.
 class Reader {
 public:
     explicit Reader(std::u16string_view text) : _text(text), _tokens(text) {}
@@ -83,12 +84,14 @@ private:
     CSSToken _token;
     const CSSColorFunction* _function = nullptr;
     const std::array<CSSValueRule, 3>* _rules = nullptr;
-    /// With its parentheses, e.g. "rgb()".
+    /// The name of `_function` for messages, such as "rgb()".
     std::u16string _functionName;
     Message _error;
 };
 
-/// Before any other form, since digits and "e" would be a number to CSS.
+/// Reads a hex code without "#". Tried before all other forms, because CSS would take some codes
+/// for numbers, such as "1e3". Returns `std::nullopt` without an error if the text has another
+/// form.
 std::optional<CSSColor> Reader::readBareHex()
 {
     if (!_tokens.skipBlanks()) return std::nullopt;
@@ -129,15 +132,15 @@ std::optional<CSSColor> Reader::readColor()
         case CSSTokenKind::unclosedComment:
             return failUnclosedComment();
         case CSSTokenKind::end:
-            return fail(phrase("The text holds no colour"),
+            return fail(phrase("The text contains no colour"),
                         phrase("write one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
         default:
-            return fail(phrase("\"%1\" is no colour", quote(source())),
+            return fail(phrase("\"%1\" is not a colour", quote(source())),
                         phrase("write one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
 }
 
-/// Everything behind the colour.
+/// Reads what may follow the colour: one ";".
 bool Reader::readEnd()
 {
     advance();
@@ -147,7 +150,7 @@ bool Reader::readEnd()
         failUnclosedComment();
     } else {
         fail(phrase("\"%1\" follows the colour", quote(_text.substr(_token.begin))),
-             phrase("give one colour alone"));
+             phrase("give a single colour"));
     }
     return false;
 }
@@ -159,8 +162,8 @@ std::optional<CSSColor> Reader::readHex()
     if (wrong != digits.end()) {
         const auto index = static_cast<std::size_t>(wrong - digits.begin());
         const std::size_t width = (*wrong & 0xFC00) == 0xD800 ? 2 : 1;
-        return fail(phrase("\"%1\" is no hex digit", quote(digits.substr(index, width))),
-                    phrase("after \"#\" come digits from 0 to 9 and letters from a to f"));
+        return fail(phrase("\"%1\" is not a hex digit", quote(digits.substr(index, width))),
+                    phrase("use digits 0 to 9 and letters a to f after the \"#\""));
     }
     const std::size_t count = digits.size();
     if (count != 3 && count != 4 && count != 6 && count != 8) {
@@ -189,19 +192,19 @@ std::optional<CSSColor> Reader::readName()
     advance();
     if (is(CSSTokenKind::colon)) {
         return fail(
-            phrase("The property \"%1\" does not belong to the colour", quote(written)),
-            phrase("give its value alone, such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
+            phrase("\"%1\" is a property, not part of the colour", quote(written)),
+            phrase("give only its value, such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
     if (isContextualCSSColor(name)) {
         return fail(
-            phrase("\"%1\" has no colour without the page where it stands", quote(written)),
-            phrase("write a fixed one such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
+            phrase("The colour of \"%1\" depends on the page that uses it", quote(written)),
+            phrase("write a fixed colour such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
     }
     if (is(CSSTokenKind::openParenthesis) && cssColorFunctionNamed(name) != nullptr) {
-        return fail(phrase("Nothing may stand between \"%1\" and its parenthesis", quote(written)),
+        return fail(phrase("\"%1\" must be directly followed by its parenthesis", quote(written)),
                     writeAs(cssColorFunctionNamed(name)->example));
     }
-    return fail(phrase("\"%1\" is no colour name of CSS", quote(written)),
+    return fail(phrase("\"%1\" is not a CSS colour name", quote(written)),
                 phrase("write a colour such as \"#ff8000\", \"rgb(255 128 0)\" or \"orange\""));
 }
 
@@ -209,16 +212,16 @@ std::optional<CSSColor> Reader::readFunction()
 {
     _function = cssColorFunctionNamed(_token.name);
     if (_function == nullptr) {
-        return fail(phrase("\"%1\" is no colour function that can be read",
+        return fail(phrase("\"%1\" is not a supported colour function",
                            quote(source().substr(0, source().size() - 1))),
-                    phrase("rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() and color() are"));
+                    phrase("use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()"));
     }
     _functionName = std::u16string(_function->name) + u"()";
     _rules = &_function->values;
     advance();
     if (is(CSSTokenKind::name) && _token.name == u"from") {
-        return fail(phrase("A colour relative to another, with \"from\", cannot be read"),
-                    phrase("write its values, as in \"%1\"", _function->example));
+        return fail(phrase("Relative colours, with \"from\", are not supported"),
+                    phrase("write the values themselves, as in \"%1\"", _function->example));
     }
     auto space = PredefinedColorSpace::srgb;
     if (_function->form == CSSColorForm::color) {
@@ -257,21 +260,22 @@ std::optional<PredefinedColorSpace> Reader::readColorSpace()
         "srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, "
         "xyz-d50 or xyz-d65");
     if (is(CSSTokenKind::name))
-        return fail(phrase("\"%1\" is no colour space of color()", quote(source())),
+        return fail(phrase("\"%1\" is not a colour space of color()", quote(source())),
                     phrase("write %1", spaces));
-    return fail(phrase("color() begins with a colour space: %1", spaces));
+    return fail(phrase("color() must begin with a colour space: %1", spaces));
 }
 
-/// What stands before the value of an index of 1 or 2; the first one decides on commas or none.
+/// Reads the separator before the value at `index`, which is 1 or 2. The first separator decides
+/// whether there are commas.
 bool Reader::readSeparator(std::size_t index, bool& commas)
 {
     const bool comma = is(CSSTokenKind::comma);
     if (comma && _function->commaForm == CSSCommaForm::none) {
-        fail(phrase("%1 has no commas between its values", _functionName),
+        fail(phrase("%1 does not take commas between its values", _functionName),
              writeAs(_function->example));
         return false;
     }
-    // At the end of the values their number is what is wrong.
+    // Too few values: `readValue` reports that.
     if (is(CSSTokenKind::closeParenthesis) || is(CSSTokenKind::end)) return true;
     if (index == 1) {
         commas = comma;
@@ -292,34 +296,34 @@ std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t 
             break;
         case CSSTokenKind::percentage:
             if (rule.isHue) {
-                return fail(phrase("The hue of %1 is %2, not \"%3\"", _functionName, kindsOf(rule),
-                                   quote(source())));
+                return fail(phrase("The hue of %1 must be %2, not \"%3\"", _functionName,
+                                   kindsOf(rule), quote(source())));
             }
             value.number = _token.number / 100 * rule.hundredPercent;
             value.isPercentage = true;
             break;
         case CSSTokenKind::dimension:
             if (!rule.isHue) {
-                return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+                return fail(phrase("The %1 of %2 must be %3, not \"%4\"", rule.name, _functionName,
                                    kindsOf(rule), quote(source())));
             }
             if (unitsPerTurn(_token.name) == 0) {
-                return fail(phrase("\"%1\" is no angle", quote(source())),
-                            phrase("the units of angles are deg, grad, rad and turn"));
+                return fail(phrase("\"%1\" is not an angle", quote(source())),
+                            phrase("use the unit deg, grad, rad or turn"));
             }
             value.number = degreesOf(_token.number, unitsPerTurn(_token.name));
             break;
         case CSSTokenKind::name:
             if (_token.name != u"none") {
-                return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+                return fail(phrase("The %1 of %2 must be %3, not \"%4\"", rule.name, _functionName,
                                    kindsOf(rule), quote(source())));
             }
             value.isNone = true;
             break;
         case CSSTokenKind::function:
-            return fail(phrase("\"%1\" cannot be read inside a colour",
+            return fail(phrase("\"%1\" is not supported inside a colour",
                                quote(source().substr(0, source().size() - 1))),
-                        phrase("write the number that it results in"));
+                        phrase("write the resulting number"));
         case CSSTokenKind::closeParenthesis:
             if (valuesBefore == 3) {
                 return fail(phrase("The alpha of %1 is missing", _functionName),
@@ -335,9 +339,9 @@ std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t 
         case CSSTokenKind::slash:
             return fail(phrase("The %1 of %2 is missing before \"%3\"", rule.name, _functionName,
                                quote(source())),
-                        phrase("write %1 there", kindsOf(rule)));
+                        phrase("insert %1", kindsOf(rule)));
         default:
-            return fail(phrase("The %1 of %2 is %3, not \"%4\"", rule.name, _functionName,
+            return fail(phrase("The %1 of %2 must be %3, not \"%4\"", rule.name, _functionName,
                                kindsOf(rule), quote(source())));
     }
     advance();
@@ -345,18 +349,18 @@ std::optional<CSSValue> Reader::readValue(const CSSValueRule& rule, std::size_t 
     return value;
 }
 
-/// The alpha with what parts it from the values; 1 when there is none.
+/// Reads the alpha and the separator before it. Returns 1 if the colour has no alpha.
 std::optional<double> Reader::readAlpha(bool commas)
 {
     const bool comma = is(CSSTokenKind::comma);
     const bool slash = is(CSSTokenKind::slash);
     if (!comma && !slash) return 1;
     if (comma && _function->commaForm == CSSCommaForm::none) {
-        return fail(phrase("In %1 the alpha follows a \"/\"", _functionName),
+        return fail(phrase("The alpha of %1 must follow a \"/\"", _functionName),
                     writeAs(_function->example));
     }
     if (slash && commas) {
-        return fail(phrase("In %1 with commas the alpha follows a comma", _functionName),
+        return fail(phrase("With commas, the alpha of %1 must also follow a comma", _functionName),
                     writeAs(_function->exampleWithCommas));
     }
     if (comma && !commas) return failMixed();
@@ -364,7 +368,7 @@ std::optional<double> Reader::readAlpha(bool commas)
     const auto value = readValue(cssAlphaRule(), 3);
     if (!value) return std::nullopt;
     if (commas && value->isNone) {
-        return fail(phrase("\"none\" does not go with commas"), writeAs(_function->example));
+        return fail(phrase("\"none\" cannot be used with commas"), writeAs(_function->example));
     }
     return value->number;
 }
@@ -381,7 +385,7 @@ bool Reader::readClosing()
             failUnclosedComment();
             return false;
         default:
-            fail(phrase("In %1 \"%2\" stands where its \")\" belongs", _functionName,
+            fail(phrase("Instead of the \")\" of %1 there is \"%2\"", _functionName,
                         quote(source())),
                  writeAs(_function->example));
             return false;
@@ -392,20 +396,20 @@ bool Reader::checkLegacyValues(const std::array<CSSValue, 3>& values)
 {
     const auto isPercentage = [](const CSSValue& value) { return value.isPercentage; };
     if (std::ranges::any_of(values, &CSSValue::isNone)) {
-        fail(phrase("\"none\" does not go with commas"), writeAs(_function->example));
+        fail(phrase("\"none\" cannot be used with commas"), writeAs(_function->example));
         return false;
     }
     if (_function->commaForm == CSSCommaForm::allOfOneKind) {
         const auto percentages = std::ranges::count_if(values, isPercentage);
         if (percentages == 0 || percentages == 3) return true;
-        fail(phrase("With commas the values of %1 are all numbers or all percentages",
+        fail(phrase("With commas, the values of %1 must be all numbers or all percentages",
                     _functionName),
              writeAs(_function->exampleWithCommas));
         return false;
     }
     for (const std::size_t index : {std::size_t{1}, std::size_t{2}}) {
         if (values[index].isPercentage) continue;
-        fail(phrase("With commas the %1 of %2 is a percentage", (*_rules)[index].name,
+        fail(phrase("With commas, the %1 of %2 must be a percentage", (*_rules)[index].name,
                     _functionName),
              writeAs(_function->exampleWithCommas));
         return false;
@@ -415,19 +419,19 @@ bool Reader::checkLegacyValues(const std::array<CSSValue, 3>& values)
 
 std::nullopt_t Reader::failMixed()
 {
-    return fail(phrase("The values of %1 are parted all by commas or all by blanks", _functionName),
-                phrase("write \"%1\" or \"%2\"", _function->example, _function->exampleWithCommas));
+    return fail(
+        phrase("The values of %1 must be separated either by commas or by spaces", _functionName),
+        phrase("write \"%1\" or \"%2\"", _function->example, _function->exampleWithCommas));
 }
 
 std::nullopt_t Reader::failUnclosed()
 {
-    return fail(phrase("%1 has no end", _functionName),
-                phrase("close it with a \")\" after its values"));
+    return fail(phrase("%1 is not closed", _functionName), phrase("add a \")\" after the values"));
 }
 
 std::nullopt_t Reader::failUnclosedComment()
 {
-    return fail(phrase("The comment that begins with \"/*\" has no end"),
+    return fail(phrase("The comment that starts with \"/*\" is not closed"),
                 phrase("close it with \"*/\""));
 }
 

@@ -11,7 +11,7 @@ namespace vantorel {
 enum class CSSColorForm {
     /// "#" and 3, 4, 6 or 8 digits.
     hex,
-    /// 3 or 6 digits without "#", which CSS does not know.
+    /// 3 or 6 digits without "#", which is not a form of CSS.
     bareHex,
     /// A named colour or `transparent`.
     named,
@@ -31,23 +31,24 @@ struct CSSColor {
     /// All four fractions are 0..1.
     HostColor color = HostColor::blackColor();
     CSSColorForm form = CSSColorForm::named;
-    /// The text names a colour outside sRGB, and `color` is what CSS shows in its place: mapped by
-    /// `mappedIntoSRGB`, or with its channels cut for hsl() and hwb(). Numbers that CSS itself cuts
-    /// when it reads them, as in rgb(300 0 0), do not count.
+    /// Whether the text denotes a colour outside sRGB. `color` is then what CSS shows instead: the
+    /// result of `mappedIntoSRGB`, or clamped channels for hsl() and hwb(). Numbers that CSS clamps
+    /// on reading, as in rgb(300 0 0), do not count.
     bool wasOutsideSRGB = false;
 };
 
-/// Reads a text that is one colour of CSS Color 4, in any of its forms and with its rules for
-/// values out of range. Numbers of any size are taken; `none` counts as zero.
+/// Reads a colour in any form of CSS Color 4. Values out of range are treated as CSS prescribes.
+/// Numbers can have any size; `none` counts as zero.
 ///
-/// More than CSS takes: 3 or 6 hex digits without "#", one ";" at the end, and around it all a
-/// byte-order mark, no-break spaces, and NULs at the end, with which some programs end a dropped
-/// text. Less: a parenthesis or a comment must be closed, and what needs a page or a calculation
-/// has no colour here (`currentcolor`, system colours, calc(), var(), relative colours).
+/// Also accepts texts that CSS does not: 3 or 6 hex digits without "#", a ";" after the colour,
+/// byte-order marks and no-break spaces around it, and NULs at the end, which some programs append
+/// to a dropped text. Rejects some that CSS accepts: unclosed parentheses and comments, and colours
+/// that depend on a page or a calculation (`currentcolor`, system colours, calc(), var(), relative
+/// colours).
 ///
-/// Takes time in proportion to the text's length.
+/// Takes linear time.
 [[nodiscard]] Result<CSSColor> readCSSColor(std::u16string_view text);
-/// The same from UTF-8, well formed or not.
+/// Like the overload above, for UTF-8, which may be ill-formed.
 [[nodiscard]] Result<CSSColor> readCSSColor(std::string_view utf8);
 
 }  // namespace vantorel

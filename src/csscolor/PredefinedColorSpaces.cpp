@@ -17,7 +17,7 @@ constexpr ColorMatrix linearA98RGBToXYZ{{
     {591459.0 / 1989134, 6239551.0 / 9945670,  374412.0 / 4972835},
     { 53769.0 / 1989134,  351524.0 / 4972835, 4929758.0 / 4972835},
 }};
-/// To XYZ relative to D50, the white of this space.
+/// Converts to XYZ relative to D50, the white point of this space.
 constexpr ColorMatrix linearProPhotoRGBToXYZD50{{
     {0.79776664490064230, 0.13518129740053308, 0.03134773412839220},
     {0.28807482881940130, 0.71183523424187300, 0.00008993693872564},
@@ -39,20 +39,20 @@ ColorTriple mirrored(const ColorTriple& values, Function decode)
     return result;
 }
 
-/// CSS Color 4, the a98-rgb keyword.
+/// The transfer function of a98-rgb (CSS Color 4).
 double linearFromA98RGB(double encoded)
 {
     return std::pow(encoded, 563.0 / 256);
 }
 
-/// CSS Color 4, the prophoto-rgb keyword.
+/// The transfer function of prophoto-rgb (CSS Color 4).
 double linearFromProPhotoRGB(double encoded)
 {
     return encoded <= 16.0 / 512 ? encoded / 16 : std::pow(encoded, 1.8);
 }
 
-/// CSS Color 4, the rec2020 keyword. This is the curve of a display (BT.1886), not that of a
-/// camera, which early drafts had.
+/// The transfer function of rec2020 (CSS Color 4). This is the curve of a display (BT.1886), not
+/// that of a camera, which early drafts used.
 double linearFromRec2020(double encoded)
 {
     return std::pow(encoded, 2.4);

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-/// What clipboards and files add to a text before and after it.
+/// Characters that clipboards and files add before and after a text.
 namespace vantorel {
 
 [[nodiscard]] inline bool isSurroundingBlank(char16_t c)
@@ -15,8 +15,8 @@ namespace vantorel {
     return isCSSWhiteSpace(c) || c == noBreakSpace || c == byteOrderMark;
 }
 
-/// The text without blanks at its ends. Some programs end a dropped text with a NUL, so NULs at its
-/// end go as well.
+/// Removes leading and trailing blanks. Trailing NULs are removed too, because some programs append
+/// one to a dropped text.
 [[nodiscard]] inline std::u16string_view withoutSurroundings(std::u16string_view text)
 {
     const auto isBlankOrNUL = [](char16_t c) { return isSurroundingBlank(c) || c == u'\0'; };

@@ -18,7 +18,7 @@ constexpr uid_t administrator = 0;
 
 enum class Sticky { counts, doesNotCount };
 
-/// A group that nobody but the user is in, as many systems make one for each user.
+/// Whether the user is the only member of a group. Many systems create such a group for each user.
 bool isGroupOfTheUserAlone(gid_t group, uid_t user)
 {
     const struct passwd* account = ::getpwuid(user);
@@ -38,17 +38,17 @@ Status checkThatOthersCannotWrite(const fs::path& path, const struct stat& statu
     if (sticky == Sticky::counts && (status.st_mode & S_ISVTX) != 0) return {};
     if ((status.st_mode & S_IWOTH) != 0) {
         return Message{phrase("all users can write to \"%1\"", path.string()),
-                       phrase("\"chmod o-w\" would change that")};
+                       phrase("remove the permission with \"chmod o-w\"")};
     }
     if ((status.st_mode & S_IWGRP) != 0 && status.st_uid != administrator &&
         !isGroupOfTheUserAlone(status.st_gid, user)) {
         return Message{phrase("a group can write to \"%1\"", path.string()),
-                       phrase("\"chmod g-w\" would change that")};
+                       phrase("remove the permission with \"chmod g-w\"")};
     }
     return {};
 }
 
-/// Whoever owns the program can change what it does, with or without plug-ins.
+/// Returns the owner of this program, who can change what it does even without plug-ins.
 uid_t ownerOfThisProgram()
 {
     struct stat status {};
@@ -69,8 +69,8 @@ std::optional<struct stat> statusOf(const fs::path& path)
     return status;
 }
 
-/// Who can write to a folder above can put another one in this one's place. Who owns it is not
-/// asked: it is a matter of where the user keeps things.
+/// Checks the parent folders, because whoever can write to one can replace the folder below it.
+/// Their owners are not checked: where users keep their files is up to them.
 Status checkFoldersAbove(const fs::path& folder, uid_t user)
 {
     for (fs::path above = folder.parent_path(); !above.empty(); above = above.parent_path()) {
@@ -83,7 +83,8 @@ Status checkFoldersAbove(const fs::path& folder, uid_t user)
     return {};
 }
 
-/// The path as it is written and the one that links lead to: each link lies in a folder, too.
+/// Returns the given path and, if it contains links, the path of their target. Both are checked,
+/// because a link can be replaced by whoever can write to its folder.
 std::vector<fs::path> waysTo(const std::string& path)
 {
     std::error_code error;

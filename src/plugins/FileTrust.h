@@ -6,19 +6,19 @@
 
 #include <string>
 
-/// Whether a plug-in may be run: what a panel loads acts in its user's name.
+/// Checks whether a plug-in can be trusted. It runs with all rights of the user.
 namespace vantorel {
 
-/// Fails if somebody whom neither the user nor the administrator trusts could change the file or
-/// folder, or put another one in its place. A missing file is trusted.
+/// Fails if anyone whom neither the user nor the administrator trusts could modify or replace the
+/// file or folder. A missing file is trusted.
 ///
-/// It must belong to one of the two, or to the owner of this program: in a sandbox, what belongs to
-/// the administrator may appear as an unknown user's. All users may not write to it, nor to a
-/// folder above it unless that one is sticky, as /tmp is; nor may a group, unless the user is alone
-/// in it, or the folder is the administrator's, who has then chosen the group (Debian's /usr/local
-/// belongs to root and can be written by the group staff).
+/// The owner must be the user, the administrator or the owner of this program; in a sandbox, the
+/// administrator's files can appear to belong to an unknown user. The file and its parent folders
+/// must not be writable by everyone, except for sticky parent folders such as /tmp. They must not
+/// be writable by a group either, unless the user is its only member or they belong to the
+/// administrator, who has chosen the group: in Debian, the group staff can write to /usr/local.
 Status checkTrust(const std::string& path);
-/// For another user than the one whose program this is.
+/// Checks for a given user instead of the one who runs this program.
 Status checkTrust(const std::string& path, uid_t user);
 
 }  // namespace vantorel

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The files in the folder beside the library: `NAME.so` has them in `NAME.resources`.
+/// The resources in the folder beside the library: those of `NAME.so` are in `NAME.resources`.
 class FolderBundle final : public HostBundle {
 public:
     explicit FolderBundle(const std::string& libraryFile)
@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] std::optional<std::string> resource(const std::string& name) const override
     {
-        if (!isNameOfOne(name)) return std::nullopt;
+        if (!isFileName(name)) return std::nullopt;
         std::ifstream file(_folder / name, std::ios::binary);
         if (!file) return std::nullopt;
         return std::string(std::istreambuf_iterator<char>(file), {});
@@ -33,7 +33,7 @@ public:
 
     [[nodiscard]] std::optional<std::string> pathOfResource(const std::string& name) const override
     {
-        if (!isNameOfOne(name)) return std::nullopt;
+        if (!isFileName(name)) return std::nullopt;
         std::error_code error;
         const fs::path path = fs::absolute(_folder / name, error);
         if (error || !fs::is_regular_file(path, error)) return std::nullopt;
@@ -41,8 +41,8 @@ public:
     }
 
 private:
-    /// No name leads out of the folder.
-    static bool isNameOfOne(const std::string& name)
+    /// Rejects names that would lead out of the folder.
+    static bool isFileName(const std::string& name)
     {
         return !name.empty() && name.find('/') == std::string::npos;
     }
@@ -50,15 +50,15 @@ private:
     fs::path _folder;
 };
 
-/// Never null.
+/// Loads a library and returns its plug-in, which is never null.
 Result<const HostPlugin*> pluginOfLibrary(const std::string& file)
 {
     if (const Status trust = checkTrust(file); !trust) return trust.error();
     std::error_code error;
-    // A pipe would keep the panel waiting.
+    // Opening a pipe would block the panel.
     if (fs::exists(file, error) && !fs::is_regular_file(file, error))
         return Message{phrase("it is not a regular file")};
-    // Never closed: see LoadedPlugin.
+    // The library is never closed: see LoadedPlugin.
     void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr) {
         const char* reason = ::dlerror();
@@ -84,7 +84,7 @@ Result<const HostPlugin*> pluginOfLibrary(const std::string& file)
     const bool complete = plugin != nullptr && plugin->identifier != nullptr &&
                           plugin->displayName != nullptr && plugin->createPicker != nullptr &&
                           plugin->destroyPicker != nullptr;
-    if (!complete) return Message{phrase("it offers no picker")};
+    if (!complete) return Message{phrase("it contains no picker")};
     return plugin;
 }
 
@@ -114,7 +114,7 @@ void load(const std::string& file, PluginSearch& search)
         search.plugins.emplace_back(**plugin, file);
     } else if (known->file() != file) {
         search.problems.push_back(
-            leftOut(file, {phrase("%1 is the same plug-in and came first", known->file())}));
+            leftOut(file, {phrase("%1 is the same plug-in and was loaded first", known->file())}));
     }
 }
 
@@ -129,12 +129,12 @@ Result<LoadedPlugin::Picker> LoadedPlugin::makePicker(HostColorPanel& panel) con
 {
     try {
         HostColorPicker* picker = _plugin.createPicker(0, panel, *_bundle);
-        if (picker == nullptr) return Message{phrase("it made no page")};
+        if (picker == nullptr) return Message{phrase("it did not create a page")};
         return Picker(picker, {_plugin.destroyPicker});
     } catch (const std::exception& error) {
-        return Message{phrase("it failed while its page was made: %1", error.what())};
+        return Message{phrase("it failed to create its page: %1", error.what())};
     } catch (...) {
-        return Message{phrase("it failed while its page was made")};
+        return Message{phrase("it failed to create its page")};
     }
 }
 
@@ -165,7 +165,7 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
             load(file, search);
     }
     for (const std::string& file : files) {
-        // dlopen searches the system's folders for a name without "/".
+        // Made absolute, because dlopen searches the system's folders for a name without "/".
         load(fs::absolute(file).string(), search);
     }
     return search;

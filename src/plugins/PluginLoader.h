@@ -9,8 +9,8 @@
 
 namespace vantorel {
 
-/// A picker plug-in that has been loaded. It stays loaded for the life of the process: its code may
-/// be referred to by anything it has made.
+/// A loaded picker plug-in. It is never unloaded, because the objects that it has created refer to
+/// its code.
 class LoadedPlugin {
 public:
     LoadedPlugin(const HostPlugin& plugin, std::string file);
@@ -25,7 +25,7 @@ public:
     };
     using Picker = std::unique_ptr<HostColorPicker, PickerDeleter>;
 
-    /// Never null. Fails if the plug-in makes no page or throws.
+    /// Creates a picker, which is never null. Fails if the plug-in creates none or throws.
     [[nodiscard]] Result<Picker> makePicker(HostColorPanel& panel) const;
 
 private:
@@ -34,23 +34,24 @@ private:
     std::unique_ptr<HostBundle> _bundle;
 };
 
-/// Plug-ins, and why each other file or folder was left out.
+/// The loaded plug-ins, and a message for each file or folder that was left out.
 struct PluginSearch {
     std::vector<LoadedPlugin> plugins;
     std::vector<Message> problems;
 };
 
-/// Says that a plug-in's file, or a folder of plug-ins, is left out, and why.
+/// Returns the message that a plug-in, or a folder of plug-ins, is left out, with the reason.
 [[nodiscard]] Message leftOut(const std::string& path, Message why);
 
-/// Where plug-ins are looked for: the panel's own folder, found from the program's place
-/// (`../lib/vantorel/pickers`), then `Vantorel/Plugins` in the folder of the user's data.
+/// Returns the folders that are searched for plug-ins: the installed one, relative to the program
+/// (`../lib/vantorel/pickers`), then `Vantorel/Plugins` in the user's data folder, unless that is
+/// empty.
 [[nodiscard]] std::vector<std::string> pluginFolders(const std::string& programFolder,
                                                      const std::string& userDataFolder);
 
-/// Loads every `.so` file of the folders, in order and each by name, and then the given files. Of
-/// two plug-ins with the same identifier the first counts. Folders and files that other users could
-/// change are left out.
+/// Loads all `.so` files of the folders, sorted by name in each, then the given files. If two
+/// plug-ins have the same identifier, the first is used. Folders and files that other users could
+/// modify are left out.
 [[nodiscard]] PluginSearch loadPlugins(const std::vector<std::string>& folders,
                                        const std::vector<std::string>& files);
 

@@ -8,7 +8,7 @@ std::string harmlessLine(std::string_view utf8)
 {
     std::u16string text = utf16FromUtf8(utf8);
     for (char16_t& c : text) {
-        // Those from U+0080 on are commands to some terminals, too.
+        // Some terminals also interpret the control characters from U+0080 on.
         if (c < 0x20 || (c >= 0x7F && c < 0xA0)) c = u' ';
     }
     return utf8FromUtf16(text);

@@ -6,11 +6,11 @@
 
 namespace vantorel {
 
-/// A text as one line that cannot command a terminal: control characters become blanks, and bytes
-/// that are not UTF-8 become U+FFFD.
+/// Makes a text safe to print on one line of a terminal: control characters become spaces, and
+/// bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string harmlessLine(std::string_view utf8);
 
-/// The text, or the beginning of a long one with "..." after it. Never half a character.
+/// Shortens a long text to its beginning followed by "...". Characters are never split.
 [[nodiscard]] std::string excerpt(std::string_view utf8, std::size_t mostBytes = 60);
 [[nodiscard]] std::u16string excerpt(std::u16string_view text, std::size_t mostUnits);
 

@@ -23,12 +23,12 @@ std::string Phrase::inWords(Translate translate) const
     if (isEmpty()) return {};
     const std::string text = translate(_text);
     std::string words;
-    // In one go, because an argument may hold what looks like a place.
+    // In a single pass, because an argument can contain text that looks like a placeholder.
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool isPlace =
             text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9';
         const auto index = isPlace ? static_cast<std::size_t>(text[i + 1] - '1') : std::size_t{0};
-        // A translation may be wrong about its places.
+        // A faulty translation can have more placeholders than arguments.
         if (!isPlace || index >= _arguments.size()) {
             words += text[i];
             continue;

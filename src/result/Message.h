@@ -9,11 +9,11 @@
 #include <variant>
 #include <vector>
 
-/// Messages as data: what they say is put into words where they are shown, in the language that is
-/// wanted there.
+/// Messages as data. They are formatted, and translated, only where they are shown.
 namespace vantorel {
 
-/// The text of a phrase with so many arguments. Any other number of places does not compile.
+/// The text of a phrase with these arguments. A text with another number of placeholders does not
+/// compile.
 template <class... Arguments>
 class PhraseText {
 public:
@@ -25,7 +25,7 @@ public:
             const auto number = static_cast<std::size_t>(c[1] - '0');
             if (number > highest) highest = number;
         }
-        if (highest != sizeof...(Arguments)) throw "the places do not match the arguments";
+        if (highest != sizeof...(Arguments)) throw "the placeholders do not match the arguments";
     }
     [[nodiscard]] constexpr const char* text() const { return _text; }
 
@@ -35,23 +35,23 @@ private:
 
 class PhraseArgument;
 
-/// A piece of a message: an English text with a place, `%1` to `%9`, for each of its arguments.
-/// Arguments may be anything that others have written. They are never read as a text with places of
-/// its own, and are made harmless when the phrase is put into words.
+/// A part of a message: an English text with a placeholder, `%1` to `%9`, for each argument.
+/// Arguments can be untrusted: placeholders in them are not replaced, and `inWords` makes them safe
+/// to print.
 class Phrase {
 public:
-    /// The empty phrase.
+    /// An empty phrase.
     Phrase() = default;
-    /// `text` must live as long as the program. Call `phrase`, which checks the places.
+    /// `text` must live as long as the program. Prefer `phrase`, which checks the placeholders.
     Phrase(const char* text, std::vector<PhraseArgument> arguments);
 
     [[nodiscard]] bool isEmpty() const { return *_text == '\0'; }
-    /// The English text with its places, by which translations are found.
+    /// The English text with its placeholders; the key of its translations.
     [[nodiscard]] const char* text() const { return _text; }
 
-    /// Returns the translation of a `text()` in UTF-8, with the same places.
+    /// Returns the translation of a `text()` in UTF-8, with the same placeholders.
     using Translate = std::string (*)(const char* text);
-    /// The phrase in words, as one line of UTF-8.
+    /// Translates the phrase and inserts the arguments. Returns one line of UTF-8.
     [[nodiscard]] std::string inWords(Translate translate) const;
 
     bool operator==(const Phrase& other) const;
@@ -61,7 +61,7 @@ private:
     std::vector<PhraseArgument> _arguments;
 };
 
-/// What takes a place in a phrase: a text, a number, or a phrase, which is translated, too.
+/// An argument of a phrase: a text, a number, or another phrase, which is translated too.
 class PhraseArgument {
 public:
     PhraseArgument(const std::convertible_to<std::string_view> auto& utf8)
@@ -87,7 +87,7 @@ private:
     std::variant<std::string, Phrase> _value;
 };
 
-/// Makes a phrase of a literal and its arguments: `phrase("%1 has no end", name)`.
+/// Creates a phrase from a literal and its arguments: `phrase("%1 is not closed", name)`.
 /// tools/update-translations finds these calls and offers the literals to translators.
 template <class... Arguments>
 [[nodiscard]] Phrase phrase(PhraseText<std::type_identity_t<Arguments>...> text,
@@ -105,20 +105,22 @@ template <class... Arguments>
     return text;
 }
 
-/// A text that somebody else has written, such as a message of the system, in UTF-8.
+/// Wraps a text from elsewhere, such as an error message of the system. It must be UTF-8 and is not
+/// translated.
 [[nodiscard]] Phrase verbatim(std::string_view text);
 
-/// What went wrong, and what to do about it.
+/// An error message: what went wrong and what to do about it.
 struct Message {
     Phrase what;
-    /// Empty where `what` leaves no question.
+    /// Empty if `what` makes it obvious.
     Phrase remedy = {};
 
     bool operator==(const Message&) const = default;
 };
 
 [[nodiscard]] std::string english(const Phrase& phrase);
-/// "WHAT; REMEDY", a sentence without its full stop. Programs print `separator` as ": ".
+/// Returns "WHAT; REMEDY", a sentence without its full stop. On standard error, programs use ": "
+/// as the separator.
 [[nodiscard]] std::string english(const Message& message, std::string_view separator = "; ");
 
 }  // namespace vantorel

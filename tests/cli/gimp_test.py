@@ -13,8 +13,8 @@ from program import ProgramTest, subprocess, sys, unittest
 GIMP = shutil.which("gimp-console")
 
 # GIMP writes its messages to standard error, each followed by an empty line.
-TELL = """
-(define (tell name)
+PRINT_PALETTE = """
+(define (print-palette name)
   (let ((count (car (gimp-palette-get-info name))) (i 0))
     (gimp-message (string-append "palette " name))
     (while (< i count)
@@ -51,7 +51,7 @@ class GimpTest(ProgramTest):
     def palettes_in_gimp(self):
         """The colours of each list in order; empty if GIMP does not know the palette."""
         # Definitions of one batch are unknown in the next.
-        printed = self.gimp(*(f'{TELL} (tell "{name}")' for name in LISTS))
+        printed = self.gimp(*(f'{PRINT_PALETTE} (print-palette "{name}")' for name in LISTS))
         palettes = {name: None for name in re.findall(r"Palette '(.*)' not found", printed)}
         for line in re.findall(r"script-fu-Warning: (.*)", printed):
             name = line.removeprefix("palette ")

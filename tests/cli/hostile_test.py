@@ -22,7 +22,7 @@ class Hostile(ProgramTest):
                 with self.subTest(longer=longer, ending=ending):
                     run = self.run_program("show", stdin="red\n" + " " * (LONGEST_LINE + longer) + ending)
                     self.assertEqual(run.stderr, b"vantorel: standard input, line 2: the line is longer than 64 KiB: "
-                                                 b"give one colour a line\n")
+                                                 b"give one colour per line\n")
                     self.assertEqual((run.returncode, run.stdout.count(b"\n")), (2, 2 if ending else 1))
 
     def test_the_longest_line_is_read(self):
@@ -52,7 +52,7 @@ class Hostile(ProgramTest):
     def test_messages_beyond_a_hundred_are_only_counted(self):
         run = self.run_program("show", stdin="x\n" * 1234 + "red\n")
         self.assertEqual(run.stderr.splitlines()[-1],
-                         b"vantorel: standard input has 1134 more lines that are no colours: give one colour a line")
+                         b"vantorel: standard input has 1134 more lines that are no colours: give one colour per line")
         self.assertEqual((run.returncode, run.stdout), (2, b"#FF0000\trgb(255, 0, 0)\n"))
 
     def test_giant_arguments(self):

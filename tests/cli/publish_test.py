@@ -52,7 +52,7 @@ class Publishing(ProgramTest):
                 self.assertEqual(self.read(self.target(place)), STRICT)
                 self.assertIn(self.target(place), printed)
                 self.assertEqual(printed.count("written for "), 1)
-                self.assertEqual(printed.count("already there: "), i)
+                self.assertEqual(printed.count("up to date: "), i)
 
     def test_no_folder_is_created_for_a_program_without_one(self):
         self.make_places(".config/GIMP/2.10", ".config/inkscape", ".config/inkscape/palettes")
@@ -79,7 +79,7 @@ class Publishing(ProgramTest):
             with self.subTest(old=old[:20]):
                 path = self.write(self.target(PLACES[0]), old)
                 message = self.error_of("list", "publish", "Mine")
-                self.assertIn('is there and differs: "--yes" replaces it', message)
+                self.assertIn('is there and differs: use "--yes" to replace it', message)
                 self.assertEqual(self.read(path), old)
                 # The folder without a file got one nevertheless.
                 self.assertEqual(self.read(self.target(PLACES[1])), STRICT)
@@ -129,7 +129,7 @@ class Publishing(ProgramTest):
         self.make_places(*PLACES[:2])
         self.output_of("list", "publish", "Mine")
         os.remove(self.target(PLACES[0]))
-        self.assertIn("already as it was", self.output_of("list", "publish", "--undo", "Mine"))
+        self.assertIn("already undone", self.output_of("list", "publish", "--undo", "Mine"))
 
     def test_publishing_of_a_removed_list_can_be_undone(self):
         self.make_places(PLACES[0])

@@ -96,7 +96,7 @@ TEST(QTXHexColorSpecTest, ComparesTruncatedWithoutBias)
     EXPECT_FALSE(specOf(255, 255, 255).isEqualToColor(gray(0.99999)));
     EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(std::nullopt));
     EXPECT_TRUE(specOf(0, 0, 0).isEqualToColor(gray(-0.003)));
-    EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(gray(-0.5))) << "no 0, although stored as one";
+    EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(gray(-0.5))) << "not 0, although stored as 0";
     EXPECT_FALSE(specOf(0, 0, 0).isCloseToColor(HostColor::patternColor()));
 }
 

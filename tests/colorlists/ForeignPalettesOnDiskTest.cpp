@@ -76,7 +76,7 @@ TEST_F(ForeignPalettesOnDiskTest, EveryFolderIsFoundThroughTheEnvironment)
 
     PosixFiles given(_base + "/home/.local/share");
     EXPECT_THAT(PaletteFileStore(given).availableColorLists(), ElementsAre(u"k"))
-        << "files that are given a folder do not ask the environment";
+        << "with an explicit folder, the environment is ignored";
 
     _environment.set("XDG_CONFIG_HOME", _base + "/home/elsewhere");
     _environment.set("XDG_DATA_HOME", _base + "/home/elsewhere");

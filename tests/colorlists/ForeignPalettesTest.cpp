@@ -118,7 +118,7 @@ TEST_F(ForeignPalettesTest, FilesAreReadOnDemand)
     EXPECT_THAT(std::set<std::string>(_files.readPaths.begin(), _files.readPaths.end()),
                 ElementsAre(ours + "Mine.gpl"));
     for (const char16_t* later : {u"Reds", u"Other"}) {
-        EXPECT_NE(store.colorListNamed(later), nullptr) << "the first look saw one file";
+        EXPECT_NE(store.colorListNamed(later), nullptr) << "the first lookup saw one file";
     }
 }
 
@@ -211,7 +211,7 @@ TEST_F(ForeignPalettesTest, AFileMovedToAnothersNameIsNotMistakenForIt)
     _files.putPalette(ours + "Reds.gpl", "Blues", 1);
     ASSERT_NE(_store.colorListNamed(u"Blues"), nullptr);
     _files.putPalette(ours + "Reds.gpl", "Greens", 2);
-    EXPECT_EQ(_store.colorListNamed(u"Reds"), nullptr) << "this looks at the file first";
+    EXPECT_EQ(_store.colorListNamed(u"Reds"), nullptr) << "this lookup checks the file first";
     EXPECT_EQ(_store.colorListNamed(u"Blues"), nullptr);
     EXPECT_NE(_store.colorListNamed(u"Greens"), nullptr);
 }

@@ -72,7 +72,7 @@ TEST_F(PaletteFileStoreTest, AChangeOnDiskIsSeenAtTheNextLookup)
     const auto after = _store.colorListNamed(u"a");
     EXPECT_NE(after, before);
     EXPECT_EQ(after->allKeys().front(), u"new");
-    EXPECT_EQ(before->allKeys().front(), u"old") << "who holds the old list keeps it";
+    EXPECT_EQ(before->allKeys().front(), u"old") << "existing references keep the old list";
     put("b.gpl", "GIMP Palette\nName: b\n");
     EXPECT_EQ(_store.availableColorLists().size(), 2U);
     put("a.gpl", "damaged");

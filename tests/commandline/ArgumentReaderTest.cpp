@@ -89,32 +89,33 @@ TEST_P(WrongArgumentsTest, AreExplained)
     EXPECT_EQ(english(reading.error().remedy), GetParam().remedy);
 }
 
-constexpr const char* help = "\"p --help\" tells what can be given";
-constexpr const char* keepHelp = "\"p keep --help\" tells what can be given";
+constexpr const char* help = "see \"p --help\"";
+constexpr const char* keepHelp = "see \"p keep --help\"";
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, WrongArgumentsTest,
     testing::Values(
-        WrongRow{{}, "there is no command", help},
-        WrongRow{{"--", "keep"}, "there is no command", help},
-        WrongRow{{"kep"}, "\"kep\" is no command", help},
-        WrongRow{{"--place", "x", "keep"}, "\"--place\" does not belong to \"p\"", help},
-        WrongRow{{"keep", "a", "-p"}, "\"-p\" does not belong to \"p keep\"", keepHelp},
-        WrongRow{{"keep", "a", "--place"}, "--place has no value", keepHelp},
+        WrongRow{{}, "the command is missing", help},
+        WrongRow{{"--", "keep"}, "the command is missing", help},
+        WrongRow{{"kep"}, "\"kep\" is not a command", help},
+        WrongRow{{"--place", "x", "keep"}, "\"p\" has no option \"--place\"", help},
+        WrongRow{{"keep", "a", "-p"}, "\"p keep\" has no option \"-p\"", keepHelp},
+        WrongRow{{"keep", "a", "--place"}, "--place requires a value", keepHelp},
         WrongRow{{"keep", "a", "--dry=1"}, "--dry takes no value", keepHelp},
         WrongRow{{"keep", "a", "--place=1", "--place=1"}, "--place is given twice", keepHelp},
         WrongRow{{"keep", "a"}, "--place is required", keepHelp},
-        WrongRow{{"keep", "a", "--place=1", "--wet", "--dry"}, "--dry excludes --wet", keepHelp},
+        WrongRow{{"keep", "a", "--place=1", "--wet", "--dry"},
+                 "--dry cannot be combined with --wet",
+                 keepHelp},
         WrongRow{
-            {"keep", "a", "--place=1", "--size=x"}, "--size is \"x\"", "it can be small or large"},
-        WrongRow{{"keep", "--place=1"}, "there is no THING", keepHelp},
+            {"keep", "a", "--place=1", "--size=x"}, "--size cannot be \"x\"", "use small or large"},
+        WrongRow{{"keep", "--place=1"}, "THING is missing", keepHelp},
         WrongRow{{"keep", "--place=1", "a", "b", "c"}, "\"c\" is one argument too many", keepHelp},
-        WrongRow{{"find", "a", "again"},
-                 "\"a\" stands before the command",
-                 "write it behind \"p find again\""},
+        WrongRow{
+            {"find", "a", "again"}, "\"a\" precedes the command", "put it after \"p find again\""},
         WrongRow{{"find", "--all", "again"},
-                 "--all stands before the command",
-                 "write it behind \"p find again\""}));
+                 "--all precedes the command",
+                 "put it after \"p find again\""}));
 
 }  // namespace
 }  // namespace vantorel

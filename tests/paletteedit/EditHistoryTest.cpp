@@ -26,7 +26,7 @@ TEST(EditHistoryTest, StepsAreUndoneInReverse)
     EXPECT_EQ(history.lastDone().list, 2U);
     EXPECT_EQ(history.lastUndone().list, 3U);
     history.record(stepWithEntries(4, 1));
-    EXPECT_FALSE(history.canRedo()) << "a new step ends what could be redone";
+    EXPECT_FALSE(history.canRedo()) << "a new step clears the steps to redo";
 }
 
 TEST(EditHistoryTest, OnlyTheOldestStepsAreDropped)

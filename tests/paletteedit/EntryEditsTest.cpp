@@ -124,7 +124,7 @@ TEST(EntryEditsTest, ThirtyThousandEntriesAreAllKept)
     EXPECT_EQ(names(withStepped(many, odd, -1).entries), names(many));
     EXPECT_EQ(withRemoved(many, odd).entries.size(), 15000U);
     const EntryEdit doubled = withInserted(many, 10, many);
-    EXPECT_EQ(names(doubled.entries).size(), 60000U) << "each with a name of its own";
+    EXPECT_EQ(names(doubled.entries).size(), 60000U) << "all names are unique";
 }
 
 }  // namespace

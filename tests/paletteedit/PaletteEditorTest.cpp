@@ -115,7 +115,7 @@ TEST_F(PaletteEditorTest, AnEditWithoutEffectIsNotAStep)
     EXPECT_FALSE(editor.rename(reds, u"Reds").done);
     EXPECT_FALSE(editor.rename(reds, u" \n ").done);
     EXPECT_FALSE(editor.add(u"", {}).done);
-    EXPECT_FALSE(editor.remove(web).done) << "it is another program's";
+    EXPECT_FALSE(editor.remove(web).done) << "the list belongs to another program";
     for (const PaletteId nothing : {PaletteId{0}, PaletteId{999}}) {
         EXPECT_FALSE(editor.setEntries(nothing, entriesFrom("a=1")).done);
         EXPECT_FALSE(editor.rename(nothing, u"x").done);
@@ -147,7 +147,7 @@ TEST_F(PaletteEditorTest, HostileListNamesStayInTheFolder)
         EXPECT_TRUE(path.starts_with(ours)) << path;
     PaletteFileStore nextStore(_files);
     PaletteEditor next(_files, nextStore, remover());
-    EXPECT_EQ(namesIn(next), namesIn(editor)) << "each name has come back";
+    EXPECT_EQ(namesIn(next), namesIn(editor)) << "all names are read back";
     while (editor.canUndo())
         ASSERT_TRUE(editor.undo().done);
     EXPECT_TRUE(allFiles().empty());
@@ -218,7 +218,7 @@ TEST_F(PaletteEditorTest, AnEditThatCannotBeSavedIsNotMade)
         EXPECT_EQ(namesIn(editor), "Reds, Web");
     }
     _files.failWrites(false);
-    EXPECT_TRUE(editor.undo().done) << "the step is still there";
+    EXPECT_TRUE(editor.undo().done) << "the step can still be undone";
     EXPECT_EQ(fileAt(ours + std::string("Reds.gpl")), "Reds: a=1");
 }
 
@@ -266,10 +266,10 @@ TEST_F(PaletteEditorTest, AFileWithExtraLinesIsKeptBesideTheEditedOne)
         EXPECT_TRUE(outcome.done);
         EXPECT_EQ(!outcome.remarks.empty(), row.isKept);
         EXPECT_EQ(_files.contentsAtPath(path + "~").value_or(""), row.isKept ? row.text : "");
-        EXPECT_EQ(namesIn(editor), "Reds") << "what is kept is no list";
+        EXPECT_EQ(namesIn(editor), "Reds") << "the kept file is not listed";
         ASSERT_TRUE(editor.undo().done);
         const std::string undone = _files.contentsAtPath(path).value_or("");
-        EXPECT_EQ(undone == row.text, row.isKept) << "as it was, to the byte";
+        EXPECT_EQ(undone == row.text, row.isKept) << "restored byte for byte";
         ASSERT_TRUE(editor.remove(reds).done);
         ASSERT_TRUE(editor.undo().done);
         EXPECT_EQ(_files.contentsAtPath(path), undone);

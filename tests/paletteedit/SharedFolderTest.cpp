@@ -47,7 +47,7 @@ TEST_F(SharedFolderTest, ChangesByBothEditorsAreSaved)
     EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::merged));
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 m=3 t=4");
     EXPECT_TRUE(editor.undo().done);
-    EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 t=4") << "what they did stays";
+    EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 t=4") << "their change is kept";
     EXPECT_TRUE(editor.redo().done);
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 m=3 t=4");
 }
@@ -106,7 +106,7 @@ TEST_F(SharedFolderTest, AListThatOthersChangedIsRemovedOnlyAtTheSecondRequest)
     EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::changedMeanwhile));
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2 t=3");
     outcome = editor.remove(id);
-    EXPECT_TRUE(outcome.done) << "now it has been seen";
+    EXPECT_TRUE(outcome.done) << "the change has been shown by now";
     EXPECT_TRUE(editor.undo().done);
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2 t=3");
 }

@@ -36,7 +36,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(PanelOptionsTest, AnInvalidColourIsExplained)
 {
     EXPECT_EQ(readCommandLine({"p", "--color", "orang"}).message.toStdString(),
-              "vantorel-panel: --color: \"orang\" is no colour name of CSS: write a colour such as "
+              "vantorel-panel: --color: \"orang\" is not a CSS colour name: write a colour such as "
               "\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"\n");
 }
 

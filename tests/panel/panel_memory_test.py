@@ -42,7 +42,7 @@ class PanelMemory(FailingCallsTest):
                 home.run([CHANGES, str(shade)])
                 written = home.read(MEMORY)
                 run = home.run([CHANGES])
-                self.assertEqual((run.status, home.read(MEMORY)), (0, written), run.complaint)
+                self.assertEqual((run.status, home.read(MEMORY)), (0, written), run.errors)
 
     def test_what_older_panels_wrote_is_read_until_there_is_newer(self):
         with self.home as home:
@@ -51,7 +51,7 @@ class PanelMemory(FailingCallsTest):
         with self.home as home:
             home.write(OLDER_MEMORY, older_memory(7))
             run = home.run([CHANGES])
-            self.assertEqual((run.status, home.read(MEMORY)), (0, expected), run.complaint)
+            self.assertEqual((run.status, home.read(MEMORY)), (0, expected), run.errors)
             home.write(OLDER_MEMORY, older_memory(9))
             home.run([CHANGES])
             self.assertEqual(home.read(MEMORY), expected)

@@ -60,7 +60,7 @@ TEST_P(BrokenInterfaceTest, IsRejected)
 INSTANTIATE_TEST_SUITE_P(
     Files, BrokenInterfaceTest,
     testing::Values(
-        BrokenRow{"empty", ""}, BrokenRow{"no dictionary", "(a)"},
+        BrokenRow{"empty", ""}, BrokenRow{"not a dictionary", "(a)"},
         BrokenRow{"no version", "{Views=();}"},
         BrokenRow{"another version", "{Version=2;Views=();}"},
         BrokenRow{"no views", "{Version=1;}"},
@@ -73,15 +73,15 @@ INSTANTIATE_TEST_SUITE_P(
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,inf},{1,1}}\";});}"},
         BrokenRow{"negative size",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{-1,1}}\";});}"},
-        BrokenRow{"name twice",
+        BrokenRow{"duplicate name",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";},{Name=a;Class="
                   "View;Frame=\"{{0,0},{1,1}}\";});}"},
         BrokenRow{"bad rule",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Resizing=(Sideways)"
                   ";});}"},
-        BrokenRow{"bad size of type",
+        BrokenRow{"bad font size",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=big;});}"},
-        BrokenRow{"no UTF-8", "{Version=1;Views=();}\xFF"}));
+        BrokenRow{"not UTF-8", "{Version=1;Views=();}\xFF"}));
 
 TEST(InterfaceFileTest, DamagedFilesAreReadWithoutCrashing)
 {

@@ -80,7 +80,7 @@ TEST_F(FileTrustTest, ALinkIsTrustedAsMuchAsItsTarget)
     setMode(_root / "above", 0755);
     setMode(_root / "elsewhere", 0777);
     EXPECT_THAT(english(checkTrust(_root / "elsewhere/link").error()), HasSubstr("elsewhere\""))
-        << "another link could stand there";
+        << "another link could be put there";
 }
 
 TEST_F(FileTrustTest, AFileOfAnotherUserIsNotTrusted)

@@ -37,7 +37,7 @@ TEST(PluginLoaderTest, FilesThatAreNotPluginsAreSkippedWithTheirNameAndAReason)
 {
     const ScratchFolder folder;
     const std::string text = folder.pathOf("text.so");
-    std::ofstream(text) << "no library";
+    std::ofstream(text) << "not a library";
     const auto search = loadPlugins({folder.path().string()}, {"/missing/file.so", "libm.so.6"});
     EXPECT_TRUE(search.plugins.empty());
     ASSERT_EQ(search.problems.size(), 3U);
@@ -68,7 +68,7 @@ TEST(PluginLoaderTest, TheFirstOfTwoIdenticalPluginsIsUsed)
     ASSERT_EQ(search.plugins.size(), 1U);
     EXPECT_EQ(search.plugins.front().file(), plugins + "/good-plugin.so");
     ASSERT_EQ(search.problems.size(), 1U);
-    EXPECT_THAT(english(search.problems.front()), HasSubstr("came first"));
+    EXPECT_THAT(english(search.problems.front()), HasSubstr("was loaded first"));
 }
 
 TEST(PluginLoaderTest, ResourcesAreInTheFolderBesideTheLibrary)

@@ -22,8 +22,8 @@ TEST(MessageTest, ArgumentsReplaceTheirPlaceholders)
     EXPECT_EQ(english(phrase("%2 after %1, %2", "a", "b")), "b after a, b");
     EXPECT_EQ(english(phrase("%1 %2 %3 %4", 1, std::size_t{2}, std::string("3"), u"4\u00E4")),
               "1 2 3 4\u00E4");
-    EXPECT_EQ(english(phrase("100% and %0 are no places, %1 is", "this")),
-              "100% and %0 are no places, this is");
+    EXPECT_EQ(english(phrase("100% and %0 are not placeholders, %1 is", "this")),
+              "100% and %0 are not placeholders, this is");
 }
 
 TEST(MessageTest, PlaceholdersInArgumentsAreNotReplaced)

@@ -16,7 +16,7 @@ TEST(SettingsFileTest, TheFirstStartCreatesFolderAndFile)
     QTXHexSettings settings;
     initializeDefaults(files, settings);
     EXPECT_EQ(files.contentsAtPath(file), settingsData(settings));
-    EXPECT_TRUE(settings.codeSnippets().empty()) << "what was made is not read back";
+    EXPECT_TRUE(settings.codeSnippets().empty()) << "a new file is not read back";
 }
 
 TEST(SettingsFileTest, AnExistingFileIsLoaded)

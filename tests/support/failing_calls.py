@@ -14,8 +14,8 @@ NEVER = "no such call"
 
 
 class Run:
-    def __init__(self, status, output, complaint):
-        self.status, self.output, self.complaint = status, output, complaint
+    def __init__(self, status, output, errors):
+        self.status, self.output, self.errors = status, output, errors
 
     @property
     def was_killed(self):
@@ -150,7 +150,7 @@ class FailingCallsTest(unittest.TestCase):
             self.after = home.files()
         with open(report, encoding="utf-8", errors="surrogateescape") as file:
             calls = file.read().splitlines()
-        self.assertEqual((run.status, run.complaint), (0, ""))
+        self.assertEqual((run.status, run.errors), (0, ""))
         self.assertTrue(self.before != self.after, "the command does nothing")
         self.assertGreater(len(calls), 3)
         FailingCallsTest.calls += len(calls)
@@ -169,18 +169,18 @@ class FailingCallsTest(unittest.TestCase):
     def look_at(self, run, how, goes_on):
         kills = str(how).startswith("kill")
         if kills:
-            self.assertTrue(run.was_killed, run.complaint)
+            self.assertTrue(run.was_killed, run.errors)
         else:
-            self.assertIn(run.status, (0, 1, 2), run.complaint)
+            self.assertIn(run.status, (0, 1, 2), run.errors)
         if not kills and not goes_on:
             self.assertEqual(self.home.new_files(), [], "left behind")
         found = self.check_whole()
         if how == errno.EINTR:
-            self.assertEqual(run.status, 0, run.complaint)
+            self.assertEqual(run.status, 0, run.errors)
             self.assertTrue(found == self.after, "an interrupted call is made again")
         somewhere = {self.without_name(content) for content in found.values()}
         if not kills and any(self.without_name(content) not in somewhere for content in self.after.values()):
-            self.assertNotEqual(run.complaint, "", "not a word about it")
+            self.assertNotEqual(run.errors, "", "not a word about it")
 
     @staticmethod
     def without_name(palette):
@@ -199,7 +199,7 @@ class FailingCallsTest(unittest.TestCase):
 
     def look_at_another_run(self, run):
         self.assertEqual(self.home.new_files(), [], "left behind after another run")
-        self.assertEqual(run.status, 0, run.complaint)
+        self.assertEqual(run.status, 0, run.errors)
         found = self.check_whole()
         for name in {*self.after} - {*self.unlike}:
             self.assertTrue(found.get(name) == self.after[name], f"{name} after another run")

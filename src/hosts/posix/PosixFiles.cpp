@@ -20,12 +20,12 @@ namespace {
 
 constexpr mode_t ownFolderMode = 0700;
 
-/// 0, or the error number.
+/// Creates a folder. Returns 0 or the `errno` of the failure.
 int makeFolder(const std::string& path)
 {
     const int made = uninterrupted([&] { return ::mkdir(path.c_str(), ownFolderMode); });
     if (made != 0) return errno;
-    // What is written into it next must not be lost with it.
+    // A crash must not lose the folder together with files that are written into it next.
     synchronizeFolder(folderOfPath(path));
     return 0;
 }
@@ -47,7 +47,7 @@ DIR* openFolder(const std::string& path)
     return folder;
 }
 
-/// Whether what was to be looked at is not there, as against cannot be told.
+/// Whether an error means that the path does not exist, rather than that it cannot be accessed.
 bool isMissing(int error)
 {
     return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
@@ -81,7 +81,7 @@ HostFileKind PosixFiles::kindAtPath(const std::string& path) const
     struct stat status {};
     if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) {
         if (isMissing(errno)) return HostFileKind::none;
-        // Nobody may take the place of a file for free because the disk would not tell.
+        // Reported as a file, so that callers do not create another one there.
         reportFailure(path, Access::reading, errno);
         return HostFileKind::file;
     }
@@ -96,7 +96,7 @@ std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
     for (const auto part :
          {static_cast<std::uint64_t>(status.st_mtim.tv_sec),
           static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
-          // Also new permissions count, and an older file that takes the place.
+          // Detects new permissions, and replacement by an older file.
           static_cast<std::uint64_t>(status.st_ctim.tv_sec),
           static_cast<std::uint64_t>(status.st_ctim.tv_nsec),
           static_cast<std::uint64_t>(status.st_ino), static_cast<std::uint64_t>(status.st_size)}) {
@@ -164,7 +164,7 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
         }
         if (count == 0) return bytes;
         bytes.append(buffer.data(), static_cast<std::size_t>(count));
-        // It may grow while it is read.
+        // The file can grow while it is being read.
         if (bytes.size() > largestFile) return std::nullopt;
     }
 }
@@ -195,7 +195,7 @@ int PosixFiles::write(const std::string& path, const std::string& bytes, AtomicW
 
 void PosixFiles::reportFailure(const std::string& path, Access access, int error) const
 {
-    // Programs look at the same files again and again.
+    // Programs read the same files repeatedly, so each is reported once.
     if (!_handleFailure || (access == Access::reading && !_reportedUnreadable.insert(path).second))
         return;
     const std::string reason = std::generic_category().message(error);

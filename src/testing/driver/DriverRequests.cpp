@@ -51,7 +51,7 @@ const std::map<std::string, PureRequest>& pureRequests()
 
 Json answer(DriverSession& session, const Json& request)
 {
-    if (!request.is_object()) throw DriverError("a request is an object");
+    if (!request.is_object()) throw DriverError("a request must be an object");
     const Json& op = requiredMember(request, "op");
     if (!op.is_string()) throw DriverError("op must be a text");
     const std::string name = op.get<std::string>();

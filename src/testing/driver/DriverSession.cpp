@@ -11,12 +11,13 @@
 #include <filesystem>
 #include <iostream>
 
-/// A picker's life: opening, closing, and what happens around it.
+/// Requests that open, close and surround a picker.
 namespace vantorel {
 namespace {
 
 constexpr const char* interfaceFileName = "QTXHexPick";
-/// In parts of the point size; far beyond any font, and texts of such characters stay finite.
+/// The largest character width, as a multiple of the point size: far beyond any font, yet small
+/// enough for finite text widths.
 constexpr int widestCharacter = 1000;
 
 std::shared_ptr<HostColorList> colorListFrom(const Json& value)
@@ -37,7 +38,7 @@ std::shared_ptr<HostColorList> colorListFrom(const Json& value)
     return list;
 }
 
-/// A list of snippets as the state shows it, in which a field that is not set is null.
+/// Reads a list of snippets in the form of the state, in which an unset field is null.
 std::optional<std::vector<QTXCodeSnippet>> snippetsFrom(const Json& value)
 {
     if (value.is_null()) return std::nullopt;
@@ -54,7 +55,7 @@ std::optional<std::vector<QTXCodeSnippet>> snippetsFrom(const Json& value)
     return snippets;
 }
 
-/// A folder of the disk, or one in memory that nobody else sees.
+/// Opens a folder on the disk, or files in memory.
 std::unique_ptr<HostFiles> filesFrom(const Json& request)
 {
     const Json* home = optionalMember(request, "home");
@@ -63,7 +64,7 @@ std::unique_ptr<HostFiles> filesFrom(const Json& request)
     if (path.empty()) throw DriverError("home must name a folder");
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
-    if (error) throw DriverError("home is no path: " + error.message());
+    if (error) throw DriverError("home is not a valid path: " + error.message());
     auto files = std::make_unique<PosixFiles>(absolute.lexically_normal().string());
     files->setFailureHandler([](auto, const Message& message) {
         std::cerr << "vantorel-driver: " << english(message) << '\n';
@@ -107,7 +108,7 @@ DriverPanel::Options optionsFrom(const Json& request)
     return options;
 }
 
-/// Puts a settings file in its place before the picker looks for one.
+/// Creates a settings file before the picker looks for one.
 std::unique_ptr<HostFiles> withSettingsFile(std::unique_ptr<HostFiles> files,
                                             const std::optional<std::string>& text)
 {
@@ -132,7 +133,7 @@ public:
         if (missing || found == embeddedResources().end()) return std::nullopt;
         return found->second;
     }
-    /// They are compiled in.
+    /// Returns `std::nullopt`, because the resources are compiled in.
     [[nodiscard]] std::optional<std::string> pathOfResource(const std::string&) const override
     {
         return std::nullopt;
@@ -152,7 +153,7 @@ DriverPanel::DriverPanel(Options options)
         _desktop.colorLists().install(std::move(list));
     _picker = std::make_unique<QTXHexColorPicker>(0, _panel, *_bundle);
     _panel.setPicker(_picker.get());
-    // The page is as large as its place from the start; only a later change of size is told.
+    // The page has its final size from the start. Only later changes of size are reported.
     _panel.showPage(_picker->provideNewView(true));
 }
 
@@ -189,7 +190,7 @@ void DriverPanel::endEditing()
 
 DriverPanel& DriverSession::current()
 {
-    if (!_current) throw DriverError("no picker is open; \"open\" makes one");
+    if (!_current) throw DriverError("no picker is open; send \"open\" first");
     return *_current;
 }
 
@@ -249,7 +250,7 @@ Json DriverSession::set(const Json& request)
     const Json& values = requiredMember(request, "settings");
     if (!values.is_object()) throw DriverError("settings must be an object");
     QTXHexColorPicker& picker = current().picker();
-    // Into a copy first, so that a bad value leaves all as it was.
+    // Changes are made to a copy, so that an invalid value leaves the settings unchanged.
     QTXHexSettings settings = picker.hexSettings();
     for (const auto& [key, value] : values.items()) {
         if (key == "entryForm") {

@@ -128,7 +128,7 @@ Json trackingState(DriverPanel& panel)
 Json DriverSession::draw(const Json&)
 {
     HeadlessCustomView* view = current().shownView();
-    if (view == nullptr) throw DriverError("no view is on show");
+    if (view == nullptr) throw DriverError("no view is shown");
     const std::string name = current().shownViewName();
     const RecordingCanvas canvas = view->draw();
     return {{"view", name}, {"ops", jsonFromOperations(canvas.operations())}};

@@ -67,7 +67,7 @@ HostEvent eventFrom(const Json& value)
         {"move", HostEventType::mouseMoved},
     };
     const auto type = types.find(utf8FromUtf16(textFrom(requiredMember(value, "type"), "type")));
-    if (type == types.end()) throw DriverError("an event is down, drag, up or move");
+    if (type == types.end()) throw DriverError("type must be down, drag, up or move");
     HostEvent event;
     event.type = type->second;
     event.location = pointFrom(requiredMember(value, "at"), "at");
@@ -160,7 +160,7 @@ Json DriverSession::mouse(const Json& request)
     }
     HeadlessCustomView* view = current().customView("_hexColorsView");
     if (view == nullptr || view->superview() == nullptr) {
-        throw DriverError("the colours view is not on show");
+        throw DriverError("the colours view is not shown");
     }
     current().endEditing();
     current().panel().deliver(events, *view);

@@ -50,7 +50,7 @@ class RealDisksTest(unittest.TestCase):
         self.home.write("file.gpl", palette(7))
 
     def refuses(self, run, reason):
-        self.assertIn(reason, run.complaint)
+        self.assertIn(reason, run.errors)
         self.assertEqual(self.home.new_files(), [])
 
 
@@ -99,7 +99,7 @@ class FullDisks(RealDisksTest):
         self.put_lists()
         run = self.home.run([PROGRAM, "list", "export", "Mine", "--format", "css", "--output", "/dev/full"])
         self.assertEqual(run.status, 2)
-        self.assertIn("cannot be written", run.complaint)
+        self.assertIn("cannot be written", run.errors)
 
 
 class ThingsInTheWay(RealDisksTest):
@@ -110,10 +110,10 @@ class ThingsInTheWay(RealDisksTest):
                 self.home.write("file.gpl", palette(7))
                 self.home.write(place, "mine")
                 run = self.home.run([PROGRAM, "list", "import", "$HOME/file.gpl"])
-                self.assertEqual(run.status, 2, run.complaint)
+                self.assertEqual(run.status, 2, run.errors)
                 run = self.home.run([DRIVER], FIRST_START)
                 self.assertEqual((run.status, run.output), (0, '{"ok":true}\n'))
-                self.assertIn("cannot be written", run.complaint)
+                self.assertIn("cannot be written", run.errors)
                 self.assertEqual(self.home.read(place), b"mine")
 
     def test_a_folder_in_place_of_a_file(self):
@@ -168,7 +168,7 @@ class ThingsInTheWay(RealDisksTest):
         try:
             for _ in range(30):
                 run = self.home.run([PROGRAM, "lists"])
-                self.assertEqual((run.status, run.complaint), (0, ""))
+                self.assertEqual((run.status, run.errors), (0, ""))
                 self.assertEqual(self.change("make", "Kept", "7").status, 0)
         finally:
             stop.set()
@@ -185,7 +185,7 @@ class ThingsInTheWay(RealDisksTest):
         self.home.write(SETTINGS, "{ NColorCubeRings = 5")
         choice = {"op": "choose", "popUp": "hexColorsListPopUp", "path": ["SVG Keyword"]}
         run = self.home.run([DRIVER], FIRST_START + json.dumps(choice) + "\n")
-        self.assertEqual((run.status, run.complaint), (0, ""))
+        self.assertEqual((run.status, run.errors), (0, ""))
         self.assertIn(b"SVG Keyword", self.home.read(SETTINGS))
         self.assertEqual(self.home.read(SETTINGS + "~"), b"{ NColorCubeRings = 5")
 
