@@ -48,6 +48,11 @@ struct ValidRow {
     const char16_t* result;  // null: rejected
 };
 
+void PrintTo(const ValidRow& row, std::ostream* out)
+{
+    *out << testing::PrintToString(std::u16string(row.text)) << " as " << row.digits << " digits";
+}
+
 class ValidHexStringTest : public testing::TestWithParam<ValidRow> {};
 
 TEST_P(ValidHexStringTest, NormalisesOrRejects)

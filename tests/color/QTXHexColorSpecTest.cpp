@@ -53,6 +53,11 @@ struct OutOfRangeRow {
     std::uint64_t component;
 };
 
+void PrintTo(const OutOfRangeRow& row, std::ostream* out)
+{
+    *out << row.channel;
+}
+
 class OutOfRangeTest : public testing::TestWithParam<OutOfRangeRow> {};
 
 TEST_P(OutOfRangeTest, AnyChannelBecomesAComponentWithoutUndefinedBehaviour)

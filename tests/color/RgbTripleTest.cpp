@@ -13,6 +13,11 @@ struct TripleRow {
     std::optional<Triple> components;
 };
 
+void PrintTo(const TripleRow& row, std::ostream* out)
+{
+    *out << testing::PrintToString(std::u16string(row.text));
+}
+
 class RgbTripleTest : public testing::TestWithParam<TripleRow> {};
 
 TEST_P(RgbTripleTest, ReadsTheValuesAfterTheName)

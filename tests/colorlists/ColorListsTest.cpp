@@ -158,6 +158,11 @@ struct SortRow {
     int result;
 };
 
+void PrintTo(const SortRow& row, std::ostream* out)
+{
+    *out << std::hex << row.first << " and " << row.second;
+}
+
 class ColorSortTest : public testing::TestWithParam<SortRow> {};
 
 TEST_P(ColorSortTest, OrdersByGreenThenBlueThenRed)

@@ -79,6 +79,11 @@ struct WrongRow {
     const char* remedy;
 };
 
+void PrintTo(const WrongRow& row, std::ostream* out)
+{
+    *out << testing::PrintToString(row.arguments);
+}
+
 class WrongArgumentsTest : public testing::TestWithParam<WrongRow> {};
 
 TEST_P(WrongArgumentsTest, AreExplained)

@@ -20,6 +20,11 @@ struct Row {
     std::vector<std::u16string> contradictions = {};
 };
 
+void PrintTo(const Row& row, std::ostream* out)
+{
+    *out << row.what;
+}
+
 class PaletteMergeRows : public testing::TestWithParam<Row> {};
 
 TEST_P(PaletteMergeRows, GivesTheExpectedEntries)

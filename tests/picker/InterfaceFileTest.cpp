@@ -50,6 +50,11 @@ struct BrokenRow {
     const char* text;
 };
 
+void PrintTo(const BrokenRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
 class BrokenInterfaceTest : public testing::TestWithParam<BrokenRow> {};
 
 TEST_P(BrokenInterfaceTest, IsRejected)

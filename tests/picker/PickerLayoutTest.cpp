@@ -41,6 +41,11 @@ struct NameRow {
     HostRect name;
 };
 
+void PrintTo(const NameRow& row, std::ostream* out)
+{
+    *out << row.width << " points";
+}
+
 class ColorNameTest : public testing::TestWithParam<NameRow> {};
 
 TEST_P(ColorNameTest, FillsTheAvailableWidth)

@@ -13,6 +13,11 @@ struct ReadoutRow {
     const char16_t* readout;
 };
 
+void PrintTo(const ReadoutRow& row, std::ostream* out)
+{
+    *out << testing::PrintToString(std::u16string(row.typed));
+}
+
 class LiveHexReadoutTest : public testing::TestWithParam<ReadoutRow> {};
 
 TEST_P(LiveHexReadoutTest, CountsAndDecodes)

@@ -78,6 +78,11 @@ struct RingRow {
     std::int64_t rings;
 };
 
+void PrintTo(const RingRow& row, std::ostream* out)
+{
+    *out << testing::PrintToString(std::u16string(row.text));
+}
+
 class RingCountTest : public testing::TestWithParam<RingRow> {};
 
 TEST_P(RingCountTest, IsReadFromTheLeadingInteger)
