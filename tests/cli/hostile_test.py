@@ -52,7 +52,7 @@ class Hostile(ProgramTest):
     def test_messages_beyond_a_hundred_are_only_counted(self):
         run = self.run_program("show", stdin="x\n" * 1234 + "red\n")
         self.assertEqual(run.stderr.splitlines()[-1],
-                         b"vantorel: standard input has 1134 more lines that are no colours: give one colour per line")
+                         b"vantorel: standard input has 1134 more lines that are not colours: give one colour per line")
         self.assertEqual((run.returncode, run.stdout), (2, b"#FF0000\trgb(255, 0, 0)\n"))
 
     def test_giant_arguments(self):
@@ -113,8 +113,8 @@ class Hostile(ProgramTest):
         for redirection in ("<&-", "< /"):
             run = self.shell(f'"$0" show {redirection}')
             self.assertEqual((run.returncode, run.stderr.decode()),
-                             (2, "vantorel: standard input cannot be read: give colours as arguments, or a file or program "
-                                 "to read from\n"))
+                             (2, "vantorel: standard input cannot be read: give colours as arguments, or redirect standard "
+                                 "input from a file or program\n"))
 
     def test_no_message_is_written_into_a_file(self):
         # Standard error is closed, so the next opened file would get its number.

@@ -79,7 +79,7 @@ class Publishing(ProgramTest):
             with self.subTest(old=old[:20]):
                 path = self.write(self.target(PLACES[0]), old)
                 message = self.error_of("list", "publish", "Mine")
-                self.assertIn('is there and differs: use "--yes" to replace it', message)
+                self.assertIn('already exists with different contents: use "--yes" to replace it', message)
                 self.assertEqual(self.read(path), old)
                 # The folder without a file got one nevertheless.
                 self.assertEqual(self.read(self.target(PLACES[1])), STRICT)
@@ -95,7 +95,7 @@ class Publishing(ProgramTest):
         path = self.write(self.target(PLACES[0]), "old")
         for answer in ("n\n", "\n", "\x04", "nonsense\n"):
             status, seen = self.answer(answer, "list", "publish", "Mine")
-            self.assertIn("which differs? [y/N]", seen)
+            self.assertIn("which has different contents? [y/N]", seen)
             self.assertEqual((status, self.read(path)), (0, b"old"), answer)
         status, seen = self.answer("y\n", "list", "publish", "Mine")
         self.assertEqual((status, self.read(path)), (0, STRICT))
@@ -117,7 +117,7 @@ class Publishing(ProgramTest):
         self.write(self.target(PLACES[2]), "changed")
         run = self.run_program("list", "publish", "--undo", "Mine")
         self.assertEqual((run.returncode, run.stdout.decode()), (2, f"removed: {self.target(PLACES[1])}\n"))
-        self.assertEqual(run.stderr.decode().count("has been changed since"), 2)
+        self.assertEqual(run.stderr.decode().count("has changed since it was published"), 2)
         self.assertEqual(self.read(self.target(PLACES[0])), STRICT + b"9 9 9\tmy own\n")
         # With the published contents restored, it can be undone after all.
         self.write(self.target(PLACES[2]), STRICT)

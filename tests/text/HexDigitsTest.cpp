@@ -24,10 +24,10 @@ TEST(HexDigitsTest, DigitsHaveTheirValues)
 
 TEST(HexDigitsTest, OtherUnitsAreNotDigits)
 {
-    int digits = 0;
+    int count = 0;
     for (int c = 0; c <= 0xFFFF; ++c)
-        digits += isHexDigit(static_cast<char16_t>(c)) ? 1 : 0;
-    EXPECT_EQ(digits, 22);
+        count += isHexDigit(static_cast<char16_t>(c)) ? 1 : 0;
+    EXPECT_EQ(count, 22);
     // The neighbours of the digits, full-width and Arabic ones, and units whose low byte is a
     // digit.
     for (const char16_t c : {u'/', u':', u'@', u'G', u'`', u'g', u'\0', u'\uFF11', u'\u0661',
