@@ -433,6 +433,22 @@
         <source>the session bus has gone</source>
         <translation>der Sitzungsbus ist weg</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened (%2)</source>
+        <translation>„%1“ lässt sich nicht öffnen (%2)</translation>
+    </message>
+    <message>
+        <source>remove the access-control list with &quot;setfacl -b&quot;</source>
+        <translation>entfernen Sie die Zugriffsliste mit „setfacl -b“</translation>
+    </message>
+    <message>
+        <source>the access-control list of &quot;%1&quot; cannot be read</source>
+        <translation>die Zugriffsliste (ACL) von „%1“ lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>another user can write to &quot;%1&quot;</source>
+        <translation>ein anderer Benutzer darf in „%1“ schreiben</translation>
+    </message>
 </context>
 <context>
     <name>PaletteRemarks</name>

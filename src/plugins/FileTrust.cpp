@@ -1,12 +1,17 @@
 #include "plugins/FileTrust.h"
 
-#include <grp.h>
+#include "plugins/WriteAccess.h"
+
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstring>
 #include <filesystem>
-#include <optional>
 #include <vector>
 
 namespace vantorel {
@@ -15,103 +20,227 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr uid_t administrator = 0;
+/// As many as the kernel follows.
+constexpr int mostLinks = 40;
 
-enum class Sticky { counts, doesNotCount };
+/// The file does not exist.
+struct Missing {};
+using Obstacle = std::variant<Missing, Message>;
 
-/// Whether the user is the only member of a group. Many systems create such a group for each user.
-bool isGroupOfTheUserAlone(gid_t group, uid_t user)
+std::string pathOfDescriptor(const Descriptor& descriptor)
 {
-    const struct passwd* account = ::getpwuid(user);
-    if (account == nullptr || account->pw_gid != group) return false;
-    const std::string name = account->pw_name;
-    const struct group* row = ::getgrgid(group);
-    if (row == nullptr || name != row->gr_name) return false;
-    for (char** member = row->gr_mem; *member != nullptr; ++member) {
-        if (name != *member) return false;
-    }
-    return true;
+    return "/proc/self/fd/" + std::to_string(descriptor.value());
 }
 
-Status checkThatOthersCannotWrite(const fs::path& path, const struct stat& status, Sticky sticky,
-                                  uid_t user)
+/// Neither path has links.
+bool isBelow(const std::string& path, const std::string& folder)
 {
-    if (sticky == Sticky::counts && (status.st_mode & S_ISVTX) != 0) return {};
-    if ((status.st_mode & S_IWOTH) != 0) {
-        return Message{phrase("all users can write to \"%1\"", path.string()),
-                       phrase("remove the permission with \"chmod o-w\"")};
-    }
-    if ((status.st_mode & S_IWGRP) != 0 && status.st_uid != administrator &&
-        !isGroupOfTheUserAlone(status.st_gid, user)) {
-        return Message{phrase("a group can write to \"%1\"", path.string()),
-                       phrase("remove the permission with \"chmod g-w\"")};
-    }
-    return {};
+    return folder == "/" ? path.size() > 1
+                         : path.size() > folder.size() && path.starts_with(folder) &&
+                               path[folder.size()] == '/';
 }
 
-/// Returns the owner of this program, who can change what it does even without plug-ins.
-uid_t ownerOfThisProgram()
-{
-    struct stat status {};
-    return ::stat("/proc/self/exe", &status) == 0 ? status.st_uid : administrator;
-}
+/// Follows a path through open folders, and checks what it comes by.
+class TrustedWalk {
+public:
+    explicit TrustedWalk(const TrustedUsers& users) : _users(users) {}
 
-Status checkOwner(const fs::path& path, const struct stat& status, uid_t user)
-{
-    const uid_t owner = status.st_uid;
-    if (owner == administrator || owner == user || owner == ownerOfThisProgram()) return {};
-    return Message{phrase("\"%1\" belongs to another user", path.string())};
-}
-
-std::optional<struct stat> statusOf(const fs::path& path)
-{
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
-    return status;
-}
-
-/// Checks the parent folders, because whoever can write to one can replace the folder below it.
-/// Their owners are not checked: where users keep their files is up to them.
-Status checkFoldersAbove(const fs::path& folder, uid_t user)
-{
-    for (fs::path above = folder.parent_path(); !above.empty(); above = above.parent_path()) {
-        if (const auto status = statusOf(above)) {
-            Status trust = checkThatOthersCannotWrite(above, *status, Sticky::counts, user);
-            if (!trust) return trust;
+    Result<TrustedFile, Obstacle> follow(const std::string& path)
+    {
+        addAhead(path);
+        Descriptor root(::open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
+        if (!root) return failureOf("/");
+        _folders.push_back({std::move(root), "/", {}});
+        while (!_ahead.empty()) {
+            const std::string name = std::move(_ahead.back());
+            _ahead.pop_back();
+            if (name == "..") {
+                if (_folders.size() > 1) _folders.pop_back();
+                continue;
+            }
+            if (Status trust = checkFolderOnTheWay(_folders.back()); !trust)
+                return Obstacle(trust.error());
+            const std::string shown = pathIn(_folders.back().path, name);
+            Descriptor file(uninterrupted([&] {
+                return ::openat(_folders.back().descriptor.value(), name.c_str(),
+                                O_PATH | O_NOFOLLOW | O_CLOEXEC);
+            }));
+            struct stat status {};
+            if (!file || ::fstat(file.value(), &status) != 0) return failureOf(shown);
+            if (S_ISLNK(status.st_mode)) {
+                if (Status trust = followLink(file, shown, status); !trust)
+                    return Obstacle(trust.error());
+            } else if (S_ISDIR(status.st_mode)) {
+                _folders.push_back({std::move(file), shown, name});
+            } else if (_ahead.empty()) {
+                return lastOne(std::move(file), shown, name);
+            } else {
+                return Obstacle(Missing{});
+            }
         }
-        if (above == above.parent_path()) break;
+        return lastFolder();
     }
-    return {};
-}
 
-/// Returns the given path and, if it contains links, the path of their target. Both are checked,
-/// because a link can be replaced by whoever can write to its folder.
-std::vector<fs::path> waysTo(const std::string& path)
+private:
+    struct Folder {
+        Descriptor descriptor;
+        std::string path;
+        std::string name;
+        bool isChecked = false;
+        bool isSticky = false;
+    };
+
+    void addAhead(const std::string& path)
+    {
+        std::vector<std::string> names;
+        for (const fs::path& name : fs::path(path).relative_path()) {
+            if (!name.empty() && name != ".") names.push_back(name.string());
+        }
+        _ahead.insert(_ahead.end(), names.rbegin(), names.rend());
+    }
+
+    static std::string pathIn(const std::string& folder, const std::string& name)
+    {
+        return folder.ends_with('/') ? folder + name : folder + '/' + name;
+    }
+
+    static Obstacle failureOf(const std::string& path)
+    {
+        if (errno == ENOENT || errno == ENOTDIR) return Missing{};
+        return Message{phrase("\"%1\" cannot be opened (%2)", path, std::strerror(errno))};
+    }
+
+    Status checkOwner(const std::string& path, const struct stat& status) const
+    {
+        const uid_t owner = status.st_uid;
+        if (owner == administrator || owner == _users.user) return {};
+        if (owner == _users.programOwner && (path == _users.prefix || isBelow(path, _users.prefix)))
+            return {};
+        return Message{phrase("\"%1\" belongs to another user", path)};
+    }
+
+    Status checkFolderOnTheWay(Folder& folder) const
+    {
+        if (folder.isChecked) return {};
+        struct stat status {};
+        if (::fstat(folder.descriptor.value(), &status) != 0)
+            return std::get<Message>(failureOf(folder.path));
+        const bool isAboveOurs =
+            isBelow(_users.home, folder.path) || isBelow(_users.prefix, folder.path);
+        Status trust = isAboveOurs ? Status() : checkOwner(folder.path, status);
+        folder.isSticky = (status.st_mode & S_ISVTX) != 0;
+        if (trust && !folder.isSticky) {
+            trust = checkThatOthersCannotWrite(
+                {pathOfDescriptor(folder.descriptor), folder.path, status}, _users.user);
+        }
+        folder.isChecked = trust.isOk();
+        return trust;
+    }
+
+    Status followLink(const Descriptor& link, const std::string& path, const struct stat& status)
+    {
+        // All users can make links in a sticky folder.
+        if (Status trust = checkOwner(path, status); !trust && _folders.back().isSticky)
+            return trust;
+        if (++_links > mostLinks)
+            return Message{phrase("\"%1\" cannot be opened (%2)", path, std::strerror(ELOOP))};
+        std::array<char, PATH_MAX> target{};
+        const ssize_t size = ::readlinkat(link.value(), "", target.data(), target.size());
+        if (size <= 0) {
+            return Message{phrase("\"%1\" cannot be opened (%2)", path, std::strerror(errno))};
+        }
+        while (target.front() == '/' && _folders.size() > 1)
+            _folders.pop_back();
+        addAhead({target.data(), static_cast<std::size_t>(size)});
+        return {};
+    }
+
+    Result<TrustedFile, Obstacle> lastOne(Descriptor file, const std::string& path,
+                                          const std::string& name)
+    {
+        struct stat status {};
+        if (::fstat(file.value(), &status) != 0) return failureOf(path);
+        Status trust = checkOwner(path, status);
+        if (trust)
+            trust = checkThatOthersCannotWrite({pathOfDescriptor(file), path, status}, _users.user);
+        if (!trust) return Obstacle(trust.error());
+        return TrustedFile{std::move(file), std::move(_folders.back().descriptor), name,
+                           S_ISREG(status.st_mode)};
+    }
+
+    Result<TrustedFile, Obstacle> lastFolder()
+    {
+        Folder last = std::move(_folders.back());
+        if (_folders.size() > 1) _folders.pop_back();
+        return lastOne(std::move(last.descriptor), last.path, last.name);
+    }
+
+    const TrustedUsers& _users;
+    /// The names that are still to be followed, the next one last.
+    std::vector<std::string> _ahead;
+    /// The folders from the root to the one that has been reached.
+    std::vector<Folder> _folders;
+    int _links = 0;
+};
+
+Result<TrustedFile, Obstacle> walkTo(const std::string& path, const TrustedUsers& users)
 {
     std::error_code error;
-    std::vector<fs::path> ways{fs::absolute(path, error).lexically_normal()};
+    const fs::path absolute = fs::absolute(path, error);
+    if (error)
+        return Obstacle(Message{phrase("\"%1\" cannot be opened (%2)", path, error.message())});
+    return TrustedWalk(users).follow(absolute.string());
+}
+
+/// Returns a path without links, or an empty text.
+std::string realPath(const fs::path& path)
+{
+    std::error_code error;
     const fs::path real = fs::canonical(path, error);
-    if (!error && real != ways.front()) ways.push_back(real);
-    return ways;
+    return error ? std::string() : real.string();
 }
 
 }  // namespace
 
-Status checkTrust(const std::string& path)
+TrustedUsers TrustedUsers::ofThisProcess()
 {
-    return checkTrust(path, ::geteuid());
+    TrustedUsers users;
+    users.user = ::geteuid();
+    const std::string program = realPath("/proc/self/exe");
+    struct stat status {};
+    if (!program.empty() && ::stat("/proc/self/exe", &status) == 0) {
+        users.prefix = fs::path(program).parent_path().parent_path().string();
+        // Everything is below the root.
+        if (users.prefix != "/") users.programOwner = status.st_uid;
+    }
+    const struct passwd* account = ::getpwuid(users.user);
+    if (account != nullptr) users.home = realPath(account->pw_dir);
+    return users;
 }
 
-Status checkTrust(const std::string& path, uid_t user)
+std::string TrustedFile::path() const
 {
-    for (const fs::path& way : waysTo(path)) {
-        const auto status = statusOf(way);
-        if (!status) continue;
-        Status trust = checkOwner(way, *status, user);
-        if (trust) trust = checkThatOthersCannotWrite(way, *status, Sticky::doesNotCount, user);
-        if (trust) trust = checkFoldersAbove(way, user);
-        if (!trust) return trust;
-    }
-    return {};
+    return pathOfDescriptor(file);
+}
+
+std::string TrustedFile::pathInFolder() const
+{
+    return pathOfDescriptor(folder) + '/' + name;
+}
+
+Result<TrustedFile> openTrusted(const std::string& path, const TrustedUsers& users)
+{
+    Result<TrustedFile, Obstacle> found = walkTo(path, users);
+    if (found) return *std::move(found);
+    if (const auto* message = std::get_if<Message>(&found.error())) return *message;
+    return Message{verbatim(std::strerror(ENOENT))};
+}
+
+Status checkTrust(const std::string& path, const TrustedUsers& users)
+{
+    const Result<TrustedFile, Obstacle> found = walkTo(path, users);
+    if (found || std::holds_alternative<Missing>(found.error())) return {};
+    return std::get<Message>(found.error());
 }
 
 }  // namespace vantorel

@@ -15,55 +15,80 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The resources in the folder beside the library: those of `NAME.so` are in `NAME.resources`.
+std::string resourcesOfLibrary(const std::string& libraryFile)
+{
+    return fs::path(libraryFile).replace_extension(".resources").string();
+}
+
+/// The resources in the folder beside the library: those of `NAME.so` are in `NAME.resources`. They
+/// steer the plug-in's code, so each must be as trustworthy as the library.
 class FolderBundle final : public HostBundle {
 public:
-    explicit FolderBundle(const std::string& libraryFile)
-        : _folder(fs::path(libraryFile).replace_extension(".resources"))
+    explicit FolderBundle(const std::string& libraryFile) : _folder(resourcesOfLibrary(libraryFile))
     {
     }
 
     [[nodiscard]] std::optional<std::string> resource(const std::string& name) const override
     {
-        if (!isFileName(name)) return std::nullopt;
-        std::ifstream file(_folder / name, std::ios::binary);
+        const auto found = openResource(name);
+        if (!found) return std::nullopt;
+        std::ifstream file(found->path(), std::ios::binary);
         if (!file) return std::nullopt;
         return std::string(std::istreambuf_iterator<char>(file), {});
     }
 
     [[nodiscard]] std::optional<std::string> pathOfResource(const std::string& name) const override
     {
-        if (!isFileName(name)) return std::nullopt;
+        if (!openResource(name)) return std::nullopt;
         std::error_code error;
         const fs::path path = fs::absolute(_folder / name, error);
-        if (error || !fs::is_regular_file(path, error)) return std::nullopt;
+        if (error) return std::nullopt;
         return path.lexically_normal().string();
     }
 
 private:
-    /// Rejects names that would lead out of the folder.
-    static bool isFileName(const std::string& name)
+    /// Returns a regular file.
+    [[nodiscard]] std::optional<TrustedFile> openResource(const std::string& name) const
     {
-        return !name.empty() && name.find('/') == std::string::npos;
+        // Rejects names that would lead out of the folder.
+        if (name.empty() || name.find('/') != std::string::npos) return std::nullopt;
+        auto found = openTrusted(_folder / name);
+        if (!found || !found->isRegular) return std::nullopt;
+        return *std::move(found);
     }
 
     fs::path _folder;
 };
 
+/// Loads the library that was checked, not what has its name by now. It is never closed: see
+/// LoadedPlugin. Never null.
+Result<void*> loadLibrary(TrustedFile library, const std::string& file)
+{
+    // Through the folder, so that the library finds its own path and, by $ORIGIN, libraries beside
+    // it. The descriptors stay open: another library must not get a name that the dynamic loader
+    // knows. It recognises a library that is loaded again by its inode.
+    static std::vector<TrustedFile> libraries;
+    const std::string path = libraries.emplace_back(std::move(library)).pathInFolder();
+    void* loaded = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (loaded != nullptr) return loaded;
+    const char* error = ::dlerror();
+    libraries.pop_back();
+    if (error == nullptr) return Message{phrase("it cannot be loaded")};
+    std::string reason = error;
+    if (reason.starts_with(path)) reason.replace(0, path.size(), file);
+    return Message{verbatim(reason)};
+}
+
 /// Loads a library and returns its plug-in, which is never null.
 Result<const HostPlugin*> pluginOfLibrary(const std::string& file)
 {
-    if (const Status trust = checkTrust(file); !trust) return trust.error();
-    std::error_code error;
-    // Opening a pipe would block the panel.
-    if (fs::exists(file, error) && !fs::is_regular_file(file, error))
-        return Message{phrase("it is not a regular file")};
-    // The library is never closed: see LoadedPlugin.
-    void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) {
-        const char* reason = ::dlerror();
-        return Message{reason != nullptr ? verbatim(reason) : phrase("it cannot be loaded")};
-    }
+    auto trusted = openTrusted(file);
+    if (!trusted) return trusted.error();
+    if (!trusted->isRegular) return Message{phrase("it is not a regular file")};
+    if (const Status trust = checkTrust(resourcesOfLibrary(file)); !trust) return trust.error();
+    const Result<void*> loaded = loadLibrary(*std::move(trusted), file);
+    if (!loaded) return loaded.error();
+    void* library = *loaded;
     const auto* abi = static_cast<const std::uint32_t*>(::dlsym(library, "vantorelPluginABI"));
     if (abi == nullptr)
         return Message{phrase("it is not a picker plug-in (it lacks vantorelPluginABI)")};
@@ -165,7 +190,6 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
             load(file, search);
     }
     for (const std::string& file : files) {
-        // Made absolute, because dlopen searches the system's folders for a name without "/".
         load(fs::absolute(file).string(), search);
     }
     return search;
