@@ -1,11 +1,21 @@
 #pragma once
 
 #include "listformats/ListContents.h"
+#include "result/Result.h"
+
+#include <string_view>
 
 namespace vantorel {
 
-/// Reads a JSON list: `{"name": ..., "colors": [{"name": ..., "hex": ...}]}`, only the array, or an
-/// object of names and colours. Returns `std::nullopt` if the text is not JSON or has another form.
-[[nodiscard]] std::optional<ListContents> readJsonList(std::string_view text);
+/// The maximum number of arrays and objects inside each other. Lists have at most three; the rest
+/// is for what other programs store beside the colours. The limit keeps a file of brackets from
+/// taking many times its size in memory.
+inline constexpr std::size_t deepestJson = 64;
+
+/// Reads `{"name": ..., "colors": [{"name": ..., "hex": ...}]}`, the array alone, or an object of
+/// names and colours. In arrays, colours without a name may be strings. Of members with the same
+/// name, the last one counts. The text is read once and not kept, so memory grows only with the
+/// colours.
+[[nodiscard]] Result<ListContents> readJsonList(std::string_view text);
 
 }  // namespace vantorel

@@ -68,13 +68,8 @@ Result<ListFile> readColorList(std::string_view bytes, const std::string& fileNa
     const std::string_view content = withoutListBlanks(bytes);
     const bool isStyleSheet = form == "css" || form == "scss";
     if (!isStyleSheet && (content.starts_with('{') || content.starts_with('['))) {
-        const auto json = readJsonList(content);
-        if (!json) {
-            return Message{
-                phrase("it is not a JSON colour list"),
-                phrase("write %1",
-                       R"({"name": NAME, "colors": [{"name": NAME, "hex": "#ff8000"}]})")};
-        }
+        const Result<ListContents> json = readJsonList(content);
+        if (!json) return json.error();
         return listOf(*json, fileName);
     }
     return listOf(isStyleSheet ? readStyleSheet(bytes) : readColorLines(bytes), fileName);

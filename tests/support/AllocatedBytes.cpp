@@ -1,0 +1,37 @@
+#include "AllocatedBytes.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<std::size_t> bytes{0};
+
+}  // namespace
+
+namespace vantorel {
+
+std::size_t allocatedBytes()
+{
+    return bytes;
+}
+
+}  // namespace vantorel
+
+void* operator new(std::size_t size)
+{
+    bytes += size;
+    if (void* memory = std::malloc(size > 0 ? size : 1)) return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
