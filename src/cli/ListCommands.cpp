@@ -134,11 +134,10 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 
 int printLists(Session& session, const CommandLine& commandLine)
 {
-    for (const std::u16string& name : session.lists().names()) {
+    for (const auto& [name, path] : session.lists().all()) {
         const auto list = session.lists().listNamed(name);
         // The list has been removed since the folder was read.
         if (!list) continue;
-        const auto path = session.lists().pathOfList(name);
         const std::string count = std::to_string(list->allKeys().size());
         std::string line;
         if (commandLine.json) {

@@ -73,20 +73,19 @@ std::shared_ptr<HostColorList> UserLists::requiredList(const std::string& utf8Na
     return list;
 }
 
-std::vector<std::u16string> UserLists::names()
+std::vector<UserLists::Entry> UserLists::all()
 {
-    std::vector<std::u16string> names = _store.availableColorLists();
-    for (const std::u16string& name : allHexColorListNames()) {
-        const auto place = std::lower_bound(names.begin(), names.end(), name);
-        if (place == names.end() || *place != name) names.insert(place, name);
+    std::vector<Entry> lists;
+    for (ListedPalette& listed : _store.listedPalettes()) {
+        const bool isHidden = !listed.isOwn() && isBuiltIn(listed.name);
+        lists.push_back({std::move(listed.name),
+                         isHidden ? std::nullopt : std::optional(std::move(listed.path))});
     }
-    return names;
-}
-
-std::optional<std::string> UserLists::pathOfList(const std::u16string& name)
-{
-    if (isBuiltIn(name)) return _store.pathOfOwnList(name);
-    return _store.pathOfList(name);
+    for (const std::u16string& name : allHexColorListNames()) {
+        const auto place = std::ranges::lower_bound(lists, name, {}, &Entry::name);
+        if (place == lists.end() || place->name != name) lists.insert(place, {name, std::nullopt});
+    }
+    return lists;
 }
 
 std::u16string ColorNamer::title(const ColorNameMatch& match) const

@@ -25,10 +25,13 @@ public:
     [[nodiscard]] std::shared_ptr<HostColorList> listNamed(const std::u16string& name);
     /// Like `listNamed`, but throws a `Failure` if there is none.
     [[nodiscard]] std::shared_ptr<HostColorList> requiredList(const std::string& utf8Name);
-    /// Returns the names of all lists, sorted.
-    [[nodiscard]] std::vector<std::u16string> names();
-    /// Returns the file of a list; `std::nullopt` for a built-in list that has not been saved.
-    [[nodiscard]] std::optional<std::string> pathOfList(const std::u16string& name);
+    struct Entry {
+        std::u16string name;
+        /// The list's file; `std::nullopt` for a built-in list that has not been saved.
+        std::optional<std::string> path;
+    };
+    /// Returns all lists, sorted by name. The folders are looked at once, however many there are.
+    [[nodiscard]] std::vector<Entry> all();
 
 private:
     [[nodiscard]] bool isSaved(const std::u16string& name);
