@@ -1,5 +1,9 @@
 #include "plugins/PluginLoader.h"
 
+#include "testing/headless/HeadlessColorPanel.h"
+#include "testing/headless/HeadlessDesktop.h"
+#include "testing/headless/MemoryFiles.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -21,6 +25,25 @@ TEST(PluginLoaderTest, ACompatiblePluginIsLoaded)
     EXPECT_TRUE(search.problems.empty());
     ASSERT_EQ(search.plugins.size(), 1U);
     EXPECT_STREQ(search.plugins.front().plugin().identifier, "good-plugin");
+}
+
+TEST(PluginLoaderTest, APickerIsCreatedOrTheReasonIsReported)
+{
+    HeadlessDesktop desktop{{std::make_unique<MemoryFiles>(), 0.6, {}}};
+    HeadlessColorPanel panel{desktop, {200, 400, 260, 340}, HostColor::whiteColor()};
+    const auto search =
+        loadPlugins({}, {plugins + "/good-plugin.so", plugins + "/throwing-plugin.so",
+                         plugins + "/empty-plugin.so"});
+    ASSERT_EQ(search.plugins.size(), 3U);
+    const auto picker = search.plugins[0].makePicker(panel);
+    ASSERT_TRUE(picker);
+    EXPECT_EQ((*picker)->buttonToolTip(), u"Test");
+    const auto throwing = search.plugins[1].makePicker(panel);
+    ASSERT_FALSE(throwing);
+    EXPECT_EQ(english(throwing.error()), "it failed to create its page: on purpose");
+    const auto empty = search.plugins[2].makePicker(panel);
+    ASSERT_FALSE(empty);
+    EXPECT_EQ(english(empty.error()), "it did not create a page");
 }
 
 TEST(PluginLoaderTest, APluginOfAnotherABIIsNotCalled)
