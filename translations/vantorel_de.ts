@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
-    <name>ColorClipboard</name>
-    <message>
-        <source>That is a long text, not a colour.</source>
-        <translation>Das ist ein langer Text, keine Farbe.</translation>
-    </message>
-    <message>
-        <source>%1 is outside sRGB; this is the nearest colour inside.</source>
-        <translation>%1 liegt außerhalb von sRGB; dies ist die nächste Farbe darin.</translation>
-    </message>
-    <message>
-        <source>There is no colour to paste: copy one, or a CSS text such as #ff8000.</source>
-        <translation>Es gibt keine Farbe einzufügen: Kopieren Sie eine, oder einen CSS-Text wie #ff8000.</translation>
-    </message>
-</context>
-<context>
     <name>ListFileFilters</name>
     <message>
         <source>GIMP palettes</source>
@@ -390,10 +375,6 @@
         <translation>%1 und %2</translation>
     </message>
     <message>
-        <source>This desktop offers no way to pick a colour: %1.</source>
-        <translation>Dieser Desktop bietet keine Möglichkeit, eine Farbe aufzunehmen: %1.</translation>
-    </message>
-    <message>
         <source>there is no X11 display</source>
         <translation>es gibt keine X11-Anzeige</translation>
     </message>
@@ -449,63 +430,189 @@
         <source>another user can write to &quot;%1&quot;</source>
         <translation>ein anderer Benutzer darf in „%1“ schreiben</translation>
     </message>
-</context>
-<context>
-    <name>PaletteRemarks</name>
     <message>
-        <source>&quot;%1&quot; could not be saved, so nothing was changed. May you write in %2, and is there room on the disk?</source>
-        <translation>„%1“ ließ sich nicht sichern, darum wurde nichts geändert. Dürfen Sie in %2 schreiben, und ist Platz auf dem Datenträger?</translation>
+        <source>&quot;%1&quot; could not be saved, so nothing was changed</source>
+        <translation>„%1“ ließ sich nicht sichern, darum wurde nichts geändert</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; could not be removed. May you write in %2?</source>
-        <translation>„%1“ ließ sich nicht entfernen. Dürfen Sie in %2 schreiben?</translation>
+        <source>check that you can write to %1 and that the disk has room</source>
+        <translation>prüfen Sie, ob Sie in %1 schreiben dürfen und ob auf dem Datenträger Platz ist</translation>
     </message>
     <message>
-        <source>The file of &quot;%1&quot; could not be removed, so the list is there under both names.</source>
-        <translation>Die Datei von „%1“ ließ sich nicht entfernen; die Liste ist nun unter beiden Namen da.</translation>
+        <source>&quot;%1&quot; could not be removed</source>
+        <translation>„%1“ ließ sich nicht entfernen</translation>
     </message>
     <message>
-        <source>The name was taken; the list is called &quot;%1&quot;.</source>
-        <translation>Der Name war vergeben; die Liste heißt „%1“.</translation>
+        <source>check that you can write to %1</source>
+        <translation>prüfen Sie, ob Sie in %1 schreiben dürfen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s is as it was.</source>
-        <translation>„%1“ ist nun Ihre eigene Liste; die des anderen Programms ist, wie sie war.</translation>
+        <source>the file of &quot;%1&quot; could not be removed, so the list exists under both names</source>
+        <translation>die Datei von „%1“ ließ sich nicht entfernen, darum gibt es die Liste unter beiden Namen</translation>
     </message>
     <message>
-        <source>Another program had changed &quot;%1&quot;, too. It now holds both changes.</source>
-        <translation>Ein anderes Programm hatte „%1“ auch geändert. Die Liste enthält nun beide Änderungen.</translation>
+        <source>the name was taken, so the list is called &quot;%1&quot;</source>
+        <translation>der Name war vergeben, darum heißt die Liste „%1“</translation>
     </message>
     <message>
-        <source>Another program had changed the same. Its list is as it was; yours is &quot;%1&quot;.</source>
-        <translation>Ein anderes Programm hatte dasselbe geändert. Seine Liste ist, wie sie war; Ihre heißt „%1“.</translation>
+        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s list is unchanged</source>
+        <translation>„%1“ ist nun Ihre eigene Liste; die des anderen Programms ist unverändert</translation>
     </message>
     <message>
-        <source>Another program had removed &quot;%1&quot;. It is there again, with your change.</source>
-        <translation>Ein anderes Programm hatte „%1“ entfernt. Die Liste ist wieder da, mit Ihrer Änderung.</translation>
+        <source>another program had changed &quot;%1&quot; too; it now has both changes</source>
+        <translation>ein anderes Programm hatte „%1“ auch geändert; die Liste enthält nun beide Änderungen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stays: another program has changed it meanwhile. Look at it before you remove it.</source>
-        <translation>„%1“ bleibt: Ein anderes Programm hat die Liste inzwischen geändert. Sehen Sie sie an, ehe Sie sie entfernen.</translation>
+        <source>another program had changed the same list; its version is unchanged, and yours was saved as &quot;%1&quot;</source>
+        <translation>ein anderes Programm hatte dieselbe Liste geändert; seine Fassung ist unverändert, Ihre wurde als „%1“ gesichert</translation>
     </message>
     <message>
-        <source>What another program has changed in &quot;%1&quot; since was left as it is.</source>
-        <translation>Was ein anderes Programm seither in „%1“ geändert hat, blieb, wie es ist.</translation>
+        <source>another program had removed &quot;%1&quot;; it was restored with your change</source>
+        <translation>ein anderes Programm hatte „%1“ entfernt; die Liste wurde mit Ihrer Änderung wiederhergestellt</translation>
     </message>
     <message>
-        <source>The file of &quot;%1&quot; had comments or damaged lines. It is kept beside the new one, with a &quot;~&quot; behind its name.</source>
-        <translation>Die Datei von „%1“ hatte Kommentare oder beschädigte Zeilen. Sie bleibt neben der neuen, mit „~“ hinter ihrem Namen.</translation>
-    </message>
-</context>
-<context>
-    <name>RunningPanel</name>
-    <message>
-        <source>The panel that runs already does not answer; this one is another.</source>
-        <translation>Das Fenster, das schon läuft, antwortet nicht; dies ist ein weiteres.</translation>
+        <source>another program has changed &quot;%1&quot;, so it was not removed</source>
+        <translation>ein anderes Programm hat „%1“ geändert, darum wurde die Liste nicht entfernt</translation>
     </message>
     <message>
-        <source>Another program has the name %1 on the session bus: other programs cannot reach this panel.</source>
-        <translation>Ein anderes Programm hat den Namen %1 auf dem Sitzungsbus: Andere Programme erreichen dieses Fenster nicht.</translation>
+        <source>check its colours before you remove it</source>
+        <translation>prüfen Sie ihre Farben, ehe Sie sie entfernen</translation>
+    </message>
+    <message>
+        <source>the step was undone only in part: later changes by another program to &quot;%1&quot; were kept</source>
+        <translation>der Schritt wurde nur zum Teil zurückgenommen: spätere Änderungen eines anderen Programms an „%1“ blieben erhalten</translation>
+    </message>
+    <message>
+        <source>the file of &quot;%1&quot; had comments or damaged lines; the original was kept, with &quot;~&quot; appended to its name</source>
+        <translation>die Datei von „%1“ hatte Kommentare oder beschädigte Zeilen; das Original blieb erhalten, mit „~“ am Ende des Namens</translation>
+    </message>
+    <message>
+        <source>no colour was picked</source>
+        <translation>es wurde keine Farbe aufgenommen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a form of a colour</source>
+        <translation>„%1“ ist keine Form einer Farbe</translation>
+    </message>
+    <message>
+        <source>use one of: %1</source>
+        <translation>möglich sind: %1</translation>
+    </message>
+    <message>
+        <source>the desktop lets only the active window copy, and did not activate the panel</source>
+        <translation>der Desktop lässt nur das aktive Fenster kopieren und hat dieses nicht aktiviert</translation>
+    </message>
+    <message>
+        <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
+        <translation>das Fenster hat seinen Namen auf dem Sitzungsbus verloren: andere Programme erreichen es nicht mehr</translation>
+    </message>
+    <message>
+        <source>the panel was closed</source>
+        <translation>das Fenster wurde geschlossen</translation>
+    </message>
+    <message>
+        <source>the session bus has gone: other programs can no longer reach the panel</source>
+        <translation>der Sitzungsbus ist weg: andere Programme erreichen das Fenster nicht mehr</translation>
+    </message>
+    <message>
+        <source>the panel that is already running does not answer, so a second one was started</source>
+        <translation>das Fenster, das schon läuft, antwortet nicht, darum wurde ein zweites gestartet</translation>
+    </message>
+    <message>
+        <source>another program has the name %1 on the session bus: other programs cannot reach this panel</source>
+        <translation>ein anderes Programm hat den Namen %1 auf dem Sitzungsbus: andere Programme erreichen dieses Fenster nicht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed by another program</source>
+        <translation>„%1“ wurde von einem anderen Programm entfernt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>a pattern cannot be added to a list</source>
+        <translation>ein Muster lässt sich keiner Liste hinzufügen</translation>
+    </message>
+    <message>
+        <source>lists store no opacity, so the colour was added without it</source>
+        <translation>Listen speichern keine Deckkraft, darum wurde die Farbe ohne sie hinzugefügt</translation>
+    </message>
+    <message>
+        <source>the name was taken, so the colour is called &quot;%1&quot;</source>
+        <translation>der Name war vergeben, darum heißt die Farbe „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed</source>
+        <translation>„%1“ wurde entfernt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>„%1“ lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 64 MiB that you can read</source>
+        <translation>prüfen Sie, ob es eine Datei von höchstens 64 MiB ist, die Sie lesen dürfen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour list that can be read</source>
+        <translation>„%1“ ist keine lesbare Farbliste</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
+        <translation>nehmen Sie eine Palette von GIMP oder KDE, CSS, SCSS, JSON, eine Swatch-Exchange-Datei oder einen Text mit einer Farbe pro Zeile</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been imported</source>
+        <translation>„%1“ wurde importiert</translation>
+    </message>
+    <message>
+        <source>lines that are not colours were left out: %1</source>
+        <translation>ausgelassene Zeilen, die keine Farben sind: %1</translation>
+    </message>
+    <message>
+        <source>saved as %1</source>
+        <translation>gesichert als %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written</source>
+        <translation>„%1“ ließ sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder and that the disk has room</source>
+        <translation>prüfen Sie, ob Sie in den Ordner schreiben dürfen und ob auf dem Datenträger Platz ist</translation>
+    </message>
+    <message>
+        <source>only files on this computer can be imported</source>
+        <translation>nur Dateien auf diesem Rechner lassen sich importieren</translation>
+    </message>
+    <message>
+        <source>that is a long text, not a colour</source>
+        <translation>das ist ein langer Text, keine Farbe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside sRGB; this is the nearest colour inside</source>
+        <translation>„%1“ liegt außerhalb von sRGB; dies ist die nächste Farbe darin</translation>
+    </message>
+    <message>
+        <source>there is no colour to paste</source>
+        <translation>es gibt keine Farbe einzufügen</translation>
+    </message>
+    <message>
+        <source>copy a colour, or a CSS text such as #ff8000</source>
+        <translation>kopieren Sie eine Farbe oder einen CSS-Text wie #ff8000</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copied</source>
+        <translation>„%1“ kopiert</translation>
+    </message>
+    <message>
+        <source>this desktop offers no way to pick a colour: %1</source>
+        <translation>dieser Desktop bietet keinen Weg, eine Farbe aufzunehmen: %1</translation>
+    </message>
+    <message>
+        <source>choose Undo to restore it</source>
+        <translation>wählen Sie „Rückgängig“, um die Liste wiederherzustellen</translation>
     </message>
 </context>
 <context>
@@ -729,13 +836,6 @@
     </message>
 </context>
 <context>
-    <name>vantorel::ColorExchange</name>
-    <message>
-        <source>Copied: %1</source>
-        <translation>Kopiert: %1</translation>
-    </message>
-</context>
-<context>
     <name>vantorel::ContrastLabel</name>
     <message>
         <source>yes</source>
@@ -869,13 +969,6 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
-    <name>vantorel::PaletteSession</name>
-    <message>
-        <source>the folder of palettes</source>
-        <translation>dem Ordner der Paletten</translation>
-    </message>
-</context>
-<context>
     <name>vantorel::PalettesPage</name>
     <message>
         <source>Palettes</source>
@@ -933,14 +1026,6 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Keine Farbe enthält dies in Name oder Hex-Code.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has been removed by another program.</source>
-        <translation>„%1“ wurde von einem anderen Programm entfernt.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been changed by another program.</source>
-        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
-    </message>
-    <message>
         <source>New list</source>
         <translation>Neue Liste</translation>
     </message>
@@ -953,56 +1038,12 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Meine Farben</translation>
     </message>
     <message>
-        <source>A pattern cannot be kept in a list.</source>
-        <translation>Ein Muster lässt sich nicht in einer Liste aufheben.</translation>
-    </message>
-    <message>
-        <source>A list keeps no opacity; the colour was added without it.</source>
-        <translation>Eine Liste bewahrt keine Deckkraft; die Farbe wurde ohne sie hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>The name was taken; the colour is called &quot;%1&quot;.</source>
-        <translation>Der Name war vergeben; die Farbe heißt „%1“.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been removed. Undo brings it back.</source>
-        <translation>„%1“ wurde entfernt. Rückgängig holt es zurück.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be read.</source>
-        <translation>„%1“ lässt sich nicht lesen.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a colour list that can be read. Supported are palettes of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text with one colour a line.</source>
-        <translation>„%1“ ist keine Farbliste, die sich lesen lässt. Unterstützt werden Paletten von GIMP und KDE, CSS, SCSS, JSON, Swatch-Exchange-Dateien und Text mit einer Farbe je Zeile.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been imported.</source>
-        <translation>„%1“ wurde übernommen.</translation>
-    </message>
-    <message>
-        <source>Lines that are no colours were left out: %1.</source>
-        <translation>Zeilen, die keine Farben sind, wurden ausgelassen: %1.</translation>
-    </message>
-    <message>
-        <source>Saved as %1.</source>
-        <translation>Gesichert als %1.</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. May you write there, and is there room on the disk?</source>
-        <translation>%1 ließ sich nicht schreiben. Dürfen Sie dort schreiben, und ist Platz auf dem Datenträger?</translation>
-    </message>
-    <message>
         <source>Import palette files</source>
         <translation>Palettendateien übernehmen</translation>
     </message>
     <message>
         <source>Save a copy</source>
         <translation>Kopie sichern</translation>
-    </message>
-    <message>
-        <source>Only files of this computer can be imported.</source>
-        <translation>Nur Dateien dieses Rechners lassen sich übernehmen.</translation>
     </message>
 </context>
 <context>
@@ -1062,44 +1103,6 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Copy as</source>
         <translation>Kopieren als</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::PanelRequests</name>
-    <message>
-        <source>That is a long text, not a colour.</source>
-        <translation>Das ist ein langer Text, keine Farbe.</translation>
-    </message>
-    <message>
-        <source>%1 is outside sRGB; this is the nearest colour inside.</source>
-        <translation>%1 liegt außerhalb von sRGB; dies ist die nächste Farbe darin.</translation>
-    </message>
-    <message>
-        <source>Nothing was picked.</source>
-        <translation>Es wurde nichts aufgenommen.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no form of a colour; there are: %2.</source>
-        <translation>„%1“ ist keine Form einer Farbe; es gibt: %2.</translation>
-    </message>
-    <message>
-        <source>The desktop lets only the window in front copy, and has not brought the panel there.</source>
-        <translation>Der Desktop lässt nur das vorderste Fenster kopieren und hat dieses nicht nach vorn geholt.</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::PanelService</name>
-    <message>
-        <source>The panel has lost its name on the session bus: other programs cannot reach it any more.</source>
-        <translation>Das Fenster hat seinen Namen auf dem Sitzungsbus verloren: Andere Programme erreichen es nicht mehr.</translation>
-    </message>
-    <message>
-        <source>The panel was closed.</source>
-        <translation>Das Fenster wurde geschlossen.</translation>
-    </message>
-    <message>
-        <source>The session bus has gone: other programs cannot reach the panel any more.</source>
-        <translation>Der Sitzungsbus ist weg: Andere Programme erreichen das Fenster nicht mehr.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "paletteedit/PaletteEditor.h"
 
 #include "colorlists/PaletteFile.h"
+#include "paletteedit/EditMessages.h"
 #include "paletteedit/FreeNames.h"
 #include "paletteedit/PaletteMerge.h"
 #include "text/Unicode.h"
@@ -166,7 +167,7 @@ EditOutcome PaletteEditor::rename(PaletteId id, const std::u16string& name)
     if (record->program.empty()) return doFirst({id, record->state, after});
     EditOutcome outcome = doFirst({++_lastId, std::nullopt, after});
     if (outcome.done) {
-        outcome.remarks.push_back({EditRemark::copiedFirst, recordOf(outcome.list)->state->name});
+        outcome.messages.push_back(editmessages::copiedFirst(recordOf(outcome.list)->state->name));
     }
     return outcome;
 }
@@ -205,7 +206,7 @@ EditOutcome PaletteEditor::setEntries(PaletteId id, PaletteEntries entries)
     if (!done) return outcome;
     outcome.done = true;
     outcome.list = step.list;
-    outcome.remarks.push_back({EditRemark::copiedFirst, name});
+    outcome.messages.push_back(editmessages::copiedFirst(name));
     _history.record(std::move(*done));
     return outcome;
 }
@@ -218,7 +219,7 @@ EditOutcome PaletteEditor::doFirst(const EditStep& step)
         wanted.after && (!wanted.before || wanted.before->name != wanted.after->name);
     if (getsNewName) {
         const std::u16string free = freeListName(wanted.after->name, step.list, Among::allLists);
-        if (free != wanted.after->name) outcome.remarks.push_back({EditRemark::otherName, free});
+        if (free != wanted.after->name) outcome.messages.push_back(editmessages::otherName(free));
         wanted.after->name = free;
     }
     auto done = commit(wanted, Occasion::first, outcome);
@@ -271,7 +272,7 @@ std::optional<EditStep> PaletteEditor::commit(const EditStep& step, Occasion occ
         if (record != nullptr && _files.versionAtPath(record->path) != 0) return step;
         state.name = freeListName(state.name, 0, Among::ownLists);
         if (state.name != step.after->name)
-            outcome.remarks.push_back({EditRemark::otherName, state.name});
+            outcome.messages.push_back(editmessages::otherName(state.name));
     }
     return commitNew(step.list, std::move(state), outcome);
 }
@@ -284,7 +285,7 @@ std::optional<EditStep> PaletteEditor::commitNew(PaletteId id, PaletteState stat
     if (state.bytes != nullptr && *state.bytes != text) state.bytes = nullptr;
     const auto path = _store.writeNewFile(list, text);
     if (!path) {
-        outcome.remarks.push_back({EditRemark::notSaved, state.name});
+        outcome.messages.push_back(notSaved(state.name));
         return std::nullopt;
     }
     Record record;
@@ -306,7 +307,7 @@ std::optional<EditStep> PaletteEditor::commitRemoval(const EditStep& step, Occas
     if (record != nullptr) readIfChanged(*record);
     const bool again = occasion == Occasion::again;
     if (record != nullptr && isUnreadable(*record)) {
-        outcome.remarks.push_back({EditRemark::notRemoved, step.before->name});
+        outcome.messages.push_back(notRemoved(step.before->name));
         return std::nullopt;
     }
     if (record == nullptr || record->version == 0) {
@@ -314,14 +315,14 @@ std::optional<EditStep> PaletteEditor::commitRemoval(const EditStep& step, Occas
         return EditStep{step.list, step.before, std::nullopt};
     }
     if (!record->state || *record->state->entries != *step.before->entries) {
-        outcome.remarks.push_back({EditRemark::changedMeanwhile, step.before->name});
+        outcome.messages.push_back(editmessages::changedMeanwhile(step.before->name));
         // Count the step as undone anyway; otherwise the steps before it could never be undone.
         if (again) return EditStep{step.list, step.before, step.before};
         return std::nullopt;
     }
     const PaletteState before = *record->state;
     if (!_removeFile(record->path)) {
-        outcome.remarks.push_back({EditRemark::notRemoved, before.name});
+        outcome.messages.push_back(notRemoved(before.name));
         return std::nullopt;
     }
     _idsOfPaths.erase(record->path);
@@ -335,7 +336,7 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
     Record* record = recordOf(step.list);
     if (record != nullptr) readIfChanged(*record);
     if (record != nullptr && isUnreadable(*record)) {
-        outcome.remarks.push_back({EditRemark::notSaved, step.after->name});
+        outcome.messages.push_back(notSaved(step.after->name));
         return std::nullopt;
     }
     const bool isGone = record == nullptr || record->version == 0;
@@ -344,8 +345,8 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
         // the list gets a new file.
         PaletteState state = *step.after;
         state.name = freeListName(state.name, step.list, Among::ownLists);
-        outcome.remarks.push_back(
-            {isGone ? EditRemark::madeAgain : EditRemark::keptBoth, state.name});
+        outcome.messages.push_back(isGone ? editmessages::restored(state.name)
+                                          : editmessages::keptBoth(state.name));
         if (record != nullptr) _idsOfPaths.erase(record->path);
         auto made = commitNew(step.list, std::move(state), outcome);
         if (made) made->before = step.before;
@@ -357,13 +358,13 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
         PaletteMerge merge = mergePalettes(*step.before->entries, *wanted.entries, *now.entries);
         if (!merge.contradictions.empty() && occasion == Occasion::first) {
             wanted.name = freeListName(wanted.name, 0, Among::allLists);
-            outcome.remarks.push_back({EditRemark::keptBoth, wanted.name});
+            outcome.messages.push_back(editmessages::keptBoth(wanted.name));
             return commitNew(++_lastId, std::move(wanted), outcome);
         }
         if (!merge.contradictions.empty()) {
-            outcome.remarks.push_back({EditRemark::partlyUndone, now.name});
+            outcome.messages.push_back(editmessages::partlyUndone(now.name));
         } else if (occasion == Occasion::first) {
-            outcome.remarks.push_back({EditRemark::merged, now.name});
+            outcome.messages.push_back(editmessages::merged(now.name));
         }
         wanted.entries = std::make_shared<const PaletteEntries>(std::move(merge.entries));
         wanted.bytes = nullptr;
@@ -375,13 +376,23 @@ std::optional<EditStep> PaletteEditor::commitChange(const EditStep& step, Occasi
     return EditStep{step.list, now, wanted};
 }
 
+Message PaletteEditor::notSaved(std::u16string_view name) const
+{
+    return editmessages::notSaved(name, _store.folders().front());
+}
+
+Message PaletteEditor::notRemoved(std::u16string_view name) const
+{
+    return editmessages::notRemoved(name, _store.folders().front());
+}
+
 bool PaletteEditor::keepOriginal(const Record& record, EditOutcome& outcome)
 {
     const std::string path = record.path + "~";
     if (!record.hasOtherLines || !record.state || record.state->bytes == nullptr) return true;
     if (_files.contentsAtPath(path) == *record.state->bytes) return true;
     if (!_files.writeAtomically(path, *record.state->bytes)) return false;
-    outcome.remarks.push_back({EditRemark::keptOriginal, record.state->name});
+    outcome.messages.push_back(editmessages::keptOriginal(record.state->name));
     return true;
 }
 
@@ -401,12 +412,12 @@ bool PaletteEditor::save(PaletteId id, Record& record, const PaletteState& state
         if (saved) {
             _idsOfPaths.erase(path);
             if (!_removeFile(path))
-                outcome.remarks.push_back({EditRemark::oldFileStayed, record.state->name});
+                outcome.messages.push_back(editmessages::oldFileStayed(record.state->name));
             path = *newPath;
         }
     }
     if (!saved) {
-        outcome.remarks.push_back({EditRemark::notSaved, record.state->name});
+        outcome.messages.push_back(notSaved(record.state->name));
         return false;
     }
     record.path = path;

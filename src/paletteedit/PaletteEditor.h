@@ -2,6 +2,7 @@
 
 #include "colorlists/PaletteFileStore.h"
 #include "paletteedit/EditHistory.h"
+#include "result/Message.h"
 
 #include <functional>
 #include <map>
@@ -9,45 +10,16 @@
 
 namespace vantorel {
 
-/// Events of a step that are reported to the user.
-enum class EditRemark {
-    /// The list could not be saved and is unchanged.
-    notSaved,
-    /// The list's file could not be removed.
-    notRemoved,
-    /// The old file of a renamed list could not be removed, so the list exists twice.
-    oldFileStayed,
-    /// The name was taken. `name` is the new name of the list.
-    otherName,
-    /// The list belonged to another program. It has been copied to `name`, a list of the user's
-    /// own.
-    copiedFirst,
-    /// Another program had changed the list. Both changes have been merged.
-    merged,
-    /// Another program had changed the same colours or damaged the file. The user's list has been
-    /// saved separately as `name`.
-    keptBoth,
-    /// Another program had removed the list. It has been restored.
-    madeAgain,
-    /// Another program has changed the list since it was read, so it has not been removed.
-    changedMeanwhile,
-    /// The step could be undone only in part, because another program has since changed the same
-    /// colours.
-    partlyUndone,
-    /// The file contained lines that editing would lose. The original has been kept under its name
-    /// with "~" appended.
-    keptOriginal,
-};
-
+/// What a step has led to.
 struct EditOutcome {
     bool done = false;
     /// The list to show now; 0 if there is none, for example after a removal.
     PaletteId list = 0;
-    struct Remark {
-        EditRemark kind;
-        std::u16string name;
-    };
-    std::vector<Remark> remarks;
+    /// What the user should know. A step that changes nothing because there was nothing to change
+    /// has no messages.
+    std::vector<Message> messages = {};
+
+    [[nodiscard]] bool hasFailed() const { return !done && !messages.empty(); }
 };
 
 /// A list that can be edited.
@@ -137,6 +109,8 @@ private:
     std::optional<EditStep> commitChange(const EditStep& step, Occasion occasion,
                                          EditOutcome& outcome);
     bool save(PaletteId id, Record& record, const PaletteState& state, EditOutcome& outcome);
+    [[nodiscard]] Message notSaved(std::u16string_view name) const;
+    [[nodiscard]] Message notRemoved(std::u16string_view name) const;
     bool keepOriginal(const Record& record, EditOutcome& outcome);
     EditOutcome doFirst(const EditStep& step);
     EditOutcome doAgain(const EditStep& step, void (EditHistory::*move)());

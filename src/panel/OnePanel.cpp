@@ -1,5 +1,6 @@
 #include "panel/OnePanel.h"
 
+#include "hosts/qt/QtMessages.h"
 #include "panel/Output.h"
 #include "panel/bus/ServiceLifetime.h"
 
@@ -12,10 +13,10 @@ namespace {
 /// Prints how an order has ended, and returns the exit status.
 int report(const PanelOrder& order, const PanelAnswer& answer)
 {
-    using Kind = PanelRefusal::Kind;
+    using Kind = PanelError::Kind;
     if (!answer) {
-        const auto& [kind, sentence] = answer.error();
-        printProblem(sentence);
+        const auto& [kind, message] = answer.error();
+        printProblem(translatedSentence(message));
         if (kind == Kind::cancelled) return cancelled;
         return kind == Kind::notPossible ? notPossible : usageError;
     }
@@ -84,13 +85,13 @@ int OnePanel::run()
 
     PanelRequests requests(window);
     PanelService service(requests, QDBusConnection::sessionBus());
-    const auto warn = [&window](const QString& sentence) {
-        printProblem(sentence);
-        window.showRemark(sentence);
+    const auto warn = [&window](const Message& message) {
+        printProblem(translatedSentence(message));
+        window.showMessage(message);
     };
     QObject::connect(&service, &PanelService::unreachable, &window, warn);
     if (const auto status = takeName(service)) return *status;
-    if (const QString remark = RunningPanel::remarkOn(_contact); !remark.isEmpty()) warn(remark);
+    if (const Status status = RunningPanel::statusAfter(_contact); !status) warn(status.error());
 
     const int status = _order.step != PanelOrder::Step::show ? runForOrder(requests)
                        : _options.service                    ? runForCalls(service, requests)

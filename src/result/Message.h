@@ -115,6 +115,7 @@ struct Message {
     /// Empty if `what` makes it obvious.
     Phrase remedy = {};
 
+    [[nodiscard]] bool isEmpty() const { return what.isEmpty(); }
     bool operator==(const Message&) const = default;
 };
 

@@ -11,7 +11,7 @@ Message messageOf(const std::vector<PickMethod::Failure>& failures)
     for (const PickMethod::Failure& failure : failures) {
         clauses = clauses.isEmpty() ? failure.clause : phrase("%1 and %2", clauses, failure.clause);
     }
-    return {phrase("This desktop offers no way to pick a colour: %1.", clauses)};
+    return {phrase("this desktop offers no way to pick a colour: %1", clauses)};
 }
 
 }  // namespace

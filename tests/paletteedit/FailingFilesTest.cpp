@@ -70,7 +70,7 @@ TEST_P(FailingFilesTest, LoseNoList)
         }
         EXPECT_TRUE(outcome.done ? hasAfter : hasBefore) << "call " << failing;
         EXPECT_TRUE(outcome.done || failing != 0);
-        EXPECT_TRUE(outcome.done || !outcome.remarks.empty()) << "call " << failing;
+        EXPECT_TRUE(outcome.done || !outcome.messages.empty()) << "call " << failing;
     }
     EXPECT_GT(calls, 2);
 }

@@ -2,6 +2,7 @@
 
 #include "EntryTexts.h"
 #include "colorlists/PaletteFile.h"
+#include "paletteedit/EditMessages.h"
 #include "paletteedit/EntryEdits.h"
 #include "paletteedit/PaletteEditor.h"
 #include "testing/headless/MemoryFiles.h"
@@ -16,14 +17,15 @@ namespace vantorel {
 class PaletteEditorFixture : public testing::Test {
 protected:
     static constexpr const char* ours = "/home/user/.local/share/Vantorel/Palettes/";
+    static constexpr const char* folder = "/home/user/.local/share/Vantorel/Palettes";
     static constexpr const char* theirs = "/home/user/.local/share/krita/palettes/";
 
     PaletteEditorFixture()
     {
-        for (const char* folder :
+        for (const char* path :
              {"/home/user/.local/share/Vantorel", "/home/user/.local/share/Vantorel/Palettes",
               "/home/user/.local/share/krita", "/home/user/.local/share/krita/palettes"}) {
-            _files.createDirectory(folder);
+            _files.createDirectory(path);
         }
         HostBaseDirectories directories;
         directories.dataHome = "/home/user/.local/share";
@@ -58,13 +60,6 @@ protected:
         for (const EditablePalette& palette : editor.palettes())
             names += (names.empty() ? "" : ", ") + utf8FromUtf16(palette.name);
         return names;
-    }
-    [[nodiscard]] static std::vector<EditRemark> remarksOf(const EditOutcome& outcome)
-    {
-        std::vector<EditRemark> kinds;
-        for (const auto& remark : outcome.remarks)
-            kinds.push_back(remark.kind);
-        return kinds;
     }
     [[nodiscard]] PaletteEditor::RemoveFile remover()
     {

@@ -88,7 +88,7 @@ TEST_F(PaletteEditorTest, EveryStepIsSavedAndCanBeUndoneAndRedone)
             SCOPED_TRACE(std::string("undo: ") + rows[i].what);
             const EditOutcome outcome = editor.undo();
             EXPECT_TRUE(outcome.done);
-            EXPECT_THAT(remarksOf(outcome), IsEmpty());
+            EXPECT_THAT(outcome.messages, IsEmpty());
             EXPECT_EQ(allFiles(), states[i]);
         }
         EXPECT_FALSE(editor.canUndo());
@@ -160,9 +160,9 @@ TEST_F(PaletteEditorTest, AListNameThatIsTakenIsReplacedByAFreeOne)
     PaletteEditor editor(_files, _store, remover());
     for (const char16_t* name : {u"Reds", u"Web"}) {
         const EditOutcome outcome = editor.add(name, {});
-        ASSERT_THAT(remarksOf(outcome), ElementsAre(EditRemark::otherName));
-        EXPECT_EQ(outcome.remarks.front().name, std::u16string(name) + u" 2");
-        EXPECT_EQ(editor.palette(outcome.list)->name, std::u16string(name) + u" 2");
+        const std::u16string freeName = std::u16string(name) + u" 2";
+        EXPECT_THAT(outcome.messages, ElementsAre(editmessages::otherName(freeName)));
+        EXPECT_EQ(editor.palette(outcome.list)->name, freeName);
     }
     const EditOutcome renamed = editor.rename(idOf(editor, "Reds 2"), u"Web");
     EXPECT_EQ(editor.palette(renamed.list)->name, u"Web 3");
@@ -174,7 +174,7 @@ TEST_F(PaletteEditorTest, TheFirstChangeToAForeignListCreatesAUserCopy)
     PaletteEditor editor(_files, _store, remover());
     const PaletteId web = idOf(editor, "Web");
     const EditOutcome outcome = editor.setEntries(web, entriesFrom("w=6"));
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::copiedFirst));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::copiedFirst(u"Web")));
     EXPECT_NE(outcome.list, web);
     EXPECT_TRUE(editor.palette(outcome.list)->isOwn());
     EXPECT_EQ(namesIn(editor), "Web, Web (Krita)");
@@ -197,22 +197,24 @@ TEST_F(PaletteEditorTest, AnEditThatCannotBeSavedIsNotMade)
     struct Row {
         const char* what;
         std::function<EditOutcome()> step;
-        EditRemark remark;
+        Message message;
     };
+    using editmessages::notSaved;
     const std::vector<Row> rows{
-        Row{"change", [&] { return editor.setEntries(reds, {}); }, EditRemark::notSaved},
-        Row{"rename", [&] { return editor.rename(reds, u"x"); }, EditRemark::notSaved},
-        Row{"make", [&] { return editor.add(u"x", {}); }, EditRemark::notSaved},
-        Row{"remove", [&] { return editor.remove(reds); }, EditRemark::notRemoved},
+        Row{"change", [&] { return editor.setEntries(reds, {}); }, notSaved(u"Reds", folder)},
+        Row{"rename", [&] { return editor.rename(reds, u"x"); }, notSaved(u"Reds", folder)},
+        Row{"make", [&] { return editor.add(u"x", {}); }, notSaved(u"x", folder)},
+        Row{"remove", [&] { return editor.remove(reds); },
+            editmessages::notRemoved(u"Reds", folder)},
         Row{"copy first", [&] { return editor.setEntries(idOf(editor, "Web"), {}); },
-            EditRemark::notSaved},
-        Row{"undo", [&] { return editor.undo(); }, EditRemark::notSaved},
+            notSaved(u"Web", folder)},
+        Row{"undo", [&] { return editor.undo(); }, notSaved(u"Reds", folder)},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         const EditOutcome outcome = row.step();
         EXPECT_FALSE(outcome.done);
-        EXPECT_THAT(remarksOf(outcome), ElementsAre(row.remark));
+        EXPECT_THAT(outcome.messages, ElementsAre(row.message));
         EXPECT_EQ(allFiles(), before);
         EXPECT_EQ(textOf(editor.entriesOf(reds)), "a=1 b=2");
         EXPECT_EQ(namesIn(editor), "Reds, Web");
@@ -241,7 +243,7 @@ TEST_F(PaletteEditorTest, AnOldFileThatCannotBeRemovedIsReported)
     _removalFails = true;
     const EditOutcome outcome = editor.rename(idOf(editor, "Reds"), u"New");
     EXPECT_TRUE(outcome.done);
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::oldFileStayed));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::oldFileStayed(u"Reds")));
     EXPECT_EQ(namesIn(editor), "New, Reds");
 }
 
@@ -264,7 +266,7 @@ TEST_F(PaletteEditorTest, AFileWithExtraLinesIsKeptBesideTheEditedOne)
         const PaletteId reds = idOf(editor, "Reds");
         const EditOutcome outcome = editor.setEntries(reds, entriesFrom("z=3"));
         EXPECT_TRUE(outcome.done);
-        EXPECT_EQ(!outcome.remarks.empty(), row.isKept);
+        EXPECT_EQ(!outcome.messages.empty(), row.isKept);
         EXPECT_EQ(_files.contentsAtPath(path + "~").value_or(""), row.isKept ? row.text : "");
         EXPECT_EQ(namesIn(editor), "Reds") << "the kept file is not listed";
         ASSERT_TRUE(editor.undo().done);

@@ -44,7 +44,7 @@ TEST_F(SharedFolderTest, ChangesByBothEditorsAreSaved)
     put(reds, "Reds", "a=1 b=9 t=4");
     const EditOutcome outcome = editor.setEntries(id, mine);
     EXPECT_TRUE(outcome.done);
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::merged));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::merged(u"Reds")));
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 m=3 t=4");
     EXPECT_TRUE(editor.undo().done);
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=9 t=4") << "their change is kept";
@@ -60,8 +60,7 @@ TEST_F(SharedFolderTest, ConflictingChangesCreateASecondList)
         withRecolored(editor.entriesOf(id), {0}, HostColor::blackColor()).entries;
     put(reds, "Reds", "a=9 b=2");
     const EditOutcome outcome = editor.setEntries(id, mine);
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::keptBoth));
-    EXPECT_EQ(outcome.remarks.front().name, u"Reds 2");
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::keptBoth(u"Reds 2")));
     EXPECT_EQ(fileAt(reds), "Reds: a=9 b=2");
     EXPECT_EQ(fileAt(ours + std::string("Reds 2.gpl")), "Reds 2: a=0 b=2");
     EXPECT_TRUE(editor.undo().done);
@@ -77,7 +76,7 @@ TEST_F(SharedFolderTest, AnUndoKeepsLaterChangesByOthers)
     static_cast<void>(editor.refresh());
     const EditOutcome outcome = editor.undo();
     EXPECT_TRUE(outcome.done);
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::partlyUndone));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::partlyUndone(u"Reds")));
     EXPECT_EQ(fileAt(reds), "Reds: a=7 b=2 t=4");
 }
 
@@ -88,7 +87,7 @@ TEST_F(SharedFolderTest, ChangingAListThatOthersRemovedRestoresIt)
     ASSERT_EQ(editor.entriesOf(id).size(), 2U);
     _files.remove(reds);
     const EditOutcome outcome = editor.setEntries(id, entriesFrom("a=1 b=2 m=3"));
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::madeAgain));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::restored(u"Reds")));
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2 m=3");
     _files.remove(reds);
     EXPECT_TRUE(editor.undo().done);
@@ -103,7 +102,7 @@ TEST_F(SharedFolderTest, AListThatOthersChangedIsRemovedOnlyAtTheSecondRequest)
     put(reds, "Reds", "a=1 b=2 t=3");
     EditOutcome outcome = editor.remove(id);
     EXPECT_FALSE(outcome.done);
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::changedMeanwhile));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::changedMeanwhile(u"Reds")));
     EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2 t=3");
     outcome = editor.remove(id);
     EXPECT_TRUE(outcome.done) << "the change has been shown by now";
@@ -118,7 +117,7 @@ TEST_F(SharedFolderTest, UndoingANewListKeepsEntriesThatOthersAdded)
     const std::string path = ours + std::string("New.gpl");
     put(path, "New", "t=3");
     const EditOutcome outcome = editor.undo();
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::changedMeanwhile));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::changedMeanwhile(u"New")));
     EXPECT_EQ(fileAt(path), "New: t=3");
     EXPECT_TRUE(editor.redo().done);
     EXPECT_EQ(fileAt(path), "New: t=3");
@@ -133,7 +132,7 @@ TEST_F(SharedFolderTest, ADamagedFileIsLeftAlone)
     ASSERT_EQ(editor.entriesOf(id).size(), 2U);
     ASSERT_TRUE(_files.writeAtomically(reds, "somebody's notes"));
     const EditOutcome outcome = editor.setEntries(id, entriesFrom("a=1 b=2 m=3"));
-    EXPECT_THAT(remarksOf(outcome), ElementsAre(EditRemark::keptBoth));
+    EXPECT_THAT(outcome.messages, ElementsAre(editmessages::keptBoth(u"Reds")));
     EXPECT_EQ(_files.contentsAtPath(reds), "somebody's notes");
     EXPECT_EQ(fileAt(ours + std::string("Reds 2.gpl")), "Reds: a=1 b=2 m=3");
 }

@@ -113,7 +113,7 @@ TEST_P(HostileOfferTest, LeavesTheColourUnchanged)
     row.fill(data, QDir(_scratch.path()));
     EXPECT_GT(dropEverywhere(data), 0);
     EXPECT_FALSE(colorFromMimeData(data).color.has_value());
-    EXPECT_FALSE(colorFromMimeData(data).remark.isEmpty());
+    EXPECT_FALSE(colorFromMimeData(data).message.isEmpty());
 
     auto held = std::make_unique<QMimeData>();
     for (const QString& format : data.formats())

@@ -25,7 +25,7 @@ TEST_F(PalettesPageTest, DroppedFilesAreImported)
     for (const char* part :
          {"\"Reds 2\" has been imported", "\"b\" has been imported", "left out: 1",
           "\"c.gpl\" is not a colour list", "\"elsewhere\" cannot be read"}) {
-        EXPECT_THAT(remark(), testing::HasSubstr(part));
+        EXPECT_THAT(message(), testing::HasSubstr(part));
     }
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000");
     press(Qt::Key_Z, Qt::ControlModifier);
@@ -43,7 +43,7 @@ TEST_F(PalettesPageTest, ColoursAreDroppedBetweenRows)
     data.setText("no colour");
     EXPECT_FALSE(drop(view()->viewport(), data, second.topLeft()));
     EXPECT_EQ(own("Reds"), "red=ff0000 #00FF00=00ff00 dark=c00000 darker=800000 darkest=400000");
-    EXPECT_NE(remark(), "");
+    EXPECT_NE(message(), "");
 }
 
 TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
@@ -53,7 +53,7 @@ TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), QByteArray(reds));
     page()->saveCopy(at("no/such/folder/copy.gpl"));
-    EXPECT_THAT(remark(), testing::HasSubstr("could not be written"));
+    EXPECT_THAT(message(), testing::HasSubstr("could not be written"));
 }
 
 TEST_F(PalettesPageTest, EveryFormatIsSavedAndImported)
@@ -71,7 +71,7 @@ TEST_F(PalettesPageTest, EveryFormatIsSavedAndImported)
             EXPECT_EQ(file.readAll().toStdString(), format.write(*list)) << ending;
             if (!format.isRead) continue;
             page()->importFiles({path});
-            EXPECT_NE(shownList(), "Reds") << ending << remark();
+            EXPECT_NE(shownList(), "Reds") << ending << message();
             EXPECT_EQ(own(lists()->currentText()), original) << ending;
         }
     }
@@ -81,7 +81,7 @@ TEST_F(PalettesPageTest, APictureIsNotImported)
 {
     page()->saveCopy(at("elsewhere/copy.svg"));
     page()->importFiles({at("elsewhere/copy.svg")});
-    EXPECT_THAT(remark(), testing::HasSubstr("\"copy.svg\" is not a colour list"));
+    EXPECT_THAT(message(), testing::HasSubstr("\"copy.svg\" is not a colour list"));
 }
 
 /// Acts as a user without write permission for the test's folders.
@@ -121,14 +121,14 @@ TEST_F(PalettesPageTest, AnUnwritableFolderLosesNoData)
         const ReadOnlyFolder folder(at("data/Vantorel/Palettes"));
         click(0, Qt::ControlModifier);
         press(Qt::Key_Delete);
-        EXPECT_THAT(remark(), testing::HasSubstr("\"Reds\" could not be saved"));
-        EXPECT_THAT(remark(), testing::HasSubstr(at("data/Vantorel/Palettes").toStdString()));
+        EXPECT_THAT(message(), testing::HasSubstr("\"Reds\" could not be saved"));
+        EXPECT_THAT(message(), testing::HasSubstr(at("data/Vantorel/Palettes").toStdString()));
         EXPECT_EQ(shownNames(), "red dark darker darkest");
         command("Remove the list")->trigger();
-        EXPECT_THAT(remark(), testing::HasSubstr("could not be removed"));
+        EXPECT_THAT(message(), testing::HasSubstr("could not be removed"));
         EXPECT_EQ(shownList(), "Reds");
         press(Qt::Key_N, Qt::ControlModifier);
-        EXPECT_THAT(remark(), testing::HasSubstr("could not be saved"));
+        EXPECT_THAT(message(), testing::HasSubstr("could not be saved"));
         EXPECT_FALSE(command("Undo")->isEnabled());
     }
     EXPECT_EQ(own("Reds"), before);

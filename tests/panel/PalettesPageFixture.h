@@ -92,9 +92,9 @@ protected:
     {
         return static_cast<PalettesWidget*>(child<QWidget>("palettesPage"));
     }
-    [[nodiscard]] std::string remark() const
+    [[nodiscard]] std::string message() const
     {
-        return child<QLabel>("paletteRemark")->text().toStdString();
+        return child<QLabel>("paletteMessage")->text().toStdString();
     }
     [[nodiscard]] std::string shownList() const { return lists()->currentText().toStdString(); }
     [[nodiscard]] std::string shownNames() const

@@ -25,7 +25,7 @@ TEST_F(PalettesPageTest, AnAddedColourAsksForItsName)
     click(1, Qt::ControlModifier);
     press(Qt::Key_Insert);
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 #00FF00=00ff00 darker=800000 darkest=400000");
-    EXPECT_THAT(remark(), testing::HasSubstr("opacity"));
+    EXPECT_THAT(message(), testing::HasSubstr("opacity"));
     typeName("green");
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 green=00ff00 darker=800000 darkest=400000");
     _window->colors().setColor(rgb(250, 0, 0));
@@ -108,11 +108,11 @@ TEST_F(PalettesPageTest, ListsAreCreatedRenamedCopiedAndRemoved)
     press(Qt::Key_F2, Qt::ShiftModifier);
     typeName("Blues");
     EXPECT_EQ(shownList(), "Blues 2");
-    EXPECT_THAT(remark(), testing::HasSubstr("\"Blues 2\""));
+    EXPECT_THAT(message(), testing::HasSubstr("\"Blues 2\""));
     command("Remove the list")->trigger();
     EXPECT_EQ(own("Blues 2"), "none");
     EXPECT_NE(own("Blues"), "none");
-    EXPECT_THAT(remark(), testing::HasSubstr("Undo"));
+    EXPECT_THAT(message(), testing::HasSubstr("Undo"));
     command("Undo")->trigger();
     EXPECT_EQ(own("Blues 2"), own("Reds"));
     EXPECT_EQ(shownList(), "Blues 2");
@@ -138,7 +138,7 @@ TEST_F(PalettesPageTest, ColoursAreRenamedInPlace)
     press(Qt::Key_F2);
     typeName("red");
     EXPECT_EQ(own("Reds"), "red=ff0000 red 2=c00000 darker=800000 darkest=400000");
-    EXPECT_THAT(remark(), testing::HasSubstr("taken"));
+    EXPECT_THAT(message(), testing::HasSubstr("taken"));
     click(2);
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, middleOf(2));
     typeName("  tomato ");
@@ -161,7 +161,7 @@ TEST_F(PalettesPageTest, TheFirstChangeToAForeignListCreatesAUserCopy)
     EXPECT_EQ(own("Web"), "teal=090909");
     EXPECT_EQ(shownList(), "Web");
     EXPECT_FALSE(child<QLabel>("paletteOwnership")->isVisible());
-    EXPECT_THAT(remark(), testing::HasSubstr("of your own"));
+    EXPECT_THAT(message(), testing::HasSubstr("of your own"));
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(own("Web"), "none");
     EXPECT_EQ(rowsAt("data/krita/palettes/Web.gpl"), before);
@@ -177,7 +177,7 @@ TEST_F(PalettesPageTest, ChangesByOthersShowAutomatically)
               0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shownNames() == "new darker"; }));
     EXPECT_EQ(view()->selectedPlaces(), (std::vector<std::size_t>{1})) << "the same as before";
-    EXPECT_THAT(remark(), testing::HasSubstr("another program"));
+    EXPECT_THAT(message(), testing::HasSubstr("another program"));
     put("data/Vantorel/Palettes/Reds.gpl", "GIMP Palette\nName: Reds\n9 9 9\twritten in place\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return shownNames() == "written in place"; }));
     put("data/Vantorel/Palettes/Added.gpl", "GIMP Palette\nName: Added\n9 9 9\tx\n");
@@ -185,7 +185,7 @@ TEST_F(PalettesPageTest, ChangesByOthersShowAutomatically)
     EXPECT_EQ(shownList(), "Reds");
     QFile::remove(at("data/Vantorel/Palettes/Reds.gpl"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return shownList() != "Reds"; }));
-    EXPECT_THAT(remark(), testing::HasSubstr("removed by another program"));
+    EXPECT_THAT(message(), testing::HasSubstr("removed by another program"));
 }
 
 TEST_F(PalettesPageTest, ChangesByBothSidesAreMerged)
@@ -196,7 +196,7 @@ TEST_F(PalettesPageTest, ChangesByBothSidesAreMerged)
     click(0, Qt::ControlModifier);
     press(Qt::Key_Delete);
     EXPECT_EQ(own("Reds"), "dark=be0000 darker=800000 darkest=400000 theirs=090909");
-    EXPECT_THAT(remark(), testing::HasSubstr("both changes"));
+    EXPECT_THAT(message(), testing::HasSubstr("both changes"));
     EXPECT_EQ(shownNames(), "dark darker darkest theirs");
 }
 

@@ -43,7 +43,7 @@ protected:
     }
     static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
     /// The message in the bar, which is also its tool tip; empty if the bar shows the page's name.
-    [[nodiscard]] QString remark() const
+    [[nodiscard]] QString message() const
     {
         return child<QWidget>("topBar")->findChild<QLabel*>()->toolTip();
     }
@@ -162,15 +162,15 @@ TEST_F(PanelCommandsTest, PastingAnInvalidColourChangesNoColourAndSaysWhy)
 {
     for (const QString& text : {QStringLiteral("no colour"), QString(100000, u'x'), QString()}) {
         QApplication::clipboard()->setText(text);
-        _window->showRemark({});
+        _window->showMessage({});
         type(QKeySequence("Ctrl+V"));
         EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
-        EXPECT_FALSE(remark().isEmpty());
+        EXPECT_FALSE(message().isEmpty());
     }
     QMimeData damaged;
     damaged.setData("application/x-color", "12345");
     EXPECT_FALSE(colorFromMimeData(damaged).color.has_value());
-    EXPECT_FALSE(colorFromMimeData(damaged).remark.isEmpty());
+    EXPECT_FALSE(colorFromMimeData(damaged).message.isEmpty());
 }
 
 TEST_F(PanelCommandsTest, PastingAColourOutsideSRGBMapsItAndSaysSo)
@@ -178,7 +178,7 @@ TEST_F(PanelCommandsTest, PastingAColourOutsideSRGBMapsItAndSaysSo)
     QApplication::clipboard()->setText("color(display-p3 1 0 0)");
     type(QKeySequence("Ctrl+V"));
     EXPECT_EQ(chosenColor().red(), 255);
-    EXPECT_TRUE(remark().contains("sRGB"));
+    EXPECT_TRUE(message().contains("sRGB"));
 }
 
 TEST_F(PanelCommandsTest, UndoAndRedoStepThroughTheColours)
@@ -246,10 +246,10 @@ TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(clipboard().text(), "#0A141E") << "picked and copied in one step";
 
-    _pick = {Outcome::notPossible, HostColor::blackColor(), {phrase("Nothing to pick with.")}};
+    _pick = {Outcome::notPossible, HostColor::blackColor(), {phrase("there is no way to pick")}};
     type(QKeySequence("Ctrl+P"));
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
-    EXPECT_EQ(remark(), "Nothing to pick with.");
+    EXPECT_EQ(message(), "There is no way to pick.");
 }
 
 TEST_F(PanelCommandsTest, KeysSwitchPages)

@@ -7,7 +7,7 @@
 namespace vantorel {
 namespace {
 
-using Kind = PanelRefusal::Kind;
+using Kind = PanelError::Kind;
 using Outcome = ScreenPickResult::Outcome;
 
 /// Answers on request of the test.
@@ -74,8 +74,9 @@ TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
 TEST_F(PanelRequestsTest, AnImpossiblePickSaysWhy)
 {
     _requests->pick(true, keep());
-    _picker->answer({Outcome::notPossible, HostColor::blackColor(), {phrase("No screen.")}});
-    const PanelRefusal expected{Kind::notPossible, "No screen."};
+    _picker->answer(
+        {Outcome::notPossible, HostColor::blackColor(), {phrase("there is no screen")}});
+    const PanelError expected{Kind::notPossible, {phrase("there is no screen")}};
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{expected});
 }
 
@@ -110,9 +111,9 @@ TEST_F(PanelRequestsTest, APanelWithoutAWindowExitsOnceEveryRequestIsAnswered)
 TEST(PanelNamesTest, EveryErrorIsReadBackFromItsName)
 {
     for (Kind kind : {Kind::notAColor, Kind::noSuchForm, Kind::cancelled, Kind::notPossible})
-        EXPECT_EQ(refusalKindFor(errorNameFor(kind)), kind);
+        EXPECT_EQ(errorKindFor(errorNameFor(kind)), kind);
     EXPECT_EQ(errorNameFor(Kind::notAColor), "org.vantorel.ColorPanel1.Error.NotAColor");
-    EXPECT_EQ(refusalKindFor("org.freedesktop.DBus.Error.NoReply"), std::nullopt);
+    EXPECT_EQ(errorKindFor("org.freedesktop.DBus.Error.NoReply"), std::nullopt);
 }
 
 }  // namespace

@@ -114,8 +114,8 @@ TEST_F(DesktopScreenPickerTest, reportsInOneSentenceWhatIsMissing)
     _magnifier->answer(noDisplay);
     const auto sentence = ResultOf(
         reasonOf,
-        "This desktop offers no way to pick a colour: the desktop portal has no PickColor and "
-        "there is no X11 display.");
+        "this desktop offers no way to pick a colour: the desktop portal has no PickColor and "
+        "there is no X11 display");
     EXPECT_THAT(results(), ElementsAre(sentence));
 
     start();
@@ -183,8 +183,8 @@ TEST(makeScreenPicker, reportsWhatIsMissingWithoutBusAndScreen)
     for (int i = 0; i < 1000 && results.empty(); ++i)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     EXPECT_THAT(results, ElementsAre(ResultOf(reasonOf,
-                                              "This desktop offers no way to pick a colour: there "
-                                              "is no session bus and there is no X11 display.")));
+                                              "this desktop offers no way to pick a colour: there "
+                                              "is no session bus and there is no X11 display")));
 }
 
 }  // namespace

@@ -22,4 +22,10 @@ QString translated(const Message& message)
     return words;
 }
 
+QString translatedSentence(const Message& message)
+{
+    const QString words = translated(message);
+    return words.isEmpty() ? words : words.front().toUpper() + words.mid(1) + u'.';
+}
+
 }  // namespace vantorel

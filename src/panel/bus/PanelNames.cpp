@@ -6,7 +6,7 @@
 namespace vantorel {
 namespace {
 
-using Kind = PanelRefusal::Kind;
+using Kind = PanelError::Kind;
 
 constexpr std::array errorNames{
     std::pair{Kind::notAColor, "NotAColor"},
@@ -22,7 +22,7 @@ QString errorName(const char* last)
 
 }  // namespace
 
-QString errorNameFor(PanelRefusal::Kind kind)
+QString errorNameFor(PanelError::Kind kind)
 {
     for (const auto& [row, last] : errorNames) {
         if (row == kind) return errorName(last);
@@ -30,7 +30,7 @@ QString errorNameFor(PanelRefusal::Kind kind)
     return {};
 }
 
-std::optional<PanelRefusal::Kind> refusalKindFor(const QString& name)
+std::optional<PanelError::Kind> errorKindFor(const QString& name)
 {
     for (const auto& [row, last] : errorNames) {
         if (errorName(last) == name) return row;

@@ -18,8 +18,8 @@ inline const QString panelInterface = QStringLiteral("org.vantorel.ColorPanel1")
 inline const QString activationTokenKey = QStringLiteral("activation-token");
 inline const QString startupIDKey = QStringLiteral("desktop-startup-id");
 
-[[nodiscard]] QString errorNameFor(PanelRefusal::Kind kind);
+[[nodiscard]] QString errorNameFor(PanelError::Kind kind);
 /// Empty for an error that the panel does not send.
-[[nodiscard]] std::optional<PanelRefusal::Kind> refusalKindFor(const QString& errorName);
+[[nodiscard]] std::optional<PanelError::Kind> errorKindFor(const QString& errorName);
 
 }  // namespace vantorel

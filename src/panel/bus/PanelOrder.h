@@ -30,18 +30,18 @@ struct PanelOrder {
     ActivationToken token;
 };
 
-/// Why the panel has not done what it was asked to.
-struct PanelRefusal {
+/// Why the panel could not carry out an order. The kind decides the exit status and the name of the
+/// D-Bus error.
+struct PanelError {
     enum class Kind { notAColor, noSuchForm, cancelled, notPossible };
 
     Kind kind = Kind::notPossible;
-    /// One sentence for the user.
-    QString sentence;
+    Message message;
 
-    bool operator==(const PanelRefusal&) const = default;
+    bool operator==(const PanelError&) const = default;
 };
 
 /// A text, such as the colour picked or what was copied, which may be empty; or why there is none.
-using PanelAnswer = Result<QString, PanelRefusal>;
+using PanelAnswer = Result<QString, PanelError>;
 
 }  // namespace vantorel

@@ -1,11 +1,11 @@
 #include "panel/bus/PanelRequests.h"
 
-#include "csscolor/CSSColorReader.h"
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtMessages.h"
 #include "panel/bus/ClipboardTurn.h"
+#include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelWindow.h"
+#include "result/HarmlessLine.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,10 +15,6 @@
 
 namespace vantorel {
 namespace {
-
-/// No text that is a colour is longer.
-constexpr qsizetype longestColorText = 4096;
-constexpr qsizetype longestShownText = 40;
 
 QString hexCode(const HostColor& color)
 {
@@ -41,16 +37,9 @@ void PanelRequests::show(const ActivationToken& token)
 
 PanelAnswer PanelRequests::setColor(const QString& text)
 {
-    using Kind = PanelRefusal::Kind;
-    if (text.size() > longestColorText)
-        return PanelRefusal{Kind::notAColor, tr("That is a long text, not a colour.")};
-    const Result<CSSColor> css = readCSSColor(u16From(text));
-    if (!css) return PanelRefusal{Kind::notAColor, translated(css.error()) + u'.'};
-    _window.colors().setColor(css->color);
-    if (css->wasOutsideSRGB) {
-        _window.showRemark(tr("%1 is outside sRGB; this is the nearest colour inside.")
-                               .arg(text.trimmed().left(longestShownText)));
-    }
+    const ColorOffer offer = colorFromText(text);
+    if (!offer.color) return PanelError{PanelError::Kind::notAColor, offer.message};
+    _window.exchange().takeColor(offer);
     return QString();
 }
 
@@ -69,11 +58,11 @@ void PanelRequests::pick(bool copies, Done done)
     ++_underWay;
     const auto take = [this, copies, done = std::move(done)](const ScreenPickResult& result) {
         using Outcome = ScreenPickResult::Outcome;
-        using Kind = PanelRefusal::Kind;
+        using Kind = PanelError::Kind;
         if (result.outcome == Outcome::notPossible) {
-            finish(done, PanelRefusal{Kind::notPossible, translated(result.reason)});
+            finish(done, PanelError{Kind::notPossible, result.reason});
         } else if (result.outcome == Outcome::cancelled) {
-            finish(done, PanelRefusal{Kind::cancelled, tr("Nothing was picked.")});
+            finish(done, PanelError{Kind::cancelled, {phrase("no colour was picked")}});
         } else if (copies) {
             putOnClipboard({},
                            [this, done, picked = hexCode(result.color)](const PanelAnswer& copied) {
@@ -105,21 +94,21 @@ void PanelRequests::putOnClipboard(const QString& form, const Done& done)
         return qStringFrom(text.name) == form;
     });
     if (!form.isEmpty() && chosen == texts.end()) {
-        QStringList names;
+        std::u16string names;
         for (const HostColorText& text : texts)
-            names.append(qStringFrom(text.name));
-        done(PanelRefusal{PanelRefusal::Kind::noSuchForm,
-                          tr("\"%1\" is no form of a colour; there are: %2.")
-                              .arg(form.left(longestShownText), names.join(QStringLiteral(", ")))});
+            names += (names.empty() ? u"" : u", ") + text.name;
+        done(PanelError{PanelError::Kind::noSuchForm,
+                        {phrase("\"%1\" is not a form of a colour", excerpt(form.toStdString())),
+                         phrase("use one of: %1", names)}});
         return;
     }
     const QString text = form.isEmpty() ? QString() : qStringFrom(chosen->text);
     auto* turn = new ClipboardTurn(_window, this);
     connect(turn, &ClipboardTurn::over, this, [this, form, text, done](bool isOurTurn) {
         if (!isOurTurn) {
-            done(PanelRefusal{PanelRefusal::Kind::notPossible,
-                              tr("The desktop lets only the window in front copy, and has not "
-                                 "brought the panel there.")});
+            done(PanelError{PanelError::Kind::notPossible,
+                            {phrase("the desktop lets only the active window copy, and did not "
+                                    "activate the panel")}});
             return;
         }
         if (form.isEmpty()) {

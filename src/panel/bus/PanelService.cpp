@@ -1,6 +1,7 @@
 #include "panel/bus/PanelService.h"
 
 #include "ColorPanelAdaptor.h"
+#include "hosts/qt/QtMessages.h"
 #include "panel/bus/PanelNames.h"
 
 #include <QDBusConnectionInterface>
@@ -61,8 +62,8 @@ PanelService::PanelService(PanelRequests& requests, const QDBusConnection& bus)
             [this](const QString& name) {
                 if (name == panelBusName)
                     emit unreachable(
-                        tr("The panel has lost its name on the session bus: other "
-                           "programs cannot reach it any more."));
+                        {phrase("the panel has lost its name on the session bus: "
+                                "other programs can no longer reach it")});
             });
     _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
                  QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
@@ -76,7 +77,7 @@ PanelService::~PanelService()
 {
     if (!_bus.isConnected()) return;
     disconnect(_bus.interface(), nullptr, this, nullptr);
-    const PanelRefusal closed{PanelRefusal::Kind::cancelled, tr("The panel was closed.")};
+    const PanelError closed{PanelError::Kind::cancelled, {phrase("the panel was closed")}};
     while (!_calls.empty())
         answer(_calls.begin()->first, closed);
     _bus.unregisterObject(panelObjectPath);
@@ -128,7 +129,10 @@ void PanelService::SetColor(const QString& color)
 {
     emit called();
     const PanelAnswer answer = _requests.setColor(color);
-    if (!answer) sendErrorReply(errorNameFor(answer.error().kind), answer.error().sentence);
+    if (!answer) {
+        const auto& [kind, message] = answer.error();
+        sendErrorReply(errorNameFor(kind), translatedSentence(message));
+    }
 }
 
 QString PanelService::GetColor() const
@@ -174,8 +178,8 @@ void PanelService::answer(int call, const PanelAnswer& answer)
     if (answer) {
         _bus.send(message.createReply(*answer));
     } else {
-        const auto& [kind, sentence] = answer.error();
-        _bus.send(message.createErrorReply(errorNameFor(kind), sentence));
+        const auto& [kind, why] = answer.error();
+        _bus.send(message.createErrorReply(errorNameFor(kind), translatedSentence(why)));
     }
 }
 
@@ -207,7 +211,7 @@ void PanelService::busHasGone()
 {
     _calls.clear();
     emit unreachable(
-        tr("The session bus has gone: other programs cannot reach the panel any more."));
+        {phrase("the session bus has gone: other programs can no longer reach the panel")});
 }
 
 }  // namespace vantorel

@@ -61,8 +61,8 @@ signals:
     void ColorChanged(const QString& color);
     /// Somebody has asked something.
     void called() const;
-    /// Other programs cannot reach the panel any more; `why` is one sentence for the user.
-    void unreachable(const QString& why);
+    /// Other programs can no longer reach the panel.
+    void unreachable(const vantorel::Message& why);
 
 private slots:
     void busHasGone();

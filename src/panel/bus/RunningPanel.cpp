@@ -29,6 +29,13 @@ RunningPanel::Contact contactAfter(const QDBusMessage& error)
     }
 }
 
+/// Undoes `translatedSentence` as far as the full stop, which is added again where it is shown.
+Message messageFromSentence(QString sentence)
+{
+    if (sentence.endsWith(u'.')) sentence.chop(1);
+    return {verbatim(sentence.toStdString())};
+}
+
 QVariantMap platformData(const ActivationToken& token)
 {
     QVariantMap data;
@@ -51,8 +58,8 @@ RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList
     const QDBusMessage reply = _bus.call(message, QDBus::Block, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return {Contact::made, reply.arguments().value(0).toString()};
-    if (const auto kind = refusalKindFor(reply.errorName()))
-        return {Contact::made, PanelRefusal{*kind, reply.errorMessage()}};
+    if (const auto kind = errorKindFor(reply.errorName()))
+        return {Contact::made, PanelError{*kind, messageFromSentence(reply.errorMessage())}};
     return {contactAfter(reply), QString()};
 }
 
@@ -76,14 +83,17 @@ RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
     return reply;
 }
 
-QString RunningPanel::remarkOn(Contact contact)
+Status RunningPanel::statusAfter(Contact contact)
 {
     if (contact == Contact::noAnswer)
-        return tr("The panel that runs already does not answer; this one is another.");
+        return Message{
+            phrase("the panel that is already running does not answer, so a second one "
+                   "was started")};
     if (contact == Contact::notAPanel)
-        return tr("Another program has the name %1 on the session bus: other programs cannot reach "
-                  "this panel.")
-            .arg(panelBusName);
+        return Message{
+            phrase("another program has the name %1 on the session bus: other programs "
+                   "cannot reach this panel",
+                   panelBusName.toStdString())};
     return {};
 }
 

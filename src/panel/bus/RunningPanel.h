@@ -2,7 +2,6 @@
 
 #include "panel/bus/PanelOrder.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 
@@ -11,8 +10,6 @@ namespace vantorel {
 /// The panel that has the name on the session bus, as another start of the program sees it. All
 /// calls wait for it.
 class RunningPanel {
-    Q_DECLARE_TR_FUNCTIONS(RunningPanel)
-
 public:
     enum class Contact {
         made,
@@ -37,8 +34,8 @@ public:
 
     /// Has the panel carry out what is ordered. A pick takes as long as the user does.
     [[nodiscard]] Reply handOver(const PanelOrder& order) const;
-    /// What the user should know when contact was not made; empty when that is as usual.
-    [[nodiscard]] static QString remarkOn(Contact contact);
+    /// A success unless the way that contact failed is a problem that the user should know of.
+    [[nodiscard]] static Status statusAfter(Contact contact);
 
 private:
     [[nodiscard]] Reply call(const QString& member, const QVariantList& arguments,

@@ -35,7 +35,8 @@ signals:
     void colorChosen(std::size_t place);
     /// The user drags the selected entries before a place.
     void selectionMoved(std::size_t before);
-    /// Something else is dropped before a place. `offer` may hold no colour, but a remark then.
+    /// Something else is dropped before a place. `offer` has a colour, a message that says why
+    /// there is none, or both.
     void colorDropped(const vantorel::ColorOffer& offer, std::size_t before);
 
 protected:

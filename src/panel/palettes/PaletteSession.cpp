@@ -7,7 +7,7 @@
 namespace vantorel {
 
 PaletteSession::PaletteSession(HostFiles& files, PaletteFileStore& store)
-    : _store(store), _editor(files, store, [](const std::string& path) {
+    : _editor(files, store, [](const std::string& path) {
           return QFile::remove(QFile::decodeName(path.c_str()));
       })
 {
@@ -17,13 +17,6 @@ QString PaletteSession::listName() const
 {
     const EditablePalette* shown = list();
     return shown != nullptr ? qStringFrom(shown->name) : QString();
-}
-
-QString PaletteSession::folder() const
-{
-    const auto folders = _store.folders();
-    return folders.empty() ? tr("the folder of palettes")
-                           : QFile::decodeName(folders.front().c_str());
 }
 
 EditOutcome PaletteSession::addList(const std::u16string& name, const PaletteEntries& entries)

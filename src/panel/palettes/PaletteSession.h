@@ -30,8 +30,6 @@ public:
     [[nodiscard]] const PaletteEntries& entries() { return _editor.entriesOf(_list); }
     /// Empty if no list is shown.
     [[nodiscard]] QString listName() const;
-    /// The folder of the user's own lists, as messages name it.
-    [[nodiscard]] QString folder() const;
     [[nodiscard]] bool canUndo() const { return _editor.canUndo(); }
     [[nodiscard]] bool canRedo() const { return _editor.canRedo(); }
 
@@ -55,7 +53,6 @@ signals:
 private:
     EditOutcome take(const EditOutcome& outcome, const std::vector<std::size_t>& places = {});
 
-    PaletteFileStore& _store;
     PaletteEditor _editor;
     PaletteId _list = 0;
 };

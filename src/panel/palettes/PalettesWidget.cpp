@@ -3,6 +3,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/PanelIcons.h"
+#include "result/HarmlessLine.h"
 
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -101,8 +102,8 @@ void PalettesWidget::makeControls()
     connect(_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &PalettesWidget::showState);
 
-    _remark = new PaletteRemarkLabel(this);
-    _remark->setObjectName(QStringLiteral("paletteRemark"));
+    _message = new PaletteMessageLabel(this);
+    _message->setObjectName(QStringLiteral("paletteMessage"));
     _count = newLabel(this, "paletteCount");
     _count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     _count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
@@ -130,7 +131,7 @@ void PalettesWidget::layOutControls()
     rows->addWidget(_ownership);
     rows->addWidget(_filter);
     rows->addWidget(_view, 1);
-    rows->addWidget(_remark);
+    rows->addWidget(_message);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(0);
     std::vector<QWidget*> tabOrder{_lists, menuButton, _filter, _view};
@@ -224,11 +225,11 @@ void PalettesWidget::lookAtDisk()
             places.push_back(i);
     }
     _view->selectPlaces(places);
-    const QString name = qStringFrom(found->name);
-    _remark->showRemark(_session.listId() != shown
-                            ? tr("\"%1\" has been removed by another program.").arg(name)
-                            : tr("\"%1\" has been changed by another program.").arg(name),
-                        RemarkKind::news);
+    const std::string name = excerpt(qStringFrom(found->name).toStdString());
+    _message->showMessage(
+        {_session.listId() != shown ? phrase("\"%1\" has been removed by another program", name)
+                                    : phrase("\"%1\" has been changed by another program", name)},
+        MessageKind::news);
 }
 
 }  // namespace vantorel

@@ -3,7 +3,7 @@
 #include "panel/palettes/PaletteCommands.h"
 #include "panel/palettes/PaletteEntriesView.h"
 #include "panel/palettes/PaletteListChooser.h"
-#include "panel/palettes/PaletteRemarkLabel.h"
+#include "panel/palettes/PaletteMessageLabel.h"
 #include "panel/palettes/PaletteSession.h"
 #include "panel/palettes/PaletteWatch.h"
 
@@ -50,7 +50,7 @@ protected:
 
 private:
     using Command = PaletteCommands::Command;
-    using RemarkKind = PaletteRemarkLabel::Kind;
+    using MessageKind = PaletteMessageLabel::Kind;
 
     // PalettesWidget.cpp: what is seen
 
@@ -86,7 +86,7 @@ private:
     QLabel* _ownership = nullptr;
     QLineEdit* _filter = nullptr;
     PaletteEntriesView* _view = nullptr;
-    PaletteRemarkLabel* _remark = nullptr;
+    PaletteMessageLabel* _message = nullptr;
     QLabel* _count = nullptr;
 };
 

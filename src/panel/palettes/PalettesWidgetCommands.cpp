@@ -3,8 +3,8 @@
 #include "paletteedit/FreeNames.h"
 #include "paletteedit/ProposedName.h"
 #include "panel/palettes/ListFileFilters.h"
-#include "panel/palettes/PaletteRemarks.h"
 #include "panel/palettes/PalettesWidget.h"
+#include "result/HarmlessLine.h"
 
 #include <QDragEnterEvent>
 #include <QFile>
@@ -19,7 +19,7 @@
 namespace vantorel {
 namespace {
 
-/// A file beyond this is no palette that anybody has made.
+/// Larger files are rejected unread; nobody makes palettes that big.
 constexpr qint64 largestFile = qint64{64} << 20;
 
 }  // namespace
@@ -118,8 +118,8 @@ void PalettesWidget::showStep(const EditOutcome& outcome, const std::vector<std:
     if (_session.listId() != _lists->shownList()) _filter->clear();
     showCurrentList();
     if (outcome.done && !places.empty()) _view->selectPlaces(places);
-    _remark->showRemark(textOfRemarks(outcome, _session.folder()),
-                        isFailure(outcome) ? RemarkKind::failure : RemarkKind::news);
+    _message->showMessages(outcome.messages,
+                           outcome.hasFailed() ? MessageKind::failure : MessageKind::news);
 }
 
 void PalettesWidget::addColors(std::size_t before, const PaletteEntries& colors)
@@ -135,7 +135,8 @@ void PalettesWidget::addColors(std::size_t before, const PaletteEntries& colors)
 void PalettesWidget::addPanelColor()
 {
     if (!_color.calibratedRGB()) {
-        _remark->showRemark(tr("A pattern cannot be kept in a list."), RemarkKind::failure);
+        _message->showMessage({phrase("a pattern cannot be added to a list")},
+                              MessageKind::failure);
         return;
     }
     const auto selected = _view->selectedPlaces();
@@ -147,9 +148,10 @@ void PalettesWidget::addPanelColor()
     if ((!canUndo && !_session.canUndo()) || _session.entries().size() <= count ||
         added.size() != 1)
         return;
-    if (_color.alphaComponent() < 1 && _remark->text().isEmpty()) {
-        _remark->showRemark(tr("A list keeps no opacity; the colour was added without it."),
-                            RemarkKind::news);
+    if (_color.alphaComponent() < 1 && _message->text().isEmpty()) {
+        _message->showMessage(
+            {phrase("lists store no opacity, so the colour was added without it")},
+            MessageKind::news);
     }
     _view->setFocus();
     _view->renameAt(added.front());
@@ -173,10 +175,10 @@ void PalettesWidget::renameEntry(std::size_t place, const QString& name)
     const std::u16string given = edit.entries[place].name();
     const bool isOther = !tidyName(u16From(name)).empty() && given != tidyName(u16From(name));
     _session.edit(std::move(edit));
-    if (isOther && _remark->text().isEmpty()) {
-        _remark->showRemark(
-            tr("The name was taken; the colour is called \"%1\".").arg(qStringFrom(given)),
-            RemarkKind::news);
+    if (isOther && _message->text().isEmpty()) {
+        _message->showMessage({phrase("the name was taken, so the colour is called \"%1\"",
+                                      excerpt(qStringFrom(given).toStdString()))},
+                              MessageKind::news);
     }
 }
 
@@ -186,50 +188,52 @@ void PalettesWidget::takeDrop(const ColorOffer& offer, std::size_t before)
         addColors(before,
                   {PaletteEntry(proposedName(*offer.color, _session.entries()), *offer.color)});
     }
-    if (!offer.remark.isEmpty()) {
-        _remark->showRemark(offer.remark, offer.color ? RemarkKind::news : RemarkKind::failure);
-    }
+    if (!offer.message.isEmpty())
+        _message->showMessage(offer.message,
+                              offer.color ? MessageKind::news : MessageKind::failure);
 }
 
 void PalettesWidget::startList(const QString& name, const PaletteEntries& entries)
 {
     if (!_session.addList(u16From(name), entries).done) return;
-    // That the name was taken is of no interest: another is about to be typed.
-    _remark->showRemark({}, RemarkKind::news);
+    // The user is about to type a name, so whether this one was taken does not matter.
+    _message->showMessages({}, MessageKind::news);
     _lists->beginRename(_session.listName());
 }
 
 void PalettesWidget::removeList()
 {
-    const QString name = _session.listName();
+    const std::string name = excerpt(_session.listName().toStdString());
     if (!_session.removeList().done) return;
-    _remark->showRemark(tr("\"%1\" has been removed. Undo brings it back.").arg(name),
-                        RemarkKind::news);
+    _message->showMessage(
+        {phrase("\"%1\" has been removed", name), phrase("choose Undo to restore it")},
+        MessageKind::news);
 }
 
 void PalettesWidget::importFiles(const QStringList& paths)
 {
-    QStringList remarks;
+    std::vector<Message> messages;
     bool hasFailed = false;
     for (const QString& path : paths) {
         const QFileInfo info(path);
+        const std::string fileName = info.fileName().toStdString();
         QFile file(path);
-        // Only what is a plain file: a pipe would keep the panel waiting.
+        // Regular files only: reading a pipe could block the panel.
         if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly)) {
-            remarks.append(tr("\"%1\" cannot be read.").arg(info.fileName()));
+            messages.push_back(
+                {phrase("\"%1\" cannot be read", excerpt(fileName)),
+                 phrase("check that it is a file of at most 64 MiB that you can read")});
             hasFailed = true;
             continue;
         }
         const QByteArray bytes = file.read(largestFile);
         const Result<ListFile> read =
-            readColorList({bytes.constData(), static_cast<std::size_t>(bytes.size())},
-                          info.fileName().toStdString());
+            readColorList({bytes.constData(), static_cast<std::size_t>(bytes.size())}, fileName);
         if (!read) {
-            remarks.append(
-                tr("\"%1\" is not a colour list that can be read. Supported are palettes "
-                   "of GIMP and KDE, CSS, SCSS, JSON, swatch exchange files, and text "
-                   "with one colour a line.")
-                    .arg(info.fileName()));
+            messages.push_back(
+                {phrase("\"%1\" is not a colour list that can be read", excerpt(fileName)),
+                 phrase("use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or "
+                        "a text with one colour per line")});
             hasFailed = true;
             continue;
         }
@@ -238,15 +242,16 @@ void PalettesWidget::importFiles(const QStringList& paths)
         const EditOutcome outcome = _session.addList(name, entriesOfList(*read->list));
         hasFailed = hasFailed || !outcome.done;
         if (!outcome.done) {
-            remarks.append(textOfRemarks(outcome, _session.folder()));
+            messages.insert(messages.end(), outcome.messages.begin(), outcome.messages.end());
             continue;
         }
-        remarks.append(tr("\"%1\" has been imported.").arg(_session.listName()));
-        if (read->skipped > 0) {
-            remarks.append(tr("Lines that are no colours were left out: %1.").arg(read->skipped));
-        }
+        messages.push_back(
+            {phrase("\"%1\" has been imported", excerpt(_session.listName().toStdString()))});
+        if (read->skipped > 0)
+            messages.push_back(
+                {phrase("lines that are not colours were left out: %1", read->skipped)});
     }
-    _remark->showRemark(remarks.join(u' '), hasFailed ? RemarkKind::failure : RemarkKind::news);
+    _message->showMessages(messages, hasFailed ? MessageKind::failure : MessageKind::news);
 }
 
 void PalettesWidget::saveCopy(const QString& path)
@@ -257,12 +262,14 @@ void PalettesWidget::saveCopy(const QString& path)
     const bool saved =
         _files.writeForOthers(QFile::encodeName(path).toStdString(),
                               format.write(*listOfEntries(name, _session.entries())));
-    _remark->showRemark(
-        saved ? tr("Saved as %1.").arg(path)
-              : tr("%1 could not be written. May you write there, and is there room on the "
-                   "disk?")
-                    .arg(path),
-        saved ? RemarkKind::news : RemarkKind::failure);
+    if (saved) {
+        _message->showMessage({phrase("saved as %1", path.toStdString())}, MessageKind::news);
+    } else {
+        _message->showMessage(
+            {phrase("\"%1\" could not be written", path.toStdString()),
+             phrase("check that you can write to its folder and that the disk has room")},
+            MessageKind::failure);
+    }
 }
 
 void PalettesWidget::chooseFilesToImport()
@@ -307,8 +314,8 @@ void PalettesWidget::dropEvent(QDropEvent* event)
     event->setDropAction(Qt::CopyAction);
     event->accept();
     if (paths.isEmpty()) {
-        _remark->showRemark(tr("Only files of this computer can be imported."),
-                            RemarkKind::failure);
+        _message->showMessage({phrase("only files on this computer can be imported")},
+                              MessageKind::failure);
     } else {
         importFiles(paths);
     }

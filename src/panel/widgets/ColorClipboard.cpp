@@ -3,9 +3,8 @@
 #include "csscolor/CSSColorReader.h"
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtMessages.h"
-
-#include <QCoreApplication>
+#include "result/HarmlessLine.h"
+#include "result/Result.h"
 
 #include <array>
 #include <cstring>
@@ -16,11 +15,7 @@ namespace {
 constexpr const char* colorType = "application/x-color";
 /// No text that is a colour is longer; a clipboard can hold a whole book.
 constexpr qsizetype longestColorText = 4096;
-constexpr qsizetype longestShownText = 40;
-
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(ColorClipboard)
-};
+constexpr std::size_t mostShownBytes = 40;
 
 /// Four 16-bit words in the machine's own order.
 std::optional<HostColor> colorFromWords(const QByteArray& bytes)
@@ -33,21 +28,18 @@ std::optional<HostColor> colorFromWords(const QByteArray& bytes)
                                              words[2] / largest, words[3] / largest);
 }
 
+}  // namespace
+
 ColorOffer colorFromText(const QString& text)
 {
-    if (text.size() > longestColorText)
-        return {{}, Texts::tr("That is a long text, not a colour.")};
+    if (text.size() > longestColorText) return {{}, {phrase("that is a long text, not a colour")}};
     const Result<CSSColor> css = readCSSColor(u16From(text));
-    if (!css) return {{}, translated(css.error()) + u'.'};
-    ColorOffer offer{css->color, {}};
-    if (css->wasOutsideSRGB) {
-        offer.remark = Texts::tr("%1 is outside sRGB; this is the nearest colour inside.")
-                           .arg(text.trimmed().left(longestShownText));
-    }
-    return offer;
+    if (!css) return {{}, css.error()};
+    if (!css->wasOutsideSRGB) return {css->color, {}};
+    return {css->color,
+            {phrase("\"%1\" is outside sRGB; this is the nearest colour inside",
+                    excerpt(text.trimmed().toStdString(), mostShownBytes))}};
 }
-
-}  // namespace
 
 std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color, const QString& text)
 {
@@ -72,7 +64,9 @@ ColorOffer colorFromMimeData(const QMimeData& data)
         if (color.isValid()) return {hostColorFrom(color), {}};
     }
     if (data.hasText() && !data.text().isEmpty()) return colorFromText(data.text());
-    return {{}, Texts::tr("There is no colour to paste: copy one, or a CSS text such as #ff8000.")};
+    return {{},
+            {phrase("there is no colour to paste"),
+             phrase("copy a colour, or a CSS text such as #ff8000")}};
 }
 
 }  // namespace vantorel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "result/Message.h"
 
 #include <QMimeData>
 #include <QString>
@@ -19,12 +20,14 @@ namespace vantorel {
 struct ColorOffer {
     std::optional<HostColor> color;
     /// Why there is no colour, or what was changed about it; may be empty.
-    QString remark;
+    Message message;
 };
 
 /// Whether there may be a colour, which a drag that hovers wants to know.
 [[nodiscard]] bool mayHoldColor(const QMimeData& data);
 
+/// Reads every text form of CSS Color 4.
+[[nodiscard]] ColorOffer colorFromText(const QString& text);
 /// Takes `application/x-color` (four native 16-bit words) and every text form of CSS Color 4.
 [[nodiscard]] ColorOffer colorFromMimeData(const QMimeData& data);
 

@@ -2,7 +2,7 @@
 
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtMessages.h"
+#include "result/HarmlessLine.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -58,7 +58,7 @@ void ColorExchange::copyText(const QString& text)
 {
     QApplication::clipboard()->setMimeData(mimeDataFromColor(_colors.color(), text).release());
     _colors.rememberColor();
-    emit remark(tr("Copied: %1").arg(text));
+    emit reported({phrase("\"%1\" copied", excerpt(text.toStdString()))});
 }
 
 void ColorExchange::paste()
@@ -70,13 +70,13 @@ void ColorExchange::paste()
 void ColorExchange::takeColor(const ColorOffer& offer)
 {
     if (offer.color) _colors.setColor(*offer.color);
-    if (!offer.remark.isEmpty()) emit remark(offer.remark);
+    if (!offer.message.isEmpty()) emit reported(offer.message);
 }
 
 void ColorExchange::takeBackground(const ColorOffer& offer)
 {
     if (offer.color) _colors.setBackground(*offer.color);
-    if (!offer.remark.isEmpty()) emit remark(offer.remark);
+    if (!offer.message.isEmpty()) emit reported(offer.message);
 }
 
 void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
@@ -88,7 +88,7 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
                                  _colors.setColor(result.color);
                                  if (copies) copy();
                              } else if (result.outcome == Outcome::notPossible) {
-                                 emit remark(translated(result.reason));
+                                 emit reported(result.reason);
                              }
                              if (done) done(result);
                          });

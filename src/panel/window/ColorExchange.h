@@ -48,8 +48,8 @@ public slots:
     void takeBackground(const ColorOffer& offer);
 
 signals:
-    /// A sentence for the user.
-    void remark(const QString& sentence);
+    /// Something the user should know, such as why there is no colour to paste.
+    void reported(const vantorel::Message& message);
 
 private:
     PanelColors& _colors;

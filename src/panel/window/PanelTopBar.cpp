@@ -14,7 +14,7 @@ namespace vantorel {
 namespace {
 
 constexpr int iconPoints = 18;
-constexpr std::chrono::milliseconds remarkTime{6000};
+constexpr std::chrono::milliseconds messageTime{6000};
 
 QToolButton* newTopButton(QWidget* parent)
 {
@@ -51,8 +51,8 @@ PanelTopBar::PanelTopBar(QWidget* parent)
     connect(_pages, &QButtonGroup::idToggled, this, [this](int index, bool checked) {
         if (checked) emit pageChosen(index);
     });
-    _remarkTimer.setSingleShot(true);
-    connect(&_remarkTimer, &QTimer::timeout, this, [this] { showRemark({}); });
+    _messageTimer.setSingleShot(true);
+    connect(&_messageTimer, &QTimer::timeout, this, [this] { showMessage({}); });
 }
 
 void PanelTopBar::addPage(const QIcon& icon, const QString& name, const QString& toolTip)
@@ -79,13 +79,13 @@ void PanelTopBar::setMenu(QMenu& menu)
     _menuButton->setMenu(&menu);
 }
 
-void PanelTopBar::showRemark(const QString& remark)
+void PanelTopBar::showMessage(const QString& sentence)
 {
-    _remark = remark;
-    if (remark.isEmpty()) {
-        _remarkTimer.stop();
+    _message = sentence;
+    if (sentence.isEmpty()) {
+        _messageTimer.stop();
     } else {
-        _remarkTimer.start(remarkTime);
+        _messageTimer.start(messageTime);
         QAccessibleEvent event(_name, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }
@@ -94,9 +94,9 @@ void PanelTopBar::showRemark(const QString& remark)
 
 void PanelTopBar::showName()
 {
-    const QString text = _remark.isEmpty() ? _pageName : _remark;
-    _name->setFont(_remark.isEmpty() ? font() : fontOfSize(10));
-    _name->setToolTip(_remark);
+    const QString text = _message.isEmpty() ? _pageName : _message;
+    _name->setFont(_message.isEmpty() ? font() : fontOfSize(10));
+    _name->setToolTip(_message);
     _name->setAccessibleName(text);
     _name->setText(_name->fontMetrics().elidedText(text, Qt::ElideRight, _name->width()));
 }

@@ -10,7 +10,7 @@
 namespace vantorel {
 
 /// The bar above the page: a button for each page, the name of the one on show, and the menu. A
-/// remark takes the name's place for some seconds.
+/// message replaces the name for some seconds.
 class PanelTopBar final : public QWidget {
     Q_OBJECT
 
@@ -20,7 +20,8 @@ public:
     void addPage(const QIcon& icon, const QString& name, const QString& toolTip);
     void showPage(int index, const QString& name);
     void setMenu(QMenu& menu);
-    void showRemark(const QString& remark);
+    /// Shows a message for a while. An empty one is replaced by the name of the page at once.
+    void showMessage(const QString& sentence);
 
 signals:
     /// The button of a page was switched on.
@@ -36,8 +37,8 @@ private:
     QLabel* _name;
     QToolButton* _menuButton;
     QString _pageName;
-    QString _remark;
-    QTimer _remarkTimer;
+    QString _message;
+    QTimer _messageTimer;
 };
 
 }  // namespace vantorel

@@ -76,7 +76,7 @@ void PanelWindow::connectParts()
     connect(_tools, &PanelTools::recentColorChosen, &_colors, &PanelColors::setColor);
     connect(_tools, &PanelTools::colorDropped, &_exchange, &ColorExchange::takeColor);
     connect(_tools, &PanelTools::backgroundDropped, &_exchange, &ColorExchange::takeBackground);
-    connect(&_exchange, &ColorExchange::remark, this, &PanelWindow::showRemark);
+    connect(&_exchange, &ColorExchange::reported, this, &PanelWindow::showMessage);
     connect(_topBar, &PanelTopBar::pageChosen, &_pages, &PanelPages::showPage);
     connect(&_pages, &PanelPages::pageShown, this, &PanelWindow::adaptToPage);
 }
@@ -159,9 +159,9 @@ void PanelWindow::showProblems(const std::vector<Message>& problems)
     layOut();
 }
 
-void PanelWindow::showRemark(const QString& remark)
+void PanelWindow::showMessage(const Message& message)
 {
-    _topBar->showRemark(remark);
+    _topBar->showMessage(translatedSentence(message));
 }
 
 void PanelWindow::setFoot(QWidget& foot)

@@ -36,8 +36,8 @@ public:
 
     /// Shows what went wrong while the plug-ins were loaded, one a line.
     void showProblems(const std::vector<Message>& problems);
-    /// Shows a sentence for a while.
-    void showRemark(const QString& remark);
+    /// Shows a message in the bar for a while. An empty message ends the one that is shown.
+    void showMessage(const Message& message);
     /// Puts a bar below everything else. To be called once, before the window is shown.
     void setFoot(QWidget& foot);
 

@@ -9,6 +9,7 @@
 
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/PosixFiles.h"
+#include "paletteedit/EditMessages.h"
 #include "paletteedit/PaletteEditor.h"
 #include "result/Message.h"
 #include "settings/SettingsFile.h"
@@ -82,10 +83,11 @@ private:
     }
     static bool report(const EditOutcome& outcome)
     {
-        for (const auto& remark : outcome.remarks) {
-            const bool isNews = remark.kind == EditRemark::keptOriginal;
-            (isNews ? std::cout : std::cerr) << "remark " << static_cast<int>(remark.kind) << '\n';
-        }
+        // A file that was kept is good news. Everything else goes to standard error, where the
+        // tests look for failures.
+        const std::string_view goodNews = editmessages::keptOriginal({}).what.text();
+        for (const Message& message : outcome.messages)
+            (message.what.text() == goodNews ? std::cout : std::cerr) << english(message) << '\n';
         if (!outcome.done) std::cerr << "not done\n";
         return outcome.done;
     }

@@ -42,5 +42,13 @@ TEST_F(QtMessagesTest, WhatHasNoTranslationIsShownInEnglish)
     EXPECT_EQ(translated(message), QStringLiteral("it is a pipe; name a file"));
 }
 
+TEST_F(QtMessagesTest, ASentenceHasACapitalLetterAndAFullStop)
+{
+    EXPECT_EQ(translatedSentence({phrase("it is a pipe"), phrase("name a file")}),
+              QStringLiteral("It is a pipe; name a file."));
+    EXPECT_EQ(translatedSentence({phrase("\"x\" is a pipe")}), QStringLiteral("\"x\" is a pipe."));
+    EXPECT_EQ(translatedSentence({}), QString());
+}
+
 }  // namespace
 }  // namespace vantorel

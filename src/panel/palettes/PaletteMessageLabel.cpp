@@ -1,6 +1,7 @@
-#include "panel/palettes/PaletteRemarkLabel.h"
+#include "panel/palettes/PaletteMessageLabel.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QAccessible>
@@ -21,7 +22,7 @@ QColor mixed(const QColor& ground, const QColor& color, double share)
 
 }  // namespace
 
-PaletteRemarkLabel::PaletteRemarkLabel(QWidget* parent) : QLabel(parent)
+PaletteMessageLabel::PaletteMessageLabel(QWidget* parent) : QLabel(parent)
 {
     setFont(fontOfSize(10));
     setTextFormat(Qt::PlainText);
@@ -32,11 +33,20 @@ PaletteRemarkLabel::PaletteRemarkLabel(QWidget* parent) : QLabel(parent)
     hide();
     _timer.setSingleShot(true);
     _timer.setInterval(newsTime);
-    connect(&_timer, &QTimer::timeout, this, [this] { showRemark({}, Kind::news); });
+    connect(&_timer, &QTimer::timeout, this, [this] { showMessages({}, Kind::news); });
 }
 
-void PaletteRemarkLabel::showRemark(const QString& text, Kind kind)
+void PaletteMessageLabel::showMessage(const Message& message, Kind kind)
 {
+    showMessages({message}, kind);
+}
+
+void PaletteMessageLabel::showMessages(const std::vector<Message>& messages, Kind kind)
+{
+    QStringList sentences;
+    for (const Message& message : messages)
+        sentences.append(translatedSentence(message));
+    const QString text = sentences.join(u' ');
     setText(text);
     setAccessibleName(text);
     setVisible(!text.isEmpty());
