@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/pages/PanelPage.h"
+#include "panel/pages/WidgetPage.h"
 #include "panel/palettes/PalettesWidget.h"
 
 #include <QPointer>
@@ -8,13 +8,12 @@
 namespace vantorel {
 
 /// The page on which the user edits the colour lists that all pages share.
-class PalettesPage final : public PanelPage {
+class PalettesPage final : public WidgetPage {
     Q_OBJECT
 
 public:
     /// `files` and `store` must outlive the page.
     PalettesPage(HostFiles& files, PaletteFileStore& store);
-    ~PalettesPage() override;
 
     [[nodiscard]] QString key() const override { return QStringLiteral("palettes"); }
     [[nodiscard]] QString name() const override;
@@ -23,9 +22,11 @@ public:
     [[nodiscard]] QSize minimumSize() const override;
     void show(HostView& holder) override;
     void hide() override;
-    void resize(HostSize size) override;
     void setColor(const HostColor& color) override;
     void finishEditing() override;
+
+protected:
+    [[nodiscard]] QWidget* makeWidget() override;
 
 private:
     HostFiles& _files;
