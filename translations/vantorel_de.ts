@@ -817,8 +817,8 @@
 <context>
     <name>main</name>
     <message>
-        <source>A panel runs already, which does not follow %1; --new starts another.</source>
-        <translation>Es läuft schon ein Fenster, das %1 nicht befolgt; --new startet ein weiteres.</translation>
+        <source>A panel is already running and cannot apply %1. Use --new to start another.</source>
+        <translation>Es läuft schon ein Fenster, das %1 nicht anwenden kann. Mit --new starten Sie ein weiteres.</translation>
     </message>
 </context>
 <context>
@@ -956,16 +956,16 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Farbliste</translation>
     </message>
     <message>
-        <source>The list on show</source>
-        <translation>Die gezeigte Liste</translation>
-    </message>
-    <message>
         <source>Name of the list</source>
         <translation>Name der Liste</translation>
     </message>
     <message>
-        <source>Belongs to %1, and is only read</source>
-        <translation>Gehört zu %1 und wird nur gelesen</translation>
+        <source>The shown list</source>
+        <translation>Die angezeigte Liste</translation>
+    </message>
+    <message>
+        <source>Belongs to %1, read-only</source>
+        <translation>Gehört zu %1, nur lesbar</translation>
     </message>
 </context>
 <context>
@@ -1014,16 +1014,8 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Farben in der Liste: %1</translation>
     </message>
     <message>
-        <source>There is no list yet. Make one, or drop a palette file here.</source>
-        <translation>Es gibt noch keine Liste. Legen Sie eine an, oder lassen Sie eine Palettendatei hier fallen.</translation>
-    </message>
-    <message>
         <source>The list is empty. The + adds the panel&apos;s colour.</source>
         <translation>Die Liste ist leer. Das + fügt die Farbe des Fensters hinzu.</translation>
-    </message>
-    <message>
-        <source>No colour has this in its name or hex code.</source>
-        <translation>Keine Farbe enthält dies in Name oder Hex-Code.</translation>
     </message>
     <message>
         <source>New list</source>
@@ -1044,6 +1036,14 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Save a copy</source>
         <translation>Kopie sichern</translation>
+    </message>
+    <message>
+        <source>There is no list yet. Create one, or drop a palette file here.</source>
+        <translation>Es gibt noch keine Liste. Legen Sie eine an, oder lassen Sie eine Palettendatei hier fallen.</translation>
+    </message>
+    <message>
+        <source>No colour name or hex code matches.</source>
+        <translation>Kein Name und kein Hex-Code passt.</translation>
     </message>
 </context>
 <context>
@@ -1149,8 +1149,8 @@ Bedienelemente und Grafik: AA %6</translation>
 <context>
     <name>vantorel::PluginPage</name>
     <message>
-        <source>The page &quot;%1&quot; could not be made. Its interface file is missing or damaged; installing %2 again may help.</source>
-        <translation>Die Seite „%1“ ließ sich nicht aufbauen. Ihre Oberflächendatei fehlt oder ist beschädigt; %2 neu zu installieren kann helfen.</translation>
+        <source>The page &quot;%1&quot; could not be created because its interface file is missing or damaged. Try reinstalling %2.</source>
+        <translation>Die Seite „%1“ ließ sich nicht erzeugen, weil ihre Oberflächendatei fehlt oder beschädigt ist. Versuchen Sie, %2 neu zu installieren.</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,8 @@ QString describe(const char* variable)
         .arg(QLatin1String(variable), qEnvironmentVariable(variable));
 }
 
-/// What is missing, and how to get it; empty if all plug-ins that the session needs are installed.
+/// Returns the missing plug-in and how to install it. Empty if all plug-ins that the session needs
+/// are installed.
 QString missingPlugin()
 {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return {};
@@ -68,7 +69,7 @@ void DisplayFailure::handle(QtMsgType type, const QMessageLogContext& context, c
     if (type == QtFatalMsg) current->exit(text);
     const QByteArray category(context.category);
     if (category.startsWith("qt.qpa."))
-        // The plug-in that owns the context may be gone when the message is printed.
+        // The plug-in that owns the context may be unloaded when the message is printed.
         current->_messages.push_back({type, category, text});
     else
         current->_usualHandler(type, context, text);
@@ -97,7 +98,7 @@ void DisplayFailure::exit(const QString& reason) const
                              .arg(describe("WAYLAND_DISPLAY"), describe("DISPLAY"));
     }
     std::fprintf(stderr, "vantorel-panel: %s\n", sentence.toUtf8().constData());
-    // Qt is in the middle of making the application, so nothing of it may be destroyed.
+    // Qt is still constructing the application, so none of it may be destroyed.
     std::_Exit(_exitStatus);
 }
 

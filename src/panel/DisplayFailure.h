@@ -7,11 +7,11 @@
 
 namespace vantorel {
 
-/// Says in one sentence why Qt finds no display, where Qt itself would abort.
+/// Reports in one sentence why Qt cannot open a display, where Qt itself would abort.
 ///
-/// Make it before the QApplication and destroy it after. If the QApplication cannot be made, the
-/// sentence goes to standard error and the program exits. Otherwise messages that Qt printed about
-/// displays meanwhile are printed after all, so that none is lost.
+/// Create it before the QApplication and destroy it after. If the QApplication cannot be created,
+/// the sentence is printed to standard error and the program exits. Otherwise the messages about
+/// displays that Qt has printed meanwhile are passed on, so that none is lost.
 ///
 /// At most one may exist at a time, because Qt has one message handler.
 class DisplayFailure {

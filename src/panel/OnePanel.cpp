@@ -10,7 +10,7 @@
 namespace vantorel {
 namespace {
 
-/// Prints how an order has ended, and returns the exit status.
+/// Prints the result of an order and returns the exit status.
 int report(const PanelOrder& order, const PanelAnswer& answer)
 {
     using Kind = PanelError::Kind;
@@ -50,8 +50,8 @@ std::optional<int> OnePanel::handOver()
     if (contact != RunningPanel::Contact::made) return std::nullopt;
     if (!_options.forStartsOnly.isEmpty()) {
         printProblem(QCoreApplication::translate("main",
-                                                 "A panel runs already, which does not follow "
-                                                 "%1; --new starts another.")
+                                                 "A panel is already running and cannot apply "
+                                                 "%1. Use --new to start another.")
                          .arg(_options.forStartsOnly.join(QStringLiteral(", "))));
     }
     return report(_order, answer);
@@ -59,11 +59,11 @@ std::optional<int> OnePanel::handOver()
 
 std::optional<int> OnePanel::takeName(PanelService& service)
 {
-    // A panel that was quicker may just have ended.
+    // A panel that started first may just have exited.
     constexpr int mostAttempts = 3;
     for (int i = 0; i < mostAttempts; ++i) {
         if (service.claimName() != PanelService::Claim::taken) return std::nullopt;
-        // Who called gets the answer of the other.
+        // The caller gets the other panel's answer.
         if (_options.service) return succeeded;
         if (_options.another || _contact != RunningPanel::Contact::none) break;
         if (const auto status = handOver()) return status;
@@ -97,7 +97,7 @@ int OnePanel::run()
                        : _options.service                    ? runForCalls(service, requests)
                                                              : runForUser(window);
     PanelMemory memory = window.memory();
-    // A window that was never seen has no place of its own.
+    // A window that was never shown has no position.
     if (!window.testAttribute(Qt::WA_WState_Created)) memory.geometry = recalled.geometry;
     writePanelMemory(memory);
     return status;
@@ -107,7 +107,7 @@ int OnePanel::runForOrder(PanelRequests& requests)
 {
     int status = succeeded;
     QTimer::singleShot(0, &requests, [&] {
-        // Not sooner: while the order waits there is nothing under way.
+        // Not earlier, because before the order begins there is nothing left to do.
         QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
         requests.carryOut(_order, [&](const PanelAnswer& answer) {
             status = report(_order, answer);

@@ -11,11 +11,11 @@
 
 namespace vantorel {
 
-/// What a start of the program orders from the panel, its own or one that runs already.
+/// Returns the order of a start of the program to the panel, be it its own or the running one.
 [[nodiscard]] PanelOrder orderFrom(const PanelOptions& options, const ActivationToken& token);
 
-/// A start of the program that becomes the desktop's one panel, or hands over to the panel that
-/// runs already.
+/// A start of the program. It becomes the desktop's only panel, or passes its order to the running
+/// one.
 class OnePanel {
 public:
     /// All must outlive the object. `caller` waits for an order that shows no window; null for
@@ -27,14 +27,14 @@ public:
     [[nodiscard]] int run();
 
 private:
-    /// Returns the exit status if the panel that runs already has carried out the order, or
-    /// `std::nullopt` if it could not be reached.
+    /// Returns the exit status if the running panel has carried out the order, or `std::nullopt` if
+    /// it could not be reached.
     [[nodiscard]] std::optional<int> handOver();
-    /// Takes the name on the bus, or hands over to a start that was quicker. Returns the exit
-    /// status, or `std::nullopt` if this start goes on.
+    /// Claims the name on the bus, or passes the order to a panel that started first. Returns the
+    /// exit status, or `std::nullopt` if this start becomes the panel.
     [[nodiscard]] std::optional<int> takeName(PanelService& service);
 
-    // The ways to go on. Each returns the exit status when the panel has ended.
+    // Each of these runs the panel and returns its exit status.
 
     [[nodiscard]] int runForOrder(PanelRequests& requests);
     [[nodiscard]] static int runForCalls(PanelService& service, const PanelRequests& requests);

@@ -6,14 +6,14 @@
 
 namespace vantorel {
 
-/// What the program returns to its caller.
+/// The exit status of the program.
 enum ExitStatus : int {
     succeeded = 0,
     failed = 1,
     /// The user has cancelled a pick or a choice.
     cancelled = 1,
     usageError = 2,
-    /// The desktop does not let the panel do what was asked.
+    /// The desktop does not allow the requested action.
     notPossible = 3,
 };
 

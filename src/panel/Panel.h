@@ -11,17 +11,17 @@ namespace vantorel {
 /// "#rrggbbaa"
 [[nodiscard]] QString cssNameOf(const QColor& color);
 
-/// The panel's window, with the plug-ins and the desktop that it needs. Needs an application.
+/// The panel's window with its plug-ins and desktop. Needs a QApplication.
 class Panel {
 public:
-    /// Loads the plug-ins of the user, whose data is in `userData`, of the system and of the
-    /// options. Prints and shows what goes wrong.
+    /// Loads the plug-ins of the user, whose data folder is `userData`, of the system and of the
+    /// options. Prints and shows problems.
     Panel(const PanelOptions& options, const std::string& userData);
 
     [[nodiscard]] PanelWindow& window() { return _window; }
 
-    /// Makes the panel what the options say. Returns false, after the rest is done, if there is no
-    /// page of the key that they name.
+    /// Applies the options. Returns false if no page has the key that they name; the other options
+    /// are applied even then.
     bool apply(const PanelOptions& options);
 
 private:

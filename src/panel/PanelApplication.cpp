@@ -12,7 +12,8 @@ PanelApplication::PanelApplication(char** argv, const PanelOptions& options, int
     installTranslations(_application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));
-    // The panel quits by itself when it is closed, and without a window the magnifier is the last.
+    // Closing the panel's window quits explicitly. In a panel without a window, closing the
+    // magnifier would quit.
     QApplication::setQuitOnLastWindowClosed(false);
     if (options.theme) applyTheme(*options.theme);
 }

@@ -9,15 +9,15 @@
 
 namespace vantorel {
 
-/// The application, in the user's language and in the theme that the options ask for.
+/// The application, in the user's language and the theme of the options.
 class PanelApplication {
 public:
-    /// Ends the program with `noDisplayStatus` if the display cannot be opened.
+    /// Exits with `noDisplayStatus` if the display cannot be opened.
     PanelApplication(char** argv, const PanelOptions& options, int noDisplayStatus);
 
 private:
     std::optional<DisplayFailure> _displayFailure;
-    /// Qt gets the program's name alone: it would take --plugin for an option of its own.
+    /// Qt gets only the program's name, because it would interpret --plugin as its own option.
     int _argumentCount = 1;
     QApplication _application;
 };

@@ -11,15 +11,16 @@ PanelEnvironment::PanelEnvironment(const PanelOptions& options)
 {
     if (options.dataFolder) {
         qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
-        // The configuration's folder stays: it also leads to the palettes of other programs.
+        // The configuration folder is not replaced: it also leads to the palettes of other
+        // programs.
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, *options.dataFolder);
     }
     _userData = PosixFiles().applicationSupportDirectory().value_or("");
     if (options.screenshot) hideUser(options);
 }
 
-/// A picture is taken beside the user's own panel and settings, not with them. What other programs
-/// have installed must not show in it, either.
+/// A picture must not depend on the user's panel and settings, nor on palettes installed by other
+/// programs.
 void PanelEnvironment::hideUser(const PanelOptions& options)
 {
     const QByteArray scratch = QFile::encodeName(_scratch.emplace().path());

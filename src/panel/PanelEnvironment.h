@@ -9,22 +9,22 @@
 
 namespace vantorel {
 
-/// The folders and the platform that the options ask for, as environment variables of the program.
-/// To be made before the application, and kept until the end.
+/// Sets environment variables for the folders and the platform of the options. Create it before the
+/// application and keep it until the program exits.
 class PanelEnvironment {
 public:
     explicit PanelEnvironment(const PanelOptions& options);
 
-    /// Whether there is a display, or none is needed.
+    /// Whether a display is available or not needed.
     [[nodiscard]] static bool hasDisplay();
-    /// The folder of the user's data, where plug-ins are looked for; empty if there is none.
+    /// The user's data folder, which is searched for plug-ins; empty if there is none.
     [[nodiscard]] const std::string& userData() const { return _userData; }
 
 private:
     void hideUser(const PanelOptions& options);
 
     std::string _userData;
-    /// Stands for the user's folders in a picture.
+    /// Replaces the user's folders while a picture is taken.
     std::optional<QTemporaryDir> _scratch;
 };
 

@@ -35,7 +35,7 @@ std::optional<QString> textOf(const GivenArguments& given, std::string_view opti
     return value ? std::optional(QString::fromStdString(*value)) : std::nullopt;
 }
 
-/// What a start does; fails where two things are asked for that exclude each other.
+/// Reads the action of this start. Fails if the options ask for two.
 Status readStep(const GivenArguments& given, PanelOptions& options)
 {
     using Step = PanelOrder::Step;
@@ -54,7 +54,7 @@ Status readStep(const GivenArguments& given, PanelOptions& options)
         if (given.has(name)) alone.append(QLatin1String(name));
     if (alone.size() < 2) return {};
     return Message{
-        phrase("%1 do not go together", alone.join(QStringLiteral(" and ")).toStdString())};
+        phrase("%1 cannot be combined", alone.join(QStringLiteral(" and ")).toStdString())};
 }
 
 }  // namespace
@@ -72,7 +72,8 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     PanelCommandLine result;
     PanelOptions& options = result.options;
     if (const auto color = given.value("--color")) {
-        // Names of a colour list do not count: the lists are the pages', which are not loaded yet.
+        // Names of colour lists are not read: the lists belong to the pages, which are not loaded
+        // yet.
         const auto read = ColorTextReader([] { return nullptr; }).read(*color);
         if (!read) return refusal({phrase("--color: %1", read.error().what), read.error().remedy});
         options.color = qColorFrom(read->hostColor());
@@ -80,7 +81,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     if (const auto size = given.value("--size")) {
         options.size = sizeFromText(QString::fromStdString(*size));
         if (!options.size)
-            return refusal({phrase("--size: \"%1\" is no size", *size), phrase("try 260x340")});
+            return refusal({phrase("--size: \"%1\" is not a size", *size), phrase("try 260x340")});
     }
     if (const auto data = given.value("--data")) {
         const QFileInfo folder(QString::fromStdString(*data));

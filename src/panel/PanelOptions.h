@@ -10,10 +10,10 @@
 
 namespace vantorel {
 
-/// What the command line says.
+/// The options of the command line.
 struct PanelOptions {
     std::optional<QColor> color;
-    /// The key of a page; which ones there are depends on the plug-ins.
+    /// The key of a page. The plug-ins decide which keys exist.
     std::optional<QString> page;
     /// slider, palette or wheel
     std::optional<QString> mode;
@@ -21,32 +21,32 @@ struct PanelOptions {
     std::optional<QSize> size;
     std::optional<QString> screenshot;
     std::optional<QString> theme;
-    /// Stands for the folder of the user's data, where settings and colour lists are.
+    /// Replaces the user's data folder, which has the settings and colour lists.
     std::optional<QString> dataFolder;
     bool settingsFace = false;
     bool printColor = false;
-    /// Let the user choose one colour, print it and end.
+    /// Let the user choose one colour, print it and exit.
     bool choice = false;
     QStringList plugins;
     PanelOrder::Step step = PanelOrder::Step::show;
-    /// With the step `copy`: as in `PanelOrder`.
+    /// For the step `copy`, as in `PanelOrder`.
     QString copyForm;
-    /// Start a panel even where one runs.
+    /// Start a panel even if one is running.
     bool another = false;
     /// Start without a window, for calls over D-Bus.
     bool service = false;
-    /// The options given that a panel that runs already cannot follow, as they are written.
+    /// The given options that a running panel cannot apply, as they are written.
     QStringList forStartsOnly;
 };
 
 struct PanelCommandLine {
     PanelOptions options;
-    /// What to print and end with: a message, and the exit status.
+    /// If set, print `message` and exit with this status.
     std::optional<int> exitStatus;
     QString message;
 };
 
-/// Reads the arguments, the program's name first. Needs no application object.
+/// Reads the arguments, of which the first is the program's name. Needs no application object.
 [[nodiscard]] PanelCommandLine readCommandLine(const QStringList& arguments);
 
 }  // namespace vantorel

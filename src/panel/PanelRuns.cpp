@@ -13,7 +13,7 @@ int takePicture(Panel& panel, const PanelOptions& options)
     PanelWindow& window = panel.window();
     window.show();
     QApplication::processEvents();
-    // Painting places some controls, so what counts is the second look.
+    // The first painting positions some controls, so the second picture is used.
     window.grab();
     QApplication::processEvents();
     if (window.grab().save(*options.screenshot, "PNG")) return succeeded;
@@ -31,7 +31,8 @@ int letUserChoose(Panel& panel, const PanelOptions& options)
     window.show();
     QApplication::exec();
     if (!choice.text()) return cancelled;
-    // It was shown for one colour: beside that colour nothing of the user's own panel changes.
+    // The window was opened to choose one colour, so only the colour is saved in the panel's
+    // memory.
     memory.recent = window.colors().recent();
     writePanelMemory(memory);
     print(stdout, *choice.text() + u'\n');

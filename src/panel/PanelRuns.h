@@ -2,7 +2,7 @@
 
 #include "panel/Panel.h"
 
-/// The ways to run a panel of its own, beside the one of the desktop. Each returns the exit status.
+/// Ways to run a panel that is separate from the desktop's. Each returns the exit status.
 namespace vantorel {
 
 /// Writes a picture of the window to the file that the options name.

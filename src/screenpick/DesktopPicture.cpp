@@ -12,7 +12,7 @@ std::optional<DesktopPicture> DesktopPicture::take()
         QImage image = screen->grabWindow(0).toImage();
         if (image.isNull()) return std::nullopt;
         image.setDevicePixelRatio(1);
-        // Scaling shrinks a screen's size, but its origin stays where it is in pixels.
+        // Scaling reduces a screen's size, but its origin is in unscaled pixels.
         screens.push_back({screen, screen->geometry().topLeft(), std::move(image)});
     }
     if (screens.empty()) return std::nullopt;
@@ -33,7 +33,7 @@ std::optional<QColor> DesktopPicture::colorAt(QPoint pixel) const
     for (const Screen& screen : _screens) {
         if (screen.frame().contains(pixel)) {
             QColor color = screen.image.pixelColor(pixel - screen.origin);
-            // Some displays carry an alpha channel that has no meaning for what is seen.
+            // Some displays have an alpha channel, which does not affect the visible colour.
             color.setAlpha(255);
             return color;
         }

@@ -11,7 +11,7 @@
 
 namespace vantorel {
 
-/// What all screens showed at one moment, pixel by pixel.
+/// A picture of all screens at one moment, pixel by pixel.
 ///
 /// Its coordinates are pixels of the desktop, whatever the scale factors of the screens.
 class DesktopPicture {
@@ -19,7 +19,7 @@ public:
     struct Screen {
         /// Null in a picture that was not taken from a screen, and after the screen was unplugged.
         QPointer<QScreen> screen;
-        /// The place of its first pixel on the desktop.
+        /// The position of its first pixel on the desktop.
         QPoint origin;
         /// Its device pixel ratio is 1.
         QImage image;
@@ -29,12 +29,12 @@ public:
 
     explicit DesktopPicture(std::vector<Screen> screens) : _screens(std::move(screens)) {}
 
-    /// Takes a picture of each screen; empty where a screen cannot be seen.
+    /// Takes a picture of each screen. Returns an empty picture if a screen cannot be captured.
     [[nodiscard]] static std::optional<DesktopPicture> take();
 
     [[nodiscard]] const std::vector<Screen>& screens() const { return _screens; }
     [[nodiscard]] std::vector<QRect> frames() const;
-    /// Empty where there is no screen.
+    /// Returns `std::nullopt` if there is no screen at this position.
     [[nodiscard]] std::optional<QColor> colorAt(QPoint pixel) const;
 
 private:

@@ -65,7 +65,7 @@ void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
 void DesktopScreenPicker::finish(ScreenPickResult result)
 {
     _picking = false;
-    // A result on its way ends with the picker.
+    // A result that has not been delivered is dropped with the picker.
     QMetaObject::invokeMethod(
         this,
         [done = std::exchange(_done, nullptr), result = std::move(result)] {

@@ -11,7 +11,7 @@
 
 namespace vantorel {
 
-/// Tries ways to pick in their order, until one of them works or the user leaves.
+/// Tries methods in order until one works or the user cancels.
 class DesktopScreenPicker final : public QObject, public ScreenPicker {
     Q_OBJECT
 

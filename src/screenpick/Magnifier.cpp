@@ -44,7 +44,7 @@ void Magnifier::show()
         const QString name = QCoreApplication::translate("Vantorel", "Colour magnifier");
         overlay->setWindowTitle(name);
         overlay->setAccessibleName(name);
-        // A modal dialogue of the program would keep all input from a plain window.
+        // A modal dialogue of the program would block all input to a plain window.
         if (!first) overlay->setWindowModality(Qt::ApplicationModal);
         _overlays.push_back(std::move(overlay));
     }
@@ -59,7 +59,7 @@ void Magnifier::show()
 
 void Magnifier::watchScreens()
 {
-    // The picture is no longer that of the desktop.
+    // The picture no longer matches the desktop.
     connect(qGuiApp, &QGuiApplication::screenAdded, this, &Magnifier::leave);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Magnifier::leave);
     for (const DesktopPicture::Screen& screen : _picture.screens()) {
@@ -68,7 +68,8 @@ void Magnifier::watchScreens()
     }
 }
 
-/// Another program may hold mouse or keyboard, say for a menu; so this is tried until it works.
+/// Another program may have grabbed the mouse or keyboard, for example for a menu, so this is
+/// repeated until it succeeds.
 void Magnifier::grabInput()
 {
     QWindow* window = _overlays.front()->windowHandle();
@@ -92,7 +93,7 @@ void Magnifier::zoom(int steps)
     if (steps != 0) change([&] { _lens.zoom(steps); });
 }
 
-/// Repaints what the lens leaves and what it covers next.
+/// Repaints the areas that the lens leaves and enters.
 void Magnifier::change(const std::function<void()>& change)
 {
     const auto updateLens = [this] {
@@ -146,8 +147,8 @@ void Magnifier::finish(std::optional<QColor> color)
 {
     if (std::exchange(_finished, true)) return;
     _grabAgain.stop();
-    // Hiding gives mouse and keyboard back. The overlays themselves are still in the middle of an
-    // event.
+    // Hiding releases the mouse and keyboard. The overlays cannot be deleted here, because they are
+    // still handling an event.
     for (const auto& overlay : _overlays)
         overlay->hide();
     QMetaObject::invokeMethod(

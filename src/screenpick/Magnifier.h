@@ -17,22 +17,22 @@ namespace vantorel {
 
 class MagnifierOverlay;
 
-/// A magnifier at work: covers all screens with their picture, follows mouse and keys, and answers
-/// with the colour of one pixel.
+/// A running magnifier. It covers all screens with their picture, follows mouse and keys, and
+/// reports the colour of one pixel.
 ///
-/// Because the user sees the picture and not the screens, what is picked is what was seen, and the
-/// magnifier never looks at itself.
+/// The user sees the picture and not the screens, so the picked colour is the one that was visible,
+/// and the magnifier never captures itself.
 class Magnifier final : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows itself at once. `mouse` is the mouse's place, a pixel of the desktop.
+    /// Shows itself immediately. `mouse` is the pixel of the desktop that the mouse is at.
     Magnifier(DesktopPicture picture, QPoint mouse);
     ~Magnifier() override;
 
     void mouseMovedTo(QPoint pixel);
     void buttonPressed(Qt::MouseButton button) { _pressed = button; }
-    /// Picks or leaves on the release of a button that was pressed here, so that neither half of a
+    /// Picks or cancels when a button that was pressed here is released, so that neither half of a
     /// click reaches the program below.
     void buttonReleased(Qt::MouseButton button);
     void step(QPoint by);
@@ -40,17 +40,17 @@ public:
     void pick();
     void leave();
 
-    /// Paints the lens where it lies on that overlay, in the pixels of its screen.
+    /// Paints the part of the lens that is on this overlay, in pixels of its screen.
     void paintLens(QPainter& painter, const MagnifierOverlay& overlay) const;
 
-    /// Whether mouse and keys all come here, wherever the pointer and the focus are.
+    /// Whether all mouse and key events come here, wherever the pointer and the focus are.
     [[nodiscard]] bool hasInput() const { return _hasMouse && _hasKeyboard; }
 
 signals:
-    // One of the two comes, once, from the event loop; a slot may end the magnifier.
+    // One of these is emitted, once, from the event loop. A slot may destroy the magnifier.
 
     void picked(const QColor& color);
-    /// The user has picked no colour.
+    /// The user has cancelled.
     void left();
 
 private:

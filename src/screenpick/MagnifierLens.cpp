@@ -33,7 +33,7 @@ QFont labelFont(double ratio)
     return font;
 }
 
-/// Palettes that are made from two colours have no mid tone that shows on a dark ground.
+/// Palettes derived from two colours have no mid tone that is visible on a dark background.
 QColor faintTextOf(const QPalette& palette)
 {
     QColor color = palette.color(QPalette::WindowText);
@@ -41,7 +41,8 @@ QColor faintTextOf(const QPalette& palette)
     return color;
 }
 
-/// How far `rect` must go to lie within 0..`size`; where it is too large, its top left goes inside.
+/// Returns the offset that moves `rect` into 0..`size`. If it is too large, its top left corner is
+/// moved inside.
 QPoint wayInto(const QRectF& rect, QSize size)
 {
     const auto way = [](double begin, double end, double limit) {
@@ -71,7 +72,7 @@ void strokeCircle(QPainter& painter, QPointF center, double radius, double width
     painter.drawEllipse(center, radius, radius);
 }
 
-/// A frame that stands out from every colour, because it is both black and white.
+/// A frame that is visible on every colour, because it is both black and white.
 void frameMiddle(QPainter& painter, const QRect& cell, int width)
 {
     const QRect white = cell.adjusted(-width, -width, width, width);
@@ -90,7 +91,7 @@ struct MagnifierLens::Layout {
     QPointF center;
     QRectF label;
     QPointF mark;
-    /// Whether lens and pixel are apart.
+    /// Whether the lens has been moved away from the pixel.
     bool displaced = false;
 };
 
@@ -150,7 +151,7 @@ QImage MagnifierLens::enlarged(const DesktopPicture& picture, QPoint middle, Cel
                                const QPalette& palette)
 {
     const auto [cell, cells, gridWidth] = size;
-    // Grey that shows on black and on white.
+    // A grey that is visible on black and on white.
     const QColor gridColor(128, 128, 128, 70);
     QImage image(cells * cell, cells * cell, QImage::Format_RGB32);
     QPainter painter(&image);

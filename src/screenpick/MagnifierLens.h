@@ -8,21 +8,21 @@ class QPainter;
 
 namespace vantorel {
 
-/// How the magnifier looks: a round lens of enlarged pixels, the one in its middle framed, and the
-/// hex code of that one on a label below. Lens and label are always wholly on the screen; near an
-/// edge they stand back from the pixel, which then gets a mark of its own.
+/// Paints the magnifier: a round lens of enlarged pixels, the middle one framed, and a label below
+/// with its hex code. Lens and label are always entirely on the screen. Near an edge they move away
+/// from the pixel, which is then marked separately.
 class MagnifierLens {
 public:
-    /// Changes the magnification; positive to see larger pixels. Stays within its limits.
+    /// Changes the magnification, within its limits. Positive steps enlarge the pixels.
     void zoom(int steps);
 
-    /// All that `paint` touches, in pixels of that screen.
+    /// The area that `paint` touches, in pixels of the screen.
     [[nodiscard]] QRect bounds(const DesktopPicture::Screen& screen, QPoint pixel,
                                double ratio) const;
 
     /// `painter` paints on `screen` in its pixels. `pixel` is a pixel of the desktop on that
-    /// screen, `ratio` the pixels of the screen in a device-independent one. The palette gives the
-    /// ground and the text of the label.
+    /// screen, `ratio` the pixels of the screen in a device-independent one. The label has the
+    /// palette's background and text colours.
     void paint(QPainter& painter, const DesktopPicture& picture,
                const DesktopPicture::Screen& screen, QPoint pixel, double ratio,
                const QPalette& palette) const;

@@ -22,7 +22,7 @@ constexpr int wheelNotch = 120;  // Qt's eighths of a degree
 
 MagnifierOverlay::MagnifierOverlay(Magnifier& magnifier, const DesktopPicture::Screen& screen,
                                    QWidget* parent)
-    // Without the window manager: it would keep its own panels uncovered, or animate.
+    // Bypasses the window manager, which would keep its own panels uncovered or animate the window.
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                           Qt::WindowStaysOnTopHint),
       _magnifier(magnifier),
@@ -77,7 +77,7 @@ QPoint MagnifierOverlay::desktopPixelOf(const QSinglePointEvent& event) const
 
 void MagnifierOverlay::enterEvent(QEnterEvent* event)
 {
-    // Comes when the overlay appears below the mouse, and tells its place exactly.
+    // Arrives when the overlay appears below the mouse, with the exact position.
     _magnifier.mouseMovedTo(desktopPixelOf(*event));
 }
 

@@ -10,7 +10,7 @@ namespace vantorel {
 
 class Magnifier;
 
-/// Covers one screen with its picture, paints the lens over it, and hands events to the magnifier.
+/// Covers one screen with its picture, paints the lens over it, and passes events to the magnifier.
 class MagnifierOverlay final : public QWidget {
 public:
     /// The magnifier must outlive the overlay. `parent` is the first overlay, null for that one.

@@ -11,12 +11,12 @@
 namespace vantorel {
 namespace {
 
-// Programs repaint what a window has covered only after it has gone. A picture that is taken too
-// early still shows the menu that the pick was started from, or the last magnifier.
+// Programs repaint a covered area only after the window over it has closed. A picture taken too
+// early still shows the menu that started the pick, or the last magnifier.
 constexpr qint64 menuSettleTime = 60;        // ms
 constexpr qint64 magnifierSettleTime = 300;  // ms
 
-/// Empty when the screen can be seen.
+/// Empty if the screen can be captured.
 Phrase obstacle()
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb")) {
@@ -32,7 +32,7 @@ Phrase obstacle()
     return {};
 }
 
-/// In pixels of the desktop, to the nearest that Qt can tell before the mouse moves.
+/// In pixels of the desktop, as precise as Qt knows before the mouse moves.
 QPoint mousePixel()
 {
     const QPoint mouse = QCursor::pos();
@@ -44,7 +44,7 @@ QPoint mousePixel()
 
 void closePopups()
 {
-    // They would keep the mouse. One that refuses to close must not stop the program.
+    // They would keep the mouse grabbed. One that does not close must not block the program.
     constexpr int deepest = 16;
     for (int i = 0; i < deepest; ++i) {
         QWidget* popup = QApplication::activePopupWidget();

@@ -12,8 +12,8 @@
 
 namespace vantorel {
 
-/// Picks with a magnifier of our own, where an X11 display shows the whole screen. Colours are
-/// those of the screen's frame buffer, taken as sRGB.
+/// Picks with our own magnifier, if an X11 display shows the whole screen. Colours are those of the
+/// frame buffer, interpreted as sRGB.
 class MagnifierPickMethod final : public PickMethod {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     void start(QWidget* parent) override;
     void cancel() override;
 
-    /// The magnifier on the screen; null while there is none.
+    /// The visible magnifier; null if there is none.
     [[nodiscard]] const Magnifier* magnifier() const { return _magnifier.get(); }
 
 private:

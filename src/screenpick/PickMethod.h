@@ -19,23 +19,23 @@ public:
     struct CancelledByUser {
         bool operator==(const CancelledByUser&) const = default;
     };
-    /// Why this way is closed: a clause such as "there is no X11 display", which becomes part of a
-    /// sentence.
+    /// Why this method cannot pick: a clause such as "there is no X11 display". It becomes part of
+    /// a message.
     struct Failure {
         Phrase clause;
         bool operator==(const Failure&) const = default;
     };
     using Outcome = std::variant<HostColor, CancelledByUser, Failure>;
 
-    /// Begins a pick; none is under way. `parent` is the window that asks; may be null.
+    /// Begins a pick. None may be in progress. `parent` is the requesting window; may be null.
     virtual void start(QWidget* parent) = 0;
-    /// Gives up the pick that is under way, if any: it does not finish any more. Destroying the
-    /// method does the same.
+    /// Abandons the pick in progress, if any; `finished` is not emitted. Destroying the method does
+    /// the same.
     virtual void cancel() = 0;
 
 signals:
-    /// The pick is over. Comes from the event loop, once for each start that is not cancelled. A
-    /// slot may start or cancel the method again, but not destroy it.
+    /// Emitted from the event loop, once for each start that is not cancelled. A slot may start or
+    /// cancel the method again, but not destroy it.
     void finished(const vantorel::PickMethod::Outcome& outcome);
 };
 

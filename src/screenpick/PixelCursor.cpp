@@ -28,8 +28,8 @@ void PixelCursor::mouseMovedTo(QPoint mouse)
 {
     const QPoint way = mouse - _mouse;
     QPoint target = _position + way;
-    // A pointer that has run into an edge cannot go on. The cursor joins it there; else part of the
-    // screen would be out of the mouse's reach.
+    // At an edge the pointer stops. The cursor joins it there, because otherwise the mouse could
+    // not reach a part of the screen.
     if (isStuck(mouse, {sign(way.x()), 0})) target.setX(mouse.x());
     if (isStuck(mouse, {0, sign(way.y())})) target.setY(mouse.y());
     _mouse = mouse;
@@ -43,7 +43,8 @@ void PixelCursor::step(QPoint by)
         _position = target;
         return;
     }
-    // A screen that begins further off, or none: to the last pixel before the gap.
+    // If the next screen begins further away, or there is none, go to the last pixel before the
+    // gap.
     const QPoint one(sign(by.x()), sign(by.y()));
     while (_position != target && isOnScreen(_position + one))
         _position += one;

@@ -7,18 +7,18 @@
 
 namespace vantorel {
 
-/// The pixel that is looked at, moved by mouse and keys. All coordinates are pixels of the desktop.
+/// The magnified pixel, moved by mouse and keys. All coordinates are pixels of the desktop.
 ///
-/// The mouse pointer itself cannot be put on every pixel of a scaled screen, so the keys do not
-/// move it: they set the cursor apart from it, and the mouse carries that distance along until it
-/// runs into an edge of the desktop.
+/// The mouse pointer cannot be placed on every pixel of a scaled screen, so keys do not move the
+/// pointer. They offset the cursor from it. Mouse moves keep the offset until the pointer reaches
+/// an edge of the desktop.
 class PixelCursor {
 public:
     /// At least one screen. The cursor is where the mouse is, or at the nearest pixel of a screen.
     PixelCursor(std::vector<QRect> screens, QPoint mouse);
 
     void mouseMovedTo(QPoint mouse);
-    /// Goes by whole pixels, as far as there are screens in that direction.
+    /// Moves by whole pixels, as far as there are screens in that direction.
     void step(QPoint by);
     [[nodiscard]] QPoint position() const { return _position; }
 

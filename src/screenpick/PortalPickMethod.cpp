@@ -9,8 +9,8 @@
 namespace vantorel {
 namespace {
 
-/// The window in the portal's terms. A Wayland window's handle takes a protocol that Qt does not
-/// speak; empty then, which the portal allows.
+/// The window in the portal's terms. Empty for a Wayland window, whose handle needs a protocol that
+/// Qt does not support. The portal allows that.
 QString portalNameOf(const QWidget* parent)
 {
     if (!parent || QGuiApplication::platformName() != QLatin1String("xcb")) return {};

@@ -17,7 +17,7 @@ class PortalPickMethod final : public PickMethod {
     Q_OBJECT
 
 public:
-    /// `bus` gives the session bus; it is asked at each start.
+    /// `bus` returns the session bus; it is called at each start.
     explicit PortalPickMethod(std::function<QDBusConnection()> bus);
     ~PortalPickMethod() override;
 

@@ -20,7 +20,7 @@ const QString screenshotInterface = QStringLiteral("org.freedesktop.portal.Scree
 const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
 
 constexpr uint firstVersionWithPickColor = 2;
-// Long enough for a portal that is started by the question, short enough for a user who waits.
+// Long enough for a portal that the call starts, short enough for a waiting user.
 constexpr int versionTimeout = 5000;
 constexpr int callTimeout = 10000;
 
@@ -57,11 +57,11 @@ Phrase clauseFor(const QDBusMessage& error)
     }
 }
 
-/// Empty for anything but three numbers.
+/// Returns `std::nullopt` for anything but three numbers.
 std::optional<HostColor> colorFrom(const QVariant& value)
 {
     if (value.metaType() != QMetaType::fromType<QDBusArgument>()) return std::nullopt;
-    // A const one is read; another would be written to.
+    // Const, because the operators of a non-const argument would write to it.
     const auto argument = value.value<QDBusArgument>();
     if (argument.currentSignature() != QLatin1String("(ddd)")) return std::nullopt;
     double red = 0;
@@ -78,11 +78,11 @@ std::optional<HostColor> colorFrom(const QVariant& value)
 }  // namespace
 
 PortalRequest::PortalRequest(const QDBusConnection& bus)
-    // The application owns what is still waiting for a portal when it ends.
+    // Requests that still wait for a portal when the program exits are owned by the application.
     : QObject(QCoreApplication::instance()),
       _bus(bus),
       _portalWatcher(portalService, bus, QDBusServiceWatcher::WatchForUnregistration),
-      // Random, so that no other program on the bus can guess where the answer comes.
+      // Random, so that no other program on the bus can guess the path of the answer.
       _token(QStringLiteral("vantorel_%1").arg(QRandomGenerator::system()->generate64(), 0, 16))
 {
     connect(&_portalWatcher, &QDBusServiceWatcher::serviceUnregistered, this,
@@ -107,8 +107,7 @@ void PortalRequest::cancel()
 {
     if (_over) return;
     _over = true;
-    // A portal that has not yet named the handle may not have made it either; it would miss a
-    // Close.
+    // A portal that has not yet returned the handle may not have created it and would miss a Close.
     if (_handleIsPending) return;
     if (!_handle.isEmpty()) closeAtPortal();
     deleteLater();
@@ -142,7 +141,7 @@ void PortalRequest::takeVersion(const QDBusMessage& reply)
 
 void PortalRequest::callPickColor()
 {
-    // The answer can come before the call returns, so the place where it comes is worked out.
+    // The answer can arrive before the call returns, so its path is computed in advance.
     const QString sender = _bus.baseService().mid(1).replace(u'.', u'_');
     listenAt(QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, _token));
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -159,7 +158,7 @@ void PortalRequest::takeHandle(const QDBusMessage& reply)
     _handleIsPending = false;
     const bool failed = reply.type() == QDBusMessage::ErrorMessage;
     if (!failed) {
-        // An old portal makes up a handle of its own.
+        // Old portals choose their own handles.
         const QString handle = reply.arguments().value(0).value<QDBusObjectPath>().path();
         if (!handle.isEmpty() && handle != _handle) listenAt(handle);
     }
@@ -169,7 +168,7 @@ void PortalRequest::takeHandle(const QDBusMessage& reply)
     } else if (failed) {
         fail(clauseFor(reply));
     }
-    // From here on there is no limit of time: the user may take as long as they like.
+    // From here on there is no time limit: the user may take as long as they like.
 }
 
 void PortalRequest::listenAt(const QString& handle)
@@ -183,7 +182,7 @@ void PortalRequest::closeAtPortal()
 {
     QDBusMessage call = QDBusMessage::createMethodCall(portalService, _handle, requestInterface,
                                                        QStringLiteral("Close"));
-    // A portal that has gone has nothing to close.
+    // If the portal has exited there is no request to close.
     call.setAutoStartService(false);
     _bus.send(call);
 }

@@ -10,10 +10,10 @@
 
 namespace vantorel {
 
-/// One `PickColor` call, from the question whether there is such a thing to the user's answer.
+/// One `PickColor` call, from checking that the portal supports it to the user's answer.
 ///
-/// It deletes itself when all is said: at the answer, or, where it is given up while the portal
-/// still prepares the pick, once the portal has said what there is to close.
+/// It deletes itself when it is done: at the answer, or, if it is abandoned while the portal
+/// prepares the pick, once the portal has returned the handle to close.
 class PortalRequest final : public QObject {
     Q_OBJECT
 
@@ -22,11 +22,11 @@ public:
 
     /// `parentWindow` in the portal's form, may be empty.
     void start(const QString& parentWindow);
-    /// Gives the pick up: it does not finish any more, and the portal takes its picker away.
+    /// Abandons the pick: `finished` is not emitted, and the portal closes its picker.
     void cancel();
 
 signals:
-    /// The pick is over. Comes at most once, from the event loop.
+    /// Emitted at most once, from the event loop.
     void finished(const vantorel::PickMethod::Outcome& outcome);
 
 private slots:
@@ -47,10 +47,10 @@ private:
     QDBusServiceWatcher _portalWatcher;
     QString _parentWindow;
     QString _token;
-    /// Where the portal answers.
+    /// The object path of the portal's answer.
     QString _handle;
     bool _handleIsPending = false;
-    /// The pick is over, or is no longer wanted.
+    /// The pick has finished or was abandoned.
     bool _over = false;
 };
 

@@ -10,14 +10,14 @@ class QWidget;
 
 namespace vantorel {
 
-/// What became of a pick from the screen.
+/// The result of a pick from the screen.
 struct ScreenPickResult {
     enum class Outcome { picked, cancelled, notPossible };
 
     Outcome outcome = Outcome::cancelled;
-    /// When picked: opaque, each channel 0..1.
+    /// If picked: opaque, each channel 0..1.
     HostColor color = HostColor::blackColor();
-    /// When not possible: what is missing, one sentence for the user.
+    /// If not possible: what is missing.
     Message reason;
 
     bool operator==(const ScreenPickResult&) const = default;
@@ -31,23 +31,23 @@ public:
     ScreenPicker() = default;
     ScreenPicker(const ScreenPicker&) = delete;
     ScreenPicker& operator=(const ScreenPicker&) = delete;
-    /// Gives up a pick that is under way. No callback comes after this.
+    /// Abandons a pick in progress, without calling back.
     virtual ~ScreenPicker() = default;
 
-    /// Begins a pick; one that is under way ends as cancelled first. `done` is called exactly once,
-    /// from the event loop: never inside `start` or `cancel`. It may call both, or end the picker.
-    /// `parent` is the window that asks, which a desktop's own dialogue is put above; may be null,
-    /// and may go away during the pick.
+    /// Begins a pick. One in progress is cancelled first. `done` is called exactly once, from the
+    /// event loop, never inside `start` or `cancel`. It may call both, or destroy the picker.
+    /// `parent` is the requesting window, over which a desktop shows its own dialogue; it may be
+    /// null, and may be destroyed during the pick.
     virtual void start(QWidget* parent, Callback done) = 0;
-    /// Ends a pick that is under way as cancelled; without one, does nothing.
+    /// Cancels the pick in progress, if any.
     virtual void cancel() = 0;
-    /// From `start` until the result is on its way.
+    /// True from `start` until the result is determined.
     [[nodiscard]] virtual bool isPicking() const = 0;
 };
 
-/// Picks through the desktop portal where it offers that, else with a magnifier where an X11
-/// display shows the whole screen, else answers what is missing. Which one it is, is found out anew
-/// at each start, because portals come and go; making the picker costs nothing.
+/// Returns a picker that uses the desktop portal if it can pick, else a magnifier if an X11 display
+/// shows the whole screen, else reports what is missing. It checks at each start, because portals
+/// come and go. Creating the picker is cheap.
 [[nodiscard]] std::unique_ptr<ScreenPicker> makeScreenPicker();
 
 }  // namespace vantorel

@@ -182,7 +182,7 @@ TEST(PanelPluginsTest, PluginsWithoutAPageAreNamedAndTheOthersWork)
     QStringList texts;
     for (const QLabel* label : window.findChildren<QLabel*>())
         texts.append(label->text());
-    EXPECT_TRUE(texts.filter("could not be made").size() == 1) << texts.join("|").toStdString();
+    EXPECT_TRUE(texts.filter("could not be created").size() == 1) << texts.join("|").toStdString();
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object)
     return nullptr;
 }
 
-/// Sets what the interface is chosen by.
+/// Sets the property by which the interface is chosen.
 void setProperty(QWidget& widget, const char* name, const QVariant& value)
 {
     static const bool installed = (QAccessible::installFactory(interfaceOf), true);

@@ -44,7 +44,7 @@ void QtAccessiblePopUpButton::doAction(const QString& action)
 {
     if (!widget()->isEnabled()) return;
     if (action == showMenuAction()) {
-        // Later: who asked waits for the answer meanwhile, and may ask what the menu holds.
+        // Later, because the caller waits for the answer and may then query the menu.
         QMetaObject::invokeMethod(
             widget(), [&popUp = _popUp] { popUp.openMenu(); }, Qt::QueuedConnection);
     } else {
@@ -78,7 +78,7 @@ int QtAccessiblePopUpButton::characterCount() const
 
 QRect QtAccessiblePopUpButton::characterRect(int) const
 {
-    // The text is one thing: nobody reads a title letter by letter off the screen.
+    // The text is one unit: nobody points at single letters of a title.
     return rect();
 }
 

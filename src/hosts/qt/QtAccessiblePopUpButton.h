@@ -7,12 +7,12 @@
 namespace vantorel {
 
 /// A pop-up for assistive technology: a combo box that keeps its own name, and whose text, which
-/// cannot be edited, is the selected item's title. It opens by an action; keys choose, too.
+/// cannot be edited, is the selected item's title. An action opens it; keys also select items.
 class QtAccessiblePopUpButton final : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     QtAccessiblePopUpButton(QWidget* widget, QtPopUpButton& popUp);
 
-    /// The title of the selected item; empty when there is none.
+    /// The title of the selected item; empty if there is none.
     [[nodiscard]] static QString shownText(const QtPopUpButton& popUp);
 
     void* interface_cast(QAccessible::InterfaceType type) override;
@@ -23,7 +23,7 @@ public:
     void doAction(const QString& action) override;
     [[nodiscard]] QStringList keyBindingsForAction(const QString& action) const override;
 
-    // Nothing is selected in the text, and nothing can be.
+    // The text has no selection and cannot get one.
     void selection(int index, int* start, int* end) const override;
     [[nodiscard]] int selectionCount() const override { return 0; }
     void addSelection(int, int) override {}

@@ -27,8 +27,8 @@ public:
         QSvgRenderer(colored).render(painter, rect);
     }
 
-    /// Buttons ask whenever they are painted, and reading the icons anew took half of the time of
-    /// painting the panel.
+    /// Buttons ask at every paint. Without this cache, reading the icons took half of the time to
+    /// paint the panel.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
         const QRgb wanted = color(mode).rgba();
@@ -98,7 +98,7 @@ QtButton::QtButton(const HostControlDescription& description)
         if (_stateIsBeingShown) return;
         setState(checked ? 1 : 0);
         sendAction();
-        // The action may have decided otherwise.
+        // The action may have set another state.
         stateDidChange();
     });
 }

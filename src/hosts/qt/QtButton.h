@@ -22,9 +22,8 @@ private:
     bool _stateIsBeingShown = false;
 };
 
-/// An icon from a picture in SVG that says `currentColor` where it takes the text colour of the
-/// theme; it is drawn afresh for every size and screen. The theme is that of `ground`, or the
-/// program's.
+/// An icon from an SVG picture. `currentColor` in it becomes the text colour of the theme: that of
+/// `ground`, or the program's if null. The picture is rendered for each size and screen.
 [[nodiscard]] QIcon iconFromSvg(const std::string& svg, const QWidget* ground = nullptr);
 
 }  // namespace vantorel

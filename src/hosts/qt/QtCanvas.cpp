@@ -14,7 +14,7 @@ namespace {
 
 using Kind = HostBezierPath::ElementKind;
 
-/// The rectangle that a path is, if it is an upright one.
+/// Returns the rectangle that a path describes, if its sides are horizontal and vertical.
 std::optional<HostRect> uprightRect(const HostBezierPath& path)
 {
     const auto& e = path.elements();
@@ -85,8 +85,8 @@ QRectF QtCanvas::placed(HostRect rect) const
     return {placed(HostPoint{rect.x, rect.maxY()}), placed(HostPoint{rect.maxX(), rect.y})};
 }
 
-// The painter does work for each setting, also where it changes nothing; a wheel has two thousand
-// cells.
+// Setting a painter's state costs time even if the state does not change, and a wheel has two
+// thousand cells.
 void QtCanvas::setAntialiasing(bool on)
 {
     if (_painter.testRenderHint(QPainter::Antialiasing) != on) {
@@ -114,8 +114,8 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
     }
 }
 
-/// Strokes an upright rectangle on whole pixels of the device, which makes it crisp, as four filled
-/// bars, which takes a tenth of the time of a smooth stroke.
+/// Strokes a rectangle as four filled bars on whole pixels of the device. That is crisp, and takes
+/// a tenth of the time of a smooth stroke.
 void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& color)
 {
     const qreal ratio = _painter.device()->devicePixelRatioF();
@@ -139,7 +139,7 @@ void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& co
     _painter.fillRect(QRectF(right - width, top + height, width, innerHeight), color);
 }
 
-/// Strokes an open line through the middle of pixels of the device. Its level and upright pieces
+/// Strokes an open line through the middle of pixels of the device. Horizontal and vertical pieces
 /// are filled bars, so that only slanted ones cost a smooth stroke.
 void QtCanvas::strokeOpenLine(const HostBezierPath& path, const QPen& pen)
 {
@@ -175,8 +175,8 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     }
     QPen pen(brush, path.lineWidth() * _scale);
     pen.setJoinStyle(Qt::MiterJoin);
-    // The outline of a shape stays where the shape is. Where the pieces of a line meet they cover
-    // each other, which a translucent colour would show.
+    // An outline must stay exactly on its shape. The pieces of a line overlap where they meet,
+    // which would show in a translucent colour.
     const auto closes = [](const auto& element) { return element.kind == Kind::close; };
     if (brush.alpha() == 255 && std::ranges::none_of(path.elements(), closes)) {
         strokeOpenLine(path, pen);

@@ -12,7 +12,7 @@
 namespace vantorel {
 
 /// Paints through a QPainter. Fills have hard edges, so that neighbours meet without seams; strokes
-/// are smooth, but upright and level ones lie on whole pixels of the device.
+/// are smooth, except that horizontal and vertical ones lie on whole pixels of the device.
 class QtCanvas final : public HostCanvas {
 public:
     /// The painter paints a widget or picture that shows `bounds`; it must outlive the canvas.
@@ -23,7 +23,7 @@ public:
     void drawText(const HostText& text, HostPoint at) override;
 
 private:
-    /// As `widgetPoint` and `widgetRect`, which look up the scale each time.
+    /// The same as `widgetPoint` and `widgetRect`, which look up the scale at each call.
     [[nodiscard]] QPointF placed(HostPoint point) const;
     [[nodiscard]] QRectF placed(HostRect rect) const;
     void setAntialiasing(bool on);
@@ -33,7 +33,7 @@ private:
     QPainter& _painter;
     HostRect _bounds;
     double _scale;
-    /// What lies outside need not be painted; empty when everything must.
+    /// Anything outside need not be painted. Empty if everything must be painted.
     std::optional<QRectF> _dirty;
     std::vector<QPointF> _corners;  ///< of the polygon that is painted; its storage stays
 };
@@ -41,7 +41,7 @@ private:
 /// In device-independent pixels.
 [[nodiscard]] QSizeF pictureSize(const HostImage& image);
 
-/// A picture of an image for a screen of that many device pixels a point.
+/// Renders an image for a screen with this number of device pixels per point.
 [[nodiscard]] QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio);
 
 /// On whole device-independent pixels.

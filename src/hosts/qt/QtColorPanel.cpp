@@ -16,7 +16,7 @@ void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
 
 void QtColorPanel::pageDidAppear()
 {
-    // A new context ends the connections to the page that was on show before.
+    // A new context ends the connections to the previous page.
     _pageConnections = std::make_unique<QObject>();
     forEachBelow<QtTextField>(pageView(), [this](QtTextField& field) {
         QObject::connect(field.lineEdit(), &QtLineEdit::entryGivenUp, _pageConnections.get(),
@@ -35,7 +35,7 @@ HostPoint QtColorPanel::mouseLocation(const HostView& view) const
 
 void QtColorPanel::makeFirstResponder(HostView& view)
 {
-    // Moves reach a widget without focus, and taking the focus would end an entry.
+    // A widget gets mouse moves without having the focus, and taking it would end a text entry.
     static_cast<void>(view);
 }
 

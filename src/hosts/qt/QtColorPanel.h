@@ -9,7 +9,7 @@
 
 namespace vantorel {
 
-/// What every colour panel made with Qt has in common; colour and place are the window's.
+/// The base class of colour panels made with Qt. The derived class has the colour and the position.
 class QtColorPanel : public HostColorPanel {
 public:
     /// `desktop` must outlive the panel.
@@ -27,16 +27,15 @@ public:
                    HostView& source) override;
 
 protected:
-    /// The view that shows the current page; moves of the mouse are switched on and off below it.
+    /// The view that shows the current page. Mouse moves are switched on and off for its subviews.
     [[nodiscard]] virtual HostView* pageView() const = 0;
-    /// To be called when a page has come on show: lets Escape in its text fields show the panel's
-    /// colour again.
+    /// Call this after showing a page: Escape in its text fields then restores the panel's colour.
     void pageDidAppear();
 
 private:
     QtDesktop& _desktop;
     bool _acceptsMouseMoved = false;
-    /// The context of what is connected to the page on show.
+    /// The context of the connections to the shown page.
     std::unique_ptr<QObject> _pageConnections;
 };
 

@@ -14,7 +14,7 @@ namespace {
 quint16 channel(double value)
 {
     constexpr double largest = 65535;
-    // For what is not negative this is right, and std::lround is a call.
+    // This is correct for non-negative values, and unlike std::lround it is inlined.
     // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     return value > 0 ? static_cast<quint16>(std::min(value, 1.0) * largest + 0.5) : quint16{0};
 }

@@ -12,25 +12,24 @@
 #include <string>
 #include <string_view>
 
-/// Between the core's values and Qt's.
+/// Converts between the core's values and Qt's.
 namespace vantorel {
 
-/// Channels outside 0..1 are cut; a pattern or NaN channel has no counterpart and gives an invalid
-/// colour or 0.
+/// Channels are clamped to 0..1. A pattern gives an invalid colour, a NaN channel 0.
 [[nodiscard]] QColor qColorFrom(const HostColor& color);
 [[nodiscard]] HostColor hostColorFrom(const QColor& color);
 
 [[nodiscard]] QString qStringFrom(std::u16string_view text);
 [[nodiscard]] std::u16string u16From(const QString& text);
 
-/// The desktop's sans-serif face; a point of the core is `textScale()` device-independent pixels.
+/// The desktop's sans-serif font. A point of the core is `textScale()` device-independent pixels.
 [[nodiscard]] QFont fontOfSize(double points);
 
-/// The font of a control, which has 11 points where its description names no size.
+/// The font of a control: 11 points unless its description has a size.
 [[nodiscard]] QFont fontOf(const HostControlDescription& description);
 
-/// The palette for controls on the core's own grounds, which are light in every theme: the
-/// program's where that is light, else one to match.
+/// The palette for controls on the core's own backgrounds, which are light in every theme: the
+/// program's palette if it is light, else a matching light one.
 [[nodiscard]] QPalette paletteOnLightGround();
 
 }  // namespace vantorel

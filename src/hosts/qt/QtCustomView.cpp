@@ -25,7 +25,7 @@ std::uint64_t modifierFlags(Qt::KeyboardModifiers modifiers)
 
 class QtCustomView::Widget final : public QWidget {
 public:
-    /// Set once the view is complete; events come later still.
+    /// Set once the view is complete, before any event arrives.
     void setOwner(QtCustomView* owner) { _owner = owner; }
 
 protected:
@@ -77,7 +77,7 @@ protected:
                 break;
             case QEvent::UngrabMouse:
             case QEvent::Hide:
-                // Whoever took the mouse will get the release.
+                // The widget that grabbed the mouse gets the release.
                 if (_owner != nullptr && _owner->_buttonIsDown) {
                     _owner->continuePress(_owner->releaseAtLastPoint());
                 }
@@ -133,7 +133,7 @@ void QtCustomView::continuePress(const HostEvent& event)
     const bool released = event.type == HostEventType::leftMouseUp;
     if (released) _buttonIsDown = false;
     if (_pressIsBeingHandled) {
-        // Where the pointer has been meanwhile matters less than where it is.
+        // The current position of the pointer matters more than its path.
         if (!released && !_waitingEvents.empty() && _waitingEvents.back().type == event.type) {
             _waitingEvents.back() = event;
         } else {
@@ -195,7 +195,7 @@ HostEvent QtCustomView::nextMouseEvent(std::uint32_t mask)
         QObject::connect(widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
         if (!alive) return {HostEventType::leftMouseUp, lastPoint, 0};
-        // Something else has ended the loop: the program is about to end.
+        // The loop was ended from elsewhere, because the program is about to exit.
         if (_waitingEvents.empty()) return releaseAtLastPoint();
     }
 }

@@ -9,7 +9,7 @@
 
 namespace vantorel {
 
-/// A view painted by the core, with its mouse.
+/// A view that the core paints and that passes mouse events to it.
 class QtCustomView final : public QtMirrored<HostCustomView> {
 public:
     QtCustomView(const HostControlDescription& description, HostViewContent& content);
@@ -17,11 +17,12 @@ public:
     std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) override;
     void removeTrackingRect(std::intptr_t tag) override;
 
-    /// For the panel, which knows whether moves are wanted.
+    /// Called by the panel, which knows whether mouse moves are wanted.
     void setAcceptsMouseMoved(bool flag) { _acceptsMouseMoved = flag; }
 
-    /// Waits for the view's next mouse event of a type in `mask` while the program goes on. A
-    /// left-mouse-up when there will be none: the button is up, or the view or program ends.
+    /// Waits for the view's next mouse event of a type in `mask` while the program continues to
+    /// run. Returns a left-mouse-up if none can come: the button is up, or the view or the program
+    /// is about to end.
     [[nodiscard]] HostEvent nextMouseEvent(std::uint32_t mask);
 
     /// A drag-out has taken the button; its release will not come.
@@ -37,7 +38,7 @@ private:
 
     void paint(QPainter& painter);
     void press(const HostEvent& event);
-    /// A drag or release: for whoever waits for it, else for the content.
+    /// Passes a drag or release to the tracking loop that waits for it, else to the content.
     void continuePress(const HostEvent& event);
     void moveFreely(const HostEvent& event);
     void leave(const HostEvent& event);

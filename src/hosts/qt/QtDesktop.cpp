@@ -77,7 +77,7 @@ void QtDesktop::beep()
 void QtDesktop::log(const std::u16string& line)
 {
     const std::string text = utf8FromUtf16(line) + "\n";
-    // There is nowhere to tell that standard error is closed.
+    // If stderr is closed there is no way to report it.
     static_cast<void>(std::fputs(text.c_str(), stderr));
 }
 

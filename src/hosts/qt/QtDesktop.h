@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// The services of a desktop that Qt runs on. Needs a QApplication.
+/// The desktop as seen through Qt. Needs a QApplication.
 class QtDesktop final : public HostDesktop {
 public:
     QtDesktop();
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] std::u16string localizedString(const std::u16string& key) override;
     void openURL(const std::string& url) override;
     void beep() override;
-    /// To standard error.
+    /// Writes to standard error.
     void log(const std::u16string& line) override;
 
 private:

@@ -23,7 +23,7 @@ QDrag* makeDrag(QWidget& source, const HostImage& image, const HostPasteboardIte
     drag->setMimeData(data.release());
     const QPixmap pixmap = pixmapOfImage(image, source.devicePixelRatioF());
     drag->setPixmap(pixmap);
-    // The lower left corner at the pointer, which thus points at what lies below.
+    // The pointer is at the lower left corner, so that the target below it stays visible.
     drag->setHotSpot(QPoint(0, qRound(pixmap.deviceIndependentSize().height())));
     return drag;
 }

@@ -8,10 +8,10 @@
 
 namespace vantorel {
 
-/// A drag out of a widget, ready to run; Qt deletes it when it has ended, or with `source`. It
-/// offers one type alone: a colour as `application/x-color`, a text as `text/plain` in UTF-8. The
-/// image stands at the upper right of the pointer. Null for a colour without components, which has
-/// no form that others could read.
+/// Creates a drag out of a widget, ready to run. Qt deletes it when it ends, or with `source`. It
+/// offers a single type: a colour as `application/x-color`, a text as `text/plain` in UTF-8. The
+/// image is to the upper right of the pointer. Returns null for a colour without components, which
+/// has no form that other programs could read.
 [[nodiscard]] QDrag* makeDrag(QWidget& source, const HostImage& image,
                               const HostPasteboardItem& item);
 

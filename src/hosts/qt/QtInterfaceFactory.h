@@ -4,7 +4,7 @@
 
 namespace vantorel {
 
-/// Makes Qt's controls.
+/// Creates controls made of Qt's widgets.
 class QtInterfaceFactory final : public HostInterfaceFactory {
 public:
     std::unique_ptr<HostView> makeView(const HostControlDescription& description) override;

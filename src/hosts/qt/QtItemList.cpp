@@ -27,7 +27,7 @@ constexpr int besideImage = 6;
 
 }  // namespace
 
-/// The items, read as the view asks for them.
+/// The items, read when the view asks for them.
 class QtItemList::Model final : public QAbstractListModel {
 public:
     Model(HostMenu items, int selected, const QWidget& shownIn)
@@ -82,8 +82,8 @@ private:
     const QWidget& _shownIn;
 };
 
-/// Rows as in a menu; a separator is a line across. Pictures are painted as they are: as icons the
-/// toolkit would keep the name of each until the program ends.
+/// Paints rows as in a menu; a separator is a horizontal line. Pictures are painted directly: of
+/// icons Qt would keep the name until the program exits.
 class QtItemList::RowPainter final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -172,7 +172,7 @@ QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
 
 int QtItemList::wantedWidth() const
 {
-    // To measure every title would take long for a long list; the longest few tell enough.
+    // Measuring every title would take too long for a long list; the longest few are enough.
     std::size_t longest = 0;
     for (const HostMenuItem& item : _model->items())
         longest = std::max(longest, std::min<std::size_t>(item.title.size(), widestList));

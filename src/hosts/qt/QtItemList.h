@@ -7,12 +7,12 @@
 
 namespace vantorel {
 
-/// The items of a pop-up as a list that opens beside it and scrolls. It takes no longer to open for
-/// tens of thousands of items than for ten: only the rows on show are laid out and painted.
+/// The items of a pop-up as a scrolling list that opens next to it. Tens of thousands of items open
+/// as fast as ten, because only the visible rows are laid out and painted.
 ///
-/// Keyboard: arrows, page keys, Home and End move; letters go to the next item that begins so;
-/// Return, Enter or Space choose; Escape closes. Mouse: a click, or a release after the press that
-/// opened it. The list ends itself when it closes.
+/// Keyboard: arrows, page keys, Home and End move; letters go to the next item with this prefix;
+/// Return, Enter or Space select; Escape closes. Mouse: a click selects, as does a release after
+/// the press that opened the list. The list deletes itself when it closes.
 class QtItemList final : public QFrame {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     /// No item may have a submenu. `selected` is marked; -1 for none.
     QtItemList(const HostMenu& items, int selected, QWidget& parent);
 
-    /// Opens below a rectangle of the screen, or above it where there is more room.
+    /// Opens below a rectangle of the screen, or above it if there is more room.
     void openBeside(const QRect& button);
 
 signals:
@@ -44,7 +44,7 @@ private:
 
     Model* _model;
     QListView* _view;
-    /// Whether a release counts: not the one that belongs to the press which opened the list.
+    /// Whether a release selects. The one that follows the press which opened the list does not.
     bool _releaseChooses = false;
 };
 

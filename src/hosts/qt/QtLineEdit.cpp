@@ -35,8 +35,8 @@ void QtLineEdit::setHostColor(const HostColor& color)
 
 bool QtLineEdit::event(QEvent* event)
 {
-    // Accepted before shortcuts are looked for: in a field Escape ends the entry and nothing else,
-    // also where it would close the window.
+    // Accepted ahead of shortcuts: in a field Escape only ends the entry, even in a window that
+    // Escape would close.
     if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
         event->accept();
@@ -53,7 +53,7 @@ void QtLineEdit::keyPressEvent(QKeyEvent* event)
         emit entryGivenUp();
         setModified(false);
     } else {
-        // There is no entry to give up.
+        // There is no entry to discard.
         event->ignore();
     }
 }

@@ -8,20 +8,20 @@
 
 namespace vantorel {
 
-/// A line edit whose text colour follows the theme, which can be left by Escape, and which writes a
-/// little smaller where that makes room for the whole text.
+/// A line edit whose text colour follows the theme. Escape discards the entry. The font becomes a
+/// little smaller if that makes room for the whole text.
 class QtLineEdit final : public QLineEdit {
     Q_OBJECT
 
 public:
-    /// `font` has the full size of the letters.
+    /// `font` has the full size.
     explicit QtLineEdit(const QFont& font);
 
     void setHostColor(const HostColor& color);
 
 signals:
-    /// The user has pressed Escape after typing. The text before is the panel's to know: other
-    /// fields may have followed the typing.
+    /// The user has pressed Escape after typing. Only the panel knows the previous text, because
+    /// other fields may have followed the typing.
     void entryGivenUp();
 
 protected:
@@ -33,7 +33,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Chooses the size of the letters; it stays while the user types.
+    /// Chooses the font size, which does not change while the user types.
     void fit();
     void applyColor();
 
@@ -42,8 +42,8 @@ private:
     bool _applying = false;
 };
 
-/// A text colour of the core on the ground that a palette gives: black becomes the palette's own
-/// text colour, and what would be too dark on a dark ground is lightened.
+/// Returns a text colour of the core for the background of a palette: black becomes the palette's
+/// text colour, and colours too dark for a dark background are lightened.
 [[nodiscard]] QColor readableTextColor(const HostColor& color, const QPalette& palette);
 
 }  // namespace vantorel

@@ -64,7 +64,7 @@ private:
     TypeAhead _typeAhead;
 };
 
-/// "&" would make a mnemonic of the letter behind it.
+/// "&" would make the next letter a mnemonic.
 QString menuTitle(const std::u16string& title)
 {
     return qStringFrom(title).replace(u'&', QStringLiteral("&&"));
@@ -83,7 +83,7 @@ void addSubmenu(QMenu& target, const HostMenuItem& item)
         fillMenu(*submenu, make(), -1, [](const HostMenuItem& chosen, int) {
             if (chosen.action) chosen.action(chosen);
         });
-        // An empty menu would not open, and say nothing.
+        // An empty menu would not open, without any explanation.
         if (submenu->isEmpty()) {
             submenu->addAction(QCoreApplication::translate("Vantorel", "None"))->setEnabled(false);
         }

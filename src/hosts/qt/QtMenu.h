@@ -8,12 +8,12 @@
 
 namespace vantorel {
 
-/// What choosing an item of the top level does; it gets the item and its place.
+/// Called when an item of the top level is selected, with the item and its index.
 using QtMenuChoice = std::function<void(const HostMenuItem& item, int index)>;
 
-/// A menu of items that may have submenus, which are made when they open. Letters go to the next
-/// item that begins so; a menu higher than the screen scrolls. The item at `selected` is marked.
-/// The menu ends itself when it closes.
+/// Creates a menu of items. Submenus are created when they open. Letters go to the next item with
+/// this prefix; a menu higher than the screen scrolls. The item at `selected` is marked. The menu
+/// deletes itself when it closes.
 [[nodiscard]] QMenu* makeMenu(const HostMenu& items, int selected, QWidget& parent,
                               const QtMenuChoice& choose);
 

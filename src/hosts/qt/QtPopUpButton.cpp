@@ -48,9 +48,9 @@ protected:
         paintLabel(painter, option);
     }
 
-    /// The style leaves the text less room than there is up to the arrow, which matters in a button
-    /// as narrow as ours. The picture is painted as it is: as an icon the toolkit would keep the
-    /// name of each until the program ends, and in a drag each step has another one.
+    /// The style does not use all of the room up to the arrow, which matters in a button as narrow
+    /// as ours. The picture is painted directly: of icons Qt would keep the name until the program
+    /// exits, and each step of a drag has another picture.
     void paintLabel(QStylePainter& painter, const QStyleOptionComboBox& option) const
     {
         QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option,
@@ -146,7 +146,7 @@ void QtPopUpButton::menuDidChange()
 void QtPopUpButton::chooseItem(int index)
 {
     if (index < 0 || index >= numberOfItems()) return;
-    // A copy: what it does may rebuild the menu.
+    // A copy, because the action may rebuild the menu.
     const HostMenuItem item = menu()[static_cast<std::size_t>(index)];
     if (!canBeChosen(item)) return;
     if (item.action) {
@@ -159,7 +159,7 @@ void QtPopUpButton::chooseItem(int index)
 
 void QtPopUpButton::chooseOpened(const HostMenuItem& item, int index)
 {
-    // The items may have changed while they were on show.
+    // The items may have changed while they were shown.
     const bool unchanged =
         index < numberOfItems() && menu()[static_cast<std::size_t>(index)].title == item.title;
     chooseItem(unchanged ? index : indexOfItemWithTitle(item.title));

@@ -5,16 +5,16 @@
 
 namespace vantorel {
 
-/// A pop-up that looks like a combo box. It opens a list, or a menu where items have submenus,
-/// which is made when it opens. Keyboard: Space, Return or Alt+Down opens it, Up and Down choose
-/// the neighbour, letters choose the next item that begins so.
+/// A pop-up that looks like a combo box. It opens a list, or a menu if items have submenus; either
+/// is created when it opens. Keyboard: Space, Return or Alt+Down opens it, Up and Down select the
+/// neighbour, letters select the next item with this prefix.
 class QtPopUpButton final : public QtMirrored<HostPopUpButton> {
 public:
     explicit QtPopUpButton(const HostControlDescription& description);
 
     /// Sends the notice, builds the menu and opens it.
     void openMenu();
-    /// Chooses an item of the top level as the user does.
+    /// Selects an item of the top level, as the user would.
     void chooseItem(int index);
 
 protected:

@@ -32,11 +32,11 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));
-    // Not `textEdited`: what an assistive program enters for the user counts as typed, too.
+    // Not `textEdited`: text entered by an assistive program counts as typed, too.
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
         if (_textIsBeingSet) return;
         sendTextDidChange();
-        // The typing may have completed the text, which does not end it.
+        // Completing the text while the user types does not end the entry.
         lineEdit()->setModified(true);
     });
     QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { enterText(); });
@@ -125,7 +125,7 @@ void QtLabel::setStringValue(const std::u16string& text)
 {
     const QString shown = qStringFrom(text);
     label()->setText(shown);
-    // A label with a name of its own would hide from assistive technology what it shows.
+    // An accessible name of the label itself would hide its text from assistive technology.
     if (label()->accessibleName() != shown) label()->setAccessibleDescription(shown);
 }
 

@@ -19,10 +19,10 @@ public:
 
     [[nodiscard]] HostSelection selectedRange() const override;
     void setSelectedRange(HostSelection range) override;
-    /// Whether the user is in the field.
+    /// Whether the field has the keyboard focus.
     [[nodiscard]] bool isEdited() const;
-    /// Enters what the user has typed, as Return does. Does nothing if the field is hidden, or
-    /// nothing was typed since it was last entered.
+    /// Enters the typed text, as Return does. Has no effect if the field is hidden or the user has
+    /// typed nothing since the last entry.
     void finishEditing();
     /// The field's widget.
     [[nodiscard]] QtLineEdit* lineEdit() const;
@@ -33,7 +33,7 @@ private:
     bool _textIsBeingSet = false;
 };
 
-/// A text that is only shown.
+/// A read-only text.
 class QtLabel final : public QtMirrored<HostTextField> {
 public:
     explicit QtLabel(const HostControlDescription& description);

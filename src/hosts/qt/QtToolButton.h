@@ -4,8 +4,8 @@
 
 namespace vantorel {
 
-/// A flat button with a picture that shows when it has the keyboard's focus, which most styles
-/// leave out for such buttons.
+/// A flat button with a picture. It shows the keyboard focus, which most styles omit for flat
+/// buttons.
 class QtToolButton final : public QToolButton {
 public:
     explicit QtToolButton(QWidget* parent = nullptr);

@@ -49,14 +49,13 @@ void placeWidgets(const HostView& view)
     if (widget != nullptr && view.superview() != nullptr) {
         const QRect place = widgetGeometry(view.frame(), view.superview()->bounds());
         widget->setGeometry(place);
-        // The core puts out of sight what it does not show just now, beside its superview. There
-        // neither Tab nor assistive technology shall find it.
+        // The core hides views by moving them outside their superview. Neither Tab nor assistive
+        // technology must find them there.
         const HostRect superview = view.superview()->bounds();
         const QRectF shown = widgetRect(superview, superview);
         widget->setVisible(widget->parentWidget() != nullptr && shown.intersects(place));
     }
-    // With y up, what keeps its frame moves in Qt's coordinates when the superview's height
-    // changes.
+    // With y up, an unchanged frame moves in Qt's coordinates when the superview's height changes.
     for (const HostView* subview : view.subviews())
         placeWidgets(*subview);
 }

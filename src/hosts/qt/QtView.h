@@ -7,7 +7,7 @@
 
 namespace vantorel {
 
-/// The widget of a view, wherever it stands in the tree of classes.
+/// The widget of a view, whatever the view's class.
 class QtPeer {
 public:
     virtual ~QtPeer() = default;
@@ -16,7 +16,7 @@ public:
 
 [[nodiscard]] QWidget* widgetOf(const HostView* view);
 
-/// Visits a view and those below it that are of a class. `view` may be null.
+/// Visits the views of a class among a view and its descendants. `view` may be null.
 template <class View, class Visit>
 void forEachBelow(HostView* view, const Visit& visit)
 {
@@ -26,24 +26,24 @@ void forEachBelow(HostView* view, const Visit& visit)
         forEachBelow<View>(subview, visit);
 }
 
-/// Where a view's widget stands in its superview's: this is the one place that turns the core's
-/// coordinates, y up and with an origin of their own, into Qt's. Edges are rounded, not sizes, so
-/// that views side by side stay so.
+/// The geometry of a view's widget in that of the superview. Only this function converts the core's
+/// coordinates, with y up and their own origin, to Qt's. It rounds edges, not sizes, so that
+/// adjacent views stay adjacent.
 [[nodiscard]] QRect widgetGeometry(HostRect frame, HostRect superviewBounds);
-/// A point of a widget in the view's own coordinates, and back.
+/// Convert a point of a widget to the view's own coordinates, and back.
 [[nodiscard]] HostPoint viewPoint(QPointF inWidget, HostRect bounds);
 [[nodiscard]] QPointF widgetPoint(HostPoint inView, HostRect bounds);
 [[nodiscard]] QRectF widgetRect(HostRect inView, HostRect bounds);
 
-/// Puts a view's widget where its frame is, and those of its subviews.
+/// Moves the widgets of a view and its subviews to their frames.
 void placeWidgets(const HostView& view);
-/// Puts a view's widget into that of its superview, or out of sight.
+/// Puts a view's widget into that of its superview, or hides it if there is none.
 void adoptWidget(const HostView& view);
 
-/// A text of the core in the user's language; the text itself where there is no translation.
+/// A text of the core in the user's language, or unchanged if there is no translation.
 [[nodiscard]] QString translatedText(const std::u16string& text);
 
-/// Mirrors a view in a widget, which it owns unless the widget's parent ends first.
+/// Mirrors a view in a widget. Owns the widget unless the widget's parent is destroyed first.
 template <class Base>
 class QtMirrored : public Base, public QtPeer {
 public:

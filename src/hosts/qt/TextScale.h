@@ -2,17 +2,17 @@
 
 namespace vantorel {
 
-/// Device-independent pixels a point of the core: 1, or more for a user who has chosen larger text
-/// on the desktop. The pages have a layout of their own, with a place for every control; so that no
-/// text is cut, they grow as a whole. Taken from the desktop's font when it is first asked for, and
-/// the same until the program ends. Needs a QGuiApplication.
+/// Device-independent pixels per point of the core: 1, or more if the user has chosen larger text
+/// on the desktop. Pages have fixed layouts, so they are enlarged as a whole to avoid cutting
+/// texts. The value is derived from the desktop's font at the first call and then never changes.
+/// Needs a QGuiApplication.
 [[nodiscard]] double textScale();
 
-/// So many points in whole device-independent pixels.
+/// Converts points to whole device-independent pixels.
 [[nodiscard]] int scaled(double points);
 
-/// The scale for a general font of that height in device-independent pixels: in steps of a quarter,
-/// so that edges fall on pixels more often than not.
+/// The scale for a general font of this height in device-independent pixels. It is a multiple of a
+/// quarter, so that most edges fall on whole pixels.
 [[nodiscard]] double textScaleForFontHeight(double pixels);
 
 }  // namespace vantorel

@@ -7,13 +7,13 @@
 
 namespace vantorel {
 
-/// Letters that are typed to find an item by the beginning of its title. After a pause they begin a
-/// new search; one letter again and again goes from each such item to the next.
+/// Finds items by letters that the user types, the prefix of a title. A letter after a pause begins
+/// a new search. Repeating one letter goes to the next item with this letter.
 class TypeAhead {
 public:
     [[nodiscard]] bool isSearching() const;
     /// The index of the next item, after `current` (-1 for none) and around the end, for which
-    /// `isNamed` tells that it begins with a text; -1 when there is none.
+    /// `isNamed` is true of the typed prefix; -1 if there is none.
     [[nodiscard]] int find(const QString& typed, int current, int count,
                            const std::function<bool(int index, const QString& start)>& isNamed);
 

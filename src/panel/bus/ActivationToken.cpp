@@ -17,7 +17,7 @@ ActivationToken activationTokenOfThisStart()
 
 void bringToFront(QWidget& window, const ActivationToken& token)
 {
-    // Where Qt looks for it when it activates a Wayland window.
+    // Qt reads it there when it activates a Wayland window.
     if (!token.activationToken.isEmpty()) qputenv(waylandVariable, token.activationToken);
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace vantorel {
 
-/// What a desktop gives a program that the user has started, so that its window may come to the
-/// front. A start that hands over to a running panel passes it on.
+/// Allows a program that the user has started to bring its window to the front. A start that passes
+/// its order to a running panel passes this on, too.
 struct ActivationToken {
     /// `XDG_ACTIVATION_TOKEN`, for Wayland.
     QByteArray activationToken;
@@ -17,11 +17,12 @@ struct ActivationToken {
     bool operator==(const ActivationToken&) const = default;
 };
 
-/// From the environment. To be called before there is an application, which takes it away.
+/// Reads the token from the environment. Call this before creating the QApplication, which removes
+/// it.
 [[nodiscard]] ActivationToken activationTokenOfThisStart();
 
-/// Shows the window, also out of its icon, above the others and with the keyboard, as far as the
-/// desktop lets it. A token is good for once; an empty one stands for none.
+/// Shows the window above all others with the keyboard focus, even if it was minimised, as far as
+/// the desktop allows. A token is valid once; an empty one means none.
 void bringToFront(QWidget& window, const ActivationToken& token);
 
 }  // namespace vantorel

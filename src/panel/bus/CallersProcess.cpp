@@ -24,7 +24,7 @@ constexpr int signalBase = 128;
         count = read(pipe, &status, 1);
     } while (count < 0 && errno == EINTR);
     if (count == 1) _exit(status);
-    // It has ended without a word.
+    // It has exited without reporting a status.
     int ended = 0;
     while (waitpid(child, &ended, 0) < 0 && errno == EINTR) {
     }
@@ -64,10 +64,10 @@ void CallersProcess::release(int status)
     if (_pipe < 0) return;
     prctl(PR_SET_PDEATHSIG, 0);
     setsid();
-    // What the program prints from here on may find nobody.
+    // Nobody may read the program's output from here on.
     static_cast<void>(signal(SIGPIPE, SIG_IGN));
     [[maybe_unused]] const int moved = chdir("/");
-    // Before the word, so that the caller finds all of the output.
+    // Before reporting the status, so that the caller gets all of the output.
     const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         dup2(nowhere, stream);

@@ -6,7 +6,7 @@ ChangeAnnouncer::ChangeAnnouncer()
 {
     _timer.setSingleShot(true);
     _timer.setInterval(leastInterval);
-    // Else Qt may move it by a millisecond to suit other timers.
+    // Otherwise Qt may shift it by a millisecond to coincide with other timers.
     _timer.setTimerType(Qt::PreciseTimer);
     connect(&_timer, &QTimer::timeout, this, [this] {
         if (_isWaiting) announce();

@@ -5,14 +5,14 @@
 
 namespace vantorel {
 
-/// Announces changes at a bearable rate: the first in a row at once, those that come within
-/// `leastInterval` of the last announcement together, after it. So the last change of all is always
-/// announced, and no timer runs while nothing changes.
+/// Announces changes at a limited rate: the first immediately, and those within `leastInterval` of
+/// the last announcement together after it. The last change is always announced, and no timer runs
+/// without changes.
 class ChangeAnnouncer final : public QObject {
     Q_OBJECT
 
 public:
-    /// In milliseconds; about 60 a second.
+    /// In milliseconds: about 60 per second.
     static constexpr int leastInterval = 16;
 
     ChangeAnnouncer();
@@ -24,7 +24,7 @@ public slots:
     void noteChange();
 
 signals:
-    /// It is time to announce what has changed.
+    /// Changes must be announced now.
     void due();
 
 private:

@@ -30,7 +30,7 @@ void ClipboardTurn::wait()
 
 bool ClipboardTurn::eventFilter(QObject*, QEvent* event)
 {
-    // Qt still works on the activation while it reports it.
+    // Qt reports the activation before it has finished handling it.
     if (event->type() == QEvent::WindowActivate) {
         QMetaObject::invokeMethod(
             this, [this] { finish(true); }, Qt::QueuedConnection);

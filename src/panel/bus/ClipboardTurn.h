@@ -5,9 +5,9 @@
 
 namespace vantorel {
 
-/// Waits until the desktop takes what the program puts on the clipboard. Under X11 it does at once.
-/// Under Wayland only the window with the keyboard may copy, so the window is shown and brought to
-/// the front first. The object deletes itself when the wait is over.
+/// Waits until the program may write to the clipboard. Under X11 it always may. Under Wayland only
+/// the window with the keyboard focus may, so the window is shown and activated first. The object
+/// deletes itself when the wait is over.
 class ClipboardTurn final : public QObject {
     Q_OBJECT
 
@@ -18,8 +18,8 @@ public:
     void wait();
 
 signals:
-    /// Comes once, perhaps from inside `wait`. False if the window has not come to the front within
-    /// two seconds.
+    /// Emitted once, possibly inside `wait`. False if the window was not activated within two
+    /// seconds.
     void over(bool isOurTurn);
 
 protected:

@@ -9,7 +9,7 @@
 /// The panel's names on the session bus; docs/dbus.md and the interface's XML file describe them.
 namespace vantorel {
 
-/// Also the name of the desktop file, as D-Bus activation wants it.
+/// Also the name of the desktop file, as D-Bus activation requires.
 inline const QString panelBusName = QStringLiteral("org.vantorel.ColorPanel");
 inline const QString panelObjectPath = QStringLiteral("/org/vantorel/ColorPanel");
 inline const QString panelInterface = QStringLiteral("org.vantorel.ColorPanel1");
@@ -19,7 +19,7 @@ inline const QString activationTokenKey = QStringLiteral("activation-token");
 inline const QString startupIDKey = QStringLiteral("desktop-startup-id");
 
 [[nodiscard]] QString errorNameFor(PanelError::Kind kind);
-/// Empty for an error that the panel does not send.
+/// Returns `std::nullopt` for an error that the panel does not send.
 [[nodiscard]] std::optional<PanelError::Kind> errorKindFor(const QString& errorName);
 
 }  // namespace vantorel

@@ -9,23 +9,23 @@
 
 namespace vantorel {
 
-/// What a start of the program wants from the panel, be it one that runs already or its own.
+/// The order of a start of the program to the panel, be it the running one or its own.
 struct PanelOrder {
     enum class Step {
         /// Show the window.
         show,
-        /// Pick a colour from the screen; the window stays as it is.
+        /// Pick a colour from the screen, without showing the window.
         pick,
         pickAndCopy,
-        /// Copy the panel's colour; the window stays as it is.
+        /// Copy the panel's colour, without showing the window.
         copy,
     };
 
     Step step = Step::show;
-    /// The colour to have first, as a CSS text.
+    /// The colour to set first, as a CSS text.
     std::optional<QString> color;
-    /// For `copy`: the name of a form in `ColorExchange::colorTexts`, or empty for what a drag
-    /// carries.
+    /// For `copy`: the name of a form in `ColorExchange::colorTexts`, or empty for the text of a
+    /// drag.
     QString form;
     ActivationToken token;
 };
@@ -41,7 +41,7 @@ struct PanelError {
     bool operator==(const PanelError&) const = default;
 };
 
-/// A text, such as the colour picked or what was copied, which may be empty; or why there is none.
+/// A text, such as the picked colour or the copied text, which may be empty; or an error.
 using PanelAnswer = Result<QString, PanelError>;
 
 }  // namespace vantorel

@@ -11,11 +11,11 @@ namespace vantorel {
 
 class PanelWindow;
 
-/// What programs outside ask of the panel, whichever way they reach it.
+/// The requests of other programs to the panel, however they reach it.
 ///
-/// A panel may run without a window, for a pick or for what it has copied: the clipboard belongs to
-/// a program, and goes with it. Such a panel ends when nothing is under way, and no text of its own
-/// is on the clipboard any more. Once the window has been shown it ends as every panel does.
+/// A panel may run without a window, for a pick or to keep its text on the clipboard, which is lost
+/// when its owner exits. Such a panel exits when no request is in progress and it no longer owns
+/// the clipboard. Once its window has been shown, it exits like any other panel.
 class PanelRequests final : public QObject {
     Q_OBJECT
 
@@ -26,27 +26,27 @@ public:
     explicit PanelRequests(PanelWindow& window);
 
     void show(const ActivationToken& token);
-    /// Takes every text of CSS Color 4. Answers with an empty text.
+    /// Reads every text form of CSS Color 4. The answer is an empty text.
     [[nodiscard]] PanelAnswer setColor(const QString& text);
-    /// Hex code, with the alpha where it is not opaque; empty for a pattern.
+    /// The hex code, with the alpha unless it is opaque; empty for a pattern.
     [[nodiscard]] QString color() const;
     /// The colour itself.
     [[nodiscard]] HostColor hostColor() const;
-    /// Answers with the hex code of the colour picked. A pick that is under way is cancelled.
-    /// `done` is called once, unless the requests end before.
+    /// The answer is the hex code of the picked colour. A pick in progress is cancelled first.
+    /// `done` is called once, unless this object is destroyed before.
     void pick(bool copies, Done done);
-    /// Cancels a pick that is under way.
+    /// Cancels the pick in progress, if any.
     void cancelPick();
-    /// Puts the colour on the clipboard and answers with the text that stands for it there.
+    /// Copies the colour to the clipboard. The answer is the copied text.
     void copy(const QString& form, Done done);
     /// Whether a panel without a window has nothing left to do.
     [[nodiscard]] bool isNothingLeft() const;
-    /// Does all that is ordered.
+    /// Carries out the whole order.
     void carryOut(const PanelOrder& order, Done done);
 
 signals:
     void colorChanged();
-    /// `isNothingLeft` has become true, or is so still.
+    /// Emitted when `isNothingLeft` has become or remains true.
     void nothingLeft();
 
 private:
@@ -55,7 +55,7 @@ private:
     void lookWhetherNothingIsLeft();
 
     PanelWindow& _window;
-    /// Picks and copies that are not yet answered.
+    /// The number of unanswered picks and copies.
     int _underWay = 0;
 };
 

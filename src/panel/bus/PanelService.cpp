@@ -15,7 +15,7 @@
 namespace vantorel {
 namespace {
 
-/// No token of a desktop is longer.
+/// Longer tokens are ignored; no desktop has them.
 constexpr qsizetype longestToken = 4096;
 
 QByteArray tokenIn(const QVariantMap& platformData, const QString& key)
@@ -24,7 +24,7 @@ QByteArray tokenIn(const QVariantMap& platformData, const QString& key)
     return token.size() <= longestToken ? token.toUtf8() : QByteArray();
 }
 
-/// As the texts of a colour have it.
+/// The channel as texts of the colour have it.
 double fraction(double channel)
 {
     return std::isnan(channel) ? 0 : std::clamp(channel, 0.0, 1.0);
@@ -81,7 +81,7 @@ PanelService::~PanelService()
     while (!_calls.empty())
         answer(_calls.begin()->first, closed);
     _bus.unregisterObject(panelObjectPath);
-    // It waits for the bus, so that the answers have gone before the program does.
+    // This call waits for the bus, so the answers are sent before the program exits.
     _bus.interface()->unregisterService(panelBusName);
 }
 
@@ -164,7 +164,7 @@ int PanelService::keepCall()
 {
     emit called();
     setDelayedReply(true);
-    // Watched until it leaves, since it may well call again.
+    // Watched until it exits, because it may call again.
     _callers.addWatchedService(message().service());
     _calls.emplace(++_lastCall, message());
     return _lastCall;

@@ -24,8 +24,8 @@ struct ColorChannels {
 QDBusArgument& operator<<(QDBusArgument& argument, const ColorChannels& channels);
 const QDBusArgument& operator>>(const QDBusArgument& argument, ColorChannels& channels);
 
-/// The panel on the session bus: interface `org.vantorel.ColorPanel1`, which its XML file beside
-/// this one describes. Without a bus it does nothing.
+/// The panel on the session bus: interface `org.vantorel.ColorPanel1`, described by the XML file in
+/// this folder. Has no effect without a bus.
 class PanelService final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_PROPERTY(vantorel::ColorChannels Color READ channels)
@@ -35,20 +35,20 @@ public:
 
     /// `requests` must outlive the service.
     PanelService(PanelRequests& requests, const QDBusConnection& bus);
-    /// Answers the picks that are under way as cancelled.
+    /// Answers the calls in progress as cancelled.
     ~PanelService() override;
 
-    /// Takes the panel's name on the bus, unless another has it. The panel must be ready: calls
-    /// come as soon as the event loop runs.
+    /// Claims the panel's name on the bus, unless another program has it. The panel must be ready:
+    /// calls arrive as soon as the event loop runs.
     [[nodiscard]] Claim claimName();
-    /// Takes the name when those who have it now have left.
+    /// Claims the name when the programs before it in the queue have released it.
     void waitForName();
-    /// Gives the name up, and returns when no more calls can come.
+    /// Releases the name, and returns when no more calls can arrive.
     void releaseName();
 
     [[nodiscard]] ColorChannels channels() const;
 
-    // The members of the interface, under their names there.
+    // The members of the D-Bus interface, with the same names.
 
     void Show();
     void Activate(const QVariantMap& platformData);
@@ -59,7 +59,7 @@ public:
 
 signals:
     void ColorChanged(const QString& color);
-    /// Somebody has asked something.
+    /// A method was called.
     void called() const;
     /// Other programs can no longer reach the panel.
     void unreachable(const vantorel::Message& why);
@@ -68,7 +68,7 @@ private slots:
     void busHasGone();
 
 private:
-    /// What is answered later, under a number of its own.
+    /// Keeps the current call, to be answered later, and returns its number.
     int keepCall();
     void answer(int call, const PanelAnswer& answer);
     void callerHasGone(const QString& caller);
@@ -81,7 +81,7 @@ private:
     HostColor _announcedColor;
     std::map<int, QDBusMessage> _calls;
     int _lastCall = 0;
-    /// The pick that the screen picker works on.
+    /// The number of the latest pick.
     int _pick = 0;
 };
 

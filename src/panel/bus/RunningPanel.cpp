@@ -29,7 +29,7 @@ RunningPanel::Contact contactAfter(const QDBusMessage& error)
     }
 }
 
-/// Undoes `translatedSentence` as far as the full stop, which is added again where it is shown.
+/// Drops the full stop, which is added again when the message is shown.
 Message messageFromSentence(QString sentence)
 {
     if (sentence.endsWith(u'.')) sentence.chop(1);
@@ -53,7 +53,7 @@ RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList
     QDBusMessage message =
         QDBusMessage::createMethodCall(panelBusName, panelObjectPath, panelInterface, member);
     message.setArguments(arguments);
-    // Without a panel this start becomes the panel.
+    // If no panel is running, this start becomes the panel.
     message.setAutoStartService(false);
     const QDBusMessage reply = _bus.call(message, QDBus::Block, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
@@ -67,7 +67,8 @@ RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
 {
     using Step = PanelOrder::Step;
     if (!_bus.isConnected()) return {};
-    // A pick cannot tell a user who takes long from a panel that hangs.
+    // First a call with a short limit: a pick cannot distinguish a slow user from a panel that
+    // hangs.
     Reply reply = order.color ? call(QStringLiteral("SetColor"), {*order.color})
                               : call(QStringLiteral("GetColor"), {});
     if (reply.contact != Contact::made || !reply.answer) return reply;

@@ -7,15 +7,15 @@
 
 namespace vantorel {
 
-/// The panel that has the name on the session bus, as another start of the program sees it. All
-/// calls wait for it.
+/// The panel that has the name on the session bus, as seen by another start of the program. All
+/// calls block.
 class RunningPanel {
 public:
     enum class Contact {
         made,
-        /// There is no panel, or no bus; or it went away before it had answered.
+        /// There is no panel or no bus, or the panel exited before it answered.
         none,
-        /// It hangs.
+        /// The panel hangs.
         noAnswer,
         /// Another program has the name.
         notAPanel,
@@ -23,16 +23,16 @@ public:
 
     struct Reply {
         Contact contact = Contact::none;
-        /// When contact was made.
+        /// Valid if contact was made.
         PanelAnswer answer = QString();
     };
 
-    /// In milliseconds. A panel that has much to do answers sooner, and a user still waits.
+    /// In milliseconds: longer than a busy panel needs, and shorter than users wait.
     static constexpr int patience = 5000;
 
     explicit RunningPanel(const QDBusConnection& bus) : _bus(bus) {}
 
-    /// Has the panel carry out what is ordered. A pick takes as long as the user does.
+    /// Lets the running panel carry out the order. A pick takes as long as the user does.
     [[nodiscard]] Reply handOver(const PanelOrder& order) const;
     /// A success unless the way that contact failed is a problem that the user should know of.
     [[nodiscard]] static Status statusAfter(Contact contact);

@@ -6,7 +6,7 @@
 
 namespace vantorel {
 
-/// A script that makes one call after the other finds the same panel.
+/// Long enough for successive calls of a script to reach the same panel.
 constexpr std::chrono::seconds patience{10};
 
 ServiceLifetime::ServiceLifetime(PanelService& service, const PanelRequests& requests)
@@ -24,8 +24,8 @@ ServiceLifetime::ServiceLifetime(PanelService& service, const PanelRequests& req
 void ServiceLifetime::endIfUnused()
 {
     if (!_requests.isNothingLeft()) return;
-    // A call that is on its way must not be lost: what the bus has sent before it took the name
-    // back is here by then, and what comes later starts another panel.
+    // A call in transit must not be lost: calls that the bus sent before it released the name have
+    // arrived by now, and later calls start another panel.
     _service.releaseName();
     QCoreApplication::processEvents();
     if (_requests.isNothingLeft()) {

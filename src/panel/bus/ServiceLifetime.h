@@ -6,9 +6,8 @@
 
 namespace vantorel {
 
-/// Ends a panel that the bus has started for somebody's call, when nothing is left of what was
-/// asked and nobody has asked anything for a while. It need not be long: the next call starts it
-/// again.
+/// Ends a panel that the bus has started for a call, when it has nothing left to do and was not
+/// called for a while. The while can be short, because the next call starts the panel again.
 class ServiceLifetime final : public QObject {
     Q_OBJECT
 
@@ -17,7 +16,7 @@ public:
     ServiceLifetime(PanelService& service, const PanelRequests& requests);
 
 signals:
-    /// The panel has given up its name, and every call that it got is answered.
+    /// The panel has released its name and answered every call.
     void ended();
 
 private:

@@ -9,14 +9,14 @@
 
 namespace vantorel {
 
-/// A page of the panel. What is seen of it is made when it is shown first.
+/// A page of the panel. Its widgets are created when it is first shown.
 class PanelPage : public QObject {
     Q_OBJECT
 
 public:
-    /// Names the page in the panel's memory; the same in every language and on every machine.
+    /// Identifies the page in the panel's memory; the same in every language and on every machine.
     [[nodiscard]] virtual QString identifier() const;
-    /// Names the page on the command line; the same in every language.
+    /// Identifies the page on the command line; the same in every language.
     [[nodiscard]] virtual QString key() const = 0;
     [[nodiscard]] virtual QString name() const = 0;
     [[nodiscard]] virtual QString toolTip() const = 0;
@@ -24,19 +24,19 @@ public:
     /// In points.
     [[nodiscard]] virtual QSize minimumSize() const = 0;
 
-    /// Puts the page into its place, `holder`, which has its final size.
+    /// Puts the page into `holder`, which has its final size.
     virtual void show(HostView& holder) = 0;
     virtual void hide() = 0;
     /// The holder has a new size.
     virtual void resize(HostSize size) = 0;
-    /// The panel's colour was set while the page is shown, also by the page itself.
+    /// Called when the panel's colour is set while the page is shown, even by the page itself.
     virtual void setColor(const HostColor& color) = 0;
-    /// Enters what the user has typed into the page's text fields and not yet entered.
+    /// Enters text that the user has typed into the page's fields but not yet entered.
     virtual void finishEditing();
 
-    /// The picker behind the page; null for the panel's own pages.
+    /// The picker of the page; null for the panel's own pages.
     [[nodiscard]] virtual HostColorPicker* picker() const;
-    /// The picker's view; null until it is made, and for the panel's own pages.
+    /// The picker's view; null until it is created, and for the panel's own pages.
     [[nodiscard]] virtual HostView* view() const;
 
 signals:

@@ -19,7 +19,7 @@ public:
     ~PanelPages() override;
 
     void add(std::unique_ptr<PanelPage> page);
-    /// Removes all pages. To be called before what they use is gone.
+    /// Removes all pages. Call this before destroying objects that they use.
     void clear();
     [[nodiscard]] int count() const { return static_cast<int>(_pages.size()); }
     /// -1 until a page is shown.
@@ -30,19 +30,19 @@ public:
     [[nodiscard]] HostColorPicker* currentPicker() const;
     [[nodiscard]] const PanelPage& page(int index) const;
     [[nodiscard]] QStringList keys() const;
-    /// Does nothing and returns false if no page has the key.
+    /// Returns false, without any effect, if no page has the key.
     bool showPageWithKey(const QString& key);
     /// Shows the page that a panel has remembered by its identifier. Older panels remembered the
-    /// name in the user's language, which counts if no identifier matches. Does nothing if neither
+    /// name in the user's language, which counts if no identifier matches. Has no effect if neither
     /// does.
     void showRemembered(const QString& identifierOrName);
 
-    /// Moves the place of the pages, in pixels of the window, at once also in a hidden window.
+    /// Moves the area of the pages, in pixels of the window, immediately even in a hidden window.
     void setGeometry(const QRect& place);
     [[nodiscard]] const QWidget& place() const { return *_holder->widget(); }
 
 public slots:
-    /// Does nothing if there is no such page.
+    /// Has no effect if there is no such page.
     void showPage(int index);
     void showNextPage() { step(1); }
     void showPreviousPage() { step(-1); }

@@ -57,12 +57,12 @@ void PluginPage::show(HostView& holder)
         try {
             _view = _picker->provideNewView(true);
         } catch (...) {
-            // It may be anybody's; the other pages must stay.
+            // Anybody may have written the plug-in; its exceptions must not affect the other pages.
             _view = nullptr;
         }
         if (_view == nullptr) {
-            _message = new QLabel(tr("The page \"%1\" could not be made. Its interface file is "
-                                     "missing or damaged; installing %2 again may help.")
+            _message = new QLabel(tr("The page \"%1\" could not be created because its interface "
+                                     "file is missing or damaged. Try reinstalling %2.")
                                       .arg(name(), QString::fromStdString(_plugin.file())));
             _message->setWordWrap(true);
             _message->setMargin(12);
@@ -104,7 +104,7 @@ void PluginPage::setColor(const HostColor& color)
 
 void PluginPage::finishEditing()
 {
-    // Collected first: what a field enters may change the views.
+    // Collected first, because entering a field's text may change the views.
     std::vector<QtTextField*> fields;
     forEachBelow<QtTextField>(_view, [&](QtTextField& field) { fields.push_back(&field); });
     for (QtTextField* field : fields)

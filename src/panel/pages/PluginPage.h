@@ -38,7 +38,7 @@ private:
     LoadedPlugin::Picker _picker;
     bool _viewWasAskedFor = false;
     HostView* _view = nullptr;
-    /// Stands in for a view that could not be made.
+    /// Replaces a view that could not be created.
     QPointer<QLabel> _message;
 };
 

@@ -8,7 +8,7 @@
 namespace vantorel {
 namespace {
 
-/// What each form is called.
+/// The user-visible name of each format.
 constexpr std::array titles{
     std::pair{"gpl", QT_TRANSLATE_NOOP("ListFileFilters", "GIMP palettes")},
     std::pair{"css", QT_TRANSLATE_NOOP("ListFileFilters", "CSS custom properties")},

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// The forms of colour-list files as the filters of file dialogs.
+/// The formats of colour-list files as filters of file dialogs.
 namespace vantorel {
 
 class ListFileFilters {
@@ -14,14 +14,15 @@ class ListFileFilters {
 public:
     /// "GIMP palettes (*.gpl *.colors)"
     [[nodiscard]] static QString filterOf(const ListFormat& format);
-    /// The form of a filter that `filterOf` has made, or null.
+    /// Returns the format of a filter made by `filterOf`, or null.
     [[nodiscard]] static const ListFormat* formatOf(const QString& filter);
 
-    /// What can be read: all of it together, then each form, then every file.
+    /// The readable formats: all of them together, then each format, then every file.
     [[nodiscard]] static QString forReading();
     [[nodiscard]] static QString forWriting();
 
-    /// A file's name with the first ending of a form in place of that of another form.
+    /// Returns a file name with the first ending of the format, in place of the ending of another
+    /// format.
     [[nodiscard]] static QString withEnding(const QString& fileName, const ListFormat& format);
 };
 

@@ -44,7 +44,8 @@ QAction* PaletteCommands::add(QMenu* menu, Command command, const QString& text,
                               const QKeySequence& key, Needs needs)
 {
     auto* action = new QAction(text, this);
-    // Shown in menus; the keys themselves come through `actionFor`, ahead of the panel's shortcuts.
+    // Only shown in menus. The keys are handled through `actionFor`, ahead of the panel's
+    // shortcuts.
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
@@ -94,7 +95,7 @@ QAction* PaletteCommands::actionFor(const QKeyEvent& event, bool inField) const
     static const std::set<Command> usedInFields{Command::undo, Command::redo, Command::removeColors,
                                                 Command::removeList};
     const QKeySequence pressed(event.keyCombination());
-    // Ctrl+Y is what other desktops know as redo.
+    // Ctrl+Y means redo on other desktops.
     if (!inField && pressed == QKeySequence(Qt::CTRL | Qt::Key_Y)) return action(Command::redo);
     for (const auto& [command, offer] : _offers) {
         if (offer.action->shortcut() != pressed) continue;

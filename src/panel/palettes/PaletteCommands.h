@@ -32,7 +32,7 @@ public:
         undo,
         redo,
     };
-    /// What there is to work on.
+    /// The state that decides which commands are enabled.
     struct Situation {
         bool hasList = false;
         bool ownsList = false;
@@ -50,16 +50,16 @@ public:
     /// The commands for colours.
     [[nodiscard]] QMenu* colorMenu() const { return _colorMenu; }
 
-    /// Enables what makes sense.
+    /// Enables the commands that make sense in this state.
     void enableFor(const Situation& situation);
-    /// Names the panel's colour, a hex code, in the tool tips.
+    /// Shows the panel's colour, a hex code, in the tool tips.
     void setPanelColor(const QString& hexCode);
-    /// The action for a key; null if the key is not of the page, or if a text field has its own
-    /// use for it.
+    /// Returns the action for a key; null if the page has none or if a text field uses the key
+    /// itself.
     [[nodiscard]] QAction* actionFor(const QKeyEvent& event, bool inField) const;
 
 private:
-    /// What a command needs to make sense.
+    /// What must exist for a command to make sense.
     enum class Needs { nothing, list, ownList, selection, undo, redo };
     struct Offer {
         QAction* action;

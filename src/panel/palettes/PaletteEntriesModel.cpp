@@ -14,7 +14,7 @@ std::vector<std::size_t> PaletteEntriesModel::shownPlaces(const PaletteEntries& 
     const QString digits = _filter.startsWith(u'#') ? _filter.mid(1) : _filter;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const std::u16string& name = entries[i].name();
-        // Not copied: a long list is walked through at each letter that is typed.
+        // Not copied, because a long list is searched at each typed letter.
         const QStringView text(name.data(), static_cast<qsizetype>(name.size()));
         if (_filter.isEmpty() || text.contains(_filter, Qt::CaseInsensitive) ||
             qStringFrom(hexCodeOf(entries[i].color()))

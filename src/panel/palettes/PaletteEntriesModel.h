@@ -9,8 +9,8 @@
 
 namespace vantorel {
 
-/// The entries of a list for a view, or those of them that a filter lets through. Rows count what
-/// is shown, places count the entries of the list.
+/// The entries of a list for a view, or those that match a filter. A row is an index among the
+/// shown entries, a place an index in the list.
 class PaletteEntriesModel final : public QAbstractListModel {
     Q_OBJECT
 
@@ -20,8 +20,8 @@ public:
     enum Role { colorRole = Qt::UserRole, hexRole };
 
     void setEntries(const PaletteEntries& entries);
-    /// Shows only entries with the text in their name, in any letter case, or with a hex code that
-    /// begins with it. Empty shows all.
+    /// Shows only entries with the text in their name, ignoring letter case, or with a hex code
+    /// that begins with it. An empty text shows all.
     void setFilter(const QString& filter);
 
     [[nodiscard]] const PaletteEntries& entries() const { return _entries; }
@@ -42,8 +42,8 @@ public:
     [[nodiscard]] Qt::DropActions supportedDragActions() const override;
 
 signals:
-    /// The user has entered another name for the entry at a place. The entry keeps its own until
-    /// it is set.
+    /// The user has entered another name for the entry at a place. The model does not change the
+    /// entry.
     void nameEntered(std::size_t place, const QString& name);
 
 private:

@@ -21,9 +21,9 @@ constexpr int rowHeight = 22;
 constexpr int swatchWidth = 26;
 constexpr int swatchInset = 3;
 constexpr int gap = 6;
-/// A row that is narrower has no room for the hex code.
+/// Narrower rows have no room for the hex code.
 constexpr int leastWidthWithHex = 150;
-/// What a name that is typed can have at most; longer ones come from files.
+/// The maximum length of a typed name. Files may have longer ones.
 constexpr int longestTypedName = 200;
 
 class EntryDelegate final : public QStyledItemDelegate {
@@ -100,7 +100,7 @@ public:
     {
         auto* field = static_cast<QLineEdit*>(editor);
         const QString name = index.data(Qt::EditRole).toString();
-        // A name from a file may be longer than what anybody types; it must not be cut.
+        // A name from a file may be longer than the maximum and must not be truncated.
         if (name.size() > field->maxLength()) field->setMaxLength(static_cast<int>(name.size()));
         field->setText(name);
         field->selectAll();
@@ -145,7 +145,7 @@ PaletteEntriesView::PaletteEntriesView(QWidget* parent)
     verticalScrollBar()->setSingleStep(scaled(rowHeight));
     setDragEnabled(true);
     setAcceptDrops(true);
-    // The line that the base class shows is for moves that it does itself.
+    // The base class draws its line only for moves that it does itself.
     setDropIndicatorShown(false);
     setFont(fontOfSize(12));
     setAccessibleName(tr("Colours of the list"));
@@ -194,7 +194,8 @@ void PaletteEntriesView::selectPlaces(const std::vector<std::size_t>& places)
     int first = -1;
     int start = -1;
     int last = -1;
-    // In runs: one range for each of thousands of rows would make every step slow.
+    // Selects runs of rows: a separate range for each of thousands of rows would slow down every
+    // step.
     const auto addRun = [&] {
         if (start >= 0) selection.select(_model.index(start), _model.index(last));
     };
@@ -226,7 +227,7 @@ void PaletteEntriesView::renameAt(std::size_t place)
 {
     const int row = _model.rowOfPlace(place);
     if (row < 0) return;
-    // Not by `setCurrentIndex`, which heeds the modifier keys that are down just now.
+    // Not `setCurrentIndex`, which depends on the currently pressed modifier keys.
     selectionModel()->setCurrentIndex(_model.index(row), QItemSelectionModel::ClearAndSelect);
     edit(_model.index(row));
 }
@@ -272,7 +273,7 @@ int PaletteEntriesView::dropRowAt(QPoint point) const
 std::size_t PaletteEntriesView::placeBeforeRow(int row) const
 {
     if (row < _model.rowCount()) return _model.placeOfRow(row);
-    // Behind the last that is shown, which a filter may have made another than the last.
+    // After the last shown entry, which need not be the last of the list if there is a filter.
     return _model.rowCount() > 0 ? _model.placeOfRow(_model.rowCount() - 1) + 1
                                  : _model.entries().size();
 }
@@ -288,7 +289,7 @@ void PaletteEntriesView::takeDrag(QDragMoveEvent& event)
 {
     const bool isOwn = event.source() == this;
     if (!isOwn && event.mimeData()->hasUrls()) {
-        // Files are for the whole page.
+        // The page as a whole accepts files.
         event.ignore();
         return;
     }
@@ -304,7 +305,7 @@ void PaletteEntriesView::takeDrag(QDragMoveEvent& event)
 void PaletteEntriesView::dragEnterEvent(QDragEnterEvent* event)
 {
     takeDrag(*event);
-    // The base class scrolls at the edges while this state lasts.
+    // In this state the base class scrolls at the edges.
     if (event->isAccepted()) setState(DraggingState);
 }
 

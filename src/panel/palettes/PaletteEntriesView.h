@@ -8,9 +8,9 @@
 
 namespace vantorel {
 
-/// The rows of a colour list: a swatch, the name, the hex code where there is room. A click or
-/// Return takes a colour, a double click or F2 renames it, a drag moves it in the list or carries
-/// it away. Only what is seen is painted, so a list may be as long as it likes.
+/// The rows of a colour list: a swatch, the name, and the hex code if there is room. A click or
+/// Return selects a colour for the panel, a double click or F2 renames it, a drag moves it in the
+/// list or into other programs. Only visible rows are painted, so lists may have any length.
 class PaletteEntriesView final : public QListView {
     Q_OBJECT
 
@@ -18,25 +18,25 @@ public:
     explicit PaletteEntriesView(QWidget* parent);
 
     [[nodiscard]] PaletteEntriesModel& entriesModel() { return _model; }
-    /// Shows a text where rows would be; an empty one takes it away.
+    /// Shows a text in place of rows. Pass an empty text to remove it.
     void setNote(const QString& note);
 
     /// Ascending.
     [[nodiscard]] std::vector<std::size_t> selectedPlaces() const;
-    /// Selects entries, and shows the first.
+    /// Selects entries and scrolls to the first.
     void selectPlaces(const std::vector<std::size_t>& places);
-    /// The place of the entry that the keyboard is at; the end of the list where there is none.
+    /// The place of the entry with the keyboard focus, or the end of the list if there is none.
     [[nodiscard]] std::size_t currentPlace() const;
     /// Lets the user type a name for the entry at a place.
     void renameAt(std::size_t place);
 
 signals:
-    /// The user takes the colour at a place.
+    /// The user has chosen the colour at a place.
     void colorChosen(std::size_t place);
-    /// The user drags the selected entries before a place.
+    /// The user has dragged the selected entries to just before a place.
     void selectionMoved(std::size_t before);
-    /// Something else is dropped before a place. `offer` has a colour, a message that says why
-    /// there is none, or both.
+    /// Data of another program or control was dropped before a place. `offer` has a colour, a
+    /// message that says why there is none, or both.
     void colorDropped(const vantorel::ColorOffer& offer, std::size_t before);
 
 protected:
@@ -52,7 +52,7 @@ protected:
 
 private:
     void takeDrag(QDragMoveEvent& event);
-    /// The row before which a drop at a point goes.
+    /// The row before which a drop at a point inserts.
     [[nodiscard]] int dropRowAt(QPoint point) const;
     [[nodiscard]] std::size_t placeBeforeRow(int row) const;
     void setDropRow(int row);
@@ -61,7 +61,7 @@ private:
     PaletteEntriesModel& _model;
     QLabel* _note;
     QPersistentModelIndex _pressed;
-    /// Where a line shows what a drop would do; -1 for none.
+    /// The row before which a line marks the target of a drop; -1 for none.
     int _dropRow = -1;
 };
 

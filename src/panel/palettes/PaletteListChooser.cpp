@@ -26,7 +26,7 @@ PaletteListChooser::PaletteListChooser(QWidget* parent)
 {
     setObjectName(QStringLiteral("paletteLists"));
     setAccessibleName(tr("Colour list"));
-    setToolTip(tr("The list on show"));
+    setToolTip(tr("The shown list"));
     setFont(fontOfSize(12));
     // As wide as the page, not as the longest name.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -48,7 +48,7 @@ PaletteId PaletteListChooser::showLists(const std::vector<EditablePalette>& pale
     const QSignalBlocker blocker(this);
     const int place = std::max(currentIndex(), 0);
     clear();
-    // The user's own first, for those are what can be edited.
+    // The user's own lists first, because only those can be edited.
     for (const bool own : {true, false}) {
         if (!own && count() > 0) insertSeparator(count());
         for (const EditablePalette& palette : palettes) {
@@ -58,7 +58,7 @@ PaletteId PaletteListChooser::showLists(const std::vector<EditablePalette>& pale
     if (count() > 0 && itemData(count() - 1).isNull()) removeItem(count() - 1);
     PaletteId shown = wanted;
     if (findData(QVariant::fromValue(shown)) < 0) {
-        // A separator has no list; before one there is always a list.
+        // A separator is not a list, but there is always a list before it.
         const int next = std::min(place, count() - 1);
         shown = itemData(next).toULongLong();
         if (shown == 0) shown = itemData(next - 1).toULongLong();
@@ -74,7 +74,7 @@ void PaletteListChooser::addList(const EditablePalette& palette)
             QVariant::fromValue(palette.id));
     if (palette.isOwn()) return;
     setItemData(count() - 1,
-                tr("Belongs to %1, and is only read").arg(qStringFrom(palette.program)),
+                tr("Belongs to %1, read-only").arg(qStringFrom(palette.program)),
                 Qt::ToolTipRole);
 }
 
@@ -90,7 +90,7 @@ void PaletteListChooser::beginRename(const QString& name)
 void PaletteListChooser::endRename(bool takes)
 {
     if (!_name->isVisible()) return;
-    // Hiding it takes the focus away, which ends the edit once more.
+    // Hiding the field removes its focus, which would finish editing a second time.
     const QSignalBlocker blocker(_name);
     const bool hadFocus = _name->hasFocus();
     _name->hide();

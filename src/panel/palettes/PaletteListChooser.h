@@ -9,27 +9,28 @@
 
 namespace vantorel {
 
-/// The pop-up of colour lists, the user's own first. A list is renamed in a field over it.
+/// The pop-up of colour lists, the user's own first. A list is renamed in a field that covers the
+/// pop-up.
 class PaletteListChooser final : public QComboBox {
     Q_OBJECT
 
 public:
     explicit PaletteListChooser(QWidget* parent);
 
-    /// Offers `palettes` and shows the one at `wanted`, or, if it has gone, its neighbour. Returns
-    /// the list that is shown; 0 if there is none.
+    /// Offers `palettes` and shows `wanted`, or its neighbour if it no longer exists. Returns the
+    /// shown list; 0 if there is none.
     PaletteId showLists(const std::vector<EditablePalette>& palettes, PaletteId wanted);
-    /// The list that is shown; 0 if there is none.
+    /// The shown list; 0 if there is none.
     [[nodiscard]] PaletteId shownList() const { return currentData().toULongLong(); }
 
-    /// Lets the user type a name for the list; `name` is the one that it has.
+    /// Lets the user type a name for the list; `name` is the current one.
     void beginRename(const QString& name);
-    /// Takes the name that the user is typing. Does nothing if there is none.
+    /// Applies the name that the user is typing, if any.
     void finishEditing() { endRename(true); }
 
 signals:
     void listChosen(PaletteId list);
-    /// The user has entered a name for the list that is shown; it may be the one that it has.
+    /// The user has entered a name for the shown list. It may be the current one.
     void nameEntered(const QString& name);
 
 protected:

@@ -42,7 +42,7 @@ void PaletteSession::edit(EntryEdit edit)
     for (const std::size_t place : places)
         names.push_back(edit.entries[place].name());
     const EditOutcome outcome = _editor.setEntries(_list, std::move(edit.entries));
-    // What others wrote may have come in between, and moved them.
+    // Merged changes of other programs may have moved the entries.
     std::vector<std::size_t> now;
     const PaletteEntries& after = _editor.entriesOf(outcome.list);
     for (std::size_t i = 0; i < places.size(); ++i) {

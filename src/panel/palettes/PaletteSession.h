@@ -11,7 +11,7 @@
 
 namespace vantorel {
 
-/// The colour list that the page shows, and the steps that change it or lead to another.
+/// The colour list that the page shows, and the steps that change it or show another.
 class PaletteSession final : public QObject {
     Q_OBJECT
 
@@ -34,10 +34,11 @@ public:
     [[nodiscard]] bool canRedo() const { return _editor.canRedo(); }
 
     void showList(PaletteId id) { _list = id; }
-    /// Reads what has changed on the disk. Returns the lists that others have changed or removed.
+    /// Refreshes the lists from the disk. Returns those that other programs have changed or
+    /// removed.
     std::vector<EditablePalette> refresh() { return _editor.refresh(); }
 
-    // Each is a step, and ends in `stepTaken`. The list that a step leads to is shown.
+    // Each of these is a step. It shows the resulting list and emits `stepTaken`.
 
     EditOutcome addList(const std::u16string& name, const PaletteEntries& entries);
     EditOutcome renameList(const std::u16string& name);
@@ -47,7 +48,7 @@ public:
     void redo();
 
 signals:
-    /// A step was taken, or has failed. `places` are of the entries that it was about.
+    /// A step was taken or has failed. `places` are those of the entries that it has changed.
     void stepTaken(const vantorel::EditOutcome& outcome, const std::vector<std::size_t>& places);
 
 private:

@@ -7,10 +7,10 @@
 namespace vantorel {
 namespace {
 
-/// A program that saves a file touches its folder several times.
+/// Programs change a folder several times when they save a file.
 constexpr std::chrono::milliseconds settlingTime{60};
 
-/// The first of a folder and those around it that exists.
+/// Returns the folder, or its nearest ancestor that exists.
 std::string nearestFolder(const HostFiles& files, std::string path)
 {
     while (!path.empty() && files.kindAtPath(path) != HostFileKind::folder) {
@@ -33,7 +33,8 @@ void PaletteWatch::start()
 {
     _watcher = std::make_unique<QFileSystemWatcher>();
     const auto settle = [this] {
-        // Not started again while it runs: a folder that never rests would hide every change.
+        // Not restarted while it runs, or else a folder that changes all the time would never be
+        // reported.
         if (!_settling.isActive()) _settling.start();
     };
     connect(_watcher.get(), &QFileSystemWatcher::directoryChanged, this, settle);
@@ -56,13 +57,14 @@ void PaletteWatch::watchFile(const std::string& path)
     };
     bool isOwn = true;
     for (const std::string& folder : _store.folders()) {
-        // Our own folder may be made at any time; one of another program comes with a start of it.
+        // Our own folder may be created at any time. Those of other programs are created before
+        // they have palettes.
         if (isOwn || _files.kindAtPath(folder) == HostFileKind::folder) {
             add(nearestFolder(_files, folder));
         }
         isOwn = false;
     }
-    // A folder does not report a file that is written in its place.
+    // Overwriting a file in place does not change its folder.
     add(path);
     QStringList gone;
     for (const QString& watched : _watcher->directories() + _watcher->files()) {

@@ -11,7 +11,8 @@
 
 namespace vantorel {
 
-/// Notices what other programs change in the folders of colour lists, and in the file of one list.
+/// Watches for changes by other programs in the folders of colour lists and in the file of one
+/// list.
 class PaletteWatch final : public QObject {
     Q_OBJECT
 
@@ -22,12 +23,12 @@ public:
     void start();
     void stop();
     [[nodiscard]] bool isOn() const { return _watcher != nullptr; }
-    /// Watches the folders that there are now, and the file at `path`, which may be empty. Does
-    /// nothing while the watch is off.
+    /// Watches the folders that exist now and the file at `path`, which may be empty. Has no effect
+    /// while the watch is off.
     void watchFile(const std::string& path);
 
 signals:
-    /// Something has changed, and the disk has come to rest for a moment.
+    /// Files have changed. Several changes in quick succession are reported once.
     void changed();
 
 private:

@@ -40,7 +40,7 @@ QToolButton* newButton(QWidget* parent, QAction* action)
     QToolButton* button = newButton(parent);
     button->setDefaultAction(action);
     button->setAccessibleName(action->text());
-    // Pictures alone; "Add" would not fit with the others.
+    // Only icons, because the text "Add" would not fit beside the others.
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     return button;
 }
@@ -182,11 +182,11 @@ void PalettesWidget::showState()
 
     QString note;
     if (list == nullptr) {
-        note = tr("There is no list yet. Make one, or drop a palette file here.");
+        note = tr("There is no list yet. Create one, or drop a palette file here.");
     } else if (all == 0) {
         note = tr("The list is empty. The + adds the panel's colour.");
     } else if (shown == 0) {
-        note = tr("No colour has this in its name or hex code.");
+        note = tr("No colour name or hex code matches.");
     }
     _view->setNote(note);
 }

@@ -15,7 +15,7 @@
 
 namespace vantorel {
 
-/// The colour lists that all pages share, to be edited: a pop-up of lists, a filter, the colours,
+/// The editor of the colour lists that all pages share: a pop-up of lists, a filter, the colours,
 /// and buttons. Every change is saved at once and can be undone.
 class PalettesWidget final : public QWidget {
     Q_OBJECT
@@ -26,19 +26,20 @@ public:
 
     /// The panel's colour, which the user can add.
     void setColor(const HostColor& color);
-    /// From now on, what others change on the disk shows at once; or no longer.
+    /// Turns on or off that changes by other programs are shown at once.
     void setWatching(bool flag);
-    /// Takes a name that the user has typed and not yet entered.
+    /// Applies a name that the user has typed but not yet entered.
     void finishEditing() { _lists->finishEditing(); }
 
-    // What the commands do once they know the files.
+    // Import and export, once the user has chosen the files.
 
     void importFiles(const QStringList& paths);
-    /// In the form that the ending of the file's name stands for, else as a palette of GIMP.
+    /// Saves in the format of the file name's ending, or as a GIMP palette if the ending is
+    /// unknown.
     void saveCopy(const QString& path);
 
 signals:
-    /// The user takes a colour, which has no opacity of its own.
+    /// The user has chosen a colour. Its opacity is not part of the list and should be ignored.
     void colorChosen(const vantorel::HostColor& color);
 
 protected:
@@ -52,7 +53,7 @@ private:
     using Command = PaletteCommands::Command;
     using MessageKind = PaletteMessageLabel::Kind;
 
-    // PalettesWidget.cpp: what is seen
+    // PalettesWidget.cpp: the controls
 
     void makeControls();
     void layOutControls();
@@ -60,10 +61,10 @@ private:
     void showState();
     void lookAtDisk();
 
-    // PalettesWidgetCommands.cpp: what can be done
+    // PalettesWidgetCommands.cpp: the commands
 
     void connectCommands();
-    /// Shows what a step has led to; `places` are selected.
+    /// Shows the outcome of a step and selects `places`.
     void showStep(const EditOutcome& outcome, const std::vector<std::size_t>& places);
     void addColors(std::size_t before, const PaletteEntries& colors);
     void addPanelColor();

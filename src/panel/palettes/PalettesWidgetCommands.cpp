@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-/// What the commands of the palettes' page do.
+/// The commands of the Palettes page.
 namespace vantorel {
 namespace {
 
@@ -67,7 +67,7 @@ void PalettesWidget::connectCommands()
 bool PalettesWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        // Claims the keys of the page, so that the panel's commands do not get them.
+        // Claims the page's keys ahead of the panel's commands.
         auto* key = static_cast<QKeyEvent*>(event);
         const bool inField = qobject_cast<QLineEdit*>(focusWidget()) != nullptr;
         if (_commands->actionFor(*key, inField) != nullptr) {
@@ -94,7 +94,7 @@ bool PalettesWidget::eventFilter(QObject* watched, QEvent* event)
         }
         return true;
     }
-    // Where there is no typing to undo, the page's own step is meant.
+    // If there is no typing to undo, the key undoes a step of the page.
     const bool isFieldsKey =
         field != nullptr && (field->isUndoAvailable() || field->isRedoAvailable() ||
                              !field->text().isEmpty() || field != _filter);
@@ -163,7 +163,7 @@ void PalettesWidget::removeSelected()
     if (places.empty()) return;
     const std::size_t first = places.front();
     _session.edit(withRemoved(_session.entries(), places));
-    // The next one, so that Delete can go on.
+    // Selects the next one, so that Delete can be repeated.
     if (!_session.entries().empty())
         _view->selectPlaces({std::min(first, _session.entries().size() - 1)});
 }

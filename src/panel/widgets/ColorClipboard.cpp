@@ -13,11 +13,11 @@ namespace vantorel {
 namespace {
 
 constexpr const char* colorType = "application/x-color";
-/// No text that is a colour is longer; a clipboard can hold a whole book.
+/// Longer texts are not colours; a clipboard can have any amount of text.
 constexpr qsizetype longestColorText = 4096;
 constexpr std::size_t mostShownBytes = 40;
 
-/// Four 16-bit words in the machine's own order.
+/// Reads four 16-bit words in the machine's byte order.
 std::optional<HostColor> colorFromWords(const QByteArray& bytes)
 {
     std::array<quint16, 4> words{};
@@ -59,7 +59,7 @@ ColorOffer colorFromMimeData(const QMimeData& data)
 {
     if (data.hasFormat(QLatin1String(colorType))) {
         if (auto color = colorFromWords(data.data(QLatin1String(colorType)))) return {color, {}};
-        // Within one program Qt hands its own colour on, whose bytes it tells as a text.
+        // Within one program Qt passes its own colour object on; its bytes are those of a text.
         const auto color = qvariant_cast<QColor>(data.colorData());
         if (color.isValid()) return {hostColorFrom(color), {}};
     }

@@ -12,23 +12,23 @@
 /// Colours on the clipboard and in drops.
 namespace vantorel {
 
-/// The colour as `application/x-color`; with a text as UTF-8 beside it, if one is given.
+/// Returns the colour as `application/x-color`, and the text as UTF-8 if one is given.
 [[nodiscard]] std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color,
                                                            const QString& text = {});
 
-/// What the clipboard or a drop has brought.
+/// The colour that the clipboard or a drop contains, if any.
 struct ColorOffer {
     std::optional<HostColor> color;
-    /// Why there is no colour, or what was changed about it; may be empty.
+    /// Why there is no colour, or how it was changed; may be empty.
     Message message;
 };
 
-/// Whether there may be a colour, which a drag that hovers wants to know.
+/// Whether the data may contain a colour. Quick enough for a drag that moves.
 [[nodiscard]] bool mayHoldColor(const QMimeData& data);
 
 /// Reads every text form of CSS Color 4.
 [[nodiscard]] ColorOffer colorFromText(const QString& text);
-/// Takes `application/x-color` (four native 16-bit words) and every text form of CSS Color 4.
+/// Reads `application/x-color` (four native 16-bit words) or a text.
 [[nodiscard]] ColorOffer colorFromMimeData(const QMimeData& data);
 
 }  // namespace vantorel

@@ -8,8 +8,8 @@
 
 namespace vantorel {
 
-/// A colour, its left half opaque and its right half over a checkered ground. Colours are dropped
-/// on it and dragged out of it.
+/// Shows a colour: opaque in the left half, over a checkerboard in the right half. Colours can be
+/// dropped on it and dragged out of it.
 class ColorWell final : public QWidget {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     void setColor(const HostColor& color);
 
 signals:
-    /// Something was dropped: a colour, or a reason why there is none.
+    /// A colour was dropped, or data that is not a colour.
     void dropped(const ColorOffer& offer);
 
 protected:

@@ -9,7 +9,7 @@
 namespace vantorel {
 namespace {
 
-/// Rounded down, so that what is shown as 4.5 reaches 4.5.
+/// Rounded down, so that a ratio shown as 4.5 is at least 4.5.
 QString shownRatio(double ratio)
 {
     const double cut = std::floor(ratio * 100) / 100;

@@ -7,7 +7,7 @@
 namespace vantorel {
 
 /// The contrast of the colour with the background colour, by WCAG 2.2: the ratio, and the best
-/// level that normal text reaches. The tool tip has all verdicts.
+/// level that normal text reaches. The tool tip lists all levels.
 class ContrastLabel final : public QLabel {
     Q_OBJECT
 

@@ -5,7 +5,7 @@
 namespace vantorel {
 namespace {
 
-/// On a ground of 16 by 16.
+/// The pictures have 16 by 16 units.
 QIcon iconFromStrokes(const char* shapes)
 {
     return iconFromSvg(

@@ -2,7 +2,7 @@
 
 #include <QIcon>
 
-/// The panel's own pictures, drawn afresh in the theme's text colour for every size.
+/// The panel's own icons, rendered in the theme's text colour for each size.
 namespace vantorel {
 
 [[nodiscard]] QIcon swapIcon();
@@ -12,7 +12,7 @@ namespace vantorel {
 [[nodiscard]] QIcon dialogPageIcon();
 [[nodiscard]] QIcon palettesPageIcon();
 
-// Of the palettes' page.
+// Icons of the Palettes page.
 
 [[nodiscard]] QIcon addIcon();
 [[nodiscard]] QIcon removeIcon();

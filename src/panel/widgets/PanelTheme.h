@@ -4,7 +4,8 @@
 
 namespace vantorel {
 
-/// Gives the program a light or a dark palette in place of the desktop's. False for another name.
+/// Gives the program the palette "light" or "dark" in place of the desktop's. Returns false for any
+/// other name.
 bool applyTheme(const QString& name);
 
 }  // namespace vantorel

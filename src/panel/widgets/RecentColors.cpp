@@ -78,7 +78,7 @@ void RecentColors::setCurrent(int index)
 void RecentColors::choose(int index)
 {
     if (index < 0 || index >= shownCount()) return;
-    // A copy: whoever takes the colour gives the row new colours.
+    // A copy, because the receiver of the signal sets new colours.
     const HostColor color = _colors[static_cast<std::size_t>(index)];
     emit chosen(color);
 }

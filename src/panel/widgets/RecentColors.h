@@ -8,8 +8,8 @@
 
 namespace vantorel {
 
-/// A row of the last colours, the newest first, as many as there is room for. A click takes one, a
-/// drag carries it away. Keyboard: Left and Right, Home and End move, Space and Return take it.
+/// A row of the recent colours, the newest first, as many as fit. A click selects one, a drag takes
+/// it to another program. Keyboard: Left, Right, Home and End move, Space and Return select.
 class RecentColors final : public QWidget {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
-    /// The user has taken one of the colours.
+    /// The user has selected one of the colours.
     void chosen(const HostColor& color);
 
 protected:

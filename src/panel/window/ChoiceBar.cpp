@@ -20,7 +20,7 @@ ChoiceBar::ChoiceBar(QWidget* parent) : QWidget(parent)
     auto* box = new QDialogButtonBox(this);
     QPushButton* chooseButton = box->addButton(tr("Choose"), QDialogButtonBox::AcceptRole);
     QPushButton* cancelButton = box->addButton(QDialogButtonBox::Cancel);
-    // Enter in a text field takes what was typed, so it is not the key that ends the choice there.
+    // Enter in a text field only enters the text and does not end the choice.
     chooseButton->setAutoDefault(false);
     cancelButton->setAutoDefault(false);
     chooseButton->setToolTip(withKey(tr("Choose"), Qt::CTRL | Qt::Key_Return));

@@ -4,7 +4,7 @@
 
 namespace vantorel {
 
-/// The buttons at the foot of a panel that is asked for one colour: Choose and Cancel.
+/// The buttons at the bottom of a panel that was opened to choose one colour: Choose and Cancel.
 class ChoiceBar final : public QWidget {
     Q_OBJECT
 

@@ -25,9 +25,9 @@ ColorChoice::ColorChoice(PanelWindow& window) : _window(window)
 
 void ColorChoice::choose()
 {
-    // What was typed counts, even if it was not yet entered.
+    // Text that was typed but not yet entered counts.
     _window.pages().current()->finishEditing();
-    // The panel's own pages know no settings, and the window is about to close.
+    // The panel's own pages do not have the settings, and the window is about to close.
     if (_window.pages().currentPicker() == nullptr) _window.pages().showPage(0);
     _window.colors().rememberColor();
     _text = _window.exchange().draggedText();
@@ -38,7 +38,7 @@ bool ColorChoice::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != &_window || event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
-    // What a control has used does not come here, except for Enter in a text field.
+    // Keys handled by a control do not arrive here, except for Enter in a text field.
     const int key = static_cast<QKeyEvent*>(event)->key();
     const bool enters = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (key == Qt::Key_Escape) {

@@ -9,17 +9,17 @@
 
 namespace vantorel {
 
-/// Makes a panel a dialog for one colour, with buttons to choose and to cancel. Its window closes
-/// with either.
+/// Makes a panel a dialog for one colour, with buttons to choose and to cancel. Either closes the
+/// window.
 class ColorChoice final : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` must outlive the choice, and must not be shown yet.
+    /// `window` must outlive this object, and must not have been shown.
     explicit ColorChoice(PanelWindow& window);
 
-    /// What a drag would carry, if the user has chosen; `std::nullopt` while the window is open,
-    /// or if it was closed without a choice.
+    /// The text of the chosen colour, in the form that a drag would carry. `std::nullopt` while the
+    /// window is open or if the user has cancelled.
     [[nodiscard]] const std::optional<QString>& text() const { return _text; }
 
 protected:

@@ -13,33 +13,32 @@
 
 namespace vantorel {
 
-/// Takes the panel's colour to other programs and brings colours from there: by the clipboard, by
-/// drops, and from the screen.
+/// Exchanges colours with other programs: through the clipboard, by drops, and by picking from the
+/// screen.
 class ColorExchange final : public QObject {
     Q_OBJECT
 
 public:
-    /// `colors`, `pages` and `window`, which picks from the screen start from, must outlive the
-    /// object.
+    /// `colors`, `pages` and `window` must outlive the object. `window` is the parent of picks from
+    /// the screen.
     ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window,
                   std::unique_ptr<ScreenPicker> screenPicker);
 
-    /// The texts that stand for the colour, with the names of their forms.
+    /// The colour's texts in every form, with the names of the forms.
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
-    /// The colour as a drag out of the panel carries it: the text that the settings ask for, or
-    /// the hex code.
+    /// The text that a drag out of the panel carries: in the form of the settings, or the hex code.
     [[nodiscard]] QString draggedText() const;
 
-    /// Lets the user pick from the screen. `copies` puts the colour on the clipboard at once;
-    /// `done`, if there is one, gets the result.
+    /// Lets the user pick from the screen. If `copies` is true, the colour is copied at once.
+    /// `done` gets the result; it may be null.
     void pickFromScreen(bool copies, ScreenPicker::Callback done);
-    /// Ends a pick that is under way as cancelled.
+    /// Cancels the pick in progress, if any.
     void cancelPick();
 
 public slots:
     void copy();
     void copyHexCode();
-    /// Copies the colour with a text that stands for it.
+    /// Copies the colour together with this text.
     void copyText(const QString& text);
     void paste();
     void pick() { pickFromScreen(false, {}); }

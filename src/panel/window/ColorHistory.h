@@ -8,9 +8,9 @@
 
 namespace vantorel {
 
-/// The colours that the panel has shown: steps to undo and redo, and a row of the last colours that
-/// stayed. A drag changes the colour at each move of the mouse; changes that follow each other
-/// within `settlingSeconds` are one step.
+/// The colours that the panel has shown: steps to undo and redo, and the recent colours, which were
+/// shown for a while. A drag changes the colour at each move of the mouse; changes that follow each
+/// other within `settlingSeconds` are one step.
 class ColorHistory {
 public:
     static constexpr double settlingSeconds = 0.7;
@@ -19,19 +19,20 @@ public:
 
     explicit ColorHistory(const HostColor& first) : _steps{first} {}
 
-    /// The colour has become `color`; `now` is in seconds of any clock that never goes back.
+    /// Records that the colour has become `color`. `now` is in seconds of any monotonic clock.
     void record(const HostColor& color, double now);
-    /// Takes back what was recorded last, as if it had not happened. Once for each `record`.
+    /// Removes the last change, as if it had not been recorded. Call it at most once after each
+    /// `record`.
     void forgetLast();
 
     [[nodiscard]] const HostColor& current() const { return _steps[_index]; }
     [[nodiscard]] bool canUndo() const { return _index > 0; }
     [[nodiscard]] bool canRedo() const { return _index + 1 < _steps.size(); }
-    /// The colour to show now; nothing where there is no step to go.
+    /// Returns the colour to show now, or `std::nullopt` if there is no step left.
     std::optional<HostColor> undo();
     std::optional<HostColor> redo();
 
-    /// Puts a colour first in the row, e.g. one that was copied.
+    /// Makes a colour the most recent one, for example because it was copied.
     void remember(const HostColor& color);
     /// Each colour once, the newest first.
     [[nodiscard]] const std::vector<HostColor>& recent() const { return _recent; }

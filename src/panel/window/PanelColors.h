@@ -8,7 +8,7 @@
 namespace vantorel {
 
 /// The colours that the panel works with: the colour, the background that its contrast is measured
-/// against, the steps to undo, and the last colours.
+/// against, the steps to undo, and the recent colours.
 class PanelColors final : public QObject {
     Q_OBJECT
 
@@ -22,9 +22,9 @@ public:
     /// Each colour once, the newest first.
     [[nodiscard]] const std::vector<HostColor>& recent() const { return _history.recent(); }
     void setRecent(const std::vector<HostColor>& colors);
-    /// Puts the colour first among the last ones, because it was used.
+    /// Makes the colour the most recent one, because it was used.
     void rememberColor();
-    /// Takes back the last change of the history, as if the colour had not changed.
+    /// Removes the last change from the history, as if the colour had not changed.
     void forgetLastChange();
 
 public slots:
@@ -37,13 +37,13 @@ public slots:
     void swap();
 
 signals:
-    /// The colour was set, perhaps to what it was. Pages show it again even then, for example in
-    /// place of what was typed.
+    /// The colour was set, possibly to the same value. Pages show it again even then, for example
+    /// in place of a typed text.
     void colorSet(const HostColor& color);
-    /// The colour is another.
+    /// The colour has changed.
     void colorChanged(const HostColor& color);
     void backgroundChanged(const HostColor& color);
-    /// The last colours are others, or there is more or less to undo.
+    /// The recent colours or the steps to undo have changed.
     void historyChanged();
 
 private:

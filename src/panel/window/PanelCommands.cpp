@@ -78,7 +78,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     QAction* quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, window, &QWidget::close);
 
     connect(_copyMenu, &QMenu::aboutToShow, this, &PanelCommands::fillCopyMenu);
-    // The button of the copy action opens it, too.
+    // The copy button opens this menu, too.
     _copy->setMenu(_copyMenu);
     connect(&colors, &PanelColors::historyChanged, this, &PanelCommands::updateHistory);
     updateHistory();
@@ -86,7 +86,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(_pick);
     _menu->addAction(pickAndCopy);
     _menu->addSeparator();
-    // Without its menu, so that it can be chosen as it is.
+    // Without the submenu, so that the command itself can be chosen.
     auto* plainCopy = new QAction(_copy->icon(), _copy->text(), _menu);
     connect(plainCopy, &QAction::triggered, &exchange, &ColorExchange::copy);
     _menu->addAction(plainCopy);

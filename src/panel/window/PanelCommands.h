@@ -11,8 +11,8 @@
 
 namespace vantorel {
 
-/// Each command of the panel once, with its name, its shortcut, its picture and what it does, for
-/// the menu, the buttons, the keyboard and the sheet of shortcuts.
+/// The commands of the panel. Each is defined once, with its name, shortcut, icon and function, for
+/// the menu, the buttons, the keyboard and the overview of shortcuts.
 class PanelCommands final : public QObject {
     Q_OBJECT
 

@@ -47,7 +47,7 @@ HostView* PanelHost::pageView() const
 void PanelHost::dragImage(const HostImage& image, const HostPasteboardItem& item,
                           const HostEvent& event, HostView& source)
 {
-    // The panel is black while a text is dragged, which is nothing to undo.
+    // The panel is black while a text is dragged. That is not a step to undo.
     if (std::holds_alternative<std::string>(item)) _colors.forgetLastChange();
     QtColorPanel::dragImage(image, item, event, source);
 }

@@ -8,7 +8,7 @@ namespace vantorel {
 
 class PanelWindow;
 
-/// The panel as pickers know it: its colour, its frame on the screen, and drags that begin in it.
+/// The panel as seen by pickers: its colour, its frame on the screen, and drags that start in it.
 class PanelHost final : public QtColorPanel {
 public:
     /// All must outlive the host.

@@ -11,7 +11,7 @@
 
 namespace vantorel {
 
-/// What stands below every page: the colour and the background colour, the opacity, the last
+/// The controls below every page: the colour and the background colour, the opacity, the recent
 /// colours, the contrast, and buttons to pick and to copy.
 class PanelTools final : public QWidget {
     Q_OBJECT
@@ -28,11 +28,11 @@ public:
 
 signals:
     void opacityChosen(int percent);
-    /// The user has taken one of the last colours.
+    /// The user has selected one of the recent colours.
     void recentColorChosen(const HostColor& color);
-    /// Something was dropped on the well of the colour.
+    /// A colour, or data that is not one, was dropped on the colour well.
     void colorDropped(const ColorOffer& offer);
-    /// Something was dropped on the well of the background.
+    /// The same for the well of the background.
     void backgroundDropped(const ColorOffer& offer);
 
 private:

@@ -9,7 +9,7 @@
 
 namespace vantorel {
 
-/// The bar above the page: a button for each page, the name of the one on show, and the menu. A
+/// The bar above the page: a button for each page, the name of the shown page, and the menu. A
 /// message replaces the name for some seconds.
 class PanelTopBar final : public QWidget {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
     void addPage(const QIcon& icon, const QString& name, const QString& toolTip);
     void showPage(int index, const QString& name);
     void setMenu(QMenu& menu);
-    /// Shows a message for a while. An empty one is replaced by the name of the page at once.
+    /// Shows a message for a while. Pass an empty text to show the page's name at once.
     void showMessage(const QString& sentence);
 
 signals:
-    /// The button of a page was switched on.
+    /// The button of a page was turned on.
     void pageChosen(int index);
 
 protected:

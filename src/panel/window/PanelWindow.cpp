@@ -18,7 +18,7 @@
 namespace vantorel {
 namespace {
 
-// In points, as the pages are.
+// In points, like the sizes of pages.
 constexpr int topBarPoints = 32;
 constexpr int toolsPoints = 54;
 constexpr int problemsPoints = 20;
@@ -55,14 +55,14 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     addPages(plugins, problems);
     resizeToPage(firstPageSize);
     _pages.showPage(0);
-    // At the start no control has the focus: Ctrl+C copies the colour at once.
+    // No control has the focus initially, so that Ctrl+C copies the colour.
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
 }
 
 PanelWindow::~PanelWindow()
 {
-    // Pickers may use the host until they are gone.
+    // Pickers may use the host until they are destroyed.
     _pages.clear();
 }
 
@@ -114,8 +114,8 @@ void PanelWindow::adaptToPage(int index)
     orderTabs();
 }
 
-/// Tab goes as one reads: the bar above, the page, what is below. By itself it would go in the
-/// order in which things were made, and pages are made when they are shown first.
+/// Orders Tab as one reads: the bar, the page, the tools below. By default it follows the order of
+/// creation, and pages are created when they are first shown.
 void PanelWindow::orderTabs()
 {
     std::vector<const QWidget*> groups{_topBar, &_pages.place(), _tools};
@@ -128,7 +128,7 @@ void PanelWindow::orderTabs()
             if (groups[i]->isAncestorOf(widget)) members[i].push_back(widget);
         }
     }
-    // The menu's button was made before those of the pages.
+    // The menu button was created before those of the pages.
     std::stable_partition(members[0].begin(), members[0].end(), [](const QWidget* widget) {
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
         return button != nullptr && button->isCheckable();
@@ -172,8 +172,8 @@ void PanelWindow::setFoot(QWidget& foot)
     orderTabs();
 }
 
-/// To look for it among the icons of the theme takes an eighth of the start, so it comes after the
-/// first picture of the window.
+/// Searching the icon theme takes an eighth of the start-up time, so it is done after the first
+/// paint.
 void PanelWindow::loadIcon()
 {
     const QIcon standIn = _pages.page(0).icon();
@@ -226,7 +226,7 @@ void PanelWindow::resizeEvent(QResizeEvent* event)
 void PanelWindow::closeEvent(QCloseEvent* event)
 {
     QWidget::closeEvent(event);
-    // Ends loops that wait for the mouse, too.
+    // This also ends loops that wait for the mouse.
     QApplication::quit();
 }
 

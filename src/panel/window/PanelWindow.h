@@ -22,8 +22,8 @@ class PanelWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Makes a page for each plug-in, and the panel's own. All must outlive the window. `problems`
-    /// gets a message for each plug-in that makes no page.
+    /// Creates a page for each plug-in, and the panel's own. All arguments must outlive the window.
+    /// A message is added to `problems` for each plug-in that fails to create its page.
     PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
                 std::vector<Message>& problems,
                 std::unique_ptr<ScreenPicker> screenPicker = makeScreenPicker());
@@ -34,20 +34,20 @@ public:
     [[nodiscard]] ColorExchange& exchange() { return _exchange; }
     [[nodiscard]] PanelCommands& commands() { return _commands; }
 
-    /// Shows what went wrong while the plug-ins were loaded, one a line.
+    /// Shows the problems with plug-ins, one per line.
     void showProblems(const std::vector<Message>& problems);
     /// Shows a message in the bar for a while. An empty message ends the one that is shown.
     void showMessage(const Message& message);
-    /// Puts a bar below everything else. To be called once, before the window is shown.
+    /// Puts a bar below everything else. Call it at most once, before the window is shown.
     void setFoot(QWidget& foot);
 
-    /// Gives the page a size, in points.
+    /// Resizes the window so that the page has this size, in points.
     void resizeToPage(QSize points);
-    /// Resizes the window and what is in it, in pixels; a hidden window, too, which Qt lays out no
-    /// sooner than it is shown.
+    /// Resizes the window and its contents, in pixels. Also works for a hidden window, which Qt
+    /// would lay out only when it is shown.
     void resizeAtOnce(QSize size);
 
-    // What is kept from one start to the next.
+    // The state that is kept between starts.
 
     void recall(const PanelMemory& memory);
     [[nodiscard]] PanelMemory memory() const;
@@ -66,7 +66,7 @@ private:
     void loadIcon();
     void orderTabs();
     void layOut();
-    /// What the window has besides the page, in points.
+    /// The size of everything but the page, in points.
     [[nodiscard]] QSize barsPoints() const;
 
     PanelColors _colors;

@@ -7,8 +7,8 @@
 
 namespace vantorel {
 
-/// A sheet over the whole panel that lists the keyboard shortcuts. Any key or click closes it; it
-/// ends itself then.
+/// Covers the whole panel with a list of the keyboard shortcuts. Any key or click closes and
+/// deletes it.
 class ShortcutOverlay final : public QLabel {
     Q_OBJECT
 
