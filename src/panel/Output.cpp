@@ -13,4 +13,9 @@ void printProblem(const QString& sentence)
     print(stderr, QStringLiteral("vantorel-panel: %1\n").arg(sentence));
 }
 
+void printProblem(const Message& message)
+{
+    printProblem(QString::fromStdString(english(message, ": ")));
+}
+
 }  // namespace vantorel

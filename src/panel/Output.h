@@ -1,5 +1,7 @@
 #pragma once
 
+#include "result/Message.h"
+
 #include <QString>
 
 #include <cstdio>
@@ -23,5 +25,7 @@ void print(std::FILE* stream, const QString& text);
 
 /// Writes a sentence to standard error, after the program's name.
 void printProblem(const QString& sentence);
+/// Writes a message in English to standard error, after the program's name.
+void printProblem(const Message& message);
 
 }  // namespace vantorel

@@ -30,7 +30,7 @@ Panel::Panel(const PanelOptions& options, const std::string& userData)
     : _search(searchFor(options, userData)), _window(_desktop, _search.plugins, _search.problems)
 {
     for (const Message& problem : _search.problems)
-        printProblem(QString::fromStdString(english(problem)));
+        printProblem(problem);
     if (!_search.problems.empty()) _window.showProblems(_search.problems);
 }
 
@@ -49,8 +49,9 @@ bool Panel::apply(const PanelOptions& options)
     }
     const bool hasPage = !options.page || _window.pages().showPageWithKey(*options.page);
     if (!hasPage) {
-        printProblem(QStringLiteral("--page: there is no page \"%1\"; there are: %2")
-                         .arg(*options.page, _window.pages().keys().join(QStringLiteral(", "))));
+        const QString keys = _window.pages().keys().join(QStringLiteral(", "));
+        printProblem(Message{phrase("--page: there is no page \"%1\"", options.page->toStdString()),
+                             phrase("use one of: %1", keys.toStdString())});
     }
     if (options.size) _window.resizeToPage(*options.size);
     if (options.color) _window.colors().setColor(hostColorFrom(*options.color));

@@ -23,7 +23,7 @@ std::optional<QSize> sizeFromText(const QString& text)
     return QSize(match.captured(1).toInt(), match.captured(2).toInt());
 }
 
-PanelCommandLine refusal(const Message& message)
+PanelCommandLine failure(const Message& message)
 {
     const std::string line = "vantorel-panel: " + english(message, ": ") + '\n';
     return {{}, usageError, QString::fromStdString(line)};
@@ -65,7 +65,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     for (const QString& argument : arguments.mid(1))
         texts.push_back(argument.toStdString());
     const Result<ArgumentReading> reading = readArguments(vantorelPanelProgram, texts);
-    if (!reading) return refusal(reading.error());
+    if (!reading) return failure(reading.error());
     if (!reading->arguments) return {{}, 0, QString::fromStdString(reading->text)};
 
     const GivenArguments& given = *reading->arguments;
@@ -75,17 +75,17 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
         // Names of colour lists are not read: the lists belong to the pages, which are not loaded
         // yet.
         const auto read = ColorTextReader([] { return nullptr; }).read(*color);
-        if (!read) return refusal({phrase("--color: %1", read.error().what), read.error().remedy});
+        if (!read) return failure({phrase("--color: %1", read.error().what), read.error().remedy});
         options.color = qColorFrom(read->hostColor());
     }
     if (const auto size = given.value("--size")) {
         options.size = sizeFromText(QString::fromStdString(*size));
         if (!options.size)
-            return refusal({phrase("--size: \"%1\" is not a size", *size), phrase("try 260x340")});
+            return failure({phrase("--size: \"%1\" is not a size", *size), phrase("try 260x340")});
     }
     if (const auto data = given.value("--data")) {
         const QFileInfo folder(QString::fromStdString(*data));
-        if (!folder.isDir()) return refusal({phrase("--data: there is no folder \"%1\"", *data)});
+        if (!folder.isDir()) return failure({phrase("--data: there is no folder \"%1\"", *data)});
         options.dataFolder = folder.absoluteFilePath();
     }
     options.page = textOf(given, "--page");
@@ -101,7 +101,7 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     for (const char* name :
          {"--page", "--mode", "--size", "--face", "--theme", "--data", "--plugin", "--print-color"})
         if (given.has(name)) options.forStartsOnly.append(QLatin1String(name));
-    if (const Status step = readStep(given, options); !step) return refusal(step.error());
+    if (const Status step = readStep(given, options); !step) return failure(step.error());
     return result;
 }
 

@@ -17,7 +17,8 @@ int takePicture(Panel& panel, const PanelOptions& options)
     window.grab();
     QApplication::processEvents();
     if (window.grab().save(*options.screenshot, "PNG")) return succeeded;
-    printProblem(QStringLiteral("--screenshot: \"%1\" cannot be written").arg(*options.screenshot));
+    printProblem(Message{
+        phrase("--screenshot: \"%1\" cannot be written", options.screenshot->toStdString())});
     return failed;
 }
 

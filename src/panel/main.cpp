@@ -26,8 +26,8 @@ int main(int argc, char** argv)
     const int noDisplay = staysHidden || options.choice ? notPossible : failed;
     if (!PanelEnvironment::hasDisplay()) {
         printProblem(
-            QStringLiteral("there is no display (neither WAYLAND_DISPLAY nor DISPLAY is set); "
-                           "--screenshot FILE works without one"));
+            Message{phrase("there is no display (neither WAYLAND_DISPLAY nor DISPLAY is set); "
+                           "--screenshot FILE works without one")});
         return noDisplay;
     }
     const PanelApplication application(argv, options, noDisplay);

@@ -36,7 +36,7 @@ const std::vector<OfferRow>& offers()
          [](QMimeData& data, const QDir&) { data.setText(QStringLiteral("rgb(").repeated(900)); }},
         {"half a character",
          [](QMimeData& data, const QDir&) { data.setText(QString(QChar(0xD800))); }},
-        {"bytes that are no UTF-8",
+        {"bytes that are not UTF-8",
          [](QMimeData& data, const QDir&) {
              data.setData(QStringLiteral("text/plain"), QByteArray("\xFF\xC0\x80\xF8", 4));
          }},
@@ -51,7 +51,7 @@ const std::vector<OfferRow>& offers()
                  urls.append(QUrl(QStringLiteral("https://example.org/%1.gpl").arg(i)));
              data.setUrls(urls);
          }},
-        {"what is no palette, or no file",
+        {"devices, pipes and circular links",
          [](QMimeData& data, const QDir& scratch) {
              ASSERT_EQ(::mkfifo(scratch.filePath("pipe.gpl").toLocal8Bit().constData(), 0600), 0);
              QFile::link(QStringLiteral("circle.gpl"), scratch.filePath("circle.gpl"));

@@ -155,7 +155,7 @@ TEST_F(PalettesPageTest, TheFirstChangeToAForeignListCreatesAUserCopy)
     click(0);
     view()->setFocus();
     press(Qt::Key_R, Qt::ControlModifier);
-    EXPECT_EQ(own("Web"), "none") << "the same colour is no change";
+    EXPECT_EQ(own("Web"), "none") << "setting the same colour is not a change";
     _window->colors().setColor(rgb(9, 9, 9));
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(own("Web"), "teal=090909");

@@ -158,7 +158,7 @@ def faults_of(node):
     if not name and (role not in GROUNDS or operable):
         yield f"a {role} has no name"
     if role == "combo box" and not node.queryText().getText(0, -1):
-        yield f"the combo box {name!r} does not tell its value"
+        yield f"the combo box {name!r} does not expose its value"
 
 
 def check_face(face, rows):

@@ -52,7 +52,7 @@ QString textOf(const HostColor& color)
     return qColorFrom(color).name(QColor::HexArgb);
 }
 
-/// Leaves `color` as it is if the text is not a colour.
+/// Leaves `color` unchanged if the text is not a colour.
 void readColor(const QString& text, HostColor& color)
 {
     const QColor read(text);

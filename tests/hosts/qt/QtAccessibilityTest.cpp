@@ -119,7 +119,7 @@ TEST(QtAccessibilityTest, TogglingThroughAccessibilitySendsTheAction)
         EXPECT_EQ(actions, 1);
         EXPECT_EQ(button->state(), 1);
         button->setState(0);
-        EXPECT_EQ(actions, 1) << "setting the state is no act of the user";
+        EXPECT_EQ(actions, 1) << "setting the state is not a user action";
         static_cast<QAbstractButton*>(widgetOf(button.get()))->click();
         EXPECT_EQ(actions, 2);
     }
