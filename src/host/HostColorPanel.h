@@ -9,6 +9,9 @@
 
 namespace vantorel {
 
+class HostFieldEditor;
+struct HostImage;
+
 /// The colour panel, of which a picker is a page. The panel outlives its pickers.
 class HostColorPanel {
 public:

@@ -10,6 +10,8 @@
 
 namespace vantorel {
 
+class HostControl;
+
 /// A text form of a colour and the display name of that form, e.g. "Hex Code".
 struct HostColorText {
     std::u16string name;

@@ -1,11 +1,17 @@
 #pragma once
 
-#include "host/HostControls.h"
+#include "host/HostView.h"
 
 #include <memory>
 #include <string>
 
 namespace vantorel {
+
+class HostButton;
+class HostCustomView;
+class HostPopUpButton;
+class HostTextField;
+class HostViewContent;
 
 /// The properties of a control in an interface file, from which a desktop creates the control.
 struct HostControlDescription {

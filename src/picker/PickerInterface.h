@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostColorPicker.h"
+#include "host/HostControls.h"
 #include "picker/InterfaceFile.h"
 
 #include <functional>

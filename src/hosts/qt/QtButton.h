@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HostControls.h"
 #include "host/HostInterfaceFactory.h"
 #include "hosts/qt/QtView.h"
 

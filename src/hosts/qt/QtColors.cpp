@@ -1,5 +1,7 @@
 #include "hosts/qt/QtColors.h"
 
+#include "host/HostColor.h"
+#include "host/HostInterfaceFactory.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QApplication>

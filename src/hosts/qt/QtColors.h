@@ -1,8 +1,5 @@
 #pragma once
 
-#include "host/HostColor.h"
-#include "host/HostInterfaceFactory.h"
-
 #include <QColor>
 #include <QFont>
 #include <QPalette>
@@ -14,6 +11,9 @@
 
 /// Converts between the core's values and Qt's.
 namespace vantorel {
+
+class HostColor;
+struct HostControlDescription;
 
 /// Channels are clamped to 0..1. A pattern gives an invalid colour, a NaN channel 0.
 [[nodiscard]] QColor qColorFrom(const HostColor& color);

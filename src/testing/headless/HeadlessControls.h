@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HostControls.h"
 #include "host/HostInterfaceFactory.h"
 #include "testing/headless/RecordingCanvas.h"
 
