@@ -40,7 +40,7 @@ bench: packages-build+run+test
 	@tools/bench-programs
 
 format: packages-check
-	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	@tools/format
 
 check: packages-build+run+test+check
 	@tools/run-checks
