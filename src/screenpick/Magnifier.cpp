@@ -41,9 +41,8 @@ void Magnifier::show()
     for (const DesktopPicture::Screen& screen : _picture.screens()) {
         QWidget* first = _overlays.empty() ? nullptr : _overlays.front().get();
         auto overlay = std::make_unique<MagnifierOverlay>(*this, screen, first);
-        const QString name = QCoreApplication::translate("Vantorel", "Colour magnifier");
-        overlay->setWindowTitle(name);
-        overlay->setAccessibleName(name);
+        overlay->setWindowTitle(QCoreApplication::translate("Vantorel", "Colour magnifier"));
+        overlay->setAccessibleName(overlay->windowTitle());
         // A modal dialogue of the program would block all input to a plain window.
         if (!first) overlay->setWindowModality(Qt::ApplicationModal);
         _overlays.push_back(std::move(overlay));

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtButton.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
@@ -85,7 +86,7 @@ QtButton::QtButton(const HostControlDescription& description)
     constexpr int iconSize = 14;
     QAbstractButton* shown = button();
     shown->setFont(fontOf(description));
-    shown->setText(qStringFrom(description.title));
+    shown->setText(plainTitle(qStringFrom(description.title)));
     shown->setIcon(iconFromSvg(description.svgImage, shown));
     shown->setIconSize(QSize(iconSize, iconSize) * textScale());
     shown->setAccessibleName(qStringFrom(description.accessibleName));

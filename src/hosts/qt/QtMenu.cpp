@@ -1,5 +1,6 @@
 #include "hosts/qt/QtMenu.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TypeAhead.h"
@@ -64,18 +65,12 @@ private:
     TypeAhead _typeAhead;
 };
 
-/// "&" would make the next letter a mnemonic.
-QString menuTitle(const std::u16string& title)
-{
-    return qStringFrom(title).replace(u'&', QStringLiteral("&&"));
-}
-
 void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuChoice& choose);
 
 void addSubmenu(QMenu& target, const HostMenuItem& item)
 {
     auto* submenu = new LongMenu(&target);
-    submenu->setTitle(menuTitle(item.title));
+    submenu->setTitle(plainTitle(qStringFrom(item.title)));
     target.addMenu(submenu);
     submenu->setFont(target.font());
     QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, make = item.submenu] {
@@ -100,7 +95,7 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
         } else if (item.submenu) {
             addSubmenu(target, item);
         } else {
-            QAction* action = target.addAction(menuTitle(item.title));
+            QAction* action = target.addAction(plainTitle(qStringFrom(item.title)));
             if (item.image) action->setIcon(pixmapOfImage(*item.image, target.devicePixelRatioF()));
             if (index == selected) {
                 action->setCheckable(true);

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtTextField.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
@@ -102,11 +103,10 @@ void QtTextField::setSelectedRange(HostSelection range)
 }
 
 QtLabel::QtLabel(const HostControlDescription& description)
-    : QtMirrored(description.frame, new QLabel)
+    : QtMirrored(description.frame, new PlainLabel)
 {
     label()->setFont(fontOf(description));
     label()->setAlignment(describedAlignment(description));
-    label()->setTextFormat(Qt::PlainText);
     label()->setAccessibleName(qStringFrom(description.accessibleName));
     setStringValue(description.title);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostView.h"
+#include "hosts/qt/PlainText.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -64,7 +65,7 @@ protected:
     {
         if (_widget == nullptr) return;
         const auto& text = this->toolTip();
-        _widget->setToolTip(text ? translatedText(*text) : QString());
+        _widget->setToolTip(text ? plainToolTip(translatedText(*text)) : QString());
     }
     void displayDidBecomeNeeded(HostRect rect) override
     {

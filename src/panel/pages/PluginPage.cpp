@@ -1,5 +1,6 @@
 #include "panel/pages/PluginPage.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtButton.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtTextField.h"
@@ -61,12 +62,12 @@ void PluginPage::show(HostView& holder)
             _view = nullptr;
         }
         if (_view == nullptr) {
-            _message = new QLabel(tr("The page \"%1\" could not be created because its interface "
-                                     "file is missing or damaged. Try reinstalling %2.")
-                                      .arg(name(), QString::fromStdString(_plugin.file())));
+            _message =
+                new PlainLabel(tr("The page \"%1\" could not be created because its interface "
+                                  "file is missing or damaged. Try reinstalling %2.")
+                                   .arg(name(), QString::fromStdString(_plugin.file())));
             _message->setWordWrap(true);
             _message->setMargin(12);
-            _message->setTextFormat(Qt::PlainText);
         }
     }
     if (_view != nullptr) {

@@ -1,5 +1,6 @@
 #include "panel/palettes/PaletteCommands.h"
 
+#include "hosts/qt/PlainText.h"
 #include "panel/widgets/PanelIcons.h"
 
 #include <set>
@@ -43,12 +44,13 @@ PaletteCommands::PaletteCommands(QWidget& page)
 QAction* PaletteCommands::add(QMenu* menu, Command command, const QString& text,
                               const QKeySequence& key, Needs needs)
 {
-    auto* action = new QAction(text, this);
+    auto* action = new QAction(plainTitle(text), this);
     // Only shown in menus. The keys are handled through `actionFor`, ahead of the panel's
     // shortcuts.
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
-    action->setToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
+    action->setToolTip(
+        plainToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText))));
     menu->addAction(action);
     _offers.emplace(command, Offer{action, needs});
     return action;
@@ -84,10 +86,12 @@ void PaletteCommands::enableFor(const Situation& situation)
 void PaletteCommands::setPanelColor(const QString& hexCode)
 {
     QAction* add = action(Command::addColor);
-    add->setToolTip(tr("Add %1 to the list (%2)")
-                        .arg(hexCode, add->shortcut().toString(QKeySequence::NativeText)));
+    add->setToolTip(
+        plainToolTip(tr("Add %1 to the list (%2)")
+                         .arg(hexCode, add->shortcut().toString(QKeySequence::NativeText))));
     action(Command::recolor)
-        ->setToolTip(tr("Give the selected colours the panel's colour, %1").arg(hexCode));
+        ->setToolTip(
+            plainToolTip(tr("Give the selected colours the panel's colour, %1").arg(hexCode)));
 }
 
 QAction* PaletteCommands::actionFor(const QKeyEvent& event, bool inField) const

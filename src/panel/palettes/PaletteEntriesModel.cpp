@@ -1,11 +1,21 @@
 #include "panel/palettes/PaletteEntriesModel.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/ColorClipboard.h"
 
 #include <algorithm>
 
 namespace vantorel {
+namespace {
+
+QString nameAndCode(const PaletteEntry& entry)
+{
+    return QStringLiteral("%1, %2").arg(qStringFrom(entry.name()),
+                                        qStringFrom(hexCodeOf(entry.color())));
+}
+
+}  // namespace
 
 std::vector<std::size_t> PaletteEntriesModel::shownPlaces(const PaletteEntries& entries) const
 {
@@ -75,9 +85,9 @@ QVariant PaletteEntriesModel::data(const QModelIndex& index, int role) const
         case Qt::EditRole:
             return qStringFrom(entry.name());
         case Qt::ToolTipRole:
+            return plainToolTip(nameAndCode(entry));
         case Qt::AccessibleTextRole:
-            return QStringLiteral("%1, %2").arg(qStringFrom(entry.name()),
-                                                qStringFrom(hexCodeOf(entry.color())));
+            return nameAndCode(entry);
         case colorRole:
             return qColorFrom(entry.color());
         case hexRole:

@@ -1,5 +1,6 @@
 #include "panel/palettes/PaletteEntriesView.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 
@@ -132,7 +133,7 @@ private:
 }  // namespace
 
 PaletteEntriesView::PaletteEntriesView(QWidget* parent)
-    : QListView(parent), _model(*new PaletteEntriesModel(this)), _note(new QLabel(viewport()))
+    : QListView(parent), _model(*new PaletteEntriesModel(this)), _note(new PlainLabel(viewport()))
 {
     setObjectName(QStringLiteral("paletteEntries"));
     setModel(&_model);
@@ -152,7 +153,6 @@ PaletteEntriesView::PaletteEntriesView(QWidget* parent)
 
     _note->setObjectName(QStringLiteral("paletteEmptyNote"));
     _note->setFont(fontOfSize(11));
-    _note->setTextFormat(Qt::PlainText);
     _note->setWordWrap(true);
     _note->setAlignment(Qt::AlignCenter);
     _note->setForegroundRole(QPalette::PlaceholderText);

@@ -1,5 +1,6 @@
 #include "panel/palettes/PaletteListChooser.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/PanelIcons.h"
 
@@ -74,7 +75,7 @@ void PaletteListChooser::addList(const EditablePalette& palette)
             QVariant::fromValue(palette.id));
     if (palette.isOwn()) return;
     setItemData(count() - 1,
-                tr("Belongs to %1, read-only").arg(qStringFrom(palette.program)),
+                plainToolTip(tr("Belongs to %1, read-only").arg(qStringFrom(palette.program))),
                 Qt::ToolTipRole);
 }
 

@@ -22,10 +22,9 @@ QColor mixed(const QColor& ground, const QColor& color, double share)
 
 }  // namespace
 
-PaletteMessageLabel::PaletteMessageLabel(QWidget* parent) : QLabel(parent)
+PaletteMessageLabel::PaletteMessageLabel(QWidget* parent) : PlainLabel(parent)
 {
     setFont(fontOfSize(10));
-    setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setMargin(scaled(4));

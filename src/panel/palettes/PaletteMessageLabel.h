@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLabel>
+#include "hosts/qt/PlainText.h"
+
 #include <QTimer>
 
 #include <vector>
@@ -11,7 +12,7 @@ struct Message;
 
 /// The line in which the page reports the outcome of a step. News disappears after a while; a
 /// failure is shown until the next step.
-class PaletteMessageLabel final : public QLabel {
+class PaletteMessageLabel final : public PlainLabel {
     Q_OBJECT
 
 public:

@@ -1,5 +1,6 @@
 #include "panel/palettes/PalettesWidget.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/PanelIcons.h"
@@ -18,10 +19,9 @@ constexpr int iconPoints = 16;
 
 QLabel* newLabel(QWidget* parent, const char* name)
 {
-    auto* label = new QLabel(parent);
+    auto* label = new PlainLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setFont(fontOfSize(10));
-    label->setTextFormat(Qt::PlainText);
     label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }

@@ -1,5 +1,6 @@
 #include "panel/widgets/ColorWell.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
@@ -43,7 +44,7 @@ void ColorWell::setColor(const HostColor& color)
                               ? QString()
                               : QStringLiteral(", %1 %").arg(qRound(shown.alphaF() * 100));
     const QString text = shown.name().toUpper() + alpha;
-    setToolTip(accessibleName() + QStringLiteral(": ") + text);
+    setToolTip(plainToolTip(accessibleName() + QStringLiteral(": ") + text));
     setAccessibleDescription(text);
     update();
 }

@@ -18,9 +18,8 @@ QString shownRatio(double ratio)
 
 }  // namespace
 
-ContrastLabel::ContrastLabel(QWidget* parent) : QLabel(parent)
+ContrastLabel::ContrastLabel(QWidget* parent) : PlainLabel(parent)
 {
-    setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     setColors(HostColor::blackColor(), HostColor::whiteColor());
 }
@@ -40,14 +39,15 @@ void ContrastLabel::setColors(const HostColor& foreground, const HostColor& back
                                                   : QStringLiteral("\u2013");
     setText(QStringLiteral("%1 %2").arg(shownRatio(*ratio), level));
     const auto verdict = [](bool reached) { return reached ? tr("yes") : tr("no"); };
-    setToolTip(tr("Contrast with the background: %1 to 1\n"
-                  "Normal text: AA %2, AAA %3\n"
-                  "Large text: AA %4, AAA %5\n"
-                  "Controls and graphics: AA %6")
-                   .arg(shownRatio(*ratio), verdict(verdicts.normalTextAA),
-                        verdict(verdicts.normalTextAAA), verdict(verdicts.largeTextAA),
-                        verdict(verdicts.largeTextAAA), verdict(verdicts.componentAA)));
-    setAccessibleName(toolTip());
+    const QString details = tr("Contrast with the background: %1 to 1\n"
+                               "Normal text: AA %2, AAA %3\n"
+                               "Large text: AA %4, AAA %5\n"
+                               "Controls and graphics: AA %6")
+                                .arg(shownRatio(*ratio), verdict(verdicts.normalTextAA),
+                                     verdict(verdicts.normalTextAAA), verdict(verdicts.largeTextAA),
+                                     verdict(verdicts.largeTextAAA), verdict(verdicts.componentAA));
+    setToolTip(plainToolTip(details));
+    setAccessibleName(details);
 }
 
 }  // namespace vantorel

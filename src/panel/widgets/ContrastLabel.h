@@ -1,14 +1,13 @@
 #pragma once
 
 #include "host/HostColor.h"
-
-#include <QLabel>
+#include "hosts/qt/PlainText.h"
 
 namespace vantorel {
 
 /// The contrast of the colour with the background colour, by WCAG 2.2: the ratio, and the best
 /// level that normal text reaches. The tool tip lists all levels.
-class ContrastLabel final : public QLabel {
+class ContrastLabel final : public PlainLabel {
     Q_OBJECT
 
 public:

@@ -1,5 +1,6 @@
 #include "panel/widgets/RecentColors.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/ColorClipboard.h"
 
@@ -90,7 +91,8 @@ bool RecentColors::event(QEvent* event)
         const int index = indexAt(help->pos());
         if (index >= 0) {
             const QColor color = qColorFrom(_colors[static_cast<std::size_t>(index)]);
-            QToolTip::showText(help->globalPos(), color.name(), this, rectOfColor(index));
+            QToolTip::showText(help->globalPos(), plainToolTip(color.name()), this,
+                               rectOfColor(index));
         } else {
             QToolTip::showText(help->globalPos(), tr("Last colours"), this);
         }

@@ -1,5 +1,7 @@
 #include "panel/window/ChoiceBar.h"
 
+#include "hosts/qt/PlainText.h"
+
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeySequence>
@@ -23,8 +25,9 @@ ChoiceBar::ChoiceBar(QWidget* parent) : QWidget(parent)
     // Enter in a text field only enters the text and does not end the choice.
     chooseButton->setAutoDefault(false);
     cancelButton->setAutoDefault(false);
-    chooseButton->setToolTip(withKey(tr("Choose"), Qt::CTRL | Qt::Key_Return));
-    cancelButton->setToolTip(withKey(cancelButton->text().remove(u'&'), Qt::Key_Escape));
+    chooseButton->setToolTip(plainToolTip(withKey(tr("Choose"), Qt::CTRL | Qt::Key_Return)));
+    cancelButton->setToolTip(
+        plainToolTip(withKey(cancelButton->text().remove(u'&'), Qt::Key_Escape)));
     connect(box, &QDialogButtonBox::accepted, this, &ChoiceBar::accepted);
     connect(box, &QDialogButtonBox::rejected, this, &ChoiceBar::rejected);
     auto* row = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "panel/window/PanelCommands.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/window/ShortcutOverlay.h"
@@ -31,10 +32,10 @@ QList<QKeySequence> redoKeys()
 
 QAction* PanelCommands::add(const QString& text, const QList<QKeySequence>& keys)
 {
-    auto* action = new QAction(text, &_window);
+    auto* action = new QAction(plainTitle(text), &_window);
     action->setShortcuts(keys);
     if (!keys.isEmpty()) {
-        action->setToolTip(QStringLiteral("%1 (%2)").arg(text, shownKeys(*action)));
+        action->setToolTip(plainToolTip(QStringLiteral("%1 (%2)").arg(text, shownKeys(*action))));
     }
     _window.addAction(action);
     _all.push_back(action);
@@ -87,7 +88,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(pickAndCopy);
     _menu->addSeparator();
     // Without the submenu, so that the command itself can be chosen.
-    auto* plainCopy = new QAction(_copy->icon(), _copy->text(), _menu);
+    auto* plainCopy = new QAction(_copy->icon(), tr("Copy"), _menu);
     connect(plainCopy, &QAction::triggered, &exchange, &ColorExchange::copy);
     _menu->addAction(plainCopy);
     _menu->addAction(copyHex);
@@ -114,8 +115,9 @@ void PanelCommands::fillCopyMenu()
         const QString cut = shown.size() > longestMenuText
                                 ? shown.left(longestMenuText) + QStringLiteral("\u2026")
                                 : shown;
-        QString title = qStringFrom(name) + u'\t' + cut;
-        QAction* action = _copyMenu->addAction(title.replace(u'&', QStringLiteral("&&")));
+        // What follows the tab is shown in a column of its own.
+        QAction* action =
+            _copyMenu->addAction(plainTitle(qStringFrom(name)) + u'\t' + plainTitle(cut));
         connect(action, &QAction::triggered, this, [this, shown] { _exchange.copyText(shown); });
     }
 }

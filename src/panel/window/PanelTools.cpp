@@ -42,7 +42,7 @@ PanelTools::PanelTools(QWidget* parent)
       _backgroundWell(new ColorWell(tr("Background"), this)),
       _swap(newToolsButton(this)),
       _opacity(new QSlider(Qt::Horizontal, this)),
-      _opacityText(new QLabel(this)),
+      _opacityText(new PlainLabel(this)),
       _recent(new RecentColors(this)),
       _contrast(new ContrastLabel(this)),
       _pick(newToolsButton(this)),

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "hosts/qt/PlainText.h"
 #include "panel/widgets/ColorWell.h"
 #include "panel/widgets/ContrastLabel.h"
 #include "panel/widgets/RecentColors.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QSlider>
 #include <QToolButton>
 
@@ -44,7 +44,7 @@ private:
     ColorWell* _backgroundWell;
     QToolButton* _swap;
     QSlider* _opacity;
-    QLabel* _opacityText;
+    PlainLabel* _opacityText;
     RecentColors* _recent;
     ContrastLabel* _contrast;
     QToolButton* _pick;

@@ -1,5 +1,6 @@
 #include "panel/window/PanelTopBar.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
@@ -28,7 +29,7 @@ QToolButton* newTopButton(QWidget* parent)
 PanelTopBar::PanelTopBar(QWidget* parent)
     : QWidget(parent),
       _pages(new QButtonGroup(this)),
-      _name(new QLabel(this)),
+      _name(new PlainLabel(this)),
       _menuButton(newTopButton(this))
 {
     setObjectName(QStringLiteral("topBar"));
@@ -38,7 +39,6 @@ PanelTopBar::PanelTopBar(QWidget* parent)
     _pages->setExclusive(true);
     _name->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     _name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    _name->setTextFormat(Qt::PlainText);
     _name->setAccessibleDescription(tr("Current page"));
     _menuButton->setIcon(menuIcon());
     _menuButton->setToolTip(tr("Commands"));
@@ -60,7 +60,7 @@ void PanelTopBar::addPage(const QIcon& icon, const QString& name, const QString&
     QToolButton* button = newTopButton(this);
     button->setCheckable(true);
     button->setIcon(icon);
-    button->setToolTip(toolTip);
+    button->setToolTip(plainToolTip(toolTip));
     button->setAccessibleName(name);
     const int index = static_cast<int>(_pages->buttons().size());
     _pages->addButton(button, index);
@@ -96,7 +96,7 @@ void PanelTopBar::showName()
 {
     const QString text = _message.isEmpty() ? _pageName : _message;
     _name->setFont(_message.isEmpty() ? font() : fontOfSize(10));
-    _name->setToolTip(_message);
+    _name->setToolTip(plainToolTip(_message));
     _name->setAccessibleName(text);
     _name->setText(_name->fontMetrics().elidedText(text, Qt::ElideRight, _name->width()));
 }

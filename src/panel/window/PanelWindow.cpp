@@ -1,5 +1,6 @@
 #include "panel/window/PanelWindow.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtMessages.h"
@@ -35,7 +36,7 @@ QSize scaledSize(QSize points)
 PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
                          std::vector<Message>& problems, std::unique_ptr<ScreenPicker> screenPicker)
     : _topBar(new PanelTopBar(this)),
-      _problems(new QLabel(this)),
+      _problems(new PlainLabel(this)),
       _pages(*this),
       _tools(new PanelTools(this)),
       _host(desktop, *this, _colors, _pages),
@@ -47,7 +48,6 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     _problems->setVisible(false);
     _problems->setFont(fontOfSize(10));
     _problems->setMargin(4);
-    _problems->setTextFormat(Qt::PlainText);
     _topBar->setMenu(_commands.menu());
     _tools->setActions(_commands.swap(), _commands.pick(), _commands.copy());
     connectParts();
@@ -153,7 +153,9 @@ void PanelWindow::showProblems(const std::vector<Message>& problems)
     for (const Message& problem : problems)
         lines.append(translated(problem));
     _problems->setVisible(!lines.isEmpty());
-    _problems->setToolTip(lines.join(u'\n'));
+    const QString reasons = lines.join(u'\n');
+    _problems->setToolTip(plainToolTip(reasons));
+    _problems->setAccessibleDescription(reasons);
     _problems->setText(lines.size() == 1 ? tr("A plug-in was left out")
                                          : tr("%1 plug-ins were left out").arg(lines.size()));
     layOut();
