@@ -963,6 +963,9 @@ Bedienelemente und Grafik: AA %6</translation>
         <source>The shown list</source>
         <translation>Die angezeigte Liste</translation>
     </message>
+</context>
+<context>
+    <name>vantorel::PaletteListModel</name>
     <message>
         <source>Belongs to %1, read-only</source>
         <translation>Gehört zu %1, nur lesbar</translation>
@@ -1044,6 +1047,26 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>No colour name or hex code matches.</source>
         <translation>Kein Name und kein Hex-Code passt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 von %2 Listen</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % der Liste</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>Nicht weiter lesen. Das bisher Gelesene lässt sich benutzen.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Bisher gelesen: %1</translation>
     </message>
 </context>
 <context>

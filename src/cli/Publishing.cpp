@@ -60,7 +60,7 @@ PublishPlan planPublish(const HostFiles& files, const HostColorList& list)
     // substitute for one.
     ReadOnlyFiles own(files, ReadOnlyFiles::Places::usersOwn);
     PalettePlaces places(own, {});
-    places.lookAgain();
+    places.refreshFolders();
     const std::string bytes = paletteText(list);
     PublishPlan plan;
     std::vector<std::string> seenFolders;

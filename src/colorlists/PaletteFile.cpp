@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 namespace vantorel {
 namespace {
@@ -56,6 +57,7 @@ public:
     }
 
     [[nodiscard]] std::size_t number() const { return _number; }
+    [[nodiscard]] std::size_t bytesLeft() const { return _rest.size(); }
 
 private:
     std::string_view _rest;
@@ -103,19 +105,45 @@ void appendNumber(std::string& text, int byte)
 
 }  // namespace
 
-std::optional<PaletteReading> readPalette(std::string_view bytes,
-                                          const std::u16string& fallbackName)
-{
-    const auto name = paletteName(bytes, fallbackName);
-    if (!name) return std::nullopt;
-    PaletteReading reading;
-    reading.list = std::make_shared<HostColorList>(*name);
-    KeyedEntries colors(*reading.list);
+struct PaletteReader::State {
+    State(std::string_view bytes, const std::u16string& name)
+        : size(bytes.size()), lines(bytes), reading{std::make_shared<HostColorList>(name), {}, 0}
+    {
+        readHead(lines);
+    }
 
-    Lines lines(bytes);
-    readHead(lines);
+    std::size_t size;
+    Lines lines;
+    PaletteReading reading;
+    KeyedEntries colors{*reading.list};
+};
+
+PaletteReader::PaletteReader(std::string_view bytes, const std::u16string& fallbackName)
+{
+    if (const auto name = paletteName(bytes, fallbackName))
+        _state = std::make_unique<State>(bytes, *name);
+}
+
+PaletteReader::~PaletteReader() = default;
+
+const PaletteReading* PaletteReader::reading() const
+{
+    return _state ? &_state->reading : nullptr;
+}
+
+std::size_t PaletteReader::bytesRead() const
+{
+    return _state ? _state->size - _state->lines.bytesLeft() : 0;
+}
+
+bool PaletteReader::readLines(std::size_t count)
+{
+    if (!_state) return true;
+    Lines& lines = _state->lines;
+    PaletteReading& reading = _state->reading;
     std::string_view line;
-    while (lines.next(line)) {
+    for (; count > 0; --count) {
+        if (!lines.next(line)) return true;
         const std::string_view content = trimmed(line);
         if (content.empty() || content.front() == '#' || content.starts_with(nameField) ||
             content.starts_with(columnsField)) {
@@ -123,17 +151,28 @@ std::optional<PaletteReading> readPalette(std::string_view bytes,
         }
         std::array<int, 3> rgb{};
         std::string_view rest = line;
-        if (std::all_of(rgb.begin(), rgb.end(), [&](int& byte) { return readByte(rest, byte); })) {
-            colors.add(HostColor::colorWithCalibratedRed(rgb[0] / 255.0, rgb[1] / 255.0,
-                                                         rgb[2] / 255.0, 1.0),
-                       rowName(rest));
+        const bool isRow =
+            std::ranges::all_of(rgb, [&](int& byte) { return readByte(rest, byte); });
+        if (isRow) {
+            _state->colors.add(HostColor::colorWithCalibratedRed(rgb[0] / 255.0, rgb[1] / 255.0,
+                                                                 rgb[2] / 255.0, 1.0),
+                               rowName(rest));
         } else if (reading.skipped.size() < PaletteReading::mostSkippedLines) {
             reading.skipped.push_back({lines.number(), "not three numbers from 0 to 255"});
         } else {
             ++reading.furtherSkippedLines;
         }
     }
-    return reading;
+    return false;
+}
+
+std::optional<PaletteReading> readPalette(std::string_view bytes,
+                                          const std::u16string& fallbackName)
+{
+    PaletteReader reader(bytes, fallbackName);
+    reader.readLines(std::numeric_limits<std::size_t>::max());
+    const PaletteReading* reading = reader.reading();
+    return reading != nullptr ? std::optional(*reading) : std::nullopt;
 }
 
 std::optional<std::u16string> paletteName(std::string_view bytes,

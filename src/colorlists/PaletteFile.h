@@ -34,6 +34,27 @@ struct PaletteReading {
 [[nodiscard]] std::optional<PaletteReading> readPalette(std::string_view bytes,
                                                         const std::u16string& fallbackName);
 
+/// Reads a palette as `readPalette` does, but in steps.
+class PaletteReader {
+public:
+    /// `bytes` must outlive the reader.
+    PaletteReader(std::string_view bytes, const std::u16string& fallbackName);
+    PaletteReader(const PaletteReader&) = delete;
+    PaletteReader& operator=(const PaletteReader&) = delete;
+    ~PaletteReader();
+
+    /// Reads the next lines, at most `count`. Returns whether the end has been reached.
+    bool readLines(std::size_t count);
+    /// Returns what has been read so far; null if the first line is not that of a palette.
+    [[nodiscard]] const PaletteReading* reading() const;
+    /// How many bytes have been read.
+    [[nodiscard]] std::size_t bytesRead() const;
+
+private:
+    struct State;
+    std::unique_ptr<State> _state;
+};
+
 /// Returns the name that `readPalette` would give the list, reading only the head of the file;
 /// `std::nullopt` if it is not a palette.
 [[nodiscard]] std::optional<std::u16string> paletteName(std::string_view bytes,

@@ -86,18 +86,45 @@ bool PaletteFileStore::mustLookAgain()
 
 void PaletteFileStore::lookAgain()
 {
+    beginListing();
+    continueListing(_progress.allFiles);
+    rebuildCatalogue();
+    _isCatalogueCurrent = true;
+}
+
+void PaletteFileStore::beginListing()
+{
     _isCatalogueCurrent = false;
+    _places.refreshFolders();
+    _foldersAhead.clear();
+    for (const auto& folder : _places.folders())
+        _foldersAhead.push_back(&folder->palettes);
+    std::ranges::reverse(_foldersAhead);
+    if (PaletteFolder* own = ownFolder()) _foldersAhead.push_back(own);
+    _progress = {};
+    for (PaletteFolder* folder : _foldersAhead) {
+        folder->beginLooking();
+        _progress.allFiles += folder->files().size();
+    }
+}
+
+bool PaletteFileStore::continueListing(std::size_t count)
+{
+    std::size_t allowance = count;
+    while (!_foldersAhead.empty() && _foldersAhead.back()->continueLooking(allowance))
+        _foldersAhead.pop_back();
+    _progress.files = std::min(_progress.files + count - allowance, _progress.allFiles);
+    return _foldersAhead.empty();
+}
+
+void PaletteFileStore::rebuildCatalogue()
+{
     _onceListed.clear();
     std::vector<PaletteCatalogue::Source> sources;
-    if (PaletteFolder* own = ownFolder()) {
-        own->lookAgain();
-        sources.push_back({own, {}});
-    }
-    _places.lookAgain();
+    if (PaletteFolder* own = ownFolder()) sources.push_back({own, {}});
     for (const auto& folder : _places.folders())
         sources.push_back({&folder->palettes, folder->program});
     _catalogue.rebuild(sources);
-    _isCatalogueCurrent = true;
 }
 
 const PaletteCatalogue::Entry* PaletteFileStore::rememberedEntry(const std::u16string& name) const
@@ -136,14 +163,6 @@ std::optional<std::string> PaletteFileStore::pathOfOwnList(const std::u16string&
         if (file.isPalette && file.listName == name) return own->pathOfFile(fileName);
     }
     return std::nullopt;
-}
-
-std::optional<std::string> PaletteFileStore::pathOfList(const std::u16string& name)
-{
-    if (auto path = pathOfOwnList(name)) return path;
-    const auto* entry = entryNamed(name);
-    if (entry == nullptr) return std::nullopt;
-    return entry->path();
 }
 
 std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
@@ -196,6 +215,18 @@ std::string PaletteFileStore::numberedFileName(const std::string& usual, int num
 std::vector<ListedPalette> PaletteFileStore::listedPalettes()
 {
     lookAgain();
+    return palettesInCatalogue();
+}
+
+std::vector<ListedPalette> PaletteFileStore::listedSoFar()
+{
+    rebuildCatalogue();
+    _isCatalogueCurrent = _foldersAhead.empty();
+    return palettesInCatalogue();
+}
+
+std::vector<ListedPalette> PaletteFileStore::palettesInCatalogue() const
+{
     std::vector<ListedPalette> palettes;
     for (const std::u16string& name : _catalogue.names()) {
         const auto* entry = _catalogue.entryListedAs(name);

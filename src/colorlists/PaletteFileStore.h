@@ -50,6 +50,19 @@ public:
 
     /// Refreshes the listing, like `availableColorLists`, and returns it.
     [[nodiscard]] std::vector<ListedPalette> listedPalettes();
+    /// Begins to refresh the listing in steps, for callers that have other things to do while many
+    /// files are read.
+    void beginListing();
+    /// Looks at the next files, at most `count`. Returns whether all have been looked at.
+    bool continueListing(std::size_t count);
+    /// How far the steps have come.
+    struct ListingProgress {
+        std::size_t files = 0;
+        std::size_t allFiles = 0;
+    };
+    [[nodiscard]] const ListingProgress& listingProgress() const { return _progress; }
+    /// Returns what has been found so far. The names are final only after the last step.
+    [[nodiscard]] std::vector<ListedPalette> listedSoFar();
     /// Returns the folders that palettes are read from, our own first, whether or not they exist.
     /// Those of other programs are known only after the first refresh.
     [[nodiscard]] std::vector<std::string> folders();
@@ -61,10 +74,8 @@ public:
     /// false if the file could not be written or the path is not in our own folder.
     bool replaceFile(const std::string& path, const std::shared_ptr<HostColorList>& list,
                      const std::string& text);
-    /// Returns the file that a list is read from, or `std::nullopt` if there is no list of that
-    /// name.
-    [[nodiscard]] std::optional<std::string> pathOfList(const std::u16string& name);
-    /// Like `pathOfList`, but searches only the user's own lists.
+    /// Returns the file that a list of the user's own is read from, or `std::nullopt` if there is
+    /// none of that name.
     [[nodiscard]] std::optional<std::string> pathOfOwnList(const std::u16string& name);
 
     /// Returns the file name for a list. The name is encoded so that it cannot leave the folder, be
@@ -83,6 +94,8 @@ private:
     /// Returns whether the catalogue may be out of date.
     [[nodiscard]] bool mustLookAgain();
     void lookAgain();
+    void rebuildCatalogue();
+    [[nodiscard]] std::vector<ListedPalette> palettesInCatalogue() const;
     /// Returns the entry that a name was last resolved to, or null.
     [[nodiscard]] const PaletteCatalogue::Entry* rememberedEntry(const std::u16string& name) const;
     /// Resolves a name to an entry, refreshing the catalogue if necessary. Returns null if no list
@@ -101,6 +114,9 @@ private:
     /// Names that are not in the catalogue, and the entries that they were resolved to.
     std::unordered_map<std::u16string, const PaletteCatalogue::Entry*> _onceListed;
     bool _isCatalogueCurrent = false;
+    /// The folders that `continueListing` has yet to look at, the next one last.
+    std::vector<PaletteFolder*> _foldersAhead;
+    ListingProgress _progress;
 };
 
 }  // namespace vantorel

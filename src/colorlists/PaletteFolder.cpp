@@ -78,6 +78,14 @@ void PaletteFolder::refresh(const std::string& fileName, File& file)
 
 void PaletteFolder::lookAgain()
 {
+    beginLooking();
+    std::size_t all = _files.size();
+    continueLooking(all);
+}
+
+void PaletteFolder::beginLooking()
+{
+    _lastRefreshed.clear();
     const std::uint64_t version = _hostFiles.versionAtPath(_path);
     if (version != _version) {
         _version = version;
@@ -91,8 +99,17 @@ void PaletteFolder::lookAgain()
         }
         _files = std::move(found);
     }
-    for (auto& [name, file] : _files)
-        refresh(name, file);
+}
+
+bool PaletteFolder::continueLooking(std::size_t& allowance)
+{
+    // By name, because files may be added between two steps.
+    auto next = _files.upper_bound(_lastRefreshed);
+    for (; allowance > 0 && next != _files.end(); ++next, --allowance) {
+        refresh(next->first, next->second);
+        _lastRefreshed = next->first;
+    }
+    return next == _files.end();
 }
 
 const PaletteFolder::File* PaletteFolder::lookAtFile(const std::string& fileName)

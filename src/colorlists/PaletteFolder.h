@@ -48,6 +48,11 @@ public:
 
     /// Refreshes `files()` from the disk.
     void lookAgain();
+    /// Begins to refresh `files()` in steps: refreshes their names.
+    void beginLooking();
+    /// Refreshes the next files, at most `allowance`, which is reduced by their number. Returns
+    /// whether all have been refreshed.
+    bool continueLooking(std::size_t& allowance);
     /// Refreshes one file from the disk and returns it, or null if it does not exist.
     const File* lookAtFile(const std::string& fileName);
     /// The files by name, as of the last refresh.
@@ -80,6 +85,8 @@ private:
     Log _log;
     std::uint64_t _version = 0;
     std::map<std::string, File> _files;
+    /// The last file that `continueLooking` has refreshed; empty for none.
+    std::string _lastRefreshed;
 };
 
 }  // namespace vantorel

@@ -161,12 +161,10 @@ void PalettePlaces::findFolders()
     }
 }
 
-void PalettePlaces::lookAgain()
+void PalettePlaces::refreshFolders()
 {
     if (!_hasLooked || haveVersionsChanged()) findFolders();
     _hasLooked = true;
-    for (const auto& folder : _folders)
-        folder->palettes.lookAgain();
 }
 
 }  // namespace vantorel

@@ -22,8 +22,8 @@ public:
     /// Returns whether the folders, or the file names in them, may have changed since the last
     /// refresh.
     [[nodiscard]] bool haveChanged() const;
-    /// Refreshes the folders and their files from the disk.
-    void lookAgain();
+    /// Refreshes the folders from the disk, but not their files.
+    void refreshFolders();
     /// The folders, most important first: the user's before the system's, those of a program's
     /// newer version before those of an older one. They include folders that do not exist.
     [[nodiscard]] const std::vector<std::unique_ptr<Folder>>& folders() const { return _folders; }

@@ -7,31 +7,10 @@
 #include "text/Unicode.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantorel {
 namespace {
-
-std::u16string fallbackName(const std::string& path)
-{
-    return PaletteFolder::fallbackListName(path.substr(path.rfind('/') + 1));
-}
-
-/// Returns whether a palette file contains text that `paletteText` would not write.
-bool holdsOtherLines(const std::string& bytes, const PaletteReading& reading)
-{
-    if (!reading.skipped.empty()) return true;
-    std::size_t at = 0;
-    while ((at = bytes.find('#', at)) != std::string::npos) {
-        const std::size_t lineStart = bytes.find_last_of("\r\n", at) + 1;
-        const std::size_t lineEnd = std::min(bytes.find_first_of("\r\n", at), bytes.size());
-        const bool beginsLine = bytes.find_first_not_of(" \t", lineStart) == at;
-        // Some programs write an empty comment, "#", after the head.
-        const std::size_t text = bytes.find_first_not_of("# \t", at);
-        if (beginsLine && text < lineEnd) return true;
-        at = lineEnd;
-    }
-    return false;
-}
 
 PaletteState stateOf(std::u16string name, PaletteEntries entries)
 {
@@ -48,10 +27,11 @@ std::string textOfState(const PaletteState& state, const HostColorList& list)
 
 }  // namespace
 
-PaletteEditor::PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile)
+PaletteEditor::PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile,
+                             FirstLook firstLook)
     : _files(files), _store(store), _removeFile(std::move(removeFile))
 {
-    lookAgain();
+    if (firstLook == FirstLook::now) lookAgain();
 }
 
 PaletteEditor::Record* PaletteEditor::recordOf(PaletteId id)
@@ -73,14 +53,38 @@ void PaletteEditor::readIfChanged(Record& record)
     const std::uint64_t version = _files.versionAtPath(record.path);
     if (version != 0 && version == record.version) return;
     record.version = version;
+    auto bytes = version != 0 ? _files.contentsAtPath(record.path) : std::nullopt;
+    EntriesReader reader(std::move(bytes).value_or(std::string()), record.path);
+    reader.readLines(reader.allBytes());
+    setContents(record, reader.takeFile());
+}
+
+void PaletteEditor::setContents(Record& record, std::optional<EntriesReader::File> file)
+{
     record.state.reset();
-    record.hasOtherLines = false;
-    const auto bytes = version != 0 ? _files.contentsAtPath(record.path) : std::nullopt;
-    const auto reading = bytes ? readPalette(*bytes, fallbackName(record.path)) : std::nullopt;
-    if (!reading) return;
-    record.state = stateOf(reading->list->name(), entriesOfList(*reading->list));
-    record.hasOtherLines = holdsOtherLines(*bytes, *reading);
-    if (record.hasOtherLines) record.state->bytes = std::make_shared<const std::string>(*bytes);
+    record.hasOtherLines = file && file->hasOtherLines;
+    if (file) record.state = std::move(file->state);
+}
+
+bool PaletteEditor::continueReading(PaletteId id, std::size_t lines)
+{
+    Record* record = recordOf(id);
+    if (record == nullptr || record->state) {
+        if (_reading && _reading->list == id) _reading.reset();
+        return true;
+    }
+    const std::uint64_t version = _files.versionAtPath(record->path);
+    if (!_reading || _reading->list != id || _reading->version != version) {
+        _reading.reset();
+        auto bytes = version != 0 ? _files.contentsAtPath(record->path) : std::nullopt;
+        if (!bytes) return true;
+        _reading = std::make_unique<StepwiseReading>(id, version, *std::move(bytes), record->path);
+    }
+    if (!_reading->reader.readLines(lines)) return false;
+    record->version = version;
+    setContents(*record, _reading->reader.takeFile());
+    _reading.reset();
+    return true;
 }
 
 bool PaletteEditor::isUnreadable(const Record& record) const
@@ -88,24 +92,38 @@ bool PaletteEditor::isUnreadable(const Record& record) const
     return record.version == 0 && _files.kindAtPath(record.path) != HostFileKind::none;
 }
 
-void PaletteEditor::lookAgain()
+void PaletteEditor::setPalettes(std::vector<ListedPalette> listed)
 {
     _palettes.clear();
-    for (ListedPalette& listed : _store.listedPalettes()) {
-        const PaletteId id = idOfPath(listed.path);
+    _placesOfPalettes.clear();
+    for (ListedPalette& found : listed) {
+        const PaletteId id = idOfPath(found.path);
         Record& record = _records[id];
-        record.path = listed.path;
-        record.program = listed.program;
-        _palettes.push_back({id, std::move(listed.name), listed.program, listed.path});
+        record.path = found.path;
+        record.program = found.program;
+        _placesOfPalettes[id] = _palettes.size();
+        _palettes.push_back({id, std::move(found.name), found.program, found.path});
     }
 }
 
 std::vector<EditablePalette> PaletteEditor::refresh()
 {
-    const std::vector<EditablePalette> before = _palettes;
-    lookAgain();
+    beginRefresh();
+    continueRefresh(_store.listingProgress().allFiles);
+    return endRefresh();
+}
+
+void PaletteEditor::beginRefresh()
+{
+    _palettesBefore = _palettes;
+    _store.beginListing();
+}
+
+std::vector<EditablePalette> PaletteEditor::endRefresh()
+{
+    showRefreshed();
     std::vector<EditablePalette> changed;
-    for (const EditablePalette& old : before) {
+    for (const EditablePalette& old : std::exchange(_palettesBefore, {})) {
         Record* record = recordOf(old.id);
         if (record == nullptr) continue;
         const EditablePalette* now = palette(old.id);
@@ -121,9 +139,8 @@ std::vector<EditablePalette> PaletteEditor::refresh()
 
 const EditablePalette* PaletteEditor::palette(PaletteId id) const
 {
-    const auto found = std::find_if(_palettes.begin(), _palettes.end(),
-                                    [id](const auto& palette) { return palette.id == id; });
-    return found != _palettes.end() ? &*found : nullptr;
+    const auto found = _placesOfPalettes.find(id);
+    return found != _placesOfPalettes.end() ? &_palettes[found->second] : nullptr;
 }
 
 const PaletteEntries& PaletteEditor::entriesOf(PaletteId id)
@@ -198,7 +215,8 @@ EditOutcome PaletteEditor::setEntries(PaletteId id, PaletteEntries entries)
             return listed.isOwn() && listed.name == name;
         });
     if (ownHasIt)
-        name = freeListName(name.empty() ? fallbackName(record->path) : name, 0, Among::allLists);
+        name = freeListName(name.empty() ? EntriesReader::fallbackName(record->path) : name, 0,
+                            Among::allLists);
     EditStep step{++_lastId, std::nullopt, stateOf(name, std::move(entries))};
     EditOutcome outcome;
     auto done = commitNew(step.list, *step.after, outcome);

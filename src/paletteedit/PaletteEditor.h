@@ -2,10 +2,12 @@
 
 #include "colorlists/PaletteFileStore.h"
 #include "paletteedit/EditHistory.h"
+#include "paletteedit/EntriesReader.h"
 #include "result/Message.h"
 
 #include <functional>
 #include <map>
+#include <unordered_map>
 #include <vector>
 
 namespace vantorel {
@@ -46,12 +48,30 @@ public:
     /// by the owner of this object, because `HostFiles` cannot remove files.
     using RemoveFile = std::function<bool(const std::string& path)>;
 
+    /// Whether the lists are looked at in the constructor, or only at the first refresh.
+    enum class FirstLook { now, later };
+
     /// `files` and `store` must outlive the editor.
-    PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile);
+    PaletteEditor(HostFiles& files, PaletteFileStore& store, RemoveFile removeFile,
+                  FirstLook firstLook = FirstLook::now);
 
     /// Refreshes the lists from the disk. Returns those that other programs have changed or
     /// removed.
     std::vector<EditablePalette> refresh();
+    /// Begins to refresh the lists in steps, for callers that have other things to do while many
+    /// files are read.
+    void beginRefresh();
+    /// Looks at the next files, at most `count`. Returns whether all have been looked at.
+    bool continueRefresh(std::size_t count) { return _store.continueListing(count); }
+    [[nodiscard]] PaletteFileStore::ListingProgress refreshProgress() const
+    {
+        return _store.listingProgress();
+    }
+    /// Updates `palettes` to what has been found so far.
+    void showRefreshed() { setPalettes(_store.listedSoFar()); }
+    /// Ends the refresh, whether or not all files have been looked at, and returns what `refresh`
+    /// does.
+    std::vector<EditablePalette> endRefresh();
 
     /// The lists as of the last refresh or step, in the order of the store.
     [[nodiscard]] const std::vector<EditablePalette>& palettes() const { return _palettes; }
@@ -60,6 +80,15 @@ public:
     /// Returns the entries of a list, reading them at the first call. Returns an empty list if the
     /// list does not exist or cannot be read.
     [[nodiscard]] const PaletteEntries& entriesOf(PaletteId id);
+    /// Reads the next lines of a list, at most `lines`, for callers that have other things to do
+    /// while a long list is read. Returns whether `entriesOf` no longer needs to read. One list at
+    /// a time is read in this way.
+    bool continueReading(PaletteId id, std::size_t lines);
+    /// Returns the reader of a list that has been read in part, or null.
+    [[nodiscard]] const EntriesReader* readerOf(PaletteId id) const
+    {
+        return _reading && _reading->list == id ? &_reading->reader : nullptr;
+    }
 
     /// Each of these is one step. Names are tidied and made unique.
     EditOutcome add(const std::u16string& name, const PaletteEntries& entries);
@@ -84,15 +113,27 @@ private:
         /// Whether the file has lines that saving would drop.
         bool hasOtherLines = false;
     };
+    struct StepwiseReading {
+        StepwiseReading(PaletteId readList, std::uint64_t readVersion, std::string bytes,
+                        const std::string& path)
+            : list(readList), version(readVersion), reader(std::move(bytes), path)
+        {
+        }
+        PaletteId list;
+        std::uint64_t version;
+        EntriesReader reader;
+    };
     enum class Occasion { first, again };
 
     Record* recordOf(PaletteId id);
     PaletteId idOfPath(const std::string& path);
     void readIfChanged(Record& record);
+    static void setContents(Record& record, std::optional<EntriesReader::File> file);
     /// Returns whether something that cannot be read exists at the record's path. Such a list must
     /// not be treated as removed.
     [[nodiscard]] bool isUnreadable(const Record& record) const;
-    void lookAgain();
+    void lookAgain() { setPalettes(_store.listedPalettes()); }
+    void setPalettes(std::vector<ListedPalette> listed);
     /// Which lists a new name must differ from. One of the user's own lists may take the name of
     /// another program's list, which is then listed with the program's name appended. That is
     /// expected only if the user's list has had the name before.
@@ -120,7 +161,11 @@ private:
     RemoveFile _removeFile;
     EditHistory _history;
     std::vector<EditablePalette> _palettes;
+    std::unordered_map<PaletteId, std::size_t> _placesOfPalettes;
+    /// The lists at the beginning of the refresh.
+    std::vector<EditablePalette> _palettesBefore;
     std::map<PaletteId, Record> _records;
+    std::unique_ptr<StepwiseReading> _reading;
     std::map<std::string, PaletteId> _idsOfPaths;
     PaletteId _lastId = 0;
 };

@@ -29,7 +29,8 @@ using Obstacle = std::variant<Missing, Message>;
 
 std::string pathOfDescriptor(const Descriptor& descriptor)
 {
-    return "/proc/self/fd/" + std::to_string(descriptor.value());
+    // Not /proc/self: debuggers use the path as well.
+    return "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(descriptor.value());
 }
 
 /// Neither path has links.

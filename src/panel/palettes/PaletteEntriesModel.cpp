@@ -55,6 +55,21 @@ void PaletteEntriesModel::setEntries(const PaletteEntries& entries)
     if (firstRow <= lastRow) emit dataChanged(index(firstRow), index(lastRow));
 }
 
+void PaletteEntriesModel::extendEntries(const PaletteEntries& entries)
+{
+    const bool isLonger = entries.size() > _entries.size() &&
+                          std::equal(_entries.begin(), _entries.end(), entries.begin());
+    std::vector<std::size_t> places = shownPlaces(entries);
+    if (!isLonger || places.size() <= _places.size()) {
+        setEntries(entries);
+        return;
+    }
+    beginInsertRows({}, rowCount(), static_cast<int>(places.size()) - 1);
+    _entries = entries;
+    _places = std::move(places);
+    endInsertRows();
+}
+
 void PaletteEntriesModel::setFilter(const QString& filter)
 {
     if (filter == _filter) return;

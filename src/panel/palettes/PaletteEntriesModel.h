@@ -20,6 +20,8 @@ public:
     enum Role { colorRole = Qt::UserRole, hexRole };
 
     void setEntries(const PaletteEntries& entries);
+    /// Sets the entries when more of the same list has been read. The selection is kept.
+    void extendEntries(const PaletteEntries& entries);
     /// Shows only entries with the text in their name, ignoring letter case, or with a hex code
     /// that begins with it. An empty text shows all.
     void setFilter(const QString& filter);

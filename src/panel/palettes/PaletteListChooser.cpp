@@ -1,8 +1,6 @@
 #include "panel/palettes/PaletteListChooser.h"
 
-#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
-#include "panel/widgets/PanelIcons.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -10,21 +8,11 @@
 #include <algorithm>
 
 namespace vantorel {
-namespace {
-
-QString shownName(const EditablePalette& palette)
-{
-    QString name = qStringFrom(palette.name);
-    const QString program = qStringFrom(palette.program);
-    if (palette.isOwn() || name.contains(u'(' + program)) return name;
-    return QStringLiteral("%1 (%2)").arg(name, program);
-}
-
-}  // namespace
 
 PaletteListChooser::PaletteListChooser(QWidget* parent)
-    : QComboBox(parent), _name(new QLineEdit(this))
+    : QComboBox(parent), _rows(new PaletteListModel(this)), _name(new QLineEdit(this))
 {
+    setModel(_rows);
     setObjectName(QStringLiteral("paletteLists"));
     setAccessibleName(tr("Colour list"));
     setToolTip(tr("The shown list"));
@@ -48,35 +36,16 @@ PaletteId PaletteListChooser::showLists(const std::vector<EditablePalette>& pale
 {
     const QSignalBlocker blocker(this);
     const int place = std::max(currentIndex(), 0);
-    clear();
-    // The user's own lists first, because only those can be edited.
-    for (const bool own : {true, false}) {
-        if (!own && count() > 0) insertSeparator(count());
-        for (const EditablePalette& palette : palettes) {
-            if (palette.isOwn() == own) addList(palette);
-        }
+    _rows->setPalettes(palettes);
+    int row = _rows->rowOf(wanted);
+    if (row < 0) {
+        row = std::min(place, count() - 1);
+        // Before a separator there is always a list.
+        if (row > 0 && _rows->listAt(row) == 0) --row;
     }
-    if (count() > 0 && itemData(count() - 1).isNull()) removeItem(count() - 1);
-    PaletteId shown = wanted;
-    if (findData(QVariant::fromValue(shown)) < 0) {
-        // A separator is not a list, but there is always a list before it.
-        const int next = std::min(place, count() - 1);
-        shown = itemData(next).toULongLong();
-        if (shown == 0) shown = itemData(next - 1).toULongLong();
-    }
-    setCurrentIndex(findData(QVariant::fromValue(shown)));
+    setCurrentIndex(row);
     setEnabled(count() > 0);
-    return shown;
-}
-
-void PaletteListChooser::addList(const EditablePalette& palette)
-{
-    addItem(palette.isOwn() ? QIcon() : lockIcon(), shownName(palette),
-            QVariant::fromValue(palette.id));
-    if (palette.isOwn()) return;
-    setItemData(count() - 1,
-                plainToolTip(tr("Belongs to %1, read-only").arg(qStringFrom(palette.program))),
-                Qt::ToolTipRole);
+    return shownList();
 }
 
 void PaletteListChooser::beginRename(const QString& name)

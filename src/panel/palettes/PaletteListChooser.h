@@ -1,6 +1,7 @@
 #pragma once
 
 #include "paletteedit/PaletteEditor.h"
+#include "panel/palettes/PaletteListModel.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -21,7 +22,7 @@ public:
     /// shown list; 0 if there is none.
     PaletteId showLists(const std::vector<EditablePalette>& palettes, PaletteId wanted);
     /// The shown list; 0 if there is none.
-    [[nodiscard]] PaletteId shownList() const { return currentData().toULongLong(); }
+    [[nodiscard]] PaletteId shownList() const { return _rows->listAt(currentIndex()); }
 
     /// Lets the user type a name for the list; `name` is the current one.
     void beginRename(const QString& name);
@@ -37,9 +38,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addList(const EditablePalette& palette);
     void endRename(bool takes);
 
+    PaletteListModel* _rows;
     QLineEdit* _name;
 };
 

@@ -7,9 +7,10 @@
 namespace vantorel {
 
 PaletteSession::PaletteSession(HostFiles& files, PaletteFileStore& store)
-    : _editor(files, store, [](const std::string& path) {
-          return QFile::remove(QFile::decodeName(path.c_str()));
-      })
+    : _editor(
+          files, store,
+          [](const std::string& path) { return QFile::remove(QFile::decodeName(path.c_str())); },
+          PaletteEditor::FirstLook::later)
 {
 }
 
@@ -17,6 +18,19 @@ QString PaletteSession::listName() const
 {
     const EditablePalette* shown = list();
     return shown != nullptr ? qStringFrom(shown->name) : QString();
+}
+
+const PaletteEntries& PaletteSession::entriesSoFar()
+{
+    const EntriesReader* reader = _editor.readerOf(_list);
+    return reader != nullptr ? reader->entries() : entries();
+}
+
+int PaletteSession::percentRead() const
+{
+    const EntriesReader* reader = _editor.readerOf(_list);
+    if (reader == nullptr || reader->allBytes() == 0) return 100;
+    return static_cast<int>(100 * reader->bytesRead() / reader->allBytes());
 }
 
 EditOutcome PaletteSession::addList(const std::u16string& name, const PaletteEntries& entries)

@@ -28,15 +28,30 @@ public:
     /// Null if no list is shown.
     [[nodiscard]] const EditablePalette* list() const { return _editor.palette(_list); }
     [[nodiscard]] const PaletteEntries& entries() { return _editor.entriesOf(_list); }
+    /// Reads the next lines of the list that is shown, at most `lines`. Returns whether all have
+    /// been read, so that `entries` no longer needs to read.
+    bool continueReading(std::size_t lines) { return _editor.continueReading(_list, lines); }
+    /// Whether only some of the entries have been read.
+    [[nodiscard]] bool isPartlyRead() const { return _editor.readerOf(_list) != nullptr; }
+    [[nodiscard]] const PaletteEntries& entriesSoFar();
+    [[nodiscard]] int percentRead() const;
     /// Empty if no list is shown.
     [[nodiscard]] QString listName() const;
     [[nodiscard]] bool canUndo() const { return _editor.canUndo(); }
     [[nodiscard]] bool canRedo() const { return _editor.canRedo(); }
 
     void showList(PaletteId id) { _list = id; }
-    /// Refreshes the lists from the disk. Returns those that other programs have changed or
-    /// removed.
-    std::vector<EditablePalette> refresh() { return _editor.refresh(); }
+
+    // See `PaletteEditor`. There are no lists before the first refresh.
+
+    void beginRefresh() { _editor.beginRefresh(); }
+    bool continueRefresh(std::size_t count) { return _editor.continueRefresh(count); }
+    [[nodiscard]] PaletteFileStore::ListingProgress refreshProgress() const
+    {
+        return _editor.refreshProgress();
+    }
+    void showRefreshed() { _editor.showRefreshed(); }
+    std::vector<EditablePalette> endRefresh() { return _editor.endRefresh(); }
 
     // Each of these is a step. It shows the resulting list and emits `stepTaken`.
 

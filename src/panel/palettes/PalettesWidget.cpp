@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace vantorel {
 namespace {
@@ -48,16 +49,33 @@ QToolButton* newButton(QWidget* parent, QAction* action)
 }  // namespace
 
 PalettesWidget::PalettesWidget(HostFiles& files, PaletteFileStore& store)
-    : _files(files), _session(files, store), _watch(files, store)
+    : _files(files),
+      _session(files, store),
+      _refresh(_session),
+      _loading(_session),
+      _watch(files, store)
 {
     setObjectName(QStringLiteral("palettesPage"));
     setAccessibleName(tr("Palettes"));
     setAcceptDrops(true);
     makeControls();
+    makeProgress();
     connectCommands();
     layOutControls();
     connect(&_session, &PaletteSession::stepTaken, this, &PalettesWidget::showStep);
     connect(&_watch, &PaletteWatch::changed, this, &PalettesWidget::lookAtDisk);
+    connect(&_refresh, &PaletteRefresh::progressed, this, [this](qsizetype seen, qsizetype all) {
+        showProgress(tr("%1 of %2 lists").arg(locale().toString(seen), locale().toString(all)));
+    });
+    connect(&_refresh, &PaletteRefresh::foundMore, this, &PalettesWidget::showCurrentList);
+    connect(&_refresh, &PaletteRefresh::finished, this, &PalettesWidget::showRefreshed);
+    connect(&_loading, &PaletteLoading::progressed, this,
+            [this](int percent) { showProgress(tr("%1 % of the list").arg(percent)); });
+    connect(&_loading, &PaletteLoading::foundMore, this, &PalettesWidget::showEntries);
+    connect(&_loading, &PaletteLoading::finished, this, [this] {
+        hideProgress();
+        showEntries();
+    });
     showCurrentList();
 }
 
@@ -93,8 +111,9 @@ void PalettesWidget::makeControls()
     _view = new PaletteEntriesView(this);
     connect(&_view->entriesModel(), &PaletteEntriesModel::nameEntered, this,
             &PalettesWidget::renameEntry);
-    connect(_view, &PaletteEntriesView::colorChosen, this,
-            [this](std::size_t place) { emit colorChosen(_session.entries()[place].color()); });
+    connect(_view, &PaletteEntriesView::colorChosen, this, [this](std::size_t place) {
+        emit colorChosen(_view->entriesModel().entries()[place].color());
+    });
     connect(_view, &PaletteEntriesView::selectionMoved, this, [this](std::size_t before) {
         _session.edit(withMoved(_session.entries(), _view->selectedPlaces(), before));
     });
@@ -107,6 +126,25 @@ void PalettesWidget::makeControls()
     _count = newLabel(this, "paletteCount");
     _count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     _count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+}
+
+void PalettesWidget::makeProgress()
+{
+    _progress = new QWidget(this);
+    _progress->setObjectName(QStringLiteral("paletteProgress"));
+    _progressText = newLabel(_progress, "paletteProgressText");
+    auto* stop = newButton(_progress);
+    stop->setObjectName(QStringLiteral("paletteStop"));
+    stop->setText(tr("Stop"));
+    stop->setAccessibleName(tr("Stop"));
+    stop->setToolTip(tr("Read no more. What has been read so far can be used."));
+    connect(stop, &QToolButton::clicked, &_refresh, &PaletteRefresh::stop);
+    connect(stop, &QToolButton::clicked, &_loading, &PaletteLoading::stop);
+    auto* row = new QHBoxLayout(_progress);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(_progressText, 1);
+    row->addWidget(stop);
+    _progress->hide();
 }
 
 void PalettesWidget::layOutControls()
@@ -131,6 +169,7 @@ void PalettesWidget::layOutControls()
     rows->addWidget(_ownership);
     rows->addWidget(_filter);
     rows->addWidget(_view, 1);
+    rows->addWidget(_progress);
     rows->addWidget(_message);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(0);
@@ -154,7 +193,8 @@ void PalettesWidget::layOutControls()
 void PalettesWidget::showCurrentList()
 {
     _session.showList(_lists->showLists(_session.palettes(), _session.listId()));
-    _view->entriesModel().setEntries(_session.entries());
+    _loading.start();
+    _view->entriesModel().setEntries(_session.entriesSoFar());
     const EditablePalette* list = _session.list();
     const bool isForeign = list != nullptr && !list->isOwn();
     _ownership->setVisible(isForeign);
@@ -166,16 +206,25 @@ void PalettesWidget::showCurrentList()
     showState();
 }
 
+void PalettesWidget::showEntries()
+{
+    _view->entriesModel().extendEntries(_session.entriesSoFar());
+    showState();
+}
+
 void PalettesWidget::showState()
 {
     const EditablePalette* list = _session.list();
-    _commands->enableFor({list != nullptr, list != nullptr && list->isOwn(),
+    // To edit a list needs all of it.
+    const bool isWhole = !_session.isPartlyRead();
+    _commands->enableFor({list != nullptr && isWhole, list != nullptr && list->isOwn() && isWhole,
                           _view->selectionModel()->hasSelection(), _session.canUndo(),
                           _session.canRedo()});
 
     const int shown = _view->entriesModel().rowCount();
     const auto all = static_cast<qlonglong>(_view->entriesModel().entries().size());
-    const QString allText = locale().toString(all);
+    const QString allText =
+        locale().toString(all) + (isWhole ? QString() : QStringLiteral("\u2026"));
     _count->setText(shown == all ? allText : tr("%1 of %2").arg(locale().toString(shown), allText));
     _count->setToolTip(tr("Colours in the list"));
     _count->setAccessibleName(tr("Colours in the list: %1").arg(_count->text()));
@@ -204,25 +253,39 @@ void PalettesWidget::setWatching(bool flag)
         lookAtDisk();
     } else {
         _watch.stop();
+        _refresh.stop();
+        _loading.pause();
+        hideProgress();
     }
 }
 
-void PalettesWidget::lookAtDisk()
+void PalettesWidget::showProgress(const QString& text)
 {
+    _progress->show();
+    _progressText->setText(text);
+    _progressText->setAccessibleName(tr("Read so far: %1").arg(text));
+}
+
+void PalettesWidget::hideProgress()
+{
+    _progress->setVisible(_refresh.isRunning() || _loading.isRunning());
+}
+
+void PalettesWidget::showRefreshed(const std::vector<EditablePalette>& changed)
+{
+    hideProgress();
     const PaletteId shown = _session.listId();
-    const auto changed = _session.refresh();
     const auto found = std::find_if(changed.begin(), changed.end(),
                                     [shown](const auto& palette) { return palette.id == shown; });
     const PaletteEntries& shownEntries = _view->entriesModel().entries();
-    std::vector<std::u16string> selected;
+    std::unordered_set<std::u16string> selected;
     for (const std::size_t place : _view->selectedPlaces())
-        selected.push_back(shownEntries[place].name());
+        selected.insert(shownEntries[place].name());
     showCurrentList();
     if (found == changed.end()) return;
     std::vector<std::size_t> places;
     for (std::size_t i = 0; i < shownEntries.size() && !selected.empty(); ++i) {
-        if (std::find(selected.begin(), selected.end(), shownEntries[i].name()) != selected.end())
-            places.push_back(i);
+        if (selected.contains(shownEntries[i].name())) places.push_back(i);
     }
     _view->selectPlaces(places);
     const std::string name = excerpt(qStringFrom(found->name).toStdString());

@@ -3,7 +3,9 @@
 #include "panel/palettes/PaletteCommands.h"
 #include "panel/palettes/PaletteEntriesView.h"
 #include "panel/palettes/PaletteListChooser.h"
+#include "panel/palettes/PaletteLoading.h"
 #include "panel/palettes/PaletteMessageLabel.h"
+#include "panel/palettes/PaletteRefresh.h"
 #include "panel/palettes/PaletteSession.h"
 #include "panel/palettes/PaletteWatch.h"
 
@@ -58,8 +60,15 @@ private:
     void makeControls();
     void layOutControls();
     void showCurrentList();
+    /// Shows the colours of the current list that have been read.
+    void showEntries();
     void showState();
-    void lookAtDisk();
+    void lookAtDisk() { _refresh.start(); }
+    void makeProgress();
+    void showProgress(const QString& text);
+    void hideProgress();
+    /// Shows the refreshed lists, and which of them others have changed or removed.
+    void showRefreshed(const std::vector<EditablePalette>& changed);
 
     // PalettesWidgetCommands.cpp: the commands
 
@@ -79,6 +88,8 @@ private:
 
     HostFiles& _files;
     PaletteSession _session;
+    PaletteRefresh _refresh;
+    PaletteLoading _loading;
     PaletteWatch _watch;
     HostColor _color = HostColor::whiteColor();
 
@@ -89,6 +100,9 @@ private:
     PaletteEntriesView* _view = nullptr;
     PaletteMessageLabel* _message = nullptr;
     QLabel* _count = nullptr;
+    /// A row that is shown while many lists, or a long one, are read.
+    QWidget* _progress = nullptr;
+    QLabel* _progressText = nullptr;
 };
 
 }  // namespace vantorel

@@ -39,9 +39,9 @@ TEST(PlainTextTest, ToolTipsOfViewsShowTagsAsText)
 {
     QtLabel label({});
     label.setToolTip(picture.toStdU16String());
-    EXPECT_EQ(shownText(label.label()->toolTip()), picture);
+    EXPECT_EQ(shownText(label.widget()->toolTip()), picture);
     label.setToolTip(std::nullopt);
-    EXPECT_EQ(label.label()->toolTip(), "");
+    EXPECT_EQ(label.widget()->toolTip(), "");
 }
 
 TEST(PlainTextTest, TitlesShowAmpersandsAndStayInTheirColumn)
@@ -64,7 +64,8 @@ TEST(PlainTextTest, MenusShowTitlesAsWritten)
 TEST(PlainTextTest, LabelsShowTagsAsText)
 {
     EXPECT_EQ(PlainLabel(picture).textFormat(), Qt::PlainText);
-    EXPECT_EQ(QtLabel({}).label()->textFormat(), Qt::PlainText);
+    const QtLabel label({});
+    EXPECT_EQ(static_cast<QLabel*>(label.widget())->textFormat(), Qt::PlainText);
 }
 
 }  // namespace

@@ -1,0 +1,104 @@
+#include "paletteedit/EntriesReader.h"
+
+#include <gtest/gtest.h>
+
+#include "CountingFiles.h"
+#include "paletteedit/PaletteEditor.h"
+
+namespace vantorel {
+namespace {
+
+std::string palette(int count, const std::string& last = {})
+{
+    std::string text = "GIMP Palette\nName: Long\n";
+    for (int i = 0; i < count; ++i)
+        text += "1 2 3\tcolour " + std::to_string(i) + "\n";
+    return text + last;
+}
+
+TEST(EntriesReaderTest, StepsReadWhatOneStepReads)
+{
+    for (const char* last : {"", "# a comment\n", "no colour\n"}) {
+        const std::string path = "/palettes/Long.gpl";
+        EntriesReader reader(palette(10, last), path);
+        EXPECT_FALSE(reader.readLines(4));
+        EXPECT_EQ(reader.entries().size(), 3U) << "the first line names the list";
+        EXPECT_LT(reader.bytesRead(), reader.allBytes());
+        while (!reader.readLines(2)) {
+        }
+        EXPECT_EQ(reader.bytesRead(), reader.allBytes());
+        EXPECT_EQ(reader.entries().size(), 10U);
+
+        EntriesReader other(palette(10, last), path);
+        EXPECT_TRUE(other.readLines(100));
+        const auto file = reader.takeFile();
+        const auto otherFile = other.takeFile();
+        ASSERT_TRUE(file && otherFile);
+        EXPECT_EQ(file->state.name, u"Long");
+        EXPECT_EQ(*file->state.entries, *otherFile->state.entries);
+        EXPECT_EQ(file->hasOtherLines, *last != '\0');
+        EXPECT_EQ(otherFile->hasOtherLines, *last != '\0');
+        EXPECT_EQ(file->state.bytes != nullptr, *last != '\0');
+    }
+}
+
+TEST(EntriesReaderTest, OtherFilesAreNotPalettes)
+{
+    EntriesReader reader("a text\nof two lines\n", "/x.gpl");
+    EXPECT_TRUE(reader.readLines(1));
+    EXPECT_FALSE(reader.takeFile());
+    EXPECT_TRUE(reader.entries().empty());
+}
+
+class StepwiseReadingTest : public testing::Test {
+protected:
+    StepwiseReadingTest()
+    {
+        _files.createDirectory("/home/user/.local/share/Vantorel");
+        _files.createDirectory("/home/user/.local/share/Vantorel/Palettes");
+        _files.writeAtomically(_path, palette(100));
+    }
+
+    const std::string _path = "/home/user/.local/share/Vantorel/Palettes/Long.gpl";
+    CountingFiles _files;
+    PaletteFileStore _store{_files};
+};
+
+TEST_F(StepwiseReadingTest, AListCanBeReadInSteps)
+{
+    PaletteEditor editor(_files, _store, [](const std::string&) { return false; });
+    const PaletteId id = editor.palettes().front().id;
+    EXPECT_EQ(editor.readerOf(id), nullptr);
+    static_cast<void>(_files.takeCalls());
+    EXPECT_FALSE(editor.continueReading(id, 11));
+    ASSERT_NE(editor.readerOf(id), nullptr);
+    EXPECT_EQ(editor.readerOf(id)->entries().size(), 10U);
+    EXPECT_FALSE(editor.continueReading(id, 40));
+    EXPECT_TRUE(editor.continueReading(id, 100));
+    EXPECT_EQ(editor.readerOf(id), nullptr);
+    EXPECT_EQ(editor.entriesOf(id).size(), 100U);
+    EXPECT_LE(_files.takeCalls(), 4U) << "the file is read once";
+}
+
+TEST_F(StepwiseReadingTest, AFileThatChangesInBetweenIsReadAnew)
+{
+    PaletteEditor editor(_files, _store, [](const std::string&) { return false; });
+    const PaletteId id = editor.palettes().front().id;
+    EXPECT_FALSE(editor.continueReading(id, 50));
+    _files.writeAtomically(_path, palette(5));
+    EXPECT_TRUE(editor.continueReading(id, 50));
+    EXPECT_EQ(editor.entriesOf(id).size(), 5U);
+}
+
+TEST_F(StepwiseReadingTest, AnEditReadsTheRest)
+{
+    PaletteEditor editor(_files, _store, [](const std::string&) { return false; });
+    const PaletteId id = editor.palettes().front().id;
+    EXPECT_FALSE(editor.continueReading(id, 50));
+    EXPECT_EQ(editor.entriesOf(id).size(), 100U);
+    EXPECT_TRUE(editor.continueReading(id, 1));
+    EXPECT_EQ(editor.readerOf(id), nullptr);
+}
+
+}  // namespace
+}  // namespace vantorel

@@ -1,0 +1,111 @@
+#include "PalettesPageFixture.h"
+
+namespace vantorel {
+namespace {
+
+/// The page with more lists than it looks at in one step.
+class ManyPalettesTest : public PalettesPageTest {
+protected:
+    ManyPalettesTest()
+    {
+        for (std::size_t i = 0; i < 3 * PaletteRefresh::filesOfStep; ++i) {
+            const QByteArray number = QByteArray::number(static_cast<int>(1000 + i));
+            put("data/Vantorel/Palettes/" + number + ".gpl",
+                "GIMP Palette\nName: List " + number + "\n1 2 3\tfirst\n");
+        }
+    }
+    void SetUp() override
+    {
+        PanelWindowFixture::SetUp();
+        ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
+    }
+    [[nodiscard]] QWidget* progress() const { return child<QWidget>("paletteProgress"); }
+};
+
+TEST_F(ManyPalettesTest, ThePageFillsWhileItIsUsed)
+{
+    ASSERT_TRUE(progress()->isVisible());
+    EXPECT_TRUE(child<QLabel>("paletteProgressText")->text().startsWith("256 of 7"));
+    show("List 1100");
+    click(0);
+    EXPECT_EQ(chosenColor(), QColor(1, 2, 3));
+    EXPECT_LT(lists()->findText("Reds"), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_GE(lists()->findText("Reds"), 0);
+    EXPECT_EQ(shownList(), "List 1100") << "the list on show stays";
+}
+
+TEST_F(ManyPalettesTest, TheUserCanStop)
+{
+    const int before = lists()->count();
+    QTest::mouseClick(child<QWidget>("paletteStop"), Qt::LeftButton);
+    EXPECT_FALSE(progress()->isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(lists()->count(), before);
+    EXPECT_LT(lists()->findText("Reds"), 0);
+}
+
+TEST_F(ManyPalettesTest, APageThatIsLeftStops)
+{
+    _window->pages().showPage(0);
+    ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
+    EXPECT_TRUE(progress()->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_GE(lists()->findText("Reds"), 0);
+}
+
+/// The page with a list that is longer than it reads in two steps.
+class LongPaletteTest : public PalettesPageTest {
+protected:
+    static constexpr int count = 4 * static_cast<int>(PaletteLoading::linesOfStep);
+
+    LongPaletteTest()
+    {
+        QByteArray text("GIMP Palette\nName: Long\n");
+        for (int i = 0; i < count; ++i)
+            text += "1 2 3\tcolour " + QByteArray::number(i) + '\n';
+        put("data/Vantorel/Palettes/Long.gpl", text);
+    }
+    [[nodiscard]] QWidget* progress() const { return child<QWidget>("paletteProgress"); }
+    [[nodiscard]] int rows() const { return view()->model()->rowCount(); }
+};
+
+TEST_F(LongPaletteTest, TheListFillsWhileItIsUsed)
+{
+    show("Long");
+    EXPECT_TRUE(progress()->isVisible());
+    EXPECT_LT(rows(), count);
+    click(1);
+    EXPECT_EQ(chosenColor(), QColor(1, 2, 3));
+    EXPECT_FALSE(command("Remove")->isEnabled()) << "a part of a list cannot be edited";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_EQ(rows(), count);
+    EXPECT_EQ(view()->selectedPlaces(), std::vector<std::size_t>{1});
+    EXPECT_TRUE(command("Remove")->isEnabled());
+}
+
+TEST_F(LongPaletteTest, TheUserCanStop)
+{
+    show("Long");
+    QTest::mouseClick(child<QWidget>("paletteStop"), Qt::LeftButton);
+    const int before = rows();
+    EXPECT_LT(before, count);
+    EXPECT_FALSE(progress()->isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(rows(), before);
+    EXPECT_TRUE(child<QLabel>("paletteCount")->text().endsWith(u'\u2026'));
+    show("Reds");
+    EXPECT_EQ(shownNames(), "red dark darker darkest");
+}
+
+TEST_F(LongPaletteTest, ReadingGoesOnWhenThePageIsShownAgain)
+{
+    show("Long");
+    _window->pages().showPage(0);
+    ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_EQ(rows(), count);
+}
+
+}  // namespace
+}  // namespace vantorel
