@@ -122,9 +122,10 @@ void writeSettings(benchmark::State& state)
     std::filesystem::create_directories(folder);
     PosixFiles disk(folder.string());
     HostFiles& files = state.range(0) == 0 ? static_cast<HostFiles&>(memory) : disk;
-    initializeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
     for (auto _ : state)
-        writeDefaults(files, settings);
+        writeDefaults(files, settings, merge);
     std::filesystem::remove_all(folder);
 }
 BENCHMARK(writeSettings)->ArgName("disk")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);

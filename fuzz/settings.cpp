@@ -15,12 +15,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string bytes(bytesFrom(data, size));
     files.writeAtomically(path, bytes);
     QTXHexSettings settings;
-    initializeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
     require(!settings.codeSnippets().empty());
     static_cast<void>(settings.codeSnippet());
     // Files that cannot be read leave the settings of a first start, which are always the same.
     if (!isWellFormedUtf8(bytes) || !parsePropertyList(utf16FromUtf8(bytes))) return 0;
-    writeDefaults(files, settings);
+    writeDefaults(files, settings, merge);
     const auto written = files.contentsAtPath(path);
     QTXHexSettings again;
     readDefaults(files, again);

@@ -431,6 +431,22 @@
         <translation>ein anderer Benutzer darf in „%1“ schreiben</translation>
     </message>
     <message>
+        <source>the working folder cannot be read: %1</source>
+        <translation>der Arbeitsordner lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>use the absolute path of the plug-in</source>
+        <translation>geben Sie den vollständigen Pfad des Plug-ins an</translation>
+    </message>
+    <message>
+        <source>another program is still changing colour lists, so &quot;%1&quot; was not changed</source>
+        <translation>ein anderes Programm ändert noch Farblisten, darum wurde „%1“ nicht geändert</translation>
+    </message>
+    <message>
+        <source>try again when it has finished</source>
+        <translation>versuchen Sie es noch einmal, wenn es fertig ist</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; could not be saved, so nothing was changed</source>
         <translation>„%1“ ließ sich nicht sichern, darum wurde nichts geändert</translation>
     </message>

@@ -98,6 +98,13 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 
     // Only the user's own lists can be replaced. Lists of other programs stay in their own files.
     PaletteFileStore store(session.files());
+    const auto cannotBeSaved = [&] {
+        return Failure{{phrase("the list \"%1\" cannot be saved", excerpt(name)),
+                        phrase("check that you can write to your data folder")}};
+    };
+    // From the comparison to the end of the write.
+    auto lock = store.lockOwnFolder();
+    if (!lock) throw cannotBeSaved();
     const bool isOwn = store.pathOfOwnList(list->name()).has_value();
     const auto known = isOwn ? store.colorListNamed(list->name()) : nullptr;
     const std::string count = std::to_string(list->allKeys().size()) + " colours";
@@ -112,15 +119,21 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
                  phrase("use \"--yes\" to replace it, or \"--name NAME\" to choose another name")}};
         }
         session.output().flush();
+        // The answer can take a while, and other programs must not wait for it.
+        lock.reset();
         if (!confirms("Replace the list \"" + name + "\"?")) {
             throw Failure{{phrase("\"%1\" was not imported", excerpt(path)),
                            phrase("use \"--name NAME\" to choose another name")}};
         }
+        lock = store.lockOwnFolder();
+        if (!lock) throw cannotBeSaved();
+        const auto now = store.colorListNamed(list->name());
+        if (known && now && !haveSameColors(*known, *now)) {
+            throw Failure{{phrase("the list \"%1\" has just been changed", excerpt(name)),
+                           phrase("import once more")}};
+        }
     }
-    if (!store.writeColorList(list)) {
-        throw Failure{{phrase("the list \"%1\" cannot be saved", excerpt(name)),
-                       phrase("check that you can write to your data folder")}};
-    }
+    if (!store.writeColorList(list)) throw cannotBeSaved();
     session.output().write("\"" + name + "\": " + count + " from " + harmlessLine(path) + "\n");
     if (file->skipped > 0) {
         session.output().flush();

@@ -97,11 +97,13 @@ PublishRecords::PublishRecords(HostFiles& files, const std::u16string& listName)
     if (!dataHome) return;
     _path =
         *dataHome + "/Vantorel/Published/" + PaletteFileStore::fileNameOfList(listName) + ".plist";
-    const auto bytes = files.contentsAtPath(*_path);
+    // The folder of the records is made with the first of them.
+    _lock = files.lockFolder(*dataHome + "/Vantorel");
+    const auto bytes = _lock ? files.contentsAtPath(*_path) : std::nullopt;
     if (bytes) {
         read(*bytes);
     } else {
-        _isReadable = files.kindAtPath(*_path) == HostFileKind::none;
+        _isReadable = _lock && files.kindAtPath(*_path) == HostFileKind::none;
     }
 }
 

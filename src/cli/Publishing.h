@@ -4,6 +4,7 @@
 #include "host/HostFiles.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,7 +39,8 @@ struct PublishPlan {
 [[nodiscard]] PublishPlan planPublish(const HostFiles& files, const HostColorList& list);
 
 /// The records of published files, the latest last, in the user's data folder. A record is written
-/// before the files, so that the replaced bytes are never lost.
+/// before the files, so that the replaced bytes are never lost. As long as the object exists, other
+/// programs of ours cannot change the records.
 class PublishRecords {
 public:
     /// `files` must outlive this object.
@@ -46,7 +48,8 @@ public:
 
     using Publish = std::vector<PublishedFile>;
 
-    /// Returns false if a record exists but cannot be read. In that case new ones are not written.
+    /// Returns false if a record exists but cannot be read, or if another program keeps the records
+    /// locked. In that case new ones are not written.
     [[nodiscard]] bool isReadable() const { return _isReadable; }
     /// Returns the latest publish; `std::nullopt` if the list has not been published.
     [[nodiscard]] std::optional<Publish> latest() const;
@@ -63,6 +66,7 @@ private:
     [[nodiscard]] bool save() const;
 
     HostFiles& _files;
+    std::shared_ptr<HostFolderLock> _lock;
     std::optional<std::string> _path;
     bool _isReadable = true;
     /// The bytes of a record that could not be parsed completely. They are saved in a file with "~"

@@ -256,11 +256,19 @@ PaletteFolder* PaletteFileStore::writableFolder()
     return own;
 }
 
+std::shared_ptr<HostFolderLock> PaletteFileStore::lockOwnFolder()
+{
+    const PaletteFolder* own = writableFolder();
+    // Without a folder there is nothing to lock, and writing fails by itself.
+    return own != nullptr ? _hostFiles.lockFolder(own->path()) : std::make_shared<HostFolderLock>();
+}
+
 std::optional<std::string> PaletteFileStore::writeNewFile(
     const std::shared_ptr<HostColorList>& list, const std::string& text)
 {
     PaletteFolder* own = writableFolder();
-    if (own == nullptr) return std::nullopt;
+    const auto lock = lockOwnFolder();
+    if (own == nullptr || !lock) return std::nullopt;
     _isCatalogueCurrent = false;
     const std::string usual = fileNameOfList(list->name());
     for (int number = 1; number <= mostFilesOfAName; ++number) {
@@ -288,6 +296,8 @@ bool PaletteFileStore::replaceFile(const std::string& path,
     if (own == nullptr || slash == std::string::npos || path.substr(0, slash) != own->path()) {
         return false;
     }
+    const auto lock = lockOwnFolder();
+    if (!lock) return false;
     _isCatalogueCurrent = false;
     if (!_hostFiles.writeAtomically(path, text)) return false;
     own->setListInFile(path.substr(slash + 1), list);
@@ -297,7 +307,8 @@ bool PaletteFileStore::replaceFile(const std::string& path,
 bool PaletteFileStore::writeColorList(const std::shared_ptr<HostColorList>& list)
 {
     PaletteFolder* own = list ? writableFolder() : nullptr;
-    if (own == nullptr) return false;
+    const auto lock = own != nullptr ? lockOwnFolder() : nullptr;
+    if (!lock) return false;
     _isCatalogueCurrent = false;
     const std::string text = paletteText(*list);
     const std::string usual = fileNameOfList(list->name());

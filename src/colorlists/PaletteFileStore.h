@@ -74,6 +74,9 @@ public:
     /// false if the file could not be written or the path is not in our own folder.
     bool replaceFile(const std::string& path, const std::shared_ptr<HostColorList>& list,
                      const std::string& text);
+    /// Locks our own folder, creating it if necessary. Returns null if another program keeps it
+    /// locked; nothing must then be written.
+    [[nodiscard]] std::shared_ptr<HostFolderLock> lockOwnFolder();
     /// Returns the file that a list of the user's own is read from, or `std::nullopt` if there is
     /// none of that name.
     [[nodiscard]] std::optional<std::string> pathOfOwnList(const std::u16string& name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +20,15 @@ struct HostBaseDirectories {
 enum class HostFileKind { none, file, folder };
 
 enum class HostFileCreation { made, pathIsTaken, failed };
+
+/// Keeps other programs of ours out of a folder, until it is destroyed.
+class HostFolderLock {
+public:
+    HostFolderLock() = default;
+    HostFolderLock(const HostFolderLock&) = delete;
+    HostFolderLock& operator=(const HostFolderLock&) = delete;
+    virtual ~HostFolderLock() = default;
+};
 
 /// The user's files. Paths are absolute, in the file system's own bytes, with "/" as separator. No
 /// function throws because of a disk error; failures are reported in the return value.
@@ -64,6 +74,20 @@ public:
     /// Like `writeAtomically`, for a file that the user names or that another program reads: a new
     /// file gets the permissions that the user's files usually get.
     virtual bool writeForOthers(const std::string& path, const std::string& bytes) = 0;
+
+    /// Locks the files directly in a folder, so that a file can be read, merged and replaced
+    /// without losing what another program writes at the same time. All our programs lock a folder
+    /// before they change a file of the user's data in it; reading needs no lock.
+    ///
+    /// Waits for a lock held by another program, but not forever: returns null if the lock cannot
+    /// be had, and the file must then not be written. A folder that does not exist or cannot be
+    /// locked at all yields a lock that excludes nobody. A program may lock a folder again while it
+    /// holds the lock. The default is for hosts whose files nobody else can see.
+    [[nodiscard]] virtual std::shared_ptr<HostFolderLock> lockFolder(const std::string& folder)
+    {
+        static_cast<void>(folder);
+        return std::make_shared<HostFolderLock>();
+    }
 };
 
 /// The resources of a plug-in, by name.

@@ -25,6 +25,9 @@ struct PaletteState {
 /// A change to one list. If `before` is missing, the list did not exist before the change; if
 /// `after` is missing, it does not exist afterwards.
 struct EditStep {
+    /// The list's name before the step, or the name of a list that the step creates.
+    [[nodiscard]] const std::u16string& name() const { return before ? before->name : after->name; }
+
     PaletteId list = 0;
     std::optional<PaletteState> before;
     std::optional<PaletteState> after;

@@ -13,6 +13,13 @@ std::string shown(std::u16string_view name)
 
 }  // namespace
 
+Message locked(std::u16string_view name)
+{
+    return {phrase("another program is still changing colour lists, so \"%1\" was not changed",
+                   shown(name)),
+            phrase("try again when it has finished")};
+}
+
 Message notSaved(std::u16string_view name, const std::string& folder)
 {
     return {phrase("\"%1\" could not be saved, so nothing was changed", shown(name)),

@@ -40,7 +40,8 @@ struct EditablePalette {
 /// cannot be saved is not applied, so the entries shown are always those on disk.
 ///
 /// Other programs may write the same files. Before each write, the file is compared with what was
-/// read, and foreign changes are merged. Lists of other programs are never written: the first
+/// read, and foreign changes are merged. Our own programs are kept out of the folder from the
+/// comparison to the end of the write. Lists of other programs are never written: the first
 /// change copies the list to one of the user's own.
 class PaletteEditor {
 public:
@@ -125,6 +126,11 @@ private:
     };
     enum class Occasion { first, again };
 
+    /// Begins a step that changes `id`, called `name`, by locking our own folder. If that fails,
+    /// returns null and reports it.
+    [[nodiscard]] std::shared_ptr<HostFolderLock> beginStep(PaletteId id,
+                                                            const std::u16string& name,
+                                                            EditOutcome& outcome);
     Record* recordOf(PaletteId id);
     PaletteId idOfPath(const std::string& path);
     void readIfChanged(Record& record);

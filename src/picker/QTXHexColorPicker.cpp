@@ -78,7 +78,7 @@ void QTXHexColorPicker::awakeFromNib()
     // The settings file has not been read yet, so this is always true here: the built-in lists are
     // looked up at every start, whatever the file contains.
     if (_hexSettings.createColorLists()) checkAndInstallColorLists(desktop.colorLists());
-    _isSettingsFileLoaded = initializeDefaults(desktop.files(), _hexSettings);
+    _isSettingsFileLoaded = initializeDefaults(desktop.files(), _hexSettings, _settingsMerge);
     buildColorListsPopup();
     syncListColorNames();
     syncPanel();

@@ -7,6 +7,7 @@
 #include "picker/PickerOutlets.h"
 #include "picker/QTXHexSettingsView.h"
 #include "settings/QTXHexSettings.h"
+#include "settings/SettingsMerge.h"
 #include "view/QTXHexColorsView.h"
 #include "view/QTXHexColorsViewOwner.h"
 
@@ -183,6 +184,7 @@ private:
     std::unique_ptr<QTXRGBDecimalEnterTextField> _rgbDecimalEnterTextField;
 
     QTXHexSettings _hexSettings;
+    SettingsMerge _settingsMerge;
     QTXHexColorSpec _hexColorSpec;
     bool _exactHexColorMatch = false;
     bool __holdOffSync = false;

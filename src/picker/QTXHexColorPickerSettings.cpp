@@ -17,7 +17,7 @@ void QTXHexColorPicker::storeDefaults()
     HostFiles& files = colorPanel().desktop().files();
     if (!_isSettingsFileLoaded && !keepDefaultsFile(files)) return;
     _isSettingsFileLoaded = true;
-    writeDefaults(files, _hexSettings);
+    writeDefaults(files, _hexSettings, _settingsMerge);
 }
 
 void QTXHexColorPicker::entryFormAction(HostControl* sender)

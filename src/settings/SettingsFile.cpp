@@ -1,6 +1,5 @@
 #include "settings/SettingsFile.h"
 
-#include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 #include "text/Unicode.h"
 
@@ -15,15 +14,6 @@ std::optional<std::string> defaultsFolderName(const HostFiles& files)
     auto folder = files.applicationSupportDirectory();
     if (folder) *folder += folderName;
     return folder;
-}
-
-/// Returns the dictionary in the bytes of a settings file, or `std::nullopt` if they are not valid.
-std::optional<PropertyList> dictionaryFromData(const std::string& bytes)
-{
-    if (bytes.size() > largestSettingsFile || !isWellFormedUtf8(bytes)) return std::nullopt;
-    auto parsed = parsePropertyList(utf16FromUtf8(bytes));
-    if (!parsed || parsed->dictionary() == nullptr) return std::nullopt;
-    return parsed;
 }
 
 }  // namespace
@@ -42,20 +32,34 @@ std::string settingsData(const QTXHexSettings& settings)
 
 bool readDefaults(const HostFiles& files, QTXHexSettings& settings)
 {
+    SettingsMerge merge;
+    return readDefaults(files, settings, merge);
+}
+
+bool readDefaults(const HostFiles& files, QTXHexSettings& settings, SettingsMerge& merge)
+{
     const auto path = hexColorPickerDefaultsFileName(files);
     if (!path) return true;
     const auto bytes = files.contentsAtPath(*path);
-    const auto dictionary = bytes ? dictionaryFromData(*bytes) : std::nullopt;
+    const auto dictionary = bytes ? settingsDictionary(*bytes) : std::nullopt;
     settings.loadPropertyListRepresentation(
         dictionary.value_or(PropertyList(PropertyList::Dictionary{})));
+    merge.noteRead(settings.propertyListRepresentation(), bytes);
     if (bytes) return dictionary.has_value() || bytes->empty();
     return files.kindAtPath(*path) == HostFileKind::none;
 }
 
-void writeDefaults(HostFiles& files, const QTXHexSettings& settings)
+void writeDefaults(HostFiles& files, const QTXHexSettings& settings, SettingsMerge& merge)
 {
+    const auto folder = defaultsFolderName(files);
     const auto path = hexColorPickerDefaultsFileName(files);
-    if (path) files.writeAtomically(*path, settingsData(settings));
+    const auto lock = folder ? files.lockFolder(*folder) : nullptr;
+    if (!path || !lock) return;
+    PropertyList mine = settings.propertyListRepresentation();
+    PropertyList merged = merge.merge(mine, files.contentsAtPath(*path));
+    std::string bytes = utf8FromUtf16(propertyListText(merged));
+    if (files.writeAtomically(*path, bytes))
+        merge.noteWritten(std::move(mine), std::move(merged), std::move(bytes));
 }
 
 bool keepDefaultsFile(HostFiles& files)
@@ -67,7 +71,7 @@ bool keepDefaultsFile(HostFiles& files)
     return bytes && files.writeAtomically(*path + "~", *bytes);
 }
 
-bool initializeDefaults(HostFiles& files, QTXHexSettings& settings)
+bool initializeDefaults(HostFiles& files, QTXHexSettings& settings, SettingsMerge& merge)
 {
     const auto folder = defaultsFolderName(files);
     const auto path = hexColorPickerDefaultsFileName(files);
@@ -76,10 +80,15 @@ bool initializeDefaults(HostFiles& files, QTXHexSettings& settings)
     if (!folderWasThere) files.createDirectory(*folder);
     if (files.kindAtPath(*folder) != HostFileKind::folder) return false;
     if (files.kindAtPath(*path) == HostFileKind::none) {
-        writeDefaults(files, settings);
-        return true;
+        const auto lock = files.lockFolder(*folder);
+        // Another process may have been quicker.
+        if (!lock || files.kindAtPath(*path) == HostFileKind::none) {
+            merge.noteRead(settings.propertyListRepresentation(), std::nullopt);
+            if (lock) writeDefaults(files, settings, merge);
+            return true;
+        }
     }
-    return folderWasThere && readDefaults(files, settings);
+    return folderWasThere && readDefaults(files, settings, merge);
 }
 
 }  // namespace vantorel

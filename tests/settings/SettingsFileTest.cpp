@@ -14,7 +14,8 @@ TEST(SettingsFileTest, TheFirstStartCreatesFolderAndFile)
 {
     MemoryFiles files;
     QTXHexSettings settings;
-    initializeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
     EXPECT_EQ(files.contentsAtPath(file), settingsData(settings));
     EXPECT_TRUE(settings.codeSnippets().empty()) << "a new file is not read back";
 }
@@ -25,7 +26,8 @@ TEST(SettingsFileTest, AnExistingFileIsLoaded)
     files.createDirectory(folder);
     files.writeAtomically(file, "{ NColorCubeRings = 5; }");
     QTXHexSettings settings;
-    initializeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
     EXPECT_EQ(settings.nColorCubeRings(), 5);
     EXPECT_EQ(files.contentsAtPath(file), "{ NColorCubeRings = 5; }");
 }
@@ -35,8 +37,9 @@ TEST(SettingsFileTest, AFileInPlaceOfTheFolderIsLeftAlone)
     MemoryFiles files;
     files.writeAtomically(folder, "in the way");
     QTXHexSettings settings;
-    initializeDefaults(files, settings);
-    writeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
+    writeDefaults(files, settings, merge);
     EXPECT_EQ(files.contentsAtPath(folder), "in the way");
     EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
 }
@@ -45,10 +48,11 @@ TEST(SettingsFileTest, WithoutADataFolderNoFileIsWritten)
 {
     MemoryFiles files(std::nullopt);
     QTXHexSettings settings;
+    SettingsMerge merge;
     EXPECT_EQ(hexColorPickerDefaultsFileName(files), std::nullopt);
-    initializeDefaults(files, settings);
+    initializeDefaults(files, settings, merge);
     readDefaults(files, settings);
-    writeDefaults(files, settings);
+    writeDefaults(files, settings, merge);
     EXPECT_TRUE(files.allPaths().empty());
 }
 
@@ -57,7 +61,8 @@ TEST(SettingsFileTest, FailingWritesAreIgnored)
     MemoryFiles files;
     files.failWrites(true);
     QTXHexSettings settings;
-    initializeDefaults(files, settings);
+    SettingsMerge merge;
+    initializeDefaults(files, settings, merge);
     EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
 }
 

@@ -44,6 +44,10 @@ public:
     {
         return fails() ? HostFileCreation::failed : MemoryFiles::createAtomically(path, bytes);
     }
+    [[nodiscard]] std::shared_ptr<HostFolderLock> lockFolder(const std::string& folder) override
+    {
+        return fails() ? nullptr : MemoryFiles::lockFolder(folder);
+    }
 
 private:
     bool fails() const { return ++_calls == _failing; }

@@ -10,6 +10,8 @@ import tempfile
 import unittest
 
 NEW_FILE_PREFIX = ".vantorel-"
+# Unlike other temporary files it may be left: the next writer uses and removes it.
+LOCK_FILE = ".vantorel-lock"
 NEVER = "no such call"
 
 
@@ -69,7 +71,7 @@ class Home:
                 if os.path.isfile(self.at(name)) and NEW_FILE_PREFIX not in name}
 
     def new_files(self):
-        return [name for name in self.names() if NEW_FILE_PREFIX in name]
+        return [name for name in self.names() if NEW_FILE_PREFIX in name and not name.endswith(LOCK_FILE)]
 
     def environment(self, **more):
         kept = {name: value for name, value in os.environ.items() if name.startswith(("ASAN_", "UBSAN_", "LSAN_", "QT_"))}

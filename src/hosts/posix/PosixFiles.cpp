@@ -1,6 +1,7 @@
 #include "hosts/posix/PosixFiles.h"
 
 #include "hosts/posix/AtomicWrite.h"
+#include "hosts/posix/FolderLock.h"
 #include "hosts/posix/SystemCalls.h"
 #include "hosts/posix/UserDirectories.h"
 
@@ -147,7 +148,11 @@ std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) c
         if (!isMissing(errno)) reportFailure(path, Access::reading, errno);
         return std::nullopt;
     }
-    if (!S_ISREG(status.st_mode)) return std::nullopt;
+    if (!S_ISREG(status.st_mode)) {
+        // Reading a pipe or a device may never end. Folders are no surprise beside palettes.
+        if (!S_ISDIR(status.st_mode)) reportSpecialFile(path);
+        return std::nullopt;
+    }
     if (static_cast<std::uint64_t>(status.st_size) > largestFile) {
         reportFailure(path, Access::reading, EFBIG);
         return std::nullopt;
@@ -186,11 +191,34 @@ bool PosixFiles::writeForOthers(const std::string& path, const std::string& byte
     return write(path, bytes, {.readers = AtomicWrite::Readers::usual}) == 0;
 }
 
+std::shared_ptr<HostFolderLock> PosixFiles::lockFolder(const std::string& folder)
+{
+    std::weak_ptr<HostFolderLock>& held = _locks[folder];
+    if (auto lock = held.lock()) return lock;
+    auto [lock, error] = FolderLock::take(folder);
+    if (error == ETIMEDOUT && _handleFailure) {
+        _handleFailure(Access::writing,
+                       {phrase("another program is still changing files in \"%1\"", folder),
+                        phrase("try again when it has finished")});
+    } else if (!lock) {
+        reportFailure(folder, Access::writing, error);
+    }
+    held = lock;
+    return lock;
+}
+
 int PosixFiles::write(const std::string& path, const std::string& bytes, AtomicWrite manner)
 {
     const int error = _writer.write(path, bytes, manner);
     if (error != 0 && error != EEXIST) reportFailure(path, Access::writing, error);
     return error;
+}
+
+void PosixFiles::reportSpecialFile(const std::string& path) const
+{
+    if (!_handleFailure || !_reportedUnreadable.insert(path).second) return;
+    _handleFailure(Access::reading,
+                   {phrase("\"%1\" cannot be read: it is not a regular file", path)});
 }
 
 void PosixFiles::reportFailure(const std::string& path, Access access, int error) const

@@ -5,6 +5,7 @@
 #include "result/Message.h"
 
 #include <functional>
+#include <map>
 #include <set>
 
 namespace vantorel {
@@ -37,6 +38,8 @@ public:
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
     HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
     bool writeForOthers(const std::string& path, const std::string& bytes) override;
+    /// By a `FolderLock`.
+    [[nodiscard]] std::shared_ptr<HostFolderLock> lockFolder(const std::string& folder) override;
 
     enum class Access { reading, writing };
     /// Called when a file or folder exists but cannot be read, once for each path, and whenever one
@@ -47,6 +50,8 @@ public:
 
 private:
     int write(const std::string& path, const std::string& bytes, AtomicWrite manner);
+    /// A pipe, a socket or a device.
+    void reportSpecialFile(const std::string& path) const;
     void reportFailure(const std::string& path, Access access, int error) const;
 
     HostBaseDirectories _baseDirectories;
@@ -54,6 +59,9 @@ private:
     FailureHandler _handleFailure;
     mutable std::set<std::string> _reportedUnreadable;
     AtomicWriter _writer;
+    /// The locks that are held. They exclude each other even within a process, so a folder that is
+    /// locked again shares the first lock.
+    std::map<std::string, std::weak_ptr<HostFolderLock>> _locks;
 };
 
 }  // namespace vantorel

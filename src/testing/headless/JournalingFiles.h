@@ -61,6 +61,10 @@ public:
     {
         return _files->writeForOthers(path, bytes);
     }
+    [[nodiscard]] std::shared_ptr<HostFolderLock> lockFolder(const std::string& folder) override
+    {
+        return _files->lockFolder(folder);
+    }
 
 private:
     std::unique_ptr<HostFiles> _files;

@@ -52,14 +52,15 @@ public:
     void writeSettings(int rings)
     {
         QTXHexSettings settings;
+        SettingsMerge merge;
         // As the picker does it.
-        const bool isTakenIn = initializeDefaults(_files, settings);
+        const bool isTakenIn = initializeDefaults(_files, settings, merge);
         if (settings.codeSnippets().empty()) {
             settings.setCodeSnippets(QTXCodeSnippet::buildDefaultCodeSnippets());
             settings.setCodeSnippetName(settings.codeSnippets().front().nameSnippet());
         }
         settings.setNColorCubeRings(rings);
-        if (isTakenIn || keepDefaultsFile(_files)) writeDefaults(_files, settings);
+        if (isTakenIn || keepDefaultsFile(_files)) writeDefaults(_files, settings, merge);
     }
     void refresh() { static_cast<void>(_editor->refresh()); }
 

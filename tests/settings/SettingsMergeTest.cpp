@@ -1,0 +1,129 @@
+#include "settings/SettingsFile.h"
+#include "testing/headless/MemoryFiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+/// Several processes that write one settings file.
+namespace vantorel {
+namespace {
+
+using testing::ElementsAre;
+
+/// The settings of one process.
+struct SettingsProcess {
+    explicit SettingsProcess(HostFiles& usersFiles) : files(usersFiles)
+    {
+        initializeDefaults(files, settings, merge);
+    }
+    void write() { writeDefaults(files, settings, merge); }
+
+    HostFiles& files;
+    QTXHexSettings settings;
+    SettingsMerge merge;
+};
+
+class SettingsMergeTest : public testing::Test {
+protected:
+    SettingsMergeTest() { SettingsProcess first(_files); }
+
+    [[nodiscard]] QTXHexSettings stored() const
+    {
+        QTXHexSettings settings;
+        readDefaults(_files, settings);
+        return settings;
+    }
+
+    MemoryFiles _files;
+};
+
+TEST_F(SettingsMergeTest, AProcessThatIsAloneWritesItsSettings)
+{
+    _files.writeAtomically(*hexColorPickerDefaultsFileName(_files),
+                           "{ EntryForm = odd; Unknown = 1; }");
+    SettingsProcess only(_files);
+    only.settings.setNColorCubeRings(7);
+    only.write();
+    EXPECT_EQ(_files.contentsAtPath(*hexColorPickerDefaultsFileName(_files)),
+              settingsData(only.settings));
+}
+
+TEST_F(SettingsMergeTest, ChangesOfDifferentKeysAreAllKept)
+{
+    SettingsProcess one(_files);
+    SettingsProcess two(_files);
+    one.settings.setNColorCubeRings(7);
+    one.write();
+    two.settings.setEntryForm(EntryForm::lowercase);
+    two.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 7);
+    EXPECT_EQ(stored().entryForm(), EntryForm::lowercase);
+    EXPECT_NE(two.settings.nColorCubeRings(), 7) << "no control changes under the user's hand";
+    two.settings.setUsePoundSign(!two.settings.usePoundSign());
+    two.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 7) << "nor is it lost with the next change";
+}
+
+TEST_F(SettingsMergeTest, TheLastChangeOfAKeyWins)
+{
+    SettingsProcess one(_files);
+    SettingsProcess two(_files);
+    one.settings.setNColorCubeRings(7);
+    one.write();
+    two.settings.setNColorCubeRings(9);
+    two.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 9);
+    one.settings.setNColorCubeRings(8);
+    one.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 8);
+}
+
+TEST_F(SettingsMergeTest, AddedAndRemovedListsDoNotExcludeEachOther)
+{
+    SettingsProcess start(_files);
+    start.settings.activeColorLists() = {u"A", u"B"};
+    start.write();
+    SettingsProcess one(_files);
+    SettingsProcess two(_files);
+    one.settings.activeColorLists() = {u"A", u"B", u"One"};
+    one.write();
+    two.settings.activeColorLists() = {u"B", u"Two"};
+    two.write();
+    EXPECT_THAT(stored().activeColorLists(), ElementsAre(u"B", u"One", u"Two"));
+    two.settings.activeColorLists() = {u"B", u"Two", u"Three"};
+    two.write();
+    EXPECT_THAT(stored().activeColorLists(), ElementsAre(u"B", u"One", u"Two", u"Three"));
+}
+
+TEST_F(SettingsMergeTest, SomeListStaysActive)
+{
+    SettingsProcess start(_files);
+    start.settings.activeColorLists() = {u"A", u"B"};
+    start.write();
+    SettingsProcess one(_files);
+    SettingsProcess two(_files);
+    one.settings.activeColorLists() = {u"A"};
+    one.write();
+    two.settings.activeColorLists() = {u"B"};
+    two.write();
+    EXPECT_THAT(stored().activeColorLists(), ElementsAre(u"B"));
+}
+
+TEST_F(SettingsMergeTest, ADamagedOrRemovedFileIsReplaced)
+{
+    const std::string path = *hexColorPickerDefaultsFileName(_files);
+    for (const char* damaged : {"{", "", "(a)", "\xFF"}) {
+        SettingsProcess one(_files);
+        _files.writeAtomically(path, damaged);
+        one.settings.setNColorCubeRings(7);
+        one.write();
+        EXPECT_EQ(_files.contentsAtPath(path), settingsData(one.settings)) << damaged;
+    }
+    SettingsProcess one(_files);
+    _files.remove(path);
+    one.write();
+    EXPECT_EQ(_files.contentsAtPath(path), settingsData(one.settings));
+}
+
+}  // namespace
+}  // namespace vantorel
