@@ -2,7 +2,9 @@
 
 #include "hosts/qt/QtMessages.h"
 #include "panel/Output.h"
+#include "panel/TerminationSignals.h"
 #include "panel/bus/ServiceLifetime.h"
+#include "panel/window/PanelMemoryKeeper.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -20,8 +22,7 @@ int report(const PanelOrder& order, const PanelAnswer& answer)
         if (kind == Kind::cancelled) return cancelled;
         return kind == Kind::notPossible ? notPossible : usageError;
     }
-    if (order.step != PanelOrder::Step::show) print(stdout, *answer + u'\n');
-    return succeeded;
+    return order.step != PanelOrder::Step::show ? printResult(*answer + u'\n') : succeeded;
 }
 
 }  // namespace
@@ -79,8 +80,7 @@ int OnePanel::run()
     }
     Panel panel(_options, _environment.userData());
     PanelWindow& window = panel.window();
-    const PanelMemory recalled = readPanelMemory();
-    window.recall(recalled);
+    PanelMemoryKeeper memory(window);
     panel.apply(_options);
 
     PanelRequests requests(window);
@@ -91,15 +91,15 @@ int OnePanel::run()
     };
     QObject::connect(&service, &PanelService::unreachable, &window, warn);
     if (const auto status = takeName(service)) return *status;
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received, &QApplication::quit);
+    memory.keep();
     if (const Status status = RunningPanel::statusAfter(_contact); !status) warn(status.error());
 
     const int status = _order.step != PanelOrder::Step::show ? runForOrder(requests)
                        : _options.service                    ? runForCalls(service, requests)
                                                              : runForUser(window);
-    PanelMemory memory = window.memory();
-    // A window that was never shown has no position.
-    if (!window.testAttribute(Qt::WA_WState_Created)) memory.geometry = recalled.geometry;
-    writePanelMemory(memory);
+    memory.save();
     return status;
 }
 

@@ -23,6 +23,10 @@ enum ExitStatus : int {
 /// it.
 void print(std::FILE* stream, const QString& text);
 
+/// Writes a result that a caller waits for to standard output. Returns `succeeded`, or `failed`
+/// after a message if it cannot be written.
+[[nodiscard]] ExitStatus printResult(const QString& text);
+
 /// Writes a sentence to standard error, after the program's name.
 void printProblem(const QString& sentence);
 /// Writes a message in English to standard error, after the program's name.

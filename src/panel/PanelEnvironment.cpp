@@ -1,9 +1,9 @@
 #include "panel/PanelEnvironment.h"
 
 #include "hosts/posix/PosixFiles.h"
+#include "panel/window/PanelMemory.h"
 
 #include <QFile>
-#include <QSettings>
 
 namespace vantorel {
 
@@ -13,7 +13,7 @@ PanelEnvironment::PanelEnvironment(const PanelOptions& options)
         qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
         // The configuration folder is not replaced: it also leads to the palettes of other
         // programs.
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, *options.dataFolder);
+        setPanelMemoryFolder(*options.dataFolder);
     }
     _userData = PosixFiles().applicationSupportDirectory().value_or("");
     if (options.screenshot) hideUser(options);

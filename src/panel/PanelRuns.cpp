@@ -25,8 +25,8 @@ int takePicture(Panel& panel, const PanelOptions& options)
 int letUserChoose(Panel& panel, const PanelOptions& options)
 {
     PanelWindow& window = panel.window();
-    PanelMemory memory = readPanelMemory();
-    window.recall(memory);
+    const PanelMemory recalled = readPanelMemory();
+    window.recall(recalled);
     const ColorChoice choice(window);
     panel.apply(options);
     window.show();
@@ -34,10 +34,10 @@ int letUserChoose(Panel& panel, const PanelOptions& options)
     if (!choice.text()) return cancelled;
     // The window was opened to choose one colour, so only the colour is saved in the panel's
     // memory.
+    PanelMemory memory = recalled;
     memory.recent = window.colors().recent();
-    writePanelMemory(memory);
-    print(stdout, *choice.text() + u'\n');
-    return succeeded;
+    changePanelMemory(recalled, memory);
+    return printResult(*choice.text() + u'\n');
 }
 
 }  // namespace vantorel

@@ -13,7 +13,8 @@ int main(int argc, char** argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     const PanelCommandLine commandLine = readCommandLine(arguments);
     if (commandLine.exitStatus) {
-        print(*commandLine.exitStatus == succeeded ? stdout : stderr, commandLine.message);
+        if (*commandLine.exitStatus == succeeded) return printResult(commandLine.message);
+        print(stderr, commandLine.message);
         return *commandLine.exitStatus;
     }
     const PanelOptions& options = commandLine.options;

@@ -190,7 +190,16 @@ PluginSearch loadPlugins(const std::vector<std::string>& folders,
             load(file, search);
     }
     for (const std::string& file : files) {
-        load(fs::absolute(file).string(), search);
+        // Fails for a relative path if the working folder has been removed.
+        std::error_code error;
+        const fs::path path = fs::absolute(file, error);
+        if (error) {
+            search.problems.push_back(
+                leftOut(file, {phrase("the working folder cannot be read: %1", error.message()),
+                               phrase("use the absolute path of the plug-in")}));
+        } else {
+            load(path.string(), search);
+        }
     }
     return search;
 }

@@ -46,7 +46,8 @@ export DISPLAY
 # start_panel OPTION...: sets `panel_id` and `window`; the page is 260 by 340.
 start_panel() {
     # Palettes of other programs on the machine must not affect the tests.
-    env XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine" \
+    # Shells let programs in the background ignore SIGINT.
+    env --default-signal=INT XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine" \
         "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
     # shellcheck disable=SC2034  # for the tests that stop it
     panel_id=$!

@@ -118,5 +118,18 @@ TEST(PluginLoaderTest, OurOwnFolderIsSearchedBeforeTheUsers)
     EXPECT_EQ(pluginFolders("/opt/x/bin", "").size(), 1U);
 }
 
+TEST(PluginLoaderTest, ARelativePathInARemovedFolderIsReported)
+{
+    const auto usual = std::filesystem::current_path();
+    {
+        const ScratchFolder removed;
+        std::filesystem::current_path(removed.path());
+    }
+    const PluginSearch search = loadPlugins({}, {"relative.so"});
+    std::filesystem::current_path(usual);
+    ASSERT_EQ(search.problems.size(), 1U);
+    EXPECT_THAT(english(search.problems.front()), HasSubstr("relative.so"));
+}
+
 }  // namespace
 }  // namespace vantorel

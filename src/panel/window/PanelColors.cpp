@@ -44,10 +44,14 @@ void PanelColors::swap()
     setColor(background);
 }
 
-void PanelColors::setRecent(const std::vector<HostColor>& colors)
+void PanelColors::startWith(const HostColor& color, const std::vector<HostColor>& recent)
 {
-    _history.setRecent(colors);
+    _color = color;
+    _history = ColorHistory(color);
+    _history.setRecent(recent);
     emit historyChanged();
+    emit colorSet(color);
+    emit colorChanged(color);
 }
 
 void PanelColors::rememberColor()

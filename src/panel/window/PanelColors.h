@@ -21,7 +21,9 @@ public:
     [[nodiscard]] bool canRedo() const { return _history.canRedo(); }
     /// Each colour once, the newest first.
     [[nodiscard]] const std::vector<HostColor>& recent() const { return _history.recent(); }
-    void setRecent(const std::vector<HostColor>& colors);
+    /// Starts anew with a colour and the recent colours of an earlier start. There is nothing to
+    /// undo, and the colour until now, which nobody has chosen, does not become a recent one.
+    void startWith(const HostColor& color, const std::vector<HostColor>& recent);
     /// Makes the colour the most recent one, because it was used.
     void rememberColor();
     /// Removes the last change from the history, as if the colour had not changed.

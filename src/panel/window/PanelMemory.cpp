@@ -2,6 +2,7 @@
 
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/window/ColorHistory.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 #include "result/Message.h"
@@ -9,6 +10,7 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <cstdio>
@@ -28,18 +30,19 @@ constexpr const char16_t* onTopKey = u"StaysOnTop";
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
 
-/// The settings that older panels wrote. They are read only: QSettings leaves a file behind when
-/// the panel is killed while it writes, and lets everybody read what it makes.
-QSettings olderMemory()
+QString& configurationFolder()
 {
-    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Vantorel"),
-            QStringLiteral("panel")};
+    static QString folder;
+    return folder;
 }
 
 std::string memoryFolder()
 {
-    const std::string path = QFile::encodeName(olderMemory().fileName()).toStdString();
-    return path.substr(0, path.rfind('/'));
+    const QString folder =
+        configurationFolder().isEmpty()
+            ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+            : configurationFolder();
+    return QFile::encodeName(folder + QStringLiteral("/Vantorel")).toStdString();
 }
 
 std::string memoryPath(const std::string& folder)
@@ -119,30 +122,129 @@ PropertyList propertyListFrom(const PanelMemory& memory)
     };
 }
 
-}  // namespace
-
-PanelMemory readPanelMemory()
+/// Reads the settings that older panels wrote. They are never written: QSettings leaves a file
+/// behind when the panel is killed while it writes, and lets everybody read what it makes.
+PanelMemory readOlderMemory(const PosixFiles& files, const std::string& folder)
 {
-    const std::string folder = memoryFolder();
-    const PosixFiles files(folder);
+    const std::string path = folder + "/panel.ini";
+    // QSettings would wait for a pipe.
+    if (!files.contentsAtPath(path)) return {};
+    return memoryFrom(QSettings(QFile::decodeName(path.c_str()), QSettings::IniFormat));
+}
+
+PanelMemory readMemory(const PosixFiles& files, const std::string& folder)
+{
     const std::string path = memoryPath(folder);
-    if (files.kindAtPath(path) == HostFileKind::none) return memoryFrom(olderMemory());
+    if (files.kindAtPath(path) == HostFileKind::none) return readOlderMemory(files, folder);
     const auto bytes = files.contentsAtPath(path);
     if (!bytes || bytes->size() > largestMemory || !isWellFormedUtf8(*bytes)) return {};
     return memoryFrom(parsePropertyList(utf16FromUtf8(*bytes)).value_or(PropertyList()));
 }
 
-bool writePanelMemory(const PanelMemory& memory)
+bool writeMemory(PosixFiles& files, const std::string& folder, const PanelMemory& memory)
+{
+    return files.writeAtomically(memoryPath(folder),
+                                 utf8FromUtf16(propertyListText(propertyListFrom(memory))));
+}
+
+void complain(const Message& message)
+{
+    static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s\n", english(message).c_str()));
+}
+
+/// Calls `write` while no other panel can write. Returns its result, or false if the lock cannot be
+/// had.
+template <class Write>
+bool underLock(Write&& write)
 {
     const std::string folder = memoryFolder();
     PosixFiles files(folder);
-    files.setFailureHandler([](auto, const Message& message) {
-        static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s\n", english(message).c_str()));
+    files.setFailureHandler([](auto access, const Message& message) {
+        // It was reported when it was read at the start.
+        if (access == PosixFiles::Access::writing) complain(message);
     });
     // Makes it, for the user alone.
     static_cast<void>(files.applicationSupportDirectory());
-    return files.writeAtomically(memoryPath(folder),
-                                 utf8FromUtf16(propertyListText(propertyListFrom(memory))));
+    const auto lock = files.lockFolder(folder);
+    return lock && write(files, folder);
+}
+
+template <class Value>
+Value mergedValue(const Value& base, const Value& mine, const Value& theirs)
+{
+    return mine == base ? theirs : mine;
+}
+
+/// The newest first: what this panel has used since, then what others have.
+std::vector<HostColor> mergedRecent(const std::vector<HostColor>& base,
+                                    const std::vector<HostColor>& mine,
+                                    const std::vector<HostColor>& theirs)
+{
+    if (mine == base) return theirs;
+    if (theirs == base) return mine;
+    const auto holds = [](const std::vector<HostColor>& colors, const HostColor& color) {
+        return std::find(colors.begin(), colors.end(), color) != colors.end();
+    };
+    std::vector<HostColor> result;
+    for (const HostColor& color : mine) {
+        if (!holds(base, color)) result.push_back(color);
+    }
+    for (const std::vector<HostColor>* colors : {&theirs, &mine}) {
+        for (const HostColor& color : *colors) {
+            if (!holds(result, color)) result.push_back(color);
+        }
+    }
+    if (result.size() > ColorHistory::mostRecent)
+        result.erase(result.begin() + ColorHistory::mostRecent, result.end());
+    return result;
+}
+
+/// Colours of the file are a little coarser, and must not look like other colours for that.
+PanelMemory asStored(const PanelMemory& memory)
+{
+    return memoryFrom(propertyListFrom(memory));
+}
+
+PanelMemory merged(const PanelMemory& base, const PanelMemory& mine, const PanelMemory& theirs)
+{
+    PanelMemory result;
+    result.geometry = mergedValue(base.geometry, mine.geometry, theirs.geometry);
+    result.page = mergedValue(base.page, mine.page, theirs.page);
+    result.onTop = mergedValue(base.onTop, mine.onTop, theirs.onTop);
+    result.color = mergedValue(base.color, mine.color, theirs.color);
+    result.background = mergedValue(base.background, mine.background, theirs.background);
+    result.recent = mergedRecent(base.recent, mine.recent, theirs.recent);
+    return result;
+}
+
+}  // namespace
+
+void setPanelMemoryFolder(const QString& path)
+{
+    configurationFolder() = path;
+}
+
+PanelMemory readPanelMemory()
+{
+    const std::string folder = memoryFolder();
+    PosixFiles files(folder);
+    files.setFailureHandler([](auto, const Message& message) { complain(message); });
+    return readMemory(files, folder);
+}
+
+bool writePanelMemory(const PanelMemory& memory)
+{
+    return underLock([&](PosixFiles& files, const std::string& folder) {
+        return writeMemory(files, folder, memory);
+    });
+}
+
+bool changePanelMemory(const PanelMemory& base, const PanelMemory& memory)
+{
+    return underLock([&](PosixFiles& files, const std::string& folder) {
+        return writeMemory(files, folder,
+                           merged(asStored(base), asStored(memory), readMemory(files, folder)));
+    });
 }
 
 }  // namespace vantorel

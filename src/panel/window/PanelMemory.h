@@ -19,7 +19,12 @@ struct PanelMemory {
     HostColor color = HostColor::whiteColor();
     HostColor background = HostColor::whiteColor();
     std::vector<HostColor> recent;
+
+    bool operator==(const PanelMemory&) const = default;
 };
+
+/// Sets the folder that takes the place of the user's configuration for the memory.
+void setPanelMemoryFolder(const QString& path);
 
 /// Reads `Vantorel/Panel.plist` in the folder of the user's configuration, or `Vantorel/panel.ini`,
 /// in which older panels kept the same, if there is no such file. What is missing or damaged there
@@ -28,5 +33,9 @@ struct PanelMemory {
 /// Replaces the whole file at once. Returns false if it could not be written, after a line on
 /// standard error; the previous file is then still there.
 bool writePanelMemory(const PanelMemory& memory);
+/// Changes what differs between `memory` and `base`, which this process has read or written before.
+/// Everything else keeps the value that another panel may have given it since, and no panel's last
+/// colours are lost.
+bool changePanelMemory(const PanelMemory& base, const PanelMemory& memory);
 
 }  // namespace vantorel

@@ -236,17 +236,18 @@ void PanelWindow::recall(const PanelMemory& memory)
 {
     if (!memory.geometry.isEmpty()) restoreGeometry(memory.geometry);
     _pages.showRemembered(memory.page);
-    _colors.setRecent(memory.recent);
     _colors.setBackground(memory.background);
-    _colors.setColor(memory.color);
+    _colors.startWith(memory.color, memory.recent);
     _commands.stayOnTop().setChecked(memory.onTop);
     layOut();
 }
 
-PanelMemory PanelWindow::memory() const
+PanelMemory PanelWindow::memory(Place place) const
 {
     PanelMemory memory;
-    memory.geometry = saveGeometry();
+    // A window that was never shown has no place of its own.
+    if (place == Place::included && testAttribute(Qt::WA_WState_Created))
+        memory.geometry = saveGeometry();
     if (const PanelPage* page = _pages.current()) memory.page = page->identifier();
     memory.onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
     memory.color = _colors.color();

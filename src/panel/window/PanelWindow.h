@@ -50,7 +50,9 @@ public:
     // The state that is kept between starts.
 
     void recall(const PanelMemory& memory);
-    [[nodiscard]] PanelMemory memory() const;
+    enum class Place { included, leftOut };
+    /// The geometry is empty if it is left out, and if the window has never been shown.
+    [[nodiscard]] PanelMemory memory(Place place = Place::included) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
