@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HostBezierPath.h"
 #include "host/HostCanvas.h"
 #include "host/HostColor.h"
 #include "host/HostEvent.h"
@@ -31,6 +32,13 @@ private:
     Action _action;
 };
 
+/// What a field's action does with a text.
+enum class HostEntryFit {
+    fits,        ///< it reads the text as it is meant
+    doesNotFit,  ///< it reports an error, or reads something else into the text
+    isIgnored,   ///< it does nothing
+};
+
 /// A line of text, editable or not. The action is sent when the user ends the entry (Return).
 class HostTextField : public HostControl {
 public:
@@ -49,8 +57,37 @@ public:
         if (_textDidChange) _textDidChange();
     }
 
+    /// Sets the function that returns what the action would do with a text. It is called when an
+    /// entry ends, so that a desktop can use a text that is not meant for the field in another way.
+    using FitFunction = std::function<HostEntryFit(const std::u16string& text)>;
+    void setEntryFit(FitFunction function) { _entryFit = std::move(function); }
+    [[nodiscard]] HostEntryFit entryFit(const std::u16string& text) const
+    {
+        return _entryFit ? _entryFit(text) : HostEntryFit::fits;
+    }
+
+    /// Sets the function that makes the field's value larger by `steps`, or smaller if negative.
+    /// Desktops call it for the Up and Down keys and for the mouse wheel.
+    using StepFunction = std::function<void(int steps, std::uint64_t modifierFlags)>;
+    void setStep(StepFunction function)
+    {
+        _step = std::move(function);
+        stepDidChange();
+    }
+    [[nodiscard]] bool canStep() const { return _step != nullptr; }
+    void sendStep(int steps, std::uint64_t modifierFlags)
+    {
+        if (_step) _step(steps, modifierFlags);
+    }
+
+protected:
+    /// Called when the field can step, or no longer can.
+    virtual void stepDidChange() {}
+
 private:
     std::function<void()> _textDidChange;
+    FitFunction _entryFit;
+    StepFunction _step;
 };
 
 /// The insertion point or selection of the text field that is being edited, in UTF-16 units.
@@ -143,7 +180,8 @@ private:
     std::function<void()> _willPopUp;
 };
 
-/// The drawing and mouse handling of a custom view. The picker implements it; the desktop calls it.
+/// The drawing, mouse and key handling of a custom view. The picker implements it; the desktop
+/// calls it.
 class HostViewContent {
 public:
     virtual ~HostViewContent() = default;
@@ -155,6 +193,18 @@ public:
     virtual void mouseMoved(const HostEvent&) {}
     virtual void mouseEntered(const HostEvent&) {}
     virtual void mouseExited(const HostEvent&) {}
+    /// Returns whether the content has used the event.
+    virtual bool scrollWheel(const HostScrollEvent&) { return false; }
+
+    /// Returns whether the view takes the keyboard focus. The same for the content's whole life;
+    /// the functions below are called only if it is true.
+    [[nodiscard]] virtual bool takesKeys() const { return false; }
+    virtual void keyFocusDidChange(bool) {}
+    /// Returns whether the content has used the key.
+    virtual bool keyDown(const HostKeyEvent&) { return false; }
+    /// Returns the outline of the cell that the keys have reached, in the view's coordinates; empty
+    /// if there is none. While the focus is shown, the desktop draws it on top of the content.
+    [[nodiscard]] virtual HostBezierPath keyOutline() const { return {}; }
 };
 
 /// A view painted by a `HostViewContent`, which must outlive it. `mouseEntered` and `mouseExited`

@@ -27,6 +27,34 @@ inline constexpr std::uint64_t commandModifierFlag = 0x100000;
     return 1U << static_cast<std::uint32_t>(type);
 }
 
+/// The keys of a view whose cells are chosen by keyboard.
+enum class HostKey {
+    left,
+    right,
+    up,
+    down,
+    home,
+    end,
+    pageUp,
+    pageDown,
+    /// Return, Enter or Space.
+    pick,
+};
+
+struct HostKeyEvent {
+    HostKey key = HostKey::pick;
+    std::uint64_t modifierFlags = 0;
+};
+
+/// A turn of the mouse wheel.
+struct HostScrollEvent {
+    /// The pointer's location in the coordinates of the view that receives the event.
+    HostPoint location;
+    /// Positive when turned away from the user.
+    int steps = 0;
+    std::uint64_t modifierFlags = 0;
+};
+
 /// A mouse event.
 struct HostEvent {
     HostEventType type = HostEventType::leftMouseDown;

@@ -30,6 +30,8 @@ struct HostControlDescription {
 
     /// Text fields only: if false, the field is a label.
     bool editable = true;
+    /// Editable text fields only: whether the user can select and copy the text, but not change it.
+    bool readOnly = false;
     /// Text fields only: whether all digits have the same width.
     bool monospaced = false;
 

@@ -81,6 +81,13 @@ void HostView::removeFromSuperview()
     hierarchyDidChange();
 }
 
+void HostView::setParked(bool flag)
+{
+    if (flag == _isParked) return;
+    _isParked = flag;
+    parkedDidChange();
+}
+
 void HostView::setToolTip(std::optional<std::u16string> text)
 {
     if (text == _toolTip) return;

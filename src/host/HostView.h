@@ -67,6 +67,14 @@ public:
     [[nodiscard]] HostResizing resizing() const { return _resizing; }
     void setResizing(HostResizing resizing) { _resizing = resizing; }
 
+    /// Parks the view or brings it back. A page that has no use for a control just now moves it far
+    /// away. Where "far away" ends up depends on the size of the page: what lies outside a small
+    /// page can lie in the middle of a wide one. So a page also parks such a view. A parked view
+    /// keeps its frame and stays in the tree, but desktops neither show it nor let it take clicks,
+    /// the focus or the attention of assistive technology, whatever its frame.
+    void setParked(bool flag);
+    [[nodiscard]] bool isParked() const { return _isParked; }
+
     /// Pass `std::nullopt` to remove the tool tip.
     void setToolTip(std::optional<std::u16string> text);
     [[nodiscard]] const std::optional<std::u16string>& toolTip() const { return _toolTip; }
@@ -95,6 +103,7 @@ protected:
     virtual void boundsDidChange() {}
     /// Called when the superview has changed; it may be null.
     virtual void hierarchyDidChange() {}
+    virtual void parkedDidChange() {}
     virtual void toolTipDidChange() {}
     /// Called when `rect`, in the view's own coordinates, must be redrawn.
     virtual void displayDidBecomeNeeded(HostRect rect);
@@ -112,6 +121,7 @@ private:
     HostResizing _resizing;
     std::optional<std::u16string> _toolTip;
     AccessibleDescription _accessibleDescription;
+    bool _isParked = false;
     bool _needsDisplay = true;
 };
 
