@@ -126,6 +126,7 @@ public:
         description.title = string(value, u"Title");
         description.toolTip = string(value, u"ToolTip");
         description.accessibleName = string(value, u"AccessibleName");
+        description.readOnly = text(value, u"ReadOnly") == "YES";
         description.monospaced = text(value, u"Monospaced") == "YES";
         item.action = text(value, u"Action");
         item.image = text(value, u"Image");

@@ -32,7 +32,7 @@
 /// CheckBox, ToggleButton, or one of the picker's own classes: QTXHexColorsView,
 /// QTXHexSettingsView, QTXHexEnterTextField, QTXRGBDecimalEnterTextField. Further keys: `Title`,
 /// `Image` (a resource `NAME.svg`), `FontSize` (points), `Alignment` (Left, Center, Right),
-/// `Monospaced` (YES).
+/// `Monospaced` (YES), `ReadOnly` (YES).
 namespace vantorel {
 
 struct InterfaceItem {

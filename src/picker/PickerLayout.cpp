@@ -26,6 +26,8 @@ void layOutComponents(MainFaceFrames& frames, const MainFaceInput& input)
         frames.snippet.x = r.x;
         frames.snippet.width = r.width;
         frames.snippet.y = r.y - frames.snippet.height - 2;
+        frames.componentsParked = true;
+        frames.snippetParked = false;
         return;
     }
     // Centred below the two digit columns of each component.
@@ -33,14 +35,18 @@ void layOutComponents(MainFaceFrames& frames, const MainFaceInput& input)
     frames.green.x = r.x + r.width / 2 - frames.blue.width / 2;
     frames.blue.x = r.x + r.width - r.width * 2.5 / 15 - frames.blue.width / 2;
     frames.snippet.x = leftOutOfSight;
+    frames.componentsParked = false;
+    frames.snippetParked = true;
 }
 
-void layOutColorName(HostRect& name, const MainFaceInput& input)
+void layOutColorName(MainFaceFrames& frames, const MainFaceInput& input)
 {
     constexpr double margin = 15;
     constexpr double widest = 300;
     constexpr double narrowest = 50;
+    HostRect& name = frames.colorName;
     const double room = input.panel.width - margin - name.x;
+    frames.colorNameParked = !(room > narrowest);
     if (room > widest) {
         name.width = widest;
         name.y = input.colorsListPopUp.y;
@@ -52,9 +58,11 @@ void layOutColorName(HostRect& name, const MainFaceInput& input)
     }
 }
 
-void layOutRgbDecimal(HostRect& rgb, const MainFaceInput& input)
+void layOutRgbDecimal(MainFaceFrames& frames, const MainFaceInput& input)
 {
-    if (input.panel.width < 200) {
+    HostRect& rgb = frames.rgbDecimal;
+    frames.rgbDecimalParked = input.panel.width < 200;
+    if (frames.rgbDecimalParked) {
         rgb.x = -200;
         return;
     }
@@ -68,8 +76,8 @@ MainFaceFrames mainFaceLayout(const MainFaceInput& input)
 {
     MainFaceFrames frames = input.current;
     layOutComponents(frames, input);
-    layOutColorName(frames.colorName, input);
-    layOutRgbDecimal(frames.rgbDecimal, input);
+    layOutColorName(frames, input);
+    layOutRgbDecimal(frames, input);
     return frames;
 }
 
@@ -104,8 +112,11 @@ SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current, HostRec
     const double dragTypeRow = f.dragType.y;
     const double codeSnippetRow = f.codeSnippet.y;
     const bool allFit = ground <= dragTypeRow;
-    if (!allFit) f.dragType.x = f.dragTypeLabel.x = rightOutOfSight;
-    if (!allFit && ground > codeSnippetRow) {
+    f.dragTypeParked = !allFit;
+    f.codeSnippetParked = !allFit && ground > codeSnippetRow;
+    f.moreIndicatorParked = allFit;
+    if (f.dragTypeParked) f.dragType.x = f.dragTypeLabel.x = rightOutOfSight;
+    if (f.codeSnippetParked) {
         // The component display is hidden together with the snippet's row, even if it would fit by
         // itself.
         f.codeSnippet.x = f.codeSnippetLabel.x = rightOutOfSight;

@@ -3,13 +3,17 @@
 #include "host/HostGeometry.h"
 
 /// The layout of the picker's controls, as pure functions of frames. Every y points up. Hidden
-/// controls are moved far out of sight.
+/// controls are moved far out of sight, and marked as parked: in a page that is wide enough, even
+/// those places are inside.
 namespace vantorel {
 
 /// The main face, in the page's coordinates.
 struct MainFaceFrames {
     HostRect red, green, blue, snippet;
     HostRect colorName, rgbDecimal;
+    // Set by the layout: what it has moved out of sight.
+    bool componentsParked = false, snippetParked = false;
+    bool colorNameParked = false, rgbDecimalParked = false;
 };
 
 struct MainFaceInput {
@@ -30,6 +34,9 @@ struct SettingsFaceFrames {
     HostRect codeSnippet, codeSnippetLabel;
     HostRect dragType, dragTypeLabel;
     HostRect moreIndicator, help, versionLabel;
+    // Set by the layout: what it has moved out of sight. The component display goes with the
+    // snippet's row.
+    bool codeSnippetParked = false, dragTypeParked = false, moreIndicatorParked = false;
 };
 
 /// Lays out the settings face. `bounds` is the settings view's bounds; sizes are taken from

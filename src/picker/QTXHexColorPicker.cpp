@@ -1,17 +1,20 @@
 #include "picker/QTXHexColorPicker.h"
 
 #include "color/ColorMeasures.h"
+#include "color/ColorTexts.h"
 #include "colorlists/QTXHexColorLists.h"
 #include "picker/ControlWriting.h"
 #include "picker/PickerInterface.h"
 #include "settings/SettingsFile.h"
+
+#include <array>
 
 namespace vantorel {
 namespace {
 
 constexpr const char* interfaceFileName = "QTXHexPick";
 constexpr const char* buttonImageName = "picker.svg";
-/// The x coordinate of the hidden read-out, outside every page.
+/// The x coordinate of the hidden read-out. In a wide page that is inside, so it is parked, too.
 constexpr double readoutOutOfSight = 500;
 
 }  // namespace
@@ -68,6 +71,7 @@ bool QTXHexColorPicker::loadInterface()
     _hexEnterTextField = std::make_unique<QTXHexEnterTextField>(*_fullHexText, delegate);
     _rgbDecimalEnterTextField =
         std::make_unique<QTXRGBDecimalEnterTextField>(*_rgbDecimalText, delegate);
+    connectEntryFields();
     return true;
 }
 
@@ -156,9 +160,29 @@ std::optional<HostColor> QTXHexColorPicker::colorRespectingAlpha(
 
 std::u16string QTXHexColorPicker::colorsDescription() const
 {
-    std::u16string text = dragStringWithDragType(CodeDragType::hexCode).value_or(u"");
+    std::u16string text;
+    if (const auto cell = _hexColorsView.keyCell()) text = keyCellDescription(*cell) + u"; ";
+    text += dragStringWithDragType(CodeDragType::hexCode).value_or(u"");
     if (const auto name = selectedTitle(hexColorNamePopUp)) text += u", " + *name;
     return text + u", " + stringFromPickViewMode(_hexSettings.pickViewMode());
+}
+
+std::u16string QTXHexColorPicker::keyCellDescription(const QTXHexColorsView::KeyCell& cell) const
+{
+    static constexpr std::array components{u"Red", u"Green", u"Blue"};
+    HostDesktop& desktop = colorPanel().desktop();
+    if (cell.digit) {
+        const auto index = static_cast<std::size_t>(cell.digit->component);
+        return desktop.localizedString(components[index]) + u", " +
+               (cell.digit->digit == 1 ? desktop.localizedString(u"left digit")
+                                       : desktop.localizedString(u"right digit")) +
+               u": " + hexFromInt(cell.digit->value, _hexSettings.entryForm());
+    }
+    QTXHexColorSpec spec;
+    spec.setColorHexColorSpec(cell.color);
+    const std::u16string code =
+        u"#" + spec.fullStringHexColorSpecWithEntryForm(_hexSettings.entryForm());
+    return cell.name.empty() ? code : cell.name + u", " + code;
 }
 
 void QTXHexColorPicker::loadFullHex()
@@ -173,11 +197,13 @@ void QTXHexColorPicker::showCursorReadout()
     if (_hexColorsViewOutlet == nullptr || _hexColorsViewOutlet->superview() == nullptr) return;
     const HostRect view = _hexColorsViewOutlet->frame();
     moveTo(_cursorReadoutText, {view.x, view.maxY()});
+    _cursorReadoutText->setParked(false);
 }
 
 void QTXHexColorPicker::hideCursorReadout()
 {
     if (_cursorReadoutText == nullptr) return;
+    _cursorReadoutText->setParked(true);
     moveTo(_cursorReadoutText, {readoutOutOfSight, _cursorReadoutText->frame().y});
 }
 

@@ -116,8 +116,10 @@ private:
     void awakeFromNib();
     void fillSettingsPopUps();
     void loadFullHex();
-    /// Describes the colours view in words: hex code, name and mode.
+    /// Describes the colours view in words: hex code, name and mode; first of all, the cell that
+    /// the keys have reached.
     [[nodiscard]] std::u16string colorsDescription() const;
+    [[nodiscard]] std::u16string keyCellDescription(const QTXHexColorsView::KeyCell& cell) const;
 
     // Texts (QTXHexColorPickerTexts.cpp).
     [[nodiscard]] QTXHexColorSpec colorSpecWithPanelAlpha() const;
@@ -138,6 +140,8 @@ private:
     void fullHexAction(HostControl* sender);
     void rgbDecimalHexAction(HostControl* sender);
     void enterComponent(HostTextField* field, int componentIndex);
+    void connectEntryFields();
+    void stepComponent(HostTextField& field, int componentIndex, int amount);
     void flagInputError();
 
     // Settings controls (QTXHexColorPickerSettings.cpp).

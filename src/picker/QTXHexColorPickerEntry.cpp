@@ -5,12 +5,18 @@
 #include "picker/NameCompletion.h"
 #include "picker/QTXHexColorPicker.h"
 
-/// Text entry: reactions to each keystroke and to the end of an entry.
+#include <algorithm>
+#include <array>
+
+/// Text entry: reactions to each keystroke and to the end of an entry, and steps by keys.
 namespace vantorel {
 namespace {
 
 constexpr int componentDigits = 2;
 constexpr int fullDigits = 6;
+constexpr std::int64_t largestComponent = 255;
+/// A step with Shift changes the left hex digit.
+constexpr int largeStep = 16;
 
 /// Returns the field whose entry has ended: the sender, or the action's own field if the sender is
 /// not a text field.
@@ -20,7 +26,60 @@ HostTextField* fieldThatEnded(HostControl* sender, HostTextField* own)
     return field != nullptr ? field : own;
 }
 
+HostEntryFit fitOfHexCode(const std::u16string& text, int digits)
+{
+    return validHexString(text, digits) ? HostEntryFit::fits : HostEntryFit::doesNotFit;
+}
+
+HostEntryFit fitOfComponent(const std::u16string& text, ComponentDisplay display)
+{
+    if (display == ComponentDisplay::hex) return fitOfHexCode(text, componentDigits);
+    // The readers of numbers read something into every text.
+    const bool isNumber = std::all_of(text.begin(), text.end(), [](char16_t c) {
+        return (c >= u'0' && c <= u'9') || c == u'.' || c == u'+' || c == u'-' || c == u' ';
+    });
+    return isNumber ? HostEntryFit::fits : HostEntryFit::doesNotFit;
+}
+
+HostEntryFit fitOfRgbTriple(const std::u16string& text)
+{
+    const RgbTripleReading reading = readRgbTriple(text);
+    if (!reading.found) return HostEntryFit::isIgnored;
+    return reading.components ? HostEntryFit::fits : HostEntryFit::doesNotFit;
+}
+
 }  // namespace
+
+void QTXHexColorPicker::connectEntryFields()
+{
+    const std::array components{_redHexText, _greenHexText, _blueHexText};
+    for (std::size_t i = 0; i < components.size(); ++i) {
+        HostTextField* field = components[i];
+        field->setEntryFit([this](const std::u16string& text) {
+            return fitOfComponent(text, _hexSettings.componentDisplay());
+        });
+        field->setStep(
+            [this, field, index = static_cast<int>(i)](int steps, std::uint64_t modifierFlags) {
+                const bool isLarge = (modifierFlags & shiftModifierFlag) != 0;
+                stepComponent(*field, index, isLarge ? steps * largeStep : steps);
+            });
+    }
+    _fullHexText->setEntryFit(
+        [](const std::u16string& text) { return fitOfHexCode(text, fullDigits); });
+    _rgbDecimalText->setEntryFit(fitOfRgbTriple);
+}
+
+void QTXHexColorPicker::stepComponent(HostTextField& field, int componentIndex, int amount)
+{
+    if (__holdOffSync) return;
+    const auto before = static_cast<std::int64_t>(_hexColorSpec.componentWithIndex(componentIndex));
+    const std::int64_t after = std::clamp<std::int64_t>(before + amount, 0, largestComponent);
+    if (after == before) return;
+    _hexColorsView.clearMessage();
+    _hexColorSpec.setComponent(static_cast<std::uint64_t>(after), componentIndex);
+    loadFullHex();
+    colorChanged(&field);
+}
 
 void QTXHexColorPicker::hexEntryTextChange(HostTextField& field)
 {

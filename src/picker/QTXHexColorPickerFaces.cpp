@@ -120,6 +120,11 @@ void QTXHexColorPicker::viewSizeChanged(HostView*)
     _objCCodeText->setFrame(frames.snippet);
     hexColorNamePopUp->setFrame(frames.colorName);
     _rgbDecimalText->setFrame(frames.rgbDecimal);
+    for (HostTextField* component : {_redHexText, _greenHexText, _blueHexText})
+        component->setParked(frames.componentsParked);
+    _objCCodeText->setParked(frames.snippetParked);
+    hexColorNamePopUp->setParked(frames.colorNameParked);
+    _rgbDecimalText->setParked(frames.rgbDecimalParked);
 
     if (colorsShown && !settingsShown) {
         _hexColorsView.stopTracking();
@@ -152,6 +157,13 @@ void QTXHexColorPicker::fixSettingsView()
     frames = settingsFaceLayout(frames, bounds);
     for (const auto& [view, frame] : controls)
         view->setFrame(frames.*frame);
+    for (HostView* view : std::initializer_list<HostView*>{
+             cCodeEntryFormPopUp, codeCodeLabel, componentDisplayPopUp, componentDisplayLabel}) {
+        view->setParked(frames.codeSnippetParked);
+    }
+    codeDragTypePopUp->setParked(frames.dragTypeParked);
+    codeDragTypeLabel->setParked(frames.dragTypeParked);
+    moreIndicatorButton->setParked(frames.moreIndicatorParked);
 }
 
 }  // namespace vantorel

@@ -43,6 +43,7 @@ void QTXHexColorsView::drawHecColorMatrixWithRect(HostRect rect, HostCanvas& can
         const HostRect frame = button->frame();
         button->setFrameOrigin(wheel ? HostPoint{xInWheel, rect.maxY() - frame.height - 1.0}
                                      : HostPoint{rect.x - 100.0, frame.y});
+        button->setParked(!wheel);
     };
     HostButton* decrease = _hostHexColorPicker.decCubeRingsButton();
     place(_hostHexColorPicker.incCubeRingsButton(), rect.x + 1.0);
@@ -60,6 +61,7 @@ void QTXHexColorsView::drawHecColorMatrixWithRect(HostRect rect, HostCanvas& can
 void QTXHexColorsView::mouseDown(const HostEvent& event)
 {
     clearMessage();
+    _keyCell.reset();
     switch (_hostHexColorPicker.hexSettings().pickViewMode()) {
         case PickViewMode::slider:
             slidersMouseDownWithEvent(event);

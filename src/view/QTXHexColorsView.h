@@ -43,6 +43,25 @@ public:
     void mouseEntered(const HostEvent& event) override;
     void mouseExited(const HostEvent& event) override;
 
+    // Picking by keyboard and with the mouse wheel (QTXHexColorsViewKeys.cpp).
+
+    [[nodiscard]] bool takesKeys() const override { return true; }
+    void keyFocusDidChange(bool hasFocus) override;
+    bool keyDown(const HostKeyEvent& event) override;
+    [[nodiscard]] HostBezierPath keyOutline() const override;
+    bool scrollWheel(const HostScrollEvent& event) override;
+    /// The cell that the keys have reached.
+    struct KeyCell {
+        HostBezierPath outline;
+        HostColor color = HostColor::blackColor();
+        /// The colour's name in the palette; empty in the other modes.
+        std::u16string name;
+        /// Slider only.
+        std::optional<SliderCell> digit;
+    };
+    /// Returns `std::nullopt` while the view does not have the focus.
+    [[nodiscard]] std::optional<KeyCell> keyCell() const;
+
     // Slider mode (QTXHexColorsViewSlider.cpp).
 
     [[nodiscard]] HostRect colorMatrixRect() const { return sliderMatrixRect(bounds()); }
@@ -92,6 +111,13 @@ private:
     [[nodiscard]] HostRect modeRect() const;
     [[nodiscard]] HostColorPanel& panel() const { return _hostHexColorPicker.hostPanel(); }
     void pickColor(const std::optional<HostColor>& color);
+    /// Returns whether the view shows the matrix of digits, which also stands in for a palette
+    /// without a list.
+    [[nodiscard]] bool showsSliders() const;
+    [[nodiscard]] SliderCell keySliderCell() const;
+    /// Until a key moves them, these two follow the current colour.
+    [[nodiscard]] std::size_t keyPalettePosition() const;
+    [[nodiscard]] std::size_t keyWheelIndex(const std::vector<WheelCell>& cells) const;
 
     /// Draws the current mode in `rect` and shows the ring buttons, or moves them out of sight.
     void drawHecColorMatrixWithRect(HostRect rect, HostCanvas& canvas);
@@ -102,6 +128,7 @@ private:
                                HostCanvas& canvas);
     void strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas);
     void slidersMouseDownWithEvent(const HostEvent& event);
+    void pickSliderCell(const SliderCell& cell, std::uint64_t modifierFlags);
     /// Sets the work colour to the current colour with the cell's digit replaced.
     void loadWorkColorSpecWithCell(const SliderCell& cell, std::uint64_t modifierFlags);
 
@@ -147,6 +174,16 @@ private:
         std::shared_ptr<bool> fired;
     };
     std::vector<MessageTimer> _messageTimers;
+
+    bool _hasKeyFocus = false;
+    /// The slider's column that the keys have reached, 0..5.
+    int _keyColumn = 0;
+    /// The swatch or triangle that the keys have reached, and in which mode.
+    struct ReachedCell {
+        PickViewMode mode;
+        std::size_t index;
+    };
+    std::optional<ReachedCell> _keyCell;
 
     /// 0 while the pointer is not tracked.
     std::intptr_t __trackingRectTag = 0;

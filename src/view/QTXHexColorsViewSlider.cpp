@@ -154,9 +154,12 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
         current = next.location;
     }
 
-    const auto hit = getComponent(current);
-    if (!hit) return;
-    loadWorkColorSpecWithCell(*hit, modifierFlags);
+    if (const auto hit = getComponent(current)) pickSliderCell(*hit, modifierFlags);
+}
+
+void QTXHexColorsView::pickSliderCell(const SliderCell& cell, std::uint64_t modifierFlags)
+{
+    loadWorkColorSpecWithCell(cell, modifierFlags);
     // On release, the controller also gets the colour with the panel's alpha. While the pointer
     // moves, it gets the opaque one.
     const auto color =
