@@ -23,6 +23,8 @@ void QtColorPanel::pageDidAppear()
                          [this] {
                              if (const auto current = color()) setColor(*current);
                          });
+        QObject::connect(field.lineEdit(), &QtLineEdit::textOffered, _pageConnections.get(),
+                         [this](const QString& text, bool& isTaken) { isTaken = takeText(text); });
     });
 }
 

@@ -29,8 +29,11 @@ public:
 protected:
     /// The view that shows the current page. Mouse moves are switched on and off for its subviews.
     [[nodiscard]] virtual HostView* pageView() const = 0;
-    /// Call this after showing a page: Escape in its text fields then restores the panel's colour.
+    /// Call this after showing a page: Escape in its text fields then restores the panel's colour,
+    /// and texts that are not meant for a field are offered to `takeText`.
     void pageDidAppear();
+    /// Makes the colour that a text names the panel's colour. Returns false if it names none.
+    virtual bool takeText(const QString& text) = 0;
 
 private:
     QtDesktop& _desktop;

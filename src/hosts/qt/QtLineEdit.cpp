@@ -3,11 +3,32 @@
 #include "hosts/qt/QtColors.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 
 #include <algorithm>
 
 namespace vantorel {
+namespace {
+
+/// A copied line often has more than the colour at its ends.
+QString withoutEnds(const QString& text)
+{
+    QString bare = text.trimmed();
+    if (bare.endsWith(u';')) bare = bare.chopped(1).trimmed();
+    return bare;
+}
+
+bool writesNothing(const QKeyEvent& event)
+{
+    return event.text().isEmpty() || !event.text().at(0).isPrint();
+}
+
+}  // namespace
 
 QColor readableTextColor(const HostColor& color, const QPalette& palette)
 {
@@ -47,8 +68,15 @@ bool QtLineEdit::event(QEvent* event)
 
 void QtLineEdit::keyPressEvent(QKeyEvent* event)
 {
-    if (!event->matches(QKeySequence::Cancel)) {
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (_canStep && isArrow && !isReadOnly()) {
+        emit stepped(event->key() == Qt::Key_Up ? 1 : -1, event->modifiers());
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (!event->matches(QKeySequence::Cancel)) {
+        _isDeleting = writesNothing(*event);
         QLineEdit::keyPressEvent(event);
+        _isDeleting = false;
     } else if (isModified()) {
         emit entryGivenUp();
         setModified(false);
@@ -74,6 +102,82 @@ void QtLineEdit::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
     fit();
+    switch (event->reason()) {
+        case Qt::MouseFocusReason:
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+        case Qt::ShortcutFocusReason:
+            emit left();
+            break;
+        default:
+            break;  // another window, a menu, or the field was hidden
+    }
+}
+
+void QtLineEdit::wheelEvent(QWheelEvent* event)
+{
+    if (!_canStep || isReadOnly()) {
+        QLineEdit::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    if (const int steps = _wheelSteps.stepsOf(*event); steps != 0) {
+        emit stepped(steps, event->modifiers());
+    }
+}
+
+void QtLineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QClipboard& clipboard = *QApplication::clipboard();
+    if (event->button() == Qt::MiddleButton && clipboard.supportsSelection() && !isReadOnly()) {
+        bring(clipboard.text(QClipboard::Selection));
+    } else {
+        QLineEdit::mouseReleaseEvent(event);
+    }
+}
+
+void QtLineEdit::dropEvent(QDropEvent* event)
+{
+    // A part of the text that is moved within the field is no text from elsewhere.
+    if (event->source() == this || isReadOnly() || !event->mimeData()->hasText()) {
+        QLineEdit::dropEvent(event);
+        return;
+    }
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setFocus(Qt::MouseFocusReason);
+    if (isModified()) setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    bring(event->mimeData()->text());
+}
+
+void QtLineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The menu does not name its actions; this is the toolkit's text, and its translation.
+    static constexpr const char* pasteText = "&Paste";
+    const QString title = QCoreApplication::translate("QLineEdit", pasteText);
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* action : menu->actions()) {
+        if (!action->text().startsWith(title)) continue;
+        action->disconnect(this);
+        connect(action, &QAction::triggered, this, &QtLineEdit::paste);
+    }
+    menu->popup(event->globalPos());
+}
+
+void QtLineEdit::paste()
+{
+    bring(QApplication::clipboard()->text());
+}
+
+void QtLineEdit::bring(const QString& text)
+{
+    const QString bare = withoutEnds(text);
+    if (isReadOnly() || bare.isEmpty()) return;
+    if (!isModified() && (!hasSelectedText() || selectedText() == this->text())) selectAll();
+    const bool replacesAll = this->text().isEmpty() || selectedText() == this->text();
+    insert(bare);
+    if (replacesAll) emit textBrought();
 }
 
 void QtLineEdit::changeEvent(QEvent* event)

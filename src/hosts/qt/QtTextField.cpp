@@ -2,6 +2,7 @@
 
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtEvents.h"
 
 #include <QApplication>
 
@@ -33,20 +34,84 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAlignment(describedAlignment(description));
     edit->setText(qStringFrom(description.title));
     edit->setAccessibleName(qStringFrom(description.accessibleName));
+    edit->setReadOnly(description.readOnly);
     // Not `textEdited`: text entered by an assistive program counts as typed, too.
     QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
-        if (_textIsBeingSet) return;
-        sendTextDidChange();
-        // Completing the text while the user types does not end the entry.
-        lineEdit()->setModified(true);
+        if (!_textIsBeingSet) textDidChangeByUser();
     });
     QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { enterText(); });
+    QObject::connect(edit, &QtLineEdit::left, edit, [this] { leave(); });
+    QObject::connect(edit, &QtLineEdit::textBrought, edit, [this] { takeBroughtText(); });
+    QObject::connect(edit, &QtLineEdit::stepped, edit,
+                     [this](int steps, Qt::KeyboardModifiers modifiers) {
+                         finishEditing();
+                         sendStep(steps, modifierFlags(modifiers));
+                     });
+}
+
+void QtTextField::stepDidChange()
+{
+    lineEdit()->setCanStep(canStep());
+}
+
+void QtTextField::textDidChangeByUser()
+{
+    QtLineEdit* edit = lineEdit();
+    const QString typed = edit->text();
+    const int caret = edit->cursorPosition();
+    _isReacting = true;
+    _wasWritten = false;
+    sendTextDidChange();
+    _isReacting = false;
+    if (_wasWritten) showCompletion(typed, caret);
+    // The typing may have completed the text, which does not end it.
+    edit->setModified(true);
+}
+
+void QtTextField::showCompletion(const QString& typed, int caret)
+{
+    QtLineEdit* edit = lineEdit();
+    const int behind = static_cast<int>(edit->text().size()) - edit->cursorPosition();
+    if (behind <= 0) return;
+    if (!edit->isDeleting()) {
+        edit->setSelection(static_cast<int>(edit->text().size()), -behind);
+        return;
+    }
+    const bool wasBeingSet = std::exchange(_textIsBeingSet, true);
+    edit->setText(typed);
+    _textIsBeingSet = wasBeingSet;
+    edit->setCursorPosition(caret);
+}
+
+bool QtTextField::offerText()
+{
+    bool isTaken = false;
+    emit lineEdit()->textOffered(lineEdit()->text(), isTaken);
+    if (isTaken) lineEdit()->setModified(false);
+    return isTaken;
 }
 
 void QtTextField::enterText()
 {
+    const bool isIgnored = entryFit(stringValue()) == HostEntryFit::isIgnored;
+    if (isIgnored && offerText()) return;
     sendAction();
+    // An entry that was ignored goes on.
+    if (!isIgnored) lineEdit()->setModified(false);
+}
+
+void QtTextField::leave()
+{
+    if (!lineEdit()->isModified()) return;
+    enterText();
+    if (!lineEdit()->isModified()) return;
     lineEdit()->setModified(false);
+    emit lineEdit()->entryGivenUp();
+}
+
+void QtTextField::takeBroughtText()
+{
+    if (entryFit(stringValue()) != HostEntryFit::fits) offerText();
 }
 
 void QtTextField::finishEditing()
@@ -74,6 +139,7 @@ void QtTextField::setStringValue(const std::u16string& text)
     edit->setText(newText);
     _textIsBeingSet = wasBeingSet;
     edit->setCursorPosition(insertionPoint);
+    _wasWritten = true;
 }
 
 void QtTextField::setTextColor(const HostColor& color)
@@ -83,7 +149,8 @@ void QtTextField::setTextColor(const HostColor& color)
 
 bool QtTextField::isEdited() const
 {
-    return lineEdit()->hasFocus();
+    // A drop from another window comes before the focus.
+    return _isReacting || lineEdit()->hasFocus();
 }
 
 HostSelection QtTextField::selectedRange() const

@@ -1,5 +1,6 @@
 #include "panel/widgets/ColorClipboard.h"
 
+#include "colortext/ColorInCode.h"
 #include "csscolor/CSSColorReader.h"
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
@@ -8,6 +9,7 @@
 
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -33,8 +35,15 @@ std::optional<HostColor> colorFromWords(const QByteArray& bytes)
 ColorOffer colorFromText(const QString& text)
 {
     if (text.size() > longestColorText) return {{}, {phrase("that is a long text, not a colour")}};
-    const Result<CSSColor> css = readCSSColor(u16From(text));
-    if (!css) return {{}, css.error()};
+    const std::u16string line = u16From(text);
+    Result<CSSColor> css = readCSSColor(line);
+    if (!css) {
+        if (auto declared = readCSSColor(declaredValue(line))) css = std::move(declared);
+    }
+    if (!css) {
+        if (const auto color = colorInCode(line)) return {color, {}};
+        return {{}, css.error()};
+    }
     if (!css->wasOutsideSRGB) return {css->color, {}};
     return {css->color,
             {phrase("\"%1\" is outside sRGB; this is the nearest colour inside",

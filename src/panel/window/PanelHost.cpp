@@ -1,6 +1,7 @@
 #include "panel/window/PanelHost.h"
 
 #include "hosts/qt/TextScale.h"
+#include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelWindow.h"
 
 #include <QScreen>
@@ -36,6 +37,15 @@ void PanelHost::setFrame(HostRect wanted, bool)
                        qRound((old.maxY() - wanted.maxY()) * scale));
     if (!moved.isNull()) _window.move(_window.pos() + moved);
     _window.resizeAtOnce({qRound(wanted.width * scale), qRound(wanted.height * scale)});
+}
+
+bool PanelHost::takeText(const QString& text)
+{
+    const ColorOffer offer = colorFromText(text);
+    if (!offer.color) return false;
+    _colors.setColor(*offer.color);
+    if (!offer.message.isEmpty()) _window.showMessage(offer.message);
+    return true;
 }
 
 HostView* PanelHost::pageView() const

@@ -24,6 +24,7 @@ public:
                    HostView& source) override;
 
 protected:
+    bool takeText(const QString& text) override;
     [[nodiscard]] HostView* pageView() const override;
 
 private:
