@@ -1,5 +1,6 @@
 #include "hosts/qt/QtItemList.h"
 
+#include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 
@@ -105,8 +106,7 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex&) const override
     {
-        const int height = std::max(option.fontMetrics.height(), option.decorationSize.height());
-        return {0, height + 2 * rowPadding};
+        return {0, popUpRowHeight(option.fontMetrics)};
     }
 
 protected:

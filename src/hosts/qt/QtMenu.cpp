@@ -1,6 +1,7 @@
 #include "hosts/qt/QtMenu.h"
 
 #include "hosts/qt/PlainText.h"
+#include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TypeAhead.h"
@@ -8,11 +9,12 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace vantorel {
 namespace {
 
-/// The application's style, but long menus scroll.
+/// The application's style, but long menus scroll, and rows are as high as in lists.
 class LongMenuStyle final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -20,6 +22,18 @@ public:
     {
         return hint == SH_Menu_Scrollable ? 1
                                           : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override
+    {
+        QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (type == CT_MenuItem && item != nullptr &&
+            item->menuItemType != QStyleOptionMenuItem::Separator) {
+            size.setHeight(popUpRowHeight(item->fontMetrics));
+        }
+        return size;
     }
 };
 

@@ -78,6 +78,9 @@ protected:
         const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
         switch (event->key()) {
             case Qt::Key_Space:
+                if (_typeAhead.isSearching()) break;
+                _owner.openMenu();
+                return;
             case Qt::Key_Return:
             case Qt::Key_Enter:
                 _owner.openMenu();

@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QListView>
 #include <QMenu>
 #include <QShortcut>
 #include <QTest>
@@ -323,6 +324,38 @@ TEST_F(QtPopUpButtonTest, KeysSelectWithoutOpeningTheMenu)
     QTest::keyClicks(_popUp.widget(), "css");
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"CSS Keyword");
     EXPECT_EQ(openMenu(), nullptr);
+}
+
+TEST_F(QtPopUpButtonTest, TypingOnAClosedPopUpGoesOnAfterABlank)
+{
+    HostMenu menu;
+    for (const char16_t* title :
+         {u"VBasic", u"Java CGFloat", u"Java NSInteger", u"Java NSInteger A"})
+        menu.emplace_back().title = title;
+    _popUp.setItems(menu);
+    QTest::keyClicks(_popUp.widget(), "Java NSInteger A");
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"Java NSInteger A");
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(QtPopUpButtonTest, RowsOfAllPopUpsHaveOneHeight)
+{
+    QTest::keyClick(_popUp.widget(), Qt::Key_Space);
+    ASSERT_NE(openMenu(), nullptr);
+    const int height = openMenu()->actionGeometry(openMenu()->actions().front()).height();
+    openMenu()->close();
+    HostMenuItem plain;
+    plain.title = u"orange";
+    HostMenuItem withImage = plain;
+    withImage.image = HostImage{{22, 14}, [](HostCanvas&) {}};
+    for (const HostMenuItem& item : {plain, withImage}) {
+        _popUp.setItems({item});
+        _popUp.openMenu();
+        auto* list = QApplication::activePopupWidget()->findChild<QListView*>();
+        ASSERT_NE(list, nullptr);
+        EXPECT_EQ(list->sizeHintForRow(0), height);
+        QApplication::activePopupWidget()->close();
+    }
 }
 
 TEST(QtButtonTest, ACheckBoxChangesStateBeforeItsActionRuns)
