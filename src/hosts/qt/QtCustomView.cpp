@@ -2,6 +2,8 @@
 
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtEvents.h"
+#include "hosts/qt/WheelSteps.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -11,14 +13,13 @@
 namespace vantorel {
 namespace {
 
-std::uint64_t modifierFlags(Qt::KeyboardModifiers modifiers)
+/// Strokes a path of the core so that it is seen on every colour.
+void strokeOnAnyColor(QtCanvas& canvas, HostBezierPath path)
 {
-    std::uint64_t flags = 0;
-    if ((modifiers & Qt::ShiftModifier) != 0) flags |= shiftModifierFlag;
-    if ((modifiers & Qt::ControlModifier) != 0) flags |= controlModifierFlag;
-    if ((modifiers & Qt::AltModifier) != 0) flags |= alternateModifierFlag;
-    if ((modifiers & Qt::MetaModifier) != 0) flags |= commandModifierFlag;
-    return flags;
+    path.setLineWidth(3.5);
+    canvas.stroke(path, HostColor::blackColor());
+    path.setLineWidth(1.5);
+    canvas.stroke(path, HostColor::whiteColor());
 }
 
 }  // namespace
@@ -33,12 +34,56 @@ protected:
     {
         QPainter painter(this);
         painter.setClipRegion(event->region());
-        if (_owner != nullptr) _owner->paint(painter);
+        if (_owner == nullptr) return;
+        const bool showsFocus = _showsFocus && hasFocus();
+        _owner->paint(painter, showsFocus);
+        if (!showsFocus) return;
+        constexpr qreal ringWidth = 2;
+        painter.setPen(QPen(palette().color(QPalette::Highlight), ringWidth));
+        painter.drawRect(
+            QRectF(rect()).adjusted(ringWidth / 2, ringWidth / 2, -ringWidth / 2, -ringWidth / 2));
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        const Qt::FocusReason reason = event->reason();
+        // After a click the user knows where the focus is; the marks would only hide colours. When
+        // the window or a menu gives the focus back, they are as before.
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            _showsFocus = reason != Qt::MouseFocusReason;
+        }
+        _owner->_content.keyFocusDidChange(true);
+        update();
+    }
+
+    void focusOutEvent(QFocusEvent*) override
+    {
+        if (_owner != nullptr) _owner->_content.keyFocusDidChange(false);
+        update();
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const auto key = hostKeyEvent(*event);
+        if (!key || !_owner->_content.takesKeys() || !_owner->_content.keyDown(*key)) {
+            QWidget::keyPressEvent(event);
+            return;
+        }
+        setShowsFocus(true);
+    }
+
+    void wheelEvent(QWheelEvent* event) override
+    {
+        const HostPoint at = viewPoint(event->position(), _owner->bounds());
+        const int steps = _wheelSteps.stepsOf(*event);
+        const HostScrollEvent scroll{at, steps, modifierFlags(event->modifiers())};
+        if (steps == 0 || !_owner->_content.scrollWheel(scroll)) event->ignore();
     }
 
     void mousePressEvent(QMouseEvent* event) override
     {
         if (event->button() == Qt::LeftButton) {
+            setShowsFocus(false);
             _owner->press(hostEvent(HostEventType::leftMouseDown, *event));
         }
     }
@@ -95,7 +140,16 @@ private:
                 modifierFlags(event.modifiers())};
     }
 
+    void setShowsFocus(bool flag)
+    {
+        if (flag == _showsFocus) return;
+        _showsFocus = flag;
+        update();
+    }
+
     QtCustomView* _owner = nullptr;
+    bool _showsFocus = false;
+    WheelSteps _wheelSteps;
 };
 
 QtCustomView::QtCustomView(const HostControlDescription& description, HostViewContent& content)
@@ -103,14 +157,16 @@ QtCustomView::QtCustomView(const HostControlDescription& description, HostViewCo
 {
     static_cast<Widget*>(widget())->setOwner(this);
     widget()->setMouseTracking(true);
+    if (content.takesKeys()) widget()->setFocusPolicy(Qt::StrongFocus);
     widget()->setPalette(paletteOnLightGround());
     widget()->setAccessibleName(qStringFrom(description.accessibleName));
 }
 
-void QtCustomView::paint(QPainter& painter)
+void QtCustomView::paint(QPainter& painter, bool showsFocus)
 {
     QtCanvas canvas(painter, bounds());
     _content.drawRect(canvas);
+    if (showsFocus) strokeOnAnyColor(canvas, _content.keyOutline());
     setNeedsDisplay(false);
 }
 

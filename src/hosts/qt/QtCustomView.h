@@ -10,7 +10,7 @@
 
 namespace vantorel {
 
-/// A view that the core paints and that passes mouse events to it.
+/// A view that the core paints and that passes mouse and key events to it.
 class QtCustomView final : public QtMirrored<HostCustomView> {
 public:
     QtCustomView(const HostControlDescription& description, HostViewContent& content);
@@ -37,7 +37,8 @@ private:
         bool inside;
     };
 
-    void paint(QPainter& painter);
+    /// `showsFocus`: whether to mark the cell that the keys have reached.
+    void paint(QPainter& painter, bool showsFocus);
     void press(const HostEvent& event);
     /// Passes a drag or release to the tracking loop that waits for it, else to the content.
     void continuePress(const HostEvent& event);

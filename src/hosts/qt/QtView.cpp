@@ -49,25 +49,34 @@ void placeWidgets(const HostView& view)
     if (widget != nullptr && view.superview() != nullptr) {
         const QRect place = widgetGeometry(view.frame(), view.superview()->bounds());
         widget->setGeometry(place);
-        // The core hides views by moving them outside their superview. Neither Tab nor assistive
-        // technology must find them there.
+        // The core hides views by parking them, or by moving them outside their superview. Neither
+        // the mouse nor Tab nor assistive technology must find them there.
         const HostRect superview = view.superview()->bounds();
         const QRectF shown = widgetRect(superview, superview);
-        widget->setVisible(widget->parentWidget() != nullptr && shown.intersects(place));
+        widget->setVisible(widget->parentWidget() != nullptr && !view.isParked() &&
+                           shown.intersects(place));
     }
     // With y up, an unchanged frame moves in Qt's coordinates when the superview's height changes.
     for (const HostView* subview : view.subviews())
         placeWidgets(*subview);
 }
 
-void adoptWidget(const HostView& view)
+void adoptWidget(HostView& view)
 {
-    QWidget* widget = widgetOf(&view);
+    auto* peer = dynamic_cast<QtPeer*>(&view);
+    QWidget* widget = peer != nullptr ? peer->widget() : nullptr;
     if (widget == nullptr) return;
     QWidget* parent = widgetOf(view.superview());
+    QWidget* focused = (parent != nullptr ? parent : widget)->window()->focusWidget();
+    const bool hadFocus = focused == widget || widget->isAncestorOf(focused);
     widget->setParent(parent);
     if (parent == nullptr) widget->setVisible(false);
     placeWidgets(view);
+    if (parent != nullptr) {
+        peer->focusBefore = focused;
+    } else if (hadFocus && peer->focusBefore && peer->focusBefore->isVisible()) {
+        peer->focusBefore->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 }  // namespace vantorel

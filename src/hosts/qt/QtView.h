@@ -13,6 +13,10 @@ class QtPeer {
 public:
     virtual ~QtPeer() = default;
     [[nodiscard]] virtual QWidget* widget() const = 0;
+
+    /// The widget that had the focus when this one came into its superview's. It gets the focus
+    /// back if this one is taken out with it, as a face of a page is when it is done.
+    QPointer<QWidget> focusBefore;
 };
 
 [[nodiscard]] QWidget* widgetOf(const HostView* view);
@@ -39,7 +43,7 @@ void forEachBelow(HostView* view, const Visit& visit)
 /// Moves the widgets of a view and its subviews to their frames.
 void placeWidgets(const HostView& view);
 /// Puts a view's widget into that of its superview, or hides it if there is none.
-void adoptWidget(const HostView& view);
+void adoptWidget(HostView& view);
 
 /// A text of the core in the user's language, or unchanged if there is no translation.
 [[nodiscard]] QString translatedText(const std::u16string& text);
@@ -61,11 +65,14 @@ protected:
     void frameDidChange() override { placeWidgets(*this); }
     void boundsDidChange() override { placeWidgets(*this); }
     void hierarchyDidChange() override { adoptWidget(*this); }
+    void parkedDidChange() override { placeWidgets(*this); }
     void toolTipDidChange() override
     {
         if (_widget == nullptr) return;
         const auto& text = this->toolTip();
-        _widget->setToolTip(text ? plainToolTip(translatedText(*text)) : QString());
+        // A tip of blanks would show as an empty box.
+        const QString shown = text ? translatedText(*text) : QString();
+        _widget->setToolTip(shown.trimmed().isEmpty() ? QString() : plainToolTip(shown));
     }
     void displayDidBecomeNeeded(HostRect rect) override
     {

@@ -51,6 +51,19 @@ QSize PluginPage::minimumSize() const
     return {static_cast<int>(size.width), static_cast<int>(size.height)};
 }
 
+void PluginPage::reportSize()
+{
+    const auto shownViews = [this] {
+        std::vector<const HostView*> views;
+        forEachBelow<HostView>(_view, [&](const HostView& view) { views.push_back(&view); });
+        return views;
+    };
+    const auto before = shownViews();
+    _picker->viewSizeChanged(_view);
+    // A picker that lays out its page by the place of a face has only now put another face there.
+    if (shownViews() != before) _picker->viewSizeChanged(_view);
+}
+
 void PluginPage::show(HostView& holder)
 {
     if (!_viewWasAskedFor) {
@@ -73,7 +86,7 @@ void PluginPage::show(HostView& holder)
     if (_view != nullptr) {
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
-        _picker->viewSizeChanged(_view);
+        reportSize();
     } else {
         _message->setParent(widgetOf(&holder));
         _message->show();
@@ -91,7 +104,7 @@ void PluginPage::resize(HostSize size)
 {
     if (_view != nullptr) {
         _view->setFrame({0, 0, size.width, size.height});
-        _picker->viewSizeChanged(_view);
+        reportSize();
     }
     if (_message) {
         _message->setGeometry(0, 0, scaled(size.width), scaled(size.height));

@@ -32,6 +32,7 @@ void paintCheckers(QPainter& painter, const QRect& place)
 ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent)
 {
     setAccessibleName(name);
+    setFocusPolicy(Qt::TabFocus);
     setAcceptDrops(true);
     setColor(_color);
 }
@@ -61,8 +62,9 @@ void ColorWell::paintEvent(QPaintEvent*)
     QColor opaque = color;
     opaque.setAlpha(255);
     painter.fillRect(QRect(inside.topLeft(), QPoint(right.left() - 1, inside.bottom())), opaque);
-    painter.setPen(QPen(palette().color(_dropIsNear ? QPalette::Highlight : QPalette::Mid),
-                        _dropIsNear ? 3 : 1));
+    const bool isMarked = _dropIsNear || hasFocus();
+    painter.setPen(
+        QPen(palette().color(isMarked ? QPalette::Highlight : QPalette::Mid), isMarked ? 3 : 1));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

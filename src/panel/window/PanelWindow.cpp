@@ -26,6 +26,28 @@ constexpr int problemsPoints = 20;
 constexpr int footPoints = 42;
 constexpr QSize firstPageSize{260, 340};
 
+/// Sorts widgets by rows from the top, and in each row in the direction of reading.
+void sortAsRead(std::vector<QWidget*>& widgets, const QWidget& window)
+{
+    const auto place = [&](const QWidget* widget) {
+        return QRect(widget->mapTo(&window, QPoint()), widget->size());
+    };
+    const auto isAbove = [&](const QWidget* a, const QWidget* b) {
+        return place(a).center().y() < place(b).center().y();
+    };
+    std::stable_sort(widgets.begin(), widgets.end(), isAbove);
+    for (auto row = widgets.begin(); row != widgets.end();) {
+        const auto end = std::find_if(row, widgets.end(), [&](const QWidget* widget) {
+            return place(widget).center().y() > place(*row).bottom();
+        });
+        std::stable_sort(row, end, [&](const QWidget* a, const QWidget* b) {
+            const int ahead = place(a).left() - place(b).left();
+            return window.isRightToLeft() ? ahead > 0 : ahead < 0;
+        });
+        row = end;
+    }
+}
+
 QSize scaledSize(QSize points)
 {
     return {scaled(points.width()), scaled(points.height())};
@@ -109,13 +131,31 @@ void PanelWindow::adaptToPage(int index)
     _topBar->showPage(index, page.name());
     _host.pageDidAppear();
     const QSize least = scaledSize(page.minimumSize() + barsPoints());
+    growTo(least);
+}
+
+void PanelWindow::growTo(QSize least)
+{
+    // If the user has resized the window since, that is the size to keep.
+    const bool isStillGrown = _growth && size() == _growth->to;
+    const QSize own = isStillGrown ? _growth->from : size();
+    const QSize wanted = own.expandedTo(least);
+    _growth.reset();
     setMinimumSize(least);
-    resizeAtOnce(size().expandedTo(least));
+    resizeAtOnce(wanted);
+    if (wanted != own) _growth = {own, wanted};
+}
+
+bool PanelWindow::focusNextPrevChild(bool next)
+{
+    // At each step, because pages move their controls and swap their faces.
     orderTabs();
+    return QWidget::focusNextPrevChild(next);
 }
 
 /// Orders Tab as one reads: the bar, the page, the tools below. By default it follows the order of
-/// creation, and pages are created when they are first shown.
+/// creation, and pages are created when they are first shown. The controls of a picker's page are
+/// ordered by their places.
 void PanelWindow::orderTabs()
 {
     std::vector<const QWidget*> groups{_topBar, &_pages.place(), _tools};
@@ -133,6 +173,9 @@ void PanelWindow::orderTabs()
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
         return button != nullptr && button->isCheckable();
     });
+    if (const PanelPage* page = _pages.current(); page != nullptr && page->view() != nullptr) {
+        sortAsRead(members[1], *this);
+    }
     QWidget* last = nullptr;
     for (const auto& group : members) {
         for (QWidget* widget : group) {
@@ -171,7 +214,6 @@ void PanelWindow::setFoot(QWidget& foot)
     _foot = &foot;
     setMinimumHeight(minimumHeight() + scaled(footPoints));
     resizeAtOnce({width(), height() + scaled(footPoints)});
-    orderTabs();
 }
 
 /// Searching the icon theme takes an eighth of the start-up time, so it is done after the first

@@ -55,6 +55,7 @@ public:
     [[nodiscard]] PanelMemory memory(Place place = Place::included) const;
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -64,6 +65,8 @@ private:
     void addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems);
     void addPage(std::unique_ptr<PanelPage> page);
     void adaptToPage(int index);
+    /// Sets the window's minimum size. What it grew for a page before, it loses again.
+    void growTo(QSize least);
     void showHistory();
     void loadIcon();
     void orderTabs();
@@ -83,6 +86,12 @@ private:
     /// Null if there is none.
     QWidget* _foot = nullptr;
     bool _isPainted = false;
+    /// Set while the window is wider or higher than the user left it, for the sake of a page.
+    struct Growth {
+        QSize from;
+        QSize to;
+    };
+    std::optional<Growth> _growth;
 };
 
 }  // namespace vantorel

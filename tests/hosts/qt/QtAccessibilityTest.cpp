@@ -139,5 +139,21 @@ TEST(QtAccessibilityTest, AViewOutsideItsSuperviewIsInvisible)
     EXPECT_FALSE(accessible(*button)->state().invisible);
 }
 
+TEST(QtAccessibilityTest, AParkedViewIsInvisibleWhereverItIs)
+{
+    QtInterfaceFactory factory;
+    const auto page = factory.makeView(describe(u"Page"));
+    const auto button = factory.makeButton(describe(u"More"));
+    page->addSubview(*button);
+    widgetOf(page.get())->show();
+    button->setParked(true);
+    EXPECT_TRUE(accessible(*button)->state().invisible);
+    EXPECT_EQ(button->frame(), (HostRect{0, 0, 100, 24})) << "the frame stays";
+    button->setFrameOrigin({10, 0});
+    EXPECT_TRUE(accessible(*button)->state().invisible);
+    button->setParked(false);
+    EXPECT_FALSE(accessible(*button)->state().invisible);
+}
+
 }  // namespace
 }  // namespace vantorel
