@@ -829,6 +829,18 @@
         <source>Wheel: pick by hue, tint and shade</source>
         <translation>Farbrad: nach Farbton und Helligkeit wählen</translation>
     </message>
+    <message>
+        <source>Vantorel</source>
+        <translation>Vantorel</translation>
+    </message>
+    <message>
+        <source>left digit</source>
+        <translation>linke Ziffer</translation>
+    </message>
+    <message>
+        <source>right digit</source>
+        <translation>rechte Ziffer</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
