@@ -109,6 +109,28 @@ TEST(PickerLayoutTest, RowsAreHiddenFromTheBottomAndTwoOfThemTogether)
     EXPECT_EQ(allGone.poundSign.x, 20);
 }
 
+TEST(PickerLayoutTest, WhatIsMovedOutOfSightIsParked)
+{
+    auto input = mainInput(260);
+    auto frames = mainFaceLayout(input);
+    EXPECT_TRUE(frames.snippetParked);
+    EXPECT_FALSE(frames.componentsParked || frames.colorNameParked || frames.rgbDecimalParked);
+    input.showsCodeSnippet = true;
+    frames = mainFaceLayout(input);
+    EXPECT_TRUE(frames.componentsParked);
+    EXPECT_FALSE(frames.snippetParked);
+    frames = mainFaceLayout(mainInput(169));
+    EXPECT_TRUE(frames.colorNameParked && frames.rgbDecimalParked);
+
+    const auto all = settingsFaceLayout(settingsFrames(), {0, 0, 240, 186});
+    EXPECT_TRUE(all.moreIndicatorParked);
+    EXPECT_FALSE(all.dragTypeParked || all.codeSnippetParked);
+    const auto dragGone = settingsFaceLayout(settingsFrames(), {0, 0, 240, 146});
+    EXPECT_TRUE(dragGone.dragTypeParked);
+    EXPECT_FALSE(dragGone.codeSnippetParked || dragGone.moreIndicatorParked);
+    EXPECT_TRUE(settingsFaceLayout(settingsFrames(), {0, 0, 240, 106}).codeSnippetParked);
+}
+
 TEST(PickerLayoutTest, APanelGrowsDownwards)
 {
     EXPECT_EQ(panelFrameGrownFor({5, 100, 200, 232}, {200, 200}, {212, 220}),
