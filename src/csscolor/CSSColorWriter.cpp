@@ -94,6 +94,14 @@ std::optional<std::u16string> rgbText(const HostColor& color)
     return text + u")";
 }
 
+std::u16string rgbTextWithAlpha(std::u16string opaqueText, double alpha)
+{
+    const std::u16string end = slashAlpha(alpha);
+    if (end.empty()) return opaqueText;
+    std::erase(opaqueText, u',');
+    return opaqueText.insert(std::min(opaqueText.find(u')'), opaqueText.size()), end);
+}
+
 std::optional<std::u16string> hslText(const HostColor& color)
 {
     const auto fractions = fractionsOf(color);

@@ -17,6 +17,11 @@ namespace vantorel {
 /// Returns "rgb(255, 128, 0)" or "rgba(255, 128, 0, 0.5)", as browsers do (section 15.2).
 [[nodiscard]] std::optional<std::u16string> rgbText(const HostColor& color);
 
+/// Adds an alpha to the text of an opaque colour, such as "rgb(255, 128, 0)", and writes it in the
+/// form with spaces: "rgb(255 128 0 / 0.5)". Capitals and what follows the ")" are kept. An alpha
+/// that is opaque in 8 bits leaves the text as it is.
+[[nodiscard]] std::u16string rgbTextWithAlpha(std::u16string opaqueText, double alpha);
+
 /// Returns "hsl(30.12 100% 50%)" or "hsl(30.12 100% 50% / 0.5)", with at most two decimals.
 [[nodiscard]] std::optional<std::u16string> hslText(const HostColor& color);
 

@@ -55,7 +55,11 @@ public:
 
     /// The text to drag out of the page, or `std::nullopt` if a drag carries the colour itself.
     [[nodiscard]] virtual std::optional<std::u16string> dragText() const { return std::nullopt; }
-    /// The current colour in every text form that the picker can write, the hex code first.
+    /// The text to copy from the page. It stands for the colour with its opacity, which drags out
+    /// of a page need not carry.
+    [[nodiscard]] virtual std::optional<std::u16string> copyText() const { return dragText(); }
+    /// The current colour with its opacity in every text form that the picker can write, the hex
+    /// code first.
     [[nodiscard]] virtual std::vector<HostColorText> colorTexts() const { return {}; }
 
     /// Runs the picker's action of that name, e.g. "poundSignAction". `sender` is the control to

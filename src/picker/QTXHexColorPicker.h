@@ -79,6 +79,7 @@ public:
         CodeDragType type) const override;
 
     [[nodiscard]] std::optional<std::u16string> dragText() const override;
+    [[nodiscard]] std::optional<std::u16string> copyText() const override;
     [[nodiscard]] std::vector<HostColorText> colorTexts() const override;
 
     /// Writes the current colour and settings to every control, in a fixed order.
@@ -123,6 +124,8 @@ private:
 
     // Texts (QTXHexColorPickerTexts.cpp).
     [[nodiscard]] QTXHexColorSpec colorSpecWithPanelAlpha() const;
+    /// Returns the text of a drag, with the opacity added to forms that leave it out.
+    [[nodiscard]] std::optional<std::u16string> copyTextWithDragType(CodeDragType type) const;
 
     // Synchronising (QTXHexColorPickerSync.cpp).
     void syncExactness(const std::u16string& red, const std::u16string& green,

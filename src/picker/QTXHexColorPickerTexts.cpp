@@ -1,3 +1,5 @@
+#include "color/ChannelConversion.h"
+#include "csscolor/CSSColorWriter.h"
 #include "picker/QTXHexColorPicker.h"
 #include "snippets/DragString.h"
 
@@ -30,12 +32,30 @@ std::optional<std::u16string> QTXHexColorPicker::dragText() const
     return text && !text->empty() ? text : std::nullopt;
 }
 
+std::optional<std::u16string> QTXHexColorPicker::copyTextWithDragType(CodeDragType type) const
+{
+    auto text = dragStringWithDragType(type);
+    const double alpha = colorSpecWithPanelAlpha().alphaComp();
+    constexpr std::uint8_t opaque = 255;
+    if (!text || nearestByte(alpha) == opaque) return text;
+    if (type == CodeDragType::hexCode)
+        appendHexByte(*text, nearestByte(alpha), hexCaseOf(_hexSettings.entryForm()));
+    if (type == CodeDragType::rgbCSS) text = rgbTextWithAlpha(*std::move(text), alpha);
+    return text;
+}
+
+std::optional<std::u16string> QTXHexColorPicker::copyText() const
+{
+    auto text = copyTextWithDragType(_hexSettings.codeDragType());
+    return text && !text->empty() ? text : std::nullopt;
+}
+
 std::vector<HostColorText> QTXHexColorPicker::colorTexts() const
 {
     std::vector<HostColorText> texts;
     for (const CodeDragType type : {CodeDragType::hexCode, CodeDragType::rgbCSS}) {
         texts.push_back({QTXHexSettings::nameCodeDragType(type).value_or(u""),
-                         dragStringWithDragType(type).value_or(u"")});
+                         copyTextWithDragType(type).value_or(u"")});
     }
     const QTXHexColorSpec spec = colorSpecWithPanelAlpha();
     for (const auto& snippet : _hexSettings.codeSnippets()) {

@@ -51,6 +51,14 @@ TEST(CSSColorWriterTest, ColoursAreWrittenInEveryForm)
     }
 }
 
+TEST(CSSColorWriterTest, AnAlphaIsAddedToTheTextOfAnOpaqueColour)
+{
+    EXPECT_EQ(rgbTextWithAlpha(u"rgb(255, 128, 0)", 0.5), u"rgb(255 128 0 / 0.5)");
+    EXPECT_EQ(rgbTextWithAlpha(u"RGB(255, 128, 0);", 0), u"RGB(255 128 0 / 0);");
+    EXPECT_EQ(rgbTextWithAlpha(u"rgb(255, 128, 0)", 0.999), u"rgb(255, 128, 0)");
+    EXPECT_EQ(rgbTextWithAlpha(u"no colour", 0.5), u"no colour / 0.5");
+}
+
 TEST(CSSColorWriterTest, EveryTextReadsBackAsTheSameEightBits)
 {
     std::mt19937 random(11);
