@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
+    <name>DisplayNames</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Code Snippet</source>
+        <translation>Codezeile</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Fraction</source>
+        <translation>Bruch</translation>
+    </message>
+    <message>
+        <source>Hex</source>
+        <translation>Hex</translation>
+    </message>
+    <message>
+        <source>Hex Code</source>
+        <translation>Hex-Code</translation>
+    </message>
+    <message>
+        <source>Input Error</source>
+        <translation>Eingabefehler</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Ganzzahl</translation>
+    </message>
+    <message>
+        <source>Lowercase</source>
+        <translation>Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>No Match</source>
+        <translation>Kein Name</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Uppercase</source>
+        <translation>Großbuchstaben</translation>
+    </message>
+</context>
+<context>
     <name>ListFileFilters</name>
     <message>
         <source>GIMP palettes</source>
@@ -630,6 +685,842 @@
         <source>choose Undo to restore it</source>
         <translation>wählen Sie „Rückgängig“, um die Liste wiederherzustellen</translation>
     </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>The same as --color COLOR.</source>
+        <translation>Dasselbe wie --color COLOR.</translation>
+    </message>
+    <message>
+        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Beginnt mit dieser Farbe: jede Form von CSS Color 4, etwa „#ff8000“ oder „hsl(30 100% 50%)“, oder ein Text, den die Hex-Seite annimmt.</translation>
+    </message>
+    <message>
+        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
+        <translation>Beginnt mit dieser Seite: hex, dialog, palettes oder der Seite eines anderen Plug-ins.</translation>
+    </message>
+    <message>
+        <source>Start in this mode of the hex page: slider, palette or wheel.</source>
+        <translation>Beginnt in dieser Ansicht der Hex-Seite: slider, palette oder wheel.</translation>
+    </message>
+    <message>
+        <source>Size of the page in points, such as 260x340.</source>
+        <translation>Größe der Seite in Punkt, etwa 260x340.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to FILE as PNG and exit. Works without a display and does not change the settings.</source>
+        <translation>Schreibt ein Bild des Fensters als PNG in FILE und endet. Geht ohne Anzeige und ändert die Einstellungen nicht.</translation>
+    </message>
+    <message>
+        <source>Show this face of the hex page: colors or settings.</source>
+        <translation>Zeigt diese Seite der Hex-Seite: colors oder settings.</translation>
+    </message>
+    <message>
+        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
+        <translation>Farben des Fensters anstelle derer des Desktops: light oder dark.</translation>
+    </message>
+    <message>
+        <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
+        <translation>Hält Einstellungen, Farblisten und den Zustand des Fensters in DIR/Vantorel anstatt im Ordner des Benutzers. DIR muss existieren.</translation>
+    </message>
+    <message>
+        <source>Also load this picker plug-in. Can be given more than once.</source>
+        <translation>Lädt auch dieses Plug-in mit einer Farbauswahl. Kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Print the colour to standard output as #rrggbbaa whenever it changes.</source>
+        <translation>Gibt die Farbe bei jeder Änderung als #rrggbbaa auf der Standardausgabe aus.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen, print it as #rrggbb, and exit. Status: 0 picked, 1 cancelled, 3 not possible.</source>
+        <translation>Nimmt eine Farbe vom Bildschirm auf, gibt sie als #rrggbb aus und endet. Status: 0 aufgenommen, 1 abgebrochen, 3 nicht möglich.</translation>
+    </message>
+    <message>
+        <source>Like --pick, and copy the colour to the clipboard.</source>
+        <translation>Wie --pick, und kopiert die Farbe in die Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
+        <translation>Kopiert die Farbe des Fensters mit ihrer Deckkraft in die Zwischenablage, in der Form, die ein Ziehen aus dem Fenster hätte, gibt den Text aus und endet.</translation>
+    </message>
+    <message>
+        <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
+        <translation>Wie --copy, in der Form, die im englischen Menü des Fensters diesen Namen hat.</translation>
+    </message>
+    <message>
+        <source>Let the user choose a colour in a separate panel, print it in the form that a drag out of the panel would carry, and exit. Status: 0 chosen, 1 cancelled, 3 not possible.</source>
+        <translation>Lässt in einem eigenen Fenster eine Farbe wählen, gibt sie in der Form aus, die ein Ziehen aus dem Fenster hätte, und endet. Status: 0 gewählt, 1 abgebrochen, 3 nicht möglich.</translation>
+    </message>
+    <message>
+        <source>Start a new panel even if one is already running.</source>
+        <translation>Startet ein neues Fenster, auch wenn schon eines läuft.</translation>
+    </message>
+    <message>
+        <source>Start without a window, answer requests over D-Bus, and exit when there are no more. The session bus starts the panel with this option.</source>
+        <translation>Startet ohne Fenster, beantwortet Anfragen über D-Bus und endet, wenn keine mehr kommen. Der Sitzungsbus startet das Fenster mit dieser Option.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Zeigt die Version und endet.</translation>
+    </message>
+    <message>
+        <source>A colour panel with pages from plug-ins. If a panel is already running, it is shown and carries out COLOR, --color, --pick, --pick-and-copy, --copy and --copy-as.</source>
+        <translation>Ein Farbfenster mit Seiten aus Plug-ins. Läuft schon eines, wird es gezeigt und führt COLOR, --color, --pick, --pick-and-copy, --copy und --copy-as aus.</translation>
+    </message>
+    <message>
+        <source>Write JSON, one object per line.</source>
+        <translation>Schreibt JSON, ein Objekt je Zeile.</translation>
+    </message>
+    <message>
+        <source>Width and height in points, or in pixels for PNG. The default is 640x480.</source>
+        <translation>Breite und Höhe in Punkt, für PNG in Pixeln. Vorgabe ist 640x480.</translation>
+    </message>
+    <message>
+        <source>The name of the list.</source>
+        <translation>Der Name der Liste.</translation>
+    </message>
+    <message>
+        <source>The colour to show. With &quot;-&quot;, or without COLOR, colours are read from standard input, one per line.</source>
+        <translation>Die Farbe, die gezeigt wird. Mit „-“ oder ohne COLOR werden Farben von der Standardeingabe gelesen, eine je Zeile.</translation>
+    </message>
+    <message>
+        <source>Take the name from this list instead of the list in the settings. With standard input, add the name to each line.</source>
+        <translation>Nimmt den Namen aus dieser Liste anstelle der Liste in den Einstellungen. Mit der Standardeingabe wird der Name an jede Zeile angefügt.</translation>
+    </message>
+    <message>
+        <source>Write only the text of this snippet.</source>
+        <translation>Schreibt nur den Text dieser Codezeile.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in lower case.</source>
+        <translation>Schreibt Hex-Ziffern klein.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in upper case. Without --lowercase or --uppercase, the settings decide.</source>
+        <translation>Schreibt Hex-Ziffern groß. Ohne --lowercase oder --uppercase entscheiden die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Write hex codes without &quot;#&quot;.</source>
+        <translation>Schreibt Hex-Codes ohne „#“.</translation>
+    </message>
+    <message>
+        <source>Write hex codes with &quot;#&quot;. Without --pound-sign or --no-pound-sign, the settings decide.</source>
+        <translation>Schreibt Hex-Codes mit „#“. Ohne --pound-sign oder --no-pound-sign entscheiden die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The colour to name; read as for &quot;show&quot;.</source>
+        <translation>Die Farbe, die benannt wird; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>Take the names from this list instead of the list in the settings.</source>
+        <translation>Nimmt die Namen aus dieser Liste anstelle der Liste in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Print only the names, one per line.</source>
+        <translation>Gibt nur die Namen aus, einen je Zeile.</translation>
+    </message>
+    <message>
+        <source>Write JSON.</source>
+        <translation>Schreibt JSON.</translation>
+    </message>
+    <message>
+        <source>A palette file in any format of &quot;export&quot; except svg.</source>
+        <translation>Eine Palettendatei in einem Format von „export“ außer svg.</translation>
+    </message>
+    <message>
+        <source>Save the list under this name. Requires a single FILE.</source>
+        <translation>Sichert die Liste unter diesem Namen. Braucht eine einzige FILE.</translation>
+    </message>
+    <message>
+        <source>Replace lists of the same name without asking.</source>
+        <translation>Ersetzt Listen desselben Namens ohne Rückfrage.</translation>
+    </message>
+    <message>
+        <source>Write to FILE instead of standard output.</source>
+        <translation>Schreibt in FILE anstatt auf die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Replace files with different contents without asking.</source>
+        <translation>Ersetzt Dateien mit anderem Inhalt ohne Rückfrage.</translation>
+    </message>
+    <message>
+        <source>Revert the last publish of the list: restore the files that it replaced and remove those that it created. Files that have changed since are kept.</source>
+        <translation>Nimmt die letzte Veröffentlichung der Liste zurück: stellt ersetzte Dateien wieder her und entfernt angelegte. Dateien, die sich seither geändert haben, bleiben.</translation>
+    </message>
+    <message>
+        <source>The name of the list. If it is also the name of a command, put &quot;--&quot; before it.</source>
+        <translation>Der Name der Liste. Ist er auch der Name eines Befehls, setzen Sie „--“ davor.</translation>
+    </message>
+    <message>
+        <source>Add palette files to your colour lists.
+A list of the same name is replaced only if you agree.</source>
+        <translation>Fügt Palettendateien Ihren Farblisten hinzu.
+Eine Liste desselben Namens wird nur mit Ihrer Zustimmung ersetzt.</translation>
+    </message>
+    <message>
+        <source>Write a colour list in a format that other programs read.</source>
+        <translation>Schreibt eine Farbliste in einem Format, das andere Programme lesen.</translation>
+    </message>
+    <message>
+        <source>Put a colour list into the palette folders of graphics programs.
+A palette file is written into your palette folder of every version of GIMP, of Inkscape, Krita and KDE, if the folder exists. A file with different contents is replaced only if you agree.</source>
+        <translation>Legt eine Farbliste in die Palettenordner von Grafikprogrammen.
+Eine Palettendatei wird in Ihren Palettenordner jeder Version von GIMP, von Inkscape, Krita und KDE geschrieben, sofern es ihn gibt. Eine Datei mit anderem Inhalt wird nur mit Ihrer Zustimmung ersetzt.</translation>
+    </message>
+    <message>
+        <source>The foreground colour, then the background colour.</source>
+        <translation>Die Farbe des Vordergrunds, dann die des Hintergrunds.</translation>
+    </message>
+    <message>
+        <source>Number of rings, 2 to 128. The default is the number in the settings.</source>
+        <translation>Anzahl der Ringe, 2 bis 128. Vorgabe ist die Zahl in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Write SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Schreibt SVG in FILE; „-“ ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Write PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Schreibt PNG in FILE; „-“ ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Copy the colour to the clipboard.</source>
+        <translation>Kopiert die Farbe in die Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>The colour to start with.</source>
+        <translation>Die Farbe am Anfang.</translation>
+    </message>
+    <message>
+        <source>bash, zsh or fish.</source>
+        <translation>bash, zsh oder fish.</translation>
+    </message>
+    <message>
+        <source>Print the completion script of vantorel-panel.</source>
+        <translation>Gibt das Vervollständigungs-Skript von vantorel-panel aus.</translation>
+    </message>
+    <message>
+        <source>Print the manual page of vantorel-panel.</source>
+        <translation>Gibt die Handbuchseite von vantorel-panel aus.</translation>
+    </message>
+    <message>
+        <source>Show a colour in every form, with its name and snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Zeigt eine Farbe in jeder Form, mit Namen und Codezeilen.
+Farben auf der Standardeingabe werden zeilenweise gelesen. Für jede wird eine Zeile geschrieben: der Hex-Code, ein Tabulator und der rgb()-Text; --list fügt einen Tabulator und den Namen an. Leere Zeilen werden übergangen. Eine Zeile, die keine Farbe ist, wird auf der Standardfehlerausgabe gemeldet, und die folgenden werden noch gelesen.</translation>
+    </message>
+    <message>
+        <source>Print the name of each colour on a line of its own.
+If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
+        <translation>Gibt den Namen jeder Farbe auf einer eigenen Zeile aus.
+Hat die Liste keinen genauen Namen, wohl aber CSS Color 4, wird dieser ausgegeben, gefolgt von „(CSS Color 4)“. Hat keine einen, folgen nach einem „*“ die Namen naher Farben; ist keine Farbe nah, lautet die Zeile „No Match“.</translation>
+    </message>
+    <message>
+        <source>List all colour lists with their number of colours, name and file.</source>
+        <translation>Listet alle Farblisten mit Anzahl der Farben, Namen und Datei auf.</translation>
+    </message>
+    <message>
+        <source>List the colours of a list, or import, export or publish a list.</source>
+        <translation>Listet die Farben einer Liste auf, oder übernimmt, exportiert oder veröffentlicht eine Liste.</translation>
+    </message>
+    <message>
+        <source>List the snippets in the settings with their formats.</source>
+        <translation>Listet die Codezeilen der Einstellungen mit ihren Formaten auf.</translation>
+    </message>
+    <message>
+        <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
+The ratio is truncated to two decimals, not rounded.</source>
+        <translation>Gibt das Kontrastverhältnis zweier Farben aus und die Kriterien von WCAG 2.2, die es erfüllt.
+Das Verhältnis wird auf zwei Stellen abgeschnitten, nicht gerundet.</translation>
+    </message>
+    <message>
+        <source>Draw the colour wheel.</source>
+        <translation>Zeichnet das Farbrad.</translation>
+    </message>
+    <message>
+        <source>Draw the palette of a colour list.</source>
+        <translation>Zeichnet die Palette einer Farbliste.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen and print it (vantorel-panel).</source>
+        <translation>Nimmt eine Farbe vom Bildschirm auf und gibt sie aus (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Choose a colour in the colour panel and print it (vantorel-panel).</source>
+        <translation>Lässt im Farbfenster eine Farbe wählen und gibt sie aus (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Start the colour panel with the options that follow. &quot;panel --help&quot; lists them.</source>
+        <translation>Startet das Farbfenster mit den folgenden Optionen. „panel --help“ listet sie auf.</translation>
+    </message>
+    <message>
+        <source>Print a completion script for a shell.
+For bash: source &lt;(vantorel completions bash)</source>
+        <translation>Gibt ein Vervollständigungs-Skript für eine Shell aus.
+Für bash: source &lt;(vantorel completions bash)</translation>
+    </message>
+    <message>
+        <source>Print the manual page, formatted for man.</source>
+        <translation>Gibt die Handbuchseite aus, formatiert für man.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Farben für Menschen, die CSS und Code schreiben.
+Eine COLOR ist jede Form von CSS Color 4 („#ff8000“, „rgb(255 128 0)“, „oklch(70% 0.1 50)“, „orange“), ein Text, den der Farbwähler annimmt („ff8000“, „RGB(255, 128, 0);“), oder ein Name der Farbliste.
+Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</translation>
+    </message>
+    <message>
+        <source>palette of graphics programs</source>
+        <translation>Palette von Grafikprogrammen</translation>
+    </message>
+    <message>
+        <source>custom properties</source>
+        <translation>CSS-Variablen</translation>
+    </message>
+    <message>
+        <source>variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>swatch exchange, binary</source>
+        <translation>Swatch Exchange, binär</translation>
+    </message>
+    <message>
+        <source>a picture with names</source>
+        <translation>ein Bild mit Namen</translation>
+    </message>
+    <message>
+        <source>there is no snippet &quot;%1&quot;</source>
+        <translation>es gibt keine Codezeile „%1“</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel snippets&quot; to list them</source>
+        <translation>„vantorel snippets“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>there is no colour list to name colours by</source>
+        <translation>es gibt keine Farbliste, nach der Farben benannt werden könnten</translation>
+    </message>
+    <message>
+        <source>choose one with &quot;--list NAME&quot;; run &quot;vantorel lists&quot; to list them</source>
+        <translation>wählen Sie eine mit „--list NAME“; „vantorel lists“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>standard input, line %1: %2</source>
+        <translation>Standardeingabe, Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>standard input has %1 more lines that are not colours</source>
+        <translation>die Standardeingabe hat %1 weitere Zeilen, die keine Farben sind</translation>
+    </message>
+    <message>
+        <source>give one colour per line</source>
+        <translation>geben Sie eine Farbe je Zeile an</translation>
+    </message>
+    <message>
+        <source>the line is longer than 64 KiB</source>
+        <translation>die Zeile ist länger als 64 KiB</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read</source>
+        <translation>die Standardeingabe lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>give colours as arguments, or redirect standard input from a file or program</source>
+        <translation>geben Sie Farben als Argumente an, oder leiten Sie die Standardeingabe aus einer Datei oder einem Programm um</translation>
+    </message>
+    <message>
+        <source>--size cannot be &quot;%1&quot;</source>
+        <translation>--size kann nicht „%1“ sein</translation>
+    </message>
+    <message>
+        <source>use a size from 8x8 to 16384x16384, such as 640x480</source>
+        <translation>verwenden Sie eine Größe von 8x8 bis 16384x16384, etwa 640x480</translation>
+    </message>
+    <message>
+        <source>--rings cannot be &quot;%1&quot;</source>
+        <translation>--rings kann nicht „%1“ sein</translation>
+    </message>
+    <message>
+        <source>use a whole number from %1 to %2</source>
+        <translation>verwenden Sie eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>this format is binary and is not written to a terminal</source>
+        <translation>dieses Format ist binär und wird nicht auf ein Terminal geschrieben</translation>
+    </message>
+    <message>
+        <source>give a file, or redirect the output</source>
+        <translation>geben Sie eine Datei an, oder leiten Sie die Ausgabe um</translation>
+    </message>
+    <message>
+        <source>check that it is a readable file of at most 64 MiB</source>
+        <translation>prüfen Sie, ob es eine lesbare Datei von höchstens 64 MiB ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message>
+        <source>a list &quot;%1&quot; with different colours already exists</source>
+        <translation>es gibt schon eine Liste „%1“ mit anderen Farben</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it, or &quot;--name NAME&quot; to choose another name</source>
+        <translation>„--yes“ ersetzt sie, „--name NAME“ wählt einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported</source>
+        <translation>„%1“ wurde nicht übernommen</translation>
+    </message>
+    <message>
+        <source>use &quot;--name NAME&quot; to choose another name</source>
+        <translation>„--name NAME“ wählt einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; cannot be saved</source>
+        <translation>die Liste „%1“ lässt sich nicht sichern</translation>
+    </message>
+    <message>
+        <source>check that you can write to your data folder</source>
+        <translation>prüfen Sie, ob Sie in Ihren Datenordner schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 lines or entries were skipped</source>
+        <translation>„%1“: %2 Zeilen oder Einträge wurden ausgelassen</translation>
+    </message>
+    <message>
+        <source>each must contain one colour</source>
+        <translation>jede muss eine Farbe enthalten</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>NAME fehlt</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list the names, or &quot;vantorel list --help&quot; for the commands</source>
+        <translation>„vantorel lists“ listet die Namen auf, „vantorel list --help“ die Befehle</translation>
+    </message>
+    <message>
+        <source>--name is given for %1 files</source>
+        <translation>--name ist für %1 Dateien angegeben</translation>
+    </message>
+    <message>
+        <source>use it with a single FILE</source>
+        <translation>verwenden Sie es mit einer einzigen FILE</translation>
+    </message>
+    <message>
+        <source>--name is empty</source>
+        <translation>--name ist leer</translation>
+    </message>
+    <message>
+        <source>give the list a name</source>
+        <translation>geben Sie der Liste einen Namen</translation>
+    </message>
+    <message>
+        <source>no output file is given</source>
+        <translation>es ist keine Ausgabedatei angegeben</translation>
+    </message>
+    <message>
+        <source>give --svg FILE or --png FILE</source>
+        <translation>geben Sie --svg FILE oder --png FILE an</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn</source>
+        <translation>das Bild lässt sich nicht zeichnen</translation>
+    </message>
+    <message>
+        <source>try a smaller --size</source>
+        <translation>versuchen Sie ein kleineres --size</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written (%1)</source>
+        <translation>die Standardausgabe lässt sich nicht schreiben (%1)</translation>
+    </message>
+    <message>
+        <source>redirect it to a file with free space, or to a program that reads it</source>
+        <translation>leiten Sie sie in eine Datei mit freiem Platz oder an ein Programm, das sie liest</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written</source>
+        <translation>„%1“ lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>check that its folder exists and that you can write to it</source>
+        <translation>prüfen Sie, ob der Ordner existiert und ob Sie darin schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>the program vantorel-panel is missing</source>
+        <translation>das Programm vantorel-panel fehlt</translation>
+    </message>
+    <message>
+        <source>install it beside vantorel or in a folder of PATH</source>
+        <translation>installieren Sie es neben vantorel oder in einem Ordner von PATH</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run (%2)</source>
+        <translation>„%1“ lässt sich nicht ausführen (%2)</translation>
+    </message>
+    <message>
+        <source>reinstall vantorel-panel</source>
+        <translation>installieren Sie vantorel-panel neu</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be read</source>
+        <translation>das Verzeichnis der veröffentlichten Dateien lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>check that you can read your data folder</source>
+        <translation>prüfen Sie, ob Sie Ihren Datenordner lesen dürfen</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has not been published</source>
+        <translation>die Liste „%1“ ist nicht veröffentlicht</translation>
+    </message>
+    <message>
+        <source>only lists published with &quot;vantorel list publish&quot; can be undone</source>
+        <translation>nur mit „vantorel list publish“ veröffentlichte Listen lassen sich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was published</source>
+        <translation>„%1“ hat sich seit der Veröffentlichung geändert</translation>
+    </message>
+    <message>
+        <source>it is kept; remove it yourself if you do not need it</source>
+        <translation>die Datei bleibt; entfernen Sie sie selbst, wenn Sie sie nicht brauchen</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder</source>
+        <translation>prüfen Sie, ob Sie in den Ordner schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written</source>
+        <translation>das Verzeichnis der veröffentlichten Dateien lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>no graphics program has a folder for your palettes</source>
+        <translation>kein Grafikprogramm hat einen Ordner für Ihre Paletten</translation>
+    </message>
+    <message>
+        <source>start GIMP, Inkscape or Krita once to create it</source>
+        <translation>starten Sie GIMP, Inkscape oder Krita einmal, um ihn anzulegen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced</source>
+        <translation>„%1“ lässt sich nicht ersetzen</translation>
+    </message>
+    <message>
+        <source>remove it, or make it a readable file</source>
+        <translation>entfernen Sie es, oder machen Sie eine lesbare Datei daraus</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists with different contents</source>
+        <translation>„%1“ gibt es schon mit anderem Inhalt</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it</source>
+        <translation>„--yes“ ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has just been changed by another program</source>
+        <translation>„%1“ wurde soeben von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>publish again</source>
+        <translation>veröffentlichen Sie noch einmal</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written, so no file was published</source>
+        <translation>das Verzeichnis der veröffentlichten Dateien lässt sich nicht schreiben, darum wurde nichts veröffentlicht</translation>
+    </message>
+    <message>
+        <source>there is no colour list &quot;%1&quot;</source>
+        <translation>es gibt keine Farbliste „%1“</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list them</source>
+        <translation>„vantorel lists“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>try fewer colours at a time</source>
+        <translation>versuchen Sie es mit weniger Farben auf einmal</translation>
+    </message>
+    <message>
+        <source>see &quot;%1 --help&quot;</source>
+        <translation>siehe „%1 --help“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a command</source>
+        <translation>„%1“ ist kein Befehl</translation>
+    </message>
+    <message>
+        <source>put it after &quot;%1&quot;</source>
+        <translation>setzen Sie es hinter „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; precedes the command</source>
+        <translation>„%1“ steht vor dem Befehl</translation>
+    </message>
+    <message>
+        <source>%1 precedes the command</source>
+        <translation>%1 steht vor dem Befehl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option &quot;%2&quot;</source>
+        <translation>„%1“ hat keine Option „%2“</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 nimmt keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 braucht einen Wert</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 ist zweimal angegeben</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 ist erforderlich</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2</source>
+        <translation>%1 lässt sich nicht mit %2 verbinden</translation>
+    </message>
+    <message>
+        <source>the command is missing</source>
+        <translation>der Befehl fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>„%1“ ist ein Argument zu viel</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;</source>
+        <translation>%1 kann nicht „%2“ sein</translation>
+    </message>
+    <message>
+        <source>use %1</source>
+        <translation>verwenden Sie %1</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>&quot;%1 COMMAND --help&quot; shows the help of a command.</source>
+        <translation>„%1 COMMAND --help“ zeigt die Hilfe zu einem Befehl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>„%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>its arrays and objects are more than %1 deep</source>
+        <translation>ihre Arrays und Objekte sind mehr als %1 Ebenen tief</translation>
+    </message>
+    <message>
+        <source>give a list of names and colours</source>
+        <translation>geben Sie eine Liste von Namen und Farben an</translation>
+    </message>
+    <message>
+        <source>it is not a JSON colour list</source>
+        <translation>es ist keine Farbliste in JSON</translation>
+    </message>
+    <message>
+        <source>it contains no colours</source>
+        <translation>es enthält keine Farben</translation>
+    </message>
+    <message>
+        <source>give a file in any format of &quot;export&quot; except svg</source>
+        <translation>geben Sie eine Datei in einem Format von „export“ außer svg an</translation>
+    </message>
+    <message>
+        <source>it is a palette without colours</source>
+        <translation>es ist eine Palette ohne Farben</translation>
+    </message>
+    <message>
+        <source>give one with rows &quot;R G B NAME&quot;</source>
+        <translation>geben Sie eine mit Zeilen „R G B NAME“ an</translation>
+    </message>
+    <message>
+        <source>it is truncated</source>
+        <translation>es ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>give the complete file</source>
+        <translation>geben Sie die ganze Datei an</translation>
+    </message>
+    <message>
+        <source>give a file with RGB, CMYK, Lab or grey colours</source>
+        <translation>geben Sie eine Datei mit Farben in RGB, CMYK, Lab oder Grau an</translation>
+    </message>
+    <message>
+        <source>pictures cannot be imported</source>
+        <translation>Bilder lassen sich nicht übernehmen</translation>
+    </message>
+    <message>
+        <source>give a palette, such as one exported with &quot;--format gpl&quot;</source>
+        <translation>geben Sie eine Palette an, etwa eine mit „--format gpl“ ausgegebene</translation>
+    </message>
+    <message>
+        <source>--page: there is no page &quot;%1&quot;</source>
+        <translation>--page: es gibt keine Seite „%1“</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined</source>
+        <translation>%1 lassen sich nicht verbinden</translation>
+    </message>
+    <message>
+        <source>COLOR and --color cannot be combined</source>
+        <translation>COLOR und --color lassen sich nicht verbinden</translation>
+    </message>
+    <message>
+        <source>--color: %1</source>
+        <translation>--color: %1</translation>
+    </message>
+    <message>
+        <source>--size: &quot;%1&quot; is not a size</source>
+        <translation>--size: „%1“ ist keine Größe</translation>
+    </message>
+    <message>
+        <source>try 260x340</source>
+        <translation>versuchen Sie 260x340</translation>
+    </message>
+    <message>
+        <source>--data: there is no folder &quot;%1&quot;</source>
+        <translation>--data: es gibt keinen Ordner „%1“</translation>
+    </message>
+    <message>
+        <source>--screenshot: &quot;%1&quot; cannot be written</source>
+        <translation>--screenshot: „%1“ lässt sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>there is no display (neither WAYLAND_DISPLAY nor DISPLAY is set); --screenshot FILE works without one</source>
+        <translation>es gibt keine Anzeige (weder WAYLAND_DISPLAY noch DISPLAY ist gesetzt); --screenshot FILE geht ohne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists: %2 colours</source>
+        <translation>„%1“ gibt es schon: %2 Farben</translation>
+    </message>
+    <message>
+        <source>Replace the list &quot;%1&quot;?</source>
+        <translation>Die Liste „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 colours from %3</source>
+        <translation>„%1“: %2 Farben aus %3</translation>
+    </message>
+    <message>
+        <source>restored: %1</source>
+        <translation>wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>entfernt: %1</translation>
+    </message>
+    <message>
+        <source>already undone: %1</source>
+        <translation>schon zurückgenommen: %1</translation>
+    </message>
+    <message>
+        <source>up to date: %1</source>
+        <translation>schon aktuell: %1</translation>
+    </message>
+    <message>
+        <source>Replace &quot;%1&quot;, which has different contents?</source>
+        <translation>„%1“ mit anderem Inhalt ersetzen?</translation>
+    </message>
+    <message>
+        <source>kept: %1</source>
+        <translation>behalten: %1</translation>
+    </message>
+    <message>
+        <source>replaced for %1</source>
+        <translation>ersetzt für %1</translation>
+    </message>
+    <message>
+        <source>written for %1</source>
+        <translation>geschrieben für %1</translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <translation>%1 [j/N]</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>j</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has just been changed</source>
+        <translation>die Liste „%1“ wurde soeben geändert</translation>
+    </message>
+    <message>
+        <source>import once more</source>
+        <translation>übernehmen Sie noch einmal</translation>
+    </message>
+    <message>
+        <source>another program is still changing files in &quot;%1&quot;</source>
+        <translation>ein anderes Programm ändert noch Dateien in „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>„%1“ lässt sich nicht lesen: es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1</source>
+        <translation>die Standardausgabe lässt sich nicht schreiben: %1</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -691,11 +1582,11 @@
     </message>
     <message>
         <source>Drag</source>
-        <translation>Zug</translation>
+        <translation>Beim Ziehen</translation>
     </message>
     <message>
         <source>Drag type</source>
-        <translation>Was ein Ziehen trägt</translation>
+        <translation>Inhalt beim Ziehen</translation>
     </message>
     <message>
         <source>Enlarge the panel to show all settings</source>
@@ -889,6 +1780,14 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Colour dialog</source>
         <translation>Farbdialog</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>In den Farben bewegen</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Farbe nehmen</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +2054,10 @@ Bedienelemente und Grafik: AA %6</translation>
         <source>Copy as</source>
         <translation>Kopieren als</translation>
     </message>
+    <message>
+        <source>Next control</source>
+        <translation>Nächstes Bedienelement</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelTools</name>
@@ -1185,10 +2088,6 @@ Bedienelemente und Grafik: AA %6</translation>
 <context>
     <name>vantorel::PanelWindow</name>
     <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
-    </message>
-    <message>
         <source>A plug-in was left out</source>
         <translation>Ein Plug-in wurde ausgelassen</translation>
     </message>
@@ -1203,6 +2102,34 @@ Bedienelemente und Grafik: AA %6</translation>
         <source>The page &quot;%1&quot; could not be created because its interface file is missing or damaged. Try reinstalling %2.</source>
         <translation>Die Seite „%1“ ließ sich nicht erzeugen, weil ihre Oberflächendatei fehlt oder beschädigt ist. Versuchen Sie, %2 neu zu installieren.</translation>
     </message>
+    <message>
+        <source>Enter what was typed</source>
+        <translation>Eingabe übernehmen</translation>
+    </message>
+    <message>
+        <source>Give up what was typed</source>
+        <translation>Eingabe verwerfen</translation>
+    </message>
+    <message>
+        <source>Change a component</source>
+        <translation>Anteil ändern</translation>
+    </message>
+    <message>
+        <source>Change a component by 16</source>
+        <translation>Anteil um 16 ändern</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>In den Farben bewegen</translation>
+    </message>
+    <message>
+        <source>Move to the ends of the colours</source>
+        <translation>An die Enden der Farben springen</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Farbe nehmen</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::RecentColors</name>
@@ -1216,6 +2143,10 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Escape or a click closes the list.</source>
+        <translation>Escape oder ein Klick schließt die Liste.</translation>
     </message>
 </context>
 </TS>

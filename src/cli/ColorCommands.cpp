@@ -4,6 +4,7 @@
 #include "cli/Failure.h"
 #include "cli/PanelProgram.h"
 #include "cli/Terminal.h"
+#include "csscolor/CSSNamedColors.h"
 #include "csscolor/Contrast.h"
 #include "listformats/Json.h"
 #include "result/HarmlessLine.h"
@@ -125,17 +126,37 @@ public:
     void write(Output& output, const ByteColor& color, bool) override
     {
         const ColorNameMatch match = _namer.match(color.spec());
-        if (_json) {
-            std::string json;
-            appendJsonName(json, _namer, match);
-            output.write(json);
+        const auto cssName =
+            match.exactPlace ? std::nullopt : cssNameOfColor(color.spec().javaRGBInt());
+        std::string line;
+        if (cssName) {
+            writeCSSName(line, utf8FromUtf16(*cssName));
+        } else if (_json) {
+            appendJsonName(line, _namer, match);
         } else {
-            output.write(harmlessLine(utf8FromUtf16(_namer.title(match))));
+            line = harmlessLine(utf8FromUtf16(_namer.title(match)));
         }
+        output.write(line);
         output.write('\n');
     }
 
 private:
+    void writeCSSName(std::string& line, const std::string& name) const
+    {
+        const std::string list = utf8FromUtf16(cssColor4ListName);
+        if (!_json) {
+            line = name + " (" + list + ")";
+            return;
+        }
+        line = "{";
+        appendJsonKey(line, "list");
+        appendJson(line, std::string_view(list));
+        appendJsonKey(line, "exact");
+        appendJson(line, std::string_view(name));
+        appendJsonKey(line, "close");
+        line += "[]}";
+    }
+
     const ColorNamer& _namer;
     bool _json;
 };
@@ -188,7 +209,9 @@ int printSnippets(Session& session, const CommandLine& commandLine)
         const std::string format = utf8FromUtf16(snippet.formatStringSnippet().value_or(u""));
         const std::string variables = utf8FromUtf16(snippet.varFormSnippet().value_or(u""));
         std::string line;
-        if (commandLine.json) {
+        if (commandLine.names) {
+            line = harmlessLine(name);
+        } else if (commandLine.json) {
             line = "{";
             for (const auto& [key, value] :
                  {std::pair{"name", name}, {"format", format}, {"variables", variables}}) {

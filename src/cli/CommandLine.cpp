@@ -27,6 +27,7 @@ CommandLine::CommandLine(GivenArguments given)
       lowercase(eitherOf(given, "--lowercase", "--uppercase")),
       poundSign(eitherOf(given, "--pound-sign", "--no-pound-sign")),
       json(given.has("--json")),
+      names(given.has("--names")),
       yes(given.has("--yes")),
       undo(given.has("--undo")),
       copy(given.has("--copy")),

@@ -26,6 +26,7 @@ struct CommandLine {
     std::optional<bool> lowercase;
     std::optional<bool> poundSign;
     bool json = false;
+    bool names = false;
     bool yes = false;
     bool undo = false;
     bool copy = false;

@@ -3,6 +3,7 @@
 #include "cli/Pictures.h"
 #include "cli/Terminal.h"
 #include "colorlists/PaletteFile.h"
+#include "commandline/Translations.h"
 #include "csscolor/CSSColorWriter.h"
 #include "listformats/Json.h"
 #include "listformats/ListFormats.h"
@@ -107,9 +108,10 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
     if (!lock) throw cannotBeSaved();
     const bool isOwn = store.pathOfOwnList(list->name()).has_value();
     const auto known = isOwn ? store.colorListNamed(list->name()) : nullptr;
-    const std::string count = std::to_string(list->allKeys().size()) + " colours";
+    const std::size_t count = list->allKeys().size();
     if (known && haveSameColors(*known, *list)) {
-        session.output().write("\"" + name + "\" already exists: " + count + "\n");
+        session.output().write(
+            inUsersWords(phrase("\"%1\" already exists: %2 colours", name, count)) + "\n");
         return;
     }
     if (isOwn && !commandLine.yes) {
@@ -121,7 +123,7 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
         session.output().flush();
         // The answer can take a while, and other programs must not wait for it.
         lock.reset();
-        if (!confirms("Replace the list \"" + name + "\"?")) {
+        if (!confirms(phrase("Replace the list \"%1\"?", name))) {
             throw Failure{{phrase("\"%1\" was not imported", excerpt(path)),
                            phrase("use \"--name NAME\" to choose another name")}};
         }
@@ -134,7 +136,8 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
         }
     }
     if (!store.writeColorList(list)) throw cannotBeSaved();
-    session.output().write("\"" + name + "\": " + count + " from " + harmlessLine(path) + "\n");
+    session.output().write(inUsersWords(phrase("\"%1\": %2 colours from %3", name, count, path)) +
+                           "\n");
     if (file->skipped > 0) {
         session.output().flush();
         reportError(
@@ -148,6 +151,10 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 int printLists(Session& session, const CommandLine& commandLine)
 {
     for (const auto& [name, path] : session.lists().all()) {
+        if (commandLine.names) {
+            session.output().write(utf8Line(name) + '\n');
+            continue;
+        }
         const auto list = session.lists().listNamed(name);
         // The list has been removed since the folder was read.
         if (!list) continue;

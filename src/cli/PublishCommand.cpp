@@ -2,15 +2,17 @@
 #include "cli/Failure.h"
 #include "cli/Publishing.h"
 #include "cli/Terminal.h"
+#include "commandline/Translations.h"
 #include "result/HarmlessLine.h"
 #include "text/Unicode.h"
 
 namespace vantorel {
 namespace {
 
-void printResult(Session& session, const std::string& what, const std::string& path)
+/// Prints what was done about a file.
+void printResult(Session& session, const Phrase& result)
 {
-    session.output().write(what + ": " + harmlessLine(path) + '\n');
+    session.output().write(inUsersWords(result) + '\n');
 }
 
 /// Reports an error after the output that precedes it.
@@ -37,13 +39,13 @@ int undoListPublish(Session& session, const std::u16string& name)
     for (const PublishedFile& file : *latest) {
         switch (undoPublish(session.files(), file)) {
             case UndoResult::restored:
-                printResult(session, "restored", file.path);
+                printResult(session, phrase("restored: %1", file.path));
                 break;
             case UndoResult::removed:
-                printResult(session, "removed", file.path);
+                printResult(session, phrase("removed: %1", file.path));
                 break;
             case UndoResult::nothingToDo:
-                printResult(session, "already undone", file.path);
+                printResult(session, phrase("already undone: %1", file.path));
                 break;
             case UndoResult::changedSince:
                 reportErrorInOrder(
@@ -90,7 +92,7 @@ int publishList(Session& session, const CommandLine& commandLine)
     PublishRecords::Publish publish;
     for (const PublishPlan::Target& target : plan.targets) {
         if (target.isAsWanted) {
-            printResult(session, "up to date", target.file.path);
+            printResult(session, phrase("up to date: %1", target.file.path));
         } else if (target.isBlocked) {
             reportErrorInOrder(session,
                                {phrase("\"%1\" cannot be replaced", excerpt(target.file.path)),
@@ -104,9 +106,9 @@ int publishList(Session& session, const CommandLine& commandLine)
         } else {
             session.output().flush();
             if (target.file.before && !commandLine.yes &&
-                !confirms("Replace \"" + excerpt(target.file.path) +
-                          "\", which has different contents?")) {
-                printResult(session, "kept", target.file.path);
+                !confirms(phrase("Replace \"%1\", which has different contents?",
+                                 excerpt(target.file.path)))) {
+                printResult(session, phrase("kept: %1", target.file.path));
                 continue;
             }
             // The file may have changed while the user was asked.
@@ -136,8 +138,10 @@ int publishList(Session& session, const CommandLine& commandLine)
         };
         if (std::find_if(publish.begin(), publish.end(), isPlanned) == publish.end()) continue;
         if (session.files().writeForOthers(target.file.path, target.file.written)) {
-            session.output().write((target.file.before ? "replaced for " : "written for ") +
-                                   harmlessLine(describe(target)) + '\n');
+            const std::string where = describe(target);
+            const Phrase report = target.file.before ? phrase("replaced for %1", where)
+                                                     : phrase("written for %1", where);
+            printResult(session, report);
             written.push_back(target.file);
         } else {
             reportErrorInOrder(session,

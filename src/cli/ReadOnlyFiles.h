@@ -27,6 +27,7 @@ public:
         if (_places == Places::usersOwn) {
             directories.configDirectories.clear();
             directories.dataDirectories.clear();
+            directories.programData.reset();
         }
         return directories;
     }

@@ -2,8 +2,9 @@
 
 #include "cli/Failure.h"
 #include "cli/LineReader.h"
+#include "commandline/Translations.h"
 #include "csscolor/Contrast.h"
-#include "result/HarmlessLine.h"
+#include "text/ASCII.h"
 
 #include <unistd.h>
 
@@ -45,16 +46,19 @@ bool canAsk()
     return isTerminal(STDIN_FILENO) && isTerminal(STDERR_FILENO);
 }
 
-bool confirms(const std::string& question)
+bool confirms(const Phrase& question)
 {
     if (!canAsk()) return false;
-    const std::string text = harmlessLine(question) + " [y/N] ";
+    const std::string text = inUsersWords(phrase("%1 [y/N]", question)) + " ";
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text.data(), text.size());
     // A terminal returns one line per read, so no part of the next answer is lost.
     LineReader lines(STDIN_FILENO);
     std::string_view answer;
     if (lines.next(answer, [] {}) != LineReader::Result::line) return false;
-    return answer == "y" || answer == "Y" || answer == "yes";
+    // "y" counts in every language, and so does the letter that the translation shows.
+    const std::string letter = inUsersWords(phrase("y"));
+    return answer == "y" || answer == "Y" || answer == "yes" ||
+           lowerCased(std::string(answer)) == letter;
 }
 
 }  // namespace vantorel

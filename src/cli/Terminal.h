@@ -1,6 +1,7 @@
 #pragma once
 
 #include "colortext/ByteColor.h"
+#include "result/Message.h"
 
 #include <string>
 
@@ -16,9 +17,9 @@ namespace vantorel {
 /// terminal. A translucent colour is composed over white.
 [[nodiscard]] std::string swatchOf(const ByteColor& color);
 
-/// Asks a question on the terminal. Returns true only for the answers "y", "Y" and "yes", and false
-/// without a terminal.
-[[nodiscard]] bool confirms(const std::string& question);
+/// Asks a question on the terminal. Returns true only for the answers "y", "Y" and "yes" and for
+/// the letter of yes in the user's language, and false without a terminal.
+[[nodiscard]] bool confirms(const Phrase& question);
 /// Whether there is a terminal to ask a question on.
 [[nodiscard]] bool canAsk();
 

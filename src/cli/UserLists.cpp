@@ -1,7 +1,9 @@
 #include "cli/UserLists.h"
 
 #include "cli/Failure.h"
+#include "color/QTXHexColorSpec.h"
 #include "colorlists/QTXHexColorLists.h"
+#include "csscolor/CSSNamedColors.h"
 #include "result/HarmlessLine.h"
 #include "text/Unicode.h"
 
@@ -10,10 +12,28 @@
 namespace vantorel {
 namespace {
 
+std::vector<std::u16string> builtInNames()
+{
+    std::vector<std::u16string> names = allHexColorListNames();
+    names.emplace_back(cssColor4ListName);
+    return names;
+}
+
 bool isBuiltIn(const std::u16string& name)
 {
-    const auto& names = allHexColorListNames();
+    const auto names = builtInNames();
     return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::shared_ptr<HostColorList> cssColor4List()
+{
+    auto list = std::make_shared<HostColorList>(std::u16string(cssColor4ListName));
+    QTXHexColorSpec spec;
+    for (const auto& [name, value] : cssNamedColors()) {
+        spec.setHexRed(value >> 16, value >> 8 & 0xFF, value & 0xFF);
+        list->setColor(spec.colorHexColorSpec(), std::u16string(name));
+    }
+    return list;
 }
 
 /// A store without lists that saves none, so that the built-in lists are built in memory.
@@ -29,6 +49,7 @@ public:
 
 std::shared_ptr<HostColorList> builtInList(const std::u16string& name)
 {
+    if (name == cssColor4ListName) return cssColor4List();
     EmptyStore store;
     const BuiltInList token = hexColorListFromString(name);
     switch (token) {
@@ -81,7 +102,7 @@ std::vector<UserLists::Entry> UserLists::all()
         lists.push_back({std::move(listed.name),
                          isHidden ? std::nullopt : std::optional(std::move(listed.path))});
     }
-    for (const std::u16string& name : allHexColorListNames()) {
+    for (const std::u16string& name : builtInNames()) {
         const auto place = std::ranges::lower_bound(lists, name, {}, &Entry::name);
         if (place == lists.end() || place->name != name) lists.insert(place, {name, std::nullopt});
     }

@@ -13,8 +13,11 @@
 
 namespace vantorel {
 
+/// The list of the names that browsers know. The panel finds it as an installed palette file.
+inline constexpr std::u16string_view cssColor4ListName = u"CSS Color 4";
+
 /// The colour lists that the picker offers. The built-in lists are available even before the picker
-/// has saved them. This class never saves a list.
+/// has saved them, and so is "CSS Color 4". This class never saves a list.
 class UserLists {
 public:
     /// `files` must outlive this object.

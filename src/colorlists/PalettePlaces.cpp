@@ -11,7 +11,7 @@ namespace {
 
 using Takes = PaletteFolder::Takes;
 
-enum class Base { configHome, dataHome, configDirectories, dataDirectories };
+enum class Base { configHome, dataHome, configDirectories, dataDirectories, programData };
 
 struct Place {
     const char16_t* program;
@@ -28,6 +28,7 @@ constexpr std::array places{
     Place{u"Inkscape", Base::configHome, "inkscape/palettes", Takes::gplFiles},
     Place{u"Krita", Base::dataHome, "krita/palettes", Takes::gplFiles},
     Place{u"KDE", Base::configHome, "colors", Takes::everyFile},
+    Place{u"Vantorel", Base::programData, "vantorel/palettes", Takes::gplFiles},
     Place{u"GIMP", Base::dataDirectories, "gimp/*/palettes", Takes::gplFiles},
     Place{u"Inkscape", Base::dataDirectories, "inkscape/palettes", Takes::gplFiles},
     Place{u"Krita", Base::dataDirectories, "krita/palettes", Takes::gplFiles},
@@ -51,6 +52,8 @@ std::vector<std::string> pathsOfBase(const HostBaseDirectories& directories, Bas
             return directories.configDirectories;
         case Base::dataDirectories:
             return directories.dataDirectories;
+        case Base::programData:
+            return one(directories.programData);
     }
     return {};
 }

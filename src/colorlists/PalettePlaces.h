@@ -6,8 +6,8 @@
 
 namespace vantorel {
 
-/// The folders where other programs keep palettes, below the base directories of the host's files.
-/// A host without base directories has none.
+/// The folders where other programs keep palettes, and where ours are installed, below the base
+/// directories of the host's files. A host without base directories has none.
 class PalettePlaces {
 public:
     /// `files` must outlive this object.

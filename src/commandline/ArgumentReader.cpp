@@ -24,17 +24,18 @@ public:
 
     Result<ArgumentReading> read()
     {
-        while (_next < _arguments.size() && !_command->handsOn && _arguments[_next] != "--")
+        while (_next < _arguments.size() && _command->handsOnTo == nullptr &&
+               _arguments[_next] != "--")
             take(_arguments[_next++]);
         if (_wantsHelp) return ArgumentReading{{}, helpText(*_command, _names)};
         if (_given.has(versionOption))
             return ArgumentReading{{}, _names + " " + std::string(_program.version) + "\n"};
 
-        if (_next < _arguments.size() && !_command->handsOn) ++_next;
+        if (_next < _arguments.size() && _command->handsOnTo == nullptr) ++_next;
         for (; _next < _arguments.size(); ++_next)
             _given.operands.push_back(_arguments[_next]);
         if (!_error) checkOptions();
-        if (!_error && !_command->handsOn) checkOperands();
+        if (!_error && _command->handsOnTo == nullptr) checkOperands();
         if (_error) return *std::move(_error);
         return ArgumentReading{std::move(_given), {}};
     }
@@ -135,12 +136,10 @@ private:
     void checkChoice(const std::string& what, const std::string& value, Choices choices)
     {
         if (choices == nullptr) return;
-        std::vector<std::string> values;
-        for (const Choice& choice : choices())
-            values.emplace_back(choice.value);
-        if (std::find(values.begin(), values.end(), value) == values.end())
+        const std::vector<Choice> all = choices();
+        if (std::ranges::find(all, value, &Choice::value) == all.end())
             fail(phrase("%1 cannot be \"%2\"", what, excerpt(value)),
-                 phrase("use %1", sentenceOf(values)));
+                 phrase("use %1", sentenceOf(choices)));
     }
 
     const ProgramRow& _program;

@@ -28,15 +28,10 @@ std::string formOf(const OperandRow& operand)
     return std::string(operand.value) + (operand.most == 0 ? "..." : "");
 }
 
-std::string explanationOf(const OptionRow& option)
+Phrase explanationOf(const OptionRow& option)
 {
-    if (!option.text.empty() || option.choices == nullptr) return std::string(option.text);
-    std::vector<std::string> values;
-    for (const Choice& choice : option.choices()) {
-        std::string& value = values.emplace_back(choice.value);
-        if (!choice.text.empty()) value.append(" (").append(choice.text).append(")");
-    }
-    return sentenceOf(values) + ".";
+    if (!option.text.empty() || option.choices == nullptr) return phraseOf(option.text);
+    return phrase("%1.", sentenceOf(option.choices, true));
 }
 
 std::string usageOf(const CommandRow& command)
@@ -55,12 +50,21 @@ std::string usageOf(const CommandRow& command)
     return usage;
 }
 
-std::string sentenceOf(const std::vector<std::string>& values)
+Phrase sentenceOf(Choices choices, bool explains)
 {
-    std::string sentence;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        if (i > 0) sentence += i + 1 == values.size() ? " or " : ", ";
-        sentence += values[i];
+    const std::vector<Choice> all = choices();
+    Phrase sentence;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        Phrase value = verbatim(all[i].value);
+        if (explains && !all[i].text.empty())
+            value = phrase("%1 (%2)", all[i].value, phraseOf(all[i].text));
+        if (i == 0) {
+            sentence = std::move(value);
+        } else if (i + 1 < all.size()) {
+            sentence = phrase("%1, %2", std::move(sentence), std::move(value));
+        } else {
+            sentence = phrase("%1 or %2", std::move(sentence), std::move(value));
+        }
     }
     return sentence;
 }

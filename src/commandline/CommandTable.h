@@ -1,12 +1,15 @@
 #pragma once
 
+#include "result/Message.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 /// Tables that describe a program's command line. Arguments are parsed with them, and the help
-/// texts, the manual page and the completion scripts are generated from them.
+/// texts, the manual page and the completion scripts are generated from them. Their texts are
+/// literals; tools/update-translations finds those that end in a full stop.
 namespace vantorel {
 
 /// A value that an option or operand accepts.
@@ -31,6 +34,9 @@ struct OptionRow {
     Choices choices = nullptr;
     /// An option that cannot be combined with this one; empty for none.
     std::string_view excludes = {};
+    /// The arguments with which the program prints the values there are, one per line, for
+    /// completions: "lists --names". Empty if it cannot.
+    std::string_view valuesFrom = {};
 };
 
 /// Arguments that do not belong to an option.
@@ -42,6 +48,8 @@ struct OperandRow {
     /// 0 allows any number.
     std::size_t most = 0;
     Choices choices = nullptr;
+    /// As in `OptionRow`.
+    std::string_view valuesFrom = {};
 };
 
 struct CommandRow {
@@ -52,9 +60,9 @@ struct CommandRow {
     /// The options other than "-h" and "--help", which every command has.
     std::span<const OptionRow> options = {};
     std::span<const CommandRow> commands = {};
-    /// Every argument that follows is an operand, including "--help" and "--", because another
-    /// program reads them.
-    bool handsOn = false;
+    /// The program that reads the arguments that follow; null if this one does. All of them are
+    /// then operands, including "--help" and "--".
+    const CommandRow* handsOnTo = nullptr;
 
     /// Returns the first line of the text.
     [[nodiscard]] std::string_view summary() const { return text.substr(0, text.find('\n')); }
@@ -84,12 +92,19 @@ inline constexpr OptionRow helpOption{"--help", {}, "Show this help."};
 [[nodiscard]] std::string formOf(const OperandRow& operand);
 
 /// Returns the text that explains an option, or its choices with their explanations if it has none.
-[[nodiscard]] std::string explanationOf(const OptionRow& option);
+[[nodiscard]] Phrase explanationOf(const OptionRow& option);
 
 /// Returns the usage of a command, beginning with its name: "show [OPTION...] [COLOR...]".
 [[nodiscard]] std::string usageOf(const CommandRow& command);
 
-/// Lists values as in a sentence: "bash, zsh or fish".
-[[nodiscard]] std::string sentenceOf(const std::vector<std::string>& values);
+/// Lists choices as in a sentence: "bash, zsh or fish". With `explains`, their texts follow in
+/// parentheses.
+[[nodiscard]] Phrase sentenceOf(Choices choices, bool explains = false);
+
+/// Returns a text of a table as a phrase, so that it can be translated.
+[[nodiscard]] inline Phrase phraseOf(std::string_view text)
+{
+    return {text.empty() ? "" : text.data(), {}};
+}
 
 }  // namespace vantorel

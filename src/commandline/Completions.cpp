@@ -78,12 +78,12 @@ std::string pathOf(const std::string& path, const CommandRow& inner)
     return (path.empty() ? "" : path + " ") + std::string(inner.name);
 }
 
-/// Calls a function for a command and all its subcommands. `path` holds the names after the
-/// program's.
+/// Calls a function for a command and all its subcommands. A command that hands on its arguments is
+/// replaced by the program that reads them. `path` holds the names after the program's.
 void forEachCommand(const CommandRow& command, const std::string& path,
                     const std::function<void(const CommandRow&, const std::string& path)>& call)
 {
-    call(command, path);
+    call(command.handsOnTo != nullptr ? *command.handsOnTo : command, path);
     for (const CommandRow& inner : command.commands)
         forEachCommand(inner, pathOf(path, inner), call);
 }
@@ -98,8 +98,22 @@ std::string functionName(const CommandRow& program, const std::string& path)
     return name;
 }
 
-std::string bashValues(std::string_view value, Choices choices)
+/// Offers what the program itself prints, of which the names of lists may contain blanks. readline
+/// quotes them.
+constexpr std::string_view bashValuesFunction = R"(_vantorel_values()
 {
+    local typed=${COMP_WORDS[COMP_CWORD]} line
+    typed=${typed#[\"\']}
+    typed=${typed//\\/}
+    while IFS= read -r line; do
+        if [[ $line == "$typed"* ]]; then COMPREPLY+=("$line"); fi
+    done < <("${COMP_WORDS[0]}" "$@" 2>/dev/null)
+}
+)";
+
+std::string bashValues(std::string_view value, Choices choices, std::string_view valuesFrom)
+{
+    if (!valuesFrom.empty()) return "_vantorel_values " + std::string(valuesFrom) + "; ";
     if (takesFile(value)) return "mapfile -t COMPREPLY < <(compgen -f -- \"$current\"); ";
     if (choices == nullptr) return {};
     return "mapfile -t COMPREPLY < <(compgen -W " + shellQuoted(joined(valuesOf(choices))) +
@@ -121,16 +135,21 @@ std::string bashScript(const CommandRow& program)
             words.insert(words.end(), names.begin(), names.end());
             if (option->value.empty()) continue;
             valueCases += "        " + shellQuoted(path + " " + std::string(option->name)) + ") " +
-                          bashValues(option->value, option->choices) + "return ;;\n";
+                          bashValues(option->value, option->choices, option->valuesFrom) +
+                          "return ;;\n";
         }
         bool takesFiles = false;
+        std::string valuesFrom;
         for (const OperandRow& operand : command.operands) {
             const Words values = valuesOf(operand.choices);
             words.insert(words.end(), values.begin(), values.end());
             takesFiles = takesFiles || takesFile(operand.value);
+            if (!operand.valuesFrom.empty()) valuesFrom = operand.valuesFrom;
         }
         wordCases += "        " + shellQuoted(path) + ") words=" + shellQuoted(joined(words));
-        wordCases += takesFiles ? "; files=1 ;;\n" : " ;;\n";
+        if (takesFiles) wordCases += "; files=1";
+        if (!valuesFrom.empty()) wordCases += "; from=" + shellQuoted(valuesFrom);
+        wordCases += " ;;\n";
     });
     std::string pathCases;
     for (const std::string& path : paths)
@@ -148,17 +167,19 @@ std::string bashScript(const CommandRow& program)
     }
     const std::string name(program.name);
     const std::string function = functionName(program, {});
-    return "# Completions of " + name + " for bash.\n" + function +
+    return "# Completions of " + name + " for bash.\n" + std::string(bashValuesFunction) +
+           function +
            "()\n"
            "{\n"
            "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-           "    local path= longer i words= files=\n" +
+           "    local path= longer i words= files= from=\n" +
            pathCases + "    case \"$path $previous\" in\n" + valueCases +
            "    esac\n"
            "    case $path in\n" +
            wordCases +
            "    esac\n"
            "    mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$current\")\n"
+           "    if [[ $from && $current != -* ]]; then _vantorel_values $from; fi\n"
            "    if [[ $files && $current != -* ]]; then\n"
            "        mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -f -- \"$current\")\n"
            "    fi\n"
@@ -178,9 +199,17 @@ std::string zshText(std::string_view text)
     return result;
 }
 
-std::string zshValue(std::string_view value, Choices choices)
+constexpr std::string_view zshValuesFunction = R"(_vantorel_values()
+{
+    local -a values=("${(@f)$(_call_program values vantorel $@ 2>/dev/null)}")
+    compadd -a values
+}
+)";
+
+std::string zshValue(std::string_view value, Choices choices, std::string_view valuesFrom)
 {
     std::string action = " ";
+    if (!valuesFrom.empty()) action = " _vantorel_values " + std::string(valuesFrom);
     if (takesFile(value)) action = "_files";
     if (choices != nullptr) action = "(" + joined(valuesOf(choices)) + ")";
     return ":" + zshText(value) + ":" + action;
@@ -192,8 +221,9 @@ std::string zshArguments(const CommandRow& command)
     for (const OptionRow* option : allOptions(command)) {
         for (const std::string& name : namesOf(*option)) {
             std::string word = (option->isRepeatable ? "*" : "") + name + "[" +
-                               zshText(explanationOf(*option)) + "]";
-            if (!option->value.empty()) word += zshValue(option->value, option->choices);
+                               zshText(english(explanationOf(*option))) + "]";
+            if (!option->value.empty())
+                word += zshValue(option->value, option->choices, option->valuesFrom);
             words.push_back(word);
         }
     }
@@ -202,7 +232,7 @@ std::string zshArguments(const CommandRow& command)
         for (std::size_t i = 0; i < std::max<std::size_t>(operand.most, 1); ++i) {
             if (!command.commands.empty()) continue;
             words.push_back((operand.most == 0 ? "*" : "") +
-                            zshValue(operand.value, operand.choices));
+                            zshValue(operand.value, operand.choices, operand.valuesFrom));
         }
     }
     std::string arguments;
@@ -242,9 +272,10 @@ std::string zshScript(const CommandRow& program)
     });
     const std::string name(program.name);
     const std::string function = functionName(program, {});
-    return "#compdef " + name + "\n# Completions of " + name + " for zsh.\n" + functions +
-           "if [ \"$funcstack[1]\" = " + function + " ]; then\n    " + function +
-           " \"$@\"\nelse\n    compdef " + function + " " + name + "\nfi\n";
+    return "#compdef " + name + "\n# Completions of " + name + " for zsh.\n" +
+           std::string(zshValuesFunction) + functions + "if [ \"$funcstack[1]\" = " + function +
+           " ]; then\n    " + function + " \"$@\"\nelse\n    compdef " + function + " " + name +
+           "\nfi\n";
 }
 
 /// The condition under which fish offers a word: each name of the path has been given, and none of
@@ -266,6 +297,11 @@ std::string fishCondition(const CommandRow& command, const std::string& path, bo
     return condition.empty() ? "" : " -n " + shellQuoted(condition, true);
 }
 
+std::string fishValues(std::string_view valuesFrom)
+{
+    return shellQuoted("(vantorel " + std::string(valuesFrom) + " 2>/dev/null)");
+}
+
 std::string fishScript(const CommandRow& program)
 {
     const std::string complete = "complete -c " + std::string(program.name);
@@ -282,18 +318,21 @@ std::string fishScript(const CommandRow& program)
             for (const std::string& name : namesOf(*option)) {
                 line += name.starts_with("--") ? " -l " + name.substr(2) : " -s " + name.substr(1);
             }
-            if (takesFile(option->value)) {
+            if (!option->valuesFrom.empty()) {
+                line += " -x -a " + fishValues(option->valuesFrom);
+            } else if (takesFile(option->value)) {
                 line += " -r -F";
             } else if (option->choices != nullptr) {
                 line += " -x -a " + shellQuoted(joined(valuesOf(option->choices)));
             } else if (!option->value.empty()) {
                 line += " -x";
             }
-            script += line + " -d " + shellQuoted(explanationOf(*option), true) + "\n";
+            script += line + " -d " + shellQuoted(english(explanationOf(*option)), true) + "\n";
         }
         for (const OperandRow& operand : command.operands) {
             std::string values;
             if (takesFile(operand.value)) values = " -F";
+            if (!operand.valuesFrom.empty()) values = " -a " + fishValues(operand.valuesFrom);
             if (operand.choices != nullptr)
                 values = " -a " + shellQuoted(joined(valuesOf(operand.choices)));
             if (!values.empty())

@@ -64,7 +64,7 @@ void appendArguments(std::string& page, const CommandRow& command)
     for (const OperandRow& operand : command.operands)
         appendEntry(page, formOf(operand), operand.text);
     for (const OptionRow& option : command.options)
-        appendEntry(page, formOf(option), explanationOf(option));
+        appendEntry(page, formOf(option), english(explanationOf(option)));
 }
 
 void appendCommands(std::string& page, const CommandRow& command, const std::string& names)
@@ -90,12 +90,14 @@ std::string manualPage(const ProgramRow& program)
     if (command.needsCommand()) page += ".I COMMAND\n";
     page += "[\\fIOPTION\\fR...]";
     if (command.needsCommand()) page += " [\\fIARGUMENT\\fR...]";
+    for (const OperandRow& operand : command.operands)
+        page += " [\\fI" + roffText(formOf(operand)) + "\\fR]";
     page += "\n.SH DESCRIPTION\n";
     appendParagraphs(page, command.text);
     page += ".SH OPTIONS\n";
     appendEntry(page, formOf(helpOption),
                 command.commands.empty()
-                    ? explanationOf(helpOption)
+                    ? english(explanationOf(helpOption))
                     : "Show help. After a command, show the help of that command.");
     appendArguments(page, command);
     if (!command.commands.empty()) {

@@ -18,6 +18,7 @@ std::vector<Choice> themes()
     return {{"light", {}}, {"dark", {}}};
 }
 
+constexpr OperandRow panelOperands[] = {{"COLOR", "The same as --color COLOR.", 0, 1}};
 constexpr OptionRow panelOptions[] = {
     {"--color", "TEXT",
      "Start with this colour: any form of CSS Color 4, such as \"#ff8000\" or "
@@ -55,8 +56,9 @@ constexpr OptionRow panelOptions[] = {
     {"--pick-and-copy", {}, "Like --pick, and copy the colour to the clipboard."},
     {"--copy",
      {},
-     "Copy the panel's colour to the clipboard in the form that a drag out of the panel would "
-     "carry, print the text, and exit."},
+     "Copy the panel's colour with its opacity to the clipboard, in the form that a drag out of "
+     "the "
+     "panel would carry, print the text, and exit."},
     {"--copy-as", "FORM", "Like --copy, in the form with this name in the panel's menu."},
     {"--choose",
      {},
@@ -73,11 +75,13 @@ constexpr OptionRow panelOptions[] = {
 }  // namespace
 
 constinit const ProgramRow vantorelPanelProgram{
-    .command = {.name = "vantorel-panel",
-                .text =
-                    "A colour panel with pages from plug-ins. If a panel is already running, it is "
-                    "shown and carries out --color, --pick, --pick-and-copy, --copy and --copy-as.",
-                .options = panelOptions},
+    .command =
+        {.name = "vantorel-panel",
+         .text =
+             "A colour panel with pages from plug-ins. If a panel is already running, it is "
+             "shown and carries out COLOR, --color, --pick, --pick-and-copy, --copy and --copy-as.",
+         .operands = panelOperands,
+         .options = panelOptions},
     .subject = "a colour panel with pages from plug-ins",
     .version = VANTOREL_VERSION,
     .furtherSections = R"(.SH EXIT STATUS

@@ -22,7 +22,14 @@ constexpr std::string_view jsonLines = "Write JSON, one object per line.";
 constexpr OptionRow sizeOption{
     "--size", "WxH", "Width and height in points, or in pixels for PNG. The default is 640x480."};
 
-constexpr OperandRow listName{"NAME", "The name of the list.", 1, 1};
+constexpr std::string_view listNames = "lists --names";
+constexpr std::string_view snippetNames = "snippets --names";
+
+constexpr OperandRow listName{.value = "NAME",
+                              .text = "The name of the list.",
+                              .fewest = 1,
+                              .most = 1,
+                              .valuesFrom = listNames};
 
 constexpr OperandRow showOperands[] = {
     {"COLOR",
@@ -30,10 +37,15 @@ constexpr OperandRow showOperands[] = {
      "per line."}};
 constexpr OptionRow showOptions[] = {
     {"--json", {}, jsonLines},
-    {"--list", "NAME",
-     "Take the name from this list instead of the list in the settings. With standard input, add "
-     "the name to each line."},
-    {"--snippet", "NAME", "Write only the text of this snippet."},
+    {.name = "--list",
+     .value = "NAME",
+     .text = "Take the name from this list instead of the list in the settings. With standard "
+             "input, add the name to each line.",
+     .valuesFrom = listNames},
+    {.name = "--snippet",
+     .value = "NAME",
+     .text = "Write only the text of this snippet.",
+     .valuesFrom = snippetNames},
     {.name = "--lowercase", .text = "Write hex digits in lower case.", .excludes = "--uppercase"},
     {"--uppercase",
      {},
@@ -47,11 +59,17 @@ constexpr OptionRow showOptions[] = {
 
 constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};
 constexpr OptionRow nameOptions[] = {
-    {"--list", "NAME", "Take the names from this list instead of the list in the settings."},
+    {.name = "--list",
+     .value = "NAME",
+     .text = "Take the names from this list instead of the list in the settings.",
+     .valuesFrom = listNames},
     {"--json", {}, jsonLines},
 };
 
-constexpr OptionRow jsonLinesOption[] = {{"--json", {}, jsonLines}};
+constexpr OptionRow namesOptions[] = {
+    {"--json", {}, jsonLines},
+    {.name = "--names", .text = "Print only the names, one per line.", .excludes = "--json"},
+};
 constexpr OptionRow jsonOption[] = {{"--json", {}, "Write JSON."}};
 
 constexpr OperandRow importOperands[] = {
@@ -77,8 +95,10 @@ constexpr OptionRow publishOptions[] = {
 };
 
 constexpr OperandRow listOperands[] = {
-    {"NAME", "The name of the list. If it is also the name of a command, put \"--\" before it.", 0,
-     1}};
+    {.value = "NAME",
+     .text = "The name of the list. If it is also the name of a command, put \"--\" before it.",
+     .most = 1,
+     .valuesFrom = listNames}};
 constexpr CommandRow listCommands[] = {
     {"import",
      "Add palette files to your colour lists.\n"
@@ -130,16 +150,18 @@ constexpr CommandRow vantorelCommands[] = {
      showOperands, showOptions},
     {"name",
      "Print the name of each colour on a line of its own.\n"
-     "If no name is exact, the names of close colours follow a \"*\"; if no colour is close, the "
-     "line is \"No Match\".",
+     "If the list has no exact name but CSS Color 4 has one, that name is printed, followed by "
+     "\"(CSS Color 4)\". If neither has, the names of close colours follow a \"*\"; if no colour "
+     "is "
+     "close, the line is \"No Match\".",
      nameOperands, nameOptions},
     {"lists",
      "List all colour lists with their number of colours, name and file.",
      {},
-     jsonLinesOption},
+     namesOptions},
     {"list", "List the colours of a list, or import, export or publish a list.", listOperands,
      jsonOption, listCommands},
-    {"snippets", "List the snippets in the settings with their formats.", {}, jsonLinesOption},
+    {"snippets", "List the snippets in the settings with their formats.", {}, namesOptions},
     {"contrast",
      "Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.\n"
      "The ratio is truncated to two decimals, not rounded.",
@@ -151,7 +173,7 @@ constexpr CommandRow vantorelCommands[] = {
      chooseOperands},
     {.name = "panel",
      .text = "Start the colour panel with the options that follow. \"panel --help\" lists them.",
-     .handsOn = true},
+     .handsOnTo = &vantorelPanelProgram.command},
     {"completions",
      "Print a completion script for a shell.\nFor bash: source <(vantorel completions bash)",
      completionsOperands, completionsOptions},

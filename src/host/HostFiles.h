@@ -15,6 +15,8 @@ struct HostBaseDirectories {
     std::optional<std::string> dataHome;
     std::vector<std::string> configDirectories;
     std::vector<std::string> dataDirectories;
+    /// Where our own shared data is installed, which need not be among `dataDirectories`.
+    std::optional<std::string> programData = std::nullopt;
 };
 
 enum class HostFileKind { none, file, folder };

@@ -46,7 +46,14 @@ EXAMPLES = [
     (["name", "--list", "SVG Keyword", "#ffa500"], "", "orange\n"),
     (["name"], "#ff0000\n#00f\n", "red\nblue\n"),
     (["name", "--json", "#fe0101"], "", '{"list":"CSS Keyword","exact":null,"close":["red"]}\n'),
-    (["lists"], "", "216\tBrowser Safe\t(built in)\n17\tCSS Keyword\t(built in)\n146\tSVG Keyword\t(built in)\n"),
+    (["lists"], "", "216\tBrowser Safe\t(built in)\n148\tCSS Color 4\t(built in)\n17\tCSS Keyword\t(built in)\n"
+     "146\tSVG Keyword\t(built in)\n"),
+    (["lists", "--names"], "", "Browser Safe\nCSS Color 4\nCSS Keyword\nSVG Keyword\n"),
+    (["snippets", "--names"], "", re.compile(r"\AObjC fraction\n(.*\n){11}\Z")),
+    (["name", "#663399", "#008080", "#008081"], "", "rebeccapurple (CSS Color 4)\nteal\n* teal\n"),
+    (["name", "#663399", "--json"], "", '{"list":"CSS Color 4","exact":"rebeccapurple","close":[]}\n'),
+    (["name", "#7fff00", "--list", "SVG Keyword"], "", re.compile(r"\Achartreuse")),
+    (["list", "CSS Color 4"], "", re.compile(r"\A#F0F8FF\taliceblue\n(.*\n){146}#9ACD32\tyellowgreen\n\Z", re.I)),
     (["lists", "--json"], "", re.compile(r'\{"name":"CSS Keyword","count":17,"place":null\}\n')),
     (["list", "CSS Keyword"], "", re.compile(r"\A#800000\tmaroon\n(#[0-9a-f]{6}\t[a-z]+\n){16}\Z")),
     (["list", "--json", "CSS Keyword"], "", re.compile(r'\A\{\n  "name": "CSS Keyword",\n')),
@@ -112,6 +119,7 @@ USAGE_ERRORS = [
     (["wheel", "--svg", "-", "--size", "16385x8"], "--size"),
     (["palette", "CSS Keyword"], "give --svg FILE or --png FILE"),
     (["palette", "CSS Keyword", "--svg", "-", "--png", "-"], "--svg"),
+    (["lists", "--names", "--json"], "--names cannot be combined with --json"),
     (["completions", "tcsh"], 'SHELL cannot be "tcsh": use bash, zsh or fish'),
     (["completions"], "SHELL is missing"),
     (["manpage", "x"], '"x" is one argument too many'),
@@ -293,6 +301,37 @@ class Panel(ProgramTest):
         self.put_panel(self.bin, "#!/nowhere\n")
         self.assertEqual(self.run_copy("panel")[0], 2)
         self.assertIn("cannot be run", self.run_copy("panel")[2])
+
+
+class Languages(ProgramTest):
+    def speak(self, **variables):
+        self.environment.update(variables)
+
+    def test_messages_and_help_are_in_the_users_language(self):
+        self.speak(LANG="de_AT.UTF-8")
+        self.assertEqual(self.error_of("show", "redd"),
+                         "vantorel: „redd“ ist kein CSS-Farbname: schreiben Sie eine Farbe wie „#ff8000“, "
+                         "„rgb(255 128 0)“ oder „orange“\n")
+        self.assertEqual(self.error_of("completions", "tcsh"),
+                         "vantorel: SHELL kann nicht „tcsh“ sein: verwenden Sie bash, zsh oder fish\n")
+        self.assertTrue(self.output_of("list", "--help").startswith("Aufruf: vantorel list "))
+        for line in self.output_of("show", "--help").splitlines():
+            self.assertLessEqual(len(line), 79)
+
+    def test_the_first_language_with_a_translation_counts(self):
+        self.speak(LANG="en_GB.UTF-8", LANGUAGE="xx:fr:de")
+        self.assertTrue(self.output_of("--help").startswith("Utilisation : vantorel "))
+
+    def test_a_language_without_translation_is_english(self):
+        for language in ("xx_YY", "C", "../../../etc"):
+            self.speak(LC_ALL=language)
+            self.assertTrue(self.output_of("--help").startswith("Usage: vantorel "), language)
+
+    def test_output_for_programs_is_the_same_in_every_language(self):
+        arguments = (["name", "#123"], ["lists"], ["contrast", "white", "black"], ["manpage"], ["completions", "bash"])
+        english = [self.output_of(*words) for words in arguments]
+        self.speak(LC_ALL="de_DE.UTF-8")
+        self.assertEqual([self.output_of(*words) for words in arguments], english)
 
 
 if __name__ == "__main__":

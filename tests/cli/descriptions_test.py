@@ -8,7 +8,7 @@ import shutil
 import subprocess
 import unittest
 
-from program import ProgramTest, os, sys
+from program import PROGRAM, ProgramTest, os, sys
 
 
 class Descriptions(ProgramTest):
@@ -49,11 +49,11 @@ class Descriptions(ProgramTest):
 
     def complete_in_bash(self, *words):
         script = self.output_of("completions", "bash")
-        lines = " ".join("'" + word + "'" for word in ("vantorel",) + words)
+        lines = " ".join("'" + word + "'" for word in (PROGRAM,) + words)
         run = subprocess.run(["bash", "-c", f"{script}\nCOMP_WORDS=({lines}); COMP_CWORD={len(words)}; _vantorel\n"
                               'printf "%s\\n" "${COMPREPLY[@]}"'], capture_output=True, cwd=self.root, env=self.environment, timeout=60)
         self.assertEqual(run.stderr, b"")
-        return set(run.stdout.decode().split())
+        return set(run.stdout.decode().splitlines()) - {""}
 
     def test_bash_completes_commands_options_and_values(self):
         self.need("bash")
@@ -62,7 +62,11 @@ class Descriptions(ProgramTest):
             (("sh",), {"show"}), (("show", "--l"), {"--lowercase", "--list"}), (("list", "p"), {"publish", "palette.gpl"} - {"palette.gpl"}),
             (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help", "--panel"}),
             (("list", "import", "pal"), {"palette.gpl"}), (("palette", "x", "--svg", "pal"), {"palette.gpl"}),
-            (("show", "--list", ""), set()), (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}),
+            (("show", "--list", ""), {"Browser Safe", "CSS Color 4", "CSS Keyword", "SVG Keyword"}),
+            (("palette", "CSS\\ K"), {"CSS Keyword"}), (("list", "export", '"CSS K'), {"CSS Keyword"}),
+            (("list", "S"), {"SVG Keyword"}), (("show", "--snippet", "VB"), {"VBasic"}),
+            (("panel", "--screen"), {"--screenshot"}), (("panel", "--mode", ""), {"slider", "palette", "wheel"}),
+            (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}),
         ]:
             with self.subTest(words=words):
                 self.assertEqual(self.complete_in_bash(*words), completions)
@@ -75,7 +79,8 @@ class Descriptions(ProgramTest):
     def complete_in_fish(self, line):
         script = self.write(os.path.join(self.root, "vantorel.fish"), self.output_of("completions", "fish"))
         run = subprocess.run(["fish", "--no-config", "-c", f"source {script}; complete -C'{line}'"], capture_output=True,
-                             env=self.environment, cwd=self.root, timeout=60)
+                             env={**self.environment, "PATH": os.path.dirname(PROGRAM) + ":" + self.environment["PATH"]},
+                             cwd=self.root, timeout=60)
         self.assertEqual(run.stderr, b"")
         return {row.split("\t")[0] for row in run.stdout.decode().splitlines()}
 
@@ -89,6 +94,9 @@ class Descriptions(ProgramTest):
         self.assertEqual(self.complete_in_fish("vantorel list imp"), {"import"})
         self.assertEqual(self.complete_in_fish("vantorel completions "), {"bash", "zsh", "fish"})
         self.assertEqual(self.complete_in_fish("vantorel list import pal"), {"palette.gpl"})
+        self.assertEqual(self.complete_in_fish("vantorel show --list SVG"), {"SVG Keyword"})
+        self.assertEqual(self.complete_in_fish("vantorel show --snippet VB"), {"VBasic"})
+        self.assertEqual(self.complete_in_fish("vantorel panel --screen"), {"--screenshot"})
 
     def test_zsh_loads_the_completions(self):
         self.need("zsh")

@@ -132,7 +132,7 @@ class Hostile(ProgramTest):
         for home in ("/nowhere", "/dev/null", self.path("missing")):
             self.environment["HOME"] = home
             self.assertEqual(self.output_of("show", "red"), usual)
-            self.assertEqual(len(self.output_of("lists").splitlines()), 3)
+            self.assertEqual(len(self.output_of("lists").splitlines()), 4)
         self.assertEqual(self.files_at_home(), [])
 
     def test_commands_that_need_a_home_say_so(self):
@@ -158,7 +158,7 @@ class Hostile(ProgramTest):
         os.symlink("d.gpl", os.path.join(folder, "d.gpl"))
         os.mkdir(os.path.join(folder, "e.gpl"))
         self.assertEqual(self.output_of("list", "B"), "#010203\tone\n")
-        self.assertEqual(len(self.output_of("lists").splitlines()), 4)
+        self.assertEqual(len(self.output_of("lists").splitlines()), 5)
 
     def test_snippets_with_hostile_formats(self):
         self.write_settings('{CodeSnippets = ({NameSnippet = "x\\033[2J"; FormatSnippet = "%n%s%999999999d%*d\\033]0;";'

@@ -28,7 +28,7 @@ class Lists(ProgramTest):
         mine = self.write_list("Mine", ["1 2 3\tone", "4 5 6\ttwo"], "any file.gpl")
         theirs = self.write(self.path(".config/GIMP/2.10/palettes/x.gpl"), "GIMP Palette\nName: Reds\n255 0 0\tred\n")
         saved = self.write_list("SVG Keyword", ["1 2 3\tone"])
-        self.assertEqual(self.output_of("lists"), f"216\tBrowser Safe\t(built in)\n17\tCSS Keyword\t(built in)\n"
+        self.assertEqual(self.output_of("lists"), f"216\tBrowser Safe\t(built in)\n148\tCSS Color 4\t(built in)\n17\tCSS Keyword\t(built in)\n"
                          f"2\tMine\t{mine}\n1\tReds\t{theirs}\n1\tSVG Keyword\t{saved}\n")
         self.assertEqual(self.output_of("list", "Reds"), "#ff0000\tred\n")
         self.assertEqual(self.output_of("list", "SVG Keyword"), "#010203\tone\n")

@@ -23,6 +23,7 @@ public:
         }
         directories.configDirectories = {"/home/machine/etc/xdg"};
         directories.dataDirectories = {"/home/machine/usr/local/share", "/home/machine/usr/share"};
+        directories.programData = "/home/machine/opt/vantorel/share";
         setBaseDirectories(std::move(directories));
     }
 

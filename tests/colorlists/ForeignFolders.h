@@ -8,6 +8,7 @@
 namespace vantorel {
 
 inline const std::string ours = ForeignFiles::ours;
+inline const std::string installed = "/home/machine/opt/vantorel/share/vantorel/palettes/";
 inline const std::string userGimp = "/home/user/.config/GIMP/2.10/palettes/";
 inline const std::string userOldGimp = "/home/user/.config/GIMP/2.8/palettes/";
 inline const std::string userInkscape = "/home/user/.config/inkscape/palettes/";

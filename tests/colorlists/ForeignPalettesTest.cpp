@@ -46,6 +46,14 @@ TEST_F(ForeignPalettesTest, FilesAreRecognisedByTheirExtensionWhereProgramsUseOn
                             u"plain"));
 }
 
+TEST_F(ForeignPalettesTest, OurInstalledListsAreOfferedAndReadOnly)
+{
+    _files.putPalette(installed + "CSS Color 4.gpl", "CSS Color 4", 3);
+    _files.putPalette(gimp + "x.gpl", "CSS Color 4", 4);
+    EXPECT_THAT(_store.availableColorLists(), ElementsAre(u"CSS Color 4", u"CSS Color 4 (GIMP)"));
+    EXPECT_EQ(_store.pathOfOwnList(u"CSS Color 4"), std::nullopt);
+}
+
 TEST_F(ForeignPalettesTest, BlanksAroundForeignNamesAreTrimmed)
 {
     _files.put(gimp + "a.gpl", "GIMP Palette\nName:\t Oxygen\t\n1 2 3\tx\n");

@@ -28,7 +28,7 @@ constexpr OptionRow findOptions[] = {{.name = "--all"}};
 constexpr CommandRow commands[] = {
     {.name = "keep", .operands = keepOperands, .options = keepOptions},
     {.name = "find", .operands = findOperands, .options = findOptions, .commands = findCommands},
-    {.name = "run", .handsOn = true},
+    {.name = "run", .handsOnTo = &findCommands[0]},
 };
 constexpr OptionRow programOptions[] = {{.name = "--version"}};
 constexpr ProgramRow program{

@@ -25,7 +25,7 @@ TEST_P(ProgramsTest, EveryOptionIsDocumentedOnce)
     forEachCommand(GetParam()->command, [](const CommandRow& command) {
         for (const OptionRow& option : command.options) {
             EXPECT_TRUE(option.name.starts_with("--")) << option.name;
-            EXPECT_FALSE(explanationOf(option).empty()) << option.name;
+            EXPECT_FALSE(explanationOf(option).isEmpty()) << option.name;
             EXPECT_EQ(std::ranges::count(command.options, option.name, &OptionRow::name), 1)
                 << option.name;
             const auto excluded =

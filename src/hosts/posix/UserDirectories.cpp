@@ -71,6 +71,21 @@ std::optional<std::string> userDirectory(const char* variable,
     return *home + pathInHome;
 }
 
+/// The folder for shared data of the prefix that the program is installed in; `std::nullopt` if
+/// it is not in a folder "bin".
+std::optional<std::string> dataDirectoryOfProgram()
+{
+    std::array<char, 4096> buffer{};
+    const ssize_t length = ::readlink("/proc/self/exe", buffer.data(), buffer.size());
+    if (length <= 0 || static_cast<std::size_t>(length) == buffer.size()) return std::nullopt;
+    constexpr std::string_view programs = "/bin";
+    std::string path(buffer.data(), static_cast<std::size_t>(length));
+    path.resize(path.rfind('/'));
+    if (!path.ends_with(programs)) return std::nullopt;
+    path.resize(path.size() - programs.size());
+    return path + "/share";
+}
+
 }  // namespace
 
 HostBaseDirectories userBaseDirectories()
@@ -79,7 +94,8 @@ HostBaseDirectories userBaseDirectories()
     return {.configHome = userDirectory("XDG_CONFIG_HOME", home, "/.config"),
             .dataHome = userDirectory("XDG_DATA_HOME", home, "/.local/share"),
             .configDirectories = directories("XDG_CONFIG_DIRS", "/etc/xdg"),
-            .dataDirectories = directories("XDG_DATA_DIRS", "/usr/local/share:/usr/share")};
+            .dataDirectories = directories("XDG_DATA_DIRS", "/usr/local/share:/usr/share"),
+            .programData = dataDirectoryOfProgram()};
 }
 
 }  // namespace vantorel

@@ -43,6 +43,14 @@ TEST(UserDirectoriesTest, VariablesAreUsedInOrderOfPrecedence)
     EXPECT_EQ(directories.dataDirectories, (Paths{"/z", "/a", "/"}));
 }
 
+TEST(UserDirectoriesTest, TheProgramsOwnDataIsBesideItsFolder)
+{
+    // The tests are in a folder "bin", as installed programs are.
+    const Value data = userBaseDirectories().programData;
+    ASSERT_TRUE(data.has_value());
+    EXPECT_TRUE(data->ends_with("/share")) << *data;
+}
+
 TEST(UserDirectoriesTest, OnlyFilesOfTheRealUserHaveThem)
 {
     ScopedEnvironment environment;
@@ -53,6 +61,7 @@ TEST(UserDirectoriesTest, OnlyFilesOfTheRealUserHaveThem)
     EXPECT_EQ(given.dataHome, std::nullopt);
     EXPECT_TRUE(given.configDirectories.empty());
     EXPECT_TRUE(given.dataDirectories.empty());
+    EXPECT_EQ(given.programData, std::nullopt);
 }
 
 }  // namespace

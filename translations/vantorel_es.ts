@@ -1,0 +1,2152 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_GB">
+<context>
+    <name>DisplayNames</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Code Snippet</source>
+        <translation>Línea de código</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vacía</translation>
+    </message>
+    <message>
+        <source>Fraction</source>
+        <translation>Fracción</translation>
+    </message>
+    <message>
+        <source>Hex</source>
+        <translation>Hex</translation>
+    </message>
+    <message>
+        <source>Hex Code</source>
+        <translation>Código hexadecimal</translation>
+    </message>
+    <message>
+        <source>Input Error</source>
+        <translation>Error de entrada</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Entero</translation>
+    </message>
+    <message>
+        <source>Lowercase</source>
+        <translation>Minúsculas</translation>
+    </message>
+    <message>
+        <source>No Match</source>
+        <translation>Sin nombre</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Uppercase</source>
+        <translation>Mayúsculas</translation>
+    </message>
+</context>
+<context>
+    <name>ListFileFilters</name>
+    <message>
+        <source>GIMP palettes</source>
+        <translation>Paletas de GIMP</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>Propiedades personalizadas de CSS</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>Variables de SCSS</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Swatch exchange files</source>
+        <translation>Archivos de intercambio de muestras</translation>
+    </message>
+    <message>
+        <source>SVG pictures</source>
+        <translation>Imágenes SVG</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message>
+        <source>Colour lists</source>
+        <translation>Listas de colores</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>hue</source>
+        <translation>tono</translation>
+    </message>
+    <message>
+        <source>lightness</source>
+        <translation>luminosidad</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rojo</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>verde</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>azul</translation>
+    </message>
+    <message>
+        <source>saturation</source>
+        <translation>saturación</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>alpha</source>
+        <translation>opacidad</translation>
+    </message>
+    <message>
+        <source>whiteness</source>
+        <translation>blancura</translation>
+    </message>
+    <message>
+        <source>blackness</source>
+        <translation>negrura</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>b</source>
+        <translation>b</translation>
+    </message>
+    <message>
+        <source>chroma</source>
+        <translation>croma</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot;</source>
+        <translation>escriba «%1»</translation>
+    </message>
+    <message>
+        <source>an angle or a number</source>
+        <translation>un ángulo o un número</translation>
+    </message>
+    <message>
+        <source>a number or a percentage</source>
+        <translation>un número o un porcentaje</translation>
+    </message>
+    <message>
+        <source>A hex colour without &quot;#&quot; has 3 or 6 digits, not %1</source>
+        <translation>Un color hexadecimal sin «#» tiene 3 o 6 dígitos, no %1</translation>
+    </message>
+    <message>
+        <source>The text contains no colour</source>
+        <translation>El texto no contiene ningún color</translation>
+    </message>
+    <message>
+        <source>write one such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>escriba uno como «#ff8000», «rgb(255 128 0)» u «orange»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>«%1» no es un color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; follows the colour</source>
+        <translation>«%1» sigue al color</translation>
+    </message>
+    <message>
+        <source>give a single colour</source>
+        <translation>dé un solo color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a hex digit</source>
+        <translation>«%1» no es un dígito hexadecimal</translation>
+    </message>
+    <message>
+        <source>use digits 0 to 9 and letters a to f after the &quot;#&quot;</source>
+        <translation>use los dígitos del 0 al 9 y las letras de la a a la f tras el «#»</translation>
+    </message>
+    <message>
+        <source>A hex colour has 3, 4, 6 or 8 digits after the &quot;#&quot;, not %1</source>
+        <translation>Un color hexadecimal tiene 3, 4, 6 u 8 dígitos tras el «#», no %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a property, not part of the colour</source>
+        <translation>«%1» es una propiedad y no forma parte del color</translation>
+    </message>
+    <message>
+        <source>give only its value, such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>dé solo su valor, como «#ff8000», «rgb(255 128 0)» u «orange»</translation>
+    </message>
+    <message>
+        <source>The colour of &quot;%1&quot; depends on the page that uses it</source>
+        <translation>El color de «%1» depende de la página que lo usa</translation>
+    </message>
+    <message>
+        <source>write a fixed colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>escriba un color fijo como «#ff8000», «rgb(255 128 0)» u «orange»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be directly followed by its parenthesis</source>
+        <translation>tras «%1» debe ir inmediatamente su paréntesis</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a CSS colour name</source>
+        <translation>«%1» no es un nombre de color de CSS</translation>
+    </message>
+    <message>
+        <source>write a colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>escriba un color como «#ff8000», «rgb(255 128 0)» u «orange»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a supported colour function</source>
+        <translation>«%1» no es una función de color admitida</translation>
+    </message>
+    <message>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
+        <translation>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() o color()</translation>
+    </message>
+    <message>
+        <source>Relative colours, with &quot;from&quot;, are not supported</source>
+        <translation>No se admiten los colores relativos, con «from»</translation>
+    </message>
+    <message>
+        <source>write the values themselves, as in &quot;%1&quot;</source>
+        <translation>escriba los propios valores, como en «%1»</translation>
+    </message>
+    <message>
+        <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
+        <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 o xyz-d65</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour space of color()</source>
+        <translation>«%1» no es un espacio de color de color()</translation>
+    </message>
+    <message>
+        <source>write %1</source>
+        <translation>escriba %1</translation>
+    </message>
+    <message>
+        <source>color() must begin with a colour space: %1</source>
+        <translation>color() debe empezar por un espacio de color: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not take commas between its values</source>
+        <translation>%1 no admite comas entre sus valores</translation>
+    </message>
+    <message>
+        <source>The hue of %1 must be %2, not &quot;%3&quot;</source>
+        <translation>El tono de %1 debe ser %2, no «%3»</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 must be %3, not &quot;%4&quot;</source>
+        <translation>El valor «%1» de %2 debe ser %3, no «%4»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an angle</source>
+        <translation>«%1» no es un ángulo</translation>
+    </message>
+    <message>
+        <source>use the unit deg, grad, rad or turn</source>
+        <translation>use la unidad deg, grad, rad o turn</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not supported inside a colour</source>
+        <translation>«%1» no se admite dentro de un color</translation>
+    </message>
+    <message>
+        <source>write the resulting number</source>
+        <translation>escriba el número resultante</translation>
+    </message>
+    <message>
+        <source>The alpha of %1 is missing</source>
+        <translation>Falta la opacidad de %1</translation>
+    </message>
+    <message>
+        <source>write %1 before the &quot;)&quot;</source>
+        <translation>escriba %1 antes del «)»</translation>
+    </message>
+    <message>
+        <source>%1 needs 3 values and has %2</source>
+        <translation>%1 necesita 3 valores y tiene %2</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 is missing before &quot;%3&quot;</source>
+        <translation>Falta el valor «%1» de %2 antes de «%3»</translation>
+    </message>
+    <message>
+        <source>insert %1</source>
+        <translation>inserte %1</translation>
+    </message>
+    <message>
+        <source>The alpha of %1 must follow a &quot;/&quot;</source>
+        <translation>La opacidad de %1 debe ir tras un «/»</translation>
+    </message>
+    <message>
+        <source>With commas, the alpha of %1 must also follow a comma</source>
+        <translation>Con comas, la opacidad de %1 también debe ir tras una coma</translation>
+    </message>
+    <message>
+        <source>&quot;none&quot; cannot be used with commas</source>
+        <translation>«none» no se puede usar con comas</translation>
+    </message>
+    <message>
+        <source>Instead of the &quot;)&quot; of %1 there is &quot;%2&quot;</source>
+        <translation>En lugar del «)» de %1 hay «%2»</translation>
+    </message>
+    <message>
+        <source>With commas, the values of %1 must be all numbers or all percentages</source>
+        <translation>Con comas, los valores de %1 deben ser todos números o todos porcentajes</translation>
+    </message>
+    <message>
+        <source>With commas, the %1 of %2 must be a percentage</source>
+        <translation>Con comas, el valor «%1» de %2 debe ser un porcentaje</translation>
+    </message>
+    <message>
+        <source>The values of %1 must be separated either by commas or by spaces</source>
+        <translation>Los valores de %1 deben separarse o bien con comas o bien con espacios</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot; or &quot;%2&quot;</source>
+        <translation>escriba «%1» o «%2»</translation>
+    </message>
+    <message>
+        <source>%1 is not closed</source>
+        <translation>%1 no está cerrado</translation>
+    </message>
+    <message>
+        <source>add a &quot;)&quot; after the values</source>
+        <translation>añada un «)» tras los valores</translation>
+    </message>
+    <message>
+        <source>The comment that starts with &quot;/*&quot; is not closed</source>
+        <translation>El comentario que empieza por «/*» no está cerrado</translation>
+    </message>
+    <message>
+        <source>close it with &quot;*/&quot;</source>
+        <translation>ciérrelo con «*/»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be saved, so nothing was changed</source>
+        <translation>«%1» no se pudo guardar, así que no se ha cambiado nada</translation>
+    </message>
+    <message>
+        <source>check that you can write to %1 and that the disk has room</source>
+        <translation>compruebe que puede escribir en %1 y que queda espacio en el disco</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be removed</source>
+        <translation>«%1» no se pudo eliminar</translation>
+    </message>
+    <message>
+        <source>check that you can write to %1</source>
+        <translation>compruebe que puede escribir en %1</translation>
+    </message>
+    <message>
+        <source>the file of &quot;%1&quot; could not be removed, so the list exists under both names</source>
+        <translation>el archivo de «%1» no se pudo eliminar, así que la lista existe con ambos nombres</translation>
+    </message>
+    <message>
+        <source>the name was taken, so the list is called &quot;%1&quot;</source>
+        <translation>el nombre estaba ocupado, así que la lista se llama «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s list is unchanged</source>
+        <translation>«%1» es ahora una lista suya; la del otro programa no ha cambiado</translation>
+    </message>
+    <message>
+        <source>another program had changed &quot;%1&quot; too; it now has both changes</source>
+        <translation>otro programa también había cambiado «%1»; ahora tiene ambos cambios</translation>
+    </message>
+    <message>
+        <source>another program had changed the same list; its version is unchanged, and yours was saved as &quot;%1&quot;</source>
+        <translation>otro programa había cambiado la misma lista; su versión no ha cambiado, y la de usted se guardó como «%1»</translation>
+    </message>
+    <message>
+        <source>another program had removed &quot;%1&quot;; it was restored with your change</source>
+        <translation>otro programa había eliminado «%1»; se ha restaurado con el cambio de usted</translation>
+    </message>
+    <message>
+        <source>another program has changed &quot;%1&quot;, so it was not removed</source>
+        <translation>otro programa ha cambiado «%1», así que no se ha eliminado</translation>
+    </message>
+    <message>
+        <source>check its colours before you remove it</source>
+        <translation>compruebe sus colores antes de eliminarla</translation>
+    </message>
+    <message>
+        <source>the step was undone only in part: later changes by another program to &quot;%1&quot; were kept</source>
+        <translation>el paso solo se deshizo en parte: se conservaron los cambios posteriores de otro programa en «%1»</translation>
+    </message>
+    <message>
+        <source>the file of &quot;%1&quot; had comments or damaged lines; the original was kept, with &quot;~&quot; appended to its name</source>
+        <translation>el archivo de «%1» tenía comentarios o líneas dañadas; se conservó el original, con «~» al final de su nombre</translation>
+    </message>
+    <message>
+        <source>no colour was picked</source>
+        <translation>no se tomó ningún color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a form of a colour</source>
+        <translation>«%1» no es una forma de un color</translation>
+    </message>
+    <message>
+        <source>use one of: %1</source>
+        <translation>use una de estas: %1</translation>
+    </message>
+    <message>
+        <source>the desktop lets only the active window copy, and did not activate the panel</source>
+        <translation>el escritorio solo deja copiar a la ventana activa y no ha activado el panel</translation>
+    </message>
+    <message>
+        <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
+        <translation>el panel ha perdido su nombre en el bus de sesión: los demás programas ya no pueden contactar con él</translation>
+    </message>
+    <message>
+        <source>the panel was closed</source>
+        <translation>se cerró el panel</translation>
+    </message>
+    <message>
+        <source>the session bus has gone: other programs can no longer reach the panel</source>
+        <translation>el bus de sesión ha desaparecido: los demás programas ya no pueden contactar con el panel</translation>
+    </message>
+    <message>
+        <source>the panel that is already running does not answer, so a second one was started</source>
+        <translation>el panel que ya está abierto no responde, así que se ha iniciado otro</translation>
+    </message>
+    <message>
+        <source>another program has the name %1 on the session bus: other programs cannot reach this panel</source>
+        <translation>otro programa tiene el nombre %1 en el bus de sesión: los demás programas no pueden contactar con este panel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed by another program</source>
+        <translation>otro programa ha eliminado «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program</source>
+        <translation>otro programa ha cambiado «%1»</translation>
+    </message>
+    <message>
+        <source>a pattern cannot be added to a list</source>
+        <translation>no se puede añadir un patrón a una lista</translation>
+    </message>
+    <message>
+        <source>lists store no opacity, so the colour was added without it</source>
+        <translation>las listas no guardan la opacidad, así que el color se añadió sin ella</translation>
+    </message>
+    <message>
+        <source>the name was taken, so the colour is called &quot;%1&quot;</source>
+        <translation>el nombre estaba ocupado, así que el color se llama «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed</source>
+        <translation>se ha eliminado «%1»</translation>
+    </message>
+    <message>
+        <source>choose Undo to restore it</source>
+        <translation>elija Deshacer para restaurarla</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>«%1» no se puede leer</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 64 MiB that you can read</source>
+        <translation>compruebe que es un archivo de 64 MiB como máximo que puede leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour list that can be read</source>
+        <translation>«%1» no es una lista de colores que se pueda leer</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
+        <translation>use una paleta de GIMP o KDE, CSS, SCSS, JSON, un archivo de intercambio de muestras o un texto con un color por línea</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been imported</source>
+        <translation>se ha importado «%1»</translation>
+    </message>
+    <message>
+        <source>lines that are not colours were left out: %1</source>
+        <translation>líneas omitidas que no son colores: %1</translation>
+    </message>
+    <message>
+        <source>saved as %1</source>
+        <translation>guardada como %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written</source>
+        <translation>«%1» no se pudo escribir</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder and that the disk has room</source>
+        <translation>compruebe que puede escribir en su carpeta y que queda espacio en el disco</translation>
+    </message>
+    <message>
+        <source>only files on this computer can be imported</source>
+        <translation>solo se pueden importar archivos de este equipo</translation>
+    </message>
+    <message>
+        <source>that is a long text, not a colour</source>
+        <translation>eso es un texto largo, no un color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside sRGB; this is the nearest colour inside</source>
+        <translation>«%1» está fuera de sRGB; este es el color más cercano dentro</translation>
+    </message>
+    <message>
+        <source>there is no colour to paste</source>
+        <translation>no hay ningún color que pegar</translation>
+    </message>
+    <message>
+        <source>copy a colour, or a CSS text such as #ff8000</source>
+        <translation>copie un color o un texto de CSS como #ff8000</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copied</source>
+        <translation>«%1» copiado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened (%2)</source>
+        <translation>«%1» no se puede abrir (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>«%1» pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>it cannot be loaded</source>
+        <translation>no se puede cargar</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is not a picker plug-in (it lacks vantorelPluginABI)</source>
+        <translation>no es un complemento de selector (le falta vantorelPluginABI)</translation>
+    </message>
+    <message>
+        <source>it was built for version %1 of the plug-in interface, and this panel has version %2</source>
+        <translation>se compiló para la versión %1 de la interfaz de complementos, y este panel tiene la versión %2</translation>
+    </message>
+    <message>
+        <source>install one that was built for this panel</source>
+        <translation>instale uno compilado para este panel</translation>
+    </message>
+    <message>
+        <source>it contains no picker</source>
+        <translation>no contiene ningún selector</translation>
+    </message>
+    <message>
+        <source>%1 is the same plug-in and was loaded first</source>
+        <translation>%1 es el mismo complemento y se cargó antes</translation>
+    </message>
+    <message>
+        <source>it did not create a page</source>
+        <translation>no creó ninguna página</translation>
+    </message>
+    <message>
+        <source>it failed to create its page: %1</source>
+        <translation>no pudo crear su página: %1</translation>
+    </message>
+    <message>
+        <source>it failed to create its page</source>
+        <translation>no pudo crear su página</translation>
+    </message>
+    <message>
+        <source>%1 is left out: %2</source>
+        <translation>se omite %1: %2</translation>
+    </message>
+    <message>
+        <source>remove the access-control list with &quot;setfacl -b&quot;</source>
+        <translation>quite la lista de control de acceso con «setfacl -b»</translation>
+    </message>
+    <message>
+        <source>the access-control list of &quot;%1&quot; cannot be read</source>
+        <translation>no se puede leer la lista de control de acceso de «%1»</translation>
+    </message>
+    <message>
+        <source>all users can write to &quot;%1&quot;</source>
+        <translation>todos los usuarios pueden escribir en «%1»</translation>
+    </message>
+    <message>
+        <source>remove the permission with &quot;chmod o-w&quot;</source>
+        <translation>quite el permiso con «chmod o-w»</translation>
+    </message>
+    <message>
+        <source>a group can write to &quot;%1&quot;</source>
+        <translation>un grupo puede escribir en «%1»</translation>
+    </message>
+    <message>
+        <source>remove the permission with &quot;chmod g-w&quot;</source>
+        <translation>quite el permiso con «chmod g-w»</translation>
+    </message>
+    <message>
+        <source>another user can write to &quot;%1&quot;</source>
+        <translation>otro usuario puede escribir en «%1»</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>this desktop offers no way to pick a colour: %1</source>
+        <translation>este escritorio no ofrece ninguna forma de tomar un color: %1</translation>
+    </message>
+    <message>
+        <source>there is no X11 display</source>
+        <translation>no hay pantalla X11</translation>
+    </message>
+    <message>
+        <source>the X11 display does not show the windows of Wayland</source>
+        <translation>la pantalla X11 no muestra las ventanas de Wayland</translation>
+    </message>
+    <message>
+        <source>the X11 display gives no picture of its screens</source>
+        <translation>la pantalla X11 no da ninguna imagen de sus monitores</translation>
+    </message>
+    <message>
+        <source>the desktop portal has no PickColor</source>
+        <translation>el portal del escritorio no tiene PickColor</translation>
+    </message>
+    <message>
+        <source>the desktop portal could not pick a colour</source>
+        <translation>el portal del escritorio no pudo tomar un color</translation>
+    </message>
+    <message>
+        <source>there is no desktop portal</source>
+        <translation>no hay portal del escritorio</translation>
+    </message>
+    <message>
+        <source>the desktop portal does not answer</source>
+        <translation>el portal del escritorio no responde</translation>
+    </message>
+    <message>
+        <source>the desktop portal has gone</source>
+        <translation>el portal del escritorio ha desaparecido</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>no hay bus de sesión</translation>
+    </message>
+    <message>
+        <source>the session bus has gone</source>
+        <translation>el bus de sesión ha desaparecido</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Muestra esta ayuda.</translation>
+    </message>
+    <message>
+        <source>The same as --color COLOR.</source>
+        <translation>Lo mismo que --color COLOR.</translation>
+    </message>
+    <message>
+        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Empieza con este color: cualquier forma de CSS Color 4, como «#ff8000» o «hsl(30 100% 50%)», o un texto que la página Hex acepta.</translation>
+    </message>
+    <message>
+        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
+        <translation>Empieza con esta página: hex, dialog, palettes o la página de otro complemento.</translation>
+    </message>
+    <message>
+        <source>Start in this mode of the hex page: slider, palette or wheel.</source>
+        <translation>Empieza en este modo de la página Hex: slider, palette o wheel.</translation>
+    </message>
+    <message>
+        <source>Size of the page in points, such as 260x340.</source>
+        <translation>Tamaño de la página en puntos, por ejemplo 260x340.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to FILE as PNG and exit. Works without a display and does not change the settings.</source>
+        <translation>Escribe una imagen de la ventana en FILE como PNG y termina. Funciona sin pantalla y no cambia los ajustes.</translation>
+    </message>
+    <message>
+        <source>Show this face of the hex page: colors or settings.</source>
+        <translation>Muestra esta cara de la página Hex: colors o settings.</translation>
+    </message>
+    <message>
+        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
+        <translation>Colores de la ventana en lugar de los del escritorio: light o dark.</translation>
+    </message>
+    <message>
+        <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
+        <translation>Guarda los ajustes, las listas de colores y el estado del panel en DIR/Vantorel en lugar de la carpeta del usuario. DIR debe existir.</translation>
+    </message>
+    <message>
+        <source>Also load this picker plug-in. Can be given more than once.</source>
+        <translation>Carga también este complemento de selector. Se puede dar varias veces.</translation>
+    </message>
+    <message>
+        <source>Print the colour to standard output as #rrggbbaa whenever it changes.</source>
+        <translation>Muestra el color en la salida estándar como #rrggbbaa cada vez que cambia.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen, print it as #rrggbb, and exit. Status: 0 picked, 1 cancelled, 3 not possible.</source>
+        <translation>Toma un color de la pantalla, lo muestra como #rrggbb y termina. Estado: 0 tomado, 1 cancelado, 3 imposible.</translation>
+    </message>
+    <message>
+        <source>Like --pick, and copy the colour to the clipboard.</source>
+        <translation>Como --pick, y copia el color en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
+        <translation>Copia el color del panel con su opacidad en el portapapeles, en la forma que llevaría un arrastre desde el panel, muestra el texto y termina.</translation>
+    </message>
+    <message>
+        <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
+        <translation>Como --copy, en la forma que tiene este nombre en el menú inglés del panel.</translation>
+    </message>
+    <message>
+        <source>Let the user choose a colour in a separate panel, print it in the form that a drag out of the panel would carry, and exit. Status: 0 chosen, 1 cancelled, 3 not possible.</source>
+        <translation>Deja elegir un color en un panel aparte, lo muestra en la forma que llevaría un arrastre desde el panel y termina. Estado: 0 elegido, 1 cancelado, 3 imposible.</translation>
+    </message>
+    <message>
+        <source>Start a new panel even if one is already running.</source>
+        <translation>Inicia un panel nuevo aunque ya haya uno abierto.</translation>
+    </message>
+    <message>
+        <source>Start without a window, answer requests over D-Bus, and exit when there are no more. The session bus starts the panel with this option.</source>
+        <translation>Se inicia sin ventana, responde a las peticiones por D-Bus y termina cuando no hay más. El bus de sesión inicia el panel con esta opción.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Muestra la versión y termina.</translation>
+    </message>
+    <message>
+        <source>A colour panel with pages from plug-ins. If a panel is already running, it is shown and carries out COLOR, --color, --pick, --pick-and-copy, --copy and --copy-as.</source>
+        <translation>Un panel de colores con páginas de complementos. Si ya hay un panel abierto, se muestra y ejecuta COLOR, --color, --pick, --pick-and-copy, --copy y --copy-as.</translation>
+    </message>
+    <message>
+        <source>Write JSON, one object per line.</source>
+        <translation>Escribe JSON, un objeto por línea.</translation>
+    </message>
+    <message>
+        <source>Width and height in points, or in pixels for PNG. The default is 640x480.</source>
+        <translation>Anchura y altura en puntos, o en píxeles para PNG. El valor predeterminado es 640x480.</translation>
+    </message>
+    <message>
+        <source>The name of the list.</source>
+        <translation>El nombre de la lista.</translation>
+    </message>
+    <message>
+        <source>The colour to show. With &quot;-&quot;, or without COLOR, colours are read from standard input, one per line.</source>
+        <translation>El color que se muestra. Con «-», o sin COLOR, los colores se leen de la entrada estándar, uno por línea.</translation>
+    </message>
+    <message>
+        <source>Take the name from this list instead of the list in the settings. With standard input, add the name to each line.</source>
+        <translation>Toma el nombre de esta lista en lugar de la de los ajustes. Con la entrada estándar, añade el nombre a cada línea.</translation>
+    </message>
+    <message>
+        <source>Write only the text of this snippet.</source>
+        <translation>Escribe solo el texto de esta línea de código.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in lower case.</source>
+        <translation>Escribe los dígitos hexadecimales en minúsculas.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in upper case. Without --lowercase or --uppercase, the settings decide.</source>
+        <translation>Escribe los dígitos hexadecimales en mayúsculas. Sin --lowercase ni --uppercase deciden los ajustes.</translation>
+    </message>
+    <message>
+        <source>Write hex codes without &quot;#&quot;.</source>
+        <translation>Escribe los códigos hexadecimales sin «#».</translation>
+    </message>
+    <message>
+        <source>Write hex codes with &quot;#&quot;. Without --pound-sign or --no-pound-sign, the settings decide.</source>
+        <translation>Escribe los códigos hexadecimales con «#». Sin --pound-sign ni --no-pound-sign deciden los ajustes.</translation>
+    </message>
+    <message>
+        <source>The colour to name; read as for &quot;show&quot;.</source>
+        <translation>El color que se nombra; se lee como en «show».</translation>
+    </message>
+    <message>
+        <source>Take the names from this list instead of the list in the settings.</source>
+        <translation>Toma los nombres de esta lista en lugar de la de los ajustes.</translation>
+    </message>
+    <message>
+        <source>Print only the names, one per line.</source>
+        <translation>Muestra solo los nombres, uno por línea.</translation>
+    </message>
+    <message>
+        <source>Write JSON.</source>
+        <translation>Escribe JSON.</translation>
+    </message>
+    <message>
+        <source>A palette file in any format of &quot;export&quot; except svg.</source>
+        <translation>Un archivo de paleta en un formato de «export» distinto de svg.</translation>
+    </message>
+    <message>
+        <source>Save the list under this name. Requires a single FILE.</source>
+        <translation>Guarda la lista con este nombre. Requiere un solo FILE.</translation>
+    </message>
+    <message>
+        <source>Replace lists of the same name without asking.</source>
+        <translation>Reemplaza las listas del mismo nombre sin preguntar.</translation>
+    </message>
+    <message>
+        <source>Write to FILE instead of standard output.</source>
+        <translation>Escribe en FILE en lugar de en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Replace files with different contents without asking.</source>
+        <translation>Reemplaza los archivos con otro contenido sin preguntar.</translation>
+    </message>
+    <message>
+        <source>Revert the last publish of the list: restore the files that it replaced and remove those that it created. Files that have changed since are kept.</source>
+        <translation>Revierte la última publicación de la lista: restaura los archivos reemplazados y elimina los creados. Se conservan los archivos que han cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>The name of the list. If it is also the name of a command, put &quot;--&quot; before it.</source>
+        <translation>El nombre de la lista. Si también es el nombre de una orden, ponga «--» delante.</translation>
+    </message>
+    <message>
+        <source>Add palette files to your colour lists.
+A list of the same name is replaced only if you agree.</source>
+        <translation>Añade archivos de paleta a sus listas de colores.
+Una lista del mismo nombre solo se reemplaza si usted lo acepta.</translation>
+    </message>
+    <message>
+        <source>Write a colour list in a format that other programs read.</source>
+        <translation>Escribe una lista de colores en un formato que leen otros programas.</translation>
+    </message>
+    <message>
+        <source>Put a colour list into the palette folders of graphics programs.
+A palette file is written into your palette folder of every version of GIMP, of Inkscape, Krita and KDE, if the folder exists. A file with different contents is replaced only if you agree.</source>
+        <translation>Pone una lista de colores en las carpetas de paletas de los programas gráficos.
+Se escribe un archivo de paleta en su carpeta de paletas de cada versión de GIMP, de Inkscape, Krita y KDE, si la carpeta existe. Un archivo con otro contenido solo se reemplaza si usted lo acepta.</translation>
+    </message>
+    <message>
+        <source>The foreground colour, then the background colour.</source>
+        <translation>El color del primer plano y después el del fondo.</translation>
+    </message>
+    <message>
+        <source>Number of rings, 2 to 128. The default is the number in the settings.</source>
+        <translation>Número de anillos, de 2 a 128. El predeterminado es el de los ajustes.</translation>
+    </message>
+    <message>
+        <source>Write SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Escribe SVG en FILE; «-» es la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Write PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Escribe PNG en FILE; «-» es la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Copy the colour to the clipboard.</source>
+        <translation>Copia el color en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>The colour to start with.</source>
+        <translation>El color inicial.</translation>
+    </message>
+    <message>
+        <source>bash, zsh or fish.</source>
+        <translation>bash, zsh o fish.</translation>
+    </message>
+    <message>
+        <source>Print the completion script of vantorel-panel.</source>
+        <translation>Muestra el guion de completado de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>Print the manual page of vantorel-panel.</source>
+        <translation>Muestra la página de manual de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>Show a colour in every form, with its name and snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Muestra un color en todas sus formas, con su nombre y sus líneas de código.
+Los colores de la entrada estándar se leen uno por línea. Por cada uno se escribe una línea: el código hexadecimal, un tabulador y el texto rgb(); --list añade un tabulador y el nombre. Se omiten las líneas vacías. Una línea que no es un color se comunica por el error estándar, y se siguen leyendo las siguientes.</translation>
+    </message>
+    <message>
+        <source>Print the name of each colour on a line of its own.
+If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
+        <translation>Muestra el nombre de cada color en una línea propia.
+Si la lista no tiene un nombre exacto pero CSS Color 4 sí, se muestra ese nombre seguido de «(CSS Color 4)». Si no lo tiene ninguna, los nombres de colores cercanos siguen a un «*»; si no hay ninguno cercano, la línea es «No Match».</translation>
+    </message>
+    <message>
+        <source>List all colour lists with their number of colours, name and file.</source>
+        <translation>Muestra todas las listas de colores con su número de colores, nombre y archivo.</translation>
+    </message>
+    <message>
+        <source>List the colours of a list, or import, export or publish a list.</source>
+        <translation>Muestra los colores de una lista, o importa, exporta o publica una lista.</translation>
+    </message>
+    <message>
+        <source>List the snippets in the settings with their formats.</source>
+        <translation>Muestra las líneas de código de los ajustes con sus formatos.</translation>
+    </message>
+    <message>
+        <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
+The ratio is truncated to two decimals, not rounded.</source>
+        <translation>Muestra la relación de contraste de dos colores y los criterios de WCAG 2.2 que cumple.
+La relación se trunca a dos decimales, no se redondea.</translation>
+    </message>
+    <message>
+        <source>Draw the colour wheel.</source>
+        <translation>Dibuja la rueda de colores.</translation>
+    </message>
+    <message>
+        <source>Draw the palette of a colour list.</source>
+        <translation>Dibuja la paleta de una lista de colores.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen and print it (vantorel-panel).</source>
+        <translation>Toma un color de la pantalla y lo muestra (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Choose a colour in the colour panel and print it (vantorel-panel).</source>
+        <translation>Deja elegir un color en el panel y lo muestra (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Start the colour panel with the options that follow. &quot;panel --help&quot; lists them.</source>
+        <translation>Inicia el panel con las opciones que siguen. «panel --help» las muestra.</translation>
+    </message>
+    <message>
+        <source>Print a completion script for a shell.
+For bash: source &lt;(vantorel completions bash)</source>
+        <translation>Muestra un guion de completado para una shell.
+Para bash: source &lt;(vantorel completions bash)</translation>
+    </message>
+    <message>
+        <source>Print the manual page, formatted for man.</source>
+        <translation>Muestra la página de manual, en el formato de man.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Muestra la versión.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Colores para quienes escriben CSS y código.
+Un COLOR es cualquier forma de CSS Color 4 («#ff8000», «rgb(255 128 0)», «oklch(70% 0.1 50)», «orange»), un texto que el selector acepta («ff8000», «RGB(255, 128, 0);») o un nombre de la lista de colores.
+Los ajustes, líneas de código y listas de colores son los del selector.</translation>
+    </message>
+    <message>
+        <source>palette of graphics programs</source>
+        <translation>paleta de programas gráficos</translation>
+    </message>
+    <message>
+        <source>custom properties</source>
+        <translation>propiedades personalizadas</translation>
+    </message>
+    <message>
+        <source>variables</source>
+        <translation>variables</translation>
+    </message>
+    <message>
+        <source>swatch exchange, binary</source>
+        <translation>intercambio de muestras, binario</translation>
+    </message>
+    <message>
+        <source>a picture with names</source>
+        <translation>una imagen con nombres</translation>
+    </message>
+    <message>
+        <source>there is no snippet &quot;%1&quot;</source>
+        <translation>no hay ninguna línea de código «%1»</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel snippets&quot; to list them</source>
+        <translation>«vantorel snippets» las muestra</translation>
+    </message>
+    <message>
+        <source>there is no colour list to name colours by</source>
+        <translation>no hay ninguna lista de colores con la que nombrar los colores</translation>
+    </message>
+    <message>
+        <source>choose one with &quot;--list NAME&quot;; run &quot;vantorel lists&quot; to list them</source>
+        <translation>elija una con «--list NAME»; «vantorel lists» las muestra</translation>
+    </message>
+    <message>
+        <source>standard input, line %1: %2</source>
+        <translation>entrada estándar, línea %1: %2</translation>
+    </message>
+    <message>
+        <source>standard input has %1 more lines that are not colours</source>
+        <translation>la entrada estándar tiene %1 líneas más que no son colores</translation>
+    </message>
+    <message>
+        <source>give one colour per line</source>
+        <translation>dé un color por línea</translation>
+    </message>
+    <message>
+        <source>the line is longer than 64 KiB</source>
+        <translation>la línea supera los 64 KiB</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read</source>
+        <translation>no se puede leer la entrada estándar</translation>
+    </message>
+    <message>
+        <source>give colours as arguments, or redirect standard input from a file or program</source>
+        <translation>dé los colores como argumentos, o redirija la entrada estándar desde un archivo o programa</translation>
+    </message>
+    <message>
+        <source>--size cannot be &quot;%1&quot;</source>
+        <translation>--size no puede ser «%1»</translation>
+    </message>
+    <message>
+        <source>use a size from 8x8 to 16384x16384, such as 640x480</source>
+        <translation>use un tamaño de 8x8 a 16384x16384, por ejemplo 640x480</translation>
+    </message>
+    <message>
+        <source>--rings cannot be &quot;%1&quot;</source>
+        <translation>--rings no puede ser «%1»</translation>
+    </message>
+    <message>
+        <source>use a whole number from %1 to %2</source>
+        <translation>use un número entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>this format is binary and is not written to a terminal</source>
+        <translation>este formato es binario y no se escribe en un terminal</translation>
+    </message>
+    <message>
+        <source>give a file, or redirect the output</source>
+        <translation>dé un archivo, o redirija la salida</translation>
+    </message>
+    <message>
+        <source>check that it is a readable file of at most 64 MiB</source>
+        <translation>compruebe que es un archivo legible de 64 MiB como máximo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>«%1»: %2</translation>
+    </message>
+    <message>
+        <source>a list &quot;%1&quot; with different colours already exists</source>
+        <translation>ya existe una lista «%1» con otros colores</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it, or &quot;--name NAME&quot; to choose another name</source>
+        <translation>«--yes» la reemplaza, «--name NAME» elige otro nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported</source>
+        <translation>no se importó «%1»</translation>
+    </message>
+    <message>
+        <source>use &quot;--name NAME&quot; to choose another name</source>
+        <translation>«--name NAME» elige otro nombre</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; cannot be saved</source>
+        <translation>no se puede guardar la lista «%1»</translation>
+    </message>
+    <message>
+        <source>check that you can write to your data folder</source>
+        <translation>compruebe que puede escribir en su carpeta de datos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 lines or entries were skipped</source>
+        <translation>«%1»: se omitieron %2 líneas o entradas</translation>
+    </message>
+    <message>
+        <source>each must contain one colour</source>
+        <translation>cada una debe contener un color</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>falta NAME</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list the names, or &quot;vantorel list --help&quot; for the commands</source>
+        <translation>«vantorel lists» muestra los nombres, «vantorel list --help» las órdenes</translation>
+    </message>
+    <message>
+        <source>--name is given for %1 files</source>
+        <translation>--name se da para %1 archivos</translation>
+    </message>
+    <message>
+        <source>use it with a single FILE</source>
+        <translation>úselo con un solo FILE</translation>
+    </message>
+    <message>
+        <source>--name is empty</source>
+        <translation>--name está vacío</translation>
+    </message>
+    <message>
+        <source>give the list a name</source>
+        <translation>dé un nombre a la lista</translation>
+    </message>
+    <message>
+        <source>no output file is given</source>
+        <translation>no se da ningún archivo de salida</translation>
+    </message>
+    <message>
+        <source>give --svg FILE or --png FILE</source>
+        <translation>dé --svg FILE o --png FILE</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn</source>
+        <translation>no se puede dibujar la imagen</translation>
+    </message>
+    <message>
+        <source>try a smaller --size</source>
+        <translation>pruebe un --size menor</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written (%1)</source>
+        <translation>no se puede escribir en la salida estándar (%1)</translation>
+    </message>
+    <message>
+        <source>redirect it to a file with free space, or to a program that reads it</source>
+        <translation>rediríjala a un archivo con espacio libre, o a un programa que la lea</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written</source>
+        <translation>no se puede escribir «%1»</translation>
+    </message>
+    <message>
+        <source>check that its folder exists and that you can write to it</source>
+        <translation>compruebe que su carpeta existe y que puede escribir en ella</translation>
+    </message>
+    <message>
+        <source>the program vantorel-panel is missing</source>
+        <translation>falta el programa vantorel-panel</translation>
+    </message>
+    <message>
+        <source>install it beside vantorel or in a folder of PATH</source>
+        <translation>instálelo junto a vantorel o en una carpeta de PATH</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run (%2)</source>
+        <translation>no se puede ejecutar «%1» (%2)</translation>
+    </message>
+    <message>
+        <source>reinstall vantorel-panel</source>
+        <translation>reinstale vantorel-panel</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be read</source>
+        <translation>no se puede leer el registro de archivos publicados</translation>
+    </message>
+    <message>
+        <source>check that you can read your data folder</source>
+        <translation>compruebe que puede leer su carpeta de datos</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has not been published</source>
+        <translation>la lista «%1» no se ha publicado</translation>
+    </message>
+    <message>
+        <source>only lists published with &quot;vantorel list publish&quot; can be undone</source>
+        <translation>solo se pueden deshacer las listas publicadas con «vantorel list publish»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was published</source>
+        <translation>«%1» ha cambiado desde que se publicó</translation>
+    </message>
+    <message>
+        <source>it is kept; remove it yourself if you do not need it</source>
+        <translation>se conserva; elimínelo usted si no lo necesita</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder</source>
+        <translation>compruebe que puede escribir en su carpeta</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written</source>
+        <translation>no se puede escribir el registro de archivos publicados</translation>
+    </message>
+    <message>
+        <source>no graphics program has a folder for your palettes</source>
+        <translation>ningún programa gráfico tiene una carpeta para sus paletas</translation>
+    </message>
+    <message>
+        <source>start GIMP, Inkscape or Krita once to create it</source>
+        <translation>inicie GIMP, Inkscape o Krita una vez para crearla</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced</source>
+        <translation>no se puede reemplazar «%1»</translation>
+    </message>
+    <message>
+        <source>remove it, or make it a readable file</source>
+        <translation>elimínelo, o conviértalo en un archivo legible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists with different contents</source>
+        <translation>«%1» ya existe con otro contenido</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it</source>
+        <translation>«--yes» lo reemplaza</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has just been changed by another program</source>
+        <translation>otro programa acaba de cambiar «%1»</translation>
+    </message>
+    <message>
+        <source>publish again</source>
+        <translation>publique de nuevo</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written, so no file was published</source>
+        <translation>no se puede escribir el registro de archivos publicados, así que no se ha publicado ninguno</translation>
+    </message>
+    <message>
+        <source>there is no colour list &quot;%1&quot;</source>
+        <translation>no hay ninguna lista de colores «%1»</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list them</source>
+        <translation>«vantorel lists» las muestra</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>try fewer colours at a time</source>
+        <translation>pruebe con menos colores a la vez</translation>
+    </message>
+    <message>
+        <source>see &quot;%1 --help&quot;</source>
+        <translation>vea «%1 --help»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a command</source>
+        <translation>«%1» no es una orden</translation>
+    </message>
+    <message>
+        <source>put it after &quot;%1&quot;</source>
+        <translation>póngalo después de «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; precedes the command</source>
+        <translation>«%1» precede a la orden</translation>
+    </message>
+    <message>
+        <source>%1 precedes the command</source>
+        <translation>%1 precede a la orden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option &quot;%2&quot;</source>
+        <translation>«%1» no tiene la opción «%2»</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 no admite ningún valor</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 necesita un valor</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 se da dos veces</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 es obligatorio</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2</source>
+        <translation>%1 no se puede combinar con %2</translation>
+    </message>
+    <message>
+        <source>the command is missing</source>
+        <translation>falta la orden</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>«%1» es un argumento de más</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;</source>
+        <translation>%1 no puede ser «%2»</translation>
+    </message>
+    <message>
+        <source>use %1</source>
+        <translation>use %1</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>&quot;%1 COMMAND --help&quot; shows the help of a command.</source>
+        <translation>«%1 COMMAND --help» muestra la ayuda de una orden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>no se puede leer «%1»: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>no se puede escribir «%1»: %2</translation>
+    </message>
+    <message>
+        <source>its arrays and objects are more than %1 deep</source>
+        <translation>sus matrices y objetos superan los %1 niveles</translation>
+    </message>
+    <message>
+        <source>give a list of names and colours</source>
+        <translation>dé una lista de nombres y colores</translation>
+    </message>
+    <message>
+        <source>it is not a JSON colour list</source>
+        <translation>no es una lista de colores en JSON</translation>
+    </message>
+    <message>
+        <source>it contains no colours</source>
+        <translation>no contiene colores</translation>
+    </message>
+    <message>
+        <source>give a file in any format of &quot;export&quot; except svg</source>
+        <translation>dé un archivo en un formato de «export» distinto de svg</translation>
+    </message>
+    <message>
+        <source>it is a palette without colours</source>
+        <translation>es una paleta sin colores</translation>
+    </message>
+    <message>
+        <source>give one with rows &quot;R G B NAME&quot;</source>
+        <translation>dé una con filas «R G B NOMBRE»</translation>
+    </message>
+    <message>
+        <source>it is truncated</source>
+        <translation>está truncado</translation>
+    </message>
+    <message>
+        <source>give the complete file</source>
+        <translation>dé el archivo completo</translation>
+    </message>
+    <message>
+        <source>give a file with RGB, CMYK, Lab or grey colours</source>
+        <translation>dé un archivo con colores RGB, CMYK, Lab o grises</translation>
+    </message>
+    <message>
+        <source>pictures cannot be imported</source>
+        <translation>las imágenes no se pueden importar</translation>
+    </message>
+    <message>
+        <source>give a palette, such as one exported with &quot;--format gpl&quot;</source>
+        <translation>dé una paleta, por ejemplo una exportada con «--format gpl»</translation>
+    </message>
+    <message>
+        <source>--page: there is no page &quot;%1&quot;</source>
+        <translation>--page: no hay ninguna página «%1»</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined</source>
+        <translation>%1 no se pueden combinar</translation>
+    </message>
+    <message>
+        <source>COLOR and --color cannot be combined</source>
+        <translation>COLOR y --color no se pueden combinar</translation>
+    </message>
+    <message>
+        <source>--color: %1</source>
+        <translation>--color: %1</translation>
+    </message>
+    <message>
+        <source>--size: &quot;%1&quot; is not a size</source>
+        <translation>--size: «%1» no es un tamaño</translation>
+    </message>
+    <message>
+        <source>try 260x340</source>
+        <translation>pruebe 260x340</translation>
+    </message>
+    <message>
+        <source>--data: there is no folder &quot;%1&quot;</source>
+        <translation>--data: no hay ninguna carpeta «%1»</translation>
+    </message>
+    <message>
+        <source>--screenshot: &quot;%1&quot; cannot be written</source>
+        <translation>--screenshot: no se puede escribir «%1»</translation>
+    </message>
+    <message>
+        <source>there is no display (neither WAYLAND_DISPLAY nor DISPLAY is set); --screenshot FILE works without one</source>
+        <translation>no hay pantalla (ni WAYLAND_DISPLAY ni DISPLAY están definidas); --screenshot FILE funciona sin ella</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists: %2 colours</source>
+        <translation>«%1» ya existe: %2 colores</translation>
+    </message>
+    <message>
+        <source>Replace the list &quot;%1&quot;?</source>
+        <translation>¿Reemplazar la lista «%1»?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 colours from %3</source>
+        <translation>«%1»: %2 colores de %3</translation>
+    </message>
+    <message>
+        <source>restored: %1</source>
+        <translation>restaurado: %1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>eliminado: %1</translation>
+    </message>
+    <message>
+        <source>already undone: %1</source>
+        <translation>ya deshecho: %1</translation>
+    </message>
+    <message>
+        <source>up to date: %1</source>
+        <translation>al día: %1</translation>
+    </message>
+    <message>
+        <source>Replace &quot;%1&quot;, which has different contents?</source>
+        <translation>¿Reemplazar «%1», que tiene otro contenido?</translation>
+    </message>
+    <message>
+        <source>kept: %1</source>
+        <translation>conservado: %1</translation>
+    </message>
+    <message>
+        <source>replaced for %1</source>
+        <translation>reemplazado para %1</translation>
+    </message>
+    <message>
+        <source>written for %1</source>
+        <translation>escrito para %1</translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <translation>%1 [s/N]</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has just been changed</source>
+        <translation>la lista «%1» acaba de cambiar</translation>
+    </message>
+    <message>
+        <source>import once more</source>
+        <translation>importe de nuevo</translation>
+    </message>
+    <message>
+        <source>another program is still changing files in &quot;%1&quot;</source>
+        <translation>otro programa todavía está cambiando archivos en «%1»</translation>
+    </message>
+    <message>
+        <source>try again when it has finished</source>
+        <translation>inténtelo de nuevo cuando haya terminado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>no se puede leer «%1»: no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>another program is still changing colour lists, so &quot;%1&quot; was not changed</source>
+        <translation>otro programa todavía está cambiando listas de colores, así que «%1» no se ha cambiado</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1</source>
+        <translation>no se puede escribir en la salida estándar: %1</translation>
+    </message>
+    <message>
+        <source>the working folder cannot be read: %1</source>
+        <translation>no se puede leer la carpeta de trabajo: %1</translation>
+    </message>
+    <message>
+        <source>use the absolute path of the plug-in</source>
+        <translation>use la ruta absoluta del complemento</translation>
+    </message>
+</context>
+<context>
+    <name>Vantorel</name>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Colour magnifier</source>
+        <translation>Lupa de colores</translation>
+    </message>
+    <message>
+        <source>Back to the colours</source>
+        <translation>Volver a los colores</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Click on color</source>
+        <translation>Pulse sobre un color</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Code snippet</source>
+        <translation>Línea de código</translation>
+    </message>
+    <message>
+        <source>Code snippet form</source>
+        <translation>Forma de la línea de código</translation>
+    </message>
+    <message>
+        <source>Colour list</source>
+        <translation>Lista de colores</translation>
+    </message>
+    <message>
+        <source>Colour name</source>
+        <translation>Nombre del color</translation>
+    </message>
+    <message>
+        <source>Colour under the pointer</source>
+        <translation>Color bajo el puntero</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Component display</source>
+        <translation>Presentación de los componentes</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Arrastre</translation>
+    </message>
+    <message>
+        <source>Drag type</source>
+        <translation>Contenido del arrastre</translation>
+    </message>
+    <message>
+        <source>Enlarge the panel to show all settings</source>
+        <translation>Agrande el panel para ver todos los ajustes</translation>
+    </message>
+    <message>
+        <source>Fewer rings</source>
+        <translation>Menos anillos</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Hex code</source>
+        <translation>Código hexadecimal</translation>
+    </message>
+    <message>
+        <source>Hex colour</source>
+        <translation>Color hexadecimal</translation>
+    </message>
+    <message>
+        <source>Lead hex codes with #</source>
+        <translation>Empezar los códigos hexadecimales con #</translation>
+    </message>
+    <message>
+        <source>Letter case</source>
+        <translation>Mayúsculas</translation>
+    </message>
+    <message>
+        <source>Letter case of hex codes</source>
+        <translation>Mayúsculas o minúsculas en los códigos hexadecimales</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>More rings</source>
+        <translation>Más anillos</translation>
+    </message>
+    <message>
+        <source>More settings</source>
+        <translation>Más ajustes</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Paleta</translation>
+    </message>
+    <message>
+        <source>Palette: pick among the colours of the list</source>
+        <translation>Paleta: elegir entre los colores de la lista</translation>
+    </message>
+    <message>
+        <source>RGB or colour name</source>
+        <translation>RGB o nombre de color</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Deslizadores</translation>
+    </message>
+    <message>
+        <source>Slider: pick by hex digits</source>
+        <translation>Deslizadores: elegir por dígitos hexadecimales</translation>
+    </message>
+    <message>
+        <source>The colour as a hex code: six digits, three or one</source>
+        <translation>El color como código hexadecimal: seis dígitos, tres o uno</translation>
+    </message>
+    <message>
+        <source>The colour as a line of code</source>
+        <translation>El color como línea de código</translation>
+    </message>
+    <message>
+        <source>The colour as rgb(red, green, blue); a colour name is completed as you type</source>
+        <translation>El color como rgb(rojo, verde, azul); un nombre de color se completa al escribir</translation>
+    </message>
+    <message>
+        <source>The colour&apos;s name in the list; choose one to pick it</source>
+        <translation>El nombre del color en la lista; elija uno para tomar su color</translation>
+    </message>
+    <message>
+        <source>The form of the line of code</source>
+        <translation>La forma de la línea de código</translation>
+    </message>
+    <message>
+        <source>The list that names the colour and fills the palette</source>
+        <translation>La lista que da nombre al color y llena la paleta</translation>
+    </message>
+    <message>
+        <source>Use #</source>
+        <translation>Con #</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Version 0.1</source>
+        <translation>Versión 0.1</translation>
+    </message>
+    <message>
+        <source>What a drag out of the colours carries</source>
+        <translation>Lo que se lleva un arrastre desde los colores</translation>
+    </message>
+    <message>
+        <source>What the fields below the colours show</source>
+        <translation>Lo que muestran los campos bajo los colores</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rueda</translation>
+    </message>
+    <message>
+        <source>Wheel: pick by hue, tint and shade</source>
+        <translation>Rueda: elegir por tono y matiz</translation>
+    </message>
+    <message>
+        <source>Vantorel</source>
+        <translation>Vantorel</translation>
+    </message>
+    <message>
+        <source>left digit</source>
+        <translation>dígito izquierdo</translation>
+    </message>
+    <message>
+        <source>right digit</source>
+        <translation>dígito derecho</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>A panel is already running and cannot apply %1. Use --new to start another.</source>
+        <translation>Ya hay un panel abierto, que no puede aplicar %1. Use --new para iniciar otro.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ChoiceBar</name>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorChoice</name>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Elegir un color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ContrastLabel</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Contraste con el fondo: %1 a 1
+Texto normal: AA %2, AAA %3
+Texto grande: AA %4, AAA %5
+Controles y gráficos: AA %6</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::DialogPage</name>
+    <message>
+        <source>Colour dialog</source>
+        <translation>Diálogo de color</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>Moverse por los colores</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Tomar el color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteCommands</name>
+    <message>
+        <source>New list</source>
+        <translation>Lista nueva</translation>
+    </message>
+    <message>
+        <source>Rename the list</source>
+        <translation>Cambiar el nombre de la lista</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Copiar la lista</translation>
+    </message>
+    <message>
+        <source>Remove the list</source>
+        <translation>Eliminar la lista</translation>
+    </message>
+    <message>
+        <source>Import palette files...</source>
+        <translation>Importar archivos de paleta...</translation>
+    </message>
+    <message>
+        <source>Save a copy as a file...</source>
+        <translation>Guardar una copia en un archivo...</translation>
+    </message>
+    <message>
+        <source>Add the panel&apos;s colour</source>
+        <translation>Añadir el color del panel</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar el nombre</translation>
+    </message>
+    <message>
+        <source>Give it the panel&apos;s colour</source>
+        <translation>Darle el color del panel</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Add %1 to the list (%2)</source>
+        <translation>Añadir %1 a la lista (%2)</translation>
+    </message>
+    <message>
+        <source>Give the selected colours the panel&apos;s colour, %1</source>
+        <translation>Dar a los colores seleccionados el color del panel, %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteEntriesView</name>
+    <message>
+        <source>Colour name</source>
+        <translation>Nombre del color</translation>
+    </message>
+    <message>
+        <source>Colours of the list</source>
+        <translation>Colores de la lista</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteListChooser</name>
+    <message>
+        <source>Colour list</source>
+        <translation>Lista de colores</translation>
+    </message>
+    <message>
+        <source>The shown list</source>
+        <translation>La lista mostrada</translation>
+    </message>
+    <message>
+        <source>Name of the list</source>
+        <translation>Nombre de la lista</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteListModel</name>
+    <message>
+        <source>Belongs to %1, read-only</source>
+        <translation>Pertenece a %1, solo lectura</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesPage</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletas</translation>
+    </message>
+    <message>
+        <source>Palettes: edit the lists of named colours</source>
+        <translation>Paletas: editar las listas de colores con nombre</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesWidget</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletas</translation>
+    </message>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Buscar un nombre o código hexadecimal</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>Muestra solo los colores cuyo nombre o código hexadecimal contiene esto (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Commands for lists and colours</source>
+        <translation>Órdenes para listas y colores</translation>
+    </message>
+    <message>
+        <source>From %1, read-only. Your first change makes a list of your own.</source>
+        <translation>De %1, solo lectura. El primer cambio la convierte en una lista suya.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Colours in the list</source>
+        <translation>Colores en la lista</translation>
+    </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Colores en la lista: %1</translation>
+    </message>
+    <message>
+        <source>There is no list yet. Create one, or drop a palette file here.</source>
+        <translation>Aún no hay ninguna lista. Cree una o suelte aquí un archivo de paleta.</translation>
+    </message>
+    <message>
+        <source>The list is empty. The + adds the panel&apos;s colour.</source>
+        <translation>La lista está vacía. El + añade el color del panel.</translation>
+    </message>
+    <message>
+        <source>No colour name or hex code matches.</source>
+        <translation>Ningún nombre ni código hexadecimal coincide.</translation>
+    </message>
+    <message>
+        <source>New list</source>
+        <translation>Lista nueva</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 copia</translation>
+    </message>
+    <message>
+        <source>My colours</source>
+        <translation>Mis colores</translation>
+    </message>
+    <message>
+        <source>Import palette files</source>
+        <translation>Importar archivos de paleta</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Guardar una copia</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 de %2 listas</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % de la lista</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>No leer más. Lo leído hasta ahora se puede usar.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Leído hasta ahora: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelCommands</name>
+    <message>
+        <source>Copy as</source>
+        <translation>Copiar como</translation>
+    </message>
+    <message>
+        <source>Pick from the screen</source>
+        <translation>Tomar de la pantalla</translation>
+    </message>
+    <message>
+        <source>Pick and copy</source>
+        <translation>Tomar y copiar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the hex code</source>
+        <translation>Copiar el código hexadecimal</translation>
+    </message>
+    <message>
+        <source>Paste a colour</source>
+        <translation>Pegar un color</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Swap colour and background</source>
+        <translation>Intercambiar color y fondo</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Always on top</source>
+        <translation>Siempre visible</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Next control</source>
+        <translation>Control siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTools</name>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTopBar</name>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Órdenes</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelWindow</name>
+    <message>
+        <source>A plug-in was left out</source>
+        <translation>Se omitió un complemento</translation>
+    </message>
+    <message>
+        <source>%1 plug-ins were left out</source>
+        <translation>Se omitieron %1 complementos</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PluginPage</name>
+    <message>
+        <source>The page &quot;%1&quot; could not be created because its interface file is missing or damaged. Try reinstalling %2.</source>
+        <translation>La página «%1» no se pudo crear porque su archivo de interfaz falta o está dañado. Pruebe a reinstalar %2.</translation>
+    </message>
+    <message>
+        <source>Enter what was typed</source>
+        <translation>Aceptar lo escrito</translation>
+    </message>
+    <message>
+        <source>Give up what was typed</source>
+        <translation>Descartar lo escrito</translation>
+    </message>
+    <message>
+        <source>Change a component</source>
+        <translation>Cambiar un componente</translation>
+    </message>
+    <message>
+        <source>Change a component by 16</source>
+        <translation>Cambiar un componente en 16</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>Moverse por los colores</translation>
+    </message>
+    <message>
+        <source>Move to the ends of the colours</source>
+        <translation>Ir a los extremos de los colores</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Tomar el color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::RecentColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Últimos colores</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ShortcutOverlay</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Escape or a click closes the list.</source>
+        <translation>Escape o un clic cierra la lista.</translation>
+    </message>
+</context>
+</TS>

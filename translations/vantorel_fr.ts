@@ -1,0 +1,2152 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_GB">
+<context>
+    <name>DisplayNames</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Code Snippet</source>
+        <translation>Ligne de code</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>Fraction</source>
+        <translation>Fraction</translation>
+    </message>
+    <message>
+        <source>Hex</source>
+        <translation>Hex</translation>
+    </message>
+    <message>
+        <source>Hex Code</source>
+        <translation>Code hexadécimal</translation>
+    </message>
+    <message>
+        <source>Input Error</source>
+        <translation>Erreur de saisie</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Entier</translation>
+    </message>
+    <message>
+        <source>Lowercase</source>
+        <translation>Minuscules</translation>
+    </message>
+    <message>
+        <source>No Match</source>
+        <translation>Aucun nom</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Uppercase</source>
+        <translation>Majuscules</translation>
+    </message>
+</context>
+<context>
+    <name>ListFileFilters</name>
+    <message>
+        <source>GIMP palettes</source>
+        <translation>Palettes de GIMP</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>Propriétés personnalisées CSS</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>Variables SCSS</translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation>JSON</translation>
+    </message>
+    <message>
+        <source>Swatch exchange files</source>
+        <translation>Fichiers d’échange de nuanciers</translation>
+    </message>
+    <message>
+        <source>SVG pictures</source>
+        <translation>Images SVG</translation>
+    </message>
+    <message>
+        <source>Text files</source>
+        <translation>Fichiers texte</translation>
+    </message>
+    <message>
+        <source>Colour lists</source>
+        <translation>Listes de couleurs</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>hue</source>
+        <translation>teinte</translation>
+    </message>
+    <message>
+        <source>lightness</source>
+        <translation>luminosité</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rouge</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>vert</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>bleu</translation>
+    </message>
+    <message>
+        <source>saturation</source>
+        <translation>saturation</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>alpha</source>
+        <translation>opacité</translation>
+    </message>
+    <message>
+        <source>whiteness</source>
+        <translation>part de blanc</translation>
+    </message>
+    <message>
+        <source>blackness</source>
+        <translation>part de noir</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>b</source>
+        <translation>b</translation>
+    </message>
+    <message>
+        <source>chroma</source>
+        <translation>chroma</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot;</source>
+        <translation>écrivez « %1 »</translation>
+    </message>
+    <message>
+        <source>an angle or a number</source>
+        <translation>un angle ou un nombre</translation>
+    </message>
+    <message>
+        <source>a number or a percentage</source>
+        <translation>un nombre ou un pourcentage</translation>
+    </message>
+    <message>
+        <source>A hex colour without &quot;#&quot; has 3 or 6 digits, not %1</source>
+        <translation>Une couleur hexadécimale sans « # » a 3 ou 6 chiffres, et non %1</translation>
+    </message>
+    <message>
+        <source>The text contains no colour</source>
+        <translation>Le texte ne contient pas de couleur</translation>
+    </message>
+    <message>
+        <source>write one such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>écrivez-en une comme « #ff8000 », « rgb(255 128 0) » ou « orange »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour</source>
+        <translation>« %1 » n’est pas une couleur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; follows the colour</source>
+        <translation>« %1 » suit la couleur</translation>
+    </message>
+    <message>
+        <source>give a single colour</source>
+        <translation>donnez une seule couleur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a hex digit</source>
+        <translation>« %1 » n’est pas un chiffre hexadécimal</translation>
+    </message>
+    <message>
+        <source>use digits 0 to 9 and letters a to f after the &quot;#&quot;</source>
+        <translation>utilisez les chiffres 0 à 9 et les lettres a à f après le « # »</translation>
+    </message>
+    <message>
+        <source>A hex colour has 3, 4, 6 or 8 digits after the &quot;#&quot;, not %1</source>
+        <translation>Une couleur hexadécimale a 3, 4, 6 ou 8 chiffres après le « # », et non %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a property, not part of the colour</source>
+        <translation>« %1 » est une propriété et ne fait pas partie de la couleur</translation>
+    </message>
+    <message>
+        <source>give only its value, such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>donnez seulement sa valeur, comme « #ff8000 », « rgb(255 128 0) » ou « orange »</translation>
+    </message>
+    <message>
+        <source>The colour of &quot;%1&quot; depends on the page that uses it</source>
+        <translation>La couleur de « %1 » dépend de la page qui l’utilise</translation>
+    </message>
+    <message>
+        <source>write a fixed colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>écrivez une couleur fixe comme « #ff8000 », « rgb(255 128 0) » ou « orange »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be directly followed by its parenthesis</source>
+        <translation>« %1 » doit être suivi immédiatement de sa parenthèse</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a CSS colour name</source>
+        <translation>« %1 » n’est pas un nom de couleur CSS</translation>
+    </message>
+    <message>
+        <source>write a colour such as &quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot; or &quot;orange&quot;</source>
+        <translation>écrivez une couleur comme « #ff8000 », « rgb(255 128 0) » ou « orange »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a supported colour function</source>
+        <translation>« %1 » n’est pas une fonction de couleur prise en charge</translation>
+    </message>
+    <message>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
+        <translation>utilisez rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() ou color()</translation>
+    </message>
+    <message>
+        <source>Relative colours, with &quot;from&quot;, are not supported</source>
+        <translation>Les couleurs relatives, avec « from », ne sont pas prises en charge</translation>
+    </message>
+    <message>
+        <source>write the values themselves, as in &quot;%1&quot;</source>
+        <translation>écrivez les valeurs elles-mêmes, comme dans « %1 »</translation>
+    </message>
+    <message>
+        <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
+        <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 ou xyz-d65</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour space of color()</source>
+        <translation>« %1 » n’est pas un espace colorimétrique de color()</translation>
+    </message>
+    <message>
+        <source>write %1</source>
+        <translation>écrivez %1</translation>
+    </message>
+    <message>
+        <source>color() must begin with a colour space: %1</source>
+        <translation>color() doit commencer par un espace colorimétrique : %1</translation>
+    </message>
+    <message>
+        <source>%1 does not take commas between its values</source>
+        <translation>%1 n’accepte pas de virgules entre ses valeurs</translation>
+    </message>
+    <message>
+        <source>The hue of %1 must be %2, not &quot;%3&quot;</source>
+        <translation>La teinte de %1 doit être %2, et non « %3 »</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 must be %3, not &quot;%4&quot;</source>
+        <translation>La valeur « %1 » de %2 doit être %3, et non « %4 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an angle</source>
+        <translation>« %1 » n’est pas un angle</translation>
+    </message>
+    <message>
+        <source>use the unit deg, grad, rad or turn</source>
+        <translation>utilisez l’unité deg, grad, rad ou turn</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not supported inside a colour</source>
+        <translation>« %1 » n’est pas pris en charge dans une couleur</translation>
+    </message>
+    <message>
+        <source>write the resulting number</source>
+        <translation>écrivez le nombre qui en résulte</translation>
+    </message>
+    <message>
+        <source>The alpha of %1 is missing</source>
+        <translation>L’opacité de %1 manque</translation>
+    </message>
+    <message>
+        <source>write %1 before the &quot;)&quot;</source>
+        <translation>écrivez %1 avant la « ) »</translation>
+    </message>
+    <message>
+        <source>%1 needs 3 values and has %2</source>
+        <translation>%1 demande 3 valeurs et en a %2</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 is missing before &quot;%3&quot;</source>
+        <translation>La valeur « %1 » de %2 manque avant « %3 »</translation>
+    </message>
+    <message>
+        <source>insert %1</source>
+        <translation>insérez %1</translation>
+    </message>
+    <message>
+        <source>The alpha of %1 must follow a &quot;/&quot;</source>
+        <translation>L’opacité de %1 doit suivre un « / »</translation>
+    </message>
+    <message>
+        <source>With commas, the alpha of %1 must also follow a comma</source>
+        <translation>Avec des virgules, l’opacité de %1 doit elle aussi suivre une virgule</translation>
+    </message>
+    <message>
+        <source>&quot;none&quot; cannot be used with commas</source>
+        <translation>« none » ne peut pas être utilisé avec des virgules</translation>
+    </message>
+    <message>
+        <source>Instead of the &quot;)&quot; of %1 there is &quot;%2&quot;</source>
+        <translation>Au lieu de la « ) » de %1, il y a « %2 »</translation>
+    </message>
+    <message>
+        <source>With commas, the values of %1 must be all numbers or all percentages</source>
+        <translation>Avec des virgules, les valeurs de %1 doivent être toutes des nombres ou toutes des pourcentages</translation>
+    </message>
+    <message>
+        <source>With commas, the %1 of %2 must be a percentage</source>
+        <translation>Avec des virgules, la valeur « %1 » de %2 doit être un pourcentage</translation>
+    </message>
+    <message>
+        <source>The values of %1 must be separated either by commas or by spaces</source>
+        <translation>Les valeurs de %1 doivent être séparées ou bien par des virgules, ou bien par des espaces</translation>
+    </message>
+    <message>
+        <source>write &quot;%1&quot; or &quot;%2&quot;</source>
+        <translation>écrivez « %1 » ou « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 is not closed</source>
+        <translation>%1 n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>add a &quot;)&quot; after the values</source>
+        <translation>ajoutez une « ) » après les valeurs</translation>
+    </message>
+    <message>
+        <source>The comment that starts with &quot;/*&quot; is not closed</source>
+        <translation>Le commentaire qui commence par « /* » n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>close it with &quot;*/&quot;</source>
+        <translation>fermez-le par « */ »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be saved, so nothing was changed</source>
+        <translation>« %1 » n’a pas pu être enregistrée, donc rien n’a été modifié</translation>
+    </message>
+    <message>
+        <source>check that you can write to %1 and that the disk has room</source>
+        <translation>vérifiez que vous pouvez écrire dans %1 et qu’il reste de la place sur le disque</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be removed</source>
+        <translation>« %1 » n’a pas pu être supprimée</translation>
+    </message>
+    <message>
+        <source>check that you can write to %1</source>
+        <translation>vérifiez que vous pouvez écrire dans %1</translation>
+    </message>
+    <message>
+        <source>the file of &quot;%1&quot; could not be removed, so the list exists under both names</source>
+        <translation>le fichier de « %1 » n’a pas pu être supprimé, donc la liste existe sous les deux noms</translation>
+    </message>
+    <message>
+        <source>the name was taken, so the list is called &quot;%1&quot;</source>
+        <translation>le nom était pris, donc la liste s’appelle « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is now a list of your own; the other program&apos;s list is unchanged</source>
+        <translation>« %1 » est maintenant votre propre liste ; celle de l’autre programme est inchangée</translation>
+    </message>
+    <message>
+        <source>another program had changed &quot;%1&quot; too; it now has both changes</source>
+        <translation>un autre programme avait aussi modifié « %1 » ; elle contient maintenant les deux modifications</translation>
+    </message>
+    <message>
+        <source>another program had changed the same list; its version is unchanged, and yours was saved as &quot;%1&quot;</source>
+        <translation>un autre programme avait modifié la même liste ; sa version est inchangée, et la vôtre a été enregistrée sous « %1 »</translation>
+    </message>
+    <message>
+        <source>another program had removed &quot;%1&quot;; it was restored with your change</source>
+        <translation>un autre programme avait supprimé « %1 » ; elle a été rétablie avec votre modification</translation>
+    </message>
+    <message>
+        <source>another program has changed &quot;%1&quot;, so it was not removed</source>
+        <translation>un autre programme a modifié « %1 », donc elle n’a pas été supprimée</translation>
+    </message>
+    <message>
+        <source>check its colours before you remove it</source>
+        <translation>vérifiez ses couleurs avant de la supprimer</translation>
+    </message>
+    <message>
+        <source>the step was undone only in part: later changes by another program to &quot;%1&quot; were kept</source>
+        <translation>l’étape n’a été annulée qu’en partie : les modifications ultérieures de « %1 » par un autre programme ont été conservées</translation>
+    </message>
+    <message>
+        <source>the file of &quot;%1&quot; had comments or damaged lines; the original was kept, with &quot;~&quot; appended to its name</source>
+        <translation>le fichier de « %1 » avait des commentaires ou des lignes endommagées ; l’original a été conservé, avec « ~ » à la fin de son nom</translation>
+    </message>
+    <message>
+        <source>no colour was picked</source>
+        <translation>aucune couleur n’a été prélevée</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a form of a colour</source>
+        <translation>« %1 » n’est pas une forme de couleur</translation>
+    </message>
+    <message>
+        <source>use one of: %1</source>
+        <translation>utilisez l’une de celles-ci : %1</translation>
+    </message>
+    <message>
+        <source>the desktop lets only the active window copy, and did not activate the panel</source>
+        <translation>le bureau ne laisse copier que la fenêtre active et n’a pas activé le panneau</translation>
+    </message>
+    <message>
+        <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
+        <translation>le panneau a perdu son nom sur le bus de session : les autres programmes ne peuvent plus le joindre</translation>
+    </message>
+    <message>
+        <source>the panel was closed</source>
+        <translation>le panneau a été fermé</translation>
+    </message>
+    <message>
+        <source>the session bus has gone: other programs can no longer reach the panel</source>
+        <translation>le bus de session a disparu : les autres programmes ne peuvent plus joindre le panneau</translation>
+    </message>
+    <message>
+        <source>the panel that is already running does not answer, so a second one was started</source>
+        <translation>le panneau déjà ouvert ne répond pas, donc un second a été lancé</translation>
+    </message>
+    <message>
+        <source>another program has the name %1 on the session bus: other programs cannot reach this panel</source>
+        <translation>un autre programme porte le nom %1 sur le bus de session : les autres programmes ne peuvent pas joindre ce panneau</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed by another program</source>
+        <translation>« %1 » a été supprimée par un autre programme</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program</source>
+        <translation>« %1 » a été modifiée par un autre programme</translation>
+    </message>
+    <message>
+        <source>a pattern cannot be added to a list</source>
+        <translation>un motif ne peut pas être ajouté à une liste</translation>
+    </message>
+    <message>
+        <source>lists store no opacity, so the colour was added without it</source>
+        <translation>les listes ne gardent pas l’opacité, donc la couleur a été ajoutée sans elle</translation>
+    </message>
+    <message>
+        <source>the name was taken, so the colour is called &quot;%1&quot;</source>
+        <translation>le nom était pris, donc la couleur s’appelle « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been removed</source>
+        <translation>« %1 » a été supprimée</translation>
+    </message>
+    <message>
+        <source>choose Undo to restore it</source>
+        <translation>choisissez Annuler pour la rétablir</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>« %1 » ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 64 MiB that you can read</source>
+        <translation>vérifiez que c’est un fichier d’au plus 64 Mio que vous pouvez lire</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour list that can be read</source>
+        <translation>« %1 » n’est pas une liste de couleurs lisible</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
+        <translation>utilisez une palette de GIMP ou de KDE, du CSS, du SCSS, du JSON, un fichier d’échange de nuanciers ou un texte avec une couleur par ligne</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been imported</source>
+        <translation>« %1 » a été importée</translation>
+    </message>
+    <message>
+        <source>lines that are not colours were left out: %1</source>
+        <translation>lignes ignorées, qui ne sont pas des couleurs : %1</translation>
+    </message>
+    <message>
+        <source>saved as %1</source>
+        <translation>enregistrée sous %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written</source>
+        <translation>« %1 » n’a pas pu être écrit</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder and that the disk has room</source>
+        <translation>vérifiez que vous pouvez écrire dans son dossier et qu’il reste de la place sur le disque</translation>
+    </message>
+    <message>
+        <source>only files on this computer can be imported</source>
+        <translation>seuls les fichiers de cet ordinateur peuvent être importés</translation>
+    </message>
+    <message>
+        <source>that is a long text, not a colour</source>
+        <translation>c’est un long texte, pas une couleur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside sRGB; this is the nearest colour inside</source>
+        <translation>« %1 » est hors de sRGB ; voici la couleur la plus proche à l’intérieur</translation>
+    </message>
+    <message>
+        <source>there is no colour to paste</source>
+        <translation>il n’y a pas de couleur à coller</translation>
+    </message>
+    <message>
+        <source>copy a colour, or a CSS text such as #ff8000</source>
+        <translation>copiez une couleur ou un texte CSS tel que #ff8000</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copied</source>
+        <translation>« %1 » copié</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened (%2)</source>
+        <translation>« %1 » ne peut pas être ouvert (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another user</source>
+        <translation>« %1 » appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>it cannot be loaded</source>
+        <translation>il ne peut pas être chargé</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is not a picker plug-in (it lacks vantorelPluginABI)</source>
+        <translation>ce n’est pas un greffon de sélecteur (vantorelPluginABI y manque)</translation>
+    </message>
+    <message>
+        <source>it was built for version %1 of the plug-in interface, and this panel has version %2</source>
+        <translation>il a été compilé pour la version %1 de l’interface des greffons, et ce panneau a la version %2</translation>
+    </message>
+    <message>
+        <source>install one that was built for this panel</source>
+        <translation>installez-en un qui a été compilé pour ce panneau</translation>
+    </message>
+    <message>
+        <source>it contains no picker</source>
+        <translation>il ne contient pas de sélecteur</translation>
+    </message>
+    <message>
+        <source>%1 is the same plug-in and was loaded first</source>
+        <translation>%1 est le même greffon et a été chargé d’abord</translation>
+    </message>
+    <message>
+        <source>it did not create a page</source>
+        <translation>il n’a pas créé de page</translation>
+    </message>
+    <message>
+        <source>it failed to create its page: %1</source>
+        <translation>il n’a pas pu créer sa page : %1</translation>
+    </message>
+    <message>
+        <source>it failed to create its page</source>
+        <translation>il n’a pas pu créer sa page</translation>
+    </message>
+    <message>
+        <source>%1 is left out: %2</source>
+        <translation>%1 est ignoré : %2</translation>
+    </message>
+    <message>
+        <source>remove the access-control list with &quot;setfacl -b&quot;</source>
+        <translation>retirez la liste de contrôle d’accès avec « setfacl -b »</translation>
+    </message>
+    <message>
+        <source>the access-control list of &quot;%1&quot; cannot be read</source>
+        <translation>la liste de contrôle d’accès de « %1 » ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>all users can write to &quot;%1&quot;</source>
+        <translation>tous les utilisateurs peuvent écrire dans « %1 »</translation>
+    </message>
+    <message>
+        <source>remove the permission with &quot;chmod o-w&quot;</source>
+        <translation>retirez le droit avec « chmod o-w »</translation>
+    </message>
+    <message>
+        <source>a group can write to &quot;%1&quot;</source>
+        <translation>un groupe peut écrire dans « %1 »</translation>
+    </message>
+    <message>
+        <source>remove the permission with &quot;chmod g-w&quot;</source>
+        <translation>retirez le droit avec « chmod g-w »</translation>
+    </message>
+    <message>
+        <source>another user can write to &quot;%1&quot;</source>
+        <translation>un autre utilisateur peut écrire dans « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>this desktop offers no way to pick a colour: %1</source>
+        <translation>ce bureau n’offre aucun moyen de prélever une couleur : %1</translation>
+    </message>
+    <message>
+        <source>there is no X11 display</source>
+        <translation>il n’y a pas d’affichage X11</translation>
+    </message>
+    <message>
+        <source>the X11 display does not show the windows of Wayland</source>
+        <translation>l’affichage X11 ne montre pas les fenêtres de Wayland</translation>
+    </message>
+    <message>
+        <source>the X11 display gives no picture of its screens</source>
+        <translation>l’affichage X11 ne donne pas d’image de ses écrans</translation>
+    </message>
+    <message>
+        <source>the desktop portal has no PickColor</source>
+        <translation>le portail du bureau n’a pas PickColor</translation>
+    </message>
+    <message>
+        <source>the desktop portal could not pick a colour</source>
+        <translation>le portail du bureau n’a pas pu prélever de couleur</translation>
+    </message>
+    <message>
+        <source>there is no desktop portal</source>
+        <translation>il n’y a pas de portail du bureau</translation>
+    </message>
+    <message>
+        <source>the desktop portal does not answer</source>
+        <translation>le portail du bureau ne répond pas</translation>
+    </message>
+    <message>
+        <source>the desktop portal has gone</source>
+        <translation>le portail du bureau a disparu</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>il n’y a pas de bus de session</translation>
+    </message>
+    <message>
+        <source>the session bus has gone</source>
+        <translation>le bus de session a disparu</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message>
+        <source>The same as --color COLOR.</source>
+        <translation>Identique à --color COLOR.</translation>
+    </message>
+    <message>
+        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Commence par cette couleur : toute forme de CSS Color 4, comme « #ff8000 » ou « hsl(30 100% 50%) », ou un texte que la page Hex accepte.</translation>
+    </message>
+    <message>
+        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
+        <translation>Commence par cette page : hex, dialog, palettes, ou la page d’un autre greffon.</translation>
+    </message>
+    <message>
+        <source>Start in this mode of the hex page: slider, palette or wheel.</source>
+        <translation>Commence dans ce mode de la page Hex : slider, palette ou wheel.</translation>
+    </message>
+    <message>
+        <source>Size of the page in points, such as 260x340.</source>
+        <translation>Taille de la page en points, par exemple 260x340.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to FILE as PNG and exit. Works without a display and does not change the settings.</source>
+        <translation>Écrit une image de la fenêtre dans FILE en PNG et se termine. Fonctionne sans affichage et ne change pas les réglages.</translation>
+    </message>
+    <message>
+        <source>Show this face of the hex page: colors or settings.</source>
+        <translation>Montre cette face de la page Hex : colors ou settings.</translation>
+    </message>
+    <message>
+        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
+        <translation>Couleurs de la fenêtre au lieu de celles du bureau : light ou dark.</translation>
+    </message>
+    <message>
+        <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
+        <translation>Garde réglages, listes de couleurs et état du panneau dans DIR/Vantorel au lieu du dossier de l’utilisateur. DIR doit exister.</translation>
+    </message>
+    <message>
+        <source>Also load this picker plug-in. Can be given more than once.</source>
+        <translation>Charge aussi ce greffon de sélecteur. Peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>Print the colour to standard output as #rrggbbaa whenever it changes.</source>
+        <translation>Affiche la couleur sur la sortie standard sous la forme #rrggbbaa à chaque changement.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen, print it as #rrggbb, and exit. Status: 0 picked, 1 cancelled, 3 not possible.</source>
+        <translation>Prélève une couleur à l’écran, l’affiche sous la forme #rrggbb et se termine. État : 0 prélevée, 1 annulé, 3 impossible.</translation>
+    </message>
+    <message>
+        <source>Like --pick, and copy the colour to the clipboard.</source>
+        <translation>Comme --pick, et copie la couleur dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
+        <translation>Copie la couleur du panneau avec son opacité dans le presse-papiers, sous la forme qu’emporterait un glisser hors du panneau, affiche le texte et se termine.</translation>
+    </message>
+    <message>
+        <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
+        <translation>Comme --copy, sous la forme qui porte ce nom dans le menu anglais du panneau.</translation>
+    </message>
+    <message>
+        <source>Let the user choose a colour in a separate panel, print it in the form that a drag out of the panel would carry, and exit. Status: 0 chosen, 1 cancelled, 3 not possible.</source>
+        <translation>Fait choisir une couleur dans un panneau séparé, l’affiche sous la forme qu’emporterait un glisser hors du panneau et se termine. État : 0 choisie, 1 annulé, 3 impossible.</translation>
+    </message>
+    <message>
+        <source>Start a new panel even if one is already running.</source>
+        <translation>Lance un nouveau panneau même si un autre est déjà ouvert.</translation>
+    </message>
+    <message>
+        <source>Start without a window, answer requests over D-Bus, and exit when there are no more. The session bus starts the panel with this option.</source>
+        <translation>Démarre sans fenêtre, répond aux requêtes par D-Bus et se termine quand il n’y en a plus. Le bus de session lance le panneau avec cette option.</translation>
+    </message>
+    <message>
+        <source>Show the version and exit.</source>
+        <translation>Affiche la version et se termine.</translation>
+    </message>
+    <message>
+        <source>A colour panel with pages from plug-ins. If a panel is already running, it is shown and carries out COLOR, --color, --pick, --pick-and-copy, --copy and --copy-as.</source>
+        <translation>Un panneau de couleurs avec des pages de greffons. Si un panneau est déjà ouvert, il est montré et exécute COLOR, --color, --pick, --pick-and-copy, --copy et --copy-as.</translation>
+    </message>
+    <message>
+        <source>Write JSON, one object per line.</source>
+        <translation>Écrit du JSON, un objet par ligne.</translation>
+    </message>
+    <message>
+        <source>Width and height in points, or in pixels for PNG. The default is 640x480.</source>
+        <translation>Largeur et hauteur en points, ou en pixels pour PNG. Par défaut 640x480.</translation>
+    </message>
+    <message>
+        <source>The name of the list.</source>
+        <translation>Le nom de la liste.</translation>
+    </message>
+    <message>
+        <source>The colour to show. With &quot;-&quot;, or without COLOR, colours are read from standard input, one per line.</source>
+        <translation>La couleur à montrer. Avec « - » ou sans COLOR, les couleurs sont lues sur l’entrée standard, une par ligne.</translation>
+    </message>
+    <message>
+        <source>Take the name from this list instead of the list in the settings. With standard input, add the name to each line.</source>
+        <translation>Prend le nom dans cette liste au lieu de celle des réglages. Avec l’entrée standard, ajoute le nom à chaque ligne.</translation>
+    </message>
+    <message>
+        <source>Write only the text of this snippet.</source>
+        <translation>N’écrit que le texte de cette ligne de code.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in lower case.</source>
+        <translation>Écrit les chiffres hexadécimaux en minuscules.</translation>
+    </message>
+    <message>
+        <source>Write hex digits in upper case. Without --lowercase or --uppercase, the settings decide.</source>
+        <translation>Écrit les chiffres hexadécimaux en majuscules. Sans --lowercase ni --uppercase, les réglages décident.</translation>
+    </message>
+    <message>
+        <source>Write hex codes without &quot;#&quot;.</source>
+        <translation>Écrit les codes hexadécimaux sans « # ».</translation>
+    </message>
+    <message>
+        <source>Write hex codes with &quot;#&quot;. Without --pound-sign or --no-pound-sign, the settings decide.</source>
+        <translation>Écrit les codes hexadécimaux avec « # ». Sans --pound-sign ni --no-pound-sign, les réglages décident.</translation>
+    </message>
+    <message>
+        <source>The colour to name; read as for &quot;show&quot;.</source>
+        <translation>La couleur à nommer ; lue comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>Take the names from this list instead of the list in the settings.</source>
+        <translation>Prend les noms dans cette liste au lieu de celle des réglages.</translation>
+    </message>
+    <message>
+        <source>Print only the names, one per line.</source>
+        <translation>N’affiche que les noms, un par ligne.</translation>
+    </message>
+    <message>
+        <source>Write JSON.</source>
+        <translation>Écrit du JSON.</translation>
+    </message>
+    <message>
+        <source>A palette file in any format of &quot;export&quot; except svg.</source>
+        <translation>Un fichier de palette dans un format d’« export » autre que svg.</translation>
+    </message>
+    <message>
+        <source>Save the list under this name. Requires a single FILE.</source>
+        <translation>Enregistre la liste sous ce nom. Demande un seul FILE.</translation>
+    </message>
+    <message>
+        <source>Replace lists of the same name without asking.</source>
+        <translation>Remplace les listes de même nom sans demander.</translation>
+    </message>
+    <message>
+        <source>Write to FILE instead of standard output.</source>
+        <translation>Écrit dans FILE au lieu de la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Replace files with different contents without asking.</source>
+        <translation>Remplace les fichiers au contenu différent sans demander.</translation>
+    </message>
+    <message>
+        <source>Revert the last publish of the list: restore the files that it replaced and remove those that it created. Files that have changed since are kept.</source>
+        <translation>Annule la dernière publication de la liste : rétablit les fichiers remplacés et supprime ceux qui ont été créés. Les fichiers modifiés depuis sont conservés.</translation>
+    </message>
+    <message>
+        <source>The name of the list. If it is also the name of a command, put &quot;--&quot; before it.</source>
+        <translation>Le nom de la liste. Si c’est aussi le nom d’une commande, mettez « -- » devant.</translation>
+    </message>
+    <message>
+        <source>Add palette files to your colour lists.
+A list of the same name is replaced only if you agree.</source>
+        <translation>Ajoute des fichiers de palette à vos listes de couleurs.
+Une liste de même nom n’est remplacée qu’avec votre accord.</translation>
+    </message>
+    <message>
+        <source>Write a colour list in a format that other programs read.</source>
+        <translation>Écrit une liste de couleurs dans un format que d’autres programmes lisent.</translation>
+    </message>
+    <message>
+        <source>Put a colour list into the palette folders of graphics programs.
+A palette file is written into your palette folder of every version of GIMP, of Inkscape, Krita and KDE, if the folder exists. A file with different contents is replaced only if you agree.</source>
+        <translation>Place une liste de couleurs dans les dossiers de palettes des programmes graphiques.
+Un fichier de palette est écrit dans votre dossier de palettes de chaque version de GIMP, d’Inkscape, de Krita et de KDE, si ce dossier existe. Un fichier au contenu différent n’est remplacé qu’avec votre accord.</translation>
+    </message>
+    <message>
+        <source>The foreground colour, then the background colour.</source>
+        <translation>La couleur du premier plan, puis celle du fond.</translation>
+    </message>
+    <message>
+        <source>Number of rings, 2 to 128. The default is the number in the settings.</source>
+        <translation>Nombre d’anneaux, de 2 à 128. Par défaut celui des réglages.</translation>
+    </message>
+    <message>
+        <source>Write SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Écrit du SVG dans FILE ; « - » est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Write PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Écrit du PNG dans FILE ; « - » est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Copy the colour to the clipboard.</source>
+        <translation>Copie la couleur dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>The colour to start with.</source>
+        <translation>La couleur de départ.</translation>
+    </message>
+    <message>
+        <source>bash, zsh or fish.</source>
+        <translation>bash, zsh ou fish.</translation>
+    </message>
+    <message>
+        <source>Print the completion script of vantorel-panel.</source>
+        <translation>Affiche le script de complétion de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>Print the manual page of vantorel-panel.</source>
+        <translation>Affiche la page de manuel de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>Show a colour in every form, with its name and snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Montre une couleur sous toutes ses formes, avec son nom et ses lignes de code.
+Les couleurs de l’entrée standard sont lues une par ligne. Pour chacune, une ligne est écrite : le code hexadécimal, une tabulation et le texte rgb() ; --list ajoute une tabulation et le nom. Les lignes vides sont ignorées. Une ligne qui n’est pas une couleur est signalée sur l’erreur standard, et les suivantes sont encore lues.</translation>
+    </message>
+    <message>
+        <source>Print the name of each colour on a line of its own.
+If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
+        <translation>Affiche le nom de chaque couleur sur sa propre ligne.
+Si la liste n’a pas de nom exact mais que CSS Color 4 en a un, ce nom est affiché, suivi de « (CSS Color 4) ». Si aucune n’en a, les noms des couleurs proches suivent un « * » ; si aucune n’est proche, la ligne est « No Match ».</translation>
+    </message>
+    <message>
+        <source>List all colour lists with their number of colours, name and file.</source>
+        <translation>Affiche toutes les listes de couleurs avec leur nombre de couleurs, leur nom et leur fichier.</translation>
+    </message>
+    <message>
+        <source>List the colours of a list, or import, export or publish a list.</source>
+        <translation>Affiche les couleurs d’une liste, ou importe, exporte ou publie une liste.</translation>
+    </message>
+    <message>
+        <source>List the snippets in the settings with their formats.</source>
+        <translation>Affiche les lignes de code des réglages avec leurs formats.</translation>
+    </message>
+    <message>
+        <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
+The ratio is truncated to two decimals, not rounded.</source>
+        <translation>Affiche le rapport de contraste de deux couleurs et les critères de WCAG 2.2 qu’il remplit.
+Le rapport est tronqué à deux décimales, pas arrondi.</translation>
+    </message>
+    <message>
+        <source>Draw the colour wheel.</source>
+        <translation>Dessine la roue des couleurs.</translation>
+    </message>
+    <message>
+        <source>Draw the palette of a colour list.</source>
+        <translation>Dessine la palette d’une liste de couleurs.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the screen and print it (vantorel-panel).</source>
+        <translation>Prélève une couleur à l’écran et l’affiche (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Choose a colour in the colour panel and print it (vantorel-panel).</source>
+        <translation>Fait choisir une couleur dans le panneau et l’affiche (vantorel-panel).</translation>
+    </message>
+    <message>
+        <source>Start the colour panel with the options that follow. &quot;panel --help&quot; lists them.</source>
+        <translation>Lance le panneau avec les options qui suivent. « panel --help » les affiche.</translation>
+    </message>
+    <message>
+        <source>Print a completion script for a shell.
+For bash: source &lt;(vantorel completions bash)</source>
+        <translation>Affiche un script de complétion pour un shell.
+Pour bash : source &lt;(vantorel completions bash)</translation>
+    </message>
+    <message>
+        <source>Print the manual page, formatted for man.</source>
+        <translation>Affiche la page de manuel, au format de man.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Des couleurs pour celles et ceux qui écrivent du CSS et du code.
+Une COLOR est toute forme de CSS Color 4 (« #ff8000 », « rgb(255 128 0) », « oklch(70% 0.1 50) », « orange »), un texte que le sélecteur accepte (« ff8000 », « RGB(255, 128, 0); ») ou un nom de la liste de couleurs.
+Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</translation>
+    </message>
+    <message>
+        <source>palette of graphics programs</source>
+        <translation>palette de programmes graphiques</translation>
+    </message>
+    <message>
+        <source>custom properties</source>
+        <translation>propriétés personnalisées</translation>
+    </message>
+    <message>
+        <source>variables</source>
+        <translation>variables</translation>
+    </message>
+    <message>
+        <source>swatch exchange, binary</source>
+        <translation>échange de nuanciers, binaire</translation>
+    </message>
+    <message>
+        <source>a picture with names</source>
+        <translation>une image avec les noms</translation>
+    </message>
+    <message>
+        <source>there is no snippet &quot;%1&quot;</source>
+        <translation>il n’y a pas de ligne de code « %1 »</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel snippets&quot; to list them</source>
+        <translation>« vantorel snippets » les affiche</translation>
+    </message>
+    <message>
+        <source>there is no colour list to name colours by</source>
+        <translation>il n’y a pas de liste de couleurs pour nommer les couleurs</translation>
+    </message>
+    <message>
+        <source>choose one with &quot;--list NAME&quot;; run &quot;vantorel lists&quot; to list them</source>
+        <translation>choisissez-en une avec « --list NAME » ; « vantorel lists » les affiche</translation>
+    </message>
+    <message>
+        <source>standard input, line %1: %2</source>
+        <translation>entrée standard, ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>standard input has %1 more lines that are not colours</source>
+        <translation>l’entrée standard a %1 autres lignes qui ne sont pas des couleurs</translation>
+    </message>
+    <message>
+        <source>give one colour per line</source>
+        <translation>donnez une couleur par ligne</translation>
+    </message>
+    <message>
+        <source>the line is longer than 64 KiB</source>
+        <translation>la ligne dépasse 64 Kio</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read</source>
+        <translation>l’entrée standard ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>give colours as arguments, or redirect standard input from a file or program</source>
+        <translation>donnez des couleurs en arguments, ou redirigez l’entrée standard depuis un fichier ou un programme</translation>
+    </message>
+    <message>
+        <source>--size cannot be &quot;%1&quot;</source>
+        <translation>--size ne peut pas être « %1 »</translation>
+    </message>
+    <message>
+        <source>use a size from 8x8 to 16384x16384, such as 640x480</source>
+        <translation>utilisez une taille de 8x8 à 16384x16384, par exemple 640x480</translation>
+    </message>
+    <message>
+        <source>--rings cannot be &quot;%1&quot;</source>
+        <translation>--rings ne peut pas être « %1 »</translation>
+    </message>
+    <message>
+        <source>use a whole number from %1 to %2</source>
+        <translation>utilisez un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>this format is binary and is not written to a terminal</source>
+        <translation>ce format est binaire et n’est pas écrit sur un terminal</translation>
+    </message>
+    <message>
+        <source>give a file, or redirect the output</source>
+        <translation>donnez un fichier, ou redirigez la sortie</translation>
+    </message>
+    <message>
+        <source>check that it is a readable file of at most 64 MiB</source>
+        <translation>vérifiez que c’est un fichier lisible d’au plus 64 Mio</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>« %1 » : %2</translation>
+    </message>
+    <message>
+        <source>a list &quot;%1&quot; with different colours already exists</source>
+        <translation>une liste « %1 » avec d’autres couleurs existe déjà</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it, or &quot;--name NAME&quot; to choose another name</source>
+        <translation>« --yes » la remplace, « --name NAME » choisit un autre nom</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported</source>
+        <translation>« %1 » n’a pas été importée</translation>
+    </message>
+    <message>
+        <source>use &quot;--name NAME&quot; to choose another name</source>
+        <translation>« --name NAME » choisit un autre nom</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; cannot be saved</source>
+        <translation>la liste « %1 » ne peut pas être enregistrée</translation>
+    </message>
+    <message>
+        <source>check that you can write to your data folder</source>
+        <translation>vérifiez que vous pouvez écrire dans votre dossier de données</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 lines or entries were skipped</source>
+        <translation>« %1 » : %2 lignes ou entrées ont été ignorées</translation>
+    </message>
+    <message>
+        <source>each must contain one colour</source>
+        <translation>chacune doit contenir une couleur</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>NAME manque</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list the names, or &quot;vantorel list --help&quot; for the commands</source>
+        <translation>« vantorel lists » affiche les noms, « vantorel list --help » les commandes</translation>
+    </message>
+    <message>
+        <source>--name is given for %1 files</source>
+        <translation>--name est donné pour %1 fichiers</translation>
+    </message>
+    <message>
+        <source>use it with a single FILE</source>
+        <translation>utilisez-le avec un seul FILE</translation>
+    </message>
+    <message>
+        <source>--name is empty</source>
+        <translation>--name est vide</translation>
+    </message>
+    <message>
+        <source>give the list a name</source>
+        <translation>donnez un nom à la liste</translation>
+    </message>
+    <message>
+        <source>no output file is given</source>
+        <translation>aucun fichier de sortie n’est donné</translation>
+    </message>
+    <message>
+        <source>give --svg FILE or --png FILE</source>
+        <translation>donnez --svg FILE ou --png FILE</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn</source>
+        <translation>l’image ne peut pas être dessinée</translation>
+    </message>
+    <message>
+        <source>try a smaller --size</source>
+        <translation>essayez un --size plus petit</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written (%1)</source>
+        <translation>la sortie standard ne peut pas être écrite (%1)</translation>
+    </message>
+    <message>
+        <source>redirect it to a file with free space, or to a program that reads it</source>
+        <translation>redirigez-la vers un fichier qui a de la place, ou vers un programme qui la lit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written</source>
+        <translation>« %1 » ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>check that its folder exists and that you can write to it</source>
+        <translation>vérifiez que son dossier existe et que vous pouvez y écrire</translation>
+    </message>
+    <message>
+        <source>the program vantorel-panel is missing</source>
+        <translation>le programme vantorel-panel manque</translation>
+    </message>
+    <message>
+        <source>install it beside vantorel or in a folder of PATH</source>
+        <translation>installez-le à côté de vantorel ou dans un dossier de PATH</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run (%2)</source>
+        <translation>« %1 » ne peut pas être exécuté (%2)</translation>
+    </message>
+    <message>
+        <source>reinstall vantorel-panel</source>
+        <translation>réinstallez vantorel-panel</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be read</source>
+        <translation>le registre des fichiers publiés ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>check that you can read your data folder</source>
+        <translation>vérifiez que vous pouvez lire votre dossier de données</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has not been published</source>
+        <translation>la liste « %1 » n’a pas été publiée</translation>
+    </message>
+    <message>
+        <source>only lists published with &quot;vantorel list publish&quot; can be undone</source>
+        <translation>seules les listes publiées avec « vantorel list publish » peuvent être annulées</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was published</source>
+        <translation>« %1 » a changé depuis sa publication</translation>
+    </message>
+    <message>
+        <source>it is kept; remove it yourself if you do not need it</source>
+        <translation>il est conservé ; supprimez-le vous-même s’il ne sert plus</translation>
+    </message>
+    <message>
+        <source>check that you can write to its folder</source>
+        <translation>vérifiez que vous pouvez écrire dans son dossier</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written</source>
+        <translation>le registre des fichiers publiés ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>no graphics program has a folder for your palettes</source>
+        <translation>aucun programme graphique n’a de dossier pour vos palettes</translation>
+    </message>
+    <message>
+        <source>start GIMP, Inkscape or Krita once to create it</source>
+        <translation>lancez GIMP, Inkscape ou Krita une fois pour le créer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced</source>
+        <translation>« %1 » ne peut pas être remplacé</translation>
+    </message>
+    <message>
+        <source>remove it, or make it a readable file</source>
+        <translation>supprimez-le, ou faites-en un fichier lisible</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists with different contents</source>
+        <translation>« %1 » existe déjà avec un autre contenu</translation>
+    </message>
+    <message>
+        <source>use &quot;--yes&quot; to replace it</source>
+        <translation>« --yes » le remplace</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has just been changed by another program</source>
+        <translation>« %1 » vient d’être modifié par un autre programme</translation>
+    </message>
+    <message>
+        <source>publish again</source>
+        <translation>publiez à nouveau</translation>
+    </message>
+    <message>
+        <source>the record of published files cannot be written, so no file was published</source>
+        <translation>le registre des fichiers publiés ne peut pas être écrit, donc aucun fichier n’a été publié</translation>
+    </message>
+    <message>
+        <source>there is no colour list &quot;%1&quot;</source>
+        <translation>il n’y a pas de liste de couleurs « %1 »</translation>
+    </message>
+    <message>
+        <source>run &quot;vantorel lists&quot; to list them</source>
+        <translation>« vantorel lists » les affiche</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>try fewer colours at a time</source>
+        <translation>essayez avec moins de couleurs à la fois</translation>
+    </message>
+    <message>
+        <source>see &quot;%1 --help&quot;</source>
+        <translation>voyez « %1 --help »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a command</source>
+        <translation>« %1 » n’est pas une commande</translation>
+    </message>
+    <message>
+        <source>put it after &quot;%1&quot;</source>
+        <translation>placez-le après « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; precedes the command</source>
+        <translation>« %1 » précède la commande</translation>
+    </message>
+    <message>
+        <source>%1 precedes the command</source>
+        <translation>%1 précède la commande</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option &quot;%2&quot;</source>
+        <translation>« %1 » n’a pas d’option « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 ne prend pas de valeur</translation>
+    </message>
+    <message>
+        <source>%1 requires a value</source>
+        <translation>%1 demande une valeur</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 est donné deux fois</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 est obligatoire</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined with %2</source>
+        <translation>%1 ne peut pas être combiné avec %2</translation>
+    </message>
+    <message>
+        <source>the command is missing</source>
+        <translation>la commande manque</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 manque</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>« %1 » est un argument de trop</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;</source>
+        <translation>%1 ne peut pas être « %2 »</translation>
+    </message>
+    <message>
+        <source>use %1</source>
+        <translation>utilisez %1</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Arguments :</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes :</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>&quot;%1 COMMAND --help&quot; shows the help of a command.</source>
+        <translation>« %1 COMMAND --help » affiche l’aide d’une commande.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2</source>
+        <translation>« %1 » ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2</source>
+        <translation>« %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>its arrays and objects are more than %1 deep</source>
+        <translation>ses tableaux et objets dépassent %1 niveaux</translation>
+    </message>
+    <message>
+        <source>give a list of names and colours</source>
+        <translation>donnez une liste de noms et de couleurs</translation>
+    </message>
+    <message>
+        <source>it is not a JSON colour list</source>
+        <translation>ce n’est pas une liste de couleurs en JSON</translation>
+    </message>
+    <message>
+        <source>it contains no colours</source>
+        <translation>il ne contient pas de couleurs</translation>
+    </message>
+    <message>
+        <source>give a file in any format of &quot;export&quot; except svg</source>
+        <translation>donnez un fichier dans un format d’« export » autre que svg</translation>
+    </message>
+    <message>
+        <source>it is a palette without colours</source>
+        <translation>c’est une palette sans couleurs</translation>
+    </message>
+    <message>
+        <source>give one with rows &quot;R G B NAME&quot;</source>
+        <translation>donnez-en une avec des lignes « R G B NOM »</translation>
+    </message>
+    <message>
+        <source>it is truncated</source>
+        <translation>il est tronqué</translation>
+    </message>
+    <message>
+        <source>give the complete file</source>
+        <translation>donnez le fichier complet</translation>
+    </message>
+    <message>
+        <source>give a file with RGB, CMYK, Lab or grey colours</source>
+        <translation>donnez un fichier avec des couleurs RGB, CMYK, Lab ou en gris</translation>
+    </message>
+    <message>
+        <source>pictures cannot be imported</source>
+        <translation>les images ne peuvent pas être importées</translation>
+    </message>
+    <message>
+        <source>give a palette, such as one exported with &quot;--format gpl&quot;</source>
+        <translation>donnez une palette, par exemple exportée avec « --format gpl »</translation>
+    </message>
+    <message>
+        <source>--page: there is no page &quot;%1&quot;</source>
+        <translation>--page : il n’y a pas de page « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined</source>
+        <translation>%1 ne peuvent pas être combinés</translation>
+    </message>
+    <message>
+        <source>COLOR and --color cannot be combined</source>
+        <translation>COLOR et --color ne peuvent pas être combinés</translation>
+    </message>
+    <message>
+        <source>--color: %1</source>
+        <translation>--color : %1</translation>
+    </message>
+    <message>
+        <source>--size: &quot;%1&quot; is not a size</source>
+        <translation>--size : « %1 » n’est pas une taille</translation>
+    </message>
+    <message>
+        <source>try 260x340</source>
+        <translation>essayez 260x340</translation>
+    </message>
+    <message>
+        <source>--data: there is no folder &quot;%1&quot;</source>
+        <translation>--data : il n’y a pas de dossier « %1 »</translation>
+    </message>
+    <message>
+        <source>--screenshot: &quot;%1&quot; cannot be written</source>
+        <translation>--screenshot : « %1 » ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>there is no display (neither WAYLAND_DISPLAY nor DISPLAY is set); --screenshot FILE works without one</source>
+        <translation>il n’y a pas d’affichage (ni WAYLAND_DISPLAY ni DISPLAY ne sont définis) ; --screenshot FILE s’en passe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists: %2 colours</source>
+        <translation>« %1 » existe déjà : %2 couleurs</translation>
+    </message>
+    <message>
+        <source>Replace the list &quot;%1&quot;?</source>
+        <translation>Remplacer la liste « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: %2 colours from %3</source>
+        <translation>« %1 » : %2 couleurs de %3</translation>
+    </message>
+    <message>
+        <source>restored: %1</source>
+        <translation>rétabli : %1</translation>
+    </message>
+    <message>
+        <source>removed: %1</source>
+        <translation>supprimé : %1</translation>
+    </message>
+    <message>
+        <source>already undone: %1</source>
+        <translation>déjà annulé : %1</translation>
+    </message>
+    <message>
+        <source>up to date: %1</source>
+        <translation>à jour : %1</translation>
+    </message>
+    <message>
+        <source>Replace &quot;%1&quot;, which has different contents?</source>
+        <translation>Remplacer « %1 », dont le contenu est différent ?</translation>
+    </message>
+    <message>
+        <source>kept: %1</source>
+        <translation>conservé : %1</translation>
+    </message>
+    <message>
+        <source>replaced for %1</source>
+        <translation>remplacé pour %1</translation>
+    </message>
+    <message>
+        <source>written for %1</source>
+        <translation>écrit pour %1</translation>
+    </message>
+    <message>
+        <source>%1 [y/N]</source>
+        <translation>%1 [o/N]</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>o</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has just been changed</source>
+        <translation>la liste « %1 » vient d’être modifiée</translation>
+    </message>
+    <message>
+        <source>import once more</source>
+        <translation>importez à nouveau</translation>
+    </message>
+    <message>
+        <source>another program is still changing files in &quot;%1&quot;</source>
+        <translation>un autre programme modifie encore des fichiers dans « %1 »</translation>
+    </message>
+    <message>
+        <source>try again when it has finished</source>
+        <translation>réessayez quand il aura fini</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>« %1 » ne peut pas être lu : ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>another program is still changing colour lists, so &quot;%1&quot; was not changed</source>
+        <translation>un autre programme modifie encore des listes de couleurs, donc « %1 » n’a pas été modifiée</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1</source>
+        <translation>la sortie standard ne peut pas être écrite : %1</translation>
+    </message>
+    <message>
+        <source>the working folder cannot be read: %1</source>
+        <translation>le dossier de travail ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>use the absolute path of the plug-in</source>
+        <translation>utilisez le chemin absolu du greffon</translation>
+    </message>
+</context>
+<context>
+    <name>Vantorel</name>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Colour magnifier</source>
+        <translation>Loupe de couleurs</translation>
+    </message>
+    <message>
+        <source>Back to the colours</source>
+        <translation>Retour aux couleurs</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Click on color</source>
+        <translation>Cliquez sur une couleur</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Code snippet</source>
+        <translation>Ligne de code</translation>
+    </message>
+    <message>
+        <source>Code snippet form</source>
+        <translation>Forme de la ligne de code</translation>
+    </message>
+    <message>
+        <source>Colour list</source>
+        <translation>Liste de couleurs</translation>
+    </message>
+    <message>
+        <source>Colour name</source>
+        <translation>Nom de la couleur</translation>
+    </message>
+    <message>
+        <source>Colour under the pointer</source>
+        <translation>Couleur sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Component display</source>
+        <translation>Affichage des composantes</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Glisser</translation>
+    </message>
+    <message>
+        <source>Drag type</source>
+        <translation>Contenu du glisser</translation>
+    </message>
+    <message>
+        <source>Enlarge the panel to show all settings</source>
+        <translation>Agrandissez le panneau pour voir tous les réglages</translation>
+    </message>
+    <message>
+        <source>Fewer rings</source>
+        <translation>Moins d’anneaux</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Hex code</source>
+        <translation>Code hexadécimal</translation>
+    </message>
+    <message>
+        <source>Hex colour</source>
+        <translation>Couleur hexadécimale</translation>
+    </message>
+    <message>
+        <source>Lead hex codes with #</source>
+        <translation>Commencer les codes hexadécimaux par #</translation>
+    </message>
+    <message>
+        <source>Letter case</source>
+        <translation>Casse</translation>
+    </message>
+    <message>
+        <source>Letter case of hex codes</source>
+        <translation>Majuscules ou minuscules dans les codes hexadécimaux</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>More rings</source>
+        <translation>Plus d’anneaux</translation>
+    </message>
+    <message>
+        <source>More settings</source>
+        <translation>Autres réglages</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Palette: pick among the colours of the list</source>
+        <translation>Palette : choisir parmi les couleurs de la liste</translation>
+    </message>
+    <message>
+        <source>RGB or colour name</source>
+        <translation>RGB ou nom de couleur</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Montrer</translation>
+    </message>
+    <message>
+        <source>Slider</source>
+        <translation>Curseurs</translation>
+    </message>
+    <message>
+        <source>Slider: pick by hex digits</source>
+        <translation>Curseurs : choisir par chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>The colour as a hex code: six digits, three or one</source>
+        <translation>La couleur en code hexadécimal : six chiffres, trois ou un</translation>
+    </message>
+    <message>
+        <source>The colour as a line of code</source>
+        <translation>La couleur en ligne de code</translation>
+    </message>
+    <message>
+        <source>The colour as rgb(red, green, blue); a colour name is completed as you type</source>
+        <translation>La couleur sous la forme rgb(rouge, vert, bleu) ; un nom de couleur est complété pendant la saisie</translation>
+    </message>
+    <message>
+        <source>The colour&apos;s name in the list; choose one to pick it</source>
+        <translation>Le nom de la couleur dans la liste ; choisissez-en un pour prendre sa couleur</translation>
+    </message>
+    <message>
+        <source>The form of the line of code</source>
+        <translation>La forme de la ligne de code</translation>
+    </message>
+    <message>
+        <source>The list that names the colour and fills the palette</source>
+        <translation>La liste qui nomme la couleur et remplit la palette</translation>
+    </message>
+    <message>
+        <source>Use #</source>
+        <translation>Avec #</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Version 0.1</source>
+        <translation>Version 0.1</translation>
+    </message>
+    <message>
+        <source>What a drag out of the colours carries</source>
+        <translation>Ce qu’on emporte en faisant glisser hors des couleurs</translation>
+    </message>
+    <message>
+        <source>What the fields below the colours show</source>
+        <translation>Ce que montrent les champs sous les couleurs</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Roue</translation>
+    </message>
+    <message>
+        <source>Wheel: pick by hue, tint and shade</source>
+        <translation>Roue : choisir par teinte et par nuance</translation>
+    </message>
+    <message>
+        <source>Vantorel</source>
+        <translation>Vantorel</translation>
+    </message>
+    <message>
+        <source>left digit</source>
+        <translation>chiffre de gauche</translation>
+    </message>
+    <message>
+        <source>right digit</source>
+        <translation>chiffre de droite</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>A panel is already running and cannot apply %1. Use --new to start another.</source>
+        <translation>Un panneau est déjà ouvert et ne peut pas appliquer %1. Utilisez --new pour en lancer un autre.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ChoiceBar</name>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorChoice</name>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Choisir une couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ContrastLabel</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Contraste avec le fond : %1 pour 1
+Texte normal : AA %2, AAA %3
+Grand texte : AA %4, AAA %5
+Commandes et graphismes : AA %6</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::DialogPage</name>
+    <message>
+        <source>Colour dialog</source>
+        <translation>Boîte de couleurs</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>Se déplacer dans les couleurs</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Prendre la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteCommands</name>
+    <message>
+        <source>New list</source>
+        <translation>Nouvelle liste</translation>
+    </message>
+    <message>
+        <source>Rename the list</source>
+        <translation>Renommer la liste</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Copier la liste</translation>
+    </message>
+    <message>
+        <source>Remove the list</source>
+        <translation>Supprimer la liste</translation>
+    </message>
+    <message>
+        <source>Import palette files...</source>
+        <translation>Importer des fichiers de palette...</translation>
+    </message>
+    <message>
+        <source>Save a copy as a file...</source>
+        <translation>Enregistrer une copie dans un fichier...</translation>
+    </message>
+    <message>
+        <source>Add the panel&apos;s colour</source>
+        <translation>Ajouter la couleur du panneau</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Give it the panel&apos;s colour</source>
+        <translation>Lui donner la couleur du panneau</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Add %1 to the list (%2)</source>
+        <translation>Ajouter %1 à la liste (%2)</translation>
+    </message>
+    <message>
+        <source>Give the selected colours the panel&apos;s colour, %1</source>
+        <translation>Donner aux couleurs sélectionnées la couleur du panneau, %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteEntriesView</name>
+    <message>
+        <source>Colour name</source>
+        <translation>Nom de la couleur</translation>
+    </message>
+    <message>
+        <source>Colours of the list</source>
+        <translation>Couleurs de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteListChooser</name>
+    <message>
+        <source>Colour list</source>
+        <translation>Liste de couleurs</translation>
+    </message>
+    <message>
+        <source>The shown list</source>
+        <translation>La liste affichée</translation>
+    </message>
+    <message>
+        <source>Name of the list</source>
+        <translation>Nom de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteListModel</name>
+    <message>
+        <source>Belongs to %1, read-only</source>
+        <translation>Appartient à %1, en lecture seule</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesPage</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>Palettes: edit the lists of named colours</source>
+        <translation>Palettes : modifier les listes de couleurs nommées</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PalettesWidget</name>
+    <message>
+        <source>Palettes</source>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Rechercher un nom ou un code hexadécimal</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>N’affiche que les couleurs dont le nom ou le code hexadécimal contient ceci (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Commands for lists and colours</source>
+        <translation>Commandes pour les listes et les couleurs</translation>
+    </message>
+    <message>
+        <source>From %1, read-only. Your first change makes a list of your own.</source>
+        <translation>De %1, en lecture seule. Votre première modification en fait votre propre liste.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Colours in the list</source>
+        <translation>Couleurs dans la liste</translation>
+    </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Couleurs dans la liste : %1</translation>
+    </message>
+    <message>
+        <source>There is no list yet. Create one, or drop a palette file here.</source>
+        <translation>Il n’y a pas encore de liste. Créez-en une ou déposez ici un fichier de palette.</translation>
+    </message>
+    <message>
+        <source>The list is empty. The + adds the panel&apos;s colour.</source>
+        <translation>La liste est vide. Le + ajoute la couleur du panneau.</translation>
+    </message>
+    <message>
+        <source>No colour name or hex code matches.</source>
+        <translation>Aucun nom ni code hexadécimal ne correspond.</translation>
+    </message>
+    <message>
+        <source>New list</source>
+        <translation>Nouvelle liste</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 copie</translation>
+    </message>
+    <message>
+        <source>My colours</source>
+        <translation>Mes couleurs</translation>
+    </message>
+    <message>
+        <source>Import palette files</source>
+        <translation>Importer des fichiers de palette</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Enregistrer une copie</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 listes sur %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % de la liste</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>Ne plus rien lire. Ce qui a été lu jusqu’ici est utilisable.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Lu jusqu’ici : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelCommands</name>
+    <message>
+        <source>Copy as</source>
+        <translation>Copier en</translation>
+    </message>
+    <message>
+        <source>Pick from the screen</source>
+        <translation>Prélever à l’écran</translation>
+    </message>
+    <message>
+        <source>Pick and copy</source>
+        <translation>Prélever et copier</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the hex code</source>
+        <translation>Copier le code hexadécimal</translation>
+    </message>
+    <message>
+        <source>Paste a colour</source>
+        <translation>Coller une couleur</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Swap colour and background</source>
+        <translation>Échanger couleur et fond</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Always on top</source>
+        <translation>Toujours au premier plan</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Next control</source>
+        <translation>Commande suivante</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTools</name>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelTopBar</name>
+    <message>
+        <source>Current page</source>
+        <translation>Page actuelle</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PanelWindow</name>
+    <message>
+        <source>A plug-in was left out</source>
+        <translation>Un greffon a été ignoré</translation>
+    </message>
+    <message>
+        <source>%1 plug-ins were left out</source>
+        <translation>%1 greffons ont été ignorés</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PluginPage</name>
+    <message>
+        <source>The page &quot;%1&quot; could not be created because its interface file is missing or damaged. Try reinstalling %2.</source>
+        <translation>La page « %1 » n’a pas pu être créée, car son fichier d’interface manque ou est endommagé. Essayez de réinstaller %2.</translation>
+    </message>
+    <message>
+        <source>Enter what was typed</source>
+        <translation>Valider la saisie</translation>
+    </message>
+    <message>
+        <source>Give up what was typed</source>
+        <translation>Abandonner la saisie</translation>
+    </message>
+    <message>
+        <source>Change a component</source>
+        <translation>Modifier une composante</translation>
+    </message>
+    <message>
+        <source>Change a component by 16</source>
+        <translation>Modifier une composante de 16</translation>
+    </message>
+    <message>
+        <source>Move in the colours</source>
+        <translation>Se déplacer dans les couleurs</translation>
+    </message>
+    <message>
+        <source>Move to the ends of the colours</source>
+        <translation>Aller aux extrémités des couleurs</translation>
+    </message>
+    <message>
+        <source>Take the colour</source>
+        <translation>Prendre la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::RecentColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Dernières couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ShortcutOverlay</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Escape or a click closes the list.</source>
+        <translation>Échap ou un clic ferme la liste.</translation>
+    </message>
+</context>
+</TS>
