@@ -87,7 +87,7 @@ int OnePanel::run()
     PanelService service(requests, QDBusConnection::sessionBus());
     const auto warn = [&window](const Message& message) {
         printProblem(translatedSentence(message));
-        window.showMessage(message);
+        window.showMessage(message, MessageLabel::Kind::failure);
     };
     QObject::connect(&service, &PanelService::unreachable, &window, warn);
     if (const auto status = takeName(service)) return *status;

@@ -1,5 +1,7 @@
 #include "panel/Output.h"
 
+#include "commandline/Translations.h"
+
 #include <cerrno>
 #include <system_error>
 
@@ -29,7 +31,7 @@ void printProblem(const QString& sentence)
 
 void printProblem(const Message& message)
 {
-    printProblem(QString::fromStdString(english(message, ": ")));
+    printProblem(QString::fromStdString(inUsersWords(message)));
 }
 
 }  // namespace vantorel

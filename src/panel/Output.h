@@ -29,7 +29,7 @@ void print(std::FILE* stream, const QString& text);
 
 /// Writes a sentence to standard error, after the program's name.
 void printProblem(const QString& sentence);
-/// Writes a message in English to standard error, after the program's name.
+/// Writes a message to standard error, after the program's name.
 void printProblem(const Message& message);
 
 }  // namespace vantorel

@@ -3,6 +3,7 @@
 #include "colortext/ColorTextReader.h"
 #include "commandline/ArgumentReader.h"
 #include "commandline/Programs.h"
+#include "commandline/Translations.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/Output.h"
 
@@ -25,7 +26,7 @@ std::optional<QSize> sizeFromText(const QString& text)
 
 PanelCommandLine failure(const Message& message)
 {
-    const std::string line = "vantorel-panel: " + english(message, ": ") + '\n';
+    const std::string line = "vantorel-panel: " + inUsersWords(message) + '\n';
     return {{}, usageError, QString::fromStdString(line)};
 }
 
@@ -71,10 +72,15 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
     const GivenArguments& given = *reading->arguments;
     PanelCommandLine result;
     PanelOptions& options = result.options;
-    if (const auto color = given.value("--color")) {
+    const bool hasOperand = !given.operands.empty();
+    if (hasOperand && given.has("--color"))
+        return failure({phrase("COLOR and --color cannot be combined")});
+    if (const auto color =
+            hasOperand ? std::optional(given.operands.front()) : given.value("--color")) {
         // Names of colour lists are not read: the lists belong to the pages, which are not loaded
         // yet.
         const auto read = ColorTextReader([] { return nullptr; }).read(*color);
+        if (!read && hasOperand) return failure(read.error());
         if (!read) return failure({phrase("--color: %1", read.error().what), read.error().remedy});
         options.color = qColorFrom(read->hostColor());
     }

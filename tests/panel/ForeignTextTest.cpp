@@ -53,7 +53,7 @@ TEST_F(ForeignTextTest, RemarksAboutPastedColoursAreNotMarkup)
     QApplication::clipboard()->setText(
         QStringLiteral("/*%1*/color(srgb 2 0 0)").arg(QLatin1String(picture)));
     _window->exchange().paste();
-    EXPECT_TRUE(child<QWidget>("topBar")->findChild<QLabel*>()->text().contains(u'<'));
+    EXPECT_TRUE(_window->findChild<MessageLabel*>()->text().contains(u'<'));
     expectNoPictureAnywhere();
 }
 

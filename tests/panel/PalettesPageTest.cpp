@@ -1,6 +1,8 @@
 #include "PalettesPageFixture.h"
 
 #include <QAccessible>
+#include <QTimer>
+#include <QToolButton>
 
 namespace vantorel {
 namespace {
@@ -116,6 +118,40 @@ TEST_F(PalettesPageTest, ListsAreCreatedRenamedCopiedAndRemoved)
     command("Undo")->trigger();
     EXPECT_EQ(own("Blues 2"), own("Reds"));
     EXPECT_EQ(shownList(), "Blues 2");
+}
+
+TEST_F(PalettesPageTest, KeysOfThePageWorkWhileItShows)
+{
+    _window->setFocus();
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(own("New list"), "");
+    const auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->selectedText(), "New list") << "typing replaces it";
+    press(Qt::Key_Return);
+
+    child<QWidget>("recentColors")->setFocus();
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), child<QWidget>("paletteFilter"));
+
+    _window->pages().showPage(0);
+    _window->setFocus();
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(own("New list 2"), "none");
+}
+
+TEST_F(PalettesPageTest, TheNameOfANewListIsSelectedWhenTheMenuIsUsed)
+{
+    auto* button = child<QToolButton>("paletteMenuButton");
+    QTimer::singleShot(0, button, [] {
+        QWidget* menu = QApplication::activePopupWidget();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(own("New list"), "");
+    EXPECT_EQ(child<QLineEdit>("paletteListName")->selectedText(), "New list");
 }
 
 TEST_F(PalettesPageTest, ANameBeingTypedIsAppliedWhenEditingFinishes)

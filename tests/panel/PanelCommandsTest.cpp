@@ -1,185 +1,18 @@
-#include "PanelWindowFixture.h"
+#include "PanelCommandsFixture.h"
 #include "hosts/qt/QtColors.h"
-#include "panel/widgets/ColorClipboard.h"
+#include "panel/window/ShortcutOverlay.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSlider>
 #include <QToolButton>
 
-#include <algorithm>
-#include <array>
+#include <set>
 
 namespace vantorel {
 namespace {
 
-/// Answers at once with the outcome set by the test.
-class ScriptedScreenPicker final : public ScreenPicker {
-public:
-    explicit ScriptedScreenPicker(const ScreenPickResult& result) : _result(result) {}
-    void start(QWidget*, Callback done) override { done(_result); }
-    void cancel() override {}
-    [[nodiscard]] bool isPicking() const override { return false; }
-
-private:
-    const ScreenPickResult& _result;
-};
-
-class PanelCommandsTest : public PanelWindowFixture {
-protected:
-    void SetUp() override
-    {
-        PanelWindowFixture::SetUp();
-        QApplication::clipboard()->clear();
-        _window->colors().setColor(rgb(255, 128, 0));
-        _window->setFocus();
-    }
-
-    std::unique_ptr<ScreenPicker> screenPicker() override
-    {
-        return std::make_unique<ScriptedScreenPicker>(_pick);
-    }
-    static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
-    /// The message in the bar, which is also its tool tip; empty if the bar shows the page's name.
-    [[nodiscard]] QString message() const
-    {
-        return child<QWidget>("topBar")->findChild<QLabel*>()->toolTip();
-    }
-    [[nodiscard]] QAction* command(const QString& text) const
-    {
-        const QList<QAction*> all = _window->actions();
-        const auto found = std::find_if(
-            all.begin(), all.end(), [&](const QAction* action) { return action->text() == text; });
-        return found != all.end() ? *found : nullptr;
-    }
-    void type(const QKeySequence& keys) { QTest::keySequence(_window.get(), keys); }
-
-    /// How picks from the screen end.
-    ScreenPickResult _pick;
-};
-
-TEST_F(PanelCommandsTest, CopyPutsTheDragTextAndTheColourOnTheClipboard)
-{
-    type(QKeySequence("Ctrl+C"));
-    EXPECT_EQ(clipboard().text(), "#FF8000");
-    EXPECT_EQ(qvariant_cast<QColor>(clipboard().colorData()).rgb(), qRgb(255, 128, 0));
-    EXPECT_EQ(_window->colors().recent().front(), rgb(255, 128, 0)) << "what was copied is kept";
-}
-
-TEST_F(PanelCommandsTest, TheMenuOffersEverySnippet)
-{
-    const auto texts = _window->exchange().colorTexts();
-    std::vector<QString> names;
-    names.reserve(texts.size());
-    for (const HostColorText& text : texts)
-        names.push_back(qStringFrom(text.name));
-    ASSERT_EQ(names.size(), 16U) << "two codes, twelve snippets, two of CSS Color 4";
-    EXPECT_EQ(names[1], "RGB (CSS)");
-    EXPECT_EQ(names[2], "ObjC fraction");
-
-    QMenu* menu = command("Copy")->menu();
-    emit menu->aboutToShow();
-    ASSERT_EQ(menu->actions().size(), static_cast<qsizetype>(texts.size()));
-    menu->actions().at(13)->trigger();
-    EXPECT_EQ(clipboard().text(), "RGB(255, 128, 0)");
-    menu->actions().at(15)->trigger();
-    EXPECT_TRUE(clipboard().text().startsWith("oklch(")) << clipboard().text().toStdString();
-}
-
-TEST_F(PanelCommandsTest, APageWithoutSnippetsCopiesTheHexCode)
-{
-    _window->pages().showPage(_window->pages().count() - 1);
-    type(QKeySequence("Ctrl+Shift+C"));
-    EXPECT_EQ(clipboard().text(), "#ff8000");
-}
-
-struct PasteRow {
-    const char* text;
-    QColor color;
-};
-
-class PasteTest : public PanelCommandsTest, public testing::WithParamInterface<PasteRow> {};
-
-TEST_P(PasteTest, AcceptsEveryCSSColour)
-{
-    QApplication::clipboard()->setText(QString::fromUtf8(GetParam().text));
-    type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(chosenColor().rgba(), GetParam().color.rgba()) << GetParam().text;
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
-                         testing::Values(PasteRow{"#08f", QColor(0, 136, 255)},
-                                         PasteRow{"#08f8", QColor(0, 136, 255, 136)},
-                                         PasteRow{"0080ff", QColor(0, 128, 255)},
-                                         PasteRow{"#0080ff80", QColor(0, 128, 255, 128)},
-                                         PasteRow{"RGB(0, 128, 255);", QColor(0, 128, 255)},
-                                         PasteRow{"hsl(210 100% 50%)", QColor(0, 128, 255)},
-                                         PasteRow{"hwb(210 0% 0%)", QColor(0, 128, 255)},
-                                         PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
-                                         PasteRow{"navy", QColor(0, 0, 128)}));
-
-TEST_F(PanelCommandsTest, TheColourWellsAcceptDrops)
-{
-    const auto drop = [&](const char* well, QMimeData& data) {
-        auto* target = child<QWidget>(well);
-        const QPoint middle = target->rect().center();
-        QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(target, &enter);
-        if (!enter.isAccepted()) return false;
-        QDropEvent dropped(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(target, &dropped);
-        return dropped.isAccepted();
-    };
-    QMimeData text;
-    text.setText(QStringLiteral("oklch(0 0 0)\0").append(QChar(u'\0')));
-    EXPECT_TRUE(drop("colorWell", text)) << "some programs end a text with a NUL";
-    EXPECT_EQ(chosenColor().rgb(), qRgb(0, 0, 0));
-
-    QMimeData words;
-    const std::array<quint16, 4> channels{0xFFFF, 0x8080, 0, 0xFFFF};
-    words.setData("application/x-color",
-                  QByteArray(reinterpret_cast<const char*>(channels.data()), sizeof channels));
-    EXPECT_TRUE(drop("backgroundWell", words));
-    EXPECT_EQ(qColorFrom(_window->colors().background()).rgb(), qRgb(255, 128, 0));
-    EXPECT_EQ(chosenColor().rgb(), qRgb(0, 0, 0)) << "the other well stays";
-
-    QMimeData picture;
-    picture.setData("image/png", "x");
-    EXPECT_FALSE(drop("colorWell", picture));
-}
-
-TEST_F(PanelCommandsTest, PastePrefersTheColourToTheText)
-{
-    auto data = mimeDataFromColor(rgb(1, 2, 3, 0.5), QStringLiteral("white"));
-    QApplication::clipboard()->setMimeData(data.release());
-    type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(chosenColor().rgba(), qRgba(1, 2, 3, 128));
-}
-
-TEST_F(PanelCommandsTest, PastingAnInvalidColourChangesNoColourAndSaysWhy)
-{
-    for (const QString& text : {QStringLiteral("no colour"), QString(100000, u'x'), QString()}) {
-        QApplication::clipboard()->setText(text);
-        _window->showMessage({});
-        type(QKeySequence("Ctrl+V"));
-        EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
-        EXPECT_FALSE(message().isEmpty());
-    }
-    QMimeData damaged;
-    damaged.setData("application/x-color", "12345");
-    EXPECT_FALSE(colorFromMimeData(damaged).color.has_value());
-    EXPECT_FALSE(colorFromMimeData(damaged).message.isEmpty());
-}
-
-TEST_F(PanelCommandsTest, PastingAColourOutsideSRGBMapsItAndSaysSo)
-{
-    QApplication::clipboard()->setText("color(display-p3 1 0 0)");
-    type(QKeySequence("Ctrl+V"));
-    EXPECT_EQ(chosenColor().red(), 255);
-    EXPECT_TRUE(message().contains("sRGB"));
-}
+class PanelCommandsTest : public PanelCommandsFixture {};
 
 TEST_F(PanelCommandsTest, UndoAndRedoStepThroughTheColours)
 {
@@ -238,6 +71,26 @@ TEST_F(PanelCommandsTest, ARecentColourIsSelectedByMouseAndKeyboard)
     EXPECT_EQ(chosenColor().rgb(), qRgb(3, 3, 3));
 }
 
+TEST_F(PanelCommandsTest, RecentColoursShowTheirOpacity)
+{
+    PanelMemory memory;
+    memory.recent = {rgb(255, 0, 0, 0.2), rgb(255, 0, 0)};
+    _window->recall(memory);
+    auto* row = child<RecentColors>("recentColors");
+    const QImage picture = row->grab().toImage();
+    const auto colorsOf = [&](int left) {
+        std::set<QRgb> colors;
+        for (int x = left + 2; x < left + 12; ++x)
+            colors.insert(picture.pixel(x, row->height() / 2));
+        return colors.size();
+    };
+    EXPECT_EQ(colorsOf(0), 2U) << "the squares shine through";
+    EXPECT_EQ(colorsOf(17), 1U);
+    row->setFocus();
+    QTest::keyClick(row, Qt::Key_Home);
+    EXPECT_EQ(row->accessibleDescription(), "#FF0000, 20 %");
+}
+
 TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
 {
     using Outcome = ScreenPickResult::Outcome;
@@ -265,15 +118,23 @@ TEST_F(PanelCommandsTest, KeysSwitchPages)
 TEST_F(PanelCommandsTest, TheShortcutsAreShownAndHidden)
 {
     type(QKeySequence("F1"));
-    QLabel* overlay = nullptr;
-    for (QLabel* label : _window->findChildren<QLabel*>()) {
-        if (label->accessibleName() == "Keyboard shortcuts") overlay = label;
-    }
+    auto* overlay = _window->findChild<ShortcutOverlay*>();
     ASSERT_NE(overlay, nullptr);
-    EXPECT_TRUE(overlay->text().contains("Ctrl+P"));
+    const QString text = overlay->findChild<QLabel*>()->text();
+    for (const char* shown : {"Ctrl+P", "Ctrl+Q", "<b>Hex</b>", "<b>Palettes</b>", "Ctrl+N",
+                              "<b>Colour dialog</b>", "Escape or a click closes the list."})
+        EXPECT_TRUE(text.contains(QLatin1String(shown))) << shown;
     EXPECT_EQ(overlay->geometry(), _window->rect());
+    QTest::keyClick(overlay, Qt::Key_PageDown);
+    EXPECT_TRUE(overlay->isVisible());
+    EXPECT_GT(overlay->verticalScrollBar()->value(), 0) << "the list is longer than the panel";
     QTest::keyClick(overlay, Qt::Key_Escape);
     EXPECT_FALSE(overlay->isVisible());
+}
+
+TEST_F(PanelCommandsTest, TheWindowIsCalledVantorel)
+{
+    EXPECT_EQ(_window->windowTitle(), "Vantorel");
 }
 
 TEST_F(PanelCommandsTest, TheStateIsRestored)

@@ -40,6 +40,16 @@ TEST(PanelOptionsTest, AnInvalidColourIsExplained)
               "\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"\n");
 }
 
+TEST(PanelOptionsTest, AColourIsReadWithAndWithoutItsOption)
+{
+    const auto line = readCommandLine({"p", "#123456"});
+    ASSERT_FALSE(line.exitStatus.has_value());
+    EXPECT_EQ(line.options.color, QColor(0x12, 0x34, 0x56));
+    EXPECT_EQ(readCommandLine({"p", "orang"}).message.toStdString(),
+              "vantorel-panel: \"orang\" is not a CSS colour name: write a colour such as "
+              "\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"\n");
+}
+
 TEST(PanelOptionsTest, EveryOptionIsRead)
 {
     const auto line =
@@ -110,21 +120,22 @@ TEST_P(BadOptionTest, IsExplained)
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, BadOptionTest,
-    testing::Values(QStringList{"--color", "x"}, QStringList{"--mode", "x"},
-                    QStringList{"--size", "260"}, QStringList{"--data", "/no/such"},
-                    QStringList{"--theme", "x"}, QStringList{"--face", "x"},
-                    QStringList{"--pick", "--copy"}, QStringList{"--choose", "--pick"},
-                    QStringList{"--choose", "--screenshot", "f.png"},
-                    QStringList{"--copy", "--copy-as", "x"},
-                    QStringList{"--pick", "--screenshot", "f.png"},
-                    QStringList{"--service", "--pick"}, QStringList{"--service", "--choose"},
-                    QStringList{"--service", "--screenshot", "f.png"}, QStringList{"--copy-as"},
-                    QStringList{"--nothing"}, QStringList{"stray"}, QStringList{"--color"}));
+    testing::Values(
+        QStringList{"--color", "x"}, QStringList{"--mode", "x"}, QStringList{"--size", "260"},
+        QStringList{"--data", "/no/such"}, QStringList{"--theme", "x"}, QStringList{"--face", "x"},
+        QStringList{"--pick", "--copy"}, QStringList{"--choose", "--pick"},
+        QStringList{"--choose", "--screenshot", "f.png"}, QStringList{"--copy", "--copy-as", "x"},
+        QStringList{"--pick", "--screenshot", "f.png"}, QStringList{"--service", "--pick"},
+        QStringList{"--service", "--choose"}, QStringList{"--service", "--screenshot", "f.png"},
+        QStringList{"--copy-as"}, QStringList{"--nothing"}, QStringList{"stray"},
+        QStringList{"red", "blue"}, QStringList{"red", "--color", "red"}, QStringList{"--color"}));
 
 TEST(PanelOptionsTest, HelpAndVersionExitSuccessfully)
 {
     EXPECT_EQ(readCommandLine({"p", "--help"}).exitStatus, 0);
     EXPECT_TRUE(readCommandLine({"p", "--help"}).message.contains("--screenshot"));
+    EXPECT_TRUE(readCommandLine({"p", "--help"})
+                    .message.startsWith("Usage: vantorel-panel [OPTION...] [COLOR]\n"));
     EXPECT_EQ(readCommandLine({"p", "--version"}).message, "vantorel-panel " VANTOREL_VERSION "\n");
 }
 

@@ -18,7 +18,7 @@ GROUNDS = {"filler", "panel"}
 NO_ROLES = {"unknown", "invalid", "redundant object", "extended"}
 
 BOTH_FACES = [
-    ("frame", "Colour"),
+    ("frame", "Vantorel"),
     ("check box", "Hex"),
     ("check box", "Colour dialog"),
     ("image", "Colour"),
@@ -230,7 +230,7 @@ def main():
     try:
         eventually(application, "the panel is in the tree")
         # Without a window manager nothing else gives it the keyboard focus.
-        window = eventually(lambda: windows("--name", "^Colour$"), "the window has come")[0]
+        window = eventually(lambda: windows("--name", "^Vantorel$"), "the window has come")[0]
         subprocess.run(["xdotool", "windowfocus", window], check=True)
         check_face("colours", COLORS_FACE)
         expect(description, "color chooser", "Colours", "#123456, No Match, Slider")

@@ -38,7 +38,7 @@ def xdotool(*arguments):
 
 
 def shown_windows():
-    return xdotool("search", "--onlyvisible", "--name", "^Colour$")
+    return xdotool("search", "--onlyvisible", "--name", "^Vantorel$")
 
 
 class ClientMessage(ctypes.Structure):

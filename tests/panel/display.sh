@@ -51,7 +51,7 @@ start_panel() {
         "$panel" --size 260x340 --print-color "$@" > "$scratch/colors" 2> "$scratch/panel.log" &
     # shellcheck disable=SC2034  # for the tests that stop it
     panel_id=$!
-    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Colour$' | head -n 1)
+    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Vantorel$' | head -n 1)
     [ -n "$window" ] || fail "no window opened"
 }
 

@@ -32,7 +32,7 @@ def take_clipboard(text):
 
 def windows_from_top():
     tree = subprocess.run(["xwininfo", "-root", "-children"], capture_output=True, text=True, check=True).stdout
-    return [str(int(line.split()[0], 16)) for line in tree.splitlines() if '"Colour"' in line]
+    return [str(int(line.split()[0], 16)) for line in tree.splitlines() if '"Vantorel"' in line]
 
 
 def magnifier_is_shown():

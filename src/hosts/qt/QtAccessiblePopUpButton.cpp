@@ -1,5 +1,6 @@
 #include "hosts/qt/QtAccessiblePopUpButton.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ QtAccessiblePopUpButton::QtAccessiblePopUpButton(QWidget* widget, QtPopUpButton&
 
 QString QtAccessiblePopUpButton::shownText(const QtPopUpButton& popUp)
 {
-    return qStringFrom(popUp.titleOfSelectedItem().value_or(u""));
+    return displayName(popUp.titleOfSelectedItem().value_or(u""));
 }
 
 void* QtAccessiblePopUpButton::interface_cast(QAccessible::InterfaceType type)

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtCanvas.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 
@@ -192,7 +193,7 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
 {
     const QFont font = fontOfSize(text.pointSize);
     const QFontMetricsF metrics(font);
-    QStringList lines = qStringFrom(text.string).split(u'\n');
+    QStringList lines = displayName(text.string).split(u'\n');
     if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
     _painter.setFont(font);
     _painter.setPen(qColorFrom(text.color));

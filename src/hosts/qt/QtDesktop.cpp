@@ -1,5 +1,6 @@
 #include "hosts/qt/QtDesktop.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
@@ -49,7 +50,7 @@ std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::functio
 HostSize QtDesktop::sizeOfText(const HostText& text)
 {
     const QFontMetricsF metrics(fontOfSize(text.pointSize));
-    QStringList lines = qStringFrom(text.string).split(u'\n');
+    QStringList lines = displayName(text.string).split(u'\n');
     if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
     qreal width = 0;
     for (const QString& line : lines)

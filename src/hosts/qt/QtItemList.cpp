@@ -1,5 +1,6 @@
 #include "hosts/qt/QtItemList.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
@@ -55,7 +56,7 @@ public:
         const HostMenuItem& shown = item(index);
         switch (role) {
             case Qt::DisplayRole:
-                return qStringFrom(shown.title);
+                return displayName(shown.title);
             case Qt::AccessibleDescriptionRole:
                 return shown.separator ? QStringLiteral("separator") : QString();
             case pictureRole:
@@ -181,7 +182,7 @@ int QtItemList::wantedWidth() const
     for (const HostMenuItem& item : _model->items()) {
         if (item.title.size() * 4 < longest * 3) continue;
         const auto start = std::u16string_view(item.title).substr(0, widestList);
-        width = std::max(width, fontMetrics().horizontalAdvance(qStringFrom(start)));
+        width = std::max(width, fontMetrics().horizontalAdvance(displayName(start)));
         if (++measured == 200 || width >= widestList) break;
     }
     const int imageWidth =

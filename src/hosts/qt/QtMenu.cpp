@@ -1,5 +1,6 @@
 #include "hosts/qt/QtMenu.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
@@ -84,7 +85,7 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
 void addSubmenu(QMenu& target, const HostMenuItem& item)
 {
     auto* submenu = new LongMenu(&target);
-    submenu->setTitle(plainTitle(qStringFrom(item.title)));
+    submenu->setTitle(plainTitle(displayName(item.title)));
     target.addMenu(submenu);
     submenu->setFont(target.font());
     QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, make = item.submenu] {
@@ -109,7 +110,7 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
         } else if (item.submenu) {
             addSubmenu(target, item);
         } else {
-            QAction* action = target.addAction(plainTitle(qStringFrom(item.title)));
+            QAction* action = target.addAction(plainTitle(displayName(item.title)));
             if (item.image) action->setIcon(pixmapOfImage(*item.image, target.devicePixelRatioF()));
             if (index == selected) {
                 action->setCheckable(true);

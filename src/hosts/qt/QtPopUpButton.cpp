@@ -1,5 +1,6 @@
 #include "hosts/qt/QtPopUpButton.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtItemList.h"
@@ -42,7 +43,7 @@ protected:
         option.initFrom(this);
         option.subControls = QStyle::SC_All;
         option.editable = false;
-        option.currentText = qStringFrom(_owner.titleOfSelectedItem().value_or(u""));
+        option.currentText = displayName(_owner.titleOfSelectedItem().value_or(u""));
         QStylePainter painter(this);
         painter.drawComplexControl(QStyle::CC_ComboBox, option);
         paintLabel(painter, option);
@@ -125,7 +126,7 @@ private:
             [&](int index, const QString& start) {
                 const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
                 return canBeChosen(item) &&
-                       qStringFrom(item.title).startsWith(start, Qt::CaseInsensitive);
+                       displayName(item.title).startsWith(start, Qt::CaseInsensitive);
             });
         if (found >= 0) _owner.chooseItem(found);
     }

@@ -49,4 +49,13 @@ void DialogPage::setColor(const HostColor& color)
     _dialog->setCurrentColor(wanted);
 }
 
+std::vector<ShortcutRow> DialogPage::shortcuts() const
+{
+    return {
+        {tr("Move in the colours"),
+         shownKeys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})},
+        {tr("Take the colour"), shownKeys({Qt::Key_Space})},
+    };
+}
+
 }  // namespace vantorel

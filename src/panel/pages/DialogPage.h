@@ -18,6 +18,7 @@ public:
     [[nodiscard]] QIcon icon() const override;
     [[nodiscard]] QSize minimumSize() const override;
     void setColor(const HostColor& color) override;
+    [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
 
 protected:
     [[nodiscard]] QWidget* makeWidget() override;

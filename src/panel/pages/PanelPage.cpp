@@ -1,6 +1,16 @@
 #include "panel/pages/PanelPage.h"
 
+#include <QStringList>
+
 namespace vantorel {
+
+QString shownKeys(const QList<QKeySequence>& keys)
+{
+    QStringList texts;
+    for (const QKeySequence& key : keys)
+        texts.append(key.toString(QKeySequence::NativeText));
+    return texts.join(QStringLiteral(", "));
+}
 
 QString PanelPage::identifier() const
 {
@@ -8,6 +18,16 @@ QString PanelPage::identifier() const
 }
 
 void PanelPage::finishEditing() {}
+
+bool PanelPage::performKey(const QKeyEvent&)
+{
+    return false;
+}
+
+std::vector<ShortcutRow> PanelPage::shortcuts() const
+{
+    return {};
+}
 
 HostColorPicker* PanelPage::picker() const
 {

@@ -3,11 +3,25 @@
 #include "host/HostColorPicker.h"
 
 #include <QIcon>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QSize>
 #include <QString>
 
+#include <vector>
+
 namespace vantorel {
+
+/// What keys do, for the list of shortcuts.
+struct ShortcutRow {
+    QString action;
+    QString keys;
+};
+
+/// Returns keys as the desktop writes them, such as "Ctrl+Y, Ctrl+Shift+Z".
+[[nodiscard]] QString shownKeys(const QList<QKeySequence>& keys);
 
 /// A page of the panel. Its widgets are created when it is first shown.
 class PanelPage : public QObject {
@@ -33,6 +47,11 @@ public:
     virtual void setColor(const HostColor& color) = 0;
     /// Enters text that the user has typed into the page's fields but not yet entered.
     virtual void finishEditing();
+    /// Carries out the page's command for a key that neither the control in focus nor the panel has
+    /// used. Returns false if the page has no command for it.
+    virtual bool performKey(const QKeyEvent& event);
+    /// The keys that the page adds to those of the panel, also before it is shown first.
+    [[nodiscard]] virtual std::vector<ShortcutRow> shortcuts() const;
 
     /// The picker of the page; null for the panel's own pages.
     [[nodiscard]] virtual HostColorPicker* picker() const;

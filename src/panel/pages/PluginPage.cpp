@@ -116,6 +116,23 @@ void PluginPage::setColor(const HostColor& color)
     _picker->setColor(color);
 }
 
+std::vector<ShortcutRow> PluginPage::shortcuts() const
+{
+    // What the host's fields and views do with keys on the page of any picker.
+    return {
+        {tr("Enter what was typed"), shownKeys({Qt::Key_Return})},
+        {tr("Give up what was typed"), shownKeys({Qt::Key_Escape})},
+        {tr("Change a component"), shownKeys({Qt::Key_Up, Qt::Key_Down})},
+        {tr("Change a component by 16"),
+         shownKeys({Qt::SHIFT | Qt::Key_Up, Qt::SHIFT | Qt::Key_Down})},
+        {tr("Move in the colours"),
+         shownKeys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})},
+        {tr("Move to the ends of the colours"),
+         shownKeys({Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown})},
+        {tr("Take the colour"), shownKeys({Qt::Key_Return})},
+    };
+}
+
 void PluginPage::finishEditing()
 {
     // Collected first, because entering a field's text may change the views.

@@ -30,6 +30,7 @@ public:
     void resize(HostSize size) override;
     void setColor(const HostColor& color) override;
     void finishEditing() override;
+    [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
     [[nodiscard]] HostColorPicker* picker() const override { return _picker.get(); }
     [[nodiscard]] HostView* view() const override { return _view; }
 

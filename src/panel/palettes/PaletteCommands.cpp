@@ -56,6 +56,15 @@ QAction* PaletteCommands::add(QMenu* menu, Command command, const QString& text,
     return action;
 }
 
+std::vector<ShortcutRow> PaletteCommands::shortcuts() const
+{
+    std::vector<ShortcutRow> rows;
+    rows.reserve(_offers.size());
+    for (const auto& [command, offer] : _offers)
+        rows.push_back({offer.action->text(), shownKeys(offer.action->shortcuts())});
+    return rows;
+}
+
 void PaletteCommands::enableFor(const Situation& situation)
 {
     for (const auto& [command, offer] : _offers) {

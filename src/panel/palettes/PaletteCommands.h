@@ -1,11 +1,14 @@
 #pragma once
 
+#include "panel/pages/PanelPage.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QObject>
 
 #include <map>
+#include <vector>
 
 namespace vantorel {
 
@@ -49,6 +52,9 @@ public:
     [[nodiscard]] QMenu* menu() const { return _menu; }
     /// The commands for colours.
     [[nodiscard]] QMenu* colorMenu() const { return _colorMenu; }
+
+    /// The keys of all commands, in the order of the menus.
+    [[nodiscard]] std::vector<ShortcutRow> shortcuts() const;
 
     /// Enables the commands that make sense in this state.
     void enableFor(const Situation& situation);

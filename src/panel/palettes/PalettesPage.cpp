@@ -61,4 +61,17 @@ void PalettesPage::finishEditing()
     if (_widget) _widget->finishEditing();
 }
 
+bool PalettesPage::performKey(const QKeyEvent& event)
+{
+    return _widget && _widget->performKey(event);
+}
+
+std::vector<ShortcutRow> PalettesPage::shortcuts() const
+{
+    // The page itself may not have been made yet.
+    QWidget standIn;
+    const PaletteCommands commands(standIn);
+    return commands.shortcuts();
+}
+
 }  // namespace vantorel

@@ -24,6 +24,8 @@ public:
     void hide() override;
     void setColor(const HostColor& color) override;
     void finishEditing() override;
+    bool performKey(const QKeyEvent& event) override;
+    [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
 
 protected:
     [[nodiscard]] QWidget* makeWidget() override;

@@ -121,7 +121,7 @@ void PalettesWidget::makeControls()
     connect(_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &PalettesWidget::showState);
 
-    _message = new PaletteMessageLabel(this);
+    _message = new MessageLabel(this);
     _message->setObjectName(QStringLiteral("paletteMessage"));
     _count = newLabel(this, "paletteCount");
     _count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -4,10 +4,10 @@
 #include "panel/palettes/PaletteEntriesView.h"
 #include "panel/palettes/PaletteListChooser.h"
 #include "panel/palettes/PaletteLoading.h"
-#include "panel/palettes/PaletteMessageLabel.h"
 #include "panel/palettes/PaletteRefresh.h"
 #include "panel/palettes/PaletteSession.h"
 #include "panel/palettes/PaletteWatch.h"
+#include "panel/widgets/MessageLabel.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +32,8 @@ public:
     void setWatching(bool flag);
     /// Applies a name that the user has typed but not yet entered.
     void finishEditing() { _lists->finishEditing(); }
+    /// Carries out the command for a key, if there is one.
+    bool performKey(const QKeyEvent& event);
 
     // Import and export, once the user has chosen the files.
 
@@ -53,7 +55,7 @@ protected:
 
 private:
     using Command = PaletteCommands::Command;
-    using MessageKind = PaletteMessageLabel::Kind;
+    using MessageKind = MessageLabel::Kind;
 
     // PalettesWidget.cpp: the controls
 
@@ -98,7 +100,7 @@ private:
     QLabel* _ownership = nullptr;
     QLineEdit* _filter = nullptr;
     PaletteEntriesView* _view = nullptr;
-    PaletteMessageLabel* _message = nullptr;
+    MessageLabel* _message = nullptr;
     QLabel* _count = nullptr;
     /// A row that is shown while many lists, or a long one, are read.
     QWidget* _progress = nullptr;

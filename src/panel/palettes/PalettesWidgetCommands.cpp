@@ -105,6 +105,14 @@ bool PalettesWidget::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+bool PalettesWidget::performKey(const QKeyEvent& event)
+{
+    QAction* action = _commands->actionFor(event, false);
+    if (action == nullptr) return false;
+    if (action->isEnabled()) action->trigger();
+    return true;
+}
+
 void PalettesWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

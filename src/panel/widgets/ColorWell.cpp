@@ -2,6 +2,7 @@
 
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/widgets/Checkers.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -10,25 +11,6 @@
 #include <QPainter>
 
 namespace vantorel {
-namespace {
-
-constexpr int checkSize = 5;
-
-void paintCheckers(QPainter& painter, const QRect& place)
-{
-    painter.fillRect(place, Qt::white);
-    for (int y = place.top(); y <= place.bottom(); y += checkSize) {
-        for (int x = place.left(); x <= place.right(); x += checkSize) {
-            const int parity = (x - place.left()) / checkSize + (y - place.top()) / checkSize;
-            if (parity % 2 == 0) continue;
-            painter.fillRect(QRect(x, y, checkSize, checkSize).intersected(place),
-                             QColor(190, 190, 190));
-        }
-    }
-}
-
-}  // namespace
-
 ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent)
 {
     setAccessibleName(name);
@@ -40,11 +22,7 @@ ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent)
 void ColorWell::setColor(const HostColor& color)
 {
     _color = color;
-    const QColor shown = qColorFrom(color);
-    const QString alpha = shown.alpha() == 255
-                              ? QString()
-                              : QStringLiteral(", %1 %").arg(qRound(shown.alphaF() * 100));
-    const QString text = shown.name().toUpper() + alpha;
+    const QString text = codeWithOpacity(color);
     setToolTip(plainToolTip(accessibleName() + QStringLiteral(": ") + text));
     setAccessibleDescription(text);
     update();

@@ -2,6 +2,7 @@
 
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/widgets/Checkers.h"
 #include "panel/widgets/ColorClipboard.h"
 
 #include <QApplication>
@@ -20,6 +21,12 @@ namespace {
 
 constexpr int swatchSize = 14;
 constexpr int pitch = swatchSize + 3;
+
+void paintSwatch(QPainter& painter, const QRect& place, const HostColor& color)
+{
+    if (color.alphaComponent() < 1) paintCheckers(painter, place);
+    painter.fillRect(place, qColorFrom(color));
+}
 
 }  // namespace
 
@@ -71,7 +78,7 @@ void RecentColors::setCurrent(int index)
 {
     _current = std::clamp(index, 0, std::max(shownCount() - 1, 0));
     if (_current < shownCount()) {
-        setAccessibleDescription(qColorFrom(_colors[static_cast<std::size_t>(_current)]).name());
+        setAccessibleDescription(codeWithOpacity(_colors[static_cast<std::size_t>(_current)]));
     }
     update();
 }
@@ -90,8 +97,8 @@ bool RecentColors::event(QEvent* event)
         const auto* help = static_cast<QHelpEvent*>(event);
         const int index = indexAt(help->pos());
         if (index >= 0) {
-            const QColor color = qColorFrom(_colors[static_cast<std::size_t>(index)]);
-            QToolTip::showText(help->globalPos(), plainToolTip(color.name()), this,
+            const HostColor& color = _colors[static_cast<std::size_t>(index)];
+            QToolTip::showText(help->globalPos(), plainToolTip(codeWithOpacity(color)), this,
                                rectOfColor(index));
         } else {
             QToolTip::showText(help->globalPos(), tr("Last colours"), this);
@@ -106,8 +113,7 @@ void RecentColors::paintEvent(QPaintEvent*)
     QPainter painter(this);
     for (int i = 0; i < shownCount(); ++i) {
         const QRect place = rectOfColor(i);
-        painter.fillRect(place, Qt::white);
-        painter.fillRect(place, qColorFrom(_colors[static_cast<std::size_t>(i)]));
+        paintSwatch(painter, place, _colors[static_cast<std::size_t>(i)]);
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawRect(place.adjusted(0, 0, -1, -1));
     }
@@ -136,7 +142,9 @@ void RecentColors::mouseMoveEvent(QMouseEvent* event)
     drag->setMimeData(mimeDataFromColor(color).release());
     QPixmap picture(QSize(swatchSize, swatchSize) * devicePixelRatioF());
     picture.setDevicePixelRatio(devicePixelRatioF());
-    picture.fill(qColorFrom(color));
+    QPainter painter(&picture);
+    paintSwatch(painter, QRect(0, 0, swatchSize, swatchSize), color);
+    painter.end();
     drag->setPixmap(picture);
     drag->exec(Qt::CopyAction);
 }

@@ -7,9 +7,18 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include <algorithm>
 #include <utility>
 
 namespace vantorel {
+namespace {
+
+MessageLabel::Kind kindOf(const ColorOffer& offer)
+{
+    return offer.color ? MessageLabel::Kind::news : MessageLabel::Kind::failure;
+}
+
+}  // namespace
 
 ColorExchange::ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window,
                              std::unique_ptr<ScreenPicker> screenPicker)
@@ -26,11 +35,19 @@ std::vector<HostColorText> ColorExchange::colorTexts() const
         if (text) texts.push_back({name, *text});
     };
     if (texts.empty()) {
+        const double alpha = color.alphaComponent();
         add(u"Hex Code", hexText(color));
-        add(u"RGB (CSS)", rgbText(color));
+        if (const auto opaque = rgbText(color.colorWithAlphaComponent(1)))
+            add(u"RGB (CSS)", rgbTextWithAlpha(*opaque, alpha));
     }
     add(u"HSL (CSS)", hslText(color));
     add(u"OKLCH (CSS)", oklchText(color));
+    // The texts for style sheets first; a page may offer many lines of code.
+    if (!texts.empty()) {
+        std::stable_partition(texts.begin() + 1, texts.end(), [](const HostColorText& text) {
+            return text.name.ends_with(u"(CSS)");
+        });
+    }
     return texts;
 }
 
@@ -45,7 +62,13 @@ QString ColorExchange::draggedText() const
 
 void ColorExchange::copy()
 {
-    if (const QString text = draggedText(); !text.isEmpty()) copyText(text);
+    std::optional<std::u16string> text;
+    if (const HostColorPicker* picker = _pages.currentPicker()) text = picker->copyText();
+    if (text) {
+        copyText(qStringFrom(*text));
+    } else {
+        copyHexCode();
+    }
 }
 
 void ColorExchange::copyHexCode()
@@ -58,7 +81,7 @@ void ColorExchange::copyText(const QString& text)
 {
     QApplication::clipboard()->setMimeData(mimeDataFromColor(_colors.color(), text).release());
     _colors.rememberColor();
-    emit reported({phrase("\"%1\" copied", excerpt(text.toStdString()))});
+    emit copied(text);
 }
 
 void ColorExchange::paste()
@@ -70,13 +93,13 @@ void ColorExchange::paste()
 void ColorExchange::takeColor(const ColorOffer& offer)
 {
     if (offer.color) _colors.setColor(*offer.color);
-    if (!offer.message.isEmpty()) emit reported(offer.message);
+    emit reported(offer.message, kindOf(offer));
 }
 
 void ColorExchange::takeBackground(const ColorOffer& offer)
 {
     if (offer.color) _colors.setBackground(*offer.color);
-    if (!offer.message.isEmpty()) emit reported(offer.message);
+    emit reported(offer.message, kindOf(offer));
 }
 
 void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
@@ -88,7 +111,7 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
                                  _colors.setColor(result.color);
                                  if (copies) copy();
                              } else if (result.outcome == Outcome::notPossible) {
-                                 emit reported(result.reason);
+                                 emit reported(result.reason, MessageLabel::Kind::failure);
                              }
                              if (done) done(result);
                          });

@@ -3,6 +3,7 @@
 #include "host/HostColorPicker.h"
 #include "panel/pages/PanelPages.h"
 #include "panel/widgets/ColorClipboard.h"
+#include "panel/widgets/MessageLabel.h"
 #include "panel/window/PanelColors.h"
 #include "screenpick/ScreenPicker.h"
 
@@ -24,7 +25,8 @@ public:
     ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window,
                   std::unique_ptr<ScreenPicker> screenPicker);
 
-    /// The colour's texts in every form, with the names of the forms.
+    /// The colour's texts with its opacity in every form, with the names of the forms: the hex
+    /// code, the other forms of CSS, then lines of code.
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
     /// The text that a drag out of the panel carries: in the form of the settings, or the hex code.
     [[nodiscard]] QString draggedText() const;
@@ -36,6 +38,7 @@ public:
     void cancelPick();
 
 public slots:
+    /// Copies the colour in the form that drags carry, with its opacity.
     void copy();
     void copyHexCode();
     /// Copies the colour together with this text.
@@ -47,8 +50,11 @@ public slots:
     void takeBackground(const ColorOffer& offer);
 
 signals:
-    /// Something the user should know, such as why there is no colour to paste.
-    void reported(const vantorel::Message& message);
+    /// A text was copied.
+    void copied(const QString& text);
+    /// Something the user should know, such as why there is no colour to paste. Empty if something
+    /// was done that needs no message.
+    void reported(const vantorel::Message& message, vantorel::MessageLabel::Kind kind);
 
 private:
     PanelColors& _colors;

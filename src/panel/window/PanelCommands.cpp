@@ -1,22 +1,18 @@
 #include "panel/window/PanelCommands.h"
 
+#include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/window/ShortcutOverlay.h"
+
+#include <algorithm>
 
 namespace vantorel {
 namespace {
 
-constexpr qsizetype longestMenuText = 60;
-
-QString shownKeys(const QAction& action)
-{
-    QStringList keys;
-    for (const QKeySequence& key : action.shortcuts())
-        keys.append(key.toString(QKeySequence::NativeText));
-    return keys.join(QStringLiteral(", "));
-}
+constexpr int widestCopyMenu = 360;
 
 QList<QKeySequence> redoKeys()
 {
@@ -35,7 +31,7 @@ QAction* PanelCommands::add(const QString& text, const QList<QKeySequence>& keys
     auto* action = new QAction(plainTitle(text), &_window);
     action->setShortcuts(keys);
     if (!keys.isEmpty()) {
-        action->setToolTip(plainToolTip(QStringLiteral("%1 (%2)").arg(text, shownKeys(*action))));
+        action->setToolTip(plainToolTip(QStringLiteral("%1 (%2)").arg(text, shownKeys(keys))));
     }
     _window.addAction(action);
     _all.push_back(action);
@@ -46,6 +42,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
                              ColorExchange& exchange)
     : _window(window),
       _colors(colors),
+      _pages(pages),
       _exchange(exchange),
       _menu(new QMenu(&window)),
       _copyMenu(new QMenu(tr("Copy as"), &window))
@@ -79,18 +76,13 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     QAction* quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, window, &QWidget::close);
 
     connect(_copyMenu, &QMenu::aboutToShow, this, &PanelCommands::fillCopyMenu);
-    // The copy button opens this menu, too.
-    _copy->setMenu(_copyMenu);
     connect(&colors, &PanelColors::historyChanged, this, &PanelCommands::updateHistory);
     updateHistory();
 
     _menu->addAction(_pick);
     _menu->addAction(pickAndCopy);
     _menu->addSeparator();
-    // Without the submenu, so that the command itself can be chosen.
-    auto* plainCopy = new QAction(_copy->icon(), tr("Copy"), _menu);
-    connect(plainCopy, &QAction::triggered, &exchange, &ColorExchange::copy);
-    _menu->addAction(plainCopy);
+    _menu->addAction(_copy);
     _menu->addAction(copyHex);
     _menu->addMenu(_copyMenu);
     _menu->addAction(paste);
@@ -110,15 +102,26 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
 void PanelCommands::fillCopyMenu()
 {
     _copyMenu->clear();
+    const QFontMetrics metrics = _copyMenu->fontMetrics();
+    std::vector<std::pair<QAction*, QString>> rows;
     for (const auto& [name, text] : _exchange.colorTexts()) {
-        const QString shown = qStringFrom(text);
-        const QString cut = shown.size() > longestMenuText
-                                ? shown.left(longestMenuText) + QStringLiteral("\u2026")
-                                : shown;
-        // What follows the tab is shown in a column of its own.
-        QAction* action =
-            _copyMenu->addAction(plainTitle(qStringFrom(name)) + u'\t' + plainTitle(cut));
-        connect(action, &QAction::triggered, this, [this, shown] { _exchange.copyText(shown); });
+        const QString value = qStringFrom(text);
+        const QString shown =
+            metrics.elidedText(displayName(name), Qt::ElideRight, scaled(widestCopyMenu) / 2);
+        QAction* action = _copyMenu->addAction(plainTitle(shown));
+        connect(action, &QAction::triggered, this, [this, value] { _exchange.copyText(value); });
+        rows.emplace_back(action, value);
+    }
+    // How wide a value makes the menu depends on the style, so its room is found by trying.
+    const int widest = scaled(widestCopyMenu);
+    for (int room = widest, excess = 1; excess > 0 && room > 0; room -= (excess + 1) / 2) {
+        for (const auto& [action, value] : rows) {
+            const QString name = action->text().section(u'\t', 0, 0);
+            // What follows the tab is shown in a column of its own.
+            action->setText(name + u'\t' +
+                            plainTitle(metrics.elidedText(value, Qt::ElideMiddle, room)));
+        }
+        excess = std::max(_copyMenu->sizeHint().width() - widest, 0);
     }
 }
 
@@ -138,11 +141,17 @@ void PanelCommands::setStaysOnTop(bool flag)
 
 void PanelCommands::showShortcuts()
 {
-    std::vector<std::pair<QString, QString>> rows;
+    std::vector<ShortcutSection> sections{{{}, {}}};
     for (const QAction* action : _all) {
-        if (!action->shortcuts().isEmpty()) rows.emplace_back(action->text(), shownKeys(*action));
+        if (!action->shortcuts().isEmpty())
+            sections.front().rows.push_back({action->text(), shownKeys(action->shortcuts())});
     }
-    new ShortcutOverlay(rows, _window);
+    sections.front().rows.push_back(
+        {tr("Next control"), shownKeys({Qt::Key_Tab, Qt::SHIFT | Qt::Key_Tab})});
+    for (int i = 0; i < _pages.count(); ++i)
+        sections.push_back({_pages.page(i).name(), _pages.page(i).shortcuts()});
+    std::erase_if(sections, [](const ShortcutSection& section) { return section.rows.empty(); });
+    new ShortcutOverlay(sections, _window);
 }
 
 }  // namespace vantorel

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] QAction& swap() const { return *_swap; }
     [[nodiscard]] QAction& stayOnTop() const { return *_stayOnTop; }
     [[nodiscard]] QMenu& menu() const { return *_menu; }
+    /// Offers every form in which the colour can be copied.
+    [[nodiscard]] QMenu& copyMenu() const { return *_copyMenu; }
 
 private:
     QAction* add(const QString& text, const QList<QKeySequence>& keys);
@@ -43,6 +45,7 @@ private:
 
     QWidget& _window;
     PanelColors& _colors;
+    PanelPages& _pages;
     ColorExchange& _exchange;
     std::vector<QAction*> _all;
     QAction* _copy = nullptr;

@@ -92,12 +92,13 @@ PanelTools::PanelTools(QWidget* parent)
     setBackground(_background);
 }
 
-void PanelTools::setActions(QAction& swap, QAction& pick, QAction& copy)
+void PanelTools::setActions(QAction& swap, QAction& pick, QAction& copy, QMenu& copyMenu)
 {
     _swap->setDefaultAction(&swap);
     _pick->setDefaultAction(&pick);
     _copy->setDefaultAction(&copy);
-    if (copy.menu() != nullptr) _copy->setPopupMode(QToolButton::MenuButtonPopup);
+    _copy->setMenu(&copyMenu);
+    _copy->setPopupMode(QToolButton::MenuButtonPopup);
     for (QToolButton* button : {_swap, _pick, _copy})
         button->setAccessibleName(button->defaultAction()->text());
 }

@@ -23,8 +23,8 @@ public:
     void setBackground(const HostColor& color);
 
     void setRecentColors(const std::vector<HostColor>& colors);
-    /// The buttons show these actions; `copy` may have a menu.
-    void setActions(QAction& swap, QAction& pick, QAction& copy);
+    /// The buttons show these actions; an arrow beside the button of `copy` opens `copyMenu`.
+    void setActions(QAction& swap, QAction& pick, QAction& copy, QMenu& copyMenu);
 
 signals:
     void opacityChosen(int percent);

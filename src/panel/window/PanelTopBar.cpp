@@ -92,13 +92,19 @@ void PanelTopBar::showMessage(const QString& sentence)
     showName();
 }
 
+bool PanelTopBar::hasRoomFor(const QString& sentence) const
+{
+    return QFontMetrics(fontOfSize(10)).horizontalAdvance(sentence) <= _name->width();
+}
+
 void PanelTopBar::showName()
 {
     const QString text = _message.isEmpty() ? _pageName : _message;
     _name->setFont(_message.isEmpty() ? font() : fontOfSize(10));
     _name->setToolTip(plainToolTip(_message));
     _name->setAccessibleName(text);
-    _name->setText(_name->fontMetrics().elidedText(text, Qt::ElideRight, _name->width()));
+    _name->setText(_name->fontMetrics().elidedText(
+        text, _message.isEmpty() ? Qt::ElideRight : Qt::ElideMiddle, _name->width()));
 }
 
 void PanelTopBar::resizeEvent(QResizeEvent* event)

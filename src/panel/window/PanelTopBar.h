@@ -10,7 +10,7 @@
 namespace vantorel {
 
 /// The bar above the page: a button for each page, the name of the shown page, and the menu. A
-/// message replaces the name for some seconds.
+/// short message replaces the name for some seconds.
 class PanelTopBar final : public QWidget {
     Q_OBJECT
 
@@ -20,8 +20,10 @@ public:
     void addPage(const QIcon& icon, const QString& name, const QString& toolTip);
     void showPage(int index, const QString& name);
     void setMenu(QMenu& menu);
-    /// Shows a message for a while. Pass an empty text to show the page's name at once.
+    /// Shows a message for a while, shortened in the middle if there is not enough room. Pass an
+    /// empty text to show the page's name at once.
     void showMessage(const QString& sentence);
+    [[nodiscard]] bool hasRoomFor(const QString& sentence) const;
 
 signals:
     /// The button of a page was turned on.

@@ -60,18 +60,19 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     : _topBar(new PanelTopBar(this)),
       _problems(new PlainLabel(this)),
       _pages(*this),
+      _message(new MessageLabel(this)),
       _tools(new PanelTools(this)),
       _host(desktop, *this, _colors, _pages),
       _exchange(_colors, _pages, *this, std::move(screenPicker)),
       _commands(*this, _colors, _pages, _exchange)
 {
-    setWindowTitle(tr("Colour"));
+    setWindowTitle(QStringLiteral("Vantorel"));
     setAccessibleRole(*this, QAccessible::Window);
     _problems->setVisible(false);
     _problems->setFont(fontOfSize(10));
     _problems->setMargin(4);
     _topBar->setMenu(_commands.menu());
-    _tools->setActions(_commands.swap(), _commands.pick(), _commands.copy());
+    _tools->setActions(_commands.swap(), _commands.pick(), _commands.copy(), _commands.copyMenu());
     connectParts();
 
     addPages(plugins, problems);
@@ -99,6 +100,13 @@ void PanelWindow::connectParts()
     connect(_tools, &PanelTools::colorDropped, &_exchange, &ColorExchange::takeColor);
     connect(_tools, &PanelTools::backgroundDropped, &_exchange, &ColorExchange::takeBackground);
     connect(&_exchange, &ColorExchange::reported, this, &PanelWindow::showMessage);
+    connect(&_exchange, &ColorExchange::copied, this, [this](const QString& text) {
+        _message->showMessage({}, {});
+        _topBar->showMessage(translatedSentence({phrase("\"%1\" copied", text.toStdString())}));
+    });
+    // What has failed before has succeeded now.
+    connect(&_colors, &PanelColors::colorSet, this, [this] { _message->showMessage({}, {}); });
+    connect(_message, &MessageLabel::messageChanged, this, &PanelWindow::makeRoomForMessage);
     connect(_topBar, &PanelTopBar::pageChosen, &_pages, &PanelPages::showPage);
     connect(&_pages, &PanelPages::pageShown, this, &PanelWindow::adaptToPage);
 }
@@ -128,6 +136,7 @@ void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
 void PanelWindow::adaptToPage(int index)
 {
     const PanelPage& page = _pages.page(index);
+    showMessage({});
     _topBar->showPage(index, page.name());
     _host.pageDidAppear();
     const QSize least = scaledSize(page.minimumSize() + barsPoints());
@@ -204,9 +213,21 @@ void PanelWindow::showProblems(const std::vector<Message>& problems)
     layOut();
 }
 
-void PanelWindow::showMessage(const Message& message)
+void PanelWindow::showMessage(const Message& message, MessageLabel::Kind kind)
 {
-    _topBar->showMessage(translatedSentence(message));
+    const QString sentence = translatedSentence(message);
+    const bool isShort = kind == MessageLabel::Kind::news && _topBar->hasRoomFor(sentence);
+    _topBar->showMessage(isShort ? sentence : QString());
+    _message->showMessage(isShort ? Message() : message, kind);
+}
+
+/// The page gives up the room; a page that already has its minimum height makes the window higher.
+void PanelWindow::makeRoomForMessage()
+{
+    const int wanted = _message->isVisibleTo(this) ? _message->heightForWidth(width()) : 0;
+    setMinimumHeight(minimumHeight() - _messageHeight + wanted);
+    _messageHeight = wanted;
+    resizeAtOnce(size().expandedTo(minimumSize()));
 }
 
 void PanelWindow::setFoot(QWidget& foot)
@@ -252,13 +273,22 @@ void PanelWindow::layOut()
     const int toolsHeight = scaled(toolsPoints);
     const int problems = _problems->isVisibleTo(this) ? scaled(problemsPoints) : 0;
     const int foot = _foot != nullptr ? scaled(footPoints) : 0;
-    const int pageHeight = std::max(0, height() - topBarHeight - toolsHeight - foot - problems);
+    const int message = _message->isVisibleTo(this) ? _message->heightForWidth(width()) : 0;
+    const int pageHeight =
+        std::max(0, height() - topBarHeight - message - toolsHeight - foot - problems);
+    const int toolsTop = topBarHeight + pageHeight + message;
     _topBar->setGeometry(0, 0, width(), topBarHeight);
-    _tools->setGeometry(0, topBarHeight + pageHeight, width(), toolsHeight);
-    if (_foot != nullptr)
-        _foot->setGeometry(0, topBarHeight + pageHeight + toolsHeight, width(), foot);
+    _message->setGeometry(0, topBarHeight + pageHeight, width(), message);
+    _tools->setGeometry(0, toolsTop, width(), toolsHeight);
+    if (_foot != nullptr) _foot->setGeometry(0, toolsTop + toolsHeight, width(), foot);
     _problems->setGeometry(0, height() - problems, width(), problems);
     _pages.setGeometry({0, topBarHeight, width(), pageHeight});
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent* event)
+{
+    PanelPage* page = _pages.current();
+    if (page == nullptr || !page->performKey(*event)) QWidget::keyPressEvent(event);
 }
 
 void PanelWindow::resizeEvent(QResizeEvent* event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/widgets/MessageLabel.h"
 #include "panel/window/PanelCommands.h"
 #include "panel/window/PanelHost.h"
 #include "panel/window/PanelMemory.h"
@@ -36,8 +37,9 @@ public:
 
     /// Shows the problems with plug-ins, one per line.
     void showProblems(const std::vector<Message>& problems);
-    /// Shows a message in the bar for a while. An empty message ends the one that is shown.
-    void showMessage(const Message& message);
+    /// Shows a message in place of the last one: in the bar if it is short news, otherwise in full
+    /// below the page. An empty message only ends the one that is shown.
+    void showMessage(const Message& message, MessageLabel::Kind kind = MessageLabel::Kind::news);
     /// Puts a bar below everything else. Call it at most once, before the window is shown.
     void setFoot(QWidget& foot);
 
@@ -56,6 +58,7 @@ public:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -68,6 +71,7 @@ private:
     /// Sets the window's minimum size. What it grew for a page before, it loses again.
     void growTo(QSize least);
     void showHistory();
+    void makeRoomForMessage();
     void loadIcon();
     void orderTabs();
     void layOut();
@@ -79,12 +83,15 @@ private:
     PanelTopBar* _topBar;
     QLabel* _problems;
     PanelPages _pages;
+    MessageLabel* _message;
     PanelTools* _tools;
     PanelHost _host;
     ColorExchange _exchange;
     PanelCommands _commands;
     /// Null if there is none.
     QWidget* _foot = nullptr;
+    /// By how much the window's minimum height has grown for the message, in pixels.
+    int _messageHeight = 0;
     bool _isPainted = false;
     /// Set while the window is wider or higher than the user left it, for the sake of a page.
     struct Growth {

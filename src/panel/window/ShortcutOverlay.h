@@ -1,19 +1,26 @@
 #pragma once
 
-#include <QLabel>
+#include "panel/pages/PanelPage.h"
 
-#include <utility>
+#include <QScrollArea>
+
 #include <vector>
 
 namespace vantorel {
 
-/// Covers the whole panel with a list of the keyboard shortcuts. Any key or click closes and
-/// deletes it.
-class ShortcutOverlay final : public QLabel {
+/// The keys of a page, or of the panel if there is no title.
+struct ShortcutSection {
+    QString title;
+    std::vector<ShortcutRow> rows;
+};
+
+/// Covers the whole panel with a list of the keyboard shortcuts. The arrow and page keys scroll it;
+/// any other key or a click closes and deletes it.
+class ShortcutOverlay final : public QScrollArea {
     Q_OBJECT
 
 public:
-    ShortcutOverlay(const std::vector<std::pair<QString, QString>>& rows, QWidget& window);
+    ShortcutOverlay(const std::vector<ShortcutSection>& sections, QWidget& window);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -32,6 +32,8 @@ int main(int argc, char** argv)
     qputenv("XDG_DATA_DIRS", (home.path() + "/machine").toLocal8Bit());
     qputenv("XDG_CONFIG_DIRS", (home.path() + "/machine").toLocal8Bit());
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
+    // Texts are compared with the English ones.
+    qputenv("LC_ALL", "C.UTF-8");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

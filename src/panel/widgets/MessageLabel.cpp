@@ -1,10 +1,11 @@
-#include "panel/palettes/PaletteMessageLabel.h"
+#include "panel/widgets/MessageLabel.h"
 
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QAccessible>
+#include <QMouseEvent>
 
 #include <chrono>
 
@@ -22,7 +23,7 @@ QColor mixed(const QColor& ground, const QColor& color, double share)
 
 }  // namespace
 
-PaletteMessageLabel::PaletteMessageLabel(QWidget* parent) : PlainLabel(parent)
+MessageLabel::MessageLabel(QWidget* parent) : PlainLabel(parent)
 {
     setFont(fontOfSize(10));
     setWordWrap(true);
@@ -35,21 +36,24 @@ PaletteMessageLabel::PaletteMessageLabel(QWidget* parent) : PlainLabel(parent)
     connect(&_timer, &QTimer::timeout, this, [this] { showMessages({}, Kind::news); });
 }
 
-void PaletteMessageLabel::showMessage(const Message& message, Kind kind)
+void MessageLabel::showMessage(const Message& message, Kind kind)
 {
     showMessages({message}, kind);
 }
 
-void PaletteMessageLabel::showMessages(const std::vector<Message>& messages, Kind kind)
+void MessageLabel::showMessages(const std::vector<Message>& messages, Kind kind)
 {
     QStringList sentences;
     for (const Message& message : messages)
         sentences.append(translatedSentence(message));
+    sentences.removeAll(QString());
     const QString text = sentences.join(u' ');
+    if (text.isEmpty() && this->text().isEmpty()) return;
     setText(text);
     setAccessibleName(text);
     setVisible(!text.isEmpty());
     _timer.stop();
+    emit messageChanged();
     if (text.isEmpty()) return;
     QPalette colors = parentWidget()->palette();
     const QColor ground = colors.color(QPalette::Window);
@@ -60,6 +64,12 @@ void PaletteMessageLabel::showMessages(const std::vector<Message>& messages, Kin
     if (kind == Kind::news) _timer.start();
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+}
+
+void MessageLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    PlainLabel::mouseReleaseEvent(event);
+    if (!hasSelectedText()) showMessages({}, Kind::news);
 }
 
 }  // namespace vantorel
