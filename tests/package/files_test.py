@@ -15,6 +15,7 @@ ID = "org.vantorel.ColorPanel"
 DESKTOP = f"{TREE}/share/applications/{ID}.desktop"
 METAINFO = f"{TREE}/share/metainfo/{ID}.metainfo.xml"
 ICONS = f"{TREE}/share/icons/hicolor"
+TRANSLATIONS = ["de", "es", "fr"]
 LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 
@@ -32,18 +33,20 @@ class DesktopTest(TreeTest):
     def test_the_metainfo_is_valid(self):
         self.passes("appstreamcli", "validate", "--no-net", METAINFO)
 
-    def test_each_text_of_the_desktop_file_has_a_german_translation(self):
+    def test_each_text_of_the_desktop_file_is_translated(self):
         file = ini(DESKTOP)
         for section in file.sections():
             for key in ("Name", "GenericName", "Comment", "Keywords"):
                 if file.has_option(section, key):
-                    self.assertTrue(file.has_option(section, key + "[de]") or file[section][key] == "Vantorel", (section, key))
+                    for language in TRANSLATIONS:
+                        self.assertTrue(file.has_option(section, f"{key}[{language}]") or file[section][key] == "Vantorel",
+                                        (section, key, language))
 
-    def test_each_text_of_the_metainfo_has_a_german_translation(self):
+    def test_each_text_of_the_metainfo_is_translated(self):
         root = ElementTree.parse(METAINFO).getroot()
         for tag in ("summary", "p", "li", "caption"):
             languages = [each.get(LANGUAGE) for each in root.iter(tag)]
-            self.assertEqual(languages, [None, "de"] * (len(languages) // 2), tag)
+            self.assertEqual(languages, [None, *TRANSLATIONS] * (len(languages) // (1 + len(TRANSLATIONS))), tag)
 
     def test_the_metainfo_chooses_no_licence_for_the_program(self):
         self.assertIsNone(ElementTree.parse(METAINFO).getroot().find("project_license"))
@@ -105,6 +108,21 @@ class VersionTest(TreeTest):
         self.assertEqual(self.passes(f"{TREE}/bin/vantorel-panel", "--version"), f"vantorel-panel {version}\n")
         changelog = text_of(f"{SOURCES}/debian/changelog")
         self.assertEqual(re.match(r"vantorel \(([^)]+)\)", changelog).group(1), version)
+
+
+class SharedDataTest(TreeTest):
+    def test_the_list_of_css_color_4_is_offered_by_its_file(self):
+        path = f"{TREE}/share/vantorel/palettes/CSS Color 4.gpl"
+        lines = text_of(path).splitlines()
+        self.assertEqual(lines[:2], ["GIMP Palette", "Name: CSS Color 4"])
+        self.assertEqual(len([line for line in lines if re.match(r" *\d+ +\d+ +\d+\t[a-z]+$", line)]), 148)
+
+    def test_the_command_line_speaks_the_users_language(self):
+        for language, usage in (("de", "Aufruf"), ("es", "Uso"), ("fr", "Utilisation")):
+            for program in ("vantorel", "vantorel-panel"):
+                run = self.run_tool("env", "LC_ALL=" + language, f"{TREE}/bin/{program}", "--help")
+                self.assertTrue(run.stdout.startswith(f"{usage} : {program}" if language == "fr" else f"{usage}: {program}"),
+                                run.stdout[:80])
 
 
 class ManualPageTest(TreeTest):
