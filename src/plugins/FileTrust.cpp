@@ -19,7 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr uid_t administrator = 0;
 /// As many as the kernel follows.
 constexpr int mostLinks = 40;
 

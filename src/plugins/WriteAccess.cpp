@@ -10,8 +10,6 @@
 namespace vantorel {
 namespace {
 
-constexpr uid_t administrator = 0;
-
 /// Whether the user is the only member of a group. Many systems create such a group for each user.
 bool isGroupOfTheUserAlone(gid_t group, uid_t user)
 {

@@ -8,6 +8,8 @@
 
 namespace vantorel {
 
+inline constexpr uid_t administrator = 0;
+
 /// A file or folder whose owner is known to be trusted.
 struct OwnedFile {
     /// Leads to the file.
