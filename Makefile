@@ -48,7 +48,7 @@ check: packages-build+run+test+check
 coverage: packages-build+run+test+check
 	@tools/run-coverage
 
-fuzz: packages-build+check
+fuzz: packages-build+run+check
 	@cmake --preset fuzz > /dev/null
 	@cmake --build --preset fuzz
 	@tools/run-fuzzers $(SECONDS)
@@ -56,6 +56,8 @@ fuzz: packages-build+check
 endurance: packages-build+run+test
 	@cmake --preset release -DVANTOREL_TESTS=ON > /dev/null
 	@cmake --build --preset release
+	@cmake --preset sanitize > /dev/null
+	@cmake --build --preset sanitize --target endurance-test endurance-qt-test
 	@tools/run-endurance $(EVENTS)
 
 screenshots: packages-build+run+test

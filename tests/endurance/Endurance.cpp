@@ -43,6 +43,14 @@ std::vector<std::string> openHandles()
     return handles;
 }
 
+/// Returns the number in an environment variable, or `usual` if there is none.
+std::uint64_t numberFrom(const char* variable, std::uint64_t usual)
+{
+    const char* wish = std::getenv(variable);
+    const std::uint64_t number = wish != nullptr ? std::strtoull(wish, nullptr, 10) : 0;
+    return number > 0 ? number : usual;
+}
+
 struct Sample {
     double event = 0;
     double bytes = 0;
@@ -70,9 +78,12 @@ double slopeOf(std::span<const Sample> samples)
 
 std::size_t eventsToEndure(std::size_t usual)
 {
-    const char* wish = std::getenv("VANTOREL_EVENTS");
-    const std::size_t events = wish != nullptr ? std::strtoull(wish, nullptr, 10) : 0;
-    return events > 0 ? events : usual;
+    return numberFrom("VANTOREL_EVENTS", usual);
+}
+
+std::uint64_t seedToEndure(std::uint64_t usual)
+{
+    return numberFrom("VANTOREL_SEED", usual);
 }
 
 Endurance endure(std::size_t events, const std::function<void()>& act,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -21,6 +22,9 @@ struct Endurance {
 
 /// The number of events in a run: VANTOREL_EVENTS from the environment, or `usual`.
 [[nodiscard]] std::size_t eventsToEndure(std::size_t usual);
+
+/// The seed of the random user: VANTOREL_SEED from the environment, or `usual`.
+[[nodiscard]] std::uint64_t seedToEndure(std::uint64_t usual);
 
 /// Calls `act` `events` times, measures the process and prints the results. `settle` is called
 /// before each measurement to release memory that is legitimately in use.

@@ -7,7 +7,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QHelpEvent>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
@@ -42,7 +45,8 @@ Qt::KeyboardModifiers modifiersFrom(Choices& choices)
 
 }  // namespace
 
-QtUser::QtUser(PanelWindow& window, Choices& choices) : _window(window), _choices(choices)
+QtUser::QtUser(PanelWindow& window, Choices& choices, Lists lists)
+    : _window(window), _choices(choices), _lists(lists)
 {
     _inLoops.setInterval(0);
     QObject::connect(&_inLoops, &QTimer::timeout, &_window, [this] { actInLoop(); });
@@ -51,9 +55,8 @@ QtUser::QtUser(PanelWindow& window, Choices& choices) : _window(window), _choice
 void QtUser::act()
 {
     _inLoops.start();
-    // Edits on the Palettes page make the lists larger, and with them the memory in use.
-    const bool mayEdit = _window.pages().currentPicker() != nullptr;
-    constexpr std::uint64_t lastOfAll = 13;
+    const bool mayEdit = _lists == Lists::mayBeEdited || _window.pages().currentPicker() != nullptr;
+    constexpr std::uint64_t lastOfAll = 17;
     constexpr std::uint64_t lastThatEditsNothing = 6;
     switch (_choices.integer(0, mayEdit ? lastOfAll : lastThatEditsNothing)) {
         case 0:
@@ -96,6 +99,19 @@ void QtUser::act()
             break;
         case 11:
             drop();
+            break;
+        case 12:
+        case 13:
+            pointAtSomething();
+            break;
+        case 14:
+            compose();
+            break;
+        case 15:
+            if (_lists == Lists::mayBeEdited) {
+                _window.pages().showPage(static_cast<int>(
+                    _choices.integer(0, static_cast<unsigned>(_window.pages().count() - 1))));
+            }
             break;
         default:
             if (auto* colors = _window.findChild<QWidget*>(QStringLiteral("_hexColorsView"));
@@ -144,6 +160,65 @@ void QtUser::press(QWidget& target)
         QTest::mouseRelease(&target, Qt::LeftButton, {}, placeIn(target));
     }
     _pressed = nullptr;
+}
+
+void QtUser::pointAtSomething()
+{
+    const QList<QWidget*> widgets = shownChildren<QWidget>(_window);
+    if (widgets.isEmpty()) return;
+    QWidget& target = *_choices.oneOf(widgets);
+    const QPoint place = placeIn(target);
+    switch (_choices.integer(0, 3)) {
+        case 0:
+            turnWheel(target);
+            break;
+        case 1: {
+            QTest::mouseMove(&target, place);
+            QHelpEvent help(QEvent::ToolTip, place, target.mapToGlobal(place));
+            QApplication::sendEvent(&target, &help);
+            break;
+        }
+        case 2: {
+            // The panel's buttons are left to pressButton, which knows those that leave it.
+            if (qobject_cast<QAbstractButton*>(&target) != nullptr) break;
+            doubleClick(target, place);
+            break;
+        }
+        default: {
+            QContextMenuEvent menu(QContextMenuEvent::Mouse, place, target.mapToGlobal(place));
+            QApplication::sendEvent(&target, &menu);
+        }
+    }
+}
+
+void QtUser::doubleClick(QWidget& target, QPoint place)
+{
+    const QPointer<QWidget> clicked(&target);
+    _pressed = &target;
+    QMouseEvent event(QEvent::MouseButtonDblClick, place, target.mapToGlobal(QPointF(place)),
+                      Qt::LeftButton, Qt::LeftButton, modifiersFrom(_choices));
+    QApplication::sendEvent(&target, &event);
+    if (_pressed != nullptr && clicked) QTest::mouseRelease(&target, Qt::LeftButton, {}, place);
+    _pressed = nullptr;
+}
+
+void QtUser::turnWheel(QWidget& target)
+{
+    constexpr std::array steps{-1200, -120, -1, 0, 1, 120, 1200};
+    const QPointF place = target.rect().center();
+    const QPoint angle(_choices.oneOf(steps), _choices.oneOf(steps));
+    QWheelEvent wheel(place, target.mapToGlobal(place), QPoint(), angle, Qt::NoButton,
+                      modifiersFrom(_choices), Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&target, &wheel);
+}
+
+void QtUser::compose()
+{
+    QWidget* target = _window.focusWidget();
+    if (target == nullptr) return;
+    QInputMethodEvent event(text(), {});
+    if (_choices.oneIn(2)) event.setCommitString(text());
+    QApplication::sendEvent(target, &event);
 }
 
 void QtUser::pressButton()

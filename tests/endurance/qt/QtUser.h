@@ -11,14 +11,22 @@ namespace vantorel {
 /// drops except leave the panel.
 class QtUser {
 public:
+    /// Whether the user edits colour lists, which makes them longer and longer.
+    enum class Lists { stay, mayBeEdited };
+
     /// Both must outlive the user.
-    QtUser(PanelWindow& window, Choices& choices);
+    QtUser(PanelWindow& window, Choices& choices, Lists lists = Lists::stay);
 
     /// Performs one random action.
     void act();
 
 private:
     void press(QWidget& target);
+    /// Does something to any widget that is shown.
+    void pointAtSomething();
+    void doubleClick(QWidget& target, QPoint place);
+    void turnWheel(QWidget& target);
+    void compose();
     void pressButton();
     void openPopUp();
     void type();
@@ -34,6 +42,7 @@ private:
 
     PanelWindow& _window;
     Choices& _choices;
+    Lists _lists;
     QTimer _inLoops;
     /// The widget in which the mouse is pressed.
     QWidget* _pressed = nullptr;
