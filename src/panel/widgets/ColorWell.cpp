@@ -3,6 +3,7 @@
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/Checkers.h"
+#include "panel/widgets/WidgetFrame.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -41,9 +42,8 @@ void ColorWell::paintEvent(QPaintEvent*)
     opaque.setAlpha(255);
     painter.fillRect(QRect(inside.topLeft(), QPoint(right.left() - 1, inside.bottom())), opaque);
     const bool isMarked = _dropIsNear || hasFocus();
-    painter.setPen(
-        QPen(palette().color(isMarked ? QPalette::Highlight : QPalette::Mid), isMarked ? 3 : 1));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    paintFrame(painter, rect(), palette().color(isMarked ? QPalette::Highlight : QPalette::Mid),
+               isMarked ? 2 : 1);
 }
 
 void ColorWell::mousePressEvent(QMouseEvent* event)

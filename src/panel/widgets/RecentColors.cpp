@@ -4,6 +4,7 @@
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/Checkers.h"
 #include "panel/widgets/ColorClipboard.h"
+#include "panel/widgets/WidgetFrame.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -113,13 +114,12 @@ void RecentColors::paintEvent(QPaintEvent*)
     QPainter painter(this);
     for (int i = 0; i < shownCount(); ++i) {
         const QRect place = rectOfColor(i);
-        paintSwatch(painter, place, _colors[static_cast<std::size_t>(i)]);
-        painter.setPen(palette().color(QPalette::Mid));
-        painter.drawRect(place.adjusted(0, 0, -1, -1));
+        paintSwatch(painter, place.adjusted(1, 1, -1, -1), _colors[static_cast<std::size_t>(i)]);
+        paintFrame(painter, place, palette().color(QPalette::Mid), 1);
     }
     if (hasFocus() && _current < shownCount()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rectOfColor(_current));
+        paintFrame(painter, rectOfColor(_current).adjusted(-1, -1, 1, 1),
+                   palette().color(QPalette::Highlight), 2);
     }
 }
 
