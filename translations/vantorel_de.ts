@@ -570,10 +570,6 @@
         <translation>möglich sind: %1</translation>
     </message>
     <message>
-        <source>the desktop lets only the active window copy, and did not activate the panel</source>
-        <translation>der Desktop lässt nur das aktive Fenster kopieren und hat dieses nicht aktiviert</translation>
-    </message>
-    <message>
         <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
         <translation>das Fenster hat seinen Namen auf dem Sitzungsbus verloren: andere Programme erreichen es nicht mehr</translation>
     </message>
@@ -1520,6 +1516,22 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
     <message>
         <source>standard output cannot be written: %1</source>
         <translation>die Standardausgabe lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>this colour has no text</source>
+        <translation>für diese Farbe gibt es keinen Text</translation>
+    </message>
+    <message>
+        <source>the desktop did not let the panel copy</source>
+        <translation>die Arbeitsumgebung hat das Kopieren nicht zugelassen</translation>
+    </message>
+    <message>
+        <source>show the panel and copy there</source>
+        <translation>zeigen Sie das Fenster an und kopieren Sie dort</translation>
+    </message>
+    <message>
+        <source>the panel did not answer, and may not have copied the colour</source>
+        <translation>das Fenster hat nicht geantwortet und die Farbe vielleicht nicht kopiert</translation>
     </message>
 </context>
 <context>

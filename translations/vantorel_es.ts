@@ -430,10 +430,6 @@
         <translation>use una de estas: %1</translation>
     </message>
     <message>
-        <source>the desktop lets only the active window copy, and did not activate the panel</source>
-        <translation>el escritorio solo deja copiar a la ventana activa y no ha activado el panel</translation>
-    </message>
-    <message>
         <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
         <translation>el panel ha perdido su nombre en el bus de sesión: los demás programas ya no pueden contactar con él</translation>
     </message>
@@ -1520,6 +1516,22 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
     <message>
         <source>use the absolute path of the plug-in</source>
         <translation>use la ruta absoluta del complemento</translation>
+    </message>
+    <message>
+        <source>this colour has no text</source>
+        <translation>este color no tiene texto</translation>
+    </message>
+    <message>
+        <source>the desktop did not let the panel copy</source>
+        <translation>el escritorio no permitió copiar</translation>
+    </message>
+    <message>
+        <source>show the panel and copy there</source>
+        <translation>muestre el panel y copie allí</translation>
+    </message>
+    <message>
+        <source>the panel did not answer, and may not have copied the colour</source>
+        <translation>el panel no respondió y quizá no copió el color</translation>
     </message>
 </context>
 <context>

@@ -430,10 +430,6 @@
         <translation>utilisez l’une de celles-ci : %1</translation>
     </message>
     <message>
-        <source>the desktop lets only the active window copy, and did not activate the panel</source>
-        <translation>le bureau ne laisse copier que la fenêtre active et n’a pas activé le panneau</translation>
-    </message>
-    <message>
         <source>the panel has lost its name on the session bus: other programs can no longer reach it</source>
         <translation>le panneau a perdu son nom sur le bus de session : les autres programmes ne peuvent plus le joindre</translation>
     </message>
@@ -1520,6 +1516,22 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
     <message>
         <source>use the absolute path of the plug-in</source>
         <translation>utilisez le chemin absolu du greffon</translation>
+    </message>
+    <message>
+        <source>this colour has no text</source>
+        <translation>cette couleur n’a pas de texte</translation>
+    </message>
+    <message>
+        <source>the desktop did not let the panel copy</source>
+        <translation>le bureau n’a pas autorisé la copie</translation>
+    </message>
+    <message>
+        <source>show the panel and copy there</source>
+        <translation>affichez le panneau et copiez-y la couleur</translation>
+    </message>
+    <message>
+        <source>the panel did not answer, and may not have copied the colour</source>
+        <translation>le panneau n’a pas répondu et n’a peut-être pas copié la couleur</translation>
     </message>
 </context>
 <context>

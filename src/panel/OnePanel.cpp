@@ -10,22 +10,6 @@
 #include <QTimer>
 
 namespace vantorel {
-namespace {
-
-/// Prints the result of an order and returns the exit status.
-int report(const PanelOrder& order, const PanelAnswer& answer)
-{
-    using Kind = PanelError::Kind;
-    if (!answer) {
-        const auto& [kind, message] = answer.error();
-        printProblem(translatedSentence(message));
-        if (kind == Kind::cancelled) return cancelled;
-        return kind == Kind::notPossible ? notPossible : usageError;
-    }
-    return order.step != PanelOrder::Step::show ? printResult(*answer + u'\n') : succeeded;
-}
-
-}  // namespace
 
 PanelOrder orderFrom(const PanelOptions& options, const ActivationToken& token)
 {
@@ -44,9 +28,26 @@ OnePanel::OnePanel(const PanelOptions& options, const PanelEnvironment& environm
 {
 }
 
+PanelOrder::Say OnePanel::say()
+{
+    return [this](const QString& text) { _sayStatus = printResult(text + u'\n'); };
+}
+
+int OnePanel::report(const PanelAnswer& answer) const
+{
+    using Kind = PanelError::Kind;
+    if (!answer) {
+        const auto& [kind, message] = answer.error();
+        printProblem(translatedSentence(message));
+        if (kind == Kind::cancelled) return cancelled;
+        return kind == Kind::notPossible ? notPossible : usageError;
+    }
+    return _sayStatus;
+}
+
 std::optional<int> OnePanel::handOver()
 {
-    const auto [contact, answer] = _running.handOver(_order);
+    const auto [contact, answer] = _running.handOver(_order, say());
     _contact = contact;
     if (contact != RunningPanel::Contact::made) return std::nullopt;
     if (!_options.forStartsOnly.isEmpty()) {
@@ -55,7 +56,7 @@ std::optional<int> OnePanel::handOver()
                                                  "%1. Use --new to start another.")
                          .arg(_options.forStartsOnly.join(QStringLiteral(", "))));
     }
-    return report(_order, answer);
+    return report(answer);
 }
 
 std::optional<int> OnePanel::takeName(PanelService& service)
@@ -109,8 +110,8 @@ int OnePanel::runForOrder(PanelRequests& requests)
     QTimer::singleShot(0, &requests, [&] {
         // Not earlier, because before the order begins there is nothing left to do.
         QObject::connect(&requests, &PanelRequests::nothingLeft, &QApplication::quit);
-        requests.carryOut(_order, [&](const PanelAnswer& answer) {
-            status = report(_order, answer);
+        requests.carryOut(_order, say(), [&](const PanelAnswer& answer) {
+            status = report(answer);
             _caller->release(status);
         });
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/Output.h"
 #include "panel/Panel.h"
 #include "panel/PanelEnvironment.h"
 #include "panel/bus/CallersProcess.h"
@@ -27,6 +28,10 @@ public:
     [[nodiscard]] int run();
 
 private:
+    /// Prints each text for the caller.
+    [[nodiscard]] PanelOrder::Say say();
+    /// Prints why an order failed, if so, and returns the exit status.
+    [[nodiscard]] int report(const PanelAnswer& answer) const;
     /// Returns the exit status if the running panel has carried out the order, or `std::nullopt` if
     /// it could not be reached.
     [[nodiscard]] std::optional<int> handOver();
@@ -45,6 +50,8 @@ private:
     const PanelOrder& _order;
     CallersProcess* _caller;
     RunningPanel _running;
+    /// Of the last text that was printed.
+    int _sayStatus = succeeded;
     RunningPanel::Contact _contact = RunningPanel::Contact::none;
 };
 

@@ -2,6 +2,8 @@
 #include "panel/bus/PanelNames.h"
 #include "panel/bus/PanelRequests.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QSignalSpy>
 
 namespace vantorel {
@@ -47,10 +49,29 @@ protected:
         return [this](const PanelAnswer& answer) { _answers.push_back(answer); };
     }
 
+    PanelOrder::Say sayInto()
+    {
+        return [this](const QString& text) { _said.append(text); };
+    }
+
     HeldScreenPicker* _picker = nullptr;
     std::unique_ptr<PanelRequests> _requests;
     std::vector<PanelAnswer> _answers;
+    QStringList _said;
 };
+
+TEST_F(PanelRequestsTest, APickedColourIsSaidBeforeItIsCopied)
+{
+    QStringList saidBefore;
+    QObject::connect(QApplication::clipboard(), &QClipboard::dataChanged, _requests.get(),
+                     [&] { saidBefore = _said; });
+    _requests->carryOut({PanelOrder::Step::pickAndCopy, {}, {}, {}}, sayInto(), keep());
+    _picker->answer({Outcome::picked, HostColor::blackColor(), {}});
+    EXPECT_EQ(saidBefore, QStringList{QStringLiteral("#000000")});
+    EXPECT_EQ(_said, saidBefore);
+    EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("#000000")});
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("#000000"));
+}
 
 TEST_F(PanelRequestsTest, APickReturnsThePickedColour)
 {
@@ -82,13 +103,13 @@ TEST_F(PanelRequestsTest, AnImpossiblePickSaysWhy)
 
 TEST_F(PanelRequestsTest, ARequestSetsTheColourBeforeItsStep)
 {
-    _requests->carryOut({PanelOrder::Step::copy, "lime", "HSL (CSS)", {}}, keep());
+    _requests->carryOut({PanelOrder::Step::copy, "lime", "HSL (CSS)", {}}, sayInto(), keep());
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("hsl(120 100% 50%)")});
 }
 
 TEST_F(PanelRequestsTest, ARequestWithAnInvalidColourIsRejectedWhole)
 {
-    _requests->carryOut({PanelOrder::Step::pick, "nonsense", {}, {}}, keep());
+    _requests->carryOut({PanelOrder::Step::pick, "nonsense", {}, {}}, sayInto(), keep());
     ASSERT_EQ(_answers.size(), 1U);
     EXPECT_EQ(_answers[0].error().kind, Kind::notAColor);
     EXPECT_FALSE(_picker->isPicking());

@@ -22,7 +22,8 @@ struct ActivationToken {
 [[nodiscard]] ActivationToken activationTokenOfThisStart();
 
 /// Shows the window above all others with the keyboard focus, even if it was minimised, as far as
-/// the desktop allows. A token is valid once; an empty one means none.
+/// the desktop allows; otherwise the window asks for attention. A token is valid once; an empty one
+/// means none.
 void bringToFront(QWidget& window, const ActivationToken& token);
 
 }  // namespace vantorel

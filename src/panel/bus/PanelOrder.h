@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace vantorel {
@@ -20,6 +21,9 @@ struct PanelOrder {
         /// Copy the panel's colour, without showing the window.
         copy,
     };
+
+    /// Takes a line of output.
+    using Say = std::function<void(const QString&)>;
 
     Step step = Step::show;
     /// The colour to set first, as a CSS text.

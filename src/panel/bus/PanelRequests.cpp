@@ -2,13 +2,10 @@
 
 #include "csscolor/CSSColorWriter.h"
 #include "hosts/qt/QtColors.h"
-#include "panel/bus/ClipboardTurn.h"
+#include "panel/bus/ActivationToken.h"
 #include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelWindow.h"
 #include "result/HarmlessLine.h"
-
-#include <QApplication>
-#include <QClipboard>
 
 #include <algorithm>
 #include <utility>
@@ -25,8 +22,7 @@ QString hexCode(const HostColor& color)
 
 PanelRequests::PanelRequests(PanelWindow& window) : _window(window)
 {
-    connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
-            &PanelRequests::lookWhetherNothingIsLeft);
+    connect(&_clipboard, &SessionClipboard::lost, this, &PanelRequests::lookWhetherNothingIsLeft);
     connect(&window.colors(), &PanelColors::colorChanged, this, &PanelRequests::colorChanged);
 }
 
@@ -64,7 +60,7 @@ void PanelRequests::pick(bool copies, Done done)
         } else if (result.outcome == Outcome::cancelled) {
             finish(done, PanelError{Kind::cancelled, {phrase("no colour was picked")}});
         } else if (copies) {
-            putOnClipboard({},
+            putOnClipboard({}, {},
                            [this, done, picked = hexCode(result.color)](const PanelAnswer& copied) {
                                finish(done, copied ? PanelAnswer(picked) : copied);
                            });
@@ -80,14 +76,16 @@ void PanelRequests::cancelPick()
     _window.exchange().cancelPick();
 }
 
-void PanelRequests::copy(const QString& form, Done done)
+void PanelRequests::copy(const QString& form, const ActivationToken& token, Done done)
 {
     ++_underWay;
-    putOnClipboard(
-        form, [this, done = std::move(done)](const PanelAnswer& answer) { finish(done, answer); });
+    putOnClipboard(form, token, [this, done = std::move(done)](const PanelAnswer& answer) {
+        finish(done, answer);
+    });
 }
 
-void PanelRequests::putOnClipboard(const QString& form, const Done& done)
+void PanelRequests::putOnClipboard(const QString& form, const ActivationToken& token,
+                                   const Done& done)
 {
     const auto texts = _window.exchange().colorTexts();
     const auto chosen = std::find_if(texts.begin(), texts.end(), [&](const HostColorText& text) {
@@ -102,26 +100,25 @@ void PanelRequests::putOnClipboard(const QString& form, const Done& done)
                          phrase("use one of: %1", names)}});
         return;
     }
-    const QString text = form.isEmpty() ? QString() : qStringFrom(chosen->text);
-    auto* turn = new ClipboardTurn(_window, this);
-    connect(turn, &ClipboardTurn::over, this, [this, form, text, done](bool isOurTurn) {
-        if (!isOurTurn) {
+    const QString text =
+        form.isEmpty() ? _window.exchange().copiedText() : qStringFrom(chosen->text);
+    if (text.isEmpty()) {
+        done(PanelError{PanelError::Kind::notPossible, {phrase("this colour has no text")}});
+        return;
+    }
+    _clipboard.copy(hostColor(), text, token, [this, text, done](bool isCopied) {
+        if (!isCopied) {
             done(PanelError{PanelError::Kind::notPossible,
-                            {phrase("the desktop lets only the active window copy, and did not "
-                                    "activate the panel")}});
+                            {phrase("the desktop did not let the panel copy"),
+                             phrase("show the panel and copy there")}});
             return;
         }
-        if (form.isEmpty()) {
-            _window.exchange().copy();
-        } else {
-            _window.exchange().copyText(text);
-        }
-        done(QApplication::clipboard()->text());
+        _window.exchange().noteCopied(text);
+        done(text);
     });
-    turn->wait();
 }
 
-void PanelRequests::carryOut(const PanelOrder& order, Done done)
+void PanelRequests::carryOut(const PanelOrder& order, const PanelOrder::Say& say, const Done& done)
 {
     if (order.color) {
         const PanelAnswer answer = setColor(*order.color);
@@ -130,19 +127,30 @@ void PanelRequests::carryOut(const PanelOrder& order, Done done)
             return;
         }
     }
+    const Done sayAndFinish = [say, done](const PanelAnswer& answer) {
+        if (answer) say(*answer);
+        done(answer);
+    };
     switch (order.step) {
         case PanelOrder::Step::show:
             show(order.token);
             done(QString());
             return;
         case PanelOrder::Step::pick:
-            pick(false, std::move(done));
+            pick(false, sayAndFinish);
             return;
         case PanelOrder::Step::pickAndCopy:
-            pick(true, std::move(done));
+            pick(false, [this, say, done, token = order.token](const PanelAnswer& answer) {
+                if (!answer) {
+                    done(answer);
+                    return;
+                }
+                say(*answer);
+                copy({}, token, done);
+            });
             return;
         case PanelOrder::Step::copy:
-            copy(order.form, std::move(done));
+            copy(order.form, order.token, sayAndFinish);
             return;
     }
 }
@@ -156,8 +164,7 @@ void PanelRequests::finish(const Done& done, const PanelAnswer& answer)
 
 bool PanelRequests::isNothingLeft() const
 {
-    const bool copied = QApplication::clipboard()->ownsClipboard();
-    return !_window.isVisible() && _underWay == 0 && !copied;
+    return !_window.isVisible() && _underWay == 0 && !_clipboard.isOurs();
 }
 
 void PanelRequests::lookWhetherNothingIsLeft()

@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "panel/bus/PanelOrder.h"
+#include "panel/bus/SessionClipboard.h"
 
 #include <QObject>
 
@@ -37,12 +38,14 @@ public:
     void pick(bool copies, Done done);
     /// Cancels the pick in progress, if any.
     void cancelPick();
-    /// Copies the colour to the clipboard. The answer is the copied text.
-    void copy(const QString& form, Done done);
+    /// Copies the colour to the clipboard. The answer is the copied text. The token may help to get
+    /// the keyboard where copying needs it.
+    void copy(const QString& form, const ActivationToken& token, Done done);
     /// Whether a panel without a window has nothing left to do.
     [[nodiscard]] bool isNothingLeft() const;
-    /// Carries out the whole order.
-    void carryOut(const PanelOrder& order, Done done);
+    /// Carries out the whole order. `say` gets each text for the caller as soon as it is known: a
+    /// picked colour is not lost if it cannot be copied.
+    void carryOut(const PanelOrder& order, const PanelOrder::Say& say, const Done& done);
 
 signals:
     void colorChanged();
@@ -50,11 +53,12 @@ signals:
     void nothingLeft();
 
 private:
-    void putOnClipboard(const QString& form, const Done& done);
+    void putOnClipboard(const QString& form, const ActivationToken& token, const Done& done);
     void finish(const Done& done, const PanelAnswer& answer);
     void lookWhetherNothingIsLeft();
 
     PanelWindow& _window;
+    SessionClipboard _clipboard;
     /// The number of unanswered picks and copies.
     int _underWay = 0;
 };

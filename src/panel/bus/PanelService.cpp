@@ -154,7 +154,7 @@ QString PanelService::Pick(bool copy)
 QString PanelService::Copy(const QString& form)
 {
     const int call = keepCall();
-    _requests.copy(form, [guard = QPointer(this), call](const PanelAnswer& answer) {
+    _requests.copy(form, {}, [guard = QPointer(this), call](const PanelAnswer& answer) {
         if (guard) guard->answer(call, answer);
     });
     return {};

@@ -63,7 +63,22 @@ RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList
     return {contactAfter(reply), QString()};
 }
 
-RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
+/// The colour is copied by a call of its own, so that it can be printed before.
+RunningPanel::Reply RunningPanel::pick(const PanelOrder& order, const PanelOrder::Say& say) const
+{
+    const Reply picked = call(QStringLiteral("Pick"), {false}, withoutLimit);
+    if (picked.contact != Contact::made || !picked.answer) return picked;
+    say(*picked.answer);
+    if (order.step == PanelOrder::Step::pick) return picked;
+    Reply copied = call(QStringLiteral("Copy"), {QString()});
+    if (copied.contact == Contact::made) return copied;
+    return {Contact::made, PanelError{PanelError::Kind::notPossible,
+                                      {phrase("the panel did not answer, and may not have "
+                                              "copied the colour")}}};
+}
+
+RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order,
+                                           const PanelOrder::Say& say) const
 {
     using Step = PanelOrder::Step;
     if (!_bus.isConnected()) return {};
@@ -77,9 +92,11 @@ RunningPanel::Reply RunningPanel::handOver(const PanelOrder& order) const
             return call(QStringLiteral("Activate"), {platformData(order.token)});
         case Step::pick:
         case Step::pickAndCopy:
-            return call(QStringLiteral("Pick"), {order.step == Step::pickAndCopy}, withoutLimit);
+            return pick(order, say);
         case Step::copy:
-            return call(QStringLiteral("Copy"), {order.form});
+            reply = call(QStringLiteral("Copy"), {order.form});
+            if (reply.contact == Contact::made && reply.answer) say(*reply.answer);
+            return reply;
     }
     return reply;
 }

@@ -32,12 +32,14 @@ public:
 
     explicit RunningPanel(const QDBusConnection& bus) : _bus(bus) {}
 
-    /// Lets the running panel carry out the order. A pick takes as long as the user does.
-    [[nodiscard]] Reply handOver(const PanelOrder& order) const;
+    /// Lets the running panel carry out the order. A pick takes as long as the user does. `say`
+    /// gets each text for the caller as soon as it is known.
+    [[nodiscard]] Reply handOver(const PanelOrder& order, const PanelOrder::Say& say) const;
     /// A success unless the way that contact failed is a problem that the user should know of.
     [[nodiscard]] static Status statusAfter(Contact contact);
 
 private:
+    [[nodiscard]] Reply pick(const PanelOrder& order, const PanelOrder::Say& say) const;
     [[nodiscard]] Reply call(const QString& member, const QVariantList& arguments,
                              int timeout = patience) const;
 

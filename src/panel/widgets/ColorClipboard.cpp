@@ -30,6 +30,15 @@ std::optional<HostColor> colorFromWords(const QByteArray& bytes)
                                              words[2] / largest, words[3] / largest);
 }
 
+/// The reverse of `colorFromWords`.
+QByteArray wordsOfColor(const QColor& color)
+{
+    const QRgba64 channels = color.rgba64();
+    const std::array<quint16, 4> words{channels.red(), channels.green(), channels.blue(),
+                                       channels.alpha()};
+    return {reinterpret_cast<const char*>(words.data()), sizeof words};
+}
+
 }  // namespace
 
 ColorOffer colorFromText(const QString& text)
@@ -57,6 +66,18 @@ std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color, const QStri
     if (shown.isValid()) data->setColorData(shown);
     if (!text.isEmpty()) data->setText(text);
     return data;
+}
+
+std::vector<ColorForm> formsFromColor(const HostColor& color, const QString& text)
+{
+    std::vector<ColorForm> forms;
+    const QColor shown = qColorFrom(color);
+    if (shown.isValid()) forms.push_back({colorType, wordsOfColor(shown)});
+    if (text.isEmpty()) return forms;
+    for (const char* type :
+         {"text/plain;charset=utf-8", "text/plain", "UTF8_STRING", "STRING", "TEXT"})
+        forms.push_back({type, text.toUtf8()});
+    return forms;
 }
 
 bool mayHoldColor(const QMimeData& data)

@@ -3,11 +3,13 @@
 #include "host/HostColor.h"
 #include "result/Message.h"
 
+#include <QByteArray>
 #include <QMimeData>
 #include <QString>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 /// Colours on the clipboard and in drops.
 namespace vantorel {
@@ -15,6 +17,16 @@ namespace vantorel {
 /// Returns the colour as `application/x-color`, and the text as UTF-8 if one is given.
 [[nodiscard]] std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color,
                                                            const QString& text = {});
+
+/// One form of a copied colour, for clipboards that Qt does not serve.
+struct ColorForm {
+    const char* type;
+    QByteArray bytes;
+};
+
+/// Returns the forms that Qt offers for `mimeDataFromColor`. Unlike those of Qt under Wayland,
+/// `application/x-color` has the form that other programs read.
+[[nodiscard]] std::vector<ColorForm> formsFromColor(const HostColor& color, const QString& text);
 
 /// The colour that the clipboard or a drop contains, if any.
 struct ColorOffer {

@@ -60,15 +60,18 @@ QString ColorExchange::draggedText() const
     return texts.empty() ? QString() : qStringFrom(texts.front().text);
 }
 
+QString ColorExchange::copiedText() const
+{
+    if (const HostColorPicker* picker = _pages.currentPicker()) {
+        if (const auto text = picker->copyText()) return qStringFrom(*text);
+    }
+    const auto texts = colorTexts();
+    return texts.empty() ? QString() : qStringFrom(texts.front().text);
+}
+
 void ColorExchange::copy()
 {
-    std::optional<std::u16string> text;
-    if (const HostColorPicker* picker = _pages.currentPicker()) text = picker->copyText();
-    if (text) {
-        copyText(qStringFrom(*text));
-    } else {
-        copyHexCode();
-    }
+    if (const QString text = copiedText(); !text.isEmpty()) copyText(text);
 }
 
 void ColorExchange::copyHexCode()
@@ -80,6 +83,11 @@ void ColorExchange::copyHexCode()
 void ColorExchange::copyText(const QString& text)
 {
     QApplication::clipboard()->setMimeData(mimeDataFromColor(_colors.color(), text).release());
+    noteCopied(text);
+}
+
+void ColorExchange::noteCopied(const QString& text)
+{
     _colors.rememberColor();
     emit copied(text);
 }

@@ -30,6 +30,11 @@ public:
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
     /// The text that a drag out of the panel carries: in the form of the settings, or the hex code.
     [[nodiscard]] QString draggedText() const;
+    /// The text that `copy` copies: like that of a drag, with the opacity.
+    [[nodiscard]] QString copiedText() const;
+
+    /// Remembers the colour, and tells the user that this text of it has been copied.
+    void noteCopied(const QString& text);
 
     /// Lets the user pick from the screen. If `copies` is true, the colour is copied at once.
     /// `done` gets the result; it may be null.

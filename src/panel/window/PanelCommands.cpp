@@ -4,6 +4,7 @@
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
+#include "hosts/qt/WaylandSession.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/window/ShortcutOverlay.h"
 
@@ -70,6 +71,8 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
         add(tr("Previous page"), {Qt::CTRL | Qt::Key_PageUp}, pages, &PanelPages::showPreviousPage);
     _stayOnTop = add(tr("Always on top"), {Qt::CTRL | Qt::Key_T});
     _stayOnTop->setCheckable(true);
+    // Wayland leaves the order of windows to the user.
+    _stayOnTop->setEnabled(!isWaylandSession());
     connect(_stayOnTop, &QAction::toggled, this, &PanelCommands::setStaysOnTop);
     QAction* showShortcuts =
         add(tr("Keyboard shortcuts"), {Qt::Key_F1}, *this, &PanelCommands::showShortcuts);
