@@ -83,6 +83,7 @@ class BusSession:
             os.environ, DBUS_SESSION_BUS_ADDRESS=self.address, HOME=self.folder,
             XDG_DATA_HOME=self.folder, XDG_CONFIG_HOME=self.folder)
         self.started = []
+        self.errors = subprocess.PIPE  # or a file
         self.client = self.connect()
 
     def connect(self):
@@ -92,8 +93,11 @@ class BusSession:
         connection.set_exit_on_close(False)
         return connection
 
-    def offer_portal(self):
-        """Adds a desktop portal whose user never picks; its calls are appended to the list."""
+    def shown_windows(self):
+        return shown_windows()
+
+    def offer_portal(self, picked=None):
+        """Adds a desktop portal whose user picks a colour, or never does; its calls are appended to the list."""
         calls = []
         description = Gio.DBusNodeInfo.new_for_xml("""
             <node><interface name="org.freedesktop.portal.Screenshot">
@@ -102,9 +106,15 @@ class BusSession:
                 <arg type="o" direction="out"/></method>
             </interface></node>""")
 
-        def take_call(_connection, _sender, _path, _interface, method, _values, invocation):
+        def take_call(connection, sender, _path, _interface, method, values, invocation):
             calls.append(method)
-            invocation.return_value(GLib.Variant("(o)", ("/org/freedesktop/portal/desktop/request/1/1",)))
+            token = values.unpack()[1]["handle_token"]
+            request = f"/org/freedesktop/portal/desktop/request/{sender[1:].replace('.', '_')}/{token}"
+            invocation.return_value(GLib.Variant("(o)", (request,)))
+            if picked:
+                answer = {"color": GLib.Variant("(ddd)", picked)}
+                connection.emit_signal(sender, request, "org.freedesktop.portal.Request", "Response",
+                                       GLib.Variant("(ua{sv})", (0, answer)))
 
         portal = self.connect()
         portal.register_object("/org/freedesktop/portal/desktop", description.interfaces[0], take_call,
@@ -131,7 +141,7 @@ class BusSession:
                 os.kill(left, signal.SIGKILL)
         self.bus.kill()
         self.bus.communicate()
-        eventually(lambda: not shown_windows(), "the end of all windows")
+        eventually(lambda: not self.shown_windows(), "the end of all windows")
 
     # The bus.
 
@@ -159,7 +169,7 @@ class BusSession:
     def start(self, *options, **environment):
         process = subprocess.Popen(
             [self.panel, *options], env={**self.environment, **environment}, stdin=subprocess.DEVNULL,
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+            stdout=subprocess.PIPE, stderr=self.errors, text=True)
         self.started.append(process)
         return process
 

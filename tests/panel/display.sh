@@ -1,41 +1,9 @@
 # shellcheck shell=bash
 # Shared code of tests with a real window: a private X server, home and panel. Source it with `panel` set to
 # the program.
-: "${panel:?the panel program}"
-
-need() {
-    for tool in "$@"; do
-        command -v "$tool" > /dev/null || { echo "skipped: $tool is missing"; exit 77; }
-    done
-}
+# shellcheck source=scratch.sh
+. "$(dirname "${BASH_SOURCE[0]}")/scratch.sh"
 need Xvfb xdotool
-
-scratch=$(mktemp -d)
-cleanup() {
-    kill $(jobs -p) 2> /dev/null || true
-    kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
-    wait 2> /dev/null || true
-    rm -rf "$scratch"
-}
-trap cleanup EXIT
-# A failing command ends the test; print which.
-set -E
-trap 'echo "line $LINENO: $BASH_COMMAND failed" >&2' ERR
-export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
-export XDG_RUNTIME_DIR="$scratch"
-suppressions=$(dirname "${BASH_SOURCE[0]}")/../support/leaks-of-others
-export LSAN_OPTIONS="suppressions=$suppressions:print_suppressions=0"
-unset WAYLAND_DISPLAY QT_QPA_PLATFORM
-# The tests must not find a panel of the user who runs them.
-export DBUS_SESSION_BUS_ADDRESS=disabled:
-
-fail() { echo "$1" >&2; cat "$scratch"/*.log >&2; exit 1; }
-
-# Repeats a command until it succeeds; false if it does not within ten seconds.
-eventually() {
-    for _ in $(seq 100); do "$@" && return; sleep 0.1; done
-    return 1
-}
 
 # Without -noreset the server refuses programs for a moment whenever the last one has left.
 Xvfb -noreset -displayfd 3 -screen 0 1000x800x24 3> "$scratch/display" > "$scratch/xvfb.log" 2>&1 &

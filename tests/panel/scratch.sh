@@ -1,0 +1,37 @@
+# shellcheck shell=bash
+# Shared code of tests with a real window: a private home and environment. Source it with `panel` set to the
+# program. `display.sh` adds an X server.
+: "${panel:?the panel program}"
+
+need() {
+    for tool in "$@"; do
+        command -v "$tool" > /dev/null || { echo "skipped: $tool is missing"; exit 77; }
+    done
+}
+
+scratch=$(mktemp -d)
+cleanup() {
+    kill $(jobs -p) 2> /dev/null || true
+    kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
+    wait 2> /dev/null || true
+    rm -rf "$scratch"
+}
+trap cleanup EXIT
+# A failing command ends the test; print which.
+set -E
+trap 'echo "line $LINENO: $BASH_COMMAND failed" >&2' ERR
+export HOME="$scratch" XDG_DATA_HOME="$scratch/data" XDG_CONFIG_HOME="$scratch/config"
+export XDG_RUNTIME_DIR="$scratch"
+suppressions=$(dirname "${BASH_SOURCE[0]}")/../support/leaks-of-others
+export LSAN_OPTIONS="suppressions=$suppressions:print_suppressions=0"
+unset DISPLAY WAYLAND_DISPLAY WAYLAND_SOCKET QT_QPA_PLATFORM
+# The tests must not find a panel of the user who runs them.
+export DBUS_SESSION_BUS_ADDRESS=disabled:
+
+fail() { echo "$1" >&2; cat "$scratch"/*.log >&2; exit 1; }
+
+# Repeats a command until it succeeds; false if it does not within ten seconds.
+eventually() {
+    for _ in $(seq 100); do "$@" && return; sleep 0.1; done
+    return 1
+}
