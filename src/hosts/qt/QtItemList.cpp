@@ -12,9 +12,11 @@
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyleHints>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -206,6 +208,11 @@ void QtItemList::openBeside(const QRect& button)
     const int left =
         std::clamp(button.left(), room.left(), std::max(room.left(), room.right() + 1 - width));
     setGeometry(left, opensBelow ? button.bottom() + 1 : button.top() - height, width, height);
+    // Qt from 6.8 lets a Wayland compositor keep the list off this rectangle of the parent's
+    // window.
+    create();
+    const QPoint corner = parentWidget()->window()->mapFromGlobal(button.topLeft());
+    windowHandle()->setProperty("_q_waylandPopupAnchorRect", QRect(corner, button.size()));
     show();
     _view->setFocus(Qt::PopupFocusReason);
     _view->scrollTo(_view->currentIndex(), QAbstractItemView::PositionAtCenter);
@@ -243,7 +250,10 @@ bool QtItemList::handleMouse(QEvent* event)
     switch (event->type()) {
         case QEvent::MouseMove:
             if (_view->viewport()->rect().contains(mouse->position().toPoint())) {
-                _releaseChooses = true;
+                if (!_firstMove) _firstMove = mouse->position().toPoint();
+                if ((mouse->position().toPoint() - *_firstMove).manhattanLength() >=
+                    QGuiApplication::styleHints()->startDragDistance())
+                    _releaseChooses = true;
                 if (row.isValid() && row.flags() != Qt::NoItemFlags) _view->setCurrentIndex(row);
             }
             return true;

@@ -5,6 +5,8 @@
 #include <QFrame>
 #include <QListView>
 
+#include <optional>
+
 namespace vantorel {
 
 /// The items of a pop-up as a scrolling list that opens next to it. Tens of thousands of items open
@@ -44,8 +46,11 @@ private:
 
     Model* _model;
     QListView* _view;
-    /// Whether a release selects. The one that follows the press which opened the list does not.
+    /// Whether a release selects. The one that follows the press which opened the list does so only
+    /// after a drag: a desktop may have moved the list below the mouse.
     bool _releaseChooses = false;
+    /// Where the mouse has first moved over the list.
+    std::optional<QPoint> _firstMove;
 };
 
 }  // namespace vantorel

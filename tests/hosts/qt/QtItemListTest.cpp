@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QListView>
 #include <QTest>
+#include <QWindow>
 
 namespace vantorel {
 namespace {
@@ -91,9 +92,23 @@ TEST_F(QtItemListTest, TheReleaseAfterTheOpeningPressSelectsNoItem)
     ASSERT_NE(view, nullptr);
     QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, centerOf(*view, 4));
     EXPECT_EQ(_actions, 0);
+    const QPoint nearby = centerOf(*view, 4) + QPoint(1, 0);
+    QTest::mouseMove(view->viewport(), centerOf(*view, 4));
+    QTest::mouseMove(view->viewport(), nearby);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, nearby);
+    EXPECT_EQ(_actions, 0) << "a click whose hand is not quite still";
     QTest::mouseMove(view->viewport(), centerOf(*view, 3));
     QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, centerOf(*view, 3));
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"name 1");
+}
+
+TEST_F(QtItemListTest, TheListNamesItsButtonToTheCompositor)
+{
+    fill(5);
+    ASSERT_NE(open(), nullptr);
+    const QWidget* popUp = QApplication::activePopupWidget();
+    EXPECT_EQ(popUp->windowHandle()->property("_q_waylandPopupAnchorRect").toRect().size(),
+              _popUp.widget()->size());
 }
 
 TEST_F(QtItemListTest, KeysMoveAndSelect)
