@@ -115,11 +115,14 @@ bool QTXHexColorsView::keyDown(const HostKeyEvent& event)
 {
     if (_view == nullptr) return false;
     if (showsSliders()) {
+        // The other keys have picked the cell already, so Return ends the dialogue, if there is
+        // one.
+        if (event.key == HostKey::pick) return false;
         const SliderCell before = keySliderCell();
         const SliderCell cell = sliderCellAfterKey(before, event.key);
         _keyColumn = 2 * cell.component + 1 - cell.digit;
         const bool changesColumn = cell.component != before.component || cell.digit != before.digit;
-        if (!changesColumn && (cell.value != before.value || event.key == HostKey::pick)) {
+        if (!changesColumn && cell.value != before.value) {
             clearMessage();
             pickSliderCell(cell, event.modifierFlags);
         }

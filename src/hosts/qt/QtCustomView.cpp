@@ -65,7 +65,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override
     {
         const auto key = hostKeyEvent(*event);
-        if (!key || !_owner->_content.takesKeys() || !_owner->_content.keyDown(*key)) {
+        // After a click no cell is marked. Return then ends the dialogue that the page is in.
+        const bool isTaken = key && (key->key != HostKey::pick || _showsFocus) &&
+                             _owner->_content.takesKeys() && _owner->_content.keyDown(*key);
+        if (!isTaken) {
             QWidget::keyPressEvent(event);
             return;
         }

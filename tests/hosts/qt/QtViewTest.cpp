@@ -71,8 +71,16 @@ public:
     void mouseExited(const HostEvent&) override { _calls += "exited "; }
     void mouseMoved(const HostEvent&) override { _calls += "moved "; }
 
+    [[nodiscard]] bool takesKeys() const override { return true; }
+    bool keyDown(const HostKeyEvent&) override
+    {
+        ++_keys;
+        return true;
+    }
+
     HostEvent _down;
     std::function<void()> _onDown;
+    int _keys = 0;
     int _drags = 0;
     std::string _calls;
 };
@@ -122,6 +130,25 @@ TEST_F(QtCustomViewTest, MouseEventsAreConvertedToHostPointsAndModifiers)
     release({11, 30});
     drag({12, 30});
     EXPECT_EQ(_content._drags, 1) << "a drag counts between press and release";
+}
+
+TEST_F(QtCustomViewTest, ReturnPicksOnlyWhileACellIsMarked)
+{
+    const auto takes = [this](int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        const int before = _content._keys;
+        QApplication::sendEvent(widget(), &event);
+        EXPECT_EQ(event.isAccepted(), _content._keys > before);
+        return event.isAccepted();
+    };
+    QFocusEvent click(QEvent::FocusIn, Qt::MouseFocusReason);
+    QApplication::sendEvent(widget(), &click);
+    EXPECT_FALSE(takes(Qt::Key_Return)) << "it ends the dialogue that the view is in";
+    EXPECT_TRUE(takes(Qt::Key_Left));
+    EXPECT_TRUE(takes(Qt::Key_Return));
+    press({10, 30});
+    release({10, 30});
+    EXPECT_FALSE(takes(Qt::Key_Return));
 }
 
 TEST_F(QtCustomViewTest, ATrackingLoopReceivesDragsInOrderWhileTheProgramRuns)
