@@ -1,4 +1,5 @@
 // A page of tints and shades: the panel's colour in steps to white and to black. A click takes one.
+#include "host/HostControls.h"
 #include "host/HostPluginEntry.h"
 
 #include <algorithm>

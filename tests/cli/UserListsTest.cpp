@@ -47,10 +47,10 @@ TEST(UserListsTest, EachListHasItsFile)
     std::vector<std::string> rows;
     for (const auto& [name, path] : UserLists(files).all())
         rows.push_back(std::string(name.begin(), name.end()) + ": " + path.value_or("-"));
-    EXPECT_EQ(rows,
-              (std::vector<std::string>{"Browser Safe: -", "CSS Keyword: " + ownFolder + "/x.gpl",
-                                        "List 0: " + ownFolder + "/file 0.gpl",
-                                        "List 1: " + ownFolder + "/file 1.gpl", "SVG Keyword: -"}));
+    EXPECT_EQ(rows, (std::vector<std::string>{
+                        "Browser Safe: -", "CSS Color 4: -", "CSS Keyword: " + ownFolder + "/x.gpl",
+                        "List 0: " + ownFolder + "/file 0.gpl",
+                        "List 1: " + ownFolder + "/file 1.gpl", "SVG Keyword: -"}));
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ class ProgramsTest(TreeTest):
     def test_an_unknown_page_is_rejected(self):
         run = self.run_tool(PANEL, "--screenshot", "picture.png", "--page", "tints")
         self.assertEqual(run.returncode, 2)
-        self.assertIn('there is no page "tints"; there are: hex, dialog, palettes', run.stderr)
+        self.assertIn('there is no page "tints": use one of: hex, dialog, palettes', run.stderr)
 
     def test_the_help_button_finds_the_manual_and_its_pictures_in_a_tree_that_was_moved(self):
         for name in ("supportManual.htm", "pictures"):

@@ -20,19 +20,30 @@ protected:
         ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
     }
     [[nodiscard]] QWidget* progress() const { return child<QWidget>("paletteProgress"); }
+    /// Folders are read in no certain order, so any of the lists may be in the first step.
+    [[nodiscard]] QString firstList() const
+    {
+        return lists()->itemText(lists()->findText("List 1", Qt::MatchStartsWith));
+    }
+    [[nodiscard]] int listCount() const
+    {
+        return static_cast<int>(3 * PaletteRefresh::filesOfStep);
+    }
 };
 
 TEST_F(ManyPalettesTest, ThePageFillsWhileItIsUsed)
 {
     ASSERT_TRUE(progress()->isVisible());
     EXPECT_TRUE(child<QLabel>("paletteProgressText")->text().startsWith("256 of 7"));
-    show("List 1100");
+    const QString list = firstList();
+    show(list);
     click(0);
     EXPECT_EQ(chosenColor(), QColor(1, 2, 3));
-    EXPECT_LT(lists()->findText("Reds"), 0);
+    EXPECT_LT(lists()->count(), listCount());
     ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
     EXPECT_GE(lists()->findText("Reds"), 0);
-    EXPECT_EQ(shownList(), "List 1100") << "the list on show stays";
+    EXPECT_GT(lists()->count(), listCount());
+    EXPECT_EQ(shownList(), list.toStdString()) << "the list on show stays";
 }
 
 TEST_F(ManyPalettesTest, TheUserCanStop)
@@ -42,7 +53,7 @@ TEST_F(ManyPalettesTest, TheUserCanStop)
     EXPECT_FALSE(progress()->isVisible());
     QApplication::processEvents();
     EXPECT_EQ(lists()->count(), before);
-    EXPECT_LT(lists()->findText("Reds"), 0);
+    EXPECT_LT(before, listCount());
 }
 
 TEST_F(ManyPalettesTest, APageThatIsLeftStops)

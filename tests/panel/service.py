@@ -219,7 +219,7 @@ class SecondStartTest(ServiceTest):
         rows = [(["--color", "rgb(0, 0, 255)"], (0, "", ""), "#0000ff"),
                 (["--color", "#ff000080"], (0, "", ""), "#ff000080"),
                 ([], (0, "", ""), "#ff000080"),
-                (["--copy"], (0, "#FF0000", ""), "#ff000080"),
+                (["--copy"], (0, "#FF000080", ""), "#ff000080"),
                 (["--color", "lime", "--copy"], (0, "#00FF00", ""), "#00ff00"),
                 (["--copy-as", "HSL (CSS)"], (0, "hsl(120 100% 50%)", ""), "#00ff00")]
         for options, end, color in rows:
