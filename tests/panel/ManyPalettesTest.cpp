@@ -6,21 +6,18 @@ namespace {
 /// The page with more lists than it looks at in one step.
 class ManyPalettesTest : public PalettesPageTest {
 protected:
-    ManyPalettesTest()
+    void SetUp() override
     {
+        PanelWindowFixture::SetUp();
+        // Only now, because the page that the window opens with may look for a list in all files.
         for (std::size_t i = 0; i < 3 * PaletteRefresh::filesOfStep; ++i) {
             const QByteArray number = QByteArray::number(static_cast<int>(1000 + i));
             put("data/Vantorel/Palettes/" + number + ".gpl",
                 "GIMP Palette\nName: List " + number + "\n1 2 3\tfirst\n");
         }
-    }
-    void SetUp() override
-    {
-        PanelWindowFixture::SetUp();
         ASSERT_TRUE(_window->pages().showPageWithKey("palettes"));
     }
     [[nodiscard]] QWidget* progress() const { return child<QWidget>("paletteProgress"); }
-    /// Folders are read in no certain order, so any of the lists may be in the first step.
     [[nodiscard]] QString firstList() const
     {
         return lists()->itemText(lists()->findText("List 1", Qt::MatchStartsWith));
