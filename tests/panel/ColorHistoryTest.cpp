@@ -37,6 +37,17 @@ TEST_F(ColorHistoryTest, ADragIsOneStep)
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)}) << "none of what it passed over";
 }
 
+TEST_F(ColorHistoryTest, AFirstColourThatNobodyHasChosenIsNotRecent)
+{
+    ColorHistory history(grey(1), ColorHistory::First::given);
+    history.record(grey(0.1), 10);
+    EXPECT_TRUE(history.recent().empty());
+    history.record(grey(0.2), 20);
+    EXPECT_EQ(history.recent(), std::vector<HostColor>{grey(0.1)});
+    history.undo();
+    EXPECT_EQ(history.undo(), grey(1)) << "it can be restored all the same";
+}
+
 TEST_F(ColorHistoryTest, AChangeAfterAnUndoClearsTheRedoSteps)
 {
     _history.record(grey(0.1), 10);

@@ -16,9 +16,12 @@ void ColorHistory::record(const HostColor& color, double now)
         _steps.back() = color;
         return;
     }
-    remember(current());
+    if (_index > 0 || _firstIsChosen) remember(current());
     _steps.push_back(color);
-    if (_steps.size() > mostSteps) _steps.erase(_steps.begin());
+    if (_steps.size() > mostSteps) {
+        _steps.erase(_steps.begin());
+        _firstIsChosen = true;
+    }
     _index = _steps.size() - 1;
 }
 

@@ -17,7 +17,13 @@ public:
     static constexpr std::size_t mostSteps = 200;
     static constexpr std::size_t mostRecent = 24;
 
-    explicit ColorHistory(const HostColor& first) : _steps{first} {}
+    /// Whether somebody has chosen the first colour. The white of a new panel does not become a
+    /// recent colour.
+    enum class First { chosen, given };
+    explicit ColorHistory(const HostColor& first, First origin = First::chosen)
+        : _steps{first}, _firstIsChosen(origin == First::chosen)
+    {
+    }
 
     /// Records that the colour has become `color`. `now` is in seconds of any monotonic clock.
     void record(const HostColor& color, double now);
@@ -49,6 +55,7 @@ private:
 
     std::vector<HostColor> _steps;
     std::size_t _index = 0;
+    bool _firstIsChosen;
     std::vector<HostColor> _recent;
     double _lastChange = 0;
     /// Whether the next change begins a step, however soon it comes.

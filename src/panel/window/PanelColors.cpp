@@ -47,7 +47,10 @@ void PanelColors::swap()
 void PanelColors::startWith(const HostColor& color, const std::vector<HostColor>& recent)
 {
     _color = color;
-    _history = ColorHistory(color);
+    // A panel whose colour nobody has chosen remembers white.
+    const bool isGiven = color == HostColor::whiteColor();
+    _history =
+        ColorHistory(color, isGiven ? ColorHistory::First::given : ColorHistory::First::chosen);
     _history.setRecent(recent);
     emit historyChanged();
     emit colorSet(color);

@@ -51,7 +51,7 @@ signals:
 private:
     HostColor _color = HostColor::whiteColor();
     HostColor _background = HostColor::whiteColor();
-    ColorHistory _history{_color};
+    ColorHistory _history{_color, ColorHistory::First::given};
     QElapsedTimer _clock;
 };
 
