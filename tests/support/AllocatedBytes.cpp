@@ -26,6 +26,14 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+// `std::stable_sort` uses it with some compilers. All forms must take memory from the same place,
+// since all is returned there.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    bytes += size;
+    return std::malloc(size > 0 ? size : 1);
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
