@@ -1,5 +1,6 @@
 #include "colortext/ColorInCode.h"
 
+#include "text/ASCII.h"
 #include "text/HexDigits.h"
 
 #include <algorithm>
@@ -11,21 +12,6 @@ namespace vantorel {
 namespace {
 
 constexpr double largestByte = 255;
-
-bool isDigit(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool isLetter(char16_t c)
-{
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_';
-}
-
-int hexValue(char16_t c)
-{
-    return c < 128 ? hexDigitValue(static_cast<char>(c)) : 16;
-}
 
 struct Number {
     double value = 0;
@@ -46,8 +32,8 @@ public:
             const char16_t c = _rest.front();
             if (isDigit(c)) {
                 if (!add(number())) return std::nullopt;
-            } else if (isLetter(c)) {
-                skipWhile([](char16_t next) { return isLetter(next) || isDigit(next); });
+            } else if (isLetter(c) || c == u'_') {
+                skipWhile([](char16_t next) { return isLetterOrDigit(next) || next == u'_'; });
             } else {
                 constexpr std::u16string_view known = u" \t,;:=.@()[]{}";
                 if (c == u'/') {
@@ -76,19 +62,19 @@ private:
         Number number;
         if (_rest.starts_with(u"0x") || _rest.starts_with(u"0X")) {
             _rest.remove_prefix(2);
-            const auto digits = skipWhile([](char16_t c) { return hexValue(c) < 16; });
+            const auto digits = skipWhile(isHexDigit<char16_t>);
             number.hexDigits = digits.size();
             for (const char16_t digit : digits)
-                number.value = number.value * 16 + hexValue(digit);
+                number.value = number.value * 16 + hexDigitValue(digit);
             return number;
         }
-        for (const char16_t digit : skipWhile(isDigit))
+        for (const char16_t digit : skipWhile(isDigit<char16_t>))
             number.value = number.value * 10 + (digit - u'0');
         if (_rest.starts_with(u'.')) {
             _rest.remove_prefix(1);
             number.isFraction = true;
             double unit = 1;
-            for (const char16_t digit : skipWhile(isDigit))
+            for (const char16_t digit : skipWhile(isDigit<char16_t>))
                 number.value += (digit - u'0') * (unit /= 10);
         }
         if (_rest.starts_with(u'f')) _rest.remove_prefix(1);
@@ -158,7 +144,8 @@ std::u16string_view declaredValue(std::u16string_view text)
     }
     const auto name = text.substr(start, colon - start);
     const bool isName = std::all_of(name.begin(), name.end(), [](char16_t c) {
-        return isLetter(c) || isDigit(c) || c == u'-' || c == u'$' || c == u'@' || c == u' ';
+        return isLetterOrDigit(c) ||
+               std::u16string_view(u"_-$@ ").find(c) != std::u16string_view::npos;
     });
     return isName ? text.substr(colon + 1) : text;
 }

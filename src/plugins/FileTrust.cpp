@@ -12,6 +12,7 @@
 #include <climits>
 #include <cstring>
 #include <filesystem>
+#include <variant>
 #include <vector>
 
 namespace vantorel {
