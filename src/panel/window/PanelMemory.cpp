@@ -2,6 +2,7 @@
 
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "panel/window/ColorHistory.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
@@ -147,9 +148,10 @@ bool writeMemory(PosixFiles& files, const std::string& folder, const PanelMemory
                                  utf8FromUtf16(propertyListText(propertyListFrom(memory))));
 }
 
-void complain(const Message& message)
+void printFailure(const Message& message)
 {
-    static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s\n", english(message).c_str()));
+    static_cast<void>(
+        std::fprintf(stderr, "vantorel-panel: %s\n", qPrintable(translated(message))));
 }
 
 /// Calls `write` while no other panel can write. Returns its result, or false if the lock cannot be
@@ -161,7 +163,7 @@ bool underLock(Write&& write)
     PosixFiles files(folder);
     files.setFailureHandler([](auto access, const Message& message) {
         // It was reported when it was read at the start.
-        if (access == PosixFiles::Access::writing) complain(message);
+        if (access == PosixFiles::Access::writing) printFailure(message);
     });
     // Makes it, for the user alone.
     static_cast<void>(files.applicationSupportDirectory());
@@ -228,7 +230,7 @@ PanelMemory readPanelMemory()
 {
     const std::string folder = memoryFolder();
     PosixFiles files(folder);
-    files.setFailureHandler([](auto, const Message& message) { complain(message); });
+    files.setFailureHandler([](auto, const Message& message) { printFailure(message); });
     return readMemory(files, folder);
 }
 
