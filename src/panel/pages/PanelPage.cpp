@@ -7,8 +7,11 @@ namespace vantorel {
 QString shownKeys(const QList<QKeySequence>& keys)
 {
     QStringList texts;
-    for (const QKeySequence& key : keys)
-        texts.append(key.toString(QKeySequence::NativeText));
+    for (const QKeySequence& key : keys) {
+        // Keys of old workstations, which Qt adds to Copy and Undo; today's keyboards have none.
+        const bool isSeldom = key[0].key() >= Qt::Key_F13 && key[0].key() <= Qt::Key_F35;
+        if (!isSeldom) texts.append(key.toString(QKeySequence::NativeText));
+    }
     return texts.join(QStringLiteral(", "));
 }
 
