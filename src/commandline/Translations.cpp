@@ -45,8 +45,8 @@ std::string translation(const char* text)
     return found != translations.end() ? found->second : text;
 }
 
-/// Takes the text up to `end` off the front of `rest`, and `end`. Takes everything if there is no
-/// `end`.
+/// Removes everything up to and including `end` from the front of `rest`, or everything if `end` is
+/// missing. Returns what was removed, without `end`.
 std::string_view taken(std::string_view& rest, std::string_view end)
 {
     const std::size_t place = rest.find(end);

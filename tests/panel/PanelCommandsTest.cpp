@@ -132,6 +132,11 @@ TEST_F(PanelCommandsTest, TheShortcutsAreShownAndHidden)
     EXPECT_FALSE(overlay->isVisible());
 }
 
+TEST_F(PanelCommandsTest, KeysThatTodaysKeyboardsLackAreNotListed)
+{
+    EXPECT_EQ(shownKeys({Qt::CTRL | Qt::Key_C, Qt::Key_F16, Qt::Key_F12}), "Ctrl+C, F12");
+}
+
 TEST_F(PanelCommandsTest, TheWindowIsCalledVantorel)
 {
     EXPECT_EQ(_window->windowTitle(), "Vantorel");

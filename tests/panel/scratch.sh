@@ -10,10 +10,25 @@ need() {
 }
 
 scratch=$(mktemp -d)
+# Prints the processes whose home is the scratch folder. They include those that a program left running, such as
+# the owner of the clipboard after `--copy`.
+processes() {
+    local found
+    found=$(env -i PATH="$PATH" grep -lsF "HOME=$scratch" /proc/[0-9]*/environ)
+    echo "${found//[!0-9$'\n']/}"
+}
 cleanup() {
+    trap - ERR
     kill $(jobs -p) 2> /dev/null || true
     kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
     wait 2> /dev/null || true
+    # Whoever still runs may write its files while they are removed.
+    for _ in $(seq 100); do
+        left=$(processes)
+        [ -n "$left" ] || break
+        kill $left 2> /dev/null || true
+        sleep 0.1
+    done
     rm -rf "$scratch"
 }
 trap cleanup EXIT

@@ -7,8 +7,8 @@
 
 namespace vantorel {
 
-/// Reads the list that a session shows in steps, between which the page can be used. For most lists
-/// the first step is the last.
+/// Reads the list that a session shows in steps, between which the page can be used. Most lists
+/// need one step.
 class PaletteLoading final : public QObject {
     Q_OBJECT
 

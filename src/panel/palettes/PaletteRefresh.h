@@ -7,8 +7,8 @@
 
 namespace vantorel {
 
-/// Refreshes the lists of a session in steps, between which the page can be used. For the lists
-/// that most users have, the first step is the last.
+/// Refreshes the lists of a session in steps, between which the page can be used. Most users'
+/// lists need one step.
 class PaletteRefresh final : public QObject {
     Q_OBJECT
 
