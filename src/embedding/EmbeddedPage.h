@@ -1,0 +1,171 @@
+#pragma once
+
+#include "host/HostColorPicker.h"
+#include "plugins/PluginLoader.h"
+
+#include <memory>
+
+namespace vantorel {
+
+/// What an embedded page asks of the dialog around it. Exceptions end in the page (see
+/// `EmbeddedPage`).
+class EmbeddingDialog {
+public:
+    virtual ~EmbeddingDialog() = default;
+
+    /// The user has chosen a colour on the page. `isFinal` is false for the steps of a mouse drag;
+    /// the colour at its end follows with true, even if it is that of the last step. Dialogs that
+    /// keep an undo history or a list of recent colours add only final colours to them.
+    ///
+    /// The dialog may pass on another colour than this one by `EmbeddedPage::dialogColorDidChange`
+    /// before it returns, and may be destroyed meanwhile.
+    virtual void colorChosen(const HostColor& color, bool isFinal) = 0;
+    /// The page has failed, and its view has been taken out of the dialog. Called from the event
+    /// loop.
+    virtual void pageDidFail() = 0;
+};
+
+/// Properties of a dialog that never change.
+struct EmbeddingTraits {
+    /// The largest change of a channel when the dialog stores a colour: 0.5 / 255 if it stores
+    /// bytes.
+    double rounding = 0;
+};
+
+/// A page in a dialog that another program made: passes colours between the two, and keeps the
+/// program safe from failures of the page. `EmbeddedPanel` is the panel that the page sees.
+///
+/// Every function for the dialog's side catches what the page throws. The page is then taken out
+/// of the dialog, which is told later, and is never called again. A toolkit must run its event
+/// handlers by `guarded` as well.
+///
+/// Colours go to the dialog after the event that has caused them, so that the end of a drag can be
+/// told from its steps, and a colour that the page sets only for a moment is never seen by the
+/// dialog.
+class EmbeddedPage {
+public:
+    /// `dialog` and `desktop` must outlive the page; but see `forgetDialog`.
+    EmbeddedPage(EmbeddingDialog& dialog, HostDesktop& desktop, EmbeddingTraits traits);
+    EmbeddedPage(const EmbeddedPage&) = delete;
+    EmbeddedPage& operator=(const EmbeddedPage&) = delete;
+    ~EmbeddedPage();
+
+    // The dialog's side.
+
+    /// Creates the page of a plug-in for its panel, and fills `holder` with it. Call it once. The
+    /// plug-in and the holder must outlive the page. Returns false, with an empty holder, if there
+    /// is no page to show; `pageDidFail` is not called then.
+    bool show(const LoadedPlugin& plugin, HostColorPanel& panel, HostView& holder,
+              const HostColor& color);
+    /// The holder has a new size.
+    void resize();
+    /// The size in points below which the page loses controls.
+    [[nodiscard]] HostSize minimumSize();
+
+    /// Call this whenever the dialog has another colour, for whatever reason. Has no effect if it
+    /// is the page's colour after the dialog has rounded it, so a page keeps the colour that was
+    /// chosen exactly.
+    void dialogColorDidChange(const HostColor& color);
+    /// If false, as at first, the page's colours get the opacity of the dialog's colour.
+    void setTakesOpacity(bool flag) { _takesOpacity = flag; }
+
+    /// Passes on a colour that the dialog has not been told yet. Call this before the dialog uses
+    /// its colour: when the user presses OK.
+    void sendPendingColor();
+    /// The dialog is about to be destroyed, and must not be called any more.
+    void forgetDialog();
+    /// Whether code of the page is being run, as during a mouse drag. The page and its panel must
+    /// then not be destroyed yet.
+    [[nodiscard]] bool isBusy() const { return _calls > 0; }
+
+    /// Runs `code`, which may call the page. Returns false if it throws; the page has then failed.
+    /// Has no effect, and returns false, if the page has failed before.
+    template <class Code>
+    bool guarded(const Code& code) noexcept
+    {
+        if (_hasFailed) return false;
+        const Call call(*this);
+        try {
+            code();
+            return true;
+        } catch (...) {
+            fail();
+            return false;
+        }
+    }
+
+    [[nodiscard]] HostColorPicker* picker() const { return _picker.get(); }
+    /// The view of the page; null if none is shown.
+    [[nodiscard]] HostView* view() const { return _view; }
+
+    // The panel's side.
+
+    [[nodiscard]] const HostColor& color() const { return _color; }
+    void setColor(const std::optional<HostColor>& color);
+    /// The size of the holder.
+    [[nodiscard]] HostSize room() const;
+    /// Runs `next`, with which the page waits for an event of a mouse drag.
+    template <class Next>
+    HostEvent waitForEvent(const Next& next)
+    {
+        const Call call(*this);
+        willWait();
+        const HostEvent event = next();
+        didGet(event);
+        return event;
+    }
+    /// Runs `drag`, which drags a colour or text out of the page.
+    template <class Drag>
+    void dragOut(const Drag& drag)
+    {
+        const Call call(*this);
+        willDragOut();
+        drag();
+    }
+
+private:
+    class Call {
+    public:
+        explicit Call(EmbeddedPage& page) : _page(page) { ++_page._calls; }
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+        ~Call() { --_page._calls; }
+
+    private:
+        EmbeddedPage& _page;
+    };
+
+    void reportSize();
+    void willWait();
+    void didGet(const HostEvent& event);
+    void willDragOut();
+    void sendLater();
+    void send(bool isFinal);
+    void fail() noexcept;
+
+    EmbeddingDialog* _dialog;
+    HostDesktop& _desktop;
+    EmbeddingTraits _traits;
+    LoadedPlugin::Picker _picker;
+    HostView* _holder = nullptr;
+    HostView* _view = nullptr;
+
+    HostColor _color = HostColor::whiteColor();
+    /// The colour that the dialog has, before it rounded it.
+    HostColor _dialogsColor = HostColor::whiteColor();
+    /// Whether `_dialogsColor` was more than a step of a drag.
+    bool _isFinal = true;
+    /// Whether the dialog is to be told of `_color`.
+    bool _isPending = false;
+    bool _isSending = false;
+    bool _isTracking = false;
+    bool _takesOpacity = false;
+    bool _hasFailed = false;
+    int _calls = 0;
+    std::unique_ptr<HostTimer> _sendTimer;
+    std::unique_ptr<HostTimer> _failureTimer;
+    /// Expires when the page is destroyed.
+    std::shared_ptr<const bool> _life = std::make_shared<bool>(true);
+};
+
+}  // namespace vantorel
