@@ -22,6 +22,10 @@ public:
     Session& operator=(const Session&) = delete;
 
     [[nodiscard]] Output& output() { return _output; }
+    /// From now on, files that cannot be read are reported, too. The other commands report a file
+    /// when they need it.
+    void reportUnreadableFiles() { _reportsUnreadable = true; }
+    [[nodiscard]] bool hasReportedUnreadable() const { return _hasReportedUnreadable; }
     /// The user's files, with write access.
     [[nodiscard]] PosixFiles& files() { return _files; }
     /// Returns the user's settings, or the default ones if there are none.
@@ -37,6 +41,8 @@ private:
     UserLists _lists{_readOnlyFiles};
     std::optional<QTXHexSettings> _settings;
     Output _output;
+    bool _reportsUnreadable = false;
+    bool _hasReportedUnreadable = false;
 };
 
 // Each carries out a command and returns the exit status, or throws a `Failure`.

@@ -150,6 +150,7 @@ void importList(Session& session, const CommandLine& commandLine, const std::str
 
 int printLists(Session& session, const CommandLine& commandLine)
 {
+    session.reportUnreadableFiles();
     for (const auto& [name, path] : session.lists().all()) {
         if (commandLine.names) {
             session.output().write(utf8Line(name) + '\n');
@@ -179,7 +180,7 @@ int printLists(Session& session, const CommandLine& commandLine)
         }
         session.output().write(line + '\n');
     }
-    return 0;
+    return session.hasReportedUnreadable() ? failureStatus : 0;
 }
 
 int printList(Session& session, const CommandLine& commandLine)

@@ -9,8 +9,10 @@ namespace vantorel {
 Session::Session()
 {
     _files.setFailureHandler([this](auto access, const Message& message) {
-        // Read errors are ignored here: the command that needs the file reports it.
-        if (access == PosixFiles::Access::reading) return;
+        if (access == PosixFiles::Access::reading) {
+            if (!_reportsUnreadable) return;
+            _hasReportedUnreadable = true;
+        }
         _output.flush();
         reportError(message);
     });

@@ -158,7 +158,18 @@ class Hostile(ProgramTest):
         os.symlink("d.gpl", os.path.join(folder, "d.gpl"))
         os.mkdir(os.path.join(folder, "e.gpl"))
         self.assertEqual(self.output_of("list", "B"), "#010203\tone\n")
-        self.assertEqual(len(self.output_of("lists").splitlines()), 5)
+        run = self.run_program("lists")
+        self.assertEqual((run.returncode, len(run.stdout.splitlines())), (2, 5))
+        self.assertEqual([name in run.stderr.decode() for name in ("a.gpl", "b.gpl", "c.gpl", "d.gpl", "e.gpl")],
+                         [False, False, True, False, False])
+
+    def test_lists_reports_files_that_are_too_large(self):
+        file = self.write(self.path(".local/share/Vantorel/Palettes/Large.gpl"), "GIMP Palette\nName: Large\n")
+        os.truncate(file, (64 << 20) + 1)
+        for options in ([], ["--json"], ["--names"]):
+            run = self.run_program("lists", *options)
+            self.assertEqual((run.returncode, len(run.stdout.splitlines())), (2, 4))
+            self.assertIn(f'"{file}" cannot be read: File too large', run.stderr.decode())
 
     def test_snippets_with_hostile_formats(self):
         self.write_settings('{CodeSnippets = ({NameSnippet = "x\\033[2J"; FormatSnippet = "%n%s%999999999d%*d\\033]0;";'
