@@ -25,11 +25,14 @@ public:
     /// panel that always has a colour ignores `std::nullopt`.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
 
-    /// The panel's frame on the screen, y up.
-    [[nodiscard]] virtual HostRect frame() const = 0;
-    /// Moves and resizes the panel. Where the desktop allows it, the pages are resized before this
-    /// returns.
-    virtual void setFrame(HostRect frame, bool display) = 0;
+    /// The size of the panel with everything in it, of which a page is a part. A page lays itself
+    /// out by the size of its own view; this only says how far away a place outside the panel is.
+    [[nodiscard]] virtual HostSize size() const = 0;
+    /// Asks for a page that is wider and higher by `growth`, whose sides are not negative. The
+    /// panel's top left corner keeps its position. Returns how much the page has grown: all of it,
+    /// less, or (0, 0) if the panel cannot grow. Where the desktop allows it, the page is resized
+    /// before this returns.
+    virtual HostSize growPage(HostSize growth) = 0;
 
     [[nodiscard]] virtual bool acceptsMouseMovedEvents() const = 0;
     virtual void setAcceptsMouseMovedEvents(bool flag) = 0;

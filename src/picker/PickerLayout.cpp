@@ -45,7 +45,7 @@ void layOutColorName(MainFaceFrames& frames, const MainFaceInput& input)
     constexpr double widest = 300;
     constexpr double narrowest = 50;
     HostRect& name = frames.colorName;
-    const double room = input.panel.width - margin - name.x;
+    const double room = input.pageWidth - margin - name.x;
     frames.colorNameParked = !(room > narrowest);
     if (room > widest) {
         name.width = widest;
@@ -54,20 +54,20 @@ void layOutColorName(MainFaceFrames& frames, const MainFaceInput& input)
         name.width = room;
         name.y = input.colorsListPopUp.y;
     } else {
-        name.y = input.panel.height + 500;
+        name.y = input.panelHeight + 500;
     }
 }
 
 void layOutRgbDecimal(MainFaceFrames& frames, const MainFaceInput& input)
 {
     HostRect& rgb = frames.rgbDecimal;
-    frames.rgbDecimalParked = input.panel.width < 200;
+    frames.rgbDecimalParked = input.pageWidth < 200;
     if (frames.rgbDecimalParked) {
         rgb.x = -200;
         return;
     }
     rgb.x = input.fullHex.maxX() + 16;
-    rgb.width = input.panel.width - rgb.x - 20;
+    rgb.width = input.pageWidth - rgb.x - 20;
 }
 
 }  // namespace
@@ -136,13 +136,9 @@ SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current, HostRec
     return f;
 }
 
-HostRect panelFrameGrownFor(HostRect panel, HostSize page, HostSize wanted)
+HostSize growthTo(HostSize wanted, HostSize page)
 {
-    panel.width += std::max(0.0, wanted.width - page.width);
-    const double higher = std::max(0.0, wanted.height - page.height);
-    panel.height += higher;
-    panel.y -= higher;
-    return panel;
+    return {std::max(0.0, wanted.width - page.width), std::max(0.0, wanted.height - page.height)};
 }
 
 }  // namespace vantorel

@@ -21,7 +21,8 @@ struct MainFaceInput {
     HostRect reference;  ///< the colours view, or the settings view if it is shown
     HostRect colorsListPopUp;
     HostRect fullHex;
-    HostSize panel;  ///< the size of the whole panel
+    double pageWidth = 0;
+    double panelHeight = 0;  ///< the height of the whole panel
     bool showsCodeSnippet = false;
 };
 
@@ -45,8 +46,8 @@ struct SettingsFaceFrames {
 [[nodiscard]] SettingsFaceFrames settingsFaceLayout(const SettingsFaceFrames& current,
                                                     HostRect bounds);
 
-/// Returns `panel` enlarged by the difference between `wanted` and `page`, with its top edge in
-/// place.
-[[nodiscard]] HostRect panelFrameGrownFor(HostRect panel, HostSize page, HostSize wanted);
+/// Returns how much wider and higher a page must become to be as large as `wanted`. No side is
+/// negative.
+[[nodiscard]] HostSize growthTo(HostSize wanted, HostSize page);
 
 }  // namespace vantorel

@@ -167,6 +167,7 @@ private:
     void moreIndicatorAction(HostControl* sender);
     void helpHexColorAction(HostControl* sender);
     void toggleSettingsView();
+    void makeRoomForSettings();
     void fixSettingsView();
     void checkTrackingStatus();
 
@@ -201,6 +202,8 @@ private:
     /// False if a settings file exists that could not be loaded. It is then copied before it is
     /// overwritten.
     bool _isSettingsFileLoaded = true;
+    /// The settings face closes in a page that becomes smaller than this.
+    HostSize _leastSettingsPage;
     std::u16string _noMatchString;
     ColorNamesPopUpFiller _colorNamesFiller;
     ColorListIndex _namingIndex;

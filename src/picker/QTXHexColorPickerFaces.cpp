@@ -2,6 +2,7 @@
 #include "picker/PickerLayout.h"
 #include "picker/QTXHexColorPicker.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -52,8 +53,21 @@ void QTXHexColorPicker::moreIndicatorAction(HostControl*)
     if (__holdOffSync || _hexPickerView == nullptr) return;
     const HostSize page = _hexPickerView->frame().size();
     if (!isSmaller(page, roomySettingsSize)) return;
-    colorPanel().setFrame(panelFrameGrownFor(colorPanel().frame(), page, roomySettingsSize), true);
+    colorPanel().growPage(growthTo(roomySettingsSize, page));
     fixSettingsView();
+}
+
+void QTXHexColorPicker::makeRoomForSettings()
+{
+    _leastSettingsPage = minContentSizeWitSettings();
+    const HostSize page = _hexPickerView->frame().size();
+    if (!isSmaller(page, _leastSettingsPage)) return;
+    const HostSize growth = growthTo(_leastSettingsPage, page);
+    if (!isSmaller(colorPanel().growPage(growth), growth)) return;
+    // The panel has no more room to give. The settings must not close at once because of that.
+    const HostSize grown = _hexPickerView->frame().size();
+    _leastSettingsPage = {std::min(_leastSettingsPage.width, grown.width),
+                          std::min(_leastSettingsPage.height, grown.height)};
 }
 
 void QTXHexColorPicker::toggleSettingsView()
@@ -62,11 +76,7 @@ void QTXHexColorPicker::toggleSettingsView()
     HostCustomView* colors = _hexColorsViewOutlet;
     if (!isShown(settings) && isShown(colors)) {
         _hexColorsView.stopTracking();
-        const HostSize page = _hexPickerView->frame().size();
-        if (isSmaller(page, minContentSizeWitSettings())) {
-            colorPanel().setFrame(
-                panelFrameGrownFor(colorPanel().frame(), page, minContentSizeWitSettings()), true);
-        }
+        makeRoomForSettings();
         const HostRect frame = colors->frame();
         HostView* place = colors->superview();
         colors->removeFromSuperview();
@@ -98,11 +108,12 @@ void QTXHexColorPicker::viewSizeChanged(HostView*)
         .reference = _hexColorsViewOutlet->frame(),
         .colorsListPopUp = hexColorsListPopUp->frame(),
         .fullHex = _fullHexText->frame(),
-        .panel = colorPanel().frame().size(),
+        .pageWidth = _hexPickerView->frame().width,
+        .panelHeight = colorPanel().size().height,
         .showsCodeSnippet = _hexSettings.componentDisplay() == ComponentDisplay::codeSnippet,
     };
     if (settingsShown && !colorsShown &&
-        isSmaller(_hexPickerView->frame().size(), minContentSizeWitSettings())) {
+        isSmaller(_hexPickerView->frame().size(), _leastSettingsPage)) {
         toggleSettingsView();
     }
     if (!isShown(_hexColorsViewOutlet)) {

@@ -13,7 +13,8 @@ MainFaceInput mainInput(double width)
     input.reference = {10, 60, width - 20, 180};
     input.colorsListPopUp = {10, 8, 92, 24};
     input.fullHex = {10, 270, 78, 22};
-    input.panel = {width, 332};
+    input.pageWidth = width;
+    input.panelHeight = 332;
     return input;
 }
 
@@ -60,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(Widths, ColorNameTest,
                                          NameRow{170, {104, 8, 51, 24}},
                                          NameRow{169, {104, 832, 99, 24}}));
 
-TEST(PickerLayoutTest, ANarrowPanelHasNoRgbField)
+TEST(PickerLayoutTest, ANarrowPageHasNoRgbField)
 {
     EXPECT_EQ(mainFaceLayout(mainInput(199)).rgbDecimal.x, -200);
     EXPECT_EQ(mainFaceLayout(mainInput(200)).rgbDecimal, (HostRect{104, 270, 76, 22}));
@@ -131,12 +132,11 @@ TEST(PickerLayoutTest, WhatIsMovedOutOfSightIsParked)
     EXPECT_TRUE(settingsFaceLayout(settingsFrames(), {0, 0, 240, 106}).codeSnippetParked);
 }
 
-TEST(PickerLayoutTest, APanelGrowsDownwards)
+TEST(PickerLayoutTest, OnlyTheMissingSidesGrow)
 {
-    EXPECT_EQ(panelFrameGrownFor({5, 100, 200, 232}, {200, 200}, {212, 220}),
-              (HostRect{5, 80, 212, 252}));
-    EXPECT_EQ(panelFrameGrownFor({5, 100, 400, 400}, {400, 370}, {212, 220}),
-              (HostRect{5, 100, 400, 400}));
+    EXPECT_EQ(growthTo({212, 220}, {200, 200}), (HostSize{12, 20}));
+    EXPECT_EQ(growthTo({212, 220}, {400, 200}), (HostSize{0, 20}));
+    EXPECT_EQ(growthTo({212, 220}, {400, 370}), (HostSize{0, 0}));
 }
 
 }  // namespace

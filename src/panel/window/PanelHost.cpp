@@ -4,9 +4,17 @@
 #include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelWindow.h"
 
-#include <QScreen>
+#include <cmath>
 
 namespace vantorel {
+namespace {
+
+HostSize pointsOf(QSize pixels)
+{
+    return {pixels.width() / textScale(), pixels.height() / textScale()};
+}
+
+}  // namespace
 
 PanelHost::PanelHost(QtDesktop& desktop, PanelWindow& window, PanelColors& colors,
                      PanelPages& pages)
@@ -19,24 +27,20 @@ void PanelHost::setColor(const std::optional<HostColor>& color)
     if (color) _colors.setColor(*color);
 }
 
-HostRect PanelHost::frame() const
+HostSize PanelHost::size() const
 {
-    const QRect place = _window.geometry();
-    const QScreen* shownOn = _window.screen();
-    const int screenBottom = shownOn != nullptr ? shownOn->geometry().bottom() + 1 : 0;
-    const double scale = textScale();
-    return {place.x() / scale, (screenBottom - place.y() - place.height()) / scale,
-            place.width() / scale, place.height() / scale};
+    return pointsOf(_window.size());
 }
 
-void PanelHost::setFrame(HostRect wanted, bool)
+HostSize PanelHost::growPage(HostSize growth)
 {
-    const HostRect old = frame();
     const double scale = textScale();
-    const QPoint moved(qRound((wanted.x - old.x) * scale),
-                       qRound((old.maxY() - wanted.maxY()) * scale));
-    if (!moved.isNull()) _window.move(_window.pos() + moved);
-    _window.resizeAtOnce({qRound(wanted.width * scale), qRound(wanted.height * scale)});
+    const QSize before = _pages.place().size();
+    // Rounded up, because a page that asks needs all of it.
+    _window.resizeAtOnce(_window.size() +
+                         QSize(static_cast<int>(std::ceil(growth.width * scale)),
+                               static_cast<int>(std::ceil(growth.height * scale))));
+    return pointsOf(_pages.place().size() - before);
 }
 
 bool PanelHost::takeText(const QString& text)

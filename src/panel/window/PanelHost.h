@@ -8,7 +8,7 @@ namespace vantorel {
 
 class PanelWindow;
 
-/// The panel as seen by pickers: its colour, its frame on the screen, and drags that start in it.
+/// The panel as seen by pickers: its colour, its size, and drags that start in it.
 class PanelHost final : public QtColorPanel {
 public:
     /// All must outlive the host.
@@ -18,8 +18,8 @@ public:
 
     [[nodiscard]] std::optional<HostColor> color() const override { return _colors.color(); }
     void setColor(const std::optional<HostColor>& color) override;
-    [[nodiscard]] HostRect frame() const override;
-    void setFrame(HostRect wanted, bool display) override;
+    [[nodiscard]] HostSize size() const override;
+    HostSize growPage(HostSize growth) override;
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;
 

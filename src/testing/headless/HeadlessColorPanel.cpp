@@ -53,10 +53,14 @@ void HeadlessColorPanel::changeColor(std::optional<HostColor> color)
     if (_picker != nullptr) _picker->setColor(color);
 }
 
-void HeadlessColorPanel::setFrame(HostRect frame, bool)
+HostSize HeadlessColorPanel::growPage(HostSize growth)
 {
+    if (!_canGrow) return {};
+    const HostRect frame{_frame.x, _frame.y - growth.height, _frame.width + growth.width,
+                         _frame.height + growth.height};
     _desktop.journal().emplace_back(PanelFrameSet{frame});
     applyFrame(frame);
+    return growth;
 }
 
 void HeadlessColorPanel::resize(HostSize size)

@@ -24,8 +24,8 @@ public:
     HeadlessDesktop& desktop() override { return _desktop; }
     [[nodiscard]] std::optional<HostColor> color() const override { return _color; }
     void setColor(const std::optional<HostColor>& color) override;
-    [[nodiscard]] HostRect frame() const override { return _frame; }
-    void setFrame(HostRect frame, bool display) override;
+    [[nodiscard]] HostSize size() const override { return _frame.size(); }
+    HostSize growPage(HostSize growth) override;
     [[nodiscard]] bool acceptsMouseMovedEvents() const override { return _acceptsMouseMoved; }
     void setAcceptsMouseMovedEvents(bool flag) override { _acceptsMouseMoved = flag; }
     [[nodiscard]] HostPoint mouseLocation(const HostView& view) const override;
@@ -39,6 +39,11 @@ public:
                    HostView& source) override;
 
     // Events outside the picker.
+
+    /// The panel's frame on its imaginary screen, y up.
+    [[nodiscard]] HostRect frame() const { return _frame; }
+    /// Sets whether the panel can grow. It can at first.
+    void setCanGrow(bool flag) { _canGrow = flag; }
 
     /// Changes the colour as another page would.
     void changeColor(std::optional<HostColor> color);
@@ -64,6 +69,7 @@ private:
     HostColorPicker* _picker = nullptr;
     std::optional<HostColor> _color;
     bool _acceptsMouseMoved = false;
+    bool _canGrow = true;
     HostPoint _pointer;
     std::deque<HostEvent> _events;
 };

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "picker/QTXHexColorPicker.h"
+#include "testing/headless/HeadlessColorPanel.h"
+#include "testing/headless/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace vantorel {
+
+/// A picker of the shipped interface file, in a headless panel.
+class PickerPage : public testing::Test {
+protected:
+    class Bundle final : public HostBundle {
+    public:
+        [[nodiscard]] std::optional<std::string> resource(const std::string& name) const override
+        {
+            std::ifstream file(VANTOREL_RESOURCES "/" + name, std::ios::binary);
+            if (!file) return std::nullopt;
+            return std::string{std::istreambuf_iterator<char>(file), {}};
+        }
+        [[nodiscard]] std::optional<std::string> pathOfResource(const std::string&) const override
+        {
+            return std::nullopt;
+        }
+    };
+
+    PickerPage()
+    {
+        _page = _picker.provideNewView(true);
+        _panel.setPicker(&_picker);
+    }
+    ~PickerPage() override { _panel.setPicker(nullptr); }
+
+    [[nodiscard]] HostView& control(const std::string& name)
+    {
+        return *_desktop.interfaceFactory().control<HostView>(name);
+    }
+
+    Bundle _bundle;
+    HeadlessDesktop _desktop{{std::make_unique<MemoryFiles>(), 0.6, {}}};
+    HeadlessColorPanel _panel{_desktop, {200, 400, 260, 340}, HostColor::whiteColor()};
+    QTXHexColorPicker _picker{0, _panel, _bundle};
+    HostView* _page = nullptr;
+};
+
+}  // namespace vantorel
