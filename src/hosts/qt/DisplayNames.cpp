@@ -1,5 +1,7 @@
 #include "hosts/qt/DisplayNames.h"
 
+#include "hosts/qt/QtColors.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -30,7 +32,7 @@ constexpr std::array names{
 
 QString displayName(std::u16string_view text)
 {
-    const QString own = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    const QString own = qStringFrom(text);
     const auto* const found = std::find_if(
         names.begin(), names.end(), [&](const char* name) { return own == QLatin1String(name); });
     return found != names.end() ? QCoreApplication::translate(context, *found) : own;

@@ -2,6 +2,7 @@
 
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtVersions.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QFontMetricsF>
@@ -226,7 +227,7 @@ QPixmap pixmapOfImage(const HostImage& image, qreal devicePixelRatio)
 
 void drawInMiddle(QPainter& painter, const QPixmap& pixmap, const QRectF& room)
 {
-    QRectF place(QPointF(), pixmap.deviceIndependentSize());
+    QRectF place(QPointF(), sizeInPixels(pixmap));
     place.moveCenter(room.center());
     painter.drawPixmap(place.topLeft().toPoint(), pixmap);
 }

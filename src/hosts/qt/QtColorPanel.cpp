@@ -3,6 +3,7 @@
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtDrag.h"
 #include "hosts/qt/QtTextField.h"
+#include "hosts/qt/QtVersions.h"
 
 #include <QCursor>
 
@@ -32,7 +33,7 @@ HostPoint QtColorPanel::mouseLocation(const HostView& view) const
 {
     const QWidget* widget = widgetOf(&view);
     if (widget == nullptr) return {};
-    return viewPoint(widget->mapFromGlobal(QPointF(QCursor::pos())), view.bounds());
+    return viewPoint(mapFromScreen(*widget, QCursor::pos()), view.bounds());
 }
 
 void QtColorPanel::makeFirstResponder(HostView& view)

@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "host/HostInterfaceFactory.h"
+#include "hosts/qt/QtVersions.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QApplication>
@@ -42,8 +43,7 @@ HostColor hostColorFrom(const QColor& color)
 
 QString qStringFrom(std::u16string_view text)
 {
-    return QString(reinterpret_cast<const QChar*>(text.data()),
-                   static_cast<qsizetype>(text.size()));
+    return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<QtLength>(text.size()));
 }
 
 std::u16string u16From(const QString& text)

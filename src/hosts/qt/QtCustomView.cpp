@@ -3,6 +3,7 @@
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtEvents.h"
+#include "hosts/qt/QtVersions.h"
 #include "hosts/qt/WheelSteps.h"
 
 #include <QApplication>
@@ -107,11 +108,11 @@ protected:
         }
     }
 
-    void enterEvent(QEnterEvent* event) override
+    void enterEvent(QtEnterEvent* event) override
     {
         _owner->moveFreely({HostEventType::mouseMoved,
-                            viewPoint(event->position(), _owner->bounds()),
-                            modifierFlags(event->modifiers())});
+                            viewPoint(positionOf(*event), _owner->bounds()),
+                            modifierFlags(modifiersOf(*event))});
     }
 
     bool event(QEvent* event) override
@@ -139,7 +140,7 @@ protected:
 private:
     [[nodiscard]] HostEvent hostEvent(HostEventType type, const QMouseEvent& event) const
     {
-        return {type, viewPoint(event.position(), _owner->bounds()),
+        return {type, viewPoint(positionOf(event), _owner->bounds()),
                 modifierFlags(event.modifiers())};
     }
 

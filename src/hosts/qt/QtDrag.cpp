@@ -2,6 +2,7 @@
 
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtVersions.h"
 
 #include <QMimeData>
 
@@ -24,7 +25,7 @@ QDrag* makeDrag(QWidget& source, const HostImage& image, const HostPasteboardIte
     const QPixmap pixmap = pixmapOfImage(image, source.devicePixelRatioF());
     drag->setPixmap(pixmap);
     // The pointer is at the lower left corner, so that the target below it stays visible.
-    drag->setHotSpot(QPoint(0, qRound(pixmap.deviceIndependentSize().height())));
+    drag->setHotSpot(QPoint(0, qRound(sizeInPixels(pixmap).height())));
     return drag;
 }
 

@@ -4,6 +4,7 @@
 #include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtVersions.h"
 
 #include <QAbstractListModel>
 #include <QGuiApplication>
@@ -144,7 +145,8 @@ QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
     setFont(parent.font());
-    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    setFrameShape(QFrame::StyledPanel);
+    setFrameShadow(QFrame::Plain);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->addWidget(_view);
@@ -246,12 +248,12 @@ bool QtItemList::handleKey(int key)
 bool QtItemList::handleMouse(QEvent* event)
 {
     const auto* mouse = static_cast<QMouseEvent*>(event);
-    const QModelIndex row = _view->indexAt(mouse->position().toPoint());
+    const QModelIndex row = _view->indexAt(positionOf(*mouse).toPoint());
     switch (event->type()) {
         case QEvent::MouseMove:
-            if (_view->viewport()->rect().contains(mouse->position().toPoint())) {
-                if (!_firstMove) _firstMove = mouse->position().toPoint();
-                if ((mouse->position().toPoint() - *_firstMove).manhattanLength() >=
+            if (_view->viewport()->rect().contains(positionOf(*mouse).toPoint())) {
+                if (!_firstMove) _firstMove = positionOf(*mouse).toPoint();
+                if ((positionOf(*mouse).toPoint() - *_firstMove).manhattanLength() >=
                     QGuiApplication::styleHints()->startDragDistance())
                     _releaseChooses = true;
                 if (row.isValid() && row.flags() != Qt::NoItemFlags) _view->setCurrentIndex(row);

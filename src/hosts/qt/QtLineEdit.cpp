@@ -1,6 +1,7 @@
 #include "hosts/qt/QtLineEdit.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtVersions.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -33,11 +34,11 @@ bool writesNothing(const QKeyEvent& event)
 QColor readableTextColor(const HostColor& color, const QPalette& palette)
 {
     constexpr int darkGround = 128;
-    constexpr float readableLightness = 0.72F;
+    constexpr auto readableLightness = static_cast<QtFraction>(0.72);
     const QColor wanted = qColorFrom(color);
     if (!wanted.isValid() || wanted == QColor(Qt::black)) return palette.color(QPalette::Text);
     if (palette.color(QPalette::Base).lightness() >= darkGround) return wanted;
-    return QColor::fromHslF(std::max(0.0F, wanted.hslHueF()), wanted.hslSaturationF(),
+    return QColor::fromHslF(std::max(QtFraction{0}, wanted.hslHueF()), wanted.hslSaturationF(),
                             std::max(readableLightness, wanted.lightnessF()));
 }
 
@@ -146,7 +147,7 @@ void QtLineEdit::dropEvent(QDropEvent* event)
     event->setDropAction(Qt::CopyAction);
     event->accept();
     setFocus(Qt::MouseFocusReason);
-    if (isModified()) setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    if (isModified()) setCursorPosition(cursorPositionAt(positionOf(*event).toPoint()));
     bring(event->mimeData()->text());
 }
 
