@@ -34,12 +34,8 @@ public:
     [[nodiscard]] std::optional<HostColor> color() const final { return _page.color(); }
     void setColor(const std::optional<HostColor>& color) final { _page.setColor(color); }
 
-    [[nodiscard]] HostRect frame() const final
-    {
-        const HostSize room = _page.room();
-        return {0, 0, room.width, room.height};
-    }
-    void setFrame(HostRect, bool) final {}
+    [[nodiscard]] HostSize size() const final { return _page.room(); }
+    HostSize growPage(HostSize) final { return {}; }
 
     HostEvent nextEventMatchingMask(std::uint32_t mask, HostView& view) final
     {
