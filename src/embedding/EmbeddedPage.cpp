@@ -104,6 +104,11 @@ HostSize EmbeddedPage::room() const
     return _holder != nullptr ? _holder->frame().size() : HostSize{};
 }
 
+HostSize EmbeddedPage::grow(HostSize growth)
+{
+    return _dialog != nullptr ? _dialog->growHolder(growth) : HostSize{};
+}
+
 void EmbeddedPage::dialogColorDidChange(const HostColor& color)
 {
     if (isSameColor(color, _dialogsColor, _traits.rounding)) return;

@@ -20,6 +20,13 @@ public:
     /// The dialog may pass on another colour than this one by `EmbeddedPage::dialogColorDidChange`
     /// before it returns, and may be destroyed meanwhile.
     virtual void colorChosen(const HostColor& color, bool isFinal) = 0;
+    /// The page needs more room. A dialog that can grow gives the holder a larger frame, calls
+    /// `EmbeddedPage::resize`, and returns how much the holder has grown.
+    virtual HostSize growHolder(HostSize growth)
+    {
+        static_cast<void>(growth);
+        return {};
+    }
     /// The page has failed, and its view has been taken out of the dialog. Called from the event
     /// loop.
     virtual void pageDidFail() = 0;
@@ -104,6 +111,7 @@ public:
     void setColor(const std::optional<HostColor>& color);
     /// The size of the holder.
     [[nodiscard]] HostSize room() const;
+    HostSize grow(HostSize growth);
     /// Runs `next`, with which the page waits for an event of a mouse drag.
     template <class Next>
     HostEvent waitForEvent(const Next& next)

@@ -7,7 +7,7 @@
 namespace vantorel {
 
 /// The panel that a page sees in a dialog of another program. It has the dialog's colour, and the
-/// room that the dialog gives to the page; it can neither move nor grow.
+/// room that the dialog gives to the page.
 ///
 /// `ToolkitPanel` is derived from `HostColorPanel` and implements the rest: the desktop, the
 /// pointer, events, the editor of text fields, and drags.
@@ -35,7 +35,7 @@ public:
     void setColor(const std::optional<HostColor>& color) final { _page.setColor(color); }
 
     [[nodiscard]] HostSize size() const final { return _page.room(); }
-    HostSize growPage(HostSize) final { return {}; }
+    HostSize growPage(HostSize growth) final { return _page.grow(growth); }
 
     HostEvent nextEventMatchingMask(std::uint32_t mask, HostView& view) final
     {

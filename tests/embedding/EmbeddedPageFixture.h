@@ -126,11 +126,13 @@ public:
         chosen.push_back({color, isFinal});
         if (reaction) reaction(color);
     }
+    HostSize growHolder(HostSize wanted) override { return growth ? growth(wanted) : HostSize{}; }
     void pageDidFail() override { ++failures; }
 
     std::vector<Chosen> chosen;
     int failures = 0;
     std::function<void(const HostColor&)> reaction;
+    std::function<HostSize(HostSize)> growth;
 };
 
 }  // namespace vantorel

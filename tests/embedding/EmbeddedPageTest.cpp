@@ -77,13 +77,20 @@ TEST_F(EmbeddedPageTest, ThePageFillsItsHolderAndHasTheDialogsColor)
     EXPECT_THAT(_dialog.chosen, IsEmpty());
 }
 
-TEST_F(EmbeddedPageTest, ThePanelCannotGrow)
+TEST_F(EmbeddedPageTest, ThePanelGrowsIfTheDialogCan)
 {
     ASSERT_TRUE(show());
     EXPECT_EQ(_panel->size(), (HostSize{240, 300}));
-    EXPECT_EQ(_panel->growPage({1000, 1000}), HostSize{});
+    EXPECT_EQ(_panel->growPage({10, 20}), HostSize{});
     EXPECT_EQ(_panel->size(), (HostSize{240, 300}));
-    EXPECT_EQ(picker().view().frame().size(), (HostSize{240, 300}));
+    _dialog.growth = [this](HostSize wanted) {
+        _holder.setFrame({0, 0, 240, 300 + wanted.height});
+        _panel->page().resize();
+        return HostSize{0, wanted.height};
+    };
+    EXPECT_EQ(_panel->growPage({10, 20}), (HostSize{0, 20}));
+    EXPECT_EQ(_panel->size(), (HostSize{240, 320}));
+    EXPECT_EQ(picker().sizes.back(), (HostSize{240, 320}));
 }
 
 TEST_F(EmbeddedPageTest, AChosenColorGoesToPageAndDialog)
