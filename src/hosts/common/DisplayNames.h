@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace vantorel {
+
+/// Returns the key for the translation of a title or message of a picker, in the context
+/// "DisplayNames"; null for a text that is never translated, such as the name of a colour or a
+/// list.
+///
+/// Pickers select menu items by their titles and store them in files, so titles keep their English
+/// names everywhere but on the screen.
+[[nodiscard]] const char* displayNameKey(std::u16string_view text);
+
+}  // namespace vantorel
