@@ -1533,6 +1533,14 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
         <source>the panel did not answer, and may not have copied the colour</source>
         <translation>das Fenster hat nicht geantwortet und die Farbe vielleicht nicht kopiert</translation>
     </message>
+    <message>
+        <source>the program that holds the clipboard does not answer</source>
+        <translation>das Programm, das die Zwischenablage hält, antwortet nicht</translation>
+    </message>
+    <message>
+        <source>copy again, or close that program</source>
+        <translation>kopieren Sie erneut, oder schließen Sie dieses Programm</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1533,6 +1533,14 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <source>the panel did not answer, and may not have copied the colour</source>
         <translation>el panel no respondió y quizá no copió el color</translation>
     </message>
+    <message>
+        <source>the program that holds the clipboard does not answer</source>
+        <translation>el programa que tiene el portapapeles no responde</translation>
+    </message>
+    <message>
+        <source>copy again, or close that program</source>
+        <translation>copie de nuevo, o cierre ese programa</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

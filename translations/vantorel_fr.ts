@@ -1533,6 +1533,14 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <source>the panel did not answer, and may not have copied the colour</source>
         <translation>le panneau n’a pas répondu et n’a peut-être pas copié la couleur</translation>
     </message>
+    <message>
+        <source>the program that holds the clipboard does not answer</source>
+        <translation>le programme qui détient le presse-papiers ne répond pas</translation>
+    </message>
+    <message>
+        <source>copy again, or close that program</source>
+        <translation>copiez de nouveau, ou fermez ce programme</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

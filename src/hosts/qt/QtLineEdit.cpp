@@ -4,11 +4,8 @@
 #include "hosts/qt/QtVersions.h"
 
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 
 #include <algorithm>
@@ -64,7 +61,7 @@ bool QtLineEdit::event(QEvent* event)
         event->accept();
         return true;
     }
-    return QLineEdit::event(event);
+    return ClipboardLineEdit::event(event);
 }
 
 void QtLineEdit::keyPressEvent(QKeyEvent* event)
@@ -72,11 +69,9 @@ void QtLineEdit::keyPressEvent(QKeyEvent* event)
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (_canStep && isArrow && !isReadOnly()) {
         emit stepped(event->key() == Qt::Key_Up ? 1 : -1, event->modifiers());
-    } else if (event->matches(QKeySequence::Paste)) {
-        paste();
     } else if (!event->matches(QKeySequence::Cancel)) {
         _isDeleting = writesNothing(*event);
-        QLineEdit::keyPressEvent(event);
+        ClipboardLineEdit::keyPressEvent(event);
         _isDeleting = false;
     } else if (isModified()) {
         emit entryGivenUp();
@@ -89,19 +84,19 @@ void QtLineEdit::keyPressEvent(QKeyEvent* event)
 
 void QtLineEdit::resizeEvent(QResizeEvent* event)
 {
-    QLineEdit::resizeEvent(event);
+    ClipboardLineEdit::resizeEvent(event);
     fit();
 }
 
 void QtLineEdit::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
+    ClipboardLineEdit::focusInEvent(event);
     fit();
 }
 
 void QtLineEdit::focusOutEvent(QFocusEvent* event)
 {
-    QLineEdit::focusOutEvent(event);
+    ClipboardLineEdit::focusOutEvent(event);
     fit();
     switch (event->reason()) {
         case Qt::MouseFocusReason:
@@ -118,7 +113,7 @@ void QtLineEdit::focusOutEvent(QFocusEvent* event)
 void QtLineEdit::wheelEvent(QWheelEvent* event)
 {
     if (!_canStep || isReadOnly()) {
-        QLineEdit::wheelEvent(event);
+        ClipboardLineEdit::wheelEvent(event);
         return;
     }
     event->accept();
@@ -127,21 +122,11 @@ void QtLineEdit::wheelEvent(QWheelEvent* event)
     }
 }
 
-void QtLineEdit::mouseReleaseEvent(QMouseEvent* event)
-{
-    const QClipboard& clipboard = *QApplication::clipboard();
-    if (event->button() == Qt::MiddleButton && clipboard.supportsSelection() && !isReadOnly()) {
-        bring(clipboard.text(QClipboard::Selection));
-    } else {
-        QLineEdit::mouseReleaseEvent(event);
-    }
-}
-
 void QtLineEdit::dropEvent(QDropEvent* event)
 {
     // A part of the text that is moved within the field is no text from elsewhere.
     if (event->source() == this || isReadOnly() || !event->mimeData()->hasText()) {
-        QLineEdit::dropEvent(event);
+        ClipboardLineEdit::dropEvent(event);
         return;
     }
     event->setDropAction(Qt::CopyAction);
@@ -149,26 +134,6 @@ void QtLineEdit::dropEvent(QDropEvent* event)
     setFocus(Qt::MouseFocusReason);
     if (isModified()) setCursorPosition(cursorPositionAt(positionOf(*event).toPoint()));
     bring(event->mimeData()->text());
-}
-
-void QtLineEdit::contextMenuEvent(QContextMenuEvent* event)
-{
-    // The menu does not name its actions; this is the toolkit's text, and its translation.
-    static constexpr const char* pasteText = "&Paste";
-    const QString title = QCoreApplication::translate("QLineEdit", pasteText);
-    QMenu* menu = createStandardContextMenu();
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (QAction* action : menu->actions()) {
-        if (!action->text().startsWith(title)) continue;
-        action->disconnect(this);
-        connect(action, &QAction::triggered, this, &QtLineEdit::paste);
-    }
-    menu->popup(event->globalPos());
-}
-
-void QtLineEdit::paste()
-{
-    bring(QApplication::clipboard()->text());
 }
 
 void QtLineEdit::bring(const QString& text)
@@ -183,7 +148,7 @@ void QtLineEdit::bring(const QString& text)
 
 void QtLineEdit::changeEvent(QEvent* event)
 {
-    QLineEdit::changeEvent(event);
+    ClipboardLineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !_applying) applyColor();
 }
 

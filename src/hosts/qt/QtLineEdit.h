@@ -1,9 +1,8 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/WheelSteps.h"
-
-#include <QLineEdit>
 
 #include <optional>
 
@@ -14,7 +13,7 @@ namespace vantorel {
 ///
 /// A text that is pasted or dropped loses blanks, line ends and a ";" at its ends. It replaces the
 /// whole text unless the user has typed, or selected a part.
-class QtLineEdit final : public QLineEdit {
+class QtLineEdit final : public ClipboardLineEdit {
     Q_OBJECT
 
 public:
@@ -26,10 +25,6 @@ public:
     void setCanStep(bool flag) { _canStep = flag; }
     /// Whether the text is being changed by a key that writes nothing, such as Backspace.
     [[nodiscard]] bool isDeleting() const { return _isDeleting; }
-
-public slots:
-    /// Pastes from the clipboard; takes the place of `QLineEdit::paste`.
-    void paste();
 
 signals:
     /// The user has pressed Escape after typing. Only the panel knows the previous text, because
@@ -51,17 +46,14 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void bring(const QString& text) override;
 
 private:
     /// Chooses the font size, which does not change while the user types.
     void fit();
     void applyColor();
-    /// Writes a text of the clipboard or of a drop.
-    void bring(const QString& text);
 
     QFont _font;  ///< in its full size
     std::optional<HostColor> _color;

@@ -1,5 +1,6 @@
 #include "panel/palettes/PaletteEntriesView.h"
 
+#include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
@@ -90,7 +91,7 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
                           const QModelIndex&) const override
     {
-        auto* field = new QLineEdit(parent);
+        auto* field = new ClipboardLineEdit(parent);
         field->setObjectName(QStringLiteral("paletteEntryName"));
         field->setMaxLength(longestTypedName);
         field->setAccessibleName(PaletteEntriesView::tr("Colour name"));

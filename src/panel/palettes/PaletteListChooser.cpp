@@ -1,5 +1,6 @@
 #include "panel/palettes/PaletteListChooser.h"
 
+#include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/QtColors.h"
 
 #include <QKeyEvent>
@@ -10,7 +11,7 @@
 namespace vantorel {
 
 PaletteListChooser::PaletteListChooser(QWidget* parent)
-    : QComboBox(parent), _rows(new PaletteListModel(this)), _name(new QLineEdit(this))
+    : QComboBox(parent), _rows(new PaletteListModel(this)), _name(new ClipboardLineEdit(this))
 {
     setModel(_rows);
     setObjectName(QStringLiteral("paletteLists"));

@@ -1,5 +1,6 @@
 #include "panel/palettes/PalettesWidget.h"
 
+#include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
@@ -94,7 +95,7 @@ void PalettesWidget::makeControls()
     _ownership = newLabel(this, "paletteOwnership");
     _ownership->setWordWrap(true);
 
-    _filter = new QLineEdit(this);
+    _filter = new ClipboardLineEdit(this);
     _filter->setObjectName(QStringLiteral("paletteFilter"));
     _filter->setPlaceholderText(tr("Find a name or hex code"));
     _filter->setAccessibleName(tr("Find a name or hex code"));

@@ -1,6 +1,7 @@
 #include "panel/window/ColorExchange.h"
 
 #include "csscolor/CSSColorWriter.h"
+#include "hosts/qt/ClipboardOwner.h"
 #include "hosts/qt/QtColors.h"
 #include "result/HarmlessLine.h"
 
@@ -94,8 +95,14 @@ void ColorExchange::noteCopied(const QString& text)
 
 void ColorExchange::paste()
 {
-    const QMimeData* held = QApplication::clipboard()->mimeData();
-    takeColor(held != nullptr ? colorFromMimeData(*held) : colorFromMimeData(QMimeData()));
+    askClipboardOwner(QClipboard::Clipboard, *this, [this](bool answers) {
+        if (!answers) {
+            takeColor({.color = {}, .message = clipboardOwnerIsSilent()});
+            return;
+        }
+        const QMimeData* held = QApplication::clipboard()->mimeData();
+        takeColor(held != nullptr ? colorFromMimeData(*held) : colorFromMimeData(QMimeData()));
+    });
 }
 
 void ColorExchange::takeColor(const ColorOffer& offer)
