@@ -44,24 +44,34 @@ void ClipboardLineEdit::contextMenuEvent(QContextMenuEvent* event)
     // These are its texts, and its translations.
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto add = [&](const char* text, QKeySequence::StandardKey key, bool enabled,
-                         auto function) {
-        QAction* action = menu->addAction(QCoreApplication::translate("QLineEdit", text));
+    const auto set = [this](QAction* action, QKeySequence::StandardKey key, bool enabled,
+                            auto function) {
         action->setShortcut(key);
         action->setEnabled(enabled);
         connect(action, &QAction::triggered, this, function);
     };
+    constexpr auto translate = [](const char* text) {
+        return QCoreApplication::translate("QLineEdit", text);
+    };
     const bool writable = !isReadOnly();
     const bool readable = echoMode() == QLineEdit::Normal;
-    add("&Undo", QKeySequence::Undo, writable && isUndoAvailable(), &QLineEdit::undo);
-    add("&Redo", QKeySequence::Redo, writable && isRedoAvailable(), &QLineEdit::redo);
+    const bool selected = hasSelectedText();
+    const bool allSelected = selectedText() == text();
+    set(menu->addAction(translate("&Undo")), QKeySequence::Undo, writable && isUndoAvailable(),
+        &QLineEdit::undo);
+    set(menu->addAction(translate("&Redo")), QKeySequence::Redo, writable && isRedoAvailable(),
+        &QLineEdit::redo);
     menu->addSeparator();
-    add("Cu&t", QKeySequence::Cut, writable && readable && hasSelectedText(), &QLineEdit::cut);
-    add("&Copy", QKeySequence::Copy, readable && hasSelectedText(), &QLineEdit::copy);
-    add("&Paste", QKeySequence::Paste, writable, &ClipboardLineEdit::paste);
-    add("Delete", QKeySequence::Delete, writable && hasSelectedText(), &QLineEdit::del);
+    set(menu->addAction(translate("Cu&t")), QKeySequence::Cut, writable && readable && selected,
+        &QLineEdit::cut);
+    set(menu->addAction(translate("&Copy")), QKeySequence::Copy, readable && selected,
+        &QLineEdit::copy);
+    set(menu->addAction(translate("&Paste")), QKeySequence::Paste, writable,
+        &ClipboardLineEdit::paste);
+    set(menu->addAction(translate("Delete")), QKeySequence::Delete, writable && selected,
+        &QLineEdit::del);
     menu->addSeparator();
-    add("Select All", QKeySequence::SelectAll, !text().isEmpty() && selectedText() != text(),
+    set(menu->addAction(translate("Select All")), QKeySequence::SelectAll, !allSelected,
         &QLineEdit::selectAll);
     menu->popup(event->globalPos());
 }
