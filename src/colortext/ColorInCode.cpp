@@ -150,4 +150,13 @@ std::u16string_view declaredValue(std::u16string_view text)
     return isName ? text.substr(colon + 1) : text;
 }
 
+Result<CSSColor> colorInText(std::u16string_view text)
+{
+    const Result<CSSColor> css = readCSSColor(text);
+    if (css) return css;
+    if (const auto declared = readCSSColor(declaredValue(text))) return declared;
+    if (const auto color = colorInCode(text)) return CSSColor{.color = *color};
+    return css;
+}
+
 }  // namespace vantorel

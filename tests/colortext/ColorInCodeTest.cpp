@@ -61,5 +61,17 @@ TEST(DeclaredValueTest, ADeclarationGivesItsValue)
         EXPECT_EQ(declaredValue(text), text);
 }
 
+TEST(ColorInTextTest, ColorsOfCSSDeclarationsAndCodeAreRead)
+{
+    const HostColor orange = HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 1);
+    for (const char16_t* text :
+         {u"#ff8000", u"rgb(255 128 0)", u"color: #ff8000;", u"QColor(255, 128, 0)"}) {
+        const auto read = colorInText(text);
+        ASSERT_TRUE(read);
+        EXPECT_EQ(read->color, orange);
+    }
+    EXPECT_FALSE(colorInText(u"teapot"));
+}
+
 }  // namespace
 }  // namespace vantorel

@@ -44,15 +44,8 @@ QByteArray wordsOfColor(const QColor& color)
 ColorOffer colorFromText(const QString& text)
 {
     if (text.size() > longestColorText) return {{}, {phrase("that is a long text, not a colour")}};
-    const std::u16string line = u16From(text);
-    Result<CSSColor> css = readCSSColor(line);
-    if (!css) {
-        if (auto declared = readCSSColor(declaredValue(line))) css = std::move(declared);
-    }
-    if (!css) {
-        if (const auto color = colorInCode(line)) return {color, {}};
-        return {{}, css.error()};
-    }
+    const Result<CSSColor> css = colorInText(u16From(text));
+    if (!css) return {{}, css.error()};
     if (!css->wasOutsideSRGB) return {css->color, {}};
     return {css->color,
             {phrase("\"%1\" is outside sRGB; this is the nearest colour inside",

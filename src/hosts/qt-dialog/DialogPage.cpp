@@ -1,0 +1,119 @@
+#include "hosts/qt-dialog/DialogPage.h"
+
+#include "hosts/qt/QtColors.h"
+
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QTimer>
+#include <QVariant>
+
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+constexpr const char* attachedProperty = "vantorelHasPage";
+
+/// All rows of the settings face fit into this page. In points.
+constexpr HostSize comfortableSize{260, 300};
+
+/// Qt's dialog cuts channels down to bytes; this rounds them.
+QColor colorInBytes(const HostColor& color)
+{
+    const QColor exact = qColorFrom(color);
+    const auto byte = [](auto fraction) { return static_cast<int>(std::lround(fraction * 255)); };
+    return {byte(exact.redF()), byte(exact.greenF()), byte(exact.blueF()), byte(exact.alphaF())};
+}
+
+}  // namespace
+
+void DialogPage::putInto(QColorDialog& dialog, const LoadedPlugin& plugin, QtDesktop& desktop)
+{
+    if (dialog.property(attachedProperty).isValid()) return;
+    dialog.setProperty(attachedProperty, true);
+    auto* page = new DialogPage(dialog, desktop);
+    if (!page->show(plugin)) delete page;
+}
+
+DialogPage::DialogPage(QColorDialog& dialog, QtDesktop& desktop)
+    : _dialog(&dialog), _panel(*this, desktop)
+{
+}
+
+DialogPage::~DialogPage() = default;
+
+bool DialogPage::show(const LoadedPlugin& plugin)
+{
+    _holder.setMinimumSize(comfortableSize);
+    _holder.setFrame({0, 0, comfortableSize.width, comfortableSize.height});
+    if (!_panel.showPage(plugin, _holder, hostColorFrom(_dialog->currentColor()))) return false;
+    if (!_holder.putInto(*_dialog)) return false;
+    _holder.setSizeDidChange([this] { _panel.page().resize(); });
+    _panel.page().setTakesOpacity(_dialog->testOption(QColorDialog::ShowAlphaChannel));
+    _dialog->installEventFilter(this);
+    connect(_dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& color) {
+        _panel.page().dialogColorDidChange(hostColorFrom(color));
+    });
+    connect(_dialog, &QObject::destroyed, this, &DialogPage::dialogIsDestroyed);
+    return true;
+}
+
+bool DialogPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == _dialog && event->type() == QEvent::Show) followButtons();
+    // Its options have no signal, but showing or hiding the opacity changes the layout.
+    if (watched == _dialog &&
+        (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)) {
+        _panel.page().setTakesOpacity(_dialog->testOption(QColorDialog::ShowAlphaChannel));
+    }
+    return false;
+}
+
+void DialogPage::followButtons()
+{
+    for (const auto* box : _dialog->window()->findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) != QDialogButtonBox::AcceptRole) continue;
+            // Comes before `clicked`, however the button is operated.
+            connect(button, &QAbstractButton::pressed, this, &DialogPage::finishEntry,
+                    Qt::UniqueConnection);
+        }
+    }
+}
+
+void DialogPage::finishEntry()
+{
+    _panel.page().guarded([this] { _panel.finishEditing(); });
+    _panel.page().sendPendingColor();
+}
+
+void DialogPage::colorChosen(const HostColor& color, bool)
+{
+    if (_dialog) _dialog->setCurrentColor(colorInBytes(color));
+}
+
+void DialogPage::pageDidFail()
+{
+    _holder.takeOut();
+    deleteWhenIdle();
+}
+
+void DialogPage::dialogIsDestroyed()
+{
+    _panel.page().forgetDialog();
+    // The page may be in the middle of a drag. It keeps its widgets until it has noticed the end.
+    _holder.takeOut();
+    deleteWhenIdle();
+}
+
+void DialogPage::deleteWhenIdle()
+{
+    if (_panel.page().isBusy()) {
+        QTimer::singleShot(0, this, &DialogPage::deleteWhenIdle);
+    } else {
+        deleteLater();
+    }
+}
+
+}  // namespace vantorel

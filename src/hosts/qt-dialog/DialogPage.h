@@ -1,0 +1,43 @@
+#pragma once
+
+#include "hosts/qt-dialog/DialogPanel.h"
+#include "hosts/qt-dialog/PageHolder.h"
+
+#include <QColorDialog>
+#include <QPointer>
+
+namespace vantorel {
+
+/// The page in one colour dialog. It is a further part of the dialog, whose buttons, modality,
+/// options, result and signals stay its own.
+class DialogPage final : public QObject, private EmbeddingDialog {
+    Q_OBJECT
+
+public:
+    /// Puts a page into a dialog that is about to be shown; only once into each. The dialog stays
+    /// as it is if the page cannot be created.
+    static void putInto(QColorDialog& dialog, const LoadedPlugin& plugin, QtDesktop& desktop);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    DialogPage(QColorDialog& dialog, QtDesktop& desktop);
+    ~DialogPage() override;
+
+    bool show(const LoadedPlugin& plugin);
+    void colorChosen(const HostColor& color, bool isFinal) override;
+    HostSize growHolder(HostSize growth) override { return _holder.grow(growth); }
+    void pageDidFail() override;
+    void dialogIsDestroyed();
+    void deleteWhenIdle();
+    /// Follows the OK buttons of the window, which may be the dialog's or those of a window that
+    /// the dialog is a part of.
+    void followButtons();
+    void finishEntry();
+
+    QPointer<QColorDialog> _dialog;
+    PageHolder _holder;
+    DialogPanel _panel;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,46 @@
+#include "hosts/qt-dialog/DialogPanel.h"
+
+#include "colortext/ColorInCode.h"
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtTextField.h"
+
+#include <vector>
+
+namespace vantorel {
+namespace {
+
+/// Qt's dialog stores bytes.
+constexpr EmbeddingTraits traits{0.5 / 255};
+
+}  // namespace
+
+DialogPanel::DialogPanel(EmbeddingDialog& dialog, QtDesktop& desktop)
+    : EmbeddedPanel(dialog, traits, desktop)
+{
+}
+
+bool DialogPanel::showPage(const LoadedPlugin& plugin, HostView& holder,
+                           const HostColor& initialColor)
+{
+    if (!EmbeddedPanel::showPage(plugin, holder, initialColor)) return false;
+    pageDidAppear();
+    return true;
+}
+
+void DialogPanel::finishEditing()
+{
+    // Collected first, because entering a field's text may change the views.
+    std::vector<QtTextField*> fields;
+    forEachBelow<QtTextField>(pageView(), [&](QtTextField& field) { fields.push_back(&field); });
+    for (QtTextField* field : fields)
+        field->finishEditing();
+}
+
+bool DialogPanel::takeText(const QString& text)
+{
+    const Result<CSSColor> read = colorInText(u16From(text));
+    if (read) setColor(read->color);
+    return static_cast<bool>(read);
+}
+
+}  // namespace vantorel

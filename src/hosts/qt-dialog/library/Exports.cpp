@@ -1,0 +1,58 @@
+#include "embedding/PageLibrary.h"
+#include "embedding/loader/DialogLibrary.h"
+#include "hosts/qt-dialog/DialogPage.h"
+
+/// The functions that the loader calls (see embedding/loader/DialogLibrary.h).
+namespace vantorel {
+namespace {
+
+constexpr const char* pageName = "/QTXHexColorPicker.so";
+
+const LoadedPlugin*& openedPage()
+{
+    static const LoadedPlugin* page = nullptr;
+    return page;
+}
+
+/// Never destroyed: a dialog may outlive the static objects of a program that ends.
+QtDesktop& desktopOfProgram()
+{
+    static auto* const desktop = new QtDesktop;
+    return *desktop;
+}
+
+}  // namespace
+}  // namespace vantorel
+
+extern "C" {
+
+__attribute__((visibility("default"))) extern const std::uint32_t vantorelDialogABI;
+__attribute__((visibility("default"))) bool vantorelOpenPage(const char* pagesFolder);
+__attribute__((visibility("default"))) void vantorelAttachPage(void* dialog);
+
+const std::uint32_t vantorelDialogABI = vantorel::dialogLibraryABI;
+
+bool vantorelOpenPage(const char* pagesFolder)
+{
+    try {
+        vantorel::openedPage() =
+            vantorel::pageOfLibrary(std::string(pagesFolder) + vantorel::pageName);
+        return vantorel::openedPage() != nullptr;
+    } catch (...) {
+        return false;
+    }
+}
+
+void vantorelAttachPage(void* dialog)
+{
+    try {
+        auto* colorDialog = qobject_cast<QColorDialog*>(static_cast<QObject*>(dialog));
+        if (colorDialog == nullptr || vantorel::openedPage() == nullptr) return;
+        vantorel::DialogPage::putInto(*colorDialog, *vantorel::openedPage(),
+                                      vantorel::desktopOfProgram());
+    } catch (...) {
+        // The dialog opens without the page.
+        return;
+    }
+}
+}

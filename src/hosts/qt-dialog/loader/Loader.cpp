@@ -1,0 +1,94 @@
+#include "embedding/loader/DialogLibrary.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGenericPlugin>
+
+/// The plug-in that Qt loads at the start of every program. It links neither Qt Widgets nor the
+/// rest of our code: most programs never open a colour dialog.
+namespace vantorel {
+namespace {
+
+constexpr const char* dialogClass = "QColorDialog";
+constexpr const char* libraryName = VANTOREL_DIALOG_LIBRARY;
+
+/// Waits for colour dialogs.
+class DialogWatcher final : public QObject {
+public:
+    DialogWatcher()
+    {
+        if (QCoreApplication* program = QCoreApplication::instance()) {
+            program->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (_forbidsNativeDialogs) allowNativeDialogs();
+        switch (event->type()) {
+            case QEvent::WindowTitleChange:
+                if (isDialogBeingMade(*watched) && _library.open(libraryName)) {
+                    forbidNativeDialogs();
+                }
+                break;
+            case QEvent::Polish:
+                if (isDialog(*watched) && _library.open(libraryName)) {
+                    _library.attachPage(watched);
+                }
+                break;
+            default:
+                break;
+        }
+        return false;
+    }
+
+private:
+    static bool isDialog(const QObject& object)
+    {
+        return object.isWidgetType() && object.inherits(dialogClass);
+    }
+
+    /// The constructor of a dialog sets its title, and then decides whether the desktop's own
+    /// dialog is shown in its place, before it has any children.
+    static bool isDialogBeingMade(const QObject& object)
+    {
+        return isDialog(object) && object.children().isEmpty();
+    }
+
+    /// Until the next event, so that other dialogs, such as those for files, stay the desktop's.
+    void forbidNativeDialogs()
+    {
+        if (QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs)) return;
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
+        _forbidsNativeDialogs = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (_forbidsNativeDialogs) allowNativeDialogs();
+            },
+            Qt::QueuedConnection);
+    }
+
+    void allowNativeDialogs()
+    {
+        _forbidsNativeDialogs = false;
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+    }
+
+    DialogLibrary _library;
+    bool _forbidsNativeDialogs = false;
+};
+
+}  // namespace
+
+class LoaderPlugin final : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "vantorel.json")
+
+public:
+    QObject* create(const QString&, const QString&) override { return new DialogWatcher; }
+};
+
+}  // namespace vantorel
+
+#include "Loader.moc"

@@ -1,0 +1,90 @@
+#include <QApplication>
+#include <QColorDialog>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstring>
+
+/// A program of somebody else, which knows nothing of us. Opens a colour dialog and prints what it
+/// hears of it:
+///
+///     shown WIDTH HEIGHT CLASSES     the dialog's size, and the classes that its window shows
+///     current #AARRGGBB              each change
+///     selected #AARRGGBB             OK
+///     rejected
+///
+/// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
+/// destroyed half a second after the first change), none (no dialog: ends when the event loop has
+/// started).
+namespace {
+
+void print(const char* what, const QColor& color)
+{
+    std::printf("%s %s\n", what, color.name(QColor::HexArgb).toUtf8().constData());
+    std::fflush(stdout);
+}
+
+void useDarkPalette()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette(QColor(53, 53, 58), QColor(40, 40, 44));
+    palette.setColor(QPalette::Highlight, QColor(70, 130, 220));
+    QApplication::setPalette(palette);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication program(argc, argv);
+    const auto has = [&](const char* option) {
+        for (int i = 1; i < argc; ++i) {
+            if (std::strcmp(argv[i], option) == 0) return true;
+        }
+        return false;
+    };
+    if (has("none")) {
+        QTimer::singleShot(0, &program, &QCoreApplication::quit);
+        return QApplication::exec();
+    }
+    if (has("dark")) useDarkPalette();
+    QColorDialog::ColorDialogOptions options;
+    if (has("alpha")) options |= QColorDialog::ShowAlphaChannel;
+    if (has("not-native")) options |= QColorDialog::DontUseNativeDialog;
+    const QColor initial(0x33, 0x66, 0x99);
+    if (has("modal")) {
+        const QColor chosen =
+            QColorDialog::getColor(initial, nullptr, QStringLiteral("Trial"), options);
+        if (chosen.isValid()) {
+            print("selected", chosen);
+        } else {
+            std::puts("rejected");
+        }
+        return 0;
+    }
+    auto* dialog = new QColorDialog(initial);
+    dialog->setWindowTitle(QStringLiteral("Trial"));
+    dialog->setOptions(options);
+    const bool isGoneSoon = has("gone");
+    QObject::connect(dialog, &QColorDialog::currentColorChanged, dialog, [=](const QColor& color) {
+        print("current", color);
+        if (isGoneSoon) QTimer::singleShot(500, dialog, [=] { delete dialog; });
+    });
+    QObject::connect(dialog, &QObject::destroyed, &program, [] {
+        std::puts("destroyed");
+        std::fflush(stdout);
+        QTimer::singleShot(500, QCoreApplication::instance(), &QCoreApplication::quit);
+    });
+    QObject::connect(dialog, &QColorDialog::colorSelected, dialog,
+                     [](const QColor& color) { print("selected", color); });
+    QObject::connect(dialog, &QDialog::rejected, dialog, [] { std::puts("rejected"); });
+    QObject::connect(dialog, &QDialog::finished, &program, &QCoreApplication::quit);
+    dialog->show();
+    QTimer::singleShot(0, dialog, [=] {
+        std::printf("shown %d %d\n", dialog->width(), dialog->height());
+        std::fflush(stdout);
+    });
+    return QApplication::exec();
+}
