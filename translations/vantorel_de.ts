@@ -1541,6 +1541,126 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
         <source>copy again, or close that program</source>
         <translation>kopieren Sie erneut, oder schließen Sie dieses Programm</translation>
     </message>
+    <message>
+        <source>The user cancelled, a picture could not be written, or there is no display.</source>
+        <translation>Der Benutzer hat abgebrochen, ein Bild ließ sich nicht schreiben, oder es gibt keine Anzeige.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>Die Befehlszeile ist falsch.</translation>
+    </message>
+    <message>
+        <source>Picking, choosing or copying is not possible; the reason is reported on standard error.</source>
+        <translation>Aufnehmen, Wählen oder Kopieren ist nicht möglich; der Grund wird auf der Standardfehlerausgabe gemeldet.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings, colour lists and plug-ins. If the variable is not set, the folder is ~/.local/share/Vantorel/.</source>
+        <translation>Einstellungen, Farblisten und Plug-ins des Benutzers. Ist die Variable nicht gesetzt, ist der Ordner ~/.local/share/Vantorel/.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
+        <translation>Der Benutzer hat „choose“ oder „pick“ ohne Farbe verlassen.</translation>
+    </message>
+    <message>
+        <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
+        <translation>Ein Fehler, etwa eine falsche Option, ein Text, der keine Farbe ist, oder eine Datei, die sich nicht lesen lässt. Er wird auf der Standardfehlerausgabe gemeldet.</translation>
+    </message>
+    <message>
+        <source>&quot;choose&quot; or &quot;pick&quot; is not possible, for example without a display.</source>
+        <translation>„choose“ oder „pick“ ist nicht möglich, zum Beispiel ohne Anzeige.</translation>
+    </message>
+    <message>
+        <source>If it is &quot;truecolor&quot; or &quot;24bit&quot;, a terminal shows a patch of each colour.</source>
+        <translation>Ist der Wert „truecolor“ oder „24bit“, zeigt ein Terminal ein Feld mit jeder Farbe.</translation>
+    </message>
+    <message>
+        <source>If it is set and not empty, no patches are shown.</source>
+        <translation>Ist sie gesetzt und nicht leer, werden keine Farbfelder gezeigt.</translation>
+    </message>
+    <message>
+        <source>The folder that contains settings and colour lists, instead of ~/.local/share.</source>
+        <translation>Der Ordner mit Einstellungen und Farblisten, anstelle von ~/.local/share.</translation>
+    </message>
+    <message>
+        <source>The folder that contains the palettes of graphics programs, instead of ~/.config.</source>
+        <translation>Der Ordner mit den Paletten von Grafikprogrammen, anstelle von ~/.config.</translation>
+    </message>
+    <message>
+        <source>The settings of the colour picker. They are never changed.</source>
+        <translation>Die Einstellungen des Farbwählers. Sie werden nie geändert.</translation>
+    </message>
+    <message>
+        <source>Your colour lists.</source>
+        <translation>Ihre Farblisten.</translation>
+    </message>
+    <message>
+        <source>The files that &quot;list publish&quot; replaced, for its option --undo.</source>
+        <translation>Die Dateien, die „list publish“ ersetzt hat, für dessen Option --undo.</translation>
+    </message>
+    <message>
+        <source>&quot;pick&quot;, &quot;choose&quot; and &quot;panel&quot; exit with the status of vantorel-panel.</source>
+        <translation>„pick“, „choose“ und „panel“ enden mit dem Status von vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Dienstprogramme für Benutzer</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>BEZEICHNUNG</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>ÜBERSICHT</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>BESCHREIBUNG</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>Show help. After a command, show the help of that command.</source>
+        <translation>Zeigt die Hilfe, nach einem Befehl die Hilfe zu diesem.</translation>
+    </message>
+    <message>
+        <source>COMMANDS</source>
+        <translation>BEFEHLE</translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <translation>SIEHE AUCH</translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <translation>EXIT-STATUS</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>DATEIEN</translation>
+    </message>
+    <message>
+        <source>a colour panel with pages from plug-ins</source>
+        <translation>ein Farbfenster mit Seiten aus Plug-ins</translation>
+    </message>
+    <message>
+        <source>ENVIRONMENT</source>
+        <translation>UMGEBUNGSVARIABLEN</translation>
+    </message>
+    <message>
+        <source>EXAMPLES</source>
+        <translation>BEISPIELE</translation>
+    </message>
+    <message>
+        <source>colours for people who write CSS and code</source>
+        <translation>Farben für Menschen, die CSS und Code schreiben</translation>
+    </message>
+    <message>
+        <source>The command succeeded.</source>
+        <translation>Der Befehl war erfolgreich.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1541,6 +1541,126 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <source>copy again, or close that program</source>
         <translation>copie de nuevo, o cierre ese programa</translation>
     </message>
+    <message>
+        <source>The user cancelled, a picture could not be written, or there is no display.</source>
+        <translation>El usuario ha cancelado, no se ha podido escribir una imagen o no hay pantalla.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>La línea de órdenes es incorrecta.</translation>
+    </message>
+    <message>
+        <source>Picking, choosing or copying is not possible; the reason is reported on standard error.</source>
+        <translation>No es posible tomar, elegir o copiar; el motivo se comunica por el error estándar.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings, colour lists and plug-ins. If the variable is not set, the folder is ~/.local/share/Vantorel/.</source>
+        <translation>Los ajustes, las listas de colores y los complementos del usuario. Si la variable no está definida, la carpeta es ~/.local/share/Vantorel/.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
+        <translation>El usuario ha salido de «choose» o «pick» sin un color.</translation>
+    </message>
+    <message>
+        <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
+        <translation>Un error, como una opción incorrecta, un texto que no es un color o un archivo que no se puede leer. Se comunica por el error estándar.</translation>
+    </message>
+    <message>
+        <source>&quot;choose&quot; or &quot;pick&quot; is not possible, for example without a display.</source>
+        <translation>«choose» o «pick» no es posible, por ejemplo sin pantalla.</translation>
+    </message>
+    <message>
+        <source>If it is &quot;truecolor&quot; or &quot;24bit&quot;, a terminal shows a patch of each colour.</source>
+        <translation>Si vale «truecolor» o «24bit», un terminal muestra una muestra de cada color.</translation>
+    </message>
+    <message>
+        <source>If it is set and not empty, no patches are shown.</source>
+        <translation>Si está definida y no está vacía, no se muestran.</translation>
+    </message>
+    <message>
+        <source>The folder that contains settings and colour lists, instead of ~/.local/share.</source>
+        <translation>La carpeta que contiene los ajustes y las listas de colores, en lugar de ~/.local/share.</translation>
+    </message>
+    <message>
+        <source>The folder that contains the palettes of graphics programs, instead of ~/.config.</source>
+        <translation>La carpeta que contiene las paletas de los programas gráficos, en lugar de ~/.config.</translation>
+    </message>
+    <message>
+        <source>The settings of the colour picker. They are never changed.</source>
+        <translation>Los ajustes del selector. No se cambian nunca.</translation>
+    </message>
+    <message>
+        <source>Your colour lists.</source>
+        <translation>Sus listas de colores.</translation>
+    </message>
+    <message>
+        <source>The files that &quot;list publish&quot; replaced, for its option --undo.</source>
+        <translation>Los archivos que «list publish» ha reemplazado, para su opción --undo.</translation>
+    </message>
+    <message>
+        <source>&quot;pick&quot;, &quot;choose&quot; and &quot;panel&quot; exit with the status of vantorel-panel.</source>
+        <translation>«pick», «choose» y «panel» terminan con el estado de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Órdenes de usuario</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SINOPSIS</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIPCIÓN</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPCIONES</translation>
+    </message>
+    <message>
+        <source>Show help. After a command, show the help of that command.</source>
+        <translation>Muestra la ayuda; después de una orden, la ayuda de esa orden.</translation>
+    </message>
+    <message>
+        <source>COMMANDS</source>
+        <translation>ÓRDENES</translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <translation>VÉASE TAMBIÉN</translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <translation>ESTADO DE SALIDA</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>ARCHIVOS</translation>
+    </message>
+    <message>
+        <source>a colour panel with pages from plug-ins</source>
+        <translation>un panel de colores con páginas de complementos</translation>
+    </message>
+    <message>
+        <source>ENVIRONMENT</source>
+        <translation>ENTORNO</translation>
+    </message>
+    <message>
+        <source>EXAMPLES</source>
+        <translation>EJEMPLOS</translation>
+    </message>
+    <message>
+        <source>colours for people who write CSS and code</source>
+        <translation>colores para quienes escriben CSS y código</translation>
+    </message>
+    <message>
+        <source>The command succeeded.</source>
+        <translation>La orden ha tenido éxito.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1541,6 +1541,126 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <source>copy again, or close that program</source>
         <translation>copiez de nouveau, ou fermez ce programme</translation>
     </message>
+    <message>
+        <source>The user cancelled, a picture could not be written, or there is no display.</source>
+        <translation>L’utilisateur a annulé, une image n’a pas pu être écrite ou il n’y a pas d’affichage.</translation>
+    </message>
+    <message>
+        <source>The command line is wrong.</source>
+        <translation>La ligne de commande est incorrecte.</translation>
+    </message>
+    <message>
+        <source>Picking, choosing or copying is not possible; the reason is reported on standard error.</source>
+        <translation>Il n’est pas possible de prélever, de choisir ou de copier ; la raison est signalée sur l’erreur standard.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings, colour lists and plug-ins. If the variable is not set, the folder is ~/.local/share/Vantorel/.</source>
+        <translation>Les réglages, listes de couleurs et greffons de l’utilisateur. Si la variable n’est pas définie, le dossier est ~/.local/share/Vantorel/.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
+        <translation>L’utilisateur a quitté « choose » ou « pick » sans couleur.</translation>
+    </message>
+    <message>
+        <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
+        <translation>Une erreur, comme une option incorrecte, un texte qui n’est pas une couleur ou un fichier illisible. Elle est signalée sur l’erreur standard.</translation>
+    </message>
+    <message>
+        <source>&quot;choose&quot; or &quot;pick&quot; is not possible, for example without a display.</source>
+        <translation>« choose » ou « pick » n’est pas possible, par exemple sans affichage.</translation>
+    </message>
+    <message>
+        <source>If it is &quot;truecolor&quot; or &quot;24bit&quot;, a terminal shows a patch of each colour.</source>
+        <translation>Si elle vaut « truecolor » ou « 24bit », un terminal montre un échantillon de chaque couleur.</translation>
+    </message>
+    <message>
+        <source>If it is set and not empty, no patches are shown.</source>
+        <translation>Si elle est définie et n’est pas vide, aucun échantillon n’est montré.</translation>
+    </message>
+    <message>
+        <source>The folder that contains settings and colour lists, instead of ~/.local/share.</source>
+        <translation>Le dossier qui contient les réglages et les listes de couleurs, au lieu de ~/.local/share.</translation>
+    </message>
+    <message>
+        <source>The folder that contains the palettes of graphics programs, instead of ~/.config.</source>
+        <translation>Le dossier qui contient les palettes des programmes graphiques, au lieu de ~/.config.</translation>
+    </message>
+    <message>
+        <source>The settings of the colour picker. They are never changed.</source>
+        <translation>Les réglages du sélecteur. Ils ne sont jamais modifiés.</translation>
+    </message>
+    <message>
+        <source>Your colour lists.</source>
+        <translation>Vos listes de couleurs.</translation>
+    </message>
+    <message>
+        <source>The files that &quot;list publish&quot; replaced, for its option --undo.</source>
+        <translation>Les fichiers que « list publish » a remplacés, pour son option --undo.</translation>
+    </message>
+    <message>
+        <source>&quot;pick&quot;, &quot;choose&quot; and &quot;panel&quot; exit with the status of vantorel-panel.</source>
+        <translation>« pick », « choose » et « panel » se terminent avec l’état de vantorel-panel.</translation>
+    </message>
+    <message>
+        <source>User Commands</source>
+        <translation>Commandes de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <translation>SYNOPSIS</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIPTION</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONS</translation>
+    </message>
+    <message>
+        <source>Show help. After a command, show the help of that command.</source>
+        <translation>Affiche l’aide ; après une commande, l’aide de cette commande.</translation>
+    </message>
+    <message>
+        <source>COMMANDS</source>
+        <translation>COMMANDES</translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <translation>VOIR AUSSI</translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <translation>CODE DE RETOUR</translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <translation>FICHIERS</translation>
+    </message>
+    <message>
+        <source>a colour panel with pages from plug-ins</source>
+        <translation>un panneau de couleurs avec des pages de greffons</translation>
+    </message>
+    <message>
+        <source>ENVIRONMENT</source>
+        <translation>ENVIRONNEMENT</translation>
+    </message>
+    <message>
+        <source>EXAMPLES</source>
+        <translation>EXEMPLES</translation>
+    </message>
+    <message>
+        <source>colours for people who write CSS and code</source>
+        <translation>des couleurs pour celles et ceux qui écrivent du CSS et du code</translation>
+    </message>
+    <message>
+        <source>The command succeeded.</source>
+        <translation>La commande a réussi.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

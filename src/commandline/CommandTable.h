@@ -64,20 +64,35 @@ struct CommandRow {
     /// then operands, including "--help" and "--".
     const CommandRow* handsOnTo = nullptr;
 
-    /// Returns the first line of the text.
-    [[nodiscard]] std::string_view summary() const { return text.substr(0, text.find('\n')); }
     /// Whether the command can only be used with one of its subcommands.
     [[nodiscard]] bool needsCommand() const { return !commands.empty() && operands.empty(); }
+};
+
+/// A term of the manual page, such as an exit status or a file, and its explanation.
+struct TermRow {
+    std::string_view term;
+    std::string_view text;
+};
+
+/// A section of the manual page after the commands. Its parts follow each other in this order.
+struct SectionRow {
+    PhraseText<> title;
+    std::span<const TermRow> terms = {};
+    /// A paragraph; may be empty.
+    std::string_view text = {};
+    /// Lines that are printed unchanged, for examples.
+    std::span<const std::string_view> lines = {};
 };
 
 struct ProgramRow {
     /// The program itself. Its options include "--version".
     CommandRow command;
     /// Follows the name in the manual page: "colours for people who write CSS and code".
-    std::string_view subject = {};
+    PhraseText<> subject;
     std::string_view version;
-    /// The sections of the manual page after the commands, written in man macros.
-    std::string_view furtherSections = {};
+    std::span<const SectionRow> sections = {};
+    /// The program whose manual page this one refers to.
+    std::string_view seeAlso = {};
 };
 
 /// The option "-h" or "--help", for generators of texts about options.

@@ -1,4 +1,5 @@
 #include "commandline/Descriptions.h"
+#include "commandline/Translations.h"
 
 #include <algorithm>
 #include <functional>
@@ -221,7 +222,7 @@ std::string zshArguments(const CommandRow& command)
     for (const OptionRow* option : allOptions(command)) {
         for (const std::string& name : namesOf(*option)) {
             std::string word = (option->isRepeatable ? "*" : "") + name + "[" +
-                               zshText(english(explanationOf(*option))) + "]";
+                               zshText(inUsersWords(explanationOf(*option))) + "]";
             if (!option->value.empty())
                 word += zshValue(option->value, option->choices, option->valuesFrom);
             words.push_back(word);
@@ -258,7 +259,7 @@ std::string zshScript(const CommandRow& program)
             "    case $state in\n        command)\n            local -a commands=(\n";
         for (const CommandRow& inner : command.commands) {
             functions += "                " +
-                         shellQuoted(std::string(inner.name) + ":" + zshText(inner.summary())) +
+                         shellQuoted(std::string(inner.name) + ":" + zshText(summaryOf(inner))) +
                          "\n";
         }
         functions +=
@@ -310,7 +311,7 @@ std::string fishScript(const CommandRow& program)
     forEachCommand(program, {}, [&](const CommandRow& command, const std::string& path) {
         for (const CommandRow& inner : command.commands) {
             script += complete + fishCondition(command, path, true) + " -a " +
-                      std::string(inner.name) + " -d " + shellQuoted(inner.summary(), true) + "\n";
+                      std::string(inner.name) + " -d " + shellQuoted(summaryOf(inner), true) + "\n";
         }
         const std::string begin = complete + fishCondition(command, path, false);
         for (const OptionRow* option : allOptions(command)) {
@@ -327,7 +328,8 @@ std::string fishScript(const CommandRow& program)
             } else if (!option->value.empty()) {
                 line += " -x";
             }
-            script += line + " -d " + shellQuoted(english(explanationOf(*option)), true) + "\n";
+            script +=
+                line + " -d " + shellQuoted(inUsersWords(explanationOf(*option)), true) + "\n";
         }
         for (const OperandRow& operand : command.operands) {
             std::string values;
@@ -336,7 +338,8 @@ std::string fishScript(const CommandRow& program)
             if (operand.choices != nullptr)
                 values = " -a " + shellQuoted(joined(valuesOf(operand.choices)));
             if (!values.empty())
-                script += begin + values + " -d " + shellQuoted(operand.text, true) + "\n";
+                script += begin + values + " -d " +
+                          shellQuoted(inUsersWords(phraseOf(operand.text)), true) + "\n";
         }
     });
     return script;

@@ -54,6 +54,12 @@ void appendHelpRow(std::string& result, std::string_view term, std::string_view 
 
 }  // namespace
 
+std::string summaryOf(const CommandRow& command)
+{
+    const std::string text = inUsersWords(phraseOf(command.text));
+    return text.substr(0, text.find('\n'));
+}
+
 std::string helpText(const CommandRow& command, const std::string& names)
 {
     std::string text;
@@ -72,16 +78,14 @@ std::string helpText(const CommandRow& command, const std::string& names)
         appendWrapped(text, paragraph, 0, 0);
     }
     const auto appendTitle = [&text](PhraseText<> title) {
-        text += "\n" + inUsersWords(Phrase(title.text(), {})) + "\n";
+        text += "\n" + inUsersWords(title) + "\n";
     };
     if (!command.operands.empty()) appendTitle(phraseText("Arguments:"));
     for (const OperandRow& operand : command.operands)
         appendHelpRow(text, formOf(operand), inUsersWords(phraseOf(operand.text)));
     if (!command.commands.empty()) appendTitle(phraseText("Commands:"));
-    for (const CommandRow& inner : command.commands) {
-        const std::string whole = inUsersWords(phraseOf(inner.text));
-        appendHelpRow(text, inner.name, paragraphsOf(whole).front());
-    }
+    for (const CommandRow& inner : command.commands)
+        appendHelpRow(text, inner.name, summaryOf(inner));
     appendTitle(phraseText("Options:"));
     appendHelpRow(text, formOf(helpOption), inUsersWords(explanationOf(helpOption)));
     for (const OptionRow& option : command.options)

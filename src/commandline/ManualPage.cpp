@@ -1,4 +1,5 @@
 #include "commandline/Descriptions.h"
+#include "commandline/Translations.h"
 #include "text/ASCII.h"
 
 namespace vantorel {
@@ -45,26 +46,32 @@ void appendText(std::string& page, std::string_view text)
 
 void appendParagraphs(std::string& page, std::string_view text)
 {
+    const std::string words = inUsersWords(phraseOf(text));
     bool isFirst = true;
-    for (const std::string_view paragraph : paragraphsOf(text)) {
+    for (const std::string_view paragraph : paragraphsOf(words)) {
         if (!isFirst) page += ".PP\n";
         isFirst = false;
         appendText(page, paragraph);
     }
 }
 
-void appendEntry(std::string& page, std::string_view term, std::string_view text)
+void appendTitle(std::string& page, PhraseText<> title)
+{
+    page += ".SH " + roffText(inUsersWords(title)) + "\n";
+}
+
+void appendEntry(std::string& page, std::string_view term, const Phrase& text)
 {
     page += ".TP\n.B " + roffText(term) + "\n";
-    appendText(page, text);
+    appendText(page, inUsersWords(text));
 }
 
 void appendArguments(std::string& page, const CommandRow& command)
 {
     for (const OperandRow& operand : command.operands)
-        appendEntry(page, formOf(operand), operand.text);
+        appendEntry(page, formOf(operand), phraseOf(operand.text));
     for (const OptionRow& option : command.options)
-        appendEntry(page, formOf(option), english(explanationOf(option)));
+        appendEntry(page, formOf(option), explanationOf(option));
 }
 
 void appendCommands(std::string& page, const CommandRow& command, const std::string& names)
@@ -77,6 +84,22 @@ void appendCommands(std::string& page, const CommandRow& command, const std::str
     }
 }
 
+void appendSection(std::string& page, const SectionRow& section)
+{
+    appendTitle(page, section.title);
+    for (const TermRow& row : section.terms)
+        appendEntry(page, row.term, phraseOf(row.text));
+    if (!section.text.empty()) {
+        page += ".PP\n";
+        appendParagraphs(page, section.text);
+    }
+    if (section.lines.empty()) return;
+    page += ".nf\n";
+    for (const std::string_view line : section.lines)
+        appendText(page, line);
+    page += ".fi\n";
+}
+
 }  // namespace
 
 std::string manualPage(const ProgramRow& program)
@@ -84,27 +107,34 @@ std::string manualPage(const ProgramRow& program)
     const CommandRow& command = program.command;
     const std::string name = roffText(command.name);
     std::string page = ".TH " + roffText(upperCased(std::string(command.name))) +
-                       " 1 \"\" \"Vantorel " + std::string(program.version) +
-                       "\" \"User Commands\"\n.SH NAME\n";
-    page += name + " \\- " + roffText(program.subject) + "\n.SH SYNOPSIS\n.B " + name + "\n";
+                       " 1 \"\" \"Vantorel " + std::string(program.version) + "\" \"" +
+                       roffText(inUsersWords(phraseText("User Commands"))) + "\"\n";
+    appendTitle(page, phraseText("NAME"));
+    page += name + " \\- " + roffText(inUsersWords(program.subject)) + "\n";
+    appendTitle(page, phraseText("SYNOPSIS"));
+    page += ".B " + name + "\n";
     if (command.needsCommand()) page += ".I COMMAND\n";
     page += "[\\fIOPTION\\fR...]";
     if (command.needsCommand()) page += " [\\fIARGUMENT\\fR...]";
     for (const OperandRow& operand : command.operands)
         page += " [\\fI" + roffText(formOf(operand)) + "\\fR]";
-    page += "\n.SH DESCRIPTION\n";
+    page += "\n";
+    appendTitle(page, phraseText("DESCRIPTION"));
     appendParagraphs(page, command.text);
-    page += ".SH OPTIONS\n";
+    appendTitle(page, phraseText("OPTIONS"));
     appendEntry(page, formOf(helpOption),
                 command.commands.empty()
-                    ? english(explanationOf(helpOption))
-                    : "Show help. After a command, show the help of that command.");
+                    ? explanationOf(helpOption)
+                    : phrase("Show help. After a command, show the help of that command."));
     appendArguments(page, command);
     if (!command.commands.empty()) {
-        page += ".SH COMMANDS\n";
+        appendTitle(page, phraseText("COMMANDS"));
         appendCommands(page, command, std::string(command.name));
     }
-    page += program.furtherSections;
+    for (const SectionRow& section : program.sections)
+        appendSection(page, section);
+    appendTitle(page, phraseText("SEE ALSO"));
+    page += ".BR " + roffText(program.seeAlso) + " (1)\n";
     return page;
 }
 

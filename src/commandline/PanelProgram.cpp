@@ -72,6 +72,23 @@ constexpr OptionRow panelOptions[] = {
     {"--version", {}, "Show the version and exit."},
 };
 
+constexpr TermRow panelStatuses[] = {
+    {"0", "The command succeeded."},
+    {"1", "The user cancelled, a picture could not be written, or there is no display."},
+    {"2", "The command line is wrong."},
+    {"3",
+     "Picking, choosing or copying is not possible; the reason is reported on standard error."},
+};
+constexpr TermRow panelFiles[] = {
+    {"$XDG_DATA_HOME/Vantorel/",
+     "The user's settings, colour lists and plug-ins. If the variable is not set, the folder is "
+     "~/.local/share/Vantorel/."},
+};
+constexpr SectionRow panelSections[] = {
+    {.title = phraseText("EXIT STATUS"), .terms = panelStatuses},
+    {.title = phraseText("FILES"), .terms = panelFiles},
+};
+
 }  // namespace
 
 constinit const ProgramRow vantorelPanelProgram{
@@ -82,29 +99,10 @@ constinit const ProgramRow vantorelPanelProgram{
              "shown and carries out COLOR, --color, --pick, --pick-and-copy, --copy and --copy-as.",
          .operands = panelOperands,
          .options = panelOptions},
-    .subject = "a colour panel with pages from plug-ins",
+    .subject = phraseText("a colour panel with pages from plug-ins"),
     .version = VANTOREL_VERSION,
-    .furtherSections = R"(.SH EXIT STATUS
-.TP
-.B 0
-Success.
-.TP
-.B 1
-The user cancelled, a picture could not be written, or there is no display.
-.TP
-.B 2
-The command line is wrong.
-.TP
-.B 3
-Picking, choosing or copying is not possible; the reason is reported on standard error.
-.SH FILES
-.TP
-.I $XDG_DATA_HOME/Vantorel/
-The user's settings, colour lists and plug\-ins. If the variable is not set, the folder is
-.IR \(ti/.local/share/Vantorel/ .
-.SH SEE ALSO
-.BR vantorel (1)
-)",
+    .sections = panelSections,
+    .seeAlso = "vantorel",
 };
 
 }  // namespace vantorel

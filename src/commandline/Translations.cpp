@@ -90,6 +90,11 @@ std::string inUsersWords(const Message& message)
     return words;
 }
 
+std::string inUsersWords(PhraseText<> text)
+{
+    return translation(text.text());
+}
+
 std::vector<std::string> languagesToTranslateTo(const EnvironmentReader& environment)
 {
     std::string locale;

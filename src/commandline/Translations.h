@@ -14,10 +14,11 @@
 /// another language than English.
 namespace vantorel {
 
-/// Returns a phrase or a message in the user's language, without translation in English. A message
-/// becomes "WHAT: REMEDY".
+/// Returns a phrase, a message or a text in the user's language, without translation in English. A
+/// message becomes "WHAT: REMEDY".
 [[nodiscard]] std::string inUsersWords(const Phrase& phrase);
 [[nodiscard]] std::string inUsersWords(const Message& message);
+[[nodiscard]] std::string inUsersWords(PhraseText<> text);
 
 /// Returns the value of an environment variable, or `std::nullopt`.
 using EnvironmentReader = std::function<std::optional<std::string>(const char* name)>;

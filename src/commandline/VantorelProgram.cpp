@@ -182,6 +182,45 @@ constexpr CommandRow vantorelCommands[] = {
 
 constexpr OptionRow vantorelOptions[] = {{"--version", {}, "Show the version."}};
 
+constexpr TermRow exitStatuses[] = {
+    {"0", "The command succeeded."},
+    {"1", "The user left \"choose\" or \"pick\" without a colour."},
+    {"2",
+     "An error, such as a wrong option, a text that is not a colour, or a file that cannot be "
+     "read. It is reported on standard error."},
+    {"3", "\"choose\" or \"pick\" is not possible, for example without a display."},
+};
+constexpr TermRow variables[] = {
+    {"COLORTERM", "If it is \"truecolor\" or \"24bit\", a terminal shows a patch of each colour."},
+    {"NO_COLOR", "If it is set and not empty, no patches are shown."},
+    {"XDG_DATA_HOME",
+     "The folder that contains settings and colour lists, instead of ~/.local/share."},
+    {"XDG_CONFIG_HOME",
+     "The folder that contains the palettes of graphics programs, instead of ~/.config."},
+};
+constexpr TermRow files[] = {
+    {"$XDG_DATA_HOME/Vantorel/Settings.plist",
+     "The settings of the colour picker. They are never changed."},
+    {"$XDG_DATA_HOME/Vantorel/Palettes/*.gpl", "Your colour lists."},
+    {"$XDG_DATA_HOME/Vantorel/Published/*.plist",
+     "The files that \"list publish\" replaced, for its option --undo."},
+};
+constexpr std::string_view examples[] = {
+    "vantorel show orange",
+    "vantorel show --snippet VBasic '#ff8000'",
+    "grep -oi '#[0-9a-f]\\{6\\}' style.css | vantorel name",
+    "vantorel list export \"CSS Keyword\" --format scss --output colors.scss",
+    "vantorel contrast white '#767676'",
+};
+constexpr SectionRow vantorelSections[] = {
+    {.title = phraseText("EXIT STATUS"),
+     .terms = exitStatuses,
+     .text = "\"pick\", \"choose\" and \"panel\" exit with the status of vantorel-panel."},
+    {.title = phraseText("ENVIRONMENT"), .terms = variables},
+    {.title = phraseText("FILES"), .terms = files},
+    {.title = phraseText("EXAMPLES"), .lines = examples},
+};
+
 }  // namespace
 
 constinit const ProgramRow vantorelProgram{
@@ -193,77 +232,10 @@ constinit const ProgramRow vantorelProgram{
                         "Settings, snippets and colour lists are shared with the colour picker.",
                 .options = vantorelOptions,
                 .commands = vantorelCommands},
-    .subject = "colours for people who write CSS and code",
+    .subject = phraseText("colours for people who write CSS and code"),
     .version = VANTOREL_VERSION,
-    .furtherSections = R"(.SH EXIT STATUS
-.TP
-.B 0
-Success.
-.TP
-.B 1
-The user left
-.B choose
-or
-.B pick
-without a colour.
-.TP
-.B 2
-An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is
-reported on standard error.
-.TP
-.B 3
-.B choose
-or
-.B pick
-is not possible, for example without a display.
-.PP
-.BR pick ,
-.B choose
-and
-.B panel
-exit with the status of
-.BR vantorel\-panel .
-.SH ENVIRONMENT
-.TP
-.B COLORTERM
-If it is
-.I truecolor
-or
-.IR 24bit ,
-a terminal shows a patch of each colour.
-.TP
-.B NO_COLOR
-If it is set and not empty, no patches are shown.
-.TP
-.B XDG_DATA_HOME
-The folder that contains settings and colour lists, instead of
-.IR \(ti/.local/share .
-.TP
-.B XDG_CONFIG_HOME
-The folder that contains the palettes of graphics programs, instead of
-.IR \(ti/.config .
-.SH FILES
-.TP
-.I $XDG_DATA_HOME/Vantorel/Settings.plist
-The settings of the colour picker. They are never changed.
-.TP
-.I $XDG_DATA_HOME/Vantorel/Palettes/*.gpl
-Your colour lists.
-.TP
-.I $XDG_DATA_HOME/Vantorel/Published/*.plist
-The files that
-.B list publish
-replaced, for its option
-.BR \-\-undo .
-.SH EXAMPLES
-.nf
-vantorel show orange
-vantorel show \-\-snippet VBasic \(aq#ff8000\(aq
-grep \-oi \(aq#[0\-9a\-f]\e{6\e}\(aq style.css | vantorel name
-vantorel list export \(dqCSS Keyword\(dq \-\-format scss \-\-output colors.scss
-vantorel contrast white \(aq#767676\(aq
-.fi
-)",
+    .sections = vantorelSections,
+    .seeAlso = "vantorel-panel",
 };
 
 }  // namespace vantorel

@@ -10,6 +10,9 @@ import unittest
 
 from program import PROGRAM, ProgramTest, os, sys
 
+# English first, which is the language without a translation.
+LANGUAGES = ["C", "de", "es", "fr"]
+
 
 class Descriptions(ProgramTest):
     def commands(self):
@@ -31,21 +34,57 @@ class Descriptions(ProgramTest):
                 if option != "--help":
                     self.assertIn(".B " + option, section.group(0), command)
 
+    def page_in(self, language, *options):
+        """Returns the path of a manual page in a language."""
+        self.environment["LC_ALL"] = language
+        return self.write(os.path.join(self.root, f"page.{language}.1"), self.output_of("manpage", *options))
+
     def test_man_has_no_warnings(self):
         self.need("man")
-        page = self.write(os.path.join(self.root, "vantorel.1"), self.output_of("manpage"))
-        run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, timeout=60,
-                             env={**self.environment, "LC_ALL": "C.UTF-8", "MANWIDTH": "80", "MAN_DISABLE_SECCOMP": "1"})
-        self.assertEqual((run.returncode, run.stderr), (0, b""))
-        self.assertIn(b"vantorel list export --format FORMAT [OPTION...] NAME", run.stdout.replace(b"\xe2\x80\x90", b"-"))
+        for language in LANGUAGES:
+            run = subprocess.run(["man", "--warnings", "-l", self.page_in(language)], capture_output=True, timeout=60,
+                                 env={**self.environment, "LC_ALL": "C.UTF-8", "MANWIDTH": "80", "MAN_DISABLE_SECCOMP": "1"})
+            self.assertEqual((run.returncode, run.stderr), (0, b""), language)
+            self.assertIn("vantorel list export --format FORMAT [OPTION...] NAME", run.stdout.decode().replace("\u2010", "-"))
 
     def test_mandoc_has_no_warnings(self):
         self.need("mandoc")
-        page = self.write(os.path.join(self.root, "vantorel.1"), self.output_of("manpage"))
-        # The page has no date, so that builds are reproducible.
-        run = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", page], capture_output=True, timeout=60)
-        problems = [line for line in run.stdout.decode().splitlines() if "missing date" not in line]
-        self.assertEqual(problems, [])
+        for language in LANGUAGES:
+            # The page has no date, so that builds are reproducible.
+            run = subprocess.run(["mandoc", "-T", "lint", "-W", "warning", self.page_in(language)], capture_output=True, timeout=60)
+            problems = [line for line in run.stdout.decode().splitlines() if "missing date" not in line]
+            self.assertEqual(problems, [], language)
+
+    def test_the_manual_page_is_in_the_users_language(self):
+        english = self.read(self.page_in("C")).decode().splitlines()
+        self.assertEqual([line for line in english if line.startswith(".SH ")],
+                         [".SH " + title for title in ("NAME", "SYNOPSIS", "DESCRIPTION", "OPTIONS", "COMMANDS", "EXIT STATUS",
+                                                       "ENVIRONMENT", "FILES", "EXAMPLES", "SEE ALSO")])
+        for options in ((), ("--panel",)):
+            english = self.read(self.page_in("C", *options)).decode().splitlines()
+            # What people read; not requests, terms, the synopsis and examples.
+            texts = {line for before, line in zip(english, english[1:])
+                     if not line.startswith((".", "[")) and line.endswith(".") and not before.startswith(".SH NAME")}
+            self.assertGreater(len(texts), 20)
+            for language in LANGUAGES[1:]:
+                translated = self.read(self.page_in(language, *options)).decode().splitlines()
+                self.assertEqual(len(translated), len(english), language)
+                self.assertEqual(texts & set(translated), set(), language)
+
+    def test_whatis_finds_the_name_in_each_language(self):
+        self.need("lexgrog")
+        for language in LANGUAGES:
+            run = subprocess.run(["lexgrog", self.page_in(language)], capture_output=True, timeout=60,
+                                 env={**self.environment, "LC_ALL": "C.UTF-8"})
+            self.assertRegex(run.stdout.decode(), r': "vantorel - .+"\n$', language)
+
+    def test_descriptions_of_completions_are_in_the_users_language(self):
+        self.environment["LC_ALL"] = "de"
+        for shell in ("zsh", "fish"):
+            script = self.output_of("completions", shell)
+            for text in ("Zeichnet das Farbrad.", "Zeigt diese Hilfe.", "Schreibt Hex-Ziffern klein."):
+                self.assertIn(text, script, shell)
+            self.assertNotIn("Draw the colour wheel", script)
 
     def complete_in_bash(self, *words):
         script = self.output_of("completions", "bash")

@@ -33,6 +33,7 @@ constexpr CommandRow commands[] = {
 constexpr OptionRow programOptions[] = {{.name = "--version"}};
 constexpr ProgramRow program{
     .command = {.name = "p", .text = "Things.", .options = programOptions, .commands = commands},
+    .subject = phraseText("a test"),
     .version = "1.2"};
 
 TEST(ArgumentReaderTest, OptionsAndOperandsMayComeInAnyOrder)

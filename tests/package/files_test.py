@@ -129,9 +129,20 @@ class ManualPageTest(TreeTest):
     def test_mandoc_has_no_warnings(self):
         self.need("mandoc")
         for name in ("vantorel", "vantorel-panel"):
-            run = self.run_tool("mandoc", "-T", "lint", "-W", "warning", f"{TREE}/share/man/man1/{name}.1")
-            # The pages have no date, so that builds are reproducible.
-            self.assertEqual([line for line in run.stdout.splitlines() if "missing date" not in line], [], name)
+            for folder in ("", *(language + "/" for language in TRANSLATIONS)):
+                run = self.run_tool("mandoc", "-T", "lint", "-W", "warning", f"{TREE}/share/man/{folder}man1/{name}.1")
+                # The pages have no date, so that builds are reproducible.
+                self.assertEqual([line for line in run.stdout.splitlines() if "missing date" not in line], [], folder + name)
+
+    def test_the_pages_of_a_language_are_in_its_folder(self):
+        # man needs an installed locale to choose the folder itself.
+        for folder, title in (("", "NAME"), ("de/", "BEZEICHNUNG"), ("es/", "NOMBRE"), ("fr/", "NOM")):
+            for name in ("vantorel", "vantorel-panel"):
+                self.assertIn(f"\n.SH {title}\n", text_of(f"{TREE}/share/man/{folder}man1/{name}.1"))
+
+    def test_the_completions_for_everyone_are_english(self):
+        for path in ("zsh/vendor-completions/_vantorel", "fish/vendor_completions.d/vantorel.fish"):
+            self.assertIn("Draw the colour wheel.", text_of(f"{TREE}/share/{path}"))
 
     def test_the_panels_page_explains_every_option_as_its_help_does(self):
         help_text = self.passes(f"{TREE}/bin/vantorel-panel", "--help")
