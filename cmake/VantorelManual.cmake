@@ -3,7 +3,10 @@ include(GNUInstallDirs)
 
 set(VANTOREL_MANUAL_FOLDER "${PROJECT_SOURCE_DIR}/docs/manual")
 set(VANTOREL_MANUAL_PAGE supportManual.htm)
-file(GLOB VANTOREL_MANUAL_PICTURES CONFIGURE_DEPENDS "${VANTOREL_MANUAL_FOLDER}/pictures/*.png")
+# The pages of all languages and their pictures, relative to the folder.
+file(GLOB VANTOREL_MANUAL_FILES CONFIGURE_DEPENDS RELATIVE "${VANTOREL_MANUAL_FOLDER}"
+  "${VANTOREL_MANUAL_FOLDER}/*.htm" "${VANTOREL_MANUAL_FOLDER}/pictures/*.png"
+  "${VANTOREL_MANUAL_FOLDER}/pictures/*/*.png")
 
 # _vantorel_file_url(PATH OUT): sets OUT to the file:// address of a path. Bytes that an address cannot
 # contain are escaped.
@@ -44,7 +47,4 @@ if(NOT VANTOREL_MANUAL_URL_IN_FORCE MATCHES "^[a-z][a-z0-9+.-]*://[!-~]*/support
     "https://HOST/${VANTOREL_MANUAL_PAGE}, with spaces and non-ASCII characters escaped")
 endif()
 
-install(FILES "${VANTOREL_MANUAL_FOLDER}/${VANTOREL_MANUAL_PAGE}"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vantorel")
-install(FILES ${VANTOREL_MANUAL_PICTURES}
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vantorel/pictures")
+install(DIRECTORY "${VANTOREL_MANUAL_FOLDER}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vantorel")

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Lowercase</source>
-        <translation>Kleinbuchstaben</translation>
+        <translation>Klein (a–f)</translation>
     </message>
     <message>
         <source>No Match</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Uppercase</source>
-        <translation>Großbuchstaben</translation>
+        <translation>Groß (A–F)</translation>
     </message>
 </context>
 <context>
@@ -1722,7 +1722,7 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
     </message>
     <message>
         <source>Drag</source>
-        <translation>Beim Ziehen</translation>
+        <translation>Ziehen</translation>
     </message>
     <message>
         <source>Drag type</source>
@@ -1871,6 +1871,14 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
     <message>
         <source>right digit</source>
         <translation>rechte Ziffer</translation>
+    </message>
+    <message>
+        <source>supportManual.htm</source>
+        <translation>supportManual_de.htm</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>

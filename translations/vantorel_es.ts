@@ -1872,6 +1872,14 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <source>right digit</source>
         <translation>dígito derecho</translation>
     </message>
+    <message>
+        <source>supportManual.htm</source>
+        <translation>supportManual.htm</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

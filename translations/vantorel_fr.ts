@@ -1872,6 +1872,14 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <source>right digit</source>
         <translation>chiffre de droite</translation>
     </message>
+    <message>
+        <source>supportManual.htm</source>
+        <translation>supportManual.htm</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

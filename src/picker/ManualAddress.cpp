@@ -55,10 +55,17 @@ std::string fileURLFromPath(std::string_view path)
 }
 
 std::string manualURL(const std::string& configured, const HostFiles& files,
-                      const HostBundle& bundle)
+                      const HostBundle& bundle, const std::string& translatedPage)
 {
     const auto path = pathOfFileURL(configured);
-    if (!path || files.kindAtPath(*path) == HostFileKind::file) return configured;
+    if (!path) return configured;
+    if (translatedPage != manualPage) {
+        const std::string installed = path->substr(0, path->rfind('/') + 1) + translatedPage;
+        if (files.kindAtPath(installed) == HostFileKind::file) return fileURLFromPath(installed);
+        const auto beside = bundle.pathOfResource(translatedPage);
+        if (beside) return fileURLFromPath(*beside);
+    }
+    if (files.kindAtPath(*path) == HostFileKind::file) return configured;
     const auto beside = bundle.pathOfResource(manualPage);
     return beside ? fileURLFromPath(*beside) : configured;
 }

@@ -45,7 +45,9 @@ void QTXHexColorPicker::helpHexColorAction(HostControl*)
 {
     if (__holdOffSync) return;
     HostDesktop& desktop = colorPanel().desktop();
-    desktop.openURL(manualURL(VANTOREL_MANUAL_URL, desktop.files(), _bundle));
+    // The page is translated like a text: translators name theirs.
+    const std::string page = utf8FromUtf16(desktop.localizedString(u"supportManual.htm"));
+    desktop.openURL(manualURL(VANTOREL_MANUAL_URL, desktop.files(), _bundle, page));
 }
 
 void QTXHexColorPicker::moreIndicatorAction(HostControl*)

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Compares the manual with the program.
 
-    manual_test.py DRIVER PAGE INTERFACE_FILE
+    manual_test.py DRIVER PAGE INTERFACE_FILE TRANSLATIONS
 
-Names come from the driver and the interface file, examples from the page. The program must do what the page
+PAGE is supportManual.htm, or supportManual_LANGUAGE.htm for a language of the folder TRANSLATIONS. Names come
+from the driver and the interface file, examples from the page. The program must do what the page
 says of each example. Attributes mark the elements:
 
     data-control="NAME"         explains the control
@@ -23,8 +24,12 @@ import struct
 import subprocess
 import sys
 import unittest
+import xml.etree.ElementTree as ElementTree
 
-DRIVER, PAGE, INTERFACE_FILE = sys.argv[1:4]
+DRIVER, PAGE, INTERFACE_FILE, TRANSLATIONS = sys.argv[1:5]
+FOLDER = os.path.dirname(PAGE)
+ENGLISH_PAGE = os.path.join(FOLDER, "supportManual.htm")
+LANGUAGE = os.path.basename(PAGE).removesuffix(".htm").removeprefix("supportManual").removeprefix("_")
 VOID = {"meta", "img", "br", "hr"}
 EXAMPLE_COLOR = [1, 127 / 255, 80 / 255, 1]
 EXAMPLE_COMPONENTS = [255, 127, 80]
@@ -51,6 +56,21 @@ def call(name, *arguments):
 
 def state_after(*requests, **opening):
     return ask({**OPEN, **opening}, {"op": "panel.setColor", "color": EXAMPLE_COLOR}, *requests, {"op": "state"})[-1]
+
+
+def translations(language, context):
+    """Returns what a context of a language's file shows for each text."""
+    root = ElementTree.parse(os.path.join(TRANSLATIONS, f"vantorel_{language}.ts")).getroot()
+    return {message.findtext("source"): message.findtext("translation") for each in root.iter("context")
+            if each.findtext("name") == context for message in each.iter("message")}
+
+
+SHOWN = {**translations(LANGUAGE, "Vantorel"), **translations(LANGUAGE, "DisplayNames")} if LANGUAGE else {}
+
+
+def shown(name):
+    """Returns a name as the user of the page sees it."""
+    return SHOWN.get(name, name)
 
 
 class Element:
@@ -107,8 +127,12 @@ class Page(html.parser.HTMLParser):
         self.place.content.append(data)
 
 
-with open(PAGE, encoding="utf-8") as file:
-    SOURCE = file.read()
+def source_of(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+SOURCE = source_of(PAGE)
 PARSED = Page(SOURCE)
 ROOT = PARSED.root
 
@@ -132,18 +156,27 @@ class Form(unittest.TestCase):
         ids = [element.attributes["id"] for element in ROOT.having("id")]
         self.assertEqual(len(ids), len(set(ids)), "an id twice")
         for link in ROOT.tagged("a"):
+            if "hreflang" in link.attributes:
+                continue
             self.assertEqual(link.attributes["href"][0], "#")
             self.assertIn(link.attributes["href"][1:], ids)
+
+    def test_the_page_links_to_the_other_languages(self):
+        links = {link.attributes["hreflang"]: link.attributes["href"] for link in ROOT.having("hreflang")}
+        pages = {(re.fullmatch(r"supportManual_(.+)[.]htm", name) or ["", "en"])[1]: name
+                 for name in os.listdir(FOLDER) if name.endswith(".htm")}
+        self.assertEqual(pages.pop(LANGUAGE or "en"), os.path.basename(PAGE))
+        self.assertEqual(links, pages)
 
     def test_the_page_loads_no_external_files(self):
         self.assertIsNone(re.search(r"https?:|src=\"(?!pictures/)|<script|<link|@import|url\(", SOURCE, re.IGNORECASE))
 
     def test_pictures_exist_and_are_sharp(self):
-        folder = os.path.join(os.path.dirname(PAGE), "pictures")
-        shown = set()
+        folder = os.path.join(FOLDER, "pictures", LANGUAGE)
+        pictures = set()
         for image in ROOT.tagged("img"):
-            name = image.attributes["src"].removeprefix("pictures/")
-            shown.add(name)
+            name = os.path.relpath(os.path.join(FOLDER, image.attributes["src"]), folder)
+            pictures.add(name)
             with open(os.path.join(folder, name), "rb") as file:
                 data = file.read()
             self.assertLess(len(data), LARGEST_PICTURE, name)
@@ -151,7 +184,39 @@ class Form(unittest.TestCase):
             points = (int(image.attributes["width"]), int(image.attributes["height"]))
             self.assertEqual(pixels, (2 * points[0], 2 * points[1]), name)
             self.assertGreater(len(image.attributes["alt"]), 20, name)
-        self.assertEqual(shown, set(os.listdir(folder)), "pictures shown and pictures there")
+        files = {name for name in os.listdir(folder) if name.endswith(".png")}
+        self.assertEqual(pictures, files, "pictures on the page and in its folder")
+
+
+class Translation(unittest.TestCase):
+    """A translated page has the parts of the English one."""
+
+    def setUp(self):
+        self.english = source_of(ENGLISH_PAGE)
+
+    def test_it_has_the_same_elements_in_the_same_order(self):
+        def elements(root):
+            keys = ("id", "class", "data-control", "data-marks", "data-enters", "data-component", "data-typed", "data-drag",
+                    "data-format", "data-vars", "data-list", "data-count")
+            # Words may change places within a paragraph, and emphasis and links with them.
+            return [(each.tag, [(key, each.attributes[key]) for key in keys if key in each.attributes])
+                    for each in root.all(lambda element: element.tag in ("section", "h1", "h2", "h3", "li", "dt", "dd", "tr", "td", "th", "pre", "figure"))]
+        self.assertEqual(elements(ROOT), elements(Page(self.english).root))
+
+    def test_it_looks_the_same(self):
+        style = re.search(r"<style>.*</style>", SOURCE, re.S).group(0)
+        self.assertIn(style, self.english)
+
+    def test_its_language_is_declared(self):
+        (page,) = ROOT.tagged("html")
+        self.assertEqual(page.attributes["lang"], LANGUAGE or "en-GB")
+
+    def test_the_translators_name_it(self):
+        for name in os.listdir(TRANSLATIONS):
+            language = name.removeprefix("vantorel_").removesuffix(".ts")
+            own = f"supportManual_{language}.htm"
+            expected = own if os.path.exists(os.path.join(FOLDER, own)) else "supportManual.htm"
+            self.assertEqual(translations(language, "Vantorel")["supportManual.htm"], expected)
 
 
 class Names(unittest.TestCase):
@@ -161,9 +226,14 @@ class Names(unittest.TestCase):
             names = call(function)
             self.assertTrue(names)
             for name in names:
-                self.assertIn(name, text, function)
+                self.assertIn(shown(name), text, function)
         for mode in (124, 125, 126):
-            self.assertIn(call("stringFromPickViewMode", mode), text)
+            self.assertIn(shown(call("stringFromPickViewMode", mode)), text)
+
+    def test_titles_are_those_of_the_interface(self):
+        text = ROOT.text()
+        for title in ("Use #", "Letter case", "Show", "Code", "Drag", "Help", "Done", "Settings", "Add", "Remove", "No Match", "Empty"):
+            self.assertIn(shown(title), text)
 
     def test_every_control_is_explained(self):
         with open(INTERFACE_FILE, encoding="utf-8") as file:
@@ -207,16 +277,17 @@ class Examples(unittest.TestCase):
             self.assertEqual(state["fields"]["_fullHexText"]["text"], code, typed)
 
     def test_components_give_what_the_page_says(self):
-        shown = []
+        displays = []
         for display, row in self.rows("data-component", 3):
             name, _, typed, digits = row.cells()
-            shown.append(name)
+            displays.append(display)
+            self.assertEqual(name, shown(display))
             state = state_after(
                 {"op": "choose", "popUp": "componentDisplayPopUp", "path": [display]},
                 {"op": "enter", "field": "_redHexText", "text": typed},
             )
             self.assertEqual(state["fields"]["_fullHexText"]["text"], f"#{digits}7F50", typed)
-        self.assertEqual(shown, call("componentDisplayNames")[:3])
+        self.assertEqual(displays, call("componentDisplayNames")[:3])
 
     def test_a_name_is_completed_as_the_page_says(self):
         for typed, element in self.rows("data-typed", 1):
@@ -225,7 +296,12 @@ class Examples(unittest.TestCase):
 
     def test_a_rejected_entry_shows_the_message_of_the_page(self):
         state = state_after({"op": "enter", "field": "_fullHexText", "text": "12345"})
-        self.assertEqual(state["message"]["text"], by_id("input-error").text())
+        self.assertEqual(shown(state["message"]["text"]), by_id("input-error").text())
+
+    def test_too_many_digits_show_what_the_page_says(self):
+        state = state_after({"op": "type", "field": "_fullHexText", "text": "1234567"})
+        number, error = state["fields"]["_rgbDecimalText"]["text"].split(": ")
+        self.assertEqual((number, shown(error)), ("7", by_id("readout-error").text()))
 
     def test_drags_carry_what_the_page_says(self):
         rows = self.rows("data-drag", 4)
@@ -238,9 +314,9 @@ class Examples(unittest.TestCase):
                 {"op": "choose", "popUp": "codeDragTypePopUp", "path": [drag]},
                 {"op": "dragString"},
             )
-            self.assertEqual(name, drag)
+            self.assertEqual(name, shown(drag))
             self.assertEqual(text, replies[-1]["result"] or "–")
-            self.assertEqual(kind, "text" if replies[-1]["result"] else "application/x-color")
+            self.assertEqual(kind == "application/x-color", not replies[-1]["result"], drag)
 
     def test_lists_have_as_many_colours_as_the_page_says(self):
         rows = self.rows("data-list", 3)

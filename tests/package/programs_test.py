@@ -7,7 +7,7 @@ import os
 import shutil
 import tempfile
 
-from installedtree import TREE, TreeTest, main
+from installedtree import SOURCES, TREE, TreeTest, main
 
 VANTOREL = f"{TREE}/bin/vantorel"
 PANEL = f"{TREE}/bin/vantorel-panel"
@@ -55,7 +55,9 @@ class ProgramsTest(TreeTest):
         self.assertIn('there is no page "tints": use one of: hex, dialog, palettes', run.stderr)
 
     def test_the_help_button_finds_the_manual_and_its_pictures_in_a_tree_that_was_moved(self):
-        for name in ("supportManual.htm", "pictures"):
+        pages = [name for name in os.listdir(f"{SOURCES}/docs/manual") if name.endswith(".htm")]
+        self.assertIn("supportManual_de.htm", pages)
+        for name in (*pages, "pictures", "pictures/de/settings.png"):
             self.assertTrue(os.path.samefile(f"{RESOURCES}/{name}", f"{TREE}/share/doc/vantorel/{name}"))
         self.assertIn("settings.png", os.listdir(f"{RESOURCES}/pictures"))
 

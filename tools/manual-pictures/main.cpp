@@ -1,10 +1,12 @@
 #include "hosts/qt/QtColors.h"
+#include "panel/PanelTranslations.h"
 #include "panel/widgets/PanelTheme.h"
 #include "panel/window/PanelWindow.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -12,9 +14,10 @@
 #include <cstdio>
 #include <functional>
 
-/// Makes the pictures of the manual from the real window, without a screen:
+/// Makes the pictures of the manual from the real window, without a screen. LOCALE is that of a
+/// translation, such as "de"; without it, the pictures are English:
 ///
-///     vantorel-manual-pictures FOLDER
+///     vantorel-manual-pictures FOLDER [LOCALE]
 namespace {
 
 using namespace vantorel;
@@ -158,12 +161,14 @@ int main(int argc, char** argv)
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", scale);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2) {
-        static_cast<void>(std::fputs("usage: vantorel-manual-pictures FOLDER\n", stderr));
+    if (arguments.size() != 2 && arguments.size() != 3) {
+        static_cast<void>(std::fputs("usage: vantorel-manual-pictures FOLDER [LOCALE]\n", stderr));
         return 2;
     }
+    QLocale::setDefault(arguments.size() == 3 ? QLocale(arguments[2]) : QLocale::c());
+    installTranslations(application);
     applyTheme(QStringLiteral("light"));
     QApplication::setCursorFlashTime(0);
     for (const Picture& picture : pictures()) {
