@@ -10,8 +10,9 @@ import unittest
 
 from program import PROGRAM, ProgramTest, os, sys
 
+TRANSLATIONS = os.path.join(os.path.dirname(PROGRAM), "../share/vantorel/translations")
 # English first, which is the language without a translation.
-LANGUAGES = ["C", "de", "es", "fr"]
+LANGUAGES = ["C", *sorted(name.removeprefix("vantorel_").removesuffix(".ts") for name in os.listdir(TRANSLATIONS))]
 
 
 class Descriptions(ProgramTest):
