@@ -194,6 +194,16 @@ void QtLabel::setStringValue(const std::u16string& text)
     label()->setText(shown);
     // An accessible name of the label itself would hide its text from assistive technology.
     if (label()->accessibleName() != shown) label()->setAccessibleDescription(shown);
+    placeWidgets(*this);
+}
+
+QRect QtLabel::shownGeometry(QRect frame) const
+{
+    if (!label()->alignment().testFlag(Qt::AlignRight)) return frame;
+    const int whole = frame.right() + 1 - label()->sizeHint().width();
+    // Not outside the superview, unless the frame is.
+    frame.setLeft(std::min(frame.left(), std::max(whole, 0)));
+    return frame;
 }
 
 void QtLabel::setTextColor(const HostColor& color)

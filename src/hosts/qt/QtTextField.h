@@ -54,7 +54,8 @@ private:
     bool _wasWritten = false;
 };
 
-/// A read-only text.
+/// A read-only text. Frames have room for English titles. A title at the right of its frame, before
+/// a pop-up button, begins to the left of the frame if it is longer.
 class QtLabel final : public QtMirrored<HostTextField> {
 public:
     explicit QtLabel(const HostControlDescription& description);
@@ -62,6 +63,7 @@ public:
     [[nodiscard]] std::u16string stringValue() const override;
     void setStringValue(const std::u16string& text) override;
     void setTextColor(const HostColor& color) override;
+    [[nodiscard]] QRect shownGeometry(QRect frame) const override;
 
 private:
     [[nodiscard]] QLabel* label() const;

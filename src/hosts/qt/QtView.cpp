@@ -45,10 +45,11 @@ QString translatedText(const std::u16string& text)
 
 void placeWidgets(const HostView& view)
 {
-    QWidget* widget = widgetOf(&view);
+    const auto* peer = dynamic_cast<const QtPeer*>(&view);
+    QWidget* widget = peer != nullptr ? peer->widget() : nullptr;
     if (widget != nullptr && view.superview() != nullptr) {
         const QRect place = widgetGeometry(view.frame(), view.superview()->bounds());
-        widget->setGeometry(place);
+        widget->setGeometry(peer->shownGeometry(place));
         // The core hides views by parking them, or by moving them outside their superview. Neither
         // the mouse nor Tab nor assistive technology must find them there.
         const HostRect superview = view.superview()->bounds();

@@ -13,6 +13,8 @@ class QtPeer {
 public:
     virtual ~QtPeer() = default;
     [[nodiscard]] virtual QWidget* widget() const = 0;
+    /// Returns where the widget is shown, given the geometry of the view's frame.
+    [[nodiscard]] virtual QRect shownGeometry(QRect frame) const { return frame; }
 
     /// The widget that had the focus when this one came into its superview's. It gets the focus
     /// back if this one is taken out with it, as a face of a page is when it is done.

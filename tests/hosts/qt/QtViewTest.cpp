@@ -53,6 +53,29 @@ TEST(QtViewTest, WidgetsFollowTheirViews)
     EXPECT_TRUE(widgetOf(inner.get())->isHidden());
 }
 
+TEST(QtViewTest, ALongTitleBeforeAControlIsWhole)
+{
+    QtInterfaceFactory factory;
+    const auto outer = factory.makeView(describe("outer", {0, 0, 400, 100}));
+    HostControlDescription description = describe("label", {200, 10, 30, 20});
+    description.alignment = HostControlDescription::Alignment::right;
+    description.editable = false;
+    const auto label = factory.makeTextField(description);
+    outer->addSubview(*label);
+    const QWidget* widget = widgetOf(label.get());
+    EXPECT_EQ(widget->geometry(), QRect(200, 70, 30, 20));
+
+    label->setStringValue(u"Beim Herausziehen");
+    EXPECT_GE(widget->width(), widget->sizeHint().width());
+    EXPECT_EQ(widget->geometry().right(), 229) << "beside its control";
+    label->setFrame({205, 10, 30, 20});
+    EXPECT_EQ(widget->geometry().right(), 234);
+    EXPECT_GE(widget->width(), widget->sizeHint().width());
+    label->setStringValue(std::u16string(100, u'x'));
+    EXPECT_EQ(widget->geometry().left(), 0) << "not outside the page";
+    EXPECT_EQ(label->frame(), (HostRect{205, 10, 30, 20})) << "the page's rules do not change";
+}
+
 class Content final : public HostViewContent {
 public:
     void drawRect(HostCanvas& canvas) override
