@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     spec.setWithString(text);
     require((spec.redHexComp() | spec.greenHexComp() | spec.blueHexComp()) <= 255);
     static_cast<void>(webSafeColorFromName(text));
-    require(!liveHexReadout(text).empty());
+    require(!liveHexReadout(text, u"Error").empty());
     const RgbTripleReading triple = readRgbTriple(text);
     require(!triple.components || triple.found);
     if (triple.components) {

@@ -15,11 +15,11 @@ constexpr std::array<std::u16string_view, 7> progressFormats{
     u"%d: R:%3d G:%03d* B:---", u"%d: R:%3d G:%3d B:---",   u"%d: R:%3d G:%3d B:%03d*",
     u"%d: R:%3d G:%3d B:%3d",
 };
-constexpr std::u16string_view errorFormat = u"%d: Error";
+constexpr std::u16string_view errorFormat = u"%d: ";
 
 }  // namespace
 
-std::u16string liveHexReadout(std::u16string_view typed)
+std::u16string liveHexReadout(std::u16string_view typed, std::u16string_view error)
 {
     if (typed.starts_with(u'#')) typed.remove_prefix(1);
     const std::size_t count = typed.size();
@@ -27,8 +27,8 @@ std::u16string liveHexReadout(std::u16string_view typed)
     if (count > 0 && count < progressFormats.size()) spec.setWithString(typed);
     const std::array<FormatArgument, 4> arguments{std::uint64_t{count}, spec.redHexComp(),
                                                   spec.greenHexComp(), spec.blueHexComp()};
-    return formatted(count < progressFormats.size() ? progressFormats[count] : errorFormat,
-                     arguments);
+    if (count < progressFormats.size()) return formatted(progressFormats[count], arguments);
+    return formatted(errorFormat, arguments).append(error);
 }
 
 }  // namespace vantorel

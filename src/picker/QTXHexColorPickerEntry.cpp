@@ -84,7 +84,8 @@ void QTXHexColorPicker::stepComponent(HostTextField& field, int componentIndex, 
 void QTXHexColorPicker::hexEntryTextChange(HostTextField& field)
 {
     if (__holdOffSync) return;
-    const std::u16string readout = liveHexReadout(field.stringValue());
+    const std::u16string error = colorPanel().desktop().localizedString(u"Error");
+    const std::u16string readout = liveHexReadout(field.stringValue(), error);
     __holdOffSync = true;
     setText(_rgbDecimalText, readout);
     __holdOffSync = false;

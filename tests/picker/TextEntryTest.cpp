@@ -22,7 +22,7 @@ class LiveHexReadoutTest : public testing::TestWithParam<ReadoutRow> {};
 
 TEST_P(LiveHexReadoutTest, CountsAndDecodes)
 {
-    EXPECT_EQ(liveHexReadout(GetParam().typed), GetParam().readout);
+    EXPECT_EQ(liveHexReadout(GetParam().typed, u"Error"), GetParam().readout);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, LiveHexReadoutTest,
@@ -35,6 +35,11 @@ INSTANTIATE_TEST_SUITE_P(Texts, LiveHexReadoutTest,
                                          ReadoutRow{u"0a0b1", u"5: R: 10 G: 11 B:016*"},
                                          ReadoutRow{u"0a0bff", u"6: R: 10 G: 11 B:255"},
                                          ReadoutRow{u"0a0bff0", u"7: Error"}));
+
+TEST(LiveHexReadoutTest, HasTheWordOfTheUsersLanguage)
+{
+    EXPECT_EQ(liveHexReadout(u"#0a0bff00", u"Fehler"), u"8: Fehler");
+}
 
 class NameCompletionTest : public testing::Test {
 protected:
