@@ -1874,7 +1874,7 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
     </message>
     <message>
         <source>supportManual.htm</source>
-        <translation>supportManual.htm</translation>
+        <translation>supportManual_fr.htm</translation>
     </message>
     <message>
         <source>Error</source>
