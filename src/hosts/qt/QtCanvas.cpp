@@ -1,5 +1,7 @@
 #include "hosts/qt/QtCanvas.h"
 
+#include "hosts/common/PaintedLines.h"
+#include "hosts/common/TextLines.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtVersions.h"
@@ -9,24 +11,12 @@
 #include <QPainterPath>
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 
 namespace vantorel {
 namespace {
 
 using Kind = HostBezierPath::ElementKind;
-
-/// Returns the rectangle that a path describes, if its sides are horizontal and vertical.
-std::optional<HostRect> uprightRect(const HostBezierPath& path)
-{
-    const auto& e = path.elements();
-    if (e.size() != 5 || e[0].kind != Kind::moveTo || e[4].kind != Kind::close) return std::nullopt;
-    const HostPoint a = e[0].point;
-    const HostPoint c = e[2].point;
-    if (e[1].point != HostPoint{c.x, a.y} || e[3].point != HostPoint{a.x, c.y}) return std::nullopt;
-    return HostRect{std::min(a.x, c.x), std::min(a.y, c.y), std::abs(c.x - a.x),
-                    std::abs(c.y - a.y)};
-}
 
 /// `place` maps a point of the path to one of the painter.
 template <typename Place>
@@ -48,20 +38,6 @@ QPainterPath painterPath(const HostBezierPath& path, Place place)
         }
     }
     return result;
-}
-
-/// Whether a path is one closed polygon. If so, its corners are in `corners`.
-template <typename Place>
-bool loadPolygon(const HostBezierPath& path, Place place, std::vector<QPointF>& corners)
-{
-    const auto& elements = path.elements();
-    if (elements.size() < 4 || elements.back().kind != Kind::close) return false;
-    corners.clear();
-    for (std::size_t i = 0; i + 1 < elements.size(); ++i) {
-        if (elements[i].kind != (i == 0 ? Kind::moveTo : Kind::lineTo)) return false;
-        corners.push_back(place(elements[i].point));
-    }
-    return true;
 }
 
 }  // namespace
@@ -109,36 +85,25 @@ void QtCanvas::fill(const HostBezierPath& path, const HostColor& color)
     if (_painter.pen().style() != Qt::NoPen) _painter.setPen(Qt::NoPen);
     _painter.setBrush(brush);
     const auto place = [this](HostPoint point) { return placed(point); };
-    if (loadPolygon(path, place, _corners)) {
+    if (isPolygon(path)) {
+        const auto& elements = path.elements();
+        _corners.clear();
+        std::transform(elements.begin(), elements.end() - 1, std::back_inserter(_corners),
+                       [&](const auto& element) { return place(element.point); });
         _painter.drawPolygon(_corners.data(), static_cast<int>(_corners.size()), Qt::WindingFill);
     } else {
         _painter.drawPath(painterPath(path, place));
     }
 }
 
-/// Strokes a rectangle as four filled bars on whole pixels of the device. That is crisp, and takes
-/// a tenth of the time of a smooth stroke.
 void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& color)
 {
-    const qreal ratio = _painter.device()->devicePixelRatioF();
-    const qreal pixels = std::max(1.0, std::round(lineWidth * _scale * ratio));
-    // From the edge between pixels where a fill ends too, so that lines of two widths on one
-    // rectangle lie evenly within each other; the pixel in the middle of an odd width is inside.
-    const auto outerEdge = [&](qreal edge, qreal outwards) {
-        return (std::round(edge * ratio) + outwards * std::floor(pixels / 2)) / ratio;
-    };
-    const qreal left = outerEdge(rect.left(), -1);
-    const qreal top = outerEdge(rect.top(), -1);
-    const qreal right = std::max(outerEdge(rect.right(), 1), left);
-    const qreal bottom = std::max(outerEdge(rect.bottom(), 1), top);
-    const qreal width = std::min(pixels / ratio, right - left);
-    const qreal height = std::min(pixels / ratio, bottom - top);
-    const qreal innerHeight = std::max(bottom - top - 2 * height, 0.0);
     setAntialiasing(false);
-    _painter.fillRect(QRectF(left, top, right - left, height), color);
-    _painter.fillRect(QRectF(left, bottom - height, right - left, height), color);
-    _painter.fillRect(QRectF(left, top + height, width, innerHeight), color);
-    _painter.fillRect(QRectF(right - width, top + height, width, innerHeight), color);
+    for (const PaintedBar& bar :
+         barsOfStroke({rect.left(), rect.top(), rect.right(), rect.bottom()}, lineWidth * _scale,
+                      _painter.device()->devicePixelRatioF())) {
+        _painter.fillRect(QRectF(bar.left, bar.top, bar.width(), bar.height()), color);
+    }
 }
 
 /// Strokes an open line through the middle of pixels of the device. Horizontal and vertical pieces
@@ -146,12 +111,11 @@ void QtCanvas::strokeRect(const QRectF& rect, double lineWidth, const QColor& co
 void QtCanvas::strokeOpenLine(const HostBezierPath& path, const QPen& pen)
 {
     const qreal ratio = _painter.device()->devicePixelRatioF();
-    const qreal half = std::max(1.0, std::round(pen.widthF() * ratio)) / ratio / 2;
-    const auto snapped = [ratio](qreal x) { return (std::floor(x * ratio) + 0.5) / ratio; };
+    const qreal half = halfStrokeWidth(pen.widthF(), ratio);
     QPointF last;
     for (const auto& element : path.elements()) {
         const QPointF exact = placed(element.point);
-        const QPointF point(snapped(exact.x()), snapped(exact.y()));
+        const QPointF point(middleOfPixel(exact.x(), ratio), middleOfPixel(exact.y(), ratio));
         if (element.kind == Kind::lineTo) {
             if (point.x() == last.x() || point.y() == last.y()) {
                 setAntialiasing(false);
@@ -177,10 +141,8 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
     }
     QPen pen(brush, path.lineWidth() * _scale);
     pen.setJoinStyle(Qt::MiterJoin);
-    // An outline must stay exactly on its shape. The pieces of a line overlap where they meet,
-    // which would show in a translucent colour.
-    const auto closes = [](const auto& element) { return element.kind == Kind::close; };
-    if (brush.alpha() == 255 && std::ranges::none_of(path.elements(), closes)) {
+    // The pieces of a line overlap where they meet, which would show in a translucent colour.
+    if (brush.alpha() == 255 && isOpenLine(path)) {
         strokeOpenLine(path, pen);
         return;
     }
@@ -194,15 +156,15 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
 {
     const QFont font = fontOfSize(text.pointSize);
     const QFontMetricsF metrics(font);
-    QStringList lines = displayName(text.string).split(u'\n');
-    if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
+    const std::u16string shown = u16From(displayName(text.string));
+    const auto lines = linesOf(shown);
     _painter.setFont(font);
     _painter.setPen(qColorFrom(text.color));
     const QPointF lowerLeft = placed(at);
     qreal baseline =
         lowerLeft.y() - metrics.height() * static_cast<qreal>(lines.size()) + metrics.ascent();
-    for (const QString& line : lines) {
-        _painter.drawText(QPointF(lowerLeft.x(), baseline), line);
+    for (const std::u16string_view line : lines) {
+        _painter.drawText(QPointF(lowerLeft.x(), baseline), qStringFrom(line));
         baseline += metrics.height();
     }
 }

@@ -1,5 +1,6 @@
 #include "hosts/qt/QtDesktop.h"
 
+#include "hosts/common/TextLines.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
@@ -50,11 +51,11 @@ std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::functio
 HostSize QtDesktop::sizeOfText(const HostText& text)
 {
     const QFontMetricsF metrics(fontOfSize(text.pointSize));
-    QStringList lines = displayName(text.string).split(u'\n');
-    if (lines.size() > 1 && lines.back().isEmpty()) lines.removeLast();
+    const std::u16string shown = u16From(displayName(text.string));
+    const auto lines = linesOf(shown);
     qreal width = 0;
-    for (const QString& line : lines)
-        width = std::max(width, metrics.horizontalAdvance(line));
+    for (const std::u16string_view line : lines)
+        width = std::max(width, metrics.horizontalAdvance(qStringFrom(line)));
     return {width / textScale(), metrics.height() * static_cast<qreal>(lines.size()) / textScale()};
 }
 

@@ -43,6 +43,12 @@ std::uint64_t modifierFlags(Qt::KeyboardModifiers modifiers)
     return flags;
 }
 
+int wheelSteps(WheelSteps& wheel, const QWheelEvent& event)
+{
+    constexpr double eighthsOfADegree = QWheelEvent::DefaultDeltasPerStep;
+    return wheel.stepsOf(event.angleDelta().y() / eighthsOfADegree);
+}
+
 std::optional<HostKeyEvent> hostKeyEvent(const QKeyEvent& event)
 {
     const auto key = hostKey(event.key());

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "host/HostEvent.h"
+#include "hosts/common/WheelSteps.h"
 
 #include <QKeyEvent>
+#include <QWheelEvent>
 
 #include <cstdint>
 #include <optional>
@@ -15,5 +17,8 @@ namespace vantorel {
 /// Returns `std::nullopt` for keys that views do not know, and with Ctrl, Alt or Meta, which belong
 /// to shortcuts.
 [[nodiscard]] std::optional<HostKeyEvent> hostKeyEvent(const QKeyEvent& event);
+
+/// Returns the whole steps of the wheel that an event completes.
+[[nodiscard]] int wheelSteps(WheelSteps& wheel, const QWheelEvent& event);
 
 }  // namespace vantorel

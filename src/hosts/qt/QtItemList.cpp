@@ -1,10 +1,10 @@
 #include "hosts/qt/QtItemList.h"
 
 #include "hosts/qt/DisplayNames.h"
-#include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtVersions.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QAbstractListModel>
 #include <QGuiApplication>
@@ -24,11 +24,14 @@
 namespace vantorel {
 namespace {
 
-constexpr int mostRowsOnShow = 24;
-constexpr int widestList = 420;
 constexpr int rowPadding = 3;
 constexpr int besideText = 16;
 constexpr int besideImage = 6;
+
+PixelRect pixelRect(const QRect& rect)
+{
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
 
 }  // namespace
 
@@ -110,7 +113,7 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex&) const override
     {
-        return {0, popUpRowHeight(option.fontMetrics)};
+        return {0, popUpRowHeight(option.fontMetrics.height(), textScale())};
     }
 
 protected:
@@ -140,7 +143,8 @@ private:
 QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
     : QFrame(&parent, Qt::Popup),
       _model(new Model(items, selected, *this)),
-      _view(new QListView(this))
+      _view(new QListView(this)),
+      _release(QGuiApplication::styleHints()->startDragDistance())
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
@@ -177,39 +181,29 @@ QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
 
 int QtItemList::wantedWidth() const
 {
-    // Measuring every title would take too long for a long list; the longest few are enough.
-    std::size_t longest = 0;
-    for (const HostMenuItem& item : _model->items())
-        longest = std::max(longest, std::min<std::size_t>(item.title.size(), widestList));
     int width = 0;
-    int measured = 0;
-    for (const HostMenuItem& item : _model->items()) {
-        if (item.title.size() * 4 < longest * 3) continue;
-        const auto start = std::u16string_view(item.title).substr(0, widestList);
-        width = std::max(width, fontMetrics().horizontalAdvance(displayName(start)));
-        if (++measured == 200 || width >= widestList) break;
+    for (const std::u16string_view title : titlesToMeasure(_model->items())) {
+        width = std::max(width, fontMetrics().horizontalAdvance(displayName(title)));
+        if (width >= widestPopUpList) break;
     }
     const int imageWidth =
         _view->iconSize().isValid() ? _view->iconSize().width() + besideImage : 0;
     const int scrollBar = _view->verticalScrollBar()->sizeHint().width();
-    return std::min(width + imageWidth + besideText + scrollBar, widestList);
+    return std::min(width + imageWidth + besideText + scrollBar, widestPopUpList);
 }
 
 void QtItemList::openBeside(const QRect& button)
 {
     const QScreen* screen = QGuiApplication::screenAt(button.center());
     if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-    const QRect room = screen->availableGeometry();
-    const int rowHeight = std::max(_view->sizeHintForRow(0), 1);
-    const int wanted = rowHeight * std::min(_model->rowCount(), mostRowsOnShow) + 4;
-    const int below = room.bottom() - button.bottom();
-    const int above = button.top() - room.top();
-    const bool opensBelow = wanted <= below || below >= above;
-    const int height = std::min(wanted, std::max(opensBelow ? below : above, rowHeight));
-    const int width = std::max(wantedWidth(), button.width());
-    const int left =
-        std::clamp(button.left(), room.left(), std::max(room.left(), room.right() + 1 - width));
-    setGeometry(left, opensBelow ? button.bottom() + 1 : button.top() - height, width, height);
+    constexpr int frames = 4;
+    const PixelRect place = placeOfPopUpList({.button = pixelRect(button),
+                                              .room = pixelRect(screen->availableGeometry()),
+                                              .rows = _model->rowCount(),
+                                              .rowHeight = _view->sizeHintForRow(0),
+                                              .width = wantedWidth(),
+                                              .frames = frames});
+    setGeometry(place.x, place.y, place.width, place.height);
     // Qt from 6.8 lets a Wayland compositor keep the list off this rectangle of the parent's
     // window.
     create();
@@ -251,20 +245,18 @@ bool QtItemList::handleMouse(QEvent* event)
     const QModelIndex row = _view->indexAt(positionOf(*mouse).toPoint());
     switch (event->type()) {
         case QEvent::MouseMove:
-            if (_view->viewport()->rect().contains(positionOf(*mouse).toPoint())) {
-                if (!_firstMove) _firstMove = positionOf(*mouse).toPoint();
-                if ((positionOf(*mouse).toPoint() - *_firstMove).manhattanLength() >=
-                    QGuiApplication::styleHints()->startDragDistance())
-                    _releaseChooses = true;
+            if (const QPoint at = positionOf(*mouse).toPoint();
+                _view->viewport()->rect().contains(at)) {
+                _release.pointerMovedInside({double(at.x()), double(at.y())});
                 if (row.isValid() && row.flags() != Qt::NoItemFlags) _view->setCurrentIndex(row);
             }
             return true;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            _releaseChooses = true;
+            _release.buttonWasPressed();
             return true;
         default:
-            if (_releaseChooses && mouse->button() == Qt::LeftButton) choose(row);
+            if (_release.releaseChooses() && mouse->button() == Qt::LeftButton) choose(row);
             return true;
     }
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "host/HostMenu.h"
+#include "hosts/common/PopUpList.h"
 
 #include <QFrame>
 #include <QListView>
-
-#include <optional>
 
 namespace vantorel {
 
@@ -46,11 +45,7 @@ private:
 
     Model* _model;
     QListView* _view;
-    /// Whether a release selects. The one that follows the press which opened the list does so only
-    /// after a drag: a desktop may have moved the list below the mouse.
-    bool _releaseChooses = false;
-    /// Where the mouse has first moved over the list.
-    std::optional<QPoint> _firstMove;
+    ReleaseRule _release;
 };
 
 }  // namespace vantorel

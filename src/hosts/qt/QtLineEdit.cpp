@@ -1,6 +1,9 @@
 #include "hosts/qt/QtLineEdit.h"
 
+#include "hosts/common/ReadableColor.h"
+#include "hosts/common/TextScale.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtEvents.h"
 #include "hosts/qt/QtVersions.h"
 
 #include <QApplication>
@@ -8,18 +11,8 @@
 #include <QKeyEvent>
 #include <QMimeData>
 
-#include <algorithm>
-
 namespace vantorel {
 namespace {
-
-/// A copied line often has more than the colour at its ends.
-QString withoutEnds(const QString& text)
-{
-    QString bare = text.trimmed();
-    if (bare.endsWith(u';')) bare = bare.chopped(1).trimmed();
-    return bare;
-}
 
 bool writesNothing(const QKeyEvent& event)
 {
@@ -30,13 +23,8 @@ bool writesNothing(const QKeyEvent& event)
 
 QColor readableTextColor(const HostColor& color, const QPalette& palette)
 {
-    constexpr int darkGround = 128;
-    constexpr auto readableLightness = static_cast<QtFraction>(0.72);
-    const QColor wanted = qColorFrom(color);
-    if (!wanted.isValid() || wanted == QColor(Qt::black)) return palette.color(QPalette::Text);
-    if (palette.color(QPalette::Base).lightness() >= darkGround) return wanted;
-    return QColor::fromHslF(std::max(QtFraction{0}, wanted.hslHueF()), wanted.hslSaturationF(),
-                            std::max(readableLightness, wanted.lightnessF()));
+    return qColorFrom(readableTextColor(color, hostColorFrom(palette.color(QPalette::Base)),
+                                        hostColorFrom(palette.color(QPalette::Text))));
 }
 
 QtLineEdit::QtLineEdit(const QFont& font) : _font(font)
@@ -68,16 +56,12 @@ void QtLineEdit::keyPressEvent(QKeyEvent* event)
 {
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (_canStep && isArrow && !isReadOnly()) {
-        emit stepped(event->key() == Qt::Key_Up ? 1 : -1, event->modifiers());
+        _entry->step(event->key() == Qt::Key_Up ? 1 : -1, modifierFlags(event->modifiers()));
     } else if (!event->matches(QKeySequence::Cancel)) {
         _isDeleting = writesNothing(*event);
         ClipboardLineEdit::keyPressEvent(event);
         _isDeleting = false;
-    } else if (isModified()) {
-        emit entryGivenUp();
-        setModified(false);
-    } else {
-        // There is no entry to discard.
+    } else if (!_entry->giveUp()) {
         event->ignore();
     }
 }
@@ -103,7 +87,7 @@ void QtLineEdit::focusOutEvent(QFocusEvent* event)
         case Qt::TabFocusReason:
         case Qt::BacktabFocusReason:
         case Qt::ShortcutFocusReason:
-            emit left();
+            _entry->leave();
             break;
         default:
             break;  // another window, a menu, or the field was hidden
@@ -117,8 +101,8 @@ void QtLineEdit::wheelEvent(QWheelEvent* event)
         return;
     }
     event->accept();
-    if (const int steps = _wheelSteps.stepsOf(*event); steps != 0) {
-        emit stepped(steps, event->modifiers());
+    if (const int steps = wheelSteps(_wheelSteps, *event); steps != 0) {
+        _entry->step(steps, modifierFlags(event->modifiers()));
     }
 }
 
@@ -132,18 +116,13 @@ void QtLineEdit::dropEvent(QDropEvent* event)
     event->setDropAction(Qt::CopyAction);
     event->accept();
     setFocus(Qt::MouseFocusReason);
-    if (isModified()) setCursorPosition(cursorPositionAt(positionOf(*event).toPoint()));
-    bring(event->mimeData()->text());
+    if (_entry->isTyped()) setCursorPosition(cursorPositionAt(positionOf(*event).toPoint()));
+    _entry->bring(u16From(event->mimeData()->text()));
 }
 
 void QtLineEdit::bring(const QString& text)
 {
-    const QString bare = withoutEnds(text);
-    if (isReadOnly() || bare.isEmpty()) return;
-    if (!isModified() && (!hasSelectedText() || selectedText() == this->text())) selectAll();
-    const bool replacesAll = this->text().isEmpty() || selectedText() == this->text();
-    insert(bare);
-    if (replacesAll) emit textBrought();
+    _entry->bring(u16From(text));
 }
 
 void QtLineEdit::changeEvent(QEvent* event)
@@ -155,13 +134,11 @@ void QtLineEdit::changeEvent(QEvent* event)
 void QtLineEdit::fit()
 {
     constexpr int besideText = 8;
-    constexpr double smallest = 0.7;
-    const double room = width() - besideText;
-    const double needed = QFontMetricsF(_font).horizontalAdvance(text());
-    const double ratio = needed > 0 ? room / needed : 1;
     QFont fitting = _font;
-    if (!hasFocus() && ratio < 1 && ratio >= smallest) {
-        fitting.setPixelSize(static_cast<int>(_font.pixelSize() * ratio));
+    if (!hasFocus()) {
+        fitting.setPixelSize(fittedTextSize(_font.pixelSize(),
+                                            QFontMetricsF(_font).horizontalAdvance(text()),
+                                            width() - besideText));
     }
     if (fitting.pixelSize() != font().pixelSize()) setFont(fitting);
 }

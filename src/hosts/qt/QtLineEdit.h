@@ -1,18 +1,16 @@
 #pragma once
 
 #include "host/HostColor.h"
+#include "hosts/common/FieldEntry.h"
+#include "hosts/common/WheelSteps.h"
 #include "hosts/qt/ClipboardLineEdit.h"
-#include "hosts/qt/WheelSteps.h"
 
 #include <optional>
 
 namespace vantorel {
 
-/// A line edit whose text colour follows the theme. Escape discards the entry. The font becomes a
-/// little smaller if that makes room for the whole text.
-///
-/// A text that is pasted or dropped loses blanks, line ends and a ";" at its ends. It replaces the
-/// whole text unless the user has typed, or selected a part.
+/// A line edit whose text colour follows the theme. The font becomes a little smaller if that makes
+/// room for the whole text. Keys, pasted and dropped texts go to an entry.
 class QtLineEdit final : public ClipboardLineEdit {
     Q_OBJECT
 
@@ -20,24 +18,21 @@ public:
     /// `font` has the full size.
     explicit QtLineEdit(const QFont& font);
 
+    /// Call this before the first event. `entry` must outlive the widget's events.
+    void setEntry(FieldEntry& entry) { _entry = &entry; }
     void setHostColor(const HostColor& color);
-    /// Makes the Up and Down keys and the mouse wheel step the value (`stepped`).
+    /// Makes the Up and Down keys and the mouse wheel step the value.
     void setCanStep(bool flag) { _canStep = flag; }
     /// Whether the text is being changed by a key that writes nothing, such as Backspace.
     [[nodiscard]] bool isDeleting() const { return _isDeleting; }
 
 signals:
-    /// The user has pressed Escape after typing. Only the panel knows the previous text, because
-    /// other fields may have followed the typing.
+    /// The user has discarded the entry. Only the panel knows the previous text, because other
+    /// fields may have followed the typing.
     void entryGivenUp();
-    /// The user has left the field by Tab or by a click elsewhere.
-    void left();
-    /// A pasted or dropped text has become the field's whole text.
-    void textBrought();
     /// The entry has ended with a text that is not meant for the field. Whoever can use the text
     /// sets `isTaken`.
     void textOffered(const QString& text, bool& isTaken);
-    void stepped(int steps, Qt::KeyboardModifiers modifiers);
 
 protected:
     bool event(QEvent* event) override;
@@ -55,6 +50,7 @@ private:
     void fit();
     void applyColor();
 
+    FieldEntry* _entry = nullptr;
     QFont _font;  ///< in its full size
     std::optional<HostColor> _color;
     bool _applying = false;

@@ -1,11 +1,12 @@
 #include "hosts/qt/QtMenu.h"
 
+#include "hosts/common/PopUpList.h"
+#include "hosts/common/TypeAhead.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
-#include "hosts/qt/PopUpRows.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/TypeAhead.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -32,7 +33,7 @@ public:
         const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
         if (type == CT_MenuItem && item != nullptr &&
             item->menuItemType != QStyleOptionMenuItem::Separator) {
-            size.setHeight(popUpRowHeight(item->fontMetrics));
+            size.setHeight(popUpRowHeight(item->fontMetrics.height(), textScale()));
         }
         return size;
     }
@@ -50,10 +51,9 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
-        const QString typed = event->text();
-        const bool isSearch = !typed.isEmpty() && typed.at(0).isPrint() &&
-                              (typed.at(0) != u' ' || _typeAhead.isSearching()) &&
-                              (event->modifiers() & ~Qt::ShiftModifier) == 0;
+        const std::u16string typed = u16From(event->text());
+        const bool isSearch =
+            _typeAhead.takes(typed) && (event->modifiers() & ~Qt::ShiftModifier) == 0;
         if (isSearch) {
             search(typed);
         } else {
@@ -62,18 +62,18 @@ protected:
     }
 
 private:
-    void search(const QString& typed)
+    void search(std::u16string_view typed)
     {
         const QList<QAction*> items = actions();
-        const int found =
-            _typeAhead.find(typed, static_cast<int>(items.indexOf(activeAction())),
-                            static_cast<int>(items.size()), [&](int index, const QString& start) {
-                                const QAction* item = items.at(index);
-                                QString title = item->text();
-                                title.replace(QStringLiteral("&&"), QStringLiteral("&"));
-                                return item->isEnabled() && !item->isSeparator() &&
-                                       title.startsWith(start, Qt::CaseInsensitive);
-                            });
+        const int found = _typeAhead.find(
+            typed, static_cast<int>(items.indexOf(activeAction())), static_cast<int>(items.size()),
+            [&](int index, const std::u16string& prefix) {
+                const QAction* item = items.at(index);
+                QString title = item->text();
+                title.replace(QStringLiteral("&&"), QStringLiteral("&"));
+                return item->isEnabled() && !item->isSeparator() &&
+                       title.startsWith(qStringFrom(prefix), Qt::CaseInsensitive);
+            });
         if (found >= 0) setActiveAction(items.at(found));
     }
 

@@ -1,28 +1,19 @@
 #include "hosts/qt/QtPopUpButton.h"
 
+#include "hosts/common/PopUpChoice.h"
+#include "hosts/common/TypeAhead.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtItemList.h"
 #include "hosts/qt/QtMenu.h"
-#include "hosts/qt/TypeAhead.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
-#include <algorithm>
-
 namespace vantorel {
-namespace {
-
-bool canBeChosen(const HostMenuItem& item)
-{
-    return !item.separator && !item.submenu;
-}
-
-}  // namespace
 
 class QtPopUpButton::Widget final : public QAbstractButton {
 public:
@@ -79,7 +70,7 @@ protected:
         const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
         switch (event->key()) {
             case Qt::Key_Space:
-                if (_typeAhead.isSearching()) break;
+                if (_typeAhead.takes(u" ")) break;
                 _owner.openMenu();
                 return;
             case Qt::Key_Return:
@@ -90,45 +81,33 @@ protected:
                 if (alt) {
                     _owner.openMenu();
                 } else {
-                    chooseNeighbour(1);
+                    chooseNeighbour(_owner, 1);
                 }
                 return;
             case Qt::Key_Up:
-                chooseNeighbour(-1);
+                chooseNeighbour(_owner, -1);
                 return;
             default:
                 break;
         }
-        if (!event->text().isEmpty() && event->text().at(0).isPrint()) {
-            search(event->text());
+        if (const std::u16string typed = u16From(event->text()); _typeAhead.takes(typed)) {
+            search(typed);
         } else {
             QAbstractButton::keyPressEvent(event);
         }
     }
 
 private:
-    void chooseNeighbour(int step)
-    {
-        const HostMenu& menu = _owner.menu();
-        for (int i = _owner.indexOfSelectedItem() + step; i >= 0 && i < _owner.numberOfItems();
-             i += step) {
-            if (canBeChosen(menu[static_cast<std::size_t>(i)])) {
-                _owner.chooseItem(i);
-                return;
-            }
-        }
-    }
-
-    void search(const QString& typed)
+    void search(std::u16string_view typed)
     {
         const int found = _typeAhead.find(
             typed, _owner.indexOfSelectedItem(), _owner.numberOfItems(),
-            [&](int index, const QString& start) {
+            [&](int index, const std::u16string& prefix) {
                 const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
                 return canBeChosen(item) &&
-                       displayName(item.title).startsWith(start, Qt::CaseInsensitive);
+                       displayName(item.title).startsWith(qStringFrom(prefix), Qt::CaseInsensitive);
             });
-        if (found >= 0) _owner.chooseItem(found);
+        if (found >= 0) chooseItem(_owner, found);
     }
 
     QtPopUpButton& _owner;
@@ -147,37 +126,14 @@ void QtPopUpButton::menuDidChange()
     if (QWidget* shown = widget()) shown->update();
 }
 
-void QtPopUpButton::chooseItem(int index)
-{
-    if (index < 0 || index >= numberOfItems()) return;
-    // A copy, because the action may rebuild the menu.
-    const HostMenuItem item = menu()[static_cast<std::size_t>(index)];
-    if (!canBeChosen(item)) return;
-    if (item.action) {
-        item.action(item);
-        return;
-    }
-    selectItemAtIndex(index);
-    sendAction();
-}
-
-void QtPopUpButton::chooseOpened(const HostMenuItem& item, int index)
-{
-    // The items may have changed while they were shown.
-    const bool unchanged =
-        index < numberOfItems() && menu()[static_cast<std::size_t>(index)].title == item.title;
-    chooseItem(unchanged ? index : indexOfItemWithTitle(item.title));
-}
-
 void QtPopUpButton::openMenu()
 {
     sendWillPopUp();
     QWidget* shown = widget();
-    const auto choose = [this](const HostMenuItem& item, int index) { chooseOpened(item, index); };
-    const bool hasSubmenus =
-        std::any_of(menu().begin(), menu().end(),
-                    [](const HostMenuItem& item) { return item.submenu != nullptr; });
-    if (hasSubmenus) {
+    const auto choose = [this](const HostMenuItem& item, int index) {
+        chooseOpenedItem(*this, item, index);
+    };
+    if (hasSubmenus(menu())) {
         QMenu* opened = makeMenu(menu(), indexOfSelectedItem(), *shown, choose);
         opened->setMinimumWidth(shown->width());
         opened->popup(shown->mapToGlobal(QPoint(0, shown->height())));

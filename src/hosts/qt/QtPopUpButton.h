@@ -15,16 +15,12 @@ public:
 
     /// Sends the notice, builds the menu and opens it.
     void openMenu();
-    /// Selects an item of the top level, as the user would.
-    void chooseItem(int index);
 
 protected:
     void menuDidChange() override;
 
 private:
     class Widget;
-
-    void chooseOpened(const HostMenuItem& item, int index);
 };
 
 }  // namespace vantorel

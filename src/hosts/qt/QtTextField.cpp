@@ -2,12 +2,8 @@
 
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtEvents.h"
 
 #include <QApplication>
-
-#include <algorithm>
-#include <utility>
 
 namespace vantorel {
 namespace {
@@ -36,87 +32,15 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAccessibleName(qStringFrom(description.accessibleName));
     edit->setReadOnly(description.readOnly);
     // Not `textEdited`: text entered by an assistive program counts as typed, too.
-    QObject::connect(edit, &QLineEdit::textChanged, edit, [this] {
-        if (!_textIsBeingSet) textDidChangeByUser();
-    });
-    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { enterText(); });
-    QObject::connect(edit, &QtLineEdit::left, edit, [this] { leave(); });
-    QObject::connect(edit, &QtLineEdit::textBrought, edit, [this] { takeBroughtText(); });
-    QObject::connect(edit, &QtLineEdit::stepped, edit,
-                     [this](int steps, Qt::KeyboardModifiers modifiers) {
-                         finishEditing();
-                         sendStep(steps, modifierFlags(modifiers));
-                     });
+    QObject::connect(edit, &QLineEdit::textChanged, edit,
+                     [this, edit] { _entry.textDidChange(edit->isDeleting()); });
+    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { _entry.enter(); });
+    edit->setEntry(_entry);
 }
 
 void QtTextField::stepDidChange()
 {
     lineEdit()->setCanStep(canStep());
-}
-
-void QtTextField::textDidChangeByUser()
-{
-    QtLineEdit* edit = lineEdit();
-    const QString typed = edit->text();
-    const int caret = edit->cursorPosition();
-    _isReacting = true;
-    _wasWritten = false;
-    sendTextDidChange();
-    _isReacting = false;
-    if (_wasWritten) showCompletion(typed, caret);
-    // The typing may have completed the text, which does not end it.
-    edit->setModified(true);
-}
-
-void QtTextField::showCompletion(const QString& typed, int caret)
-{
-    QtLineEdit* edit = lineEdit();
-    const int behind = static_cast<int>(edit->text().size()) - edit->cursorPosition();
-    if (behind <= 0) return;
-    if (!edit->isDeleting()) {
-        edit->setSelection(static_cast<int>(edit->text().size()), -behind);
-        return;
-    }
-    const bool wasBeingSet = std::exchange(_textIsBeingSet, true);
-    edit->setText(typed);
-    _textIsBeingSet = wasBeingSet;
-    edit->setCursorPosition(caret);
-}
-
-bool QtTextField::offerText()
-{
-    bool isTaken = false;
-    emit lineEdit()->textOffered(lineEdit()->text(), isTaken);
-    if (isTaken) lineEdit()->setModified(false);
-    return isTaken;
-}
-
-void QtTextField::enterText()
-{
-    const bool isIgnored = entryFit(stringValue()) == HostEntryFit::isIgnored;
-    if (isIgnored && offerText()) return;
-    sendAction();
-    // An entry that was ignored goes on.
-    if (!isIgnored) lineEdit()->setModified(false);
-}
-
-void QtTextField::leave()
-{
-    if (!lineEdit()->isModified()) return;
-    enterText();
-    if (!lineEdit()->isModified()) return;
-    lineEdit()->setModified(false);
-    emit lineEdit()->entryGivenUp();
-}
-
-void QtTextField::takeBroughtText()
-{
-    if (entryFit(stringValue()) != HostEntryFit::fits) offerText();
-}
-
-void QtTextField::finishEditing()
-{
-    if (lineEdit()->isVisible() && lineEdit()->isModified()) enterText();
 }
 
 QtLineEdit* QtTextField::lineEdit() const
@@ -131,15 +55,12 @@ std::u16string QtTextField::stringValue() const
 
 void QtTextField::setStringValue(const std::u16string& text)
 {
-    QLineEdit* edit = lineEdit();
-    const QString newText = qStringFrom(text);
-    if (edit->text() == newText) return;
-    const int insertionPoint = isEdited() ? edit->cursorPosition() : 0;
-    const bool wasBeingSet = std::exchange(_textIsBeingSet, true);
-    edit->setText(newText);
-    _textIsBeingSet = wasBeingSet;
-    edit->setCursorPosition(insertionPoint);
-    _wasWritten = true;
+    _entry.setStringValue(text);
+}
+
+void QtTextField::writeText(const std::u16string& text)
+{
+    lineEdit()->setText(qStringFrom(text));
 }
 
 void QtTextField::setTextColor(const HostColor& color)
@@ -147,26 +68,52 @@ void QtTextField::setTextColor(const HostColor& color)
     lineEdit()->setHostColor(color);
 }
 
-bool QtTextField::isEdited() const
-{
-    // A drop from another window comes before the focus.
-    return _isReacting || lineEdit()->hasFocus();
-}
-
-HostSelection QtTextField::selectedRange() const
+EntryWidget::Range QtTextField::selection() const
 {
     const QLineEdit* edit = lineEdit();
-    if (!edit->hasSelectedText()) return {static_cast<std::size_t>(edit->cursorPosition()), 0};
-    return {static_cast<std::size_t>(edit->selectionStart()),
-            static_cast<std::size_t>(edit->selectionLength())};
+    const auto caret = static_cast<std::size_t>(edit->cursorPosition());
+    if (!edit->hasSelectedText()) return {caret, caret};
+    const auto start = static_cast<std::size_t>(edit->selectionStart());
+    const auto end = static_cast<std::size_t>(edit->selectionEnd());
+    return {caret == start ? end : start, caret};
 }
 
-void QtTextField::setSelectedRange(HostSelection range)
+void QtTextField::select(Range range)
 {
-    const auto length = static_cast<std::size_t>(lineEdit()->text().size());
-    const std::size_t start = std::min(range.location, length);
-    lineEdit()->setSelection(static_cast<int>(start),
-                             static_cast<int>(std::min(range.length, length - start)));
+    const int anchor = static_cast<int>(range.anchor);
+    lineEdit()->setSelection(anchor, static_cast<int>(range.caret) - anchor);
+}
+
+void QtTextField::insert(const std::u16string& text)
+{
+    lineEdit()->insert(qStringFrom(text));
+}
+
+bool QtTextField::hasFocus() const
+{
+    return lineEdit()->hasFocus();
+}
+
+bool QtTextField::isVisible() const
+{
+    return lineEdit()->isVisible();
+}
+
+bool QtTextField::isReadOnly() const
+{
+    return lineEdit()->isReadOnly();
+}
+
+bool QtTextField::offerText(const std::u16string& text)
+{
+    bool isTaken = false;
+    emit lineEdit()->textOffered(qStringFrom(text), isTaken);
+    return isTaken;
+}
+
+void QtTextField::entryGivenUp()
+{
+    emit lineEdit()->entryGivenUp();
 }
 
 QtLabel::QtLabel(const HostControlDescription& description)

@@ -2,6 +2,7 @@
 
 #include "host/HostControls.h"
 #include "host/HostInterfaceFactory.h"
+#include "hosts/common/FieldEntry.h"
 #include "hosts/qt/QtLineEdit.h"
 #include "hosts/qt/QtView.h"
 
@@ -9,14 +10,10 @@
 
 namespace vantorel {
 
-/// A field that the user edits.
-///
-/// What the page writes behind the insertion point while the user types is a completion: it is
-/// shown as selected, so that the next key replaces it. Keys that delete bring no completion.
-///
-/// An entry ends with Return, or when the field is left by Tab or by a click. A text that the page
-/// would ignore, or that was pasted and is not meant for the field, is first offered to the panel.
-class QtTextField final : public QtMirrored<HostTextField>, public HostFieldEditor {
+/// A field that the user edits, by the rules of `FieldEntry`.
+class QtTextField final : public QtMirrored<HostTextField>,
+                          public HostFieldEditor,
+                          private EntryWidget {
 public:
     explicit QtTextField(const HostControlDescription& description);
 
@@ -24,13 +21,12 @@ public:
     void setStringValue(const std::u16string& text) override;
     void setTextColor(const HostColor& color) override;
 
-    [[nodiscard]] HostSelection selectedRange() const override;
-    void setSelectedRange(HostSelection range) override;
-    /// Whether the field has the keyboard focus.
-    [[nodiscard]] bool isEdited() const;
-    /// Enters the typed text, as Return does. Has no effect if the field is hidden or the user has
-    /// typed nothing since the last entry.
-    void finishEditing();
+    [[nodiscard]] HostSelection selectedRange() const override { return _entry.selectedRange(); }
+    void setSelectedRange(HostSelection range) override { _entry.setSelectedRange(range); }
+    /// Whether the field is being edited, so that it has an editor.
+    [[nodiscard]] bool isEdited() const { return _entry.isEdited(); }
+    /// See `FieldEntry::finish`.
+    void finishEditing() { _entry.finish(); }
     /// The field's widget.
     [[nodiscard]] QtLineEdit* lineEdit() const;
 
@@ -38,20 +34,19 @@ protected:
     void stepDidChange() override;
 
 private:
-    void textDidChangeByUser();
-    /// Shows what is behind the insertion point as selected, or takes it back after a deletion of
-    /// which `typed` and `caret` are the result.
-    void showCompletion(const QString& typed, int caret);
-    void enterText();
-    void leave();
-    void takeBroughtText();
-    /// Returns whether the panel has taken the text.
-    bool offerText();
+    // The widget of the entry.
+    [[nodiscard]] std::u16string text() const override { return stringValue(); }
+    void writeText(const std::u16string& text) override;
+    [[nodiscard]] Range selection() const override;
+    void select(Range range) override;
+    void insert(const std::u16string& text) override;
+    [[nodiscard]] bool hasFocus() const override;
+    [[nodiscard]] bool isVisible() const override;
+    [[nodiscard]] bool isReadOnly() const override;
+    bool offerText(const std::u16string& text) override;
+    void entryGivenUp() override;
 
-    bool _textIsBeingSet = false;
-    /// While the page reacts to the user's typing: whether it has written into the field.
-    bool _isReacting = false;
-    bool _wasWritten = false;
+    FieldEntry _entry{*this, *this};
 };
 
 /// A read-only text. Frames have room for English titles. A title at the right of its frame, before

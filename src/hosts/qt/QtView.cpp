@@ -1,5 +1,6 @@
 #include "hosts/qt/QtView.h"
 
+#include "hosts/common/PixelFrames.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QCoreApplication>
@@ -14,13 +15,13 @@ QWidget* widgetOf(const HostView* view)
 
 QPointF widgetPoint(HostPoint inView, HostRect bounds)
 {
-    return QPointF(inView.x - bounds.x, bounds.maxY() - inView.y) * textScale();
+    const PixelPoint point = pixelPoint(inView, bounds, textScale());
+    return {point.x, point.y};
 }
 
 HostPoint viewPoint(QPointF inWidget, HostRect bounds)
 {
-    const QPointF inPoints = inWidget / textScale();
-    return {inPoints.x() + bounds.x, bounds.maxY() - inPoints.y()};
+    return viewPoint(PixelPoint{inWidget.x(), inWidget.y()}, bounds, textScale());
 }
 
 QRectF widgetRect(HostRect inView, HostRect bounds)
@@ -31,10 +32,8 @@ QRectF widgetRect(HostRect inView, HostRect bounds)
 
 QRect widgetGeometry(HostRect frame, HostRect superviewBounds)
 {
-    const QRectF rect = widgetRect(frame, superviewBounds);
-    const QPoint topLeft(qRound(rect.left()), qRound(rect.top()));
-    return {topLeft,
-            QSize(qRound(rect.right()) - topLeft.x(), qRound(rect.bottom()) - topLeft.y())};
+    const PixelRect place = pixelFrame(frame, superviewBounds, textScale());
+    return {place.x, place.y, place.width, place.height};
 }
 
 QString translatedText(const std::u16string& text)
@@ -50,12 +49,7 @@ void placeWidgets(const HostView& view)
     if (widget != nullptr && view.superview() != nullptr) {
         const QRect place = widgetGeometry(view.frame(), view.superview()->bounds());
         widget->setGeometry(peer->shownGeometry(place));
-        // The core hides views by parking them, or by moving them outside their superview. Neither
-        // the mouse nor Tab nor assistive technology must find them there.
-        const HostRect superview = view.superview()->bounds();
-        const QRectF shown = widgetRect(superview, superview);
-        widget->setVisible(widget->parentWidget() != nullptr && !view.isParked() &&
-                           shown.intersects(place));
+        widget->setVisible(widget->parentWidget() != nullptr && isInSight(view, textScale()));
     }
     // With y up, an unchanged frame moves in Qt's coordinates when the superview's height changes.
     for (const HostView* subview : view.subviews())

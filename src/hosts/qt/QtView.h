@@ -33,9 +33,7 @@ void forEachBelow(HostView* view, const Visit& visit)
         forEachBelow<View>(subview, visit);
 }
 
-/// The geometry of a view's widget in that of the superview. Only this function converts the core's
-/// coordinates, with y up and their own origin, to Qt's. It rounds edges, not sizes, so that
-/// adjacent views stay adjacent.
+/// `PixelFrames.h` in Qt's types: the geometry of a view's widget in that of the superview.
 [[nodiscard]] QRect widgetGeometry(HostRect frame, HostRect superviewBounds);
 /// Convert a point of a widget to the view's own coordinates, and back.
 [[nodiscard]] HostPoint viewPoint(QPointF inWidget, HostRect bounds);

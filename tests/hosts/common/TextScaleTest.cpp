@@ -7,13 +7,15 @@ namespace {
 
 TEST(TextScaleTest, GrowsInQuarterStepsFromTheDefaultFont)
 {
-    EXPECT_EQ(textScaleForFontHeight(0), 1);
-    EXPECT_EQ(textScaleForFontHeight(13), 1);
-    EXPECT_EQ(textScaleForFontHeight(15), 1);
-    EXPECT_EQ(textScaleForFontHeight(17), 1.25);
-    EXPECT_EQ(textScaleForFontHeight(20), 1.5);
-    EXPECT_EQ(textScaleForFontHeight(27), 2);
-    EXPECT_EQ(textScaleForFontHeight(400), 3);
+    struct Row {
+        double pixels;
+        double scale;
+    };
+    for (const auto& [pixels, scale] :
+         {Row{0, 1}, Row{12, 1}, Row{40 / 3.0, 1}, Row{15, 1}, Row{16.5, 1.25}, Row{20, 1.5},
+          Row{19.8, 1.5}, Row{80 / 3.0, 2}, Row{500, 3}}) {
+        EXPECT_EQ(textScaleForFontHeight(pixels), scale) << pixels;
+    }
 }
 
 TEST(FittedTextSizeTest, OnlyATextThatNearlyFitsBecomesSmaller)

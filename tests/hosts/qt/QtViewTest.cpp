@@ -3,7 +3,6 @@
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtInterfaceFactory.h"
 
-#include "hosts/qt/TextScale.h"
 
 #include <gtest/gtest.h>
 
@@ -244,19 +243,6 @@ TEST_F(QtCustomViewTest, MovesCrossTheTrackingRectangleOnce)
     _view->removeTrackingRect(tag);
     move({5, 60});
     EXPECT_EQ(_content._calls, "entered moved exited ");
-}
-
-TEST(TextScaleTest, GrowsInQuarterStepsFromTheDefaultFont)
-{
-    struct Row {
-        double pixels;
-        double scale;
-    };
-    for (const auto& [pixels, scale] :
-         {Row{0, 1}, Row{12, 1}, Row{40 / 3.0, 1}, Row{15, 1}, Row{16.5, 1.25}, Row{20, 1.5},
-          Row{19.8, 1.5}, Row{80 / 3.0, 2}, Row{500, 3}}) {
-        EXPECT_EQ(textScaleForFontHeight(pixels), scale) << pixels;
-    }
 }
 
 }  // namespace
