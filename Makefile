@@ -23,8 +23,8 @@ test: packages-build+run+test
 
 # DESTDIR=FOLDER installs below that folder, for building packages.
 install: packages-build+run
-	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" > /dev/null
-	@cmake --build --preset release --target vantorel-descriptions vantorel-panel-descriptions
+	@cmake --preset release -DCMAKE_INSTALL_PREFIX="$(PREFIX)" -DVANTOREL_TESTS=OFF -DVANTOREL_BENCHMARKS=OFF > /dev/null
+	@cmake --build --preset release
 	@DESTDIR="$(DESTDIR)" cmake --install build/release --strip
 
 deb: packages-build+package
