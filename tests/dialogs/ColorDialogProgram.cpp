@@ -10,13 +10,14 @@
 /// A program of somebody else, which knows nothing of us. Opens a colour dialog and prints what it
 /// hears of it:
 ///
-///     shown WIDTH HEIGHT CLASSES     the dialog's size, and the classes that its window shows
-///     current #AARRGGBB              each change
-///     selected #AARRGGBB             OK
+///     shown WIDTH HEIGHT
+///     current #AARRGGBB      each change
+///     selected #AARRGGBB     OK
 ///     rejected
+///     destroyed
 ///
 /// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
-/// destroyed half a second after the first change), none (no dialog: ends when the event loop has
+/// destroyed half a second after the first change), late (shown some time after it was made), none (no dialog: ends when the event loop has
 /// started).
 namespace {
 
@@ -81,10 +82,17 @@ int main(int argc, char** argv)
                      [](const QColor& color) { print("selected", color); });
     QObject::connect(dialog, &QDialog::rejected, dialog, [] { std::puts("rejected"); });
     QObject::connect(dialog, &QDialog::finished, &program, &QCoreApplication::quit);
-    dialog->show();
-    QTimer::singleShot(0, dialog, [=] {
-        std::printf("shown %d %d\n", dialog->width(), dialog->height());
-        std::fflush(stdout);
-    });
+    const auto show = [=] {
+        dialog->show();
+        QTimer::singleShot(0, dialog, [=] {
+            std::printf("shown %d %d\n", dialog->width(), dialog->height());
+            std::fflush(stdout);
+        });
+    };
+    if (has("late")) {
+        QTimer::singleShot(100, dialog, show);
+    } else {
+        show();
+    }
     return QApplication::exec();
 }

@@ -77,8 +77,9 @@ bool DialogLibrary::openOnce(const char* fileName) noexcept
     const auto* abi = symbolOf<const std::uint32_t*>(library, "vantorelDialogABI");
     if (abi == nullptr || *abi != dialogLibraryABI) return false;
     const auto openPage = symbolOf<bool (*)(const char*)>(library, "vantorelOpenPage");
+    _keep = symbolOf<void (*)(void*)>(library, "vantorelKeepDialog");
     _attach = symbolOf<void (*)(void*)>(library, "vantorelAttachPage");
-    return openPage != nullptr && _attach != nullptr && openPage(pages);
+    return openPage != nullptr && _keep != nullptr && _attach != nullptr && openPage(pages);
 }
 
 }  // namespace vantorel

@@ -8,6 +8,7 @@
 ///
 ///     extern "C" const std::uint32_t vantorelDialogABI;                 // = dialogLibraryABI
 ///     extern "C" bool vantorelOpenPage(const char* pagesFolder);
+///     extern "C" void vantorelKeepDialog(void* dialog);
 ///     extern "C" void vantorelAttachPage(void* dialog);
 ///
 /// Nothing here throws, prints, writes, or allocates memory before a dialog appears.
@@ -23,8 +24,13 @@ public:
     /// user has not excluded the program. Later calls return the same.
     [[nodiscard]] bool open(const char* fileName) noexcept;
 
-    /// Puts the page into a dialog. Call it only after `open` has returned true. The dialog's type
-    /// is known to the library.
+    // Call the functions below only after `open` has returned true. The dialog's type is known to
+    // the library.
+
+    /// Has the toolkit's own dialog shown when the program shows this one, not the desktop's. Used
+    /// by toolkits that would decide otherwise. Has no effect on a dialog that is shown.
+    void keepDialog(void* dialog) const noexcept { _keep(dialog); }
+    /// Puts the page into a dialog.
     void attachPage(void* dialog) const noexcept { _attach(dialog); }
 
 private:
@@ -33,6 +39,7 @@ private:
     [[nodiscard]] bool openOnce(const char* fileName) noexcept;
 
     State _state = State::unopened;
+    void (*_keep)(void*) = nullptr;
     void (*_attach)(void*) = nullptr;
 };
 

@@ -21,6 +21,11 @@ QtDesktop& desktopOfProgram()
     return *desktop;
 }
 
+QColorDialog* colorDialog(void* dialog)
+{
+    return qobject_cast<QColorDialog*>(static_cast<QObject*>(dialog));
+}
+
 }  // namespace
 }  // namespace vantorel
 
@@ -28,6 +33,7 @@ extern "C" {
 
 __attribute__((visibility("default"))) extern const std::uint32_t vantorelDialogABI;
 __attribute__((visibility("default"))) bool vantorelOpenPage(const char* pagesFolder);
+__attribute__((visibility("default"))) void vantorelKeepDialog(void* dialog);
 __attribute__((visibility("default"))) void vantorelAttachPage(void* dialog);
 
 const std::uint32_t vantorelDialogABI = vantorel::dialogLibraryABI;
@@ -43,12 +49,19 @@ bool vantorelOpenPage(const char* pagesFolder)
     }
 }
 
+void vantorelKeepDialog(void* dialog)
+{
+    QColorDialog* made = vantorel::colorDialog(dialog);
+    if (made == nullptr || made->isVisible()) return;
+    made->setOption(QColorDialog::DontUseNativeDialog);
+}
+
 void vantorelAttachPage(void* dialog)
 {
     try {
-        auto* colorDialog = qobject_cast<QColorDialog*>(static_cast<QObject*>(dialog));
-        if (colorDialog == nullptr || vantorel::openedPage() == nullptr) return;
-        vantorel::DialogPage::putInto(*colorDialog, *vantorel::openedPage(),
+        QColorDialog* shown = vantorel::colorDialog(dialog);
+        if (shown == nullptr || vantorel::openedPage() == nullptr) return;
+        vantorel::DialogPage::putInto(*shown, *vantorel::openedPage(),
                                       vantorel::desktopOfProgram());
     } catch (...) {
         // The dialog opens without the page.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGenericPlugin>
+#include <QPointer>
 
 /// The plug-in that Qt loads at the start of every program. It links neither Qt Widgets nor the
 /// rest of our code: most programs never open a colour dialog.
@@ -24,11 +25,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (_forbidsNativeDialogs) allowNativeDialogs();
         switch (event->type()) {
             case QEvent::WindowTitleChange:
                 if (isDialogBeingMade(*watched) && _library.open(libraryName)) {
-                    forbidNativeDialogs();
+                    forbidNativeDialog(*watched);
                 }
                 break;
             case QEvent::Polish:
@@ -55,28 +55,29 @@ private:
         return isDialog(object) && object.children().isEmpty();
     }
 
-    /// Until the next event, so that other dialogs, such as those for files, stay the desktop's.
-    void forbidNativeDialogs()
+    /// The dialog asks for the attribute when it is made and again when it is shown, which most
+    /// programs do at once. Other dialogs, such as those for files, are to stay the desktop's, so
+    /// the attribute is set no longer than that.
+    void forbidNativeDialog(QObject& dialog)
     {
-        if (QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs)) return;
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
-        _forbidsNativeDialogs = true;
+        if (_prohibitions == 0) {
+            if (QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs)) return;
+            QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
+        }
+        ++_prohibitions;
         QMetaObject::invokeMethod(
             this,
-            [this] {
-                if (_forbidsNativeDialogs) allowNativeDialogs();
+            [this, made = QPointer<QObject>(&dialog)] {
+                if (--_prohibitions == 0) {
+                    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+                }
+                if (made) _library.keepDialog(made);
             },
             Qt::QueuedConnection);
     }
 
-    void allowNativeDialogs()
-    {
-        _forbidsNativeDialogs = false;
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
-    }
-
     DialogLibrary _library;
-    bool _forbidsNativeDialogs = false;
+    int _prohibitions = 0;
 };
 
 }  // namespace
