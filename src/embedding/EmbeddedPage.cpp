@@ -51,7 +51,15 @@ EmbeddedPage::EmbeddedPage(EmbeddingDialog& dialog, HostDesktop& desktop, Embedd
 
 EmbeddedPage::~EmbeddedPage()
 {
+    close();
+}
+
+void EmbeddedPage::close()
+{
     if (_view != nullptr) _view->removeFromSuperview();
+    _view = nullptr;
+    _isPending = false;
+    _picker.reset();
 }
 
 bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostView& holder,

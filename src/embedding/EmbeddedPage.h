@@ -81,6 +81,10 @@ public:
     void sendPendingColor();
     /// The dialog is about to be destroyed, and must not be called any more.
     void forgetDialog();
+    /// Destroys the picker. Call this before the panel is destroyed, of which a picker expects
+    /// everything to its end: at the latest in the destructor of the class that is derived from
+    /// `EmbeddedPanel`. The page must not be busy.
+    void close();
     /// Whether code of the page is being run, as during a mouse drag. The page and its panel must
     /// then not be destroyed yet.
     [[nodiscard]] bool isBusy() const { return _calls > 0; }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QPalette>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QTimer>
 
@@ -10,6 +11,7 @@
 /// A program of somebody else, which knows nothing of us. Opens a colour dialog and prints what it
 /// hears of it:
 ///
+///     place NAME X Y WIDTH HEIGHT     each visible widget with a name, and OK
 ///     shown WIDTH HEIGHT
 ///     current #AARRGGBB      each change
 ///     selected #AARRGGBB     OK
@@ -17,13 +19,30 @@
 ///     destroyed
 ///
 /// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
-/// destroyed half a second after the first change), late (shown some time after it was made), none (no dialog: ends when the event loop has
+/// destroyed half a second after the first change), late (shown some time after it was made), brief
+/// (ends when the dialog is shown), none (no dialog: ends when the event loop has
 /// started).
 namespace {
 
 void print(const char* what, const QColor& color)
 {
     std::printf("%s %s\n", what, color.name(QColor::HexArgb).toUtf8().constData());
+    std::fflush(stdout);
+}
+
+/// Only the page names its widgets.
+void printPlaces(const QWidget& window)
+{
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        const bool isOk = button != nullptr && button->isDefault();
+        const QString name = isOk ? QStringLiteral("ok") : widget->objectName();
+        if (name.isEmpty() || !widget->isVisible()) continue;
+        const QPoint place = widget->mapTo(&window, QPoint());
+        std::printf("place %s %d %d %d %d\n", name.toUtf8().constData(), place.x(), place.y(),
+                    widget->width(), widget->height());
+    }
+    std::printf("shown %d %d\n", window.width(), window.height());
     std::fflush(stdout);
 }
 
@@ -82,11 +101,12 @@ int main(int argc, char** argv)
                      [](const QColor& color) { print("selected", color); });
     QObject::connect(dialog, &QDialog::rejected, dialog, [] { std::puts("rejected"); });
     QObject::connect(dialog, &QDialog::finished, &program, &QCoreApplication::quit);
+    const bool isBrief = has("brief");
     const auto show = [=] {
         dialog->show();
         QTimer::singleShot(0, dialog, [=] {
-            std::printf("shown %d %d\n", dialog->width(), dialog->height());
-            std::fflush(stdout);
+            printPlaces(*dialog);
+            if (isBrief) QCoreApplication::quit();
         });
     };
     if (has("late")) {

@@ -238,6 +238,17 @@ TEST_F(EmbeddedPageTest, ADialogMayEndThePageWhenItIsGivenAColor)
     EXPECT_THAT(_holder.subviews(), IsEmpty());
 }
 
+TEST_F(EmbeddedPageTest, APageIsDestroyedBeforeItsPanelIs)
+{
+    ASSERT_TRUE(show());
+    _panel->page().close();
+    EXPECT_EQ(ObedientPicker::shown(), nullptr);
+    EXPECT_THAT(_holder.subviews(), IsEmpty());
+    _panel->page().dialogColorDidChange(gray(0.1));
+    _panel->page().resize();
+    EXPECT_EQ(_panel->color(), gray(0.1));
+}
+
 TEST_F(EmbeddedPageTest, APageThatCannotBeCreatedLeavesTheHolderEmpty)
 {
     ObedientPicker::hasView() = false;

@@ -9,6 +9,7 @@ namespace vantorel {
 class DialogPanel final : public EmbeddedPanel<QtColorPanel> {
 public:
     DialogPanel(EmbeddingDialog& dialog, QtDesktop& desktop);
+    ~DialogPanel() override { page().close(); }
 
     /// Calls `pageDidAppear` if the page can be shown.
     bool showPage(const LoadedPlugin& plugin, HostView& holder, const HostColor& initialColor);
