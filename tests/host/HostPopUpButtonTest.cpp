@@ -17,6 +17,31 @@ TEST_F(HostPopUpButtonTest, FillingAnEmptyButtonSelectsTheFirstItem)
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"a");
 }
 
+TEST_F(HostPopUpButtonTest, TheDesktopLearnsOfEachChange)
+{
+    class Shown final : public HostPopUpButton {
+    public:
+        Shown() : HostPopUpButton(HostRect{}) {}
+        int _changes = 0;
+
+    private:
+        void menuDidChange() override { ++_changes; }
+    };
+    Shown popUp;
+    const auto changes = [&](const auto& change) {
+        const int before = popUp._changes;
+        change();
+        return popUp._changes - before;
+    };
+    EXPECT_EQ(changes([&] { popUp.addItemWithTitle(u"a"); }), 1);
+    EXPECT_EQ(changes([&] { popUp.addItemWithTitle(u"b"); }), 1);
+    EXPECT_EQ(changes([&] { popUp.setTitleOfItem(1, u"c"); }), 1);
+    EXPECT_EQ(changes([&] { popUp.moveItems({1}, 0); }), 1);
+    EXPECT_EQ(changes([&] { popUp.selectItemAtIndex(0); }), 1);
+    EXPECT_EQ(changes([&] { popUp.removeAllItems(); }), 1);
+    EXPECT_EQ(changes([&] { popUp.setItems({}); }), 1);
+}
+
 TEST_F(HostPopUpButtonTest, AnUnknownTitleClearsTheSelection)
 {
     _popUp.addItemsWithTitles({u"a", u"b"});
