@@ -18,7 +18,7 @@ build: packages-build+run
 	@cmake --preset release > /dev/null
 	@cmake --build --preset release
 
-test: packages-build+run+test
+test: packages-build+run+test+dialogs
 	@tools/run-tests $(PRESETS)
 
 # DESTDIR=FOLDER installs below that folder, for building packages.
@@ -42,10 +42,10 @@ bench: packages-build+run+test
 format: packages-check
 	@tools/format
 
-check: packages-build+run+test+check
+check: packages-build+run+test+dialogs+check
 	@tools/run-checks
 
-coverage: packages-build+run+test+check
+coverage: packages-build+run+test+dialogs+check
 	@tools/run-coverage
 
 fuzz: packages-build+run+check

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/HostControls.h"
+#include "host/HostInterfaceFactory.h"
+
+namespace vantorel {
+
+/// Creates controls made of GTK's widgets.
+class GtkHostInterfaceFactory final : public HostInterfaceFactory {
+public:
+    std::unique_ptr<HostView> makeView(const HostControlDescription& description) override;
+    std::unique_ptr<HostCustomView> makeCustomView(const HostControlDescription& description,
+                                                   HostViewContent& content) override;
+    std::unique_ptr<HostTextField> makeTextField(
+        const HostControlDescription& description) override;
+    std::unique_ptr<HostButton> makeButton(const HostControlDescription& description) override;
+    std::unique_ptr<HostPopUpButton> makePopUpButton(
+        const HostControlDescription& description) override;
+};
+
+}  // namespace vantorel

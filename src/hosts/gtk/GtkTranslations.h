@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// Texts of the core in the user's language.
+namespace vantorel {
+
+/// Returns the translation of a text in a context of the translation files, or the text itself.
+using GtkTranslator =
+    std::function<std::u16string(std::string_view context, std::u16string_view text)>;
+
+/// Sets the source of all translations; without one every text stays English.
+void setGtkTranslator(GtkTranslator translator);
+
+/// A text of a page or of its interface file.
+[[nodiscard]] std::u16string translatedText(std::u16string_view text);
+
+/// A title or message of a picker. Pickers select menu items by their titles and store them in
+/// files, so these keep their English names everywhere but on the screen. Names of colours and
+/// lists have no translation.
+[[nodiscard]] std::u16string shownTitle(std::u16string_view text);
+
+}  // namespace vantorel
