@@ -1,0 +1,24 @@
+#pragma once
+
+#include "embedding/EmbeddedPanel.h"
+#include "hosts/gtk/GtkHostColorPanel.h"
+
+namespace vantorel {
+
+/// The panel of a page in a colour dialog made with GTK.
+class GtkDialogPanel final : public EmbeddedPanel<GtkHostColorPanel> {
+public:
+    GtkDialogPanel(EmbeddingDialog& dialog, GtkHostDesktop& desktop);
+    ~GtkDialogPanel() override { page().close(); }
+
+    using GtkHostColorPanel::finishEditing;
+
+    /// Calls `pageDidAppear` if the page can be shown.
+    bool showPage(const LoadedPlugin& plugin, HostView& holder, const HostColor& initialColor);
+
+protected:
+    [[nodiscard]] HostView* pageView() const override { return page().view(); }
+    bool takeText(const std::u16string& text) override;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,57 @@
+#include "embedding/PageLibrary.h"
+#include "embedding/loader/DialogLibrary.h"
+#include "hosts/gtk-dialog/GtkDialogPage.h"
+
+/// The functions that the loader calls (see embedding/loader/DialogLibrary.h).
+namespace vantorel {
+namespace {
+
+constexpr const char* pageName = "/QTXHexColorPicker.so";
+
+const LoadedPlugin*& openedPage()
+{
+    static const LoadedPlugin* page = nullptr;
+    return page;
+}
+
+/// Never destroyed: a dialog may outlive the static objects of a program that ends.
+GtkHostDesktop& desktopOfProgram()
+{
+    static auto* const desktop = new GtkHostDesktop;
+    return *desktop;
+}
+
+}  // namespace
+}  // namespace vantorel
+
+extern "C" {
+
+__attribute__((visibility("default"))) extern const std::uint32_t vantorelDialogABI;
+__attribute__((visibility("default"))) bool vantorelOpenPage(const char* pagesFolder);
+__attribute__((visibility("default"))) void vantorelAttachPage(void* dialog);
+
+const std::uint32_t vantorelDialogABI = vantorel::dialogLibraryABI;
+
+bool vantorelOpenPage(const char* pagesFolder)
+{
+    try {
+        vantorel::openedPage() =
+            vantorel::pageOfLibrary(std::string(pagesFolder) + vantorel::pageName);
+        return vantorel::openedPage() != nullptr;
+    } catch (...) {
+        return false;
+    }
+}
+
+void vantorelAttachPage(void* dialog)
+{
+    try {
+        if (vantorel::openedPage() == nullptr || !GTK_IS_WIDGET(dialog)) return;
+        vantorel::GtkDialogPage::putInto(GTK_WIDGET(dialog), *vantorel::openedPage(),
+                                         vantorel::desktopOfProgram());
+    } catch (...) {
+        // The dialog opens without the page.
+        return;
+    }
+}
+}
