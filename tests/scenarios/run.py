@@ -2,6 +2,7 @@
 """Runs scenario files through the driver.
 
     run.py DRIVER FILE
+    run.py --record DRIVER FILE     prints the file with what the driver replies now in place of each "like"
 
 A scenario is a file of JSON lines. Each line is {"do": REQUEST, "expect": EXPECTATION, "why": TEXT};
 "expect" and "why" are optional. Empty lines and lines that begin with "#" are ignored. "$HOME" in a request is
@@ -13,11 +14,15 @@ are compared by the keys of the expectation, lists as a whole, all other values 
     {"count": N}               a list of N elements
     {"at": {"-1": A}}          a list whose element at that index (from the end if negative) fits A
     {"contains": TEXT}         a text that contains TEXT
+    {"like": A}                A, with numbers that may differ by rounding; for whole pictures and states
 """
 import json
 import subprocess
 import sys
 import tempfile
+
+
+ROUNDING = 1e-6
 
 
 def mismatch(expected, found, path):
@@ -27,6 +32,8 @@ def mismatch(expected, found, path):
         if keys == {"near", "within"}:
             fits = isinstance(found, (int, float)) and abs(found - expected["near"]) <= expected["within"]
             return None if fits else f"{path}: {found!r} is not near {expected['near']!r}"
+        if keys == {"like"}:
+            return mismatch(with_rounding(expected["like"]), found, path)
         if keys == {"contains"}:
             fits = isinstance(found, str) and expected["contains"] in found
             return None if fits else f"{path}: {found!r} does not contain {expected['contains']!r}"
@@ -73,8 +80,35 @@ def mismatch(expected, found, path):
     return None if same else f"{path}: {found!r}, not {expected!r}"
 
 
+def with_rounding(value):
+    """The expectation of a value that was recorded with rounded numbers."""
+    if isinstance(value, dict):
+        return {key: with_rounding(part) for key, part in value.items()}
+    if isinstance(value, list):
+        return [with_rounding(part) for part in value]
+    return {"near": value, "within": ROUNDING} if isinstance(value, float) else value
+
+
+def rounded(value):
+    if isinstance(value, dict):
+        return {key: rounded(part) for key, part in value.items()}
+    if isinstance(value, list):
+        return [rounded(part) for part in value]
+    return round(value, 6) if isinstance(value, float) else value
+
+
+def recorded(expected, found):
+    """The expectation with the parts below "like" replaced by what was found."""
+    if not isinstance(expected, dict):
+        return expected
+    if set(expected) == {"like"}:
+        return {"like": rounded(found)}
+    return {key: recorded(part, found[key]) for key, part in expected.items()}
+
+
 def main():
-    driver, file = sys.argv[1:]
+    records = sys.argv[1:2] == ["--record"]
+    driver, file = sys.argv[2:] if records else sys.argv[1:]
     steps = []
     with open(file, encoding="utf-8") as lines:
         for number, line in enumerate(lines, 1):
@@ -88,6 +122,12 @@ def main():
         requests = requests.replace("$HOME", home)
         run = subprocess.run([driver], input=requests.encode("utf-8", "surrogatepass"), capture_output=True, check=False)
     replies = run.stdout.decode("utf-8").splitlines()
+    if records:
+        for (_, step), reply in zip(steps, replies):
+            if "expect" in step:
+                step["expect"] = recorded(step["expect"], json.loads(reply))
+            print(json.dumps(step, ensure_ascii=False, separators=(",", ":")))
+        return
     problems = []
     if run.returncode != 0:
         problems.append(f"the driver ended with {run.returncode}: {run.stderr.decode('utf-8', 'replace')}")
