@@ -1661,6 +1661,14 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
         <source>The command succeeded.</source>
         <translation>Der Befehl war erfolgreich.</translation>
     </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>ein Teil davon fehlt</translation>
+    </message>
+    <message>
+        <source>install it again</source>
+        <translation>installieren Sie es neu</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1661,6 +1661,14 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <source>The command succeeded.</source>
         <translation>La orden ha tenido éxito.</translation>
     </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>falta una parte</translation>
+    </message>
+    <message>
+        <source>install it again</source>
+        <translation>vuelva a instalarlo</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

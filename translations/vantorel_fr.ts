@@ -1661,6 +1661,14 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <source>The command succeeded.</source>
         <translation>La commande a réussi.</translation>
     </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>il en manque une partie</translation>
+    </message>
+    <message>
+        <source>install it again</source>
+        <translation>réinstallez-le</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1,5 +1,6 @@
 #include "plugins/PluginLoader.h"
 
+#include "hosts/posix/LibraryFile.h"
 #include "plugins/FileTrust.h"
 
 #include <dlfcn.h>
@@ -86,6 +87,9 @@ Result<const HostPlugin*> pluginOfLibrary(const std::string& file)
     if (!trusted) return trusted.error();
     if (!trusted->isRegular) return Message{phrase("it is not a regular file")};
     if (const Status trust = checkTrust(resourcesOfLibrary(file)); !trust) return trust.error();
+    if (isCutOffLibrary(trusted->path().c_str())) {
+        return Message{phrase("a part of it is missing"), phrase("install it again")};
+    }
     const Result<void*> loaded = loadLibrary(*std::move(trusted), file);
     if (!loaded) return loaded.error();
     void* library = *loaded;

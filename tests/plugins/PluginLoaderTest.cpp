@@ -68,6 +68,23 @@ TEST(PluginLoaderTest, FilesThatAreNotPluginsAreSkippedWithTheirNameAndAReason)
     EXPECT_THAT(english(search.problems[1]), HasSubstr("/missing/file.so is left out: "));
 }
 
+TEST(PluginLoaderTest, ALibraryThatWasNotCopiedWholeIsSkipped)
+{
+    const ScratchFolder folder;
+    const std::string file = folder.pathOf("part.so");
+    std::filesystem::copy_file(plugins + "/good-plugin.so", file);
+    const auto whole = std::filesystem::file_size(file);
+    for (const auto length : {whole / 8, whole / 2, whole - 1}) {
+        // Opening it would end the process.
+        std::filesystem::resize_file(file, length);
+        const auto search = loadPlugins({}, {file});
+        EXPECT_TRUE(search.plugins.empty());
+        ASSERT_EQ(search.problems.size(), 1U);
+        EXPECT_EQ(english(search.problems.front()),
+                  file + " is left out: a part of it is missing; install it again");
+    }
+}
+
 TEST(PluginLoaderTest, ALibraryWithoutTheSymbolsIsNotAPlugin)
 {
     std::string libm;

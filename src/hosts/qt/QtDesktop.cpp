@@ -37,10 +37,11 @@ private:
 
 }  // namespace
 
-QtDesktop::QtDesktop() : _colorLists(_files, [this](const std::u16string& line) { log(line); })
+QtDesktop::QtDesktop(QtLog log)
+    : _log(log), _colorLists(_files, [this](const std::u16string& line) { this->log(line); })
 {
     _files.setFailureHandler(
-        [this](auto, const Message& message) { log(utf16FromUtf8(english(message))); });
+        [this](auto, const Message& message) { this->log(utf16FromUtf8(english(message))); });
 }
 
 std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::function<void()> reaction)
@@ -78,6 +79,7 @@ void QtDesktop::beep()
 
 void QtDesktop::log(const std::u16string& line)
 {
+    if (_log == QtLog::nowhere) return;
     const std::string text = utf8FromUtf16(line) + "\n";
     // If stderr is closed there is no way to report it.
     static_cast<void>(std::fputs(text.c_str(), stderr));

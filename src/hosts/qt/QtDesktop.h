@@ -7,10 +7,14 @@
 
 namespace vantorel {
 
+/// Whether problems of a page are written to standard error. In programs of others, which did not
+/// ask for a page, nothing is.
+enum class QtLog { standardError, nowhere };
+
 /// The desktop as seen through Qt. Needs a QApplication.
 class QtDesktop final : public HostDesktop {
 public:
-    QtDesktop();
+    explicit QtDesktop(QtLog log = QtLog::standardError);
 
     PaletteFileStore& colorLists() override { return _colorLists; }
     HostFiles& files() override { return _files; }
@@ -21,10 +25,10 @@ public:
     [[nodiscard]] std::u16string localizedString(const std::u16string& key) override;
     void openURL(const std::string& url) override;
     void beep() override;
-    /// Writes to standard error.
     void log(const std::u16string& line) override;
 
 private:
+    QtLog _log;
     PosixFiles _files;
     PaletteFileStore _colorLists;
     QtInterfaceFactory _factory;

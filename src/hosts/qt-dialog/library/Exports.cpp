@@ -17,7 +17,7 @@ const LoadedPlugin*& openedPage()
 /// Never destroyed: a dialog may outlive the static objects of a program that ends.
 QtDesktop& desktopOfProgram()
 {
-    static auto* const desktop = new QtDesktop;
+    static auto* const desktop = new QtDesktop(QtLog::nowhere);
     return *desktop;
 }
 
