@@ -79,7 +79,7 @@ bool DialogLibrary::openOnce(const char* fileName) noexcept
     const auto openPage = symbolOf<bool (*)(const char*)>(library, "vantorelOpenPage");
     _keep = symbolOf<void (*)(void*)>(library, "vantorelKeepDialog");
     _attach = symbolOf<void (*)(void*)>(library, "vantorelAttachPage");
-    return openPage != nullptr && _keep != nullptr && _attach != nullptr && openPage(pages);
+    return openPage != nullptr && _attach != nullptr && openPage(pages);
 }
 
 }  // namespace vantorel

@@ -8,8 +8,8 @@
 ///
 ///     extern "C" const std::uint32_t vantorelDialogABI;                 // = dialogLibraryABI
 ///     extern "C" bool vantorelOpenPage(const char* pagesFolder);
-///     extern "C" void vantorelKeepDialog(void* dialog);
 ///     extern "C" void vantorelAttachPage(void* dialog);
+///     extern "C" void vantorelKeepDialog(void* dialog);                 // may be left out
 ///
 /// Nothing here throws, prints, writes, or allocates memory before a dialog appears.
 namespace vantorel {
@@ -27,11 +27,14 @@ public:
     // Call the functions below only after `open` has returned true. The dialog's type is known to
     // the library.
 
-    /// Has the toolkit's own dialog shown when the program shows this one, not the desktop's. Used
-    /// by toolkits that would decide otherwise. Has no effect on a dialog that is shown.
-    void keepDialog(void* dialog) const noexcept { _keep(dialog); }
     /// Puts the page into a dialog.
     void attachPage(void* dialog) const noexcept { _attach(dialog); }
+    /// Has the toolkit's own dialog shown when the program shows this one, not the desktop's, for
+    /// toolkits that may show either. Has no effect on a dialog that is shown.
+    void keepDialog(void* dialog) const noexcept
+    {
+        if (_keep != nullptr) _keep(dialog);
+    }
 
 private:
     enum class State { unopened, open, unavailable };
