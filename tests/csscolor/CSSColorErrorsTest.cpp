@@ -49,6 +49,13 @@ TEST(CSSColorErrorsTest, TextsWithoutAColour)
     });
 }
 
+TEST(CSSColorErrorsTest, ABackslashBeforeALineEndIsNoEscape)
+{
+    constexpr const char* error =
+        R"~("\" is not a colour; write one such as "#ff8000", "rgb(255 128 0)" or "orange".)~";
+    expectErrors({{"\\\n64 ", error}, {"\\\r64 ", error}, {"\\\f64 ", error}});
+}
+
 TEST(CSSColorErrorsTest, HexColours)
 {
     expectErrors({

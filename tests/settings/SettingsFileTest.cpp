@@ -20,6 +20,14 @@ TEST(SettingsFileTest, TheFirstStartCreatesFolderAndFile)
     EXPECT_TRUE(settings.codeSnippets().empty()) << "a new file is not read back";
 }
 
+TEST(SettingsFileTest, WithoutAHomeThereIsNoFileThatCouldBeLost)
+{
+    MemoryFiles files(std::nullopt);
+    QTXHexSettings settings;
+    SettingsMerge merge;
+    EXPECT_TRUE(initializeDefaults(files, settings, merge));
+}
+
 TEST(SettingsFileTest, AnExistingFileIsLoaded)
 {
     MemoryFiles files;

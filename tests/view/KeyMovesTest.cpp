@@ -87,5 +87,27 @@ TEST(KeyMovesTest, AnArrowGoesBackWhereItsOppositeCameFromInTheMiddleOfTheWheel)
     EXPECT_NE(end, grey);
 }
 
+TEST(KeyMovesTest, AWalkOverTheWheel)
+{
+    const auto cells = wheelCells(wheelPlace({240, 190}, 8));
+    struct Step {
+        HostKey key;
+        std::size_t index;
+    };
+    std::size_t index = cells.size() - 1;  // grey, in the middle
+    for (const auto& [key, expected] : {
+             Step{HostKey::up, 378},      Step{HostKey::up, 379},    Step{HostKey::up, 364},
+             Step{HostKey::right, 367},   Step{HostKey::right, 368}, Step{HostKey::up, 343},
+             Step{HostKey::left, 366},    Step{HostKey::left, 365},  Step{HostKey::left, 336},
+             Step{HostKey::left, 335},    Step{HostKey::left, 294},  Step{HostKey::down, 293},
+             Step{HostKey::down, 292},    Step{HostKey::down, 291},  Step{HostKey::down, 290},
+             Step{HostKey::right, 331},   Step{HostKey::pageUp, 25}, Step{HostKey::home, 15},
+             Step{HostKey::pageDown, 89}, Step{HostKey::end, 60},
+         }) {
+        index = wheelIndexAfterKey(cells, index, key);
+        EXPECT_EQ(index, expected) << "after key " << static_cast<int>(key);
+    }
+}
+
 }  // namespace
 }  // namespace vantorel
