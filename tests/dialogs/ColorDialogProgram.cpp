@@ -19,7 +19,7 @@
 ///     destroyed
 ///
 /// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
-/// destroyed half a second after the first change), late (shown some time after it was made), brief
+/// destroyed after the third change), late (shown some time after it was made), brief
 /// (ends when the dialog is shown), none (no dialog: ends when the event loop has
 /// started).
 namespace {
@@ -87,10 +87,10 @@ int main(int argc, char** argv)
     auto* dialog = new QColorDialog(initial);
     dialog->setWindowTitle(QStringLiteral("Trial"));
     dialog->setOptions(options);
-    const bool isGoneSoon = has("gone");
-    QObject::connect(dialog, &QColorDialog::currentColorChanged, dialog, [=](const QColor& color) {
+    int changesToLive = has("gone") ? 3 : -1;
+    QObject::connect(dialog, &QColorDialog::currentColorChanged, dialog, [&](const QColor& color) {
         print("current", color);
-        if (isGoneSoon) QTimer::singleShot(500, dialog, [=] { delete dialog; });
+        if (--changesToLive == 0) QTimer::singleShot(0, dialog, [=] { delete dialog; });
     });
     QObject::connect(dialog, &QObject::destroyed, &program, [] {
         std::puts("destroyed");

@@ -2,6 +2,7 @@
 # Shared code of tests with colour dialogs of other programs. Source it with `program` and `plugins` set: the
 # program, and the folder of plug-ins for its Qt.
 panel=${program:?the program}
+: "${plugins:?the folder of plug-ins}"
 # shellcheck source=../panel/scratch.sh
 . "$(dirname "${BASH_SOURCE[0]}")/../panel/scratch.sh"
 # Palettes of other programs on the machine must not affect the tests.
