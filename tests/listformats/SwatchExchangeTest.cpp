@@ -4,6 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace {
 
 using namespace vantorel;
@@ -30,6 +36,54 @@ TEST(SwatchExchangeTest, WrittenListsReadBack)
     ASSERT_TRUE(reading);
     EXPECT_EQ(reading->list->name(), u"List \u00e9");
     EXPECT_EQ(plainText(*reading->list), plainText(*list()));
+}
+
+void appendBigEndian(std::string& bytes, std::uint32_t number, int width)
+{
+    for (int byte = width - 1; byte >= 0; --byte)
+        bytes += static_cast<char>(number >> 8 * byte & 0xFF);
+}
+
+/// A file with one colour, called "x".
+std::string swatchFile(std::string_view model, const std::vector<float>& channels)
+{
+    std::string color("\0\2\0x\0\0", 6);
+    color += model;
+    for (const float channel : channels)
+        appendBigEndian(color, std::bit_cast<std::uint32_t>(channel), 4);
+    appendBigEndian(color, 2, 2);
+    std::string bytes = "ASEF";
+    appendBigEndian(bytes, 0x00010000, 4);
+    appendBigEndian(bytes, 1, 4);
+    appendBigEndian(bytes, 1, 2);
+    appendBigEndian(bytes, static_cast<std::uint32_t>(color.size()), 4);
+    return bytes + color;
+}
+
+TEST(SwatchExchangeTest, EveryColourModelIsRead)
+{
+    struct Row {
+        std::string_view model;
+        std::vector<float> channels;
+        std::string_view line;
+    };
+    const Row rows[] = {
+        {"RGB ", {0.5F, 0.25F, 0.75F}, "#8040bf\tx\n"},
+        {"Gray", {0.2F}, "#333333\tx\n"},
+        {"CMYK", {0.2F, 0.6F, 0.9F, 0.5F}, "#66330d\tx\n"},
+        {"LAB ", {0.5F, 40, 20}, "#b95857\tx\n"},
+        {"LAB ", {1, 0, 0}, "#ffffff\tx\n"},
+        {"LAB ", {0.5F, 0, -60}, "#007bde\tx\n"},
+    };
+    for (const Row& row : rows) {
+        const auto reading = readSwatchExchange(swatchFile(row.model, row.channels), u"");
+        ASSERT_TRUE(reading) << row.model;
+        EXPECT_EQ(plainText(*reading->list), row.line) << row.model;
+    }
+    const auto unknown = readSwatchExchange(swatchFile("HSB ", {0, 0, 0}), u"");
+    ASSERT_TRUE(unknown);
+    EXPECT_TRUE(unknown->list->allKeys().empty());
+    EXPECT_EQ(unknown->skipped, 1U);
 }
 
 TEST(SwatchExchangeTest, EveryTruncatedFileIsRejected)

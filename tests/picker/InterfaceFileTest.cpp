@@ -6,6 +6,8 @@
 #include <functional>
 #include <iterator>
 #include <random>
+#include <set>
+#include <string>
 
 namespace vantorel {
 namespace {
@@ -43,6 +45,19 @@ TEST(InterfaceFileTest, TheShippedFileIsValid)
             EXPECT_FALSE(description.toolTip.empty()) << description.identifier;
         }
     });
+}
+
+TEST(InterfaceFileTest, FieldsForEntriesAreEditable)
+{
+    const auto items = parseInterfaceFile(fileText());
+    ASSERT_TRUE(items.has_value());
+    std::set<std::string> editable;
+    visit(*items, [&](const InterfaceItem& item) {
+        if (item.description.editable) editable.insert(item.description.identifier);
+    });
+    // The line of code is read only, but its text can be selected.
+    EXPECT_EQ(editable, (std::set<std::string>{"_fullHexText", "_rgbDecimalText", "_redHexText",
+                                               "_greenHexText", "_blueHexText", "_objCCodeText"}));
 }
 
 struct BrokenRow {

@@ -61,7 +61,9 @@ TEST(PropertyListReaderTest, DepthIsBounded)
     const auto nested = [](std::size_t depth) {
         return parsePropertyList(std::u16string(depth, u'(') + std::u16string(depth, u')'));
     };
-    EXPECT_TRUE(nested(500).has_value());
+    // The innermost array is empty, so the deepest value is one level above.
+    EXPECT_TRUE(nested(deepestPropertyList + 1).has_value());
+    EXPECT_FALSE(nested(deepestPropertyList + 2).has_value());
     EXPECT_FALSE(nested(1000000).has_value());
     EXPECT_FALSE(parsePropertyList(std::u16string(1000000, u'{')).has_value());
 }

@@ -19,6 +19,7 @@ TEST(ExcerptTest, LongTextsAreCutBetweenCharacters)
     EXPECT_EQ(excerpt(x + "\U0001F3A8 and more"), x + "...");
     EXPECT_EQ(excerpt("\u00E9\u00E9", 3), "\u00E9...");
     EXPECT_EQ(excerpt("\u00E9\u00E9", 0), "...");
+    EXPECT_EQ(excerpt("\x80\x80\x80", 2), "...") << "no character begins";
 }
 
 TEST(ExcerptTest, LengthsInUtf16AreUnits)
