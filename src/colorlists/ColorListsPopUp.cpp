@@ -30,6 +30,7 @@ HostMenuItem parentItem(const char16_t* title, std::function<HostMenu()> submenu
 {
     HostMenuItem item;
     item.title = title;
+    item.isOwnWord = true;
     item.submenu = std::move(submenu);
     return item;
 }

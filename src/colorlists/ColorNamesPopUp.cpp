@@ -11,6 +11,15 @@ constexpr double swatchInset = 2;
 /// "No Match" and the separator come before the keys.
 constexpr std::size_t itemsAboveKeys = 2;
 
+/// Returns the item above the names. It may get the names of close colours as its title.
+HostMenuItem firstItem(const std::u16string& title)
+{
+    HostMenuItem item;
+    item.title = title;
+    item.isOwnWord = true;
+    return item;
+}
+
 /// Returns the first index of each title, like `indexOfItemWithTitle`.
 std::unordered_map<std::u16string, int> indexesOfTitles(const HostMenu& menu)
 {
@@ -89,7 +98,7 @@ void ColorNamesPopUpFiller::fill(HostPopUpButton& popUp, const std::shared_ptr<H
     _filledWith = list;
     HostMenu menu;
     if (!list) {
-        menu.emplace_back().title = u"Empty";
+        menu.push_back(firstItem(u"Empty"));
         popUp.setItems(std::move(menu));
         return;
     }
@@ -97,7 +106,7 @@ void ColorNamesPopUpFiller::fill(HostPopUpButton& popUp, const std::shared_ptr<H
     _inListOrder = true;
     const auto& keys = list->allKeys();
     menu.reserve(itemsAboveKeys + keys.size());
-    menu.emplace_back().title = noMatchTitle;
+    menu.push_back(firstItem(noMatchTitle));
     menu.push_back(HostMenuItem::separatorItem());
     for (std::size_t i = 0; i < keys.size(); ++i) {
         HostMenuItem& item = menu.emplace_back();

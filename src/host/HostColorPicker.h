@@ -16,6 +16,8 @@ class HostControl;
 struct HostColorText {
     std::u16string name;
     std::u16string text;
+    /// Whether the name is the page's own word. As in `HostMenuItem`.
+    bool isOwnWord = false;
 
     bool operator==(const HostColorText&) const = default;
 };

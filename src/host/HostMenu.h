@@ -24,6 +24,9 @@ struct HostMenuItem {
     /// Called when the user chooses the item. If empty, the pop-up that contains the item selects
     /// it and sends the pop-up's action.
     std::function<void(const HostMenuItem&)> action;
+    /// Whether the title is the page's own word, such as "Add", which desktops show in the user's
+    /// language. Names of colours and lists belong to the user and are shown unchanged.
+    bool isOwnWord = false;
 
     [[nodiscard]] static HostMenuItem separatorItem()
     {

@@ -13,6 +13,8 @@ struct HostText {
     std::u16string string;
     double pointSize = 12;
     HostColor color = HostColor::blackColor();
+    /// As in `HostMenuItem`.
+    bool isOwnWord = false;
 };
 
 }  // namespace vantorel

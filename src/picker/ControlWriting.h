@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Functions that write to controls that may be null. Without an interface the outlets are null,
@@ -25,6 +26,19 @@ inline void setItems(HostPopUpButton* popUp, const std::vector<std::u16string>& 
     if (popUp == nullptr) return;
     popUp->removeAllItems();
     popUp->addItemsWithTitles(titles);
+}
+
+/// Replaces all items by the page's own words.
+inline void setWords(HostPopUpButton* popUp, const std::vector<std::u16string>& words)
+{
+    if (popUp == nullptr) return;
+    HostMenu menu;
+    for (const std::u16string& word : words) {
+        HostMenuItem& item = menu.emplace_back();
+        item.title = word;
+        item.isOwnWord = true;
+    }
+    popUp->setItems(std::move(menu));
 }
 
 /// Selects the item with that title. Clears the selection if `title` is `std::nullopt` or no item

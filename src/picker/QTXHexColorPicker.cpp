@@ -98,10 +98,10 @@ void QTXHexColorPicker::fillSettingsPopUps()
         _hexSettings.setCodeSnippetName(snippets.front().nameSnippet());
     }
     setItems(cCodeEntryFormPopUp, _hexSettings.codeSnippetNames());
-    setItems(codeDragTypePopUp, QTXHexSettings::codeDragTypeNames());
+    setWords(codeDragTypePopUp, QTXHexSettings::codeDragTypeNames());
     __holdOffDefaultsStore = false;
-    setItems(componentDisplayPopUp, QTXHexSettings::componentDisplayNames());
-    setItems(entryFormPopUp, QTXHexSettings::entryFormNames());
+    setWords(componentDisplayPopUp, QTXHexSettings::componentDisplayNames());
+    setWords(entryFormPopUp, QTXHexSettings::entryFormNames());
 }
 
 bool QTXHexColorPicker::supportsMode(int mode) const

@@ -55,7 +55,7 @@ std::vector<HostColorText> QTXHexColorPicker::colorTexts() const
     std::vector<HostColorText> texts;
     for (const CodeDragType type : {CodeDragType::hexCode, CodeDragType::rgbCSS}) {
         texts.push_back({QTXHexSettings::nameCodeDragType(type).value_or(u""),
-                         copyTextWithDragType(type).value_or(u"")});
+                         copyTextWithDragType(type).value_or(u""), true});
     }
     const QTXHexColorSpec spec = colorSpecWithPanelAlpha();
     for (const auto& snippet : _hexSettings.codeSnippets()) {

@@ -54,7 +54,8 @@ void QTXHexColorsView::drawMessage(HostCanvas& canvas)
     if (alpha <= faintestAlpha) return;
     const MessageStyle& style = _isWarning ? warningStyle : plainStyle;
     const HostColor color = style.color.colorWithAlphaComponent(alpha);
-    const HostText text{*_messageStr, style.pointSize, color};
+    // Other messages are names of colours.
+    const HostText text{*_messageStr, style.pointSize, color, _isWarning};
     const HostSize size = panel().desktop().sizeOfText(text);
     const HostRect within = bounds();
     const HostRect textBox{within.midX() - size.width / 2, within.maxY() - size.height - 10.0,

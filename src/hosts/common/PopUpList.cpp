@@ -13,7 +13,7 @@ int popUpRowHeight(int textHeight, double scale)
            2 * padding;
 }
 
-std::vector<std::u16string_view> titlesToMeasure(const HostMenu& menu)
+std::vector<const HostMenuItem*> itemsToMeasure(const HostMenu& menu)
 {
     // No letter is narrower than a pixel.
     constexpr std::size_t mostLetters = widestPopUpList;
@@ -21,13 +21,13 @@ std::vector<std::u16string_view> titlesToMeasure(const HostMenu& menu)
     std::size_t longest = 0;
     for (const HostMenuItem& item : menu)
         longest = std::max(longest, std::min(item.title.size(), mostLetters));
-    std::vector<std::u16string_view> titles;
+    std::vector<const HostMenuItem*> items;
     for (const HostMenuItem& item : menu) {
         if (item.separator || item.title.size() * 4 < longest * 3) continue;
-        titles.push_back(std::u16string_view(item.title).substr(0, mostLetters));
-        if (titles.size() == mostTitles) break;
+        items.push_back(&item);
+        if (items.size() == mostTitles) break;
     }
-    return titles;
+    return items;
 }
 
 PixelRect placeOfPopUpList(const PopUpListRequest& request)

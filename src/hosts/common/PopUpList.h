@@ -4,7 +4,6 @@
 #include "hosts/common/PixelFrames.h"
 
 #include <optional>
-#include <string_view>
 #include <vector>
 
 /// The list that a pop-up opens. Tens of thousands of items open as fast as ten if only the visible
@@ -17,9 +16,10 @@ namespace vantorel {
 
 inline constexpr int widestPopUpList = 420;
 
-/// Returns the titles among which the widest is, each cut to what fits into the widest list.
-/// Measuring every title would take too long for a long list; the longest few are enough.
-[[nodiscard]] std::vector<std::u16string_view> titlesToMeasure(const HostMenu& menu);
+/// Returns the items among which the one with the widest title is. Measuring every title would take
+/// too long for a long list; the longest few are enough, and of each the first `widestPopUpList`
+/// letters.
+[[nodiscard]] std::vector<const HostMenuItem*> itemsToMeasure(const HostMenu& menu);
 
 struct PopUpListRequest {
     PixelRect button;  ///< on the screen, y down

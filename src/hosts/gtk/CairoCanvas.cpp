@@ -18,7 +18,7 @@ using Layout = GtkReference<PangoLayout>;
 /// A trailing line break does not add a line.
 Layout layoutOf(const Layout& layout, const HostText& text)
 {
-    std::string shown = gtkText(shownTitle(text.string));
+    std::string shown = gtkText(shownText(text));
     if (shown.size() > 1 && shown.back() == '\n') shown.pop_back();
     pango_layout_set_text(layout.get(), shown.data(), static_cast<int>(shown.size()));
     pango_layout_set_font_description(layout.get(), fontOfSize(text.pointSize).get());

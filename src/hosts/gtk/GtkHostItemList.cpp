@@ -197,9 +197,9 @@ private:
     int wantedWidth()
     {
         int width = 0;
-        for (const std::u16string_view title : titlesToMeasure(_items)) {
+        for (const HostMenuItem* item : itemsToMeasure(_items)) {
             int titleWidth = 0;
-            pango_layout_get_pixel_size(layoutOf(title).get(), &titleWidth, nullptr);
+            pango_layout_get_pixel_size(layoutOf(*item).get(), &titleWidth, nullptr);
             width = std::max(width, titleWidth);
             if (width >= widestPopUpList) break;
         }
@@ -212,9 +212,9 @@ private:
         return besideImage + (_imageWidth > 0 ? _imageWidth + besideImage : 0);
     }
 
-    [[nodiscard]] GtkReference<PangoLayout> layoutOf(std::u16string_view text) const
+    [[nodiscard]] GtkReference<PangoLayout> layoutOf(const HostMenuItem& item) const
     {
-        const std::string title = gtkText(shownTitle(text).substr(0, widestPopUpList));
+        const std::string title = gtkText(shownTitle(item).substr(0, widestPopUpList));
         return GtkReference<PangoLayout>::adopt(
             gtk_widget_create_pango_layout(_area, title.c_str()));
     }
@@ -255,7 +255,7 @@ private:
             paintImage(cairo, *item.image, scaleFactorOf(_area));
             cairo_restore(cairo);
         }
-        const auto layout = layoutOf(item.title);
+        const auto layout = layoutOf(item);
         pango_layout_set_width(layout.get(), (width - textLeft() - besideImage) * PANGO_SCALE);
         pango_layout_set_ellipsize(layout.get(), PANGO_ELLIPSIZE_END);
         if (index == _selected) {
@@ -303,7 +303,7 @@ private:
         gtk_widget_queue_draw(_area);
         // What assistive technology reads while the user moves in the list.
         atk_object_set_description(gtk_widget_get_accessible(_area),
-                                   gtkText(shownTitle(_items[rowOf(index)].title)).c_str());
+                                   gtkText(shownTitle(_items[rowOf(index)])).c_str());
     }
 
     /// Moves by rows, over separators.
@@ -327,7 +327,7 @@ private:
             const int found = _typeAhead.find(
                 typed, _current, count(), [this](int index, const std::u16string& start) {
                     const HostMenuItem& item = _items[rowOf(index)];
-                    return canBeChosen(item) && hasPrefix(shownTitle(item.title), start);
+                    return canBeChosen(item) && hasPrefix(shownTitle(item), start);
                 });
             if (found >= 0) setCurrent(found);
         } else if (key) {

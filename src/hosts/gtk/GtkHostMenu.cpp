@@ -35,8 +35,7 @@ public:
             GtkWidget* row = newRow(items[i], index == selected);
             gtk_menu_shell_append(GTK_MENU_SHELL(_menu), row);
             gtk_widget_show_all(row);
-            _rows.push_back(
-                {row, items[i].separator ? std::u16string() : shownTitle(items[i].title)});
+            _rows.push_back({row, items[i].separator ? std::u16string() : shownTitle(items[i])});
             if (items[i].submenu) {
                 addSubmenu(row, items[i].submenu);
             } else if (!items[i].separator) {
@@ -89,7 +88,7 @@ private:
             gtk_check_menu_item_set_draw_as_radio(GTK_CHECK_MENU_ITEM(row), TRUE);
             gtk_check_menu_item_set_active(GTK_CHECK_MENU_ITEM(row), TRUE);
         }
-        GtkWidget* label = gtk_label_new(gtkText(shownTitle(item.title)).c_str());
+        GtkWidget* label = gtk_label_new(gtkText(shownTitle(item)).c_str());
         gtk_misc_set_alignment(reinterpret_cast<GtkMisc*>(label), 0, 0.5F);
         if (!item.image) {
             gtk_container_add(GTK_CONTAINER(row), label);

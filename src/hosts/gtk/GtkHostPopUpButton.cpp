@@ -48,7 +48,9 @@ GtkHostPopUpButton::GtkHostPopUpButton(const HostControlDescription& description
 
 std::u16string GtkHostPopUpButton::selectedTitle() const
 {
-    return shownTitle(titleOfSelectedItem().value_or(u""));
+    const int selected = indexOfSelectedItem();
+    return selected == noItem ? std::u16string()
+                              : shownTitle(menu()[static_cast<std::size_t>(selected)]);
 }
 
 void GtkHostPopUpButton::paint(cairo_t* cairo)
@@ -88,12 +90,12 @@ bool GtkHostPopUpButton::takeKey(const GdkEventKey& event)
 {
     const std::u16string typed = typedTextOf(event);
     if (_typeAhead.takes(typed)) {
-        const int found = _typeAhead.find(
-            typed, indexOfSelectedItem(), numberOfItems(),
-            [this](int index, const std::u16string& start) {
-                const HostMenuItem& item = menu()[static_cast<std::size_t>(index)];
-                return canBeChosen(item) && hasPrefix(shownTitle(item.title), start);
-            });
+        const int found =
+            _typeAhead.find(typed, indexOfSelectedItem(), numberOfItems(),
+                            [this](int index, const std::u16string& start) {
+                                const HostMenuItem& item = menu()[static_cast<std::size_t>(index)];
+                                return canBeChosen(item) && hasPrefix(shownTitle(item), start);
+                            });
         if (found >= 0) chooseItem(*this, found);
         return true;
     }

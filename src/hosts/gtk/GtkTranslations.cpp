@@ -11,6 +11,12 @@ GtkTranslator& translator()
     return current;
 }
 
+std::u16string shown(const std::u16string& text, bool isOwnWord)
+{
+    const bool isTranslated = isOwnWord && translator() && displayNameKey(text) != nullptr;
+    return isTranslated ? translator()("DisplayNames", text) : text;
+}
+
 }  // namespace
 
 void setGtkTranslator(GtkTranslator newTranslator)
@@ -23,10 +29,14 @@ std::u16string translatedText(std::u16string_view text)
     return translator() ? translator()("Vantorel", text) : std::u16string(text);
 }
 
-std::u16string shownTitle(std::u16string_view text)
+std::u16string shownTitle(const HostMenuItem& item)
 {
-    const bool isTranslated = translator() && displayNameKey(text) != nullptr;
-    return isTranslated ? translator()("DisplayNames", text) : std::u16string(text);
+    return shown(item.title, item.isOwnWord);
+}
+
+std::u16string shownText(const HostText& text)
+{
+    return shown(text.string, text.isOwnWord);
 }
 
 }  // namespace vantorel

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "host/HostMenu.h"
+#include "host/HostText.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -18,8 +21,9 @@ void setGtkTranslator(GtkTranslator translator);
 [[nodiscard]] std::u16string translatedText(std::u16string_view text);
 
 /// A title or message of a picker. Pickers select menu items by their titles and store them in
-/// files, so these keep their English names everywhere but on the screen. Names of colours and
-/// lists have no translation.
-[[nodiscard]] std::u16string shownTitle(std::u16string_view text);
+/// files, so these keep their English names everywhere but on the screen. Only a picker's own words
+/// are translated: a list of the user's that is called "Color" keeps its name.
+[[nodiscard]] std::u16string shownTitle(const HostMenuItem& item);
+[[nodiscard]] std::u16string shownText(const HostText& text);
 
 }  // namespace vantorel

@@ -6,11 +6,36 @@
 #include <QCoreApplication>
 
 namespace vantorel {
+namespace {
 
-QString displayName(std::u16string_view text)
+QString shown(std::u16string_view text, bool isOwnWord)
 {
-    const char* key = displayNameKey(text);
+    const char* key = isOwnWord ? displayNameKey(text) : nullptr;
     return key != nullptr ? QCoreApplication::translate("DisplayNames", key) : qStringFrom(text);
+}
+
+}  // namespace
+
+QString shownTitle(const HostMenuItem& item)
+{
+    return shown(item.title, item.isOwnWord);
+}
+
+QString shownTitleOfSelectedItem(const HostPopUpButton& popUp)
+{
+    const int selected = popUp.indexOfSelectedItem();
+    if (selected == HostPopUpButton::noItem) return {};
+    return shownTitle(popUp.menu()[static_cast<std::size_t>(selected)]);
+}
+
+QString shownText(const HostText& text)
+{
+    return shown(text.string, text.isOwnWord);
+}
+
+QString shownName(const HostColorText& text)
+{
+    return shown(text.name, text.isOwnWord);
 }
 
 }  // namespace vantorel

@@ -1,13 +1,20 @@
 #pragma once
 
-#include <QString>
+#include "host/HostColorPicker.h"
+#include "host/HostControls.h"
+#include "host/HostText.h"
 
-#include <string_view>
+#include <QString>
 
 namespace vantorel {
 
-/// Returns a title or message of a picker in the user's language (see `displayNameKey`). Other
-/// texts are returned unchanged.
-[[nodiscard]] QString displayName(std::u16string_view text);
+/// Texts of pickers as the user sees them. Pickers select menu items by their titles and store them
+/// in files, so these keep their English names everywhere else. Only a picker's own words are
+/// translated: a list of the user's that is called "Color" keeps its name.
+[[nodiscard]] QString shownTitle(const HostMenuItem& item);
+/// Empty if no item is selected.
+[[nodiscard]] QString shownTitleOfSelectedItem(const HostPopUpButton& popUp);
+[[nodiscard]] QString shownText(const HostText& text);
+[[nodiscard]] QString shownName(const HostColorText& text);
 
 }  // namespace vantorel

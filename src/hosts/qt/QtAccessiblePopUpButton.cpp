@@ -14,7 +14,7 @@ QtAccessiblePopUpButton::QtAccessiblePopUpButton(QWidget* widget, QtPopUpButton&
 
 QString QtAccessiblePopUpButton::shownText(const QtPopUpButton& popUp)
 {
-    return displayName(popUp.titleOfSelectedItem().value_or(u""));
+    return shownTitleOfSelectedItem(popUp);
 }
 
 void* QtAccessiblePopUpButton::interface_cast(QAccessible::InterfaceType type)

@@ -156,7 +156,7 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
 {
     const QFont font = fontOfSize(text.pointSize);
     const QFontMetricsF metrics(font);
-    const std::u16string shown = u16From(displayName(text.string));
+    const std::u16string shown = u16From(shownText(text));
     const auto lines = linesOf(shown);
     _painter.setFont(font);
     _painter.setPen(qColorFrom(text.color));

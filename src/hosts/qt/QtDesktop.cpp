@@ -52,7 +52,7 @@ std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::functio
 HostSize QtDesktop::sizeOfText(const HostText& text)
 {
     const QFontMetricsF metrics(fontOfSize(text.pointSize));
-    const std::u16string shown = u16From(displayName(text.string));
+    const std::u16string shown = u16From(shownText(text));
     const auto lines = linesOf(shown);
     qreal width = 0;
     for (const std::u16string_view line : lines)

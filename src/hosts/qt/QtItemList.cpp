@@ -62,7 +62,7 @@ public:
         const HostMenuItem& shown = item(index);
         switch (role) {
             case Qt::DisplayRole:
-                return displayName(shown.title);
+                return shownTitle(shown);
             case Qt::AccessibleDescriptionRole:
                 return shown.separator ? QStringLiteral("separator") : QString();
             case pictureRole:
@@ -182,8 +182,9 @@ QtItemList::QtItemList(const HostMenu& items, int selected, QWidget& parent)
 int QtItemList::wantedWidth() const
 {
     int width = 0;
-    for (const std::u16string_view title : titlesToMeasure(_model->items())) {
-        width = std::max(width, fontMetrics().horizontalAdvance(displayName(title)));
+    for (const HostMenuItem* item : itemsToMeasure(_model->items())) {
+        const QString start = shownTitle(*item).left(widestPopUpList);
+        width = std::max(width, fontMetrics().horizontalAdvance(start));
         if (width >= widestPopUpList) break;
     }
     const int imageWidth =

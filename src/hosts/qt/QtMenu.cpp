@@ -85,7 +85,7 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
 void addSubmenu(QMenu& target, const HostMenuItem& item)
 {
     auto* submenu = new LongMenu(&target);
-    submenu->setTitle(plainTitle(displayName(item.title)));
+    submenu->setTitle(plainTitle(shownTitle(item)));
     target.addMenu(submenu);
     submenu->setFont(target.font());
     QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, make = item.submenu] {
@@ -110,7 +110,7 @@ void fillMenu(QMenu& target, const HostMenu& items, int selected, const QtMenuCh
         } else if (item.submenu) {
             addSubmenu(target, item);
         } else {
-            QAction* action = target.addAction(plainTitle(displayName(item.title)));
+            QAction* action = target.addAction(plainTitle(shownTitle(item)));
             if (item.image) action->setIcon(pixmapOfImage(*item.image, target.devicePixelRatioF()));
             if (index == selected) {
                 action->setCheckable(true);

@@ -34,7 +34,7 @@ protected:
         option.initFrom(this);
         option.subControls = QStyle::SC_All;
         option.editable = false;
-        option.currentText = displayName(_owner.titleOfSelectedItem().value_or(u""));
+        option.currentText = shownTitleOfSelectedItem(_owner);
         QStylePainter painter(this);
         painter.drawComplexControl(QStyle::CC_ComboBox, option);
         paintLabel(painter, option);
@@ -105,7 +105,7 @@ private:
             [&](int index, const std::u16string& prefix) {
                 const HostMenuItem& item = _owner.menu()[static_cast<std::size_t>(index)];
                 return canBeChosen(item) &&
-                       displayName(item.title).startsWith(qStringFrom(prefix), Qt::CaseInsensitive);
+                       shownTitle(item).startsWith(qStringFrom(prefix), Qt::CaseInsensitive);
             });
         if (found >= 0) chooseItem(_owner, found);
     }

@@ -33,7 +33,7 @@ std::vector<HostColorText> ColorExchange::colorTexts() const
     std::vector<HostColorText> texts;
     if (const HostColorPicker* picker = _pages.currentPicker()) texts = picker->colorTexts();
     const auto add = [&](const char16_t* name, const std::optional<std::u16string>& text) {
-        if (text) texts.push_back({name, *text});
+        if (text) texts.push_back({name, *text, true});
     };
     if (texts.empty()) {
         const double alpha = color.alphaComponent();

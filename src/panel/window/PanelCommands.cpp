@@ -107,10 +107,10 @@ void PanelCommands::fillCopyMenu()
     _copyMenu->clear();
     const QFontMetrics metrics = _copyMenu->fontMetrics();
     std::vector<std::pair<QAction*, QString>> rows;
-    for (const auto& [name, text] : _exchange.colorTexts()) {
-        const QString value = qStringFrom(text);
+    for (const HostColorText& form : _exchange.colorTexts()) {
+        const QString value = qStringFrom(form.text);
         const QString shown =
-            metrics.elidedText(displayName(name), Qt::ElideRight, scaled(widestCopyMenu) / 2);
+            metrics.elidedText(shownName(form), Qt::ElideRight, scaled(widestCopyMenu) / 2);
         QAction* action = _copyMenu->addAction(plainTitle(shown));
         connect(action, &QAction::triggered, this, [this, value] { _exchange.copyText(value); });
         rows.emplace_back(action, value);

@@ -2,6 +2,7 @@
 #include "hosts/gtk/GtkHostItemList.h"
 #include "hosts/gtk/GtkHostPopUpButton.h"
 #include "hosts/gtk/GtkHostTextField.h"
+#include "hosts/gtk/GtkTranslations.h"
 
 #include <gdk/gdkkeysyms.h>
 
@@ -238,6 +239,21 @@ protected:
     std::unique_ptr<HostPopUpButton> made;
     int actions = 0;
 };
+
+TEST(GtkTranslationsTest, OnlyThePagesOwnWordsAreTranslated)
+{
+    setGtkTranslator([](std::string_view context, std::u16string_view text) {
+        return context == "DisplayNames" ? u"de " + std::u16string(text) : std::u16string(text);
+    });
+    HostMenuItem item;
+    item.title = u"Color";
+    EXPECT_EQ(shownTitle(item), u"Color") << "a list of the user's";
+    item.isOwnWord = true;
+    EXPECT_EQ(shownTitle(item), u"de Color");
+    item.title = u"* red";
+    EXPECT_EQ(shownTitle(item), u"* red");
+    setGtkTranslator({});
+}
 
 TEST_F(GtkPopUpTest, AMenuSelectsAndSendsTheAction)
 {

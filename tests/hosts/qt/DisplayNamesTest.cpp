@@ -26,14 +26,30 @@ public:
     }
 };
 
-TEST(DisplayNamesTest, OnlyNamesOfTheInterfaceAreTranslated)
+HostMenuItem item(const char16_t* title, bool isOwnWord)
 {
-    EXPECT_EQ(displayName(u"No Match"), "No Match");
+    HostMenuItem item;
+    item.title = title;
+    item.isOwnWord = isOwnWord;
+    return item;
+}
+
+TEST(DisplayNamesTest, OnlyWordsOfThePageAreTranslated)
+{
+    EXPECT_EQ(shownTitle(item(u"No Match", true)), "No Match");
     const GermanNames german;
-    EXPECT_EQ(displayName(u"No Match"), "de No Match");
-    EXPECT_EQ(displayName(u"Uppercase"), "de Uppercase");
-    for (const char16_t* name : {u"red", u"* red", u"CSS Keyword", u"add", u""})
-        EXPECT_EQ(displayName(name), QString::fromUtf16(name));
+    EXPECT_EQ(shownTitle(item(u"No Match", true)), "de No Match");
+    HostText text;
+    text.string = u"Input Error";
+    EXPECT_EQ(shownText(text), "Input Error");
+    text.isOwnWord = true;
+    EXPECT_EQ(shownText(text), "de Input Error");
+    EXPECT_EQ(shownName({u"Hex Code", u"#FF8000", true}), "de Hex Code");
+    for (const char16_t* title : {u"* red", u"add", u""})
+        EXPECT_EQ(shownTitle(item(title, true)), QString::fromUtf16(title));
+    // A colour and a snippet of the user's.
+    EXPECT_EQ(shownTitle(item(u"Color", false)), "Color");
+    EXPECT_EQ(shownName({u"Hex Code", u"0xff8000", false}), "Hex Code");
 }
 
 TEST(DisplayNamesTest, APopUpButtonShowsTheTranslationAndKeepsTheTitle)
@@ -41,13 +57,14 @@ TEST(DisplayNamesTest, APopUpButtonShowsTheTranslationAndKeepsTheTitle)
     const GermanNames german;
     QtInterfaceFactory factory;
     const auto popUp = factory.makePopUpButton({});
-    popUp->addItemWithTitle(u"Uppercase");
-    popUp->selectItemAtIndex(0);
+    popUp->setItems({item(u"Uppercase", true), item(u"Lowercase", false)});
     const QAccessibleInterface* shown =
         QAccessible::queryAccessibleInterface(widgetOf(popUp.get()));
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->text(QAccessible::Value), "de Uppercase");
     EXPECT_EQ(popUp->titleOfSelectedItem(), u"Uppercase");
+    popUp->selectItemAtIndex(1);
+    EXPECT_EQ(shown->text(QAccessible::Value), "Lowercase") << "the name of a list";
 }
 
 }  // namespace
