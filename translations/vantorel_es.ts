@@ -1882,7 +1882,7 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
     </message>
     <message>
         <source>supportManual.htm</source>
-        <translation>supportManual.htm</translation>
+        <translation>supportManual_es.htm</translation>
     </message>
     <message>
         <source>Error</source>
