@@ -14,6 +14,8 @@ namespace vantorel {
 namespace {
 
 constexpr const char* attachedProperty = "vantorelHasPage";
+/// Of the holder's widget: the `DialogPage`.
+constexpr const char* pageProperty = "vantorelDialogPage";
 
 /// All rows of the settings face fit into this page. In points.
 constexpr HostSize comfortableSize{260, 300};
@@ -39,6 +41,7 @@ void DialogPage::putInto(QColorDialog& dialog, const LoadedPlugin& plugin, QtDes
 DialogPage::DialogPage(QColorDialog& dialog, QtDesktop& desktop)
     : _dialog(&dialog), _panel(*this, desktop)
 {
+    _holder.widget()->setProperty(pageProperty, QVariant::fromValue<QObject*>(this));
 }
 
 DialogPage::~DialogPage() = default;
@@ -57,6 +60,17 @@ bool DialogPage::show(const LoadedPlugin& plugin)
     });
     connect(_dialog, &QObject::destroyed, this, &DialogPage::dialogIsDestroyed);
     return true;
+}
+
+void DialogPage::pageHasThrown(QObject& widget)
+{
+    for (QObject* object = &widget; object != nullptr; object = object->parent()) {
+        const auto found = object->property(pageProperty).value<QObject*>();
+        if (auto* page = qobject_cast<DialogPage*>(found)) {
+            page->_panel.page().guarded([] { throw; });
+            return;
+        }
+    }
 }
 
 bool DialogPage::eventFilter(QObject* watched, QEvent* event)

@@ -18,6 +18,9 @@ public:
     /// as it is if the page cannot be created.
     static void putInto(QColorDialog& dialog, const LoadedPlugin& plugin, QtDesktop& desktop);
 
+    /// For `EventGuard`: the page that the widget belongs to has failed.
+    static void pageHasThrown(QObject& widget);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

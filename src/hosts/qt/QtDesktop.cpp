@@ -2,6 +2,7 @@
 
 #include "hosts/common/TextLines.h"
 #include "hosts/qt/DisplayNames.h"
+#include "hosts/qt/EventGuard.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtView.h"
 #include "hosts/qt/TextScale.h"
@@ -25,6 +26,7 @@ class OneShotTimer final : public HostTimer {
 public:
     OneShotTimer(double seconds, std::function<void()> reaction)
     {
+        EventGuard::watch(_timer);
         _timer.setSingleShot(true);
         _timer.setTimerType(Qt::PreciseTimer);
         QObject::connect(&_timer, &QTimer::timeout, &_timer, std::move(reaction));

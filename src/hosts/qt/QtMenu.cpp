@@ -3,6 +3,7 @@
 #include "hosts/common/PopUpList.h"
 #include "hosts/common/TypeAhead.h"
 #include "hosts/qt/DisplayNames.h"
+#include "hosts/qt/EventGuard.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
@@ -43,6 +44,7 @@ class LongMenu final : public QMenu {
 public:
     explicit LongMenu(QWidget* parent) : QMenu(parent)
     {
+        EventGuard::watch(*this);
         auto* style = new LongMenuStyle;
         style->setParent(this);
         setStyle(style);

@@ -3,6 +3,7 @@
 #include "hosts/common/PopUpChoice.h"
 #include "hosts/common/TypeAhead.h"
 #include "hosts/qt/DisplayNames.h"
+#include "hosts/qt/EventGuard.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtItemList.h"
@@ -131,7 +132,7 @@ void QtPopUpButton::openMenu()
     sendWillPopUp();
     QWidget* shown = widget();
     const auto choose = [this](const HostMenuItem& item, int index) {
-        chooseOpenedItem(*this, item, index);
+        EventGuard::run(*widget(), [&] { chooseOpenedItem(*this, item, index); });
     };
     if (hasSubmenus(menu())) {
         QMenu* opened = makeMenu(menu(), indexOfSelectedItem(), *shown, choose);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostView.h"
+#include "hosts/qt/EventGuard.h"
 #include "hosts/qt/PlainText.h"
 
 #include <QPointer>
@@ -54,6 +55,7 @@ class QtMirrored : public Base, public QtPeer {
 public:
     QtMirrored(HostRect frame, QWidget* widget) : Base(frame), _widget(widget)
     {
+        EventGuard::watch(*widget);
         _widget->setVisible(false);
         _widget->resize(static_cast<int>(frame.width), static_cast<int>(frame.height));
     }

@@ -1,6 +1,7 @@
 #include "embedding/PageLibrary.h"
 #include "embedding/loader/DialogLibrary.h"
 #include "hosts/qt-dialog/DialogPage.h"
+#include "hosts/qt/EventGuard.h"
 
 /// The functions that the loader calls (see embedding/loader/DialogLibrary.h).
 namespace vantorel {
@@ -61,6 +62,7 @@ void vantorelAttachPage(void* dialog)
     try {
         QColorDialog* shown = vantorel::colorDialog(dialog);
         if (shown == nullptr || vantorel::openedPage() == nullptr) return;
+        vantorel::EventGuard::install(vantorel::DialogPage::pageHasThrown);
         vantorel::DialogPage::putInto(*shown, *vantorel::openedPage(),
                                       vantorel::desktopOfProgram());
     } catch (...) {
