@@ -155,6 +155,8 @@ void GtkDialogPage::passOn()
 
 void GtkDialogPage::dialogIsAnswered(int response)
 {
+    // A program may end with its dialog, which it could not while it is in the page's own loop.
+    _panel.page().guarded([this] { _panel.endPress(); });
     if (isRefusal(response)) {
         _kept.reset();
         _rest.cancel();

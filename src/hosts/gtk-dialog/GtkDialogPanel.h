@@ -11,6 +11,7 @@ public:
     GtkDialogPanel(EmbeddingDialog& dialog, GtkHostDesktop& desktop);
     ~GtkDialogPanel() override { page().close(); }
 
+    using GtkHostColorPanel::endPress;
     using GtkHostColorPanel::finishEditing;
 
     /// Calls `pageDidAppear` if the page can be shown.

@@ -35,6 +35,12 @@ void GtkHostColorPanel::finishEditing()
         field->finishEditing();
 }
 
+void GtkHostColorPanel::endPress()
+{
+    forEachGtkBelow<GtkHostCustomView>(pageView(),
+                                       [](GtkHostCustomView& view) { view.endPress(); });
+}
+
 HostPoint GtkHostColorPanel::mouseLocation(const HostView& view) const
 {
     GtkWidget* widget = gtkWidgetOf(&view);

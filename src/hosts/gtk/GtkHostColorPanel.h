@@ -30,6 +30,8 @@ protected:
     void pageDidAppear();
     /// Enters what is typed in the page's fields, as Return does.
     void finishEditing();
+    /// Ends a mouse drag on the page as if the button were released.
+    void endPress();
     /// Makes the colour that a text names the panel's colour. Returns false if it names none.
     virtual bool takeText(const std::u16string& text) = 0;
 

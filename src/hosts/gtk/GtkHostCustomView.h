@@ -31,6 +31,8 @@ public:
     [[nodiscard]] HostEvent nextMouseEvent(std::uint32_t mask);
     /// See `MouseTurn::forgetButton`.
     void forgetButton() { _turn.forgetButton(); }
+    /// See `MouseTurn::breakOff`.
+    void endPress() { _turn.breakOff(); }
     /// The event with which a drag out of the view can begin; null if there was none.
     [[nodiscard]] GdkEvent* lastButtonEvent() const { return _lastButtonEvent.get(); }
 
