@@ -80,16 +80,6 @@ void GtkHostButton::paintPicture(cairo_t* cairo, GtkWidget* area)
     cairo_restore(cairo);
 }
 
-void GtkHostButton::hierarchyDidChange()
-{
-    // A custom view paints its own ground.
-    if (!_isOnLightGround && dynamic_cast<HostCustomView*>(superview()) != nullptr) {
-        _isOnLightGround = true;
-        if (widget() != nullptr) styleForLightGround(widget());
-    }
-    GtkMirrored::hierarchyDidChange();
-}
-
 void GtkHostButton::wasToggled()
 {
     if (_stateIsBeingShown) return;

@@ -15,7 +15,6 @@ public:
 
 protected:
     void stateDidChange() override;
-    void hierarchyDidChange() override;
 
 private:
     void addPicture(const HostControlDescription& description);
@@ -25,7 +24,6 @@ private:
     SvgPicture _picture;
     GtkControlStyle _style;
     bool _stateIsBeingShown = false;
-    bool _isOnLightGround = false;
 };
 
 }  // namespace vantorel

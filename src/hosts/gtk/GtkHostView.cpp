@@ -1,6 +1,8 @@
 #include "hosts/gtk/GtkHostView.h"
 
+#include "host/HostControls.h"
 #include "hosts/gtk/GtkHostBox.h"
+#include "hosts/gtk/GtkStyles.h"
 #include "hosts/gtk/GtkTextScale.h"
 #include "hosts/gtk/GtkTexts.h"
 #include "hosts/gtk/GtkTranslations.h"
@@ -70,6 +72,7 @@ void adoptGtkWidget(HostView& view)
     GtkWidget* focused = GTK_IS_WINDOW(window) ? gtk_window_get_focus(GTK_WINDOW(window)) : nullptr;
     const bool hadFocus =
         focused != nullptr && (focused == widget || gtk_widget_is_ancestor(focused, widget));
+    if (dynamic_cast<HostCustomView*>(view.superview()) != nullptr) styleForLightGround(widget);
     if (oldParent != parent) {
         if (oldParent != nullptr) gtk_container_remove(GTK_CONTAINER(oldParent), widget);
         if (parent != nullptr) {

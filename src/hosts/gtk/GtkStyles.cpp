@@ -62,6 +62,7 @@ GtkCssProvider* compactProvider()
 GtkCssProvider* lightGroundProvider()
 {
     static const auto provider = providerOf(
+        "label, checkbutton { color: #2e3436; text-shadow: none; }"
         "button { color: #2e3436; background: none; background-color: rgba(246,245,244,0.9);"
         " border-color: #cdc7c2; text-shadow: none; -gtk-icon-shadow: none; box-shadow: none; }"
         "button:hover { background-color: #ffffff; }"
@@ -96,6 +97,8 @@ GdkColor gdkColor(const HostColor& color)
     };
     return {0, word(rgb.red), word(rgb.green), word(rgb.blue)};
 }
+
+constexpr HostColor textOnLightGround = HostColor::colorWithCalibratedRed(0.18, 0.2, 0.21, 1);
 
 HostColor coreColor(const GdkColor& color)
 {
@@ -213,11 +216,18 @@ void GtkControlStyle::apply()
 
 void styleForLightGround(GtkWidget* widget)
 {
+    constexpr const char* styledKey = "vantorel-light-ground";
+    if (g_object_get_data(G_OBJECT(widget), styledKey) != nullptr) return;
+    g_object_set_data(G_OBJECT(widget), styledKey, widget);
 #if GTK_MAJOR_VERSION >= 3
     addProvider(widget, lightGroundProvider(), 3);
 #else
-    static_cast<void>(widget);
+    const GdkColor dark = gdkColor(textOnLightGround);
+    if (GTK_IS_LABEL(widget)) gtk_widget_modify_fg(widget, GTK_STATE_NORMAL, &dark);
 #endif
+    // The text of a button is a widget of its own.
+    if (!GTK_IS_BUTTON(widget)) return;
+    if (GtkWidget* text = gtk_bin_get_child(GTK_BIN(widget))) styleForLightGround(text);
 }
 
 HostColor themeTextColor(GtkWidget* widget)

@@ -1,5 +1,6 @@
 #include "GtkHostFixture.h"
-#include "hosts/gtk/GtkHostColorPanel.h"
+#include "hosts/common/ReadableColor.h"
+#include "hosts/gtk/GtkStyles.h"
 
 #include <gdk/gdkkeysyms.h>
 
@@ -7,6 +8,16 @@ namespace vantorel {
 namespace {
 
 using testing::ElementsAre;
+
+HostControlDescription labelled(HostRect frame)
+{
+    HostControlDescription description;
+    description.identifier = "label";
+    description.frame = frame;
+    description.title = u"Label";
+    description.editable = false;
+    return description;
+}
 
 GtkAllocation placeOf(GtkWidget* widget)
 {
@@ -99,6 +110,42 @@ TEST_F(GtkHostTest, AssistiveTechnologyGetsNamesRolesAndDescriptions)
     EXPECT_EQ(atk_object_get_role(button), ATK_ROLE_COMBO_BOX);
     EXPECT_STREQ(atk_object_get_name(button), "Control");
     EXPECT_STREQ(atk_object_get_description(button), "First");
+}
+
+TEST_F(GtkHostTest, TextsInAHandPaintedViewAreDarkInADarkTheme)
+{
+    RecordingContent content;
+    auto view = factory.makeCustomView(described({10, 10, 200, 100}), content);
+    auto inside = factory.makeTextField(labelled({10, 10, 60, 20}));
+    auto beside = factory.makeTextField(labelled({220, 10, 60, 20}));
+    auto boxDescription = described({80, 10, 60, 20});
+    boxDescription.buttonKind = HostControlDescription::ButtonKind::checkBox;
+    auto box = factory.makeButton(boxDescription);
+    auto popUp = factory.makePopUpButton(described({10, 40, 60, 20}));
+    root.addSubview(*view);
+    root.addSubview(*beside);
+    for (HostView* subview :
+         {static_cast<HostView*>(inside.get()), static_cast<HostView*>(box.get()),
+          static_cast<HostView*>(popUp.get())})
+        view->addSubview(*subview);
+    showWindow();
+#if GTK_MAJOR_VERSION >= 3
+    // The theme of the test is set in its environment; its colours are those of a dark one.
+    const auto dark = GtkReference<GtkCssProvider>::adopt(gtk_css_provider_new());
+    gtk_css_provider_load_from_data(dark.get(), "* { color: #eeeeee; background: #333333; }", -1,
+                                    nullptr);
+    GdkScreen* screen = gdk_screen_get_default();
+    gtk_style_context_add_provider_for_screen(screen, GTK_STYLE_PROVIDER(dark.get()),
+                                              GTK_STYLE_PROVIDER_PRIORITY_THEME + 1);
+    handleEvents();
+    EXPECT_GT(lightnessOf(themeTextColor(gtkWidgetOf(beside.get()))), 0.5);
+#endif
+    GtkWidget* textOfBox = gtk_bin_get_child(GTK_BIN(gtkWidgetOf(box.get())));
+    for (GtkWidget* text : {gtkWidgetOf(inside.get()), textOfBox, gtkWidgetOf(popUp.get())})
+        EXPECT_LT(lightnessOf(themeTextColor(text)), 0.5) << G_OBJECT_TYPE_NAME(text);
+#if GTK_MAJOR_VERSION >= 3
+    gtk_style_context_remove_provider_for_screen(screen, GTK_STYLE_PROVIDER(dark.get()));
+#endif
 }
 
 TEST_F(GtkHostTest, TheTrackingRectangleReportsCrossings)
