@@ -21,7 +21,7 @@
 /// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
 /// destroyed after the third change), late (shown some time after it was made), brief
 /// (ends when the dialog is shown), none (no dialog: ends when the event loop has
-/// started).
+/// started), idle (no dialog).
 namespace {
 
 void print(const char* what, const QColor& color)
@@ -65,6 +65,7 @@ int main(int argc, char** argv)
         }
         return false;
     };
+    if (has("idle")) return QApplication::exec();
     if (has("none")) {
         QTimer::singleShot(0, &program, &QCoreApplication::quit);
         return QApplication::exec();
