@@ -18,6 +18,8 @@ GtkDialogPanel::GtkDialogPanel(EmbeddingDialog& dialog, GtkHostDesktop& desktop)
 bool GtkDialogPanel::showPage(const LoadedPlugin& plugin, HostView& holder,
                               const HostColor& initialColor)
 {
+    // A page that is only looked at leaves no files in the user's folders.
+    const HeldFiles::Hold hold(desktop().files());
     if (!EmbeddedPanel::showPage(plugin, holder, initialColor)) return false;
     pageDidAppear();
     return true;

@@ -29,7 +29,7 @@ GtkHostDesktop::GtkHostDesktop(std::function<void(const std::u16string&)> log)
     : _log(std::move(log)),
       _colorLists(_files, [this](const std::u16string& line) { this->log(line); })
 {
-    _files.setFailureHandler(
+    _disk.setFailureHandler(
         [this](auto, const Message& message) { this->log(utf16FromUtf8(english(message))); });
 }
 

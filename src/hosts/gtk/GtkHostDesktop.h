@@ -2,6 +2,7 @@
 
 #include "colorlists/PaletteFileStore.h"
 #include "host/HostDesktop.h"
+#include "hosts/common/HeldFiles.h"
 #include "hosts/gtk/GtkHostInterfaceFactory.h"
 #include "hosts/posix/PosixFiles.h"
 
@@ -16,7 +17,7 @@ public:
     explicit GtkHostDesktop(std::function<void(const std::u16string&)> log = {});
 
     PaletteFileStore& colorLists() override { return _colorLists; }
-    PosixFiles& files() override { return _files; }
+    HeldFiles& files() override { return _files; }
     HostInterfaceFactory& interfaceFactory() override { return _factory; }
     [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,
                                                            std::function<void()> reaction) override;
@@ -28,7 +29,8 @@ public:
 
 private:
     std::function<void(const std::u16string&)> _log;
-    PosixFiles _files;
+    PosixFiles _disk;
+    HeldFiles _files{_disk};
     PaletteFileStore _colorLists;
     GtkHostInterfaceFactory _factory;
 };

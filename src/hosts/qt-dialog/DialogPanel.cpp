@@ -22,6 +22,8 @@ DialogPanel::DialogPanel(EmbeddingDialog& dialog, QtDesktop& desktop)
 bool DialogPanel::showPage(const LoadedPlugin& plugin, HostView& holder,
                            const HostColor& initialColor)
 {
+    // A page that is only looked at leaves no files in the user's folders.
+    const HeldFiles::Hold hold(desktop().files());
     if (!EmbeddedPanel::showPage(plugin, holder, initialColor)) return false;
     pageDidAppear();
     return true;

@@ -42,7 +42,7 @@ private:
 QtDesktop::QtDesktop(QtLog log)
     : _log(log), _colorLists(_files, [this](const std::u16string& line) { this->log(line); })
 {
-    _files.setFailureHandler(
+    _disk.setFailureHandler(
         [this](auto, const Message& message) { this->log(utf16FromUtf8(english(message))); });
 }
 

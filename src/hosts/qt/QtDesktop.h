@@ -2,6 +2,7 @@
 
 #include "colorlists/PaletteFileStore.h"
 #include "host/HostDesktop.h"
+#include "hosts/common/HeldFiles.h"
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtInterfaceFactory.h"
 
@@ -17,7 +18,7 @@ public:
     explicit QtDesktop(QtLog log = QtLog::standardError);
 
     PaletteFileStore& colorLists() override { return _colorLists; }
-    HostFiles& files() override { return _files; }
+    HeldFiles& files() override { return _files; }
     HostInterfaceFactory& interfaceFactory() override { return _factory; }
     [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,
                                                            std::function<void()> reaction) override;
@@ -29,7 +30,8 @@ public:
 
 private:
     QtLog _log;
-    PosixFiles _files;
+    PosixFiles _disk;
+    HeldFiles _files{_disk};
     PaletteFileStore _colorLists;
     QtInterfaceFactory _factory;
 };
