@@ -107,6 +107,23 @@ HostSize EmbeddedPage::minimumSize()
     return size;
 }
 
+HostSize EmbeddedPage::preferredSize()
+{
+    HostSize size;
+    if (_picker != nullptr) guarded([&] { size = _picker->preferredContentSize(); });
+    return size;
+}
+
+void EmbeddedPage::dialogDidAppear()
+{
+    if (_picker != nullptr) guarded([this] { _picker->pageDidAppear(); });
+}
+
+void EmbeddedPage::dialogDidDisappear()
+{
+    if (_picker != nullptr) guarded([this] { _picker->pageDidDisappear(); });
+}
+
 HostSize EmbeddedPage::room() const
 {
     return _holder != nullptr ? _holder->frame().size() : HostSize{};
@@ -179,7 +196,11 @@ void EmbeddedPage::willWait()
 
 void EmbeddedPage::didGet(const HostEvent& event)
 {
-    if (event.type != HostEventType::leftMouseUp) return;
+    if (event.type == HostEventType::leftMouseUp) changeDidEnd();
+}
+
+void EmbeddedPage::changeDidEnd()
+{
     _isTracking = false;
     // The end of the drag is reported even if the colour does not change any more.
     _isPending = true;

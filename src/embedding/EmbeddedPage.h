@@ -68,6 +68,12 @@ public:
     void resize();
     /// The size in points below which the page loses controls.
     [[nodiscard]] HostSize minimumSize();
+    /// The size in points at which the page shows everything.
+    [[nodiscard]] HostSize preferredSize();
+    /// Call these when the dialog is shown again, and when it is hidden. Until the first call the
+    /// page counts as shown.
+    void dialogDidAppear();
+    void dialogDidDisappear();
 
     /// Call this whenever the dialog has another colour, for whatever reason. Has no effect if it
     /// is the page's colour after the dialog has rounded it, so a page keeps the colour that was
@@ -113,6 +119,9 @@ public:
 
     [[nodiscard]] const HostColor& color() const { return _color; }
     void setColor(const std::optional<HostColor>& color);
+    /// The page changes its colour in steps between these two.
+    void changeDidBegin() { _isTracking = true; }
+    void changeDidEnd();
     /// The size of the holder.
     [[nodiscard]] HostSize room() const;
     HostSize grow(HostSize growth);

@@ -34,6 +34,9 @@ public:
     [[nodiscard]] std::optional<HostColor> color() const final { return _page.color(); }
     void setColor(const std::optional<HostColor>& color) final { _page.setColor(color); }
 
+    void continuousChangeDidBegin() final { _page.changeDidBegin(); }
+    void continuousChangeDidEnd() final { _page.changeDidEnd(); }
+
     [[nodiscard]] HostSize size() const final { return _page.room(); }
     HostSize growPage(HostSize growth) final { return _page.grow(growth); }
 

@@ -25,6 +25,12 @@ public:
     /// panel that always has a colour ignores `std::nullopt`.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
 
+    /// The page is about to set the colour in steps while the user drags, or has set the last one.
+    /// Panels with an undo history or swatches add only the colour at the end. A drag may also end
+    /// without a change.
+    virtual void continuousChangeDidBegin() {}
+    virtual void continuousChangeDidEnd() {}
+
     /// The size of the panel with everything in it, of which a page is a part. A page lays itself
     /// out by the size of its own view; this only says how far away a place outside the panel is.
     [[nodiscard]] virtual HostSize size() const = 0;

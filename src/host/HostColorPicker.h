@@ -49,11 +49,20 @@ public:
     [[nodiscard]] virtual std::string buttonImage() const { return {}; }
     /// The minimum size of the page, in points.
     [[nodiscard]] virtual HostSize minContentSize() const = 0;
+    /// The size at which the page shows everything, in points. Dialogs that choose the size of the
+    /// page begin with it.
+    [[nodiscard]] virtual HostSize preferredContentSize() const { return minContentSize(); }
 
     /// Called when the panel's colour has changed, including changes made by the picker itself.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
     /// Called when the page has a new size. `sender` is the view that changed, or null.
     virtual void viewSizeChanged(HostView* sender) = 0;
+
+    /// Called when the page has become visible to the user, and when it no longer is. A page whose
+    /// host never calls these is always visible. While it is hidden, a page still gets `setColor`,
+    /// but may put off whatever only a user could see.
+    virtual void pageDidAppear() {}
+    virtual void pageDidDisappear() {}
 
     /// The text to drag out of the page, or `std::nullopt` if a drag carries the colour itself.
     [[nodiscard]] virtual std::optional<std::u16string> dragText() const { return std::nullopt; }

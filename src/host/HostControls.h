@@ -98,6 +98,12 @@ struct HostSelection {
     bool operator==(const HostSelection&) const = default;
 };
 
+/// The editor of a text field that is being edited.
+///
+/// While a change of the text is reported (`HostTextField::setTextDidChange`), the selection is
+/// already the one after the change, and a selection set in the reaction is the one that the user
+/// sees. A desktop whose toolkit moves the insertion point after its own report must therefore
+/// report later.
 class HostFieldEditor {
 public:
     virtual ~HostFieldEditor() = default;
@@ -190,6 +196,9 @@ public:
     /// Also called for a click into an inactive window.
     virtual void mouseDown(const HostEvent&) {}
     virtual void mouseDragged(const HostEvent&) {}
+    /// Called at the end of each press that `mouseDown` has not followed to its end by
+    /// `nextEventMatchingMask`, even if the release happens elsewhere; not after a drag-out.
+    virtual void mouseUp(const HostEvent&) {}
     virtual void mouseMoved(const HostEvent&) {}
     virtual void mouseEntered(const HostEvent&) {}
     virtual void mouseExited(const HostEvent&) {}

@@ -88,6 +88,21 @@ void HostView::setParked(bool flag)
     parkedDidChange();
 }
 
+void HostView::setGroundColor(const std::optional<HostColor>& color)
+{
+    if (color == _groundColor) return;
+    _groundColor = color;
+    groundColorDidChange();
+}
+
+std::optional<HostColor> HostView::groundColor() const
+{
+    const HostView* view = this;
+    while (!view->_groundColor && view->_superview != nullptr)
+        view = view->_superview;
+    return view->_groundColor;
+}
+
 void HostView::setToolTip(std::optional<std::u16string> text)
 {
     if (text == _toolTip) return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/HostColor.h"
 #include "host/HostGeometry.h"
 
 #include <functional>
@@ -75,6 +76,14 @@ public:
     void setParked(bool flag);
     [[nodiscard]] bool isParked() const { return _isParked; }
 
+    /// Sets the colour that the view paints below its subviews, for views that paint their ground
+    /// themselves. Desktops choose readable colours for the labels and controls on it, whatever the
+    /// theme. `std::nullopt`, as at first: the ground is that of the superview.
+    void setGroundColor(const std::optional<HostColor>& color);
+    /// Returns the colour of the ground that lies below the view's subviews, or `std::nullopt` for
+    /// the desktop's own.
+    [[nodiscard]] std::optional<HostColor> groundColor() const;
+
     /// Pass `std::nullopt` to remove the tool tip.
     void setToolTip(std::optional<std::u16string> text);
     [[nodiscard]] const std::optional<std::u16string>& toolTip() const { return _toolTip; }
@@ -104,6 +113,8 @@ protected:
     /// Called when the superview has changed; it may be null.
     virtual void hierarchyDidChange() {}
     virtual void parkedDidChange() {}
+    /// Called when the view's own ground colour has changed. Subviews are not called.
+    virtual void groundColorDidChange() {}
     virtual void toolTipDidChange() {}
     /// Called when `rect`, in the view's own coordinates, must be redrawn.
     virtual void displayDidBecomeNeeded(HostRect rect);
@@ -121,6 +132,7 @@ private:
     HostResizing _resizing;
     std::optional<std::u16string> _toolTip;
     AccessibleDescription _accessibleDescription;
+    std::optional<HostColor> _groundColor;
     bool _isParked = false;
     bool _needsDisplay = true;
 };

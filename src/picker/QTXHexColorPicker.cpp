@@ -129,6 +129,11 @@ HostSize QTXHexColorPicker::minContentSize() const
     return {175, 190};
 }
 
+HostSize QTXHexColorPicker::preferredContentSize() const
+{
+    return {260, 300};
+}
+
 HostSize QTXHexColorPicker::minContentSizeWitSettings() const
 {
     return {212, 220};
@@ -140,6 +145,23 @@ void QTXHexColorPicker::setColor(const std::optional<HostColor>& color)
     _exactHexColorMatch = vantorel::exactHexColor(color);
     _hexColorSpec.setColorHexColorSpec(color);
     syncPanel();
+}
+
+void QTXHexColorPicker::pageDidAppear()
+{
+    if (!_interface) return;
+    _isHidden = false;
+    takeInDefaults();
+    if (_mustSync) syncPanel();
+    checkTrackingStatus();
+}
+
+void QTXHexColorPicker::pageDidDisappear()
+{
+    if (!_interface) return;
+    _hexColorsView.stopTracking();
+    _hexColorsView.clearMessage();
+    _isHidden = true;
 }
 
 void QTXHexColorPicker::colorChanged(HostControl*)

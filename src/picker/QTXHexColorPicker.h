@@ -50,8 +50,12 @@ public:
     [[nodiscard]] std::u16string buttonToolTip() const override;
     [[nodiscard]] std::string buttonImage() const override;
     [[nodiscard]] HostSize minContentSize() const override;
+    [[nodiscard]] HostSize preferredContentSize() const override;
     void setColor(const std::optional<HostColor>& color) override;
     void viewSizeChanged(HostView* sender) override;
+    /// Shows what has changed meanwhile, also the settings that other processes have stored.
+    void pageDidAppear() override;
+    void pageDidDisappear() override;
     bool performAction(std::string_view name, HostControl* sender) override;
     [[nodiscard]] static bool hasAction(std::string_view name);
 
@@ -82,7 +86,8 @@ public:
     [[nodiscard]] std::optional<std::u16string> copyText() const override;
     [[nodiscard]] std::vector<HostColorText> colorTexts() const override;
 
-    /// Writes the current colour and settings to every control, in a fixed order.
+    /// Writes the current colour and settings to every control, in a fixed order. A hidden page
+    /// does so when it appears.
     void syncPanel() override;
     /// Passes the current colour to the panel, which calls `setColor` in turn, and updates all
     /// controls.
@@ -160,6 +165,8 @@ private:
     void cubeViewModeAction(HostControl* sender);
     void setPickViewMode(PickViewMode mode);
     void storeDefaults();
+    /// Takes in the settings that other processes have stored.
+    void takeInDefaults();
 
     // The two faces and their layout (QTXHexColorPickerFaces.cpp).
     void settingsButtonAction(HostControl* sender);
@@ -196,6 +203,10 @@ private:
     QTXHexColorSpec _hexColorSpec;
     bool _exactHexColorMatch = false;
     bool __holdOffSync = false;
+    bool _isHidden = false;
+    /// Whether the controls do not show the current colour and settings, because the page is
+    /// hidden.
+    bool _mustSync = false;
     /// True until the interface has been loaded. Start-up never writes the settings file, except to
     /// create a missing one.
     bool __holdOffDefaultsStore = true;

@@ -20,6 +20,20 @@ void QTXHexColorPicker::storeDefaults()
     writeDefaults(files, _hexSettings, _settingsMerge);
 }
 
+void QTXHexColorPicker::takeInDefaults()
+{
+    const ComponentDisplay display = _hexSettings.componentDisplay();
+    const PickViewMode mode = _hexSettings.pickViewMode();
+    if (!vantorel::takeInDefaults(colorPanel().desktop().files(), _hexSettings, _settingsMerge)) {
+        return;
+    }
+    buildColorListsPopup();
+    setItems(cCodeEntryFormPopUp, _hexSettings.codeSnippetNames());
+    syncPanel();
+    if (_hexSettings.componentDisplay() != display) viewSizeChanged(nullptr);
+    if (_hexSettings.pickViewMode() != mode) hideCursorReadout();
+}
+
 void QTXHexColorPicker::entryFormAction(HostControl* sender)
 {
     if (__holdOffSync) return;

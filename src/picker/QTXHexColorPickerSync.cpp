@@ -19,6 +19,8 @@ constexpr const char16_t* addStr = u"Add";
 
 void QTXHexColorPicker::syncPanel()
 {
+    _mustSync = _isHidden;
+    if (_isHidden) return;
     const EntryForm entryForm = _hexSettings.entryForm();
     const ComponentDisplay display = _hexSettings.componentDisplay();
     const auto red =

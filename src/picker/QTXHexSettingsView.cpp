@@ -8,6 +8,12 @@ constexpr HostColor hexSettingsViewBackgroundColorS =
 
 }  // namespace
 
+void QTXHexSettingsView::attachToView(HostCustomView* view)
+{
+    _view = view;
+    if (_view != nullptr) _view->setGroundColor(hexSettingsViewBackgroundColorS);
+}
+
 void QTXHexSettingsView::drawRect(HostCanvas& canvas)
 {
     if (_view == nullptr) return;

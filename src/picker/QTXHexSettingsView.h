@@ -9,7 +9,7 @@ class QTXHexSettingsView final : public HostViewContent {
 public:
     /// Attaches the desktop's native view, or detaches it if null. Detach the view before it is
     /// destroyed.
-    void attachToView(HostCustomView* view) { _view = view; }
+    void attachToView(HostCustomView* view);
     [[nodiscard]] HostCustomView* view() const { return _view; }
 
     void drawRect(HostCanvas& canvas) override;

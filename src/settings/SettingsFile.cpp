@@ -62,6 +62,21 @@ void writeDefaults(HostFiles& files, const QTXHexSettings& settings, SettingsMer
         merge.noteWritten(std::move(mine), std::move(merged), std::move(bytes));
 }
 
+bool takeInDefaults(const HostFiles& files, QTXHexSettings& settings, SettingsMerge& merge)
+{
+    const auto path = hexColorPickerDefaultsFileName(files);
+    const auto bytes = path ? files.contentsAtPath(*path) : std::nullopt;
+    if (!bytes || merge.isCurrent(*bytes)) return false;
+    const auto dictionary = settingsDictionary(*bytes);
+    if (!dictionary) return false;
+    const PropertyList merged = merge.merge(settings.propertyListRepresentation(), bytes);
+    QTXHexSettings theirs = settings;
+    theirs.loadPropertyListRepresentation(*dictionary);
+    merge.noteRead(theirs.propertyListRepresentation(), bytes);
+    settings.loadPropertyListRepresentation(merged);
+    return true;
+}
+
 bool keepDefaultsFile(HostFiles& files)
 {
     const auto path = hexColorPickerDefaultsFileName(files);

@@ -28,6 +28,11 @@ bool readDefaults(const HostFiles& files, QTXHexSettings& settings, SettingsMerg
 /// it, only the keys that this process has changed get new values. The folder is locked meanwhile.
 void writeDefaults(HostFiles& files, const QTXHexSettings& settings, SettingsMerge& merge);
 
+/// Takes in what other processes have written since this one read or wrote the file: the keys that
+/// this process has not changed meanwhile get the values of the file. Returns false, without any
+/// effect, if the file has not changed or cannot be read.
+bool takeInDefaults(const HostFiles& files, QTXHexSettings& settings, SettingsMerge& merge);
+
 /// Copies the file to one with "~" appended to its name. Used for a file that could not be parsed,
 /// so that a slip in editing it by hand does not cost the user's settings. Returns true if the copy
 /// was made or no file exists (any more). Returns false if the file cannot be read or copied, and

@@ -3,6 +3,13 @@
 #include "view/ViewColors.h"
 
 namespace vantorel {
+
+void QTXHexColorsView::attachToView(HostCustomView* view)
+{
+    _view = view;
+    if (_view != nullptr) _view->setGroundColor(hexColorsViewBackgroundColorS);
+}
+
 HostRect QTXHexColorsView::bounds() const
 {
     return _view != nullptr ? _view->bounds() : HostRect{};

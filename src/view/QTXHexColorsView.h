@@ -31,7 +31,7 @@ public:
 
     /// Attaches the desktop's native view, or detaches it if null. Detach the view before it is
     /// destroyed.
-    void attachToView(HostCustomView* view) { _view = view; }
+    void attachToView(HostCustomView* view);
     [[nodiscard]] HostCustomView* view() const { return _view; }
 
     void setNeedsDisplay(bool flag);
@@ -128,6 +128,9 @@ private:
                                HostCanvas& canvas);
     void strokeLeaderLines(HostRect cell, int value, HostCanvas& canvas);
     void slidersMouseDownWithEvent(const HostEvent& event);
+    /// Follows the mouse from a press to its release. Returns true if the mouse has left the
+    /// columns, which drags the colour out.
+    bool followSliders(const HostEvent& event);
     void pickSliderCell(const SliderCell& cell, std::uint64_t modifierFlags);
     /// Sets the work colour to the current colour with the cell's digit replaced.
     void loadWorkColorSpecWithCell(const SliderCell& cell, std::uint64_t modifierFlags);

@@ -118,6 +118,14 @@ void QTXHexColorsView::loadWorkColorSpecWithCell(const SliderCell& cell,
 void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
 {
     if (_view == nullptr) return;
+    panel().continuousChangeDidBegin();
+    const bool wasDraggedOut = followSliders(event);
+    panel().continuousChangeDidEnd();
+    if (wasDraggedOut) mouseDragged(event);
+}
+
+bool QTXHexColorsView::followSliders(const HostEvent& event)
+{
     const HostPoint pressed = event.location;
     HostPoint current = pressed;
     HostPoint previous{pressed.x + 1,
@@ -140,8 +148,7 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
                 lastHit = hit;
             } else if (!hit && distanceBetweenPoints(pressed.x, pressed.y, previous.x, previous.y) >
                                    dragOutDistance) {
-                mouseDragged(event);
-                return;
+                return true;
             }
         }
         const HostEvent next =
@@ -155,6 +162,7 @@ void QTXHexColorsView::slidersMouseDownWithEvent(const HostEvent& event)
     }
 
     if (const auto hit = getComponent(current)) pickSliderCell(*hit, modifierFlags);
+    return false;
 }
 
 void QTXHexColorsView::pickSliderCell(const SliderCell& cell, std::uint64_t modifierFlags)

@@ -200,6 +200,24 @@ TEST_F(EmbeddedPageTest, ADragThatEndsWhereItsLastStepWasEndsAllTheSame)
     EXPECT_EQ(_dialog.chosen.size(), 2U) << "a press that chooses no colour is no choice";
 }
 
+TEST_F(EmbeddedPageTest, AChangeInStepsEndsWithAFinalColor)
+{
+    ASSERT_TRUE(show());
+    _panel->continuousChangeDidBegin();
+    for (const double value : {0.1, 0.2}) {
+        _panel->setColor(gray(value));
+        letTimePass();
+    }
+    _panel->continuousChangeDidEnd();
+    letTimePass();
+    EXPECT_THAT(_dialog.chosen, ElementsAre(Chosen{gray(0.1), false}, Chosen{gray(0.2), false},
+                                            Chosen{gray(0.2), true}));
+    _panel->continuousChangeDidBegin();
+    _panel->continuousChangeDidEnd();
+    letTimePass();
+    EXPECT_EQ(_dialog.chosen.size(), 3U);
+}
+
 TEST_F(EmbeddedPageTest, TheDialogDoesNotSeeTheBlackOfADraggedText)
 {
     ASSERT_TRUE(show(gray(0.5)));

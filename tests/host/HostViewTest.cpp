@@ -65,6 +65,21 @@ TEST(HostViewTest, ADestroyedViewLeavesTheTree)
     EXPECT_EQ(subview.superview(), nullptr);
 }
 
+TEST(HostViewTest, TheGroundIsThatOfTheNearestViewThatPaintsOne)
+{
+    HostView page({});
+    HostView painted({});
+    HostView label({});
+    page.addSubview(painted);
+    painted.addSubview(label);
+    EXPECT_EQ(label.groundColor(), std::nullopt);
+    painted.setGroundColor(HostColor::whiteColor());
+    EXPECT_EQ(label.groundColor(), HostColor::whiteColor());
+    EXPECT_EQ(page.groundColor(), std::nullopt);
+    label.setGroundColor(HostColor::blackColor());
+    EXPECT_EQ(label.groundColor(), HostColor::blackColor());
+}
+
 TEST(HostViewTest, AViewHasOneSuperview)
 {
     HostView first({});

@@ -37,6 +37,18 @@ TEST_F(ColorHistoryTest, ADragIsOneStep)
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)}) << "none of what it passed over";
 }
 
+TEST_F(ColorHistoryTest, AStepLastsAsLongAsItsDrag)
+{
+    _history.record(grey(0.1), 0);
+    _history.beginStep();
+    _history.record(grey(0.2), 0.1);
+    _history.record(grey(0.3), 10);
+    _history.endStep();
+    _history.record(grey(0.4), 10.1);
+    EXPECT_EQ(_history.undo(), grey(0.3));
+    EXPECT_EQ(_history.undo(), grey(0.1));
+}
+
 TEST_F(ColorHistoryTest, AFirstColourThatNobodyHasChosenIsNotRecent)
 {
     ColorHistory history(grey(1), ColorHistory::First::given);

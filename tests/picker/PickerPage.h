@@ -11,6 +11,28 @@
 
 namespace vantorel {
 
+/// A panel that writes down when a change in steps begins and ends.
+class LoggingPanel final : public HeadlessColorPanel {
+public:
+    using HeadlessColorPanel::HeadlessColorPanel;
+
+    void setColor(const std::optional<HostColor>& color) override
+    {
+        log += "set ";
+        HeadlessColorPanel::setColor(color);
+    }
+    void continuousChangeDidBegin() override { log += "begin "; }
+    void continuousChangeDidEnd() override { log += "end "; }
+    void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
+                   HostView& source) override
+    {
+        log += "drag ";
+        HeadlessColorPanel::dragImage(image, item, event, source);
+    }
+
+    std::string log;
+};
+
 /// A picker of the shipped interface file, in a headless panel.
 class PickerPage : public testing::Test {
 protected:
@@ -42,7 +64,7 @@ protected:
 
     Bundle _bundle;
     HeadlessDesktop _desktop{{std::make_unique<MemoryFiles>(), 0.6, {}}};
-    HeadlessColorPanel _panel{_desktop, {200, 400, 260, 340}, HostColor::whiteColor()};
+    LoggingPanel _panel{_desktop, {200, 400, 260, 340}, HostColor::whiteColor()};
     QTXHexColorPicker _picker{0, _panel, _bundle};
     HostView* _page = nullptr;
 };

@@ -40,6 +40,37 @@ TEST(SettingsFileTest, AnExistingFileIsLoaded)
     EXPECT_EQ(files.contentsAtPath(file), "{ NColorCubeRings = 5; }");
 }
 
+TEST(SettingsFileTest, WhatOthersHaveStoredIsTakenInByKey)
+{
+    MemoryFiles files;
+    QTXHexSettings mine;
+    SettingsMerge merge;
+    initializeDefaults(files, mine, merge);
+    EXPECT_FALSE(takeInDefaults(files, mine, merge)) << "it is the file of this process";
+
+    QTXHexSettings theirs;
+    SettingsMerge theirMerge;
+    initializeDefaults(files, theirs, theirMerge);
+    theirs.setNColorCubeRings(5);
+    theirs.setUsePoundSign(!mine.usePoundSign());
+    writeDefaults(files, theirs, theirMerge);
+
+    const bool poundSign = mine.usePoundSign();
+    mine.setNColorCubeRings(9);
+    EXPECT_TRUE(takeInDefaults(files, mine, merge));
+    EXPECT_EQ(mine.usePoundSign(), !poundSign);
+    EXPECT_EQ(mine.nColorCubeRings(), 9) << "this process has changed it, too";
+    EXPECT_FALSE(takeInDefaults(files, mine, merge));
+    writeDefaults(files, mine, merge);
+    QTXHexSettings stored;
+    readDefaults(files, stored);
+    EXPECT_EQ(stored.nColorCubeRings(), 9);
+    EXPECT_EQ(stored.usePoundSign(), !poundSign);
+
+    files.writeAtomically(file, "damaged {");
+    EXPECT_FALSE(takeInDefaults(files, mine, merge));
+}
+
 TEST(SettingsFileTest, AFileInPlaceOfTheFolderIsLeftAlone)
 {
     MemoryFiles files;

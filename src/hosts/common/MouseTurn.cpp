@@ -1,5 +1,7 @@
 #include "hosts/common/MouseTurn.h"
 
+#include <utility>
+
 namespace vantorel {
 
 MouseTurn::~MouseTurn()
@@ -16,12 +18,20 @@ void MouseTurn::press(const HostEvent& event)
     _events.clear();
     _pressIsBeingHandled = true;
     _content.mouseDown(event);
-    if (!life.expired()) _pressIsBeingHandled = false;
+    if (life.expired()) return;
+    _pressIsBeingHandled = false;
+    // The button may have been released while the content was handling the press, without waiting.
+    for (const HostEvent& waiting : std::exchange(_events, {})) {
+        if (waiting.type != HostEventType::leftMouseUp) continue;
+        _content.mouseUp(waiting);
+        return;
+    }
 }
 
 void MouseTurn::proceed(const HostEvent& event)
 {
     _lastPoint = event.location;
+    const bool wasDown = _buttonIsDown;
     const bool released = event.type == HostEventType::leftMouseUp;
     if (released) _buttonIsDown = false;
     if (_pressIsBeingHandled) {
@@ -32,7 +42,11 @@ void MouseTurn::proceed(const HostEvent& event)
             _events.push_back(event);
         }
         if (_wait != nullptr) _wait->end();
-    } else if (!released && _buttonIsDown) {
+    } else if (!wasDown) {
+        return;
+    } else if (released) {
+        _content.mouseUp(event);
+    } else {
         _content.mouseDragged(event);
     }
 }

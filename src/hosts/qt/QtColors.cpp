@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "host/HostInterfaceFactory.h"
+#include "hosts/common/ReadableColor.h"
 #include "hosts/qt/QtVersions.h"
 #include "hosts/qt/TextScale.h"
 
@@ -68,12 +69,12 @@ QFont fontOf(const HostControlDescription& description)
     return monospaced;
 }
 
-QPalette paletteOnLightGround()
+QPalette paletteOnGround(const std::optional<HostColor>& groundColor)
 {
-    constexpr int darkGround = 128;
-    QPalette themes = QApplication::palette();
-    if (themes.color(QPalette::Window).lightness() >= darkGround) return themes;
-    const QColor ground(241, 241, 245);
+    const QPalette themes = QApplication::palette();
+    const HostColor window = hostColorFrom(themes.color(QPalette::Window));
+    if (!groundColor || isDarkGround(*groundColor) == isDarkGround(window)) return themes;
+    const QColor ground = qColorFrom(*groundColor);
     QPalette palette(ground, ground);  // derives the other roles
     palette.setColor(QPalette::Highlight, themes.color(QPalette::Highlight));
     palette.setColor(QPalette::HighlightedText, themes.color(QPalette::HighlightedText));

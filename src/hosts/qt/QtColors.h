@@ -28,8 +28,8 @@ struct HostControlDescription;
 /// The font of a control: 11 points unless its description has a size.
 [[nodiscard]] QFont fontOf(const HostControlDescription& description);
 
-/// The palette for controls on the core's own backgrounds, which are light in every theme: the
-/// program's palette if it is light, else a matching light one.
-[[nodiscard]] QPalette paletteOnLightGround();
+/// The palette for what lies on a ground that a page paints itself (`HostView::groundColor`): the
+/// program's palette unless it is made for the opposite, dark or light; then one of the ground's.
+[[nodiscard]] QPalette paletteOnGround(const std::optional<HostColor>& groundColor);
 
 }  // namespace vantorel

@@ -135,7 +135,7 @@ protected:
     {
         switch (event->type()) {
             case QEvent::ApplicationPaletteChange:
-                setPalette(paletteOnLightGround());
+                if (_owner != nullptr) setPalette(paletteOnGround(_owner->groundColor()));
                 break;
             case QEvent::Leave:
                 if (_owner != nullptr) _owner->_tracking.leave({HostEventType::mouseExited, {}, 0});
@@ -172,7 +172,6 @@ QtCustomView::QtCustomView(const HostControlDescription& description, HostViewCo
     static_cast<Widget*>(widget())->setOwner(this);
     widget()->setMouseTracking(true);
     if (content.takesKeys()) widget()->setFocusPolicy(Qt::StrongFocus);
-    widget()->setPalette(paletteOnLightGround());
     widget()->setAccessibleName(qStringFrom(description.accessibleName));
 }
 
@@ -182,6 +181,11 @@ void QtCustomView::paint(QPainter& painter, bool showsFocus)
     _content.drawRect(canvas);
     if (showsFocus) strokeOnAnyColor(canvas, _content.keyOutline());
     setNeedsDisplay(false);
+}
+
+void QtCustomView::groundColorDidChange()
+{
+    if (QWidget* painted = widget()) painted->setPalette(paletteOnGround(groundColor()));
 }
 
 HostEvent QtCustomView::nextMouseEvent(std::uint32_t mask)

@@ -27,6 +27,9 @@ public:
     /// See `MouseTurn::forgetButton`.
     void forgetButton() { _turn.forgetButton(); }
 
+protected:
+    void groundColorDidChange() override;
+
 private:
     class Widget;
 

@@ -157,7 +157,7 @@ void QtLabel::setTextColor(const HostColor& color)
 {
     QPalette palette;
     palette.setColor(QPalette::WindowText,
-                     readableTextColor(color, QApplication::palette(label())));
+                     readableTextColor(color, paletteOnGround(groundColor())));
     label()->setPalette(palette);
 }
 

@@ -87,6 +87,7 @@ void PluginPage::show(HostView& holder)
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
         reportSize();
+        _picker->pageDidAppear();
     } else {
         _message->setParent(widgetOf(&holder));
         _message->show();
@@ -96,7 +97,10 @@ void PluginPage::show(HostView& holder)
 
 void PluginPage::hide()
 {
-    if (_view != nullptr) _view->removeFromSuperview();
+    if (_view != nullptr) {
+        _picker->pageDidDisappear();
+        _view->removeFromSuperview();
+    }
     if (_message) _message->setParent(nullptr);
 }
 

@@ -8,7 +8,8 @@ void ColorHistory::record(const HostColor& color, double now)
 {
     _before = State{_steps, _index, _recent, _lastChange, _settled};
     if (color == current()) return;
-    const bool sameStep = !_settled && now - _lastChange < settlingSeconds && _index > 0;
+    const bool isSoon = _isInStep || now - _lastChange < settlingSeconds;
+    const bool sameStep = !_settled && isSoon && _index > 0;
     _lastChange = now;
     _settled = false;
     _steps.resize(_index + 1, color);
@@ -23,6 +24,18 @@ void ColorHistory::record(const HostColor& color, double now)
         _firstIsChosen = true;
     }
     _index = _steps.size() - 1;
+}
+
+void ColorHistory::beginStep()
+{
+    _settled = true;
+    _isInStep = true;
+}
+
+void ColorHistory::endStep()
+{
+    _settled = true;
+    _isInStep = false;
 }
 
 void ColorHistory::forgetLast()

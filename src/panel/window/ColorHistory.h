@@ -9,8 +9,8 @@
 namespace vantorel {
 
 /// The colours that the panel has shown: steps to undo and redo, and the recent colours, which were
-/// shown for a while. A drag changes the colour at each move of the mouse; changes that follow each
-/// other within `settlingSeconds` are one step.
+/// shown for a while. A drag changes the colour at each move of the mouse; its changes are one
+/// step, as are others that follow each other within `settlingSeconds`.
 class ColorHistory {
 public:
     static constexpr double settlingSeconds = 0.7;
@@ -27,6 +27,9 @@ public:
 
     /// Records that the colour has become `color`. `now` is in seconds of any monotonic clock.
     void record(const HostColor& color, double now);
+    /// All changes recorded between these two are one step, and no later change belongs to it.
+    void beginStep();
+    void endStep();
     /// Removes the last change, as if it had not been recorded. Call it at most once after each
     /// `record`.
     void forgetLast();
@@ -60,6 +63,8 @@ private:
     double _lastChange = 0;
     /// Whether the next change begins a step, however soon it comes.
     bool _settled = true;
+    /// Between `beginStep` and `endStep`.
+    bool _isInStep = false;
     std::optional<State> _before;
 };
 

@@ -26,6 +26,9 @@ public:
     void startWith(const HostColor& color, const std::vector<HostColor>& recent);
     /// Makes the colour the most recent one, because it was used.
     void rememberColor();
+    /// All changes between these two are one step to undo, however long they take.
+    void beginStep() { _history.beginStep(); }
+    void endStep() { _history.endStep(); }
     /// Removes the last change from the history, as if the colour had not changed.
     void forgetLastChange();
 

@@ -18,6 +18,8 @@ public:
 
     [[nodiscard]] std::optional<HostColor> color() const override { return _colors.color(); }
     void setColor(const std::optional<HostColor>& color) override;
+    void continuousChangeDidBegin() override { _colors.beginStep(); }
+    void continuousChangeDidEnd() override { _colors.endStep(); }
     [[nodiscard]] HostSize size() const override;
     HostSize growPage(HostSize growth) override;
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,

@@ -147,6 +147,8 @@ void HeadlessColorPanel::deliver(const HostEvent& event, HeadlessCustomView& vie
             if (view.movePointer(event) && _acceptsMouseMoved) view.content().mouseMoved(event);
             break;
         case HostEventType::leftMouseUp:
+            view.content().mouseUp(event);
+            break;
         case HostEventType::mouseEntered:
         case HostEventType::mouseExited:
             break;

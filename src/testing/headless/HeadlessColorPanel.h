@@ -8,7 +8,7 @@
 namespace vantorel {
 
 /// A colour panel with one picker and no screen. Like a real panel it has a bar above the page.
-class HeadlessColorPanel final : public HostColorPanel {
+class HeadlessColorPanel : public HostColorPanel {
 public:
     static constexpr double barHeight = 32;
 

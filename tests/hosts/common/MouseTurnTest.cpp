@@ -45,6 +45,7 @@ protected:
         if (_whenPressed) _whenPressed();
     }
     void mouseDragged(const HostEvent& event) override { _places.push_back(event.location.x); }
+    void mouseUp(const HostEvent& event) override { _ends.push_back(event.location.x); }
 
     void followTheMouse()
     {
@@ -62,6 +63,7 @@ protected:
     Program _program;
     std::function<void()> _whenPressed;
     std::vector<double> _places;
+    std::vector<double> _ends;
 };
 
 TEST_F(MouseTurnTest, AContentWithoutALoopGetsTheDrags)
@@ -73,6 +75,26 @@ TEST_F(MouseTurnTest, AContentWithoutALoopGetsTheDrags)
     release(4);
     drag(5);
     EXPECT_EQ(_places, (std::vector<double>{2, 3}));
+    EXPECT_EQ(_ends, std::vector<double>{4});
+}
+
+TEST_F(MouseTurnTest, EveryPressEndsExceptThoseThatALoopOrADragOutHasEnded)
+{
+    press();
+    drag(2);
+    _turn->breakOff();
+    EXPECT_EQ(_ends, std::vector<double>{2});
+    _whenPressed = [this] { release(3); };
+    press();
+    EXPECT_EQ(_ends, (std::vector<double>{2, 3})) << "released while the press was handled";
+    _whenPressed = [this] { followTheMouse(); };
+    _program.steps = {[this] { release(4); }};
+    press();
+    _whenPressed = {};
+    press();
+    _turn->forgetButton();
+    release(5);
+    EXPECT_EQ(_ends.size(), 2U);
 }
 
 TEST_F(MouseTurnTest, ALoopGetsTheLastPlaceOfEachWait)

@@ -3,7 +3,6 @@
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtInterfaceFactory.h"
 
-
 #include <gtest/gtest.h>
 
 #include <QMouseEvent>
@@ -50,6 +49,33 @@ TEST(QtViewTest, WidgetsFollowTheirViews)
     inner->removeFromSuperview();
     EXPECT_EQ(widgetOf(inner.get())->parentWidget(), nullptr);
     EXPECT_TRUE(widgetOf(inner.get())->isHidden());
+}
+
+class NoContent final : public HostViewContent {
+public:
+    void drawRect(HostCanvas&) override {}
+};
+
+TEST(QtViewTest, LabelsAreReadableOnTheGroundThatAPagePaints)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(30, 30, 30)));
+    NoContent content;
+    QtInterfaceFactory factory;
+    const auto painted = factory.makeCustomView(describe("painted", {0, 0, 100, 100}), content);
+    HostControlDescription description = describe("label", {10, 10, 50, 20});
+    description.editable = false;
+    const auto label = factory.makeTextField(description);
+    painted->addSubview(*label);
+    const auto lightness = [&] {
+        label->setTextColor(HostColor::blackColor());
+        return widgetOf(label.get())->palette().color(QPalette::WindowText).lightness();
+    };
+    EXPECT_GT(lightness(), 128) << "on the theme's dark ground";
+    painted->setGroundColor(HostColor::whiteColor());
+    EXPECT_LT(lightness(), 128);
+    EXPECT_LT(widgetOf(painted.get())->palette().color(QPalette::ButtonText).lightness(), 128);
+    QApplication::setPalette(before);
 }
 
 TEST(QtViewTest, ALongTitleBeforeAControlIsWhole)
