@@ -1,8 +1,11 @@
-#include "commandline/Translations.h"
+#include "translations/TranslationFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ScratchFolder.h"
+
+#include <fstream>
 #include <map>
 
 namespace vantorel {
@@ -54,7 +57,8 @@ TEST(TranslationsTest, OnlyFinishedMessagesAreRead)
                                  "<message><source>c</source><translation type=\"unfinished\">d"
                                  "</translation></message></context>"
                                  "<context><name>Later</name><message><source>e</source>"
-                                 "<translation>f</translation></message></context>"),
+                                 "<translation>f</translation></message></context>",
+                                 "Messages"),
                 UnorderedElementsAre(Pair("a <\"%1\">\nb", "\u00e4 &lt; %1")));
 }
 
@@ -62,7 +66,22 @@ TEST(TranslationsTest, DamagedFilesAreHarmless)
 {
     for (const char* ts : {"", "<", "<name>Messages</name>", "<name>Messages</name><source>a",
                            "<name>Messages</name><source>a</source><translation>"})
-        EXPECT_THAT(readTranslations(ts), IsEmpty()) << ts;
+        EXPECT_THAT(readTranslations(ts, "Messages"), IsEmpty()) << ts;
+}
+
+TEST(TranslationFilesTest, TheFirstLanguageThatIsThereCounts)
+{
+    const ScratchFolder folder;
+    std::ofstream(folder.pathOf("vantorel_de.ts"))
+        << "<context><name>DisplayNames</name><message><source>Add</source><translation>"
+           "Hinzuf\u00fcgen</translation></message></context>";
+    TranslationFiles files(folder.path().string(), {"nds", "de", "fr"});
+    EXPECT_EQ(files.translated("DisplayNames", "Add"), "Hinzuf\u00fcgen");
+    EXPECT_EQ(files.translated("Messages", "Add"), "Add");
+    EXPECT_EQ(files.translated("DisplayNames", "Remove"), "Remove");
+    EXPECT_EQ(TranslationFiles(folder.path().string(), {"fr"}).translated("DisplayNames", "Add"),
+              "Add");
+    EXPECT_EQ(TranslationFiles({}, {"de"}).translated("DisplayNames", "Add"), "Add");
 }
 
 }  // namespace
