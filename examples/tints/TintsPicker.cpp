@@ -72,7 +72,16 @@ private:
         }
     }
 
+    // From press to release the panel sees one change.
     void mouseDown(const HostEvent& event) override
+    {
+        colorPanel().continuousChangeDidBegin();
+        takeStep(event);
+    }
+    void mouseDragged(const HostEvent& event) override { takeStep(event); }
+    void mouseUp(const HostEvent&) override { colorPanel().continuousChangeDidEnd(); }
+
+    void takeStep(const HostEvent& event)
     {
         const HostSize cell = cellSize();
         if (!_view->bounds().contains(event.location)) return;
@@ -82,7 +91,6 @@ private:
                     std::min(static_cast<int>(event.location.x / cell.width), steps - 1)));
         _isTakingStep = false;
     }
-    void mouseDragged(const HostEvent& event) override { mouseDown(event); }
 
     [[nodiscard]] HostColor colorAt(int row, int step) const { return mixed(_base, 1 - row, step); }
     [[nodiscard]] HostSize cellSize() const

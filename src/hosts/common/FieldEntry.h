@@ -70,9 +70,9 @@ public:
     /// window or a menu has taken the focus, or the field was hidden.
     void leave();
     /// Escape was pressed. Returns false if there is no entry to discard; the key is then for the
-    /// dialogue.
+    /// dialog.
     [[nodiscard]] bool giveUp();
-    /// The dialogue ends with OK, or the page is left: enters what was typed. Has no effect if the
+    /// The dialog ends with OK, or the page is left: enters what was typed. Has no effect if the
     /// field is hidden or the user has typed nothing since the last entry.
     void finish();
     /// The Up or Down key, or the wheel. What was typed is entered first.

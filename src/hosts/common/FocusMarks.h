@@ -26,7 +26,7 @@ public:
     void buttonWasPressed() { _areShown = false; }
     void keyWasUsed() { _areShown = true; }
 
-    /// Whether a key is for the view. While no cell is marked, Return ends the dialogue that the
+    /// Whether a key is for the view. While no cell is marked, Return ends the dialog that the
     /// page is in.
     [[nodiscard]] bool offers(const HostKeyEvent& key) const
     {

@@ -170,7 +170,7 @@ TEST_P(FieldEntryTest, LeavingEntersOnceAndGivesUpWhatIsIgnored)
     EXPECT_EQ(_field.givenUp, 1);
 }
 
-TEST_P(FieldEntryTest, EscapeDiscardsAnEntryAndElseIsForTheDialogue)
+TEST_P(FieldEntryTest, EscapeDiscardsAnEntryAndElseIsForTheDialog)
 {
     EXPECT_FALSE(_field.entry->giveUp());
     _field.type(u"abc");
@@ -180,7 +180,7 @@ TEST_P(FieldEntryTest, EscapeDiscardsAnEntryAndElseIsForTheDialogue)
     EXPECT_TRUE(_entered.empty());
 }
 
-TEST_P(FieldEntryTest, WhatWasTypedCountsWhenTheDialogueEnds)
+TEST_P(FieldEntryTest, WhatWasTypedCountsWhenTheDialogEnds)
 {
     _field.entry->finish();
     _field.type(u"abc");

@@ -29,7 +29,7 @@ TEST(FocusMarksTest, AWindowGivesTheMarksBack)
     EXPECT_TRUE(marks.areShown());
 }
 
-TEST(FocusMarksTest, ReturnIsForTheDialogueWhileNoCellIsMarked)
+TEST(FocusMarksTest, ReturnIsForTheDialogWhileNoCellIsMarked)
 {
     FocusMarks marks;
     EXPECT_FALSE(marks.offers({HostKey::pick, 0}));
