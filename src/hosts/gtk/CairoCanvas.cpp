@@ -21,7 +21,7 @@ Layout layoutOf(const Layout& layout, const HostText& text)
     std::string shown = gtkText(shownText(text));
     if (shown.size() > 1 && shown.back() == '\n') shown.pop_back();
     pango_layout_set_text(layout.get(), shown.data(), static_cast<int>(shown.size()));
-    pango_layout_set_font_description(layout.get(), fontOfSize(text.pointSize).get());
+    pango_layout_set_font_description(layout.get(), gtkFontOfSize(text.pointSize).get());
     return layout;
 }
 
@@ -154,7 +154,7 @@ void CairoCanvas::drawText(const HostText& text, HostPoint at)
     pango_cairo_show_layout(_cairo, layout.get());
 }
 
-HostSize pictureSize(const HostImage& image)
+HostSize sizeInPixels(const HostImage& image)
 {
     return {image.size.width * gtkTextScale(), image.size.height * gtkTextScale()};
 }
@@ -162,7 +162,7 @@ HostSize pictureSize(const HostImage& image)
 void paintImage(cairo_t* cairo, const HostImage& image, double devicePixels)
 {
     cairo_save(cairo);
-    cairo_rectangle(cairo, 0, 0, pictureSize(image).width, pictureSize(image).height);
+    cairo_rectangle(cairo, 0, 0, sizeInPixels(image).width, sizeInPixels(image).height);
     cairo_clip(cairo);
     cairo_push_group(cairo);
     CairoCanvas canvas(cairo, {0, 0, image.size.width, image.size.height}, devicePixels);
@@ -174,7 +174,7 @@ void paintImage(cairo_t* cairo, const HostImage& image, double devicePixels)
 
 CairoSurface surfaceOfImage(const HostImage& image, double devicePixels)
 {
-    const HostSize size = pictureSize(image);
+    const HostSize size = sizeInPixels(image);
     const auto pixels = [devicePixels](double length) {
         return std::max(1, static_cast<int>(std::ceil(length * devicePixels)));
     };

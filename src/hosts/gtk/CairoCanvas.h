@@ -35,7 +35,7 @@ private:
 };
 
 /// The size of an image in pixels of GTK.
-[[nodiscard]] HostSize pictureSize(const HostImage& image);
+[[nodiscard]] HostSize sizeInPixels(const HostImage& image);
 
 /// Paints an image with its upper left corner at the context's origin.
 void paintImage(cairo_t* cairo, const HostImage& image, double devicePixels);

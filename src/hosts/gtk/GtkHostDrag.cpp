@@ -19,7 +19,7 @@ using TargetList = std::unique_ptr<GtkTargetList, TargetListUnref>;
 
 void showPicture(GdkDragContext* context, GtkWidget* source, const HostImage& image)
 {
-    const int height = static_cast<int>(std::lround(pictureSize(image).height));
+    const int height = static_cast<int>(std::lround(sizeInPixels(image).height));
 #if GTK_MAJOR_VERSION >= 3
     const double scale = scaleFactorOf(source);
     const CairoSurface surface = surfaceOfImage(image, scale);
@@ -28,7 +28,7 @@ void showPicture(GdkDragContext* context, GtkWidget* source, const HostImage& im
     gtk_drag_set_icon_surface(context, surface.get());
 #else
     static_cast<void>(source);
-    const HostSize size = pictureSize(image);
+    const HostSize size = sizeInPixels(image);
     const auto pixmap = GtkReference<GdkPixmap>::adopt(
         gdk_pixmap_new(gdk_get_default_root_window(), std::max(1, static_cast<int>(size.width)),
                        std::max(1, height), -1));

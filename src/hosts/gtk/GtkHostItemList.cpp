@@ -102,7 +102,7 @@ private:
         _rowHeight = popUpRowHeight(height, gtkTextScale());
         for (const HostMenuItem& item : _items) {
             if (!item.image) continue;
-            _imageWidth = static_cast<int>(std::ceil(pictureSize(*item.image).width));
+            _imageWidth = static_cast<int>(std::ceil(sizeInPixels(*item.image).width));
             break;
         }
         _scroll = newAdjustment(0, count(), 1, 1);
@@ -251,7 +251,7 @@ private:
         if (item.image) {
             cairo_save(cairo);
             cairo_translate(cairo, besideImage,
-                            std::floor((_rowHeight - pictureSize(*item.image).height) / 2));
+                            std::floor((_rowHeight - sizeInPixels(*item.image).height) / 2));
             paintImage(cairo, *item.image, scaleFactorOf(_area));
             cairo_restore(cairo);
         }

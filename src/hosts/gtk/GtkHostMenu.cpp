@@ -98,13 +98,13 @@ private:
         GtkWidget* line = newBox(GTK_ORIENTATION_HORIZONTAL, besidePicture);
         GtkWidget* picture = gtk_drawing_area_new();
         gtk_widget_set_has_window(picture, FALSE);
-        const HostSize size = pictureSize(*item.image);
+        const HostSize size = sizeInPixels(*item.image);
         gtk_widget_set_size_request(picture, static_cast<int>(std::ceil(size.width)),
                                     static_cast<int>(std::ceil(size.height)));
         _signals.connectPaint(picture, [picture, image = *item.image](cairo_t* cairo) {
             GtkAllocation place;
             gtk_widget_get_allocation(picture, &place);
-            cairo_translate(cairo, 0, std::floor((place.height - pictureSize(image).height) / 2));
+            cairo_translate(cairo, 0, std::floor((place.height - sizeInPixels(image).height) / 2));
             paintImage(cairo, image, scaleFactorOf(picture));
         });
         gtk_box_pack_start(GTK_BOX(line), picture, FALSE, FALSE, 0);

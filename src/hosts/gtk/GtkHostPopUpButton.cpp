@@ -63,7 +63,7 @@ void GtkHostPopUpButton::paint(cairo_t* cairo)
     double left = beside;
     if (const int selected = indexOfSelectedItem(); selected != noItem) {
         if (const auto& image = menu()[static_cast<std::size_t>(selected)].image) {
-            const HostSize size = pictureSize(*image);
+            const HostSize size = sizeInPixels(*image);
             cairo_save(cairo);
             cairo_translate(cairo, left, std::floor((place.height - size.height) / 2));
             paintImage(cairo, *image, scaleFactorOf(_area.get()));
@@ -76,7 +76,7 @@ void GtkHostPopUpButton::paint(cairo_t* cairo)
     if (room < 1 || !setCairoColor(cairo, color)) return;
     const auto layout = GtkReference<PangoLayout>::adopt(
         gtk_widget_create_pango_layout(_area.get(), gtkText(selectedTitle()).c_str()));
-    pango_layout_set_font_description(layout.get(), fontOfSize(_points).get());
+    pango_layout_set_font_description(layout.get(), gtkFontOfSize(_points).get());
     pango_layout_set_width(layout.get(), static_cast<int>(room * PANGO_SCALE));
     pango_layout_set_ellipsize(layout.get(), PANGO_ELLIPSIZE_END);
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);

@@ -132,7 +132,7 @@ double generalFontHeight()
     return size * (dotsPerInch > 0 ? dotsPerInch : 96) / pointsPerInch;
 }
 
-PangoFont fontOfSize(double points)
+PangoFont gtkFontOfSize(double points)
 {
     return fontOfHeight(pixelsOfFont(points), false);
 }

@@ -18,7 +18,7 @@ using PangoFont = std::unique_ptr<PangoFontDescription, PangoFontDescriptionFree
 [[nodiscard]] double generalFontHeight();
 
 /// The desktop's sans-serif font. A point of the core is `gtkTextScale()` pixels.
-[[nodiscard]] PangoFont fontOfSize(double points);
+[[nodiscard]] PangoFont gtkFontOfSize(double points);
 
 /// The size of a control's font: 11 points unless its description has one.
 [[nodiscard]] double pointSizeOf(const HostControlDescription& description);
