@@ -4,10 +4,10 @@
 #include "hosts/posix/LibraryFile.h"
 
 #include <dlfcn.h>
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <climits>
+#include <cstdlib>
 #include <cstring>
 
 namespace vantorel {
@@ -27,8 +27,9 @@ bool goUp(Path& path)
 bool append(Path& path, const char* text)
 {
     const std::size_t length = std::strlen(path);
-    if (length + std::strlen(text) >= sizeof path) return false;
-    std::strcpy(path + length, text);
+    const std::size_t added = std::strlen(text) + 1;
+    if (added > sizeof path - length) return false;
+    std::memcpy(path + length, text, added);
     return true;
 }
 
@@ -39,7 +40,11 @@ bool findLibraryFolder(Path& path)
     Dl_info info = {};
     if (::dladdr(reinterpret_cast<void*>(&findLibraryFolder), &info) == 0) return false;
     if (info.dli_fname == nullptr || ::realpath(info.dli_fname, path) == nullptr) return false;
-    return goUp(path) && goUp(path) && goUp(path);
+    constexpr int levels = 3;  // the loader's name and two folders
+    for (int i = 0; i < levels; ++i) {
+        if (!goUp(path)) return false;
+    }
+    return true;
 }
 
 template <class Symbol>

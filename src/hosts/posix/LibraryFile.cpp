@@ -12,9 +12,9 @@ namespace vantorel {
 namespace {
 
 /// A part of a file, of a size that the file itself states.
-bool fits(std::uint64_t offset, std::uint64_t size, std::uint64_t fileSize)
+bool fits(std::uint64_t offset, std::uint64_t length, std::uint64_t fileSize)
 {
-    return offset <= fileSize && size <= fileSize - offset;
+    return offset <= fileSize && length <= fileSize - offset;
 }
 
 template <class Part>
@@ -24,19 +24,19 @@ bool readPart(int file, std::uint64_t offset, Part& part)
            static_cast<ssize_t>(sizeof part);
 }
 
-bool isCutOff(int file, std::uint64_t size)
+bool isCutOff(int file, std::uint64_t fileSize)
 {
     ElfW(Ehdr) header;
     if (!readPart(file, 0, header)) return false;
     if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0) return false;
     // Sections are at the end of a file. They are not mapped, but without them it is not whole.
     const std::uint64_t sections = std::uint64_t{header.e_shnum} * header.e_shentsize;
-    if (!fits(header.e_shoff, sections, size)) return true;
+    if (!fits(header.e_shoff, sections, fileSize)) return true;
     for (unsigned i = 0; i < header.e_phnum; ++i) {
         ElfW(Phdr) segment;
         const std::uint64_t place = header.e_phoff + std::uint64_t{i} * header.e_phentsize;
-        if (!fits(place, sizeof segment, size) || !readPart(file, place, segment)) return true;
-        if (segment.p_type == PT_LOAD && !fits(segment.p_offset, segment.p_filesz, size)) {
+        if (!fits(place, sizeof segment, fileSize) || !readPart(file, place, segment)) return true;
+        if (segment.p_type == PT_LOAD && !fits(segment.p_offset, segment.p_filesz, fileSize)) {
             return true;
         }
     }
