@@ -75,7 +75,11 @@ void DialogPage::pageHasThrown(QObject& widget)
 
 bool DialogPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == _dialog && event->type() == QEvent::Show) followButtons();
+    if (watched == _dialog && event->type() == QEvent::Show) {
+        followButtons();
+        _panel.page().dialogDidAppear();
+    }
+    if (watched == _dialog && event->type() == QEvent::Hide) _panel.page().dialogDidDisappear();
     // Its options have no signal, but showing or hiding the opacity changes the layout.
     if (watched == _dialog &&
         (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)) {
