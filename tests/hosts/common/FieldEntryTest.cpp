@@ -13,7 +13,7 @@ namespace {
 class TestField final : public HostTextField, public HostFieldEditor, EntryWidget {
 public:
     enum class Caret { movesBeforeReport, movesAfterReport };
-    explicit TestField(Caret order) : HostTextField({}), _order(order) {}
+    explicit TestField(Caret order) : HostTextField(HostRect{}), _order(order) {}
 
     [[nodiscard]] std::u16string stringValue() const override { return _text; }
     void setStringValue(const std::u16string& text) override { entry->setStringValue(text); }

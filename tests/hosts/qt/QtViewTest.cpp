@@ -51,7 +51,7 @@ TEST(QtViewTest, WidgetsFollowTheirViews)
     EXPECT_TRUE(widgetOf(inner.get())->isHidden());
 }
 
-class NoContent final : public HostViewContent {
+class UnpaintedContent final : public HostViewContent {
 public:
     void drawRect(HostCanvas&) override {}
 };
@@ -60,7 +60,7 @@ TEST(QtViewTest, LabelsAreReadableOnTheGroundThatAPagePaints)
 {
     const QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette(QColor(30, 30, 30)));
-    NoContent content;
+    UnpaintedContent content;
     QtInterfaceFactory factory;
     const auto painted = factory.makeCustomView(describe("painted", {0, 0, 100, 100}), content);
     HostControlDescription description = describe("label", {10, 10, 50, 20});
