@@ -48,17 +48,18 @@ DialogPage::~DialogPage() = default;
 
 bool DialogPage::show(const LoadedPlugin& plugin)
 {
+    QColorDialog& shown = *dialog();
     _holder.setMinimumSize(comfortableSize);
     _holder.setFrame({0, 0, comfortableSize.width, comfortableSize.height});
-    if (!_panel.showPage(plugin, _holder, hostColorFrom(_dialog->currentColor()))) return false;
-    if (!_holder.putInto(*_dialog)) return false;
+    if (!_panel.showPage(plugin, _holder, hostColorFrom(shown.currentColor()))) return false;
+    if (!_holder.putInto(shown)) return false;
     _holder.setSizeDidChange([this] { _panel.page().resize(); });
-    _panel.page().setTakesOpacity(_dialog->testOption(QColorDialog::ShowAlphaChannel));
-    _dialog->installEventFilter(this);
-    connect(_dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& color) {
+    _panel.page().setTakesOpacity(shown.testOption(QColorDialog::ShowAlphaChannel));
+    shown.installEventFilter(this);
+    connect(&shown, &QColorDialog::currentColorChanged, this, [this](const QColor& color) {
         _panel.page().dialogColorDidChange(hostColorFrom(color));
     });
-    connect(_dialog, &QObject::destroyed, this, &DialogPage::dialogIsDestroyed);
+    connect(&shown, &QObject::destroyed, this, &DialogPage::dialogIsDestroyed);
     return true;
 }
 
@@ -75,22 +76,29 @@ void DialogPage::pageHasThrown(QObject& widget)
 
 bool DialogPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == _dialog && event->type() == QEvent::Show) {
-        followButtons();
-        _panel.page().dialogDidAppear();
-    }
-    if (watched == _dialog && event->type() == QEvent::Hide) _panel.page().dialogDidDisappear();
-    // Its options have no signal, but showing or hiding the opacity changes the layout.
-    if (watched == _dialog &&
-        (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)) {
-        _panel.page().setTakesOpacity(_dialog->testOption(QColorDialog::ShowAlphaChannel));
+    const QColorDialog* shown = dialog();
+    if (shown == nullptr || watched != shown) return false;
+    switch (event->type()) {
+        case QEvent::Show:
+            followButtons();
+            _panel.page().dialogDidAppear();
+            // Its options have no signal, but showing or hiding the opacity changes the layout.
+            [[fallthrough]];
+        case QEvent::LayoutRequest:
+            _panel.page().setTakesOpacity(shown->testOption(QColorDialog::ShowAlphaChannel));
+            break;
+        case QEvent::Hide:
+            _panel.page().dialogDidDisappear();
+            break;
+        default:
+            break;
     }
     return false;
 }
 
 void DialogPage::followButtons()
 {
-    for (const auto* box : _dialog->window()->findChildren<QDialogButtonBox*>()) {
+    for (const auto* box : dialog()->window()->findChildren<QDialogButtonBox*>()) {
         for (QAbstractButton* button : box->buttons()) {
             if (box->buttonRole(button) != QDialogButtonBox::AcceptRole) continue;
             // Comes before `clicked`, however the button is operated.
@@ -108,7 +116,7 @@ void DialogPage::finishEntry()
 
 void DialogPage::colorChosen(const HostColor& color, bool)
 {
-    if (_dialog) _dialog->setCurrentColor(colorInBytes(color));
+    if (QColorDialog* shown = dialog()) shown->setCurrentColor(colorInBytes(color));
 }
 
 void DialogPage::pageDidFail()

@@ -38,7 +38,12 @@ private:
     void followButtons();
     void finishEntry();
 
-    QPointer<QColorDialog> _dialog;
+    /// The dialog, or null from the moment its destruction begins.
+    [[nodiscard]] QColorDialog* dialog() const { return qobject_cast<QColorDialog*>(_dialog); }
+
+    /// Not a pointer to a `QColorDialog`: events still come while the dialog is destroyed and is
+    /// just a widget.
+    QPointer<QObject> _dialog;
     PageHolder _holder;
     DialogPanel _panel;
 };
