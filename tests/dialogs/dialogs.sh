@@ -9,6 +9,8 @@ panel=${program:?the program}
 export XDG_DATA_DIRS="$scratch/machine" XDG_CONFIG_DIRS="$scratch/machine"
 unset QT_PLUGIN_PATH QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE
 export QT_QPA_GENERIC_PLUGINS=vantorel
+# Qt 6.8 reports that there is no session bus.
+export QT_LOGGING_RULES='qt.qpa.theme.dbus.warning=false'
 # Programs of Qt 5 leak screens and settings of the desktop when they exit, without the page, too. The tests of
 # the page within their own program look for leaks of ours.
 export ASAN_OPTIONS="${ASAN_OPTIONS:+$ASAN_OPTIONS:}detect_leaks=0"
@@ -56,5 +58,6 @@ ends() {
     local status=0
     wait "$program_id" || status=$?
     [ "$status" = 0 ] || fail "$1: the program ended with status $status"
-    [ ! -s "$scratch/errors.log" ] || fail "$1: something was printed"
+    # Programs of KDE print this line when they exit with Qt 6.8.
+    ! grep -qv '^QThreadStorage: ' "$scratch/errors.log" || fail "$1: something was printed"
 }
