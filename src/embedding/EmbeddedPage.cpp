@@ -1,9 +1,10 @@
 #include "embedding/EmbeddedPage.h"
 
+#include "hosts/common/PageSize.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
-#include <vector>
 
 namespace vantorel {
 namespace {
@@ -26,20 +27,6 @@ bool isSameColor(const HostColor& a, const HostColor& b, double rounding)
            isWithin(rounding, stored(first->green), stored(second->green)) &&
            isWithin(rounding, stored(first->blue), stored(second->blue)) &&
            isWithin(rounding, stored(first->alpha), stored(second->alpha));
-}
-
-void collectViews(const HostView& view, std::vector<const HostView*>& views)
-{
-    views.push_back(&view);
-    for (const HostView* subview : view.subviews())
-        collectViews(*subview, views);
-}
-
-std::vector<const HostView*> viewsBelow(const HostView& view)
-{
-    std::vector<const HostView*> views;
-    collectViews(view, views);
-    return views;
 }
 
 }  // namespace
@@ -75,7 +62,7 @@ bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostV
         if (_view == nullptr) return;
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
-        reportSize();
+        reportPageSize(*_picker, *_view);
         _picker->setColor(_color);
     });
     // The caller learns it from the result.
@@ -83,20 +70,12 @@ bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostV
     return _view != nullptr;
 }
 
-void EmbeddedPage::reportSize()
-{
-    const auto before = viewsBelow(*_view);
-    _picker->viewSizeChanged(_view);
-    // A picker that lays out its page by the place of a face has only now put another face there.
-    if (viewsBelow(*_view) != before) _picker->viewSizeChanged(_view);
-}
-
 void EmbeddedPage::resize()
 {
     if (_view == nullptr) return;
     guarded([this] {
         _view->setFrame({0, 0, _holder->frame().width, _holder->frame().height});
-        reportSize();
+        reportPageSize(*_picker, *_view);
     });
 }
 
@@ -141,7 +120,7 @@ void EmbeddedPage::dialogColorDidChange(const HostColor& color)
     _isPending = false;
     _color = _dialogsColor = color;
     _isFinal = true;
-    // `send` tells the page when the dialog has returned.
+    // `send` passes it to the page when the dialog has returned.
     if (_isSending || _picker == nullptr) return;
     guarded([this] { _picker->setColor(_color); });
 }

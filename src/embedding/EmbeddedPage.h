@@ -43,12 +43,12 @@ struct EmbeddingTraits {
 /// program safe from failures of the page. `EmbeddedPanel` is the panel that the page sees.
 ///
 /// Every function for the dialog's side catches what the page throws. The page is then taken out
-/// of the dialog, which is told later, and is never called again. A toolkit must run its event
+/// of the dialog, which learns of it later, and is never called again. A toolkit must run its event
 /// handlers by `guarded` as well.
 ///
-/// Colours go to the dialog after the event that has caused them, so that the end of a drag can be
-/// told from its steps, and a colour that the page sets only for a moment is never seen by the
-/// dialog.
+/// Colours go to the dialog after the event that has caused them. The end of a drag can then be
+/// distinguished from its steps, and the dialog never gets a colour that the page sets only for a
+/// moment.
 class EmbeddedPage {
 public:
     /// `dialog` and `desktop` must outlive the page; but see `forgetDialog`.
@@ -82,7 +82,7 @@ public:
     /// If false, as at first, the page's colours get the opacity of the dialog's colour.
     void setTakesOpacity(bool flag) { _takesOpacity = flag; }
 
-    /// Passes on a colour that the dialog has not been told yet. Call this before the dialog uses
+    /// Passes on a colour that the dialog does not have yet. Call this before the dialog uses
     /// its colour: when the user presses OK.
     void sendPendingColor();
     /// The dialog is about to be destroyed, and must not be called any more.
@@ -156,7 +156,6 @@ private:
         EmbeddedPage& _page;
     };
 
-    void reportSize();
     void willWait();
     void didGet(const HostEvent& event);
     void willDragOut();
@@ -176,7 +175,7 @@ private:
     HostColor _dialogsColor = HostColor::whiteColor();
     /// Whether `_dialogsColor` was more than a step of a drag.
     bool _isFinal = true;
-    /// Whether the dialog is to be told of `_color`.
+    /// Whether `_color` still has to be passed to the dialog.
     bool _isPending = false;
     bool _isSending = false;
     bool _isTracking = false;

@@ -1,6 +1,13 @@
 #include "embedding/PageLibrary.h"
 
 namespace vantorel {
+namespace {
+
+constexpr const char* pageName = "/QTXHexColorPicker.so";
+
+const LoadedPlugin* opened = nullptr;
+
+}  // namespace
 
 const LoadedPlugin* pageOfLibrary(const std::string& file) noexcept
 {
@@ -11,6 +18,21 @@ const LoadedPlugin* pageOfLibrary(const std::string& file) noexcept
     } catch (...) {
         return nullptr;
     }
+}
+
+bool openPage(const char* pagesFolder) noexcept
+{
+    try {
+        opened = pageOfLibrary(std::string(pagesFolder) + pageName);
+    } catch (...) {
+        opened = nullptr;
+    }
+    return opened != nullptr;
+}
+
+const LoadedPlugin* openedPage() noexcept
+{
+    return opened;
 }
 
 }  // namespace vantorel

@@ -12,4 +12,9 @@ namespace vantorel {
 /// prints nothing: the program around us knows nothing of the page.
 [[nodiscard]] const LoadedPlugin* pageOfLibrary(const std::string& file) noexcept;
 
+/// Opens the colour page in a folder of plug-ins, as `pageOfLibrary` does.
+bool openPage(const char* pagesFolder) noexcept;
+/// Returns the page that `openPage` has opened; null if there is none.
+[[nodiscard]] const LoadedPlugin* openedPage() noexcept;
+
 }  // namespace vantorel

@@ -111,7 +111,7 @@ private:
     HeadlessDesktop& _desktop;
 };
 
-/// A dialog that records what it is told.
+/// A dialog that records the colours that it gets.
 class RecordingDialog final : public EmbeddingDialog {
 public:
     struct Chosen {

@@ -1,23 +1,22 @@
 #include "hosts/gtk/GtkHostColorPanel.h"
 
+#include "hosts/common/ViewTree.h"
 #include "hosts/gtk/GtkHostCustomView.h"
 #include "hosts/gtk/GtkHostDrag.h"
 #include "hosts/gtk/GtkHostTextField.h"
-
-#include <vector>
 
 namespace vantorel {
 
 void GtkHostColorPanel::setAcceptsMouseMovedEvents(bool flag)
 {
     _acceptsMouseMoved = flag;
-    forEachGtkBelow<GtkHostCustomView>(
+    forEachBelow<GtkHostCustomView>(
         pageView(), [flag](GtkHostCustomView& view) { view.setAcceptsMouseMoved(flag); });
 }
 
 void GtkHostColorPanel::pageDidAppear()
 {
-    forEachGtkBelow<GtkHostTextField>(pageView(), [this](GtkHostTextField& field) {
+    forEachBelow<GtkHostTextField>(pageView(), [this](GtkHostTextField& field) {
         field.setPanel({[this] {
                             if (const auto current = color()) setColor(*current);
                         },
@@ -27,18 +26,12 @@ void GtkHostColorPanel::pageDidAppear()
 
 void GtkHostColorPanel::finishEditing()
 {
-    // Collected first, because entering a text may change the views.
-    std::vector<GtkHostTextField*> fields;
-    forEachGtkBelow<GtkHostTextField>(pageView(),
-                                      [&](GtkHostTextField& field) { fields.push_back(&field); });
-    for (GtkHostTextField* field : fields)
-        field->finishEditing();
+    finishEditingBelow<GtkHostTextField>(pageView());
 }
 
 void GtkHostColorPanel::endPress()
 {
-    forEachGtkBelow<GtkHostCustomView>(pageView(),
-                                       [](GtkHostCustomView& view) { view.endPress(); });
+    forEachBelow<GtkHostCustomView>(pageView(), [](GtkHostCustomView& view) { view.endPress(); });
 }
 
 HostPoint GtkHostColorPanel::mouseLocation(const HostView& view) const

@@ -37,16 +37,6 @@ private:
 
 [[nodiscard]] GtkWidget* gtkWidgetOf(const HostView* view);
 
-/// Visits the views of a class among a view and its descendants. `view` may be null.
-template <class View, class Visit>
-void forEachGtkBelow(HostView* view, const Visit& visit)
-{
-    if (view == nullptr) return;
-    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
-    for (HostView* subview : view->subviews())
-        forEachGtkBelow<View>(subview, visit);
-}
-
 /// Convert between a view's own coordinates, with y up, and pixels of its widget (see
 /// hosts/common/PixelFrames.h).
 [[nodiscard]] HostPoint corePoint(double x, double y, HostRect bounds);

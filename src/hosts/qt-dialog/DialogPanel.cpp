@@ -1,10 +1,9 @@
 #include "hosts/qt-dialog/DialogPanel.h"
 
 #include "colortext/ColorInCode.h"
+#include "hosts/common/ViewTree.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtTextField.h"
-
-#include <vector>
 
 namespace vantorel {
 namespace {
@@ -31,11 +30,7 @@ bool DialogPanel::showPage(const LoadedPlugin& plugin, HostView& holder,
 
 void DialogPanel::finishEditing()
 {
-    // Collected first, because entering a field's text may change the views.
-    std::vector<QtTextField*> fields;
-    forEachBelow<QtTextField>(pageView(), [&](QtTextField& field) { fields.push_back(&field); });
-    for (QtTextField* field : fields)
-        field->finishEditing();
+    finishEditingBelow<QtTextField>(pageView());
 }
 
 bool DialogPanel::takeText(const QString& text)

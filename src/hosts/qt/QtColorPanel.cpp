@@ -1,5 +1,6 @@
 #include "hosts/qt/QtColorPanel.h"
 
+#include "hosts/common/ViewTree.h"
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtDrag.h"
 #include "hosts/qt/QtTextField.h"

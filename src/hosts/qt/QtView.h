@@ -24,16 +24,6 @@ public:
 
 [[nodiscard]] QWidget* widgetOf(const HostView* view);
 
-/// Visits the views of a class among a view and its descendants. `view` may be null.
-template <class View, class Visit>
-void forEachBelow(HostView* view, const Visit& visit)
-{
-    if (view == nullptr) return;
-    if (auto* found = dynamic_cast<View*>(view)) visit(*found);
-    for (HostView* subview : view->subviews())
-        forEachBelow<View>(subview, visit);
-}
-
 /// `PixelFrames.h` in Qt's types: the geometry of a view's widget in that of the superview.
 [[nodiscard]] QRect widgetGeometry(HostRect frame, HostRect superviewBounds);
 /// Convert a point of a widget to the view's own coordinates, and back.

@@ -1,12 +1,12 @@
 #include "panel/pages/PluginPage.h"
 
+#include "hosts/common/PageSize.h"
+#include "hosts/common/ViewTree.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtButton.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtTextField.h"
 #include "hosts/qt/TextScale.h"
-
-#include <vector>
 
 namespace vantorel {
 
@@ -51,19 +51,6 @@ QSize PluginPage::minimumSize() const
     return {static_cast<int>(size.width), static_cast<int>(size.height)};
 }
 
-void PluginPage::reportSize()
-{
-    const auto shownViews = [this] {
-        std::vector<const HostView*> views;
-        forEachBelow<HostView>(_view, [&](const HostView& view) { views.push_back(&view); });
-        return views;
-    };
-    const auto before = shownViews();
-    _picker->viewSizeChanged(_view);
-    // A picker that lays out its page by the place of a face has only now put another face there.
-    if (shownViews() != before) _picker->viewSizeChanged(_view);
-}
-
 void PluginPage::show(HostView& holder)
 {
     if (!_viewWasAskedFor) {
@@ -86,7 +73,7 @@ void PluginPage::show(HostView& holder)
     if (_view != nullptr) {
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
-        reportSize();
+        reportPageSize(*_picker, *_view);
         _picker->pageDidAppear();
     } else {
         _message->setParent(widgetOf(&holder));
@@ -108,7 +95,7 @@ void PluginPage::resize(HostSize size)
 {
     if (_view != nullptr) {
         _view->setFrame({0, 0, size.width, size.height});
-        reportSize();
+        reportPageSize(*_picker, *_view);
     }
     if (_message) {
         _message->setGeometry(0, 0, scaled(size.width), scaled(size.height));
@@ -139,11 +126,7 @@ std::vector<ShortcutRow> PluginPage::shortcuts() const
 
 void PluginPage::finishEditing()
 {
-    // Collected first, because entering a field's text may change the views.
-    std::vector<QtTextField*> fields;
-    forEachBelow<QtTextField>(_view, [&](QtTextField& field) { fields.push_back(&field); });
-    for (QtTextField* field : fields)
-        field->finishEditing();
+    finishEditingBelow<QtTextField>(_view);
 }
 
 }  // namespace vantorel

@@ -35,9 +35,6 @@ public:
     [[nodiscard]] HostView* view() const override { return _view; }
 
 private:
-    /// Tells the picker the size of its page.
-    void reportSize();
-
     const LoadedPlugin& _plugin;
     LoadedPlugin::Picker _picker;
     bool _viewWasAskedFor = false;

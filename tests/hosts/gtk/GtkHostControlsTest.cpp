@@ -301,7 +301,7 @@ TEST_F(GtkPopUpTest, LongListsOpenAsListsAndAreOperatedByKeys)
     fill(5000);
     popUp().openMenu();
     GtkWidget* list = openedList();
-    if (list == nullptr) GTEST_SKIP() << "the display does not give the pointer away";
+    ASSERT_NE(list, nullptr);
     sendKey(list, GDK_KEY_End);
     sendKey(list, GDK_KEY_Up);
     sendKey(list, GDK_KEY_Return);

@@ -113,7 +113,7 @@ protected:
     GtkMirrored<HostView> root{{0, 0, 300, 200}, newHostBox(true)};
 };
 
-/// A content that records what it is told.
+/// A content that records the events that it gets.
 class RecordingContent final : public HostViewContent {
 public:
     void drawRect(HostCanvas& canvas) override

@@ -217,7 +217,7 @@ TEST_F(GtkHostTest, AWindowMayBeDestroyedInTheMiddleOfADrag)
     sendMouse(view, GDK_BUTTON_PRESS, {20, 20});
     EXPECT_EQ(last, HostEventType::leftMouseUp);
     EXPECT_EQ(view.widget(), nullptr);
-    // The views are not told; what they are asked has no effect.
+    // The views get no notice. Calling them has no effect.
     view.setNeedsDisplay(true);
     view.setFrame({0, 0, 20, 20});
     view.setToolTip(u"tip");

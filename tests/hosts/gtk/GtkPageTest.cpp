@@ -1,6 +1,7 @@
 #include "GtkHostFixture.h"
 #include "embedding/EmbeddedPanel.h"
 #include "embedding/PageLibrary.h"
+#include "hosts/common/ViewTree.h"
 #include "hosts/gtk/GtkHostColorPanel.h"
 #include "hosts/gtk/GtkHostTextField.h"
 
@@ -141,7 +142,7 @@ TEST_F(GtkPageTest, AColourFromOutsideIsShownAndNotSentBack)
 TEST_F(GtkPageTest, ADragInTheSliderChoosesOneColour)
 {
     HostView* view = nullptr;
-    forEachGtkBelow<GtkHostCustomView>(panel.page().view(), [&](GtkHostCustomView& custom) {
+    forEachBelow<GtkHostCustomView>(panel.page().view(), [&](GtkHostCustomView& custom) {
         if (view == nullptr) view = &custom;
     });
     ASSERT_NE(view, nullptr);

@@ -6,14 +6,6 @@
 namespace vantorel {
 namespace {
 
-constexpr const char* pageName = "/QTXHexColorPicker.so";
-
-const LoadedPlugin*& openedPage()
-{
-    static const LoadedPlugin* page = nullptr;
-    return page;
-}
-
 /// Never destroyed: a dialog may outlive the static objects of a program that ends.
 GtkHostDesktop& desktopOfProgram()
 {
@@ -34,13 +26,7 @@ const std::uint32_t vantorelDialogABI = vantorel::dialogLibraryABI;
 
 bool vantorelOpenPage(const char* pagesFolder)
 {
-    try {
-        vantorel::openedPage() =
-            vantorel::pageOfLibrary(std::string(pagesFolder) + vantorel::pageName);
-        return vantorel::openedPage() != nullptr;
-    } catch (...) {
-        return false;
-    }
+    return vantorel::openPage(pagesFolder);
 }
 
 void vantorelAttachPage(void* dialog)
