@@ -1,24 +1,18 @@
 #include "hosts/gtk-dialog/GtkDialogPage.h"
 
+#include "hosts/gtk-dialog/GtkDialogPlace.h"
+
 #include <algorithm>
-#include <exception>
-#include <vector>
 
 namespace vantorel {
 namespace {
 
 constexpr const char* attachedKey = "vantorel-page";
 
-/// All rows of the settings face fit into this page. In points.
-constexpr HostSize comfortableSize{260, 300};
+/// The chooser's own controls convert a colour to hue and value and back.
+constexpr EmbeddingTraits traitsOfChooser{1e-4};
 
 constexpr unsigned restInMilliseconds = 300;
-
-std::vector<GtkDialogPage*>& shownPages()
-{
-    static std::vector<GtkDialogPage*> pages;
-    return pages;
-}
 
 bool isRefusal(int response)
 {
@@ -54,39 +48,25 @@ void GtkDialogPage::putInto(GtkWidget* dialog, const LoadedPlugin& plugin, GtkHo
 }
 
 GtkDialogPage::GtkDialogPage(GtkDialog* dialog, GtkHostDesktop& desktop)
-    : _dialog(dialog), _holder([this] { _panel.page().resize(); }), _panel(*this, desktop)
+    : GtkEmbeddedPage(traitsOfChooser, desktop), _dialog(dialog)
 {
-    shownPages().push_back(this);
 }
 
-GtkDialogPage::~GtkDialogPage()
-{
-    std::erase(shownPages(), this);
-}
+GtkDialogPage::~GtkDialogPage() = default;
 
 bool GtkDialogPage::show(const LoadedPlugin& plugin)
 {
-    static const bool failuresAreFollowed = [] {
-        // Which page has failed is not known. There is seldom more than one.
-        setGtkFailureReaction([] {
-            for (GtkDialogPage* page : std::vector(shownPages()))
-                page->_panel.page().guarded([] { throw std::exception(); });
-        });
-        return true;
-    }();
-    static_cast<void>(failuresAreFollowed);
-    _holder.setLeastSize(comfortableSize);
-    if (!_panel.showPage(plugin, _holder, dialogColor())) return false;
-    if (!_holder.putInto(_dialog)) return false;
-    _signals.connect<void, GParamSpec*>(_dialog, "notify::rgba",
-                                        [this](GParamSpec*) { dialogColorDidChange(); });
+    if (!showPage(plugin, dialogColor())) return false;
+    if (!putBesideControls(holder().widget(), _dialog)) return false;
+    dialogSignals().connect<void, GParamSpec*>(_dialog, "notify::rgba",
+                                               [this](GParamSpec*) { dialogColorDidChange(); });
     const auto followOpacity = [this] {
-        _panel.page().setTakesOpacity(gtk_color_chooser_get_use_alpha(chooser()) != FALSE);
+        page().setTakesOpacity(gtk_color_chooser_get_use_alpha(chooser()) != FALSE);
     };
-    _signals.connect<void, GParamSpec*>(_dialog, "notify::use-alpha",
-                                        [followOpacity](GParamSpec*) { followOpacity(); });
+    dialogSignals().connect<void, GParamSpec*>(_dialog, "notify::use-alpha",
+                                               [followOpacity](GParamSpec*) { followOpacity(); });
     followOpacity();
-    _signals.connect<void>(_dialog, "destroy", [this] { dialogIsDestroyed(); });
+    endWith(GTK_WIDGET(_dialog));
     followAnswers();
     return true;
 }
@@ -101,8 +81,7 @@ void GtkDialogPage::followAnswers()
             auto* dialog = g_value_get_object(arguments);
             auto* page =
                 static_cast<GtkDialogPage*>(g_object_get_data(G_OBJECT(dialog), attachedKey));
-            const bool isShown = std::ranges::find(shownPages(), page) != shownPages().end();
-            if (isShown) page->dialogIsAnswered(g_value_get_int(arguments + 1));
+            if (isShown(page)) page->dialogIsAnswered(g_value_get_int(arguments + 1));
             return static_cast<gboolean>(TRUE);
         },
         nullptr, nullptr);
@@ -127,7 +106,7 @@ void GtkDialogPage::dialogColorDidChange()
     // What happened last counts.
     _kept.reset();
     _rest.cancel();
-    _panel.page().dialogColorDidChange(dialogColor());
+    page().dialogColorDidChange(dialogColor());
 }
 
 void GtkDialogPage::colorChosen(const HostColor& color, bool isFinal)
@@ -156,43 +135,21 @@ void GtkDialogPage::passOn()
 void GtkDialogPage::dialogIsAnswered(int response)
 {
     // A program may end with its dialog, which it could not while it is in the page's own loop.
-    _panel.page().guarded([this] { _panel.endPress(); });
+    page().guarded([this] { panel().endPress(); });
     if (isRefusal(response)) {
         _kept.reset();
         _rest.cancel();
         return;
     }
-    _panel.page().guarded([this] { _panel.finishEditing(); });
-    _panel.page().sendPendingColor();
+    page().guarded([this] { panel().finishEditing(); });
+    page().sendPendingColor();
     passOn();
 }
 
-void GtkDialogPage::pageDidFail()
+void GtkDialogPage::dialogIsGone()
 {
-    _holder.takeOut();
-    deleteWhenIdle();
-}
-
-void GtkDialogPage::dialogIsDestroyed()
-{
-    _signals.clear();
     _dialog = nullptr;
     _rest.cancel();
-    _panel.page().forgetDialog();
-    // The page may be in the middle of a drag. It keeps its widgets until it has noticed the end.
-    _holder.takeOut();
-    deleteWhenIdle();
-}
-
-void GtkDialogPage::deleteWhenIdle()
-{
-    _deletion.callAfter(0, [this] {
-        if (_panel.page().isBusy()) {
-            deleteWhenIdle();
-        } else {
-            delete this;
-        }
-    });
 }
 
 }  // namespace vantorel

@@ -3,19 +3,6 @@
 #include "hosts/gtk-dialog/GtkDialogPage.h"
 
 /// The functions that the loader calls (see embedding/loader/DialogLibrary.h).
-namespace vantorel {
-namespace {
-
-/// Never destroyed: a dialog may outlive the static objects of a program that ends.
-GtkHostDesktop& desktopOfProgram()
-{
-    static auto* const desktop = new GtkHostDesktop;
-    return *desktop;
-}
-
-}  // namespace
-}  // namespace vantorel
-
 extern "C" {
 
 __attribute__((visibility("default"))) extern const std::uint32_t vantorelDialogABI;

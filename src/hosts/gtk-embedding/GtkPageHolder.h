@@ -14,9 +14,6 @@ public:
 
     /// The dialog gives at least this size. In points.
     void setLeastSize(HostSize size);
-    /// Puts the holder beside what a dialog contains. Returns false if its content is not laid out
-    /// as expected.
-    bool putInto(GtkDialog* dialog);
     /// Asks the dialog for more room, and takes it at once. Returns how much the holder has grown.
     HostSize grow(HostSize growth);
     /// Takes the holder out of the dialog; the page keeps its widgets.

@@ -5,11 +5,11 @@
 
 namespace vantorel {
 
-/// The panel of a page in a colour dialog made with GTK.
-class GtkDialogPanel final : public EmbeddedPanel<GtkHostColorPanel> {
+/// The panel of a page in a dialog made with GTK.
+class GtkPagePanel final : public EmbeddedPanel<GtkHostColorPanel> {
 public:
-    GtkDialogPanel(EmbeddingDialog& dialog, GtkHostDesktop& desktop);
-    ~GtkDialogPanel() override { page().close(); }
+    GtkPagePanel(EmbeddingDialog& dialog, EmbeddingTraits traits, GtkHostDesktop& desktop);
+    ~GtkPagePanel() override { page().close(); }
 
     using GtkHostColorPanel::endPress;
     using GtkHostColorPanel::finishEditing;

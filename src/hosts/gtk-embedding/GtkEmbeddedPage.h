@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hosts/gtk-embedding/GtkPageHolder.h"
+#include "hosts/gtk-embedding/GtkPagePanel.h"
+
+namespace vantorel {
+
+/// The page in a dialog made with GTK: its panel and its holder, and their end. The derived class
+/// knows the dialog, and passes colours on. Create objects of it with `new`; they delete themselves
+/// when the dialog is destroyed, or the page has failed.
+class GtkEmbeddedPage : protected EmbeddingDialog {
+public:
+    GtkEmbeddedPage(const GtkEmbeddedPage&) = delete;
+    GtkEmbeddedPage& operator=(const GtkEmbeddedPage&) = delete;
+
+protected:
+    GtkEmbeddedPage(EmbeddingTraits traits, GtkHostDesktop& desktop);
+    ~GtkEmbeddedPage() override;
+
+    /// Shows the page in the holder, which the derived class puts into the dialog. Returns false if
+    /// the page cannot be created; delete this object then.
+    bool showPage(const LoadedPlugin& plugin, const HostColor& dialogColor);
+    /// Ends the page when this widget of the dialog is destroyed.
+    void endWith(GtkWidget* widget);
+    /// Whether a page exists and its dialog is not destroyed. Other objects may be given, too.
+    [[nodiscard]] static bool isShown(const GtkEmbeddedPage* page);
+
+    /// The dialog is being destroyed; nothing of it may be used any more.
+    virtual void dialogIsGone() = 0;
+    HostSize growHolder(HostSize growth) override { return _holder.grow(growth); }
+    void pageDidFail() override;
+
+    [[nodiscard]] EmbeddedPage& page() { return _panel.page(); }
+    [[nodiscard]] GtkPagePanel& panel() { return _panel; }
+    [[nodiscard]] GtkPageHolder& holder() { return _holder; }
+    /// Ended when the dialog is destroyed.
+    [[nodiscard]] GtkConnections& dialogSignals() { return _signals; }
+
+private:
+    void dialogIsDestroyed();
+    void deleteWhenIdle();
+
+    GtkPageHolder _holder;
+    GtkPagePanel _panel;
+    GtkConnections _signals;
+    GtkDeferral _deletion;
+};
+
+/// The desktop of all pages in this program. GTK must have been initialised.
+[[nodiscard]] GtkHostDesktop& desktopOfProgram();
+
+}  // namespace vantorel
