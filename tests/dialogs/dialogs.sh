@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Shared code of tests with colour dialogs of other programs. Source it with `program` and `plugins` set: the
-# program, and the folder of plug-ins for its Qt.
+# program, and the folder of plug-ins for Qt.
 panel=${program:?the program}
 : "${plugins:?the folder of plug-ins}"
 # shellcheck source=../panel/scratch.sh

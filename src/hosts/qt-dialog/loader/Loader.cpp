@@ -5,6 +5,10 @@
 #include <QGenericPlugin>
 #include <QPointer>
 
+#if QT_VERSION_MAJOR == 5
+#include "hosts/qt-dialog/loader/HiddenFromQt6.h"
+#endif
+
 /// The plug-in that Qt loads at the start of every program. It links neither Qt Widgets nor the
 /// rest of our code: most programs never open a colour dialog.
 namespace vantorel {
@@ -87,7 +91,14 @@ class LoaderPlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "vantorel.json")
 
 public:
-    QObject* create(const QString&, const QString&) override { return new DialogWatcher; }
+    QObject* create(const QString&, const QString&) override
+    {
+        // The environment may name the plug-in twice. The page must not be in a dialog twice.
+        static bool isCreated = false;
+        if (isCreated) return new QObject;
+        isCreated = true;
+        return new DialogWatcher;
+    }
 };
 
 }  // namespace vantorel
