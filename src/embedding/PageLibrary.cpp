@@ -1,9 +1,13 @@
 #include "embedding/PageLibrary.h"
 
+#include "embedding/PageTranslations.h"
+
 namespace vantorel {
 namespace {
 
 constexpr const char* pageName = "/QTXHexColorPicker.so";
+/// From PREFIX/lib/vantorel/pickers.
+constexpr const char* translationsBesidePages = "/../../../share/vantorel/translations";
 
 const LoadedPlugin* opened = nullptr;
 
@@ -23,7 +27,8 @@ const LoadedPlugin* pageOfLibrary(const std::string& file) noexcept
 bool openPage(const char* pagesFolder) noexcept
 {
     try {
-        opened = pageOfLibrary(std::string(pagesFolder) + pageName);
+        setPageTranslations(pagesFolder + std::string(translationsBesidePages));
+        opened = pageOfLibrary(pagesFolder + std::string(pageName));
     } catch (...) {
         opened = nullptr;
     }

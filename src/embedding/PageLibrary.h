@@ -12,7 +12,8 @@ namespace vantorel {
 /// prints nothing: the program around us knows nothing of the page.
 [[nodiscard]] const LoadedPlugin* pageOfLibrary(const std::string& file) noexcept;
 
-/// Opens the colour page in a folder of plug-ins, as `pageOfLibrary` does.
+/// Opens the colour page in a folder of plug-ins, as `pageOfLibrary` does, and sets the folder of
+/// its translations: share/vantorel/translations of the prefix in which lib/vantorel/pickers is.
 bool openPage(const char* pagesFolder) noexcept;
 /// Returns the page that `openPage` has opened; null if there is none.
 [[nodiscard]] const LoadedPlugin* openedPage() noexcept;

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <utility>
 
 namespace vantorel {
@@ -98,7 +98,9 @@ std::string TranslationFiles::fileContents() const
     if (_folder.empty()) return {};
     for (const std::string& language : _languages) {
         std::ifstream file(_folder + "/vantorel_" + language + ".ts", std::ios::binary);
-        if (file) return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream contents;
+        // Unlike iterators, this does not throw if there is a folder of that name.
+        if (file >> contents.rdbuf()) return contents.str();
     }
     return {};
 }

@@ -12,6 +12,8 @@
 /// hears of it:
 ///
 ///     place NAME X Y WIDTH HEIGHT     each visible widget with a name, and OK
+///     tip NAME TEXT                   the tool tip of each of them that has one
+///     own TEXT                        what the program itself makes of the word "Settings"
 ///     shown WIDTH HEIGHT
 ///     current #AARRGGBB      each change
 ///     selected #AARRGGBB     OK
@@ -20,8 +22,8 @@
 ///
 /// Options: alpha, not-native, modal (blocks in QColorDialog::getColor), dark, gone (the dialog is
 /// destroyed after the third change), late (shown some time after it was made), brief
-/// (ends when the dialog is shown), none (no dialog: ends when the event loop has
-/// started), idle (no dialog).
+/// (ends when the dialog is shown), texts (prints `tip` and `own`), none (no dialog: ends when the
+/// event loop has started), idle (no dialog).
 namespace {
 
 void print(const char* what, const QColor& color)
@@ -44,6 +46,17 @@ void printPlaces(const QWidget& window)
     }
     std::printf("shown %d %d\n", window.width(), window.height());
     std::fflush(stdout);
+}
+
+void printTexts(const QWidget& window)
+{
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->objectName().isEmpty() || widget->toolTip().isEmpty()) continue;
+        std::printf("tip %s %s\n", widget->objectName().toUtf8().constData(),
+                    widget->toolTip().toUtf8().constData());
+    }
+    std::printf("own %s\n",
+                QCoreApplication::translate("Vantorel", "Settings").toUtf8().constData());
 }
 
 void useDarkPalette()
@@ -103,9 +116,11 @@ int main(int argc, char** argv)
     QObject::connect(dialog, &QDialog::rejected, dialog, [] { std::puts("rejected"); });
     QObject::connect(dialog, &QDialog::finished, &program, &QCoreApplication::quit);
     const bool isBrief = has("brief");
+    const bool hasTexts = has("texts");
     const auto show = [=] {
         dialog->show();
         QTimer::singleShot(0, dialog, [=] {
+            if (hasTexts) printTexts(*dialog);
             printPlaces(*dialog);
             if (isBrief) QCoreApplication::quit();
         });

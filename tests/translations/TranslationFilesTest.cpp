@@ -84,5 +84,13 @@ TEST(TranslationFilesTest, TheFirstLanguageThatIsThereCounts)
     EXPECT_EQ(TranslationFiles({}, {"de"}).translated("DisplayNames", "Add"), "Add");
 }
 
+TEST(TranslationFilesTest, AFolderInPlaceOfAFileIsHarmless)
+{
+    const ScratchFolder folder;
+    std::filesystem::create_directory(folder.pathOf("vantorel_de.ts"));
+    EXPECT_EQ(TranslationFiles(folder.path().string(), {"de"}).translated("DisplayNames", "Add"),
+              "Add");
+}
+
 }  // namespace
 }  // namespace vantorel

@@ -1,5 +1,8 @@
 #include "hosts/gtk-embedding/GtkEmbeddedPage.h"
 
+#include "embedding/PageTranslations.h"
+#include "hosts/gtk/GtkTranslations.h"
+
 #include <algorithm>
 #include <exception>
 #include <vector>
@@ -84,7 +87,10 @@ void GtkEmbeddedPage::deleteWhenIdle()
 GtkHostDesktop& desktopOfProgram()
 {
     // Never destroyed: a dialog may outlive the static objects of a program that ends.
-    static auto* const desktop = new GtkHostDesktop;
+    static auto* const desktop = [] {
+        setGtkTranslator(pageTranslation);
+        return new GtkHostDesktop;
+    }();
     return *desktop;
 }
 

@@ -5,10 +5,11 @@
 namespace vantorel {
 namespace {
 
-GtkTranslator& translator()
+/// Never destroyed: a dialog may outlive the static objects of a program that ends.
+Translator& translator()
 {
-    static GtkTranslator current;
-    return current;
+    static auto* const current = new Translator;
+    return *current;
 }
 
 std::u16string shown(const std::u16string& text, bool isOwnWord)
@@ -19,7 +20,7 @@ std::u16string shown(const std::u16string& text, bool isOwnWord)
 
 }  // namespace
 
-void setGtkTranslator(GtkTranslator newTranslator)
+void setGtkTranslator(Translator newTranslator)
 {
     translator() = std::move(newTranslator);
 }

@@ -2,20 +2,13 @@
 
 #include "host/HostMenu.h"
 #include "host/HostText.h"
-
-#include <functional>
-#include <string>
-#include <string_view>
+#include "hosts/common/Translator.h"
 
 /// Texts of the core in the user's language.
 namespace vantorel {
 
-/// Returns the translation of a text in a context of the translation files, or the text itself.
-using GtkTranslator =
-    std::function<std::u16string(std::string_view context, std::u16string_view text)>;
-
 /// Sets the source of all translations; without one every text stays English.
-void setGtkTranslator(GtkTranslator translator);
+void setGtkTranslator(Translator translator);
 
 /// A text of a page or of its interface file.
 [[nodiscard]] std::u16string translatedText(std::u16string_view text);

@@ -2,8 +2,7 @@
 
 #include "hosts/common/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
-
-#include <QCoreApplication>
+#include "hosts/qt/QtTranslations.h"
 
 namespace vantorel {
 namespace {
@@ -11,7 +10,7 @@ namespace {
 QString shown(std::u16string_view text, bool isOwnWord)
 {
     const char* key = isOwnWord ? displayNameKey(text) : nullptr;
-    return key != nullptr ? QCoreApplication::translate("DisplayNames", key) : qStringFrom(text);
+    return key != nullptr ? translation("DisplayNames", key) : qStringFrom(text);
 }
 
 }  // namespace

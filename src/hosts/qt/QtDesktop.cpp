@@ -4,7 +4,7 @@
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/EventGuard.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtView.h"
+#include "hosts/qt/QtTranslations.h"
 #include "hosts/qt/TextScale.h"
 #include "result/Message.h"
 #include "text/Unicode.h"

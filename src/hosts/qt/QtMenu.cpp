@@ -7,9 +7,9 @@
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtTranslations.h"
 #include "hosts/qt/TextScale.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -97,7 +97,7 @@ void addSubmenu(QMenu& target, const HostMenuItem& item)
         });
         // An empty menu would not open, without any explanation.
         if (submenu->isEmpty()) {
-            submenu->addAction(QCoreApplication::translate("Vantorel", "None"))->setEnabled(false);
+            submenu->addAction(translatedText(u"None"))->setEnabled(false);
         }
     });
 }

@@ -1,6 +1,6 @@
 #include "hosts/qt/QtMessages.h"
 
-#include <QCoreApplication>
+#include "hosts/qt/QtTranslations.h"
 
 namespace vantorel {
 namespace {
@@ -9,7 +9,7 @@ QString translated(const Phrase& phrase)
 {
     return QString::fromStdString(phrase.inWords([](const char* text) {
         // The context in which tools/update-translations lists them.
-        return QCoreApplication::translate("Messages", text).toStdString();
+        return translation("Messages", text).toStdString();
     }));
 }
 

@@ -3,8 +3,6 @@
 #include "hosts/common/PixelFrames.h"
 #include "hosts/qt/TextScale.h"
 
-#include <QCoreApplication>
-
 namespace vantorel {
 
 QWidget* widgetOf(const HostView* view)
@@ -34,12 +32,6 @@ QRect widgetGeometry(HostRect frame, HostRect superviewBounds)
 {
     const PixelRect place = pixelFrame(frame, superviewBounds, textScale());
     return {place.x, place.y, place.width, place.height};
-}
-
-QString translatedText(const std::u16string& text)
-{
-    const QString plain = QString::fromStdU16String(text);
-    return QCoreApplication::translate("Vantorel", plain.toUtf8().constData());
 }
 
 void placeWidgets(const HostView& view)

@@ -3,6 +3,7 @@
 #include "host/HostView.h"
 #include "hosts/qt/EventGuard.h"
 #include "hosts/qt/PlainText.h"
+#include "hosts/qt/QtTranslations.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -35,9 +36,6 @@ public:
 void placeWidgets(const HostView& view);
 /// Puts a view's widget into that of its superview, or hides it if there is none.
 void adoptWidget(HostView& view);
-
-/// A text of the core in the user's language, or unchanged if there is no translation.
-[[nodiscard]] QString translatedText(const std::u16string& text);
 
 /// Mirrors a view in a widget. Owns the widget unless the widget's parent is destroyed first.
 template <class Base>

@@ -5,7 +5,8 @@
 
 /// A GTK module for tests: writes where the widgets of a program's colour dialog are to the file
 /// that VANTOREL_PLACES names, ten times a second. A line is `place NAME X Y WIDTH HEIGHT`,
-/// relative to the window; `swatches COUNT` is the number of the chooser's swatches.
+/// relative to the window; `tip NAME TEXT` is its tool tip; `swatches COUNT` is the number of the
+/// chooser's swatches.
 namespace {
 
 struct Report {
@@ -23,6 +24,9 @@ void addPlace(Report& report, GtkWidget* widget, const char* name)
                    std::to_string(y) + ' ' +
                    std::to_string(gtk_widget_get_allocated_width(widget)) + ' ' +
                    std::to_string(gtk_widget_get_allocated_height(widget)) + '\n';
+    gchar* tip = gtk_widget_get_tooltip_text(widget);
+    if (tip != nullptr) report.text += "tip " + std::string(name) + ' ' + tip + '\n';
+    g_free(tip);
 }
 
 void addWidget(GtkWidget* widget, gpointer data)

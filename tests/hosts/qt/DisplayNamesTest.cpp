@@ -34,6 +34,19 @@ HostMenuItem item(const char16_t* title, bool isOwnWord)
     return item;
 }
 
+TEST(TranslationsTest, ATranslatorOfOursCountsInPlaceOfTheProgramsTranslators)
+{
+    const GermanNames german;
+    setQtTranslator([](std::string_view context, std::u16string_view text) {
+        return (context == "Vantorel" ? u"page " : u"other ") + std::u16string(text);
+    });
+    EXPECT_EQ(shownTitle(item(u"Color", true)), "other Color");
+    EXPECT_EQ(translatedText(u"Red \u00e9"), QStringLiteral("page Red \u00e9"));
+    setQtTranslator({});
+    EXPECT_EQ(shownTitle(item(u"Color", true)), "de Color");
+    EXPECT_EQ(translatedText(u"Red"), "Red");
+}
+
 TEST(DisplayNamesTest, OnlyWordsOfThePageAreTranslated)
 {
     EXPECT_EQ(shownTitle(item(u"No Match", true)), "No Match");

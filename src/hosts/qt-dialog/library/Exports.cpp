@@ -1,4 +1,5 @@
 #include "embedding/PageLibrary.h"
+#include "embedding/PageTranslations.h"
 #include "embedding/loader/DialogLibrary.h"
 #include "hosts/qt-dialog/DialogPage.h"
 #include "hosts/qt/EventGuard.h"
@@ -10,7 +11,10 @@ namespace {
 /// Never destroyed: a dialog may outlive the static objects of a program that ends.
 QtDesktop& desktopOfProgram()
 {
-    static auto* const desktop = new QtDesktop(QtLog::nowhere);
+    static auto* const desktop = [] {
+        setQtTranslator(pageTranslation);
+        return new QtDesktop(QtLog::nowhere);
+    }();
     return *desktop;
 }
 
