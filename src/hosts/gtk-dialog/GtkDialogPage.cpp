@@ -14,21 +14,6 @@ constexpr EmbeddingTraits traitsOfChooser{1e-4};
 
 constexpr unsigned restInMilliseconds = 300;
 
-bool isRefusal(int response)
-{
-    switch (response) {
-        case GTK_RESPONSE_CANCEL:
-        case GTK_RESPONSE_CLOSE:
-        case GTK_RESPONSE_DELETE_EVENT:
-        case GTK_RESPONSE_HELP:
-        case GTK_RESPONSE_NO:
-        case GTK_RESPONSE_REJECT:
-            return true;
-        default:
-            return false;
-    }
-}
-
 GdkRGBA rgbaOf(const HostColor& color)
 {
     const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
@@ -67,25 +52,7 @@ bool GtkDialogPage::show(const LoadedPlugin& plugin)
                                                [followOpacity](GParamSpec*) { followOpacity(); });
     followOpacity();
     endWith(GTK_WIDGET(_dialog));
-    followAnswers();
     return true;
-}
-
-/// A program reads the colour in its own reaction to the answer, which was connected before ours.
-/// Only an emission hook comes earlier.
-void GtkDialogPage::followAnswers()
-{
-    static const gulong hook = g_signal_add_emission_hook(
-        g_signal_lookup("response", GTK_TYPE_DIALOG), 0,
-        [](GSignalInvocationHint*, guint, const GValue* arguments, gpointer) {
-            auto* dialog = g_value_get_object(arguments);
-            auto* page =
-                static_cast<GtkDialogPage*>(g_object_get_data(G_OBJECT(dialog), attachedKey));
-            if (isShown(page)) page->dialogIsAnswered(g_value_get_int(arguments + 1));
-            return static_cast<gboolean>(TRUE);
-        },
-        nullptr, nullptr);
-    static_cast<void>(hook);
 }
 
 GtkColorChooser* GtkDialogPage::chooser() const
@@ -132,18 +99,15 @@ void GtkDialogPage::passOn()
     gtk_color_chooser_set_rgba(chooser(), &color);
 }
 
-void GtkDialogPage::dialogIsAnswered(int response)
+void GtkDialogPage::dialogIsAnswered(bool isAccepted)
 {
-    // A program may end with its dialog, which it could not while it is in the page's own loop.
-    page().guarded([this] { panel().endPress(); });
-    if (isRefusal(response)) {
+    if (isAccepted) {
+        page().sendPendingColor();
+        passOn();
+    } else {
         _kept.reset();
         _rest.cancel();
-        return;
     }
-    page().guarded([this] { panel().finishEditing(); });
-    page().sendPendingColor();
-    passOn();
 }
 
 void GtkDialogPage::dialogIsGone()

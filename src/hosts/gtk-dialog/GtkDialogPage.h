@@ -21,12 +21,11 @@ private:
 
     bool show(const LoadedPlugin& plugin);
     void colorChosen(const HostColor& color, bool isFinal) override;
+    void dialogIsAnswered(bool isAccepted) override;
     void dialogIsGone() override;
     void dialogColorDidChange();
-    void dialogIsAnswered(int response);
     /// Gives the dialog the colour that it does not have yet.
     void passOn();
-    static void followAnswers();
     [[nodiscard]] HostColor dialogColor() const;
     [[nodiscard]] GtkColorChooser* chooser() const;
 

@@ -3,7 +3,6 @@
 #include "embedding/PageTranslations.h"
 #include "hosts/gtk/GtkTranslations.h"
 
-#include <algorithm>
 #include <exception>
 #include <vector>
 
@@ -17,6 +16,21 @@ std::vector<GtkEmbeddedPage*>& shownPages()
 {
     static std::vector<GtkEmbeddedPage*> pages;
     return pages;
+}
+
+bool isRefusal(int response)
+{
+    switch (response) {
+        case GTK_RESPONSE_CANCEL:
+        case GTK_RESPONSE_CLOSE:
+        case GTK_RESPONSE_DELETE_EVENT:
+        case GTK_RESPONSE_HELP:
+        case GTK_RESPONSE_NO:
+        case GTK_RESPONSE_REJECT:
+            return true;
+        default:
+            return false;
+    }
 }
 
 }  // namespace
@@ -34,27 +48,51 @@ GtkEmbeddedPage::~GtkEmbeddedPage()
 
 bool GtkEmbeddedPage::showPage(const LoadedPlugin& plugin, const HostColor& dialogColor)
 {
-    static const bool failuresAreFollowed = [] {
+    static const bool programIsFollowed = [] {
         // Which page has failed is not known. There is seldom more than one.
         setGtkFailureReaction([] {
             for (GtkEmbeddedPage* failed : std::vector(shownPages()))
                 failed->page().guarded([] { throw std::exception(); });
         });
+        followAnswers();
         return true;
     }();
-    static_cast<void>(failuresAreFollowed);
+    static_cast<void>(programIsFollowed);
     _holder.setLeastSize(comfortableSize);
     return _panel.showPage(plugin, _holder, dialogColor);
+}
+
+/// A program reads the colour in its own reaction to the answer, which was connected before ours.
+/// Only an emission hook comes earlier.
+void GtkEmbeddedPage::followAnswers()
+{
+    // Signals are known once the class is.
+    g_type_class_ref(GTK_TYPE_DIALOG);
+    g_signal_add_emission_hook(
+        g_signal_lookup("response", GTK_TYPE_DIALOG), 0,
+        [](GSignalInvocationHint*, guint, const GValue* arguments, gpointer) {
+            callFromC(answer, g_value_get_object(arguments), g_value_get_int(arguments + 1));
+            return static_cast<gboolean>(TRUE);
+        },
+        nullptr, nullptr);
+}
+
+void GtkEmbeddedPage::answer(gpointer dialog, int response)
+{
+    const bool isAccepted = !isRefusal(response);
+    for (GtkEmbeddedPage* asked : std::vector(shownPages())) {
+        GtkWidget* held = asked->_holder.widget();
+        if (held == nullptr || gtk_widget_get_toplevel(held) != dialog) continue;
+        // A program may end with its dialog, which it could not while it is in the page's own loop.
+        asked->page().guarded([asked] { asked->_panel.endPress(); });
+        if (isAccepted) asked->page().guarded([asked] { asked->_panel.finishEditing(); });
+        asked->dialogIsAnswered(isAccepted);
+    }
 }
 
 void GtkEmbeddedPage::endWith(GtkWidget* widget)
 {
     _signals.connect<void>(widget, "destroy", [this] { dialogIsDestroyed(); });
-}
-
-bool GtkEmbeddedPage::isShown(const GtkEmbeddedPage* page)
-{
-    return std::ranges::find(shownPages(), page) != shownPages().end();
 }
 
 void GtkEmbeddedPage::pageDidFail()

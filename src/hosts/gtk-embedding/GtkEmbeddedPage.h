@@ -22,9 +22,10 @@ protected:
     bool showPage(const LoadedPlugin& plugin, const HostColor& dialogColor);
     /// Ends the page when this widget of the dialog is destroyed.
     void endWith(GtkWidget* widget);
-    /// Whether a page exists and its dialog is not destroyed. Other objects may be given, too.
-    [[nodiscard]] static bool isShown(const GtkEmbeddedPage* page);
 
+    /// The user presses a button of the dialog. Called before any reaction of the program, which
+    /// may read the colour or end.
+    virtual void dialogIsAnswered(bool isAccepted) = 0;
     /// The dialog is being destroyed; nothing of it may be used any more.
     virtual void dialogIsGone() = 0;
     HostSize growHolder(HostSize growth) override { return _holder.grow(growth); }
@@ -39,6 +40,8 @@ protected:
 private:
     void dialogIsDestroyed();
     void deleteWhenIdle();
+    static void followAnswers();
+    static void answer(gpointer dialog, int response);
 
     GtkPageHolder _holder;
     GtkPagePanel _panel;

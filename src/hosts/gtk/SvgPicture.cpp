@@ -9,8 +9,6 @@
 namespace vantorel {
 namespace {
 
-using Pixbuf = GtkReference<GdkPixbuf>;
-
 std::string withColor(std::string svg, const HostColor& color)
 {
     constexpr std::string_view placeholder = "currentColor";
@@ -27,14 +25,6 @@ std::string withColor(std::string svg, const HostColor& color)
     return svg;
 }
 
-Pixbuf renderedSvg(const std::string& svg, int pixels)
-{
-    const auto stream = GtkReference<GInputStream>::adopt(
-        g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr));
-    return Pixbuf::adopt(
-        gdk_pixbuf_new_from_stream_at_scale(stream.get(), pixels, pixels, TRUE, nullptr, nullptr));
-}
-
 CairoSurface surfaceOfPixbuf(GdkPixbuf* pixbuf)
 {
     CairoSurface surface(cairo_image_surface_create(
@@ -47,11 +37,20 @@ CairoSurface surfaceOfPixbuf(GdkPixbuf* pixbuf)
 
 }  // namespace
 
+GtkReference<GdkPixbuf> pictureOfSvg(const std::string& svg, int pixels, const HostColor& color)
+{
+    const std::string colored = withColor(svg, color);
+    const auto stream = GtkReference<GInputStream>::adopt(g_memory_input_stream_new_from_data(
+        colored.data(), static_cast<gssize>(colored.size()), nullptr));
+    return GtkReference<GdkPixbuf>::adopt(
+        gdk_pixbuf_new_from_stream_at_scale(stream.get(), pixels, pixels, TRUE, nullptr, nullptr));
+}
+
 bool SvgPicture::paint(cairo_t* cairo, double size, double devicePixels, const HostColor& color)
 {
     const int pixels = std::max(1, static_cast<int>(std::lround(size * devicePixels)));
     if (pixels != _renderedPixels || color != _renderedColor) {
-        const Pixbuf pixbuf = renderedSvg(withColor(_svg, color), pixels);
+        const auto pixbuf = pictureOfSvg(_svg, pixels, color);
         _rendered = pixbuf ? surfaceOfPixbuf(pixbuf.get()) : nullptr;
         _renderedPixels = pixels;
         _renderedColor = color;

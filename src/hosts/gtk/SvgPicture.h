@@ -7,6 +7,11 @@
 
 namespace vantorel {
 
+/// Renders an SVG picture as a square; `currentColor` becomes the given colour. Returns a null
+/// reference if the desktop cannot read SVG.
+[[nodiscard]] GtkReference<GdkPixbuf> pictureOfSvg(const std::string& svg, int pixels,
+                                                   const HostColor& color);
+
 /// An SVG picture, in which `currentColor` is the text colour. It is rendered for each size and
 /// colour by the desktop's own loader of pictures.
 class SvgPicture {

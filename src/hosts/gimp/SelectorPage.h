@@ -1,0 +1,35 @@
+#pragma once
+
+#include "hosts/gimp/SelectorColor.h"
+#include "hosts/gtk-embedding/GtkEmbeddedPage.h"
+
+namespace vantorel {
+
+/// The page in one of GIMP's colour selectors. GIMP has a selector for each of its colour dialogs,
+/// shows one selector of a dialog at a time, and keeps dialogs that the user has closed.
+class SelectorPage final : private GtkEmbeddedPage {
+public:
+    /// Fills a new selector with a page. The selector stays empty if the page cannot be created.
+    static void putInto(GimpColorSelector* selector, const LoadedPlugin& plugin,
+                        GtkHostDesktop& desktop);
+
+private:
+    SelectorPage(GimpColorSelector* selector, GtkHostDesktop& desktop);
+    ~SelectorPage() override;
+
+    bool show(const LoadedPlugin& plugin);
+    void colorChosen(const HostColor& color, bool isFinal) override;
+    void dialogIsAnswered(bool isAccepted) override;
+    void dialogIsGone() override;
+    void pageDidFail() override;
+    void followWindow();
+    void visibilityDidChange();
+    void followOpacity();
+    void addIcon();
+
+    /// Null once it is destroyed.
+    GimpColorSelector* _selector;
+    GtkConnections _windowSignals;
+};
+
+}  // namespace vantorel
