@@ -11,6 +11,8 @@ namespace {
 GType loadedSelectorType()
 {
     static const GType type = [] {
+        // As GIMP does.
+        babl_init();
         GimpModuleDB* modules = gimp_module_db_new(FALSE);
         gimp_module_db_load(modules, g_getenv("VANTOREL_GIMP_MODULES"));
         return g_type_from_name("VantorelColorSelector");
