@@ -58,8 +58,10 @@ bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostV
         auto picker = plugin.makePicker(panel);
         if (!picker) return;
         _picker = *std::move(picker);
-        _view = _picker->provideNewView(true);
-        if (_view == nullptr) return;
+        HostView* view = _picker->provideNewView(true);
+        if (view == nullptr) return;
+        if (!_dialog->makeRoom(_picker->preferredContentSize(), _picker->minContentSize())) return;
+        _view = view;
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
         reportPageSize(*_picker, *_view);
@@ -77,20 +79,6 @@ void EmbeddedPage::resize()
         _view->setFrame({0, 0, _holder->frame().width, _holder->frame().height});
         reportPageSize(*_picker, *_view);
     });
-}
-
-HostSize EmbeddedPage::minimumSize()
-{
-    HostSize size;
-    if (_picker != nullptr) guarded([&] { size = _picker->minContentSize(); });
-    return size;
-}
-
-HostSize EmbeddedPage::preferredSize()
-{
-    HostSize size;
-    if (_picker != nullptr) guarded([&] { size = _picker->preferredContentSize(); });
-    return size;
 }
 
 void EmbeddedPage::dialogDidAppear()

@@ -20,6 +20,15 @@ public:
     /// The dialog may pass on another colour than this one by `EmbeddedPage::dialogColorDidChange`
     /// before it returns, and may be destroyed meanwhile.
     virtual void colorChosen(const HostColor& color, bool isFinal) = 0;
+    /// The page is about to be shown. The dialog gives the holder the preferred size, or less if
+    /// the screen has no more room, but at least the other, below which the page loses controls.
+    /// Returns false if the dialog has no place for a page.
+    virtual bool makeRoom(HostSize preferred, HostSize least)
+    {
+        static_cast<void>(preferred);
+        static_cast<void>(least);
+        return true;
+    }
     /// The page needs more room. A dialog that can grow gives the holder a larger frame, calls
     /// `EmbeddedPage::resize`, and returns how much the holder has grown.
     virtual HostSize growHolder(HostSize growth)
@@ -59,17 +68,13 @@ public:
 
     // The dialog's side.
 
-    /// Creates the page of a plug-in for its panel, and fills `holder` with it. Call it once. The
-    /// plug-in and the holder must outlive the page. Returns false, with an empty holder, if there
-    /// is no page to show; `pageDidFail` is not called then.
+    /// Creates the page of a plug-in for its panel, and fills `holder` with it after the dialog has
+    /// made room. Call it once. The plug-in and the holder must outlive the page. Returns false,
+    /// with an empty holder, if there is no page to show; `pageDidFail` is not called then.
     bool show(const LoadedPlugin& plugin, HostColorPanel& panel, HostView& holder,
               const HostColor& color);
     /// The holder has a new size.
     void resize();
-    /// The size in points below which the page loses controls.
-    [[nodiscard]] HostSize minimumSize();
-    /// The size in points at which the page shows everything.
-    [[nodiscard]] HostSize preferredSize();
     /// Call these when the dialog is shown again, and when it is hidden. Until the first call the
     /// page counts as shown.
     void dialogDidAppear();

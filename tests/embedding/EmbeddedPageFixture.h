@@ -8,6 +8,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantorel {
@@ -53,6 +54,7 @@ public:
         interrupt("minContentSize");
         return {190, 117};
     }
+    [[nodiscard]] HostSize preferredContentSize() const override { return {250, 400}; }
     void setColor(const std::optional<HostColor>& color) override
     {
         interrupt("setColor");
@@ -126,11 +128,19 @@ public:
         chosen.push_back({color, isFinal});
         if (reaction) reaction(color);
     }
+    bool makeRoom(HostSize preferred, HostSize least) override
+    {
+        wantedRoom = {preferred, least};
+        return hasRoom;
+    }
     HostSize growHolder(HostSize wanted) override { return growth ? growth(wanted) : HostSize{}; }
     void pageDidFail() override { ++failures; }
 
     std::vector<Chosen> chosen;
     int failures = 0;
+    bool hasRoom = true;
+    /// The sizes that the page prefers and needs.
+    std::pair<HostSize, HostSize> wantedRoom;
     std::function<void(const HostColor&)> reaction;
     std::function<HostSize(HostSize)> growth;
 };

@@ -72,9 +72,23 @@ TEST_F(EmbeddedPageTest, ThePageFillsItsHolderAndHasTheDialogsColor)
     _panel->page().resize();
     EXPECT_EQ(picker().view().frame(), (HostRect{0, 0, 300, 400}));
     EXPECT_EQ(picker().sizes.back(), (HostSize{300, 400}));
-    EXPECT_EQ(_panel->page().minimumSize(), (HostSize{190, 117}));
     letTimePass();
     EXPECT_THAT(_dialog.chosen, IsEmpty());
+}
+
+TEST_F(EmbeddedPageTest, TheDialogMakesRoomForThePage)
+{
+    ASSERT_TRUE(show());
+    EXPECT_EQ(_dialog.wantedRoom, (std::pair{HostSize{250, 400}, HostSize{190, 117}}));
+}
+
+TEST_F(EmbeddedPageTest, ADialogThatHasNoRoomShowsNoPage)
+{
+    _dialog.hasRoom = false;
+    EXPECT_FALSE(show());
+    EXPECT_THAT(_holder.subviews(), IsEmpty());
+    letTimePass();
+    EXPECT_EQ(_dialog.failures, 0);
 }
 
 TEST_F(EmbeddedPageTest, ThePanelGrowsIfTheDialogCan)
@@ -302,7 +316,6 @@ TEST_F(EmbeddedPageTest, APageThatThrowsIsTakenOutAndNotCalledAgain)
     const auto before = picker().colors.size();
     _panel->page().dialogColorDidChange(gray(0.2));
     _panel->page().resize();
-    EXPECT_EQ(_panel->page().minimumSize(), HostSize{});
     EXPECT_FALSE(_panel->page().guarded([] {}));
     EXPECT_EQ(picker().colors.size(), before);
     letTimePass();

@@ -1,6 +1,7 @@
 #include "hosts/gtk-dialog/GtkDialogPage.h"
 
 #include "hosts/gtk-dialog/GtkDialogPlace.h"
+#include "hosts/gtk/GtkTextScale.h"
 
 #include <algorithm>
 
@@ -42,7 +43,6 @@ GtkDialogPage::~GtkDialogPage() = default;
 bool GtkDialogPage::show(const LoadedPlugin& plugin)
 {
     if (!showPage(plugin, dialogColor())) return false;
-    if (!putBesideControls(holder().widget(), _dialog)) return false;
     dialogSignals().connect<void, GParamSpec*>(_dialog, "notify::rgba",
                                                [this](GParamSpec*) { dialogColorDidChange(); });
     const auto followOpacity = [this] {
@@ -53,6 +53,18 @@ bool GtkDialogPage::show(const LoadedPlugin& plugin)
     followOpacity();
     endWith(GTK_WIDGET(_dialog));
     return true;
+}
+
+bool GtkDialogPage::makeRoom(HostSize preferred, HostSize least)
+{
+    return putBesideControls(holder().widget(), _dialog) &&
+           GtkEmbeddedPage::makeRoom(preferred, least);
+}
+
+HostSize GtkDialogPage::spareRoom() const
+{
+    const auto [width, height] = spareRoomOf(GTK_WIDGET(_dialog));
+    return {width / gtkTextScale(), height / gtkTextScale()};
 }
 
 GtkColorChooser* GtkDialogPage::chooser() const

@@ -20,6 +20,8 @@ private:
     ~GtkDialogPage() override;
 
     bool show(const LoadedPlugin& plugin);
+    bool makeRoom(HostSize preferred, HostSize least) override;
+    [[nodiscard]] HostSize spareRoom() const override;
     void colorChosen(const HostColor& color, bool isFinal) override;
     void dialogIsAnswered(bool isAccepted) override;
     void dialogIsGone() override;

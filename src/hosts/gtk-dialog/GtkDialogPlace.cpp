@@ -57,4 +57,18 @@ bool putBesideControls(GtkWidget* widget, GtkDialog* dialog)
     return true;
 }
 
+GtkRequisition spareRoomOf(GtkWidget* window)
+{
+    GtkRequisition least;
+    gtk_widget_get_preferred_size(window, &least, nullptr);
+    // Where a window that is not shown yet will be is not known.
+    GdkWindow* place = gtk_widget_get_window(window);
+    if (place == nullptr) place = gdk_screen_get_root_window(gtk_widget_get_screen(window));
+    int x = 0;
+    int y = 0;
+    gdk_window_get_origin(place, &x, &y);
+    const GdkRectangle room = workAreaAt(place, x, y);
+    return {room.width - least.width, room.height - least.height};
+}
+
 }  // namespace vantorel

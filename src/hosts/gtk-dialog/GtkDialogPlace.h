@@ -8,4 +8,8 @@ namespace vantorel {
 /// Returns false if the dialog's content is not laid out as expected.
 bool putBesideControls(GtkWidget* widget, GtkDialog* dialog);
 
+/// By how much a window can grow beyond the size that its content needs until it fills its screen,
+/// in pixels. Both may be negative.
+[[nodiscard]] GtkRequisition spareRoomOf(GtkWidget* window);
+
 }  // namespace vantorel

@@ -1,16 +1,15 @@
 #include "hosts/gtk-embedding/GtkEmbeddedPage.h"
 
 #include "embedding/PageTranslations.h"
+#include "hosts/common/PageSize.h"
 #include "hosts/gtk/GtkTranslations.h"
 
 #include <exception>
+#include <limits>
 #include <vector>
 
 namespace vantorel {
 namespace {
-
-/// All rows of the settings face fit into this page. In points.
-constexpr HostSize comfortableSize{260, 300};
 
 std::vector<GtkEmbeddedPage*>& shownPages()
 {
@@ -58,7 +57,6 @@ bool GtkEmbeddedPage::showPage(const LoadedPlugin& plugin, const HostColor& dial
         return true;
     }();
     static_cast<void>(programIsFollowed);
-    _holder.setLeastSize(comfortableSize);
     return _panel.showPage(plugin, _holder, dialogColor);
 }
 
@@ -88,6 +86,37 @@ void GtkEmbeddedPage::answer(gpointer dialog, int response)
         if (isAccepted) asked->page().guarded([asked] { asked->_panel.finishEditing(); });
         asked->dialogIsAnswered(isAccepted);
     }
+}
+
+bool GtkEmbeddedPage::makeRoom(HostSize preferred, HostSize least)
+{
+    ask(preferred, least);
+    return true;
+}
+
+void GtkEmbeddedPage::ask(HostSize wanted, HostSize needed)
+{
+    const HostRect before = _holder.frame();
+    _holder.setLeastSize(wanted);
+    const HostSize given = pageSizeWithin(spareRoom(), wanted, needed);
+    if (given == wanted) return;
+    _holder.setFrame(before);
+    _holder.setLeastSize(given);
+}
+
+HostSize GtkEmbeddedPage::growHolder(HostSize growth)
+{
+    const HostSize before = _holder.frame().size();
+    ask({before.width + growth.width, before.height + growth.height}, before);
+    page().resize();
+    const HostSize after = _holder.frame().size();
+    return {after.width - before.width, after.height - before.height};
+}
+
+HostSize GtkEmbeddedPage::spareRoom() const
+{
+    constexpr double any = std::numeric_limits<double>::infinity();
+    return {any, any};
 }
 
 void GtkEmbeddedPage::endWith(GtkWidget* widget)

@@ -28,7 +28,11 @@ protected:
     virtual void dialogIsAnswered(bool isAccepted) = 0;
     /// The dialog is being destroyed; nothing of it may be used any more.
     virtual void dialogIsGone() = 0;
-    HostSize growHolder(HostSize growth) override { return _holder.grow(growth); }
+    bool makeRoom(HostSize preferred, HostSize least) override;
+    HostSize growHolder(HostSize growth) override;
+    /// The room on the screen that the dialog has not asked for, in points; negative if it has
+    /// asked for more than the screen has. Without a limit unless overridden.
+    [[nodiscard]] virtual HostSize spareRoom() const;
     void pageDidFail() override;
 
     [[nodiscard]] EmbeddedPage& page() { return _panel.page(); }
@@ -38,6 +42,8 @@ protected:
     [[nodiscard]] GtkConnections& dialogSignals() { return _signals; }
 
 private:
+    /// Has the dialog give the holder a size, or less if the screen has no more room.
+    void ask(HostSize wanted, HostSize needed);
     void dialogIsDestroyed();
     void deleteWhenIdle();
     static void followAnswers();

@@ -23,7 +23,6 @@ GtkPageHolder::GtkPageHolder(std::function<void()> sizeDidChange)
 
 void GtkPageHolder::setLeastSize(HostSize size)
 {
-    _leastSize = size;
     setFrame({0, 0, std::max(size.width, frame().width), std::max(size.height, frame().height)});
     const auto pixels = [](double points) {
         return static_cast<int>(std::ceil(points * gtkTextScale()));
@@ -39,14 +38,6 @@ void GtkPageHolder::takeSize(int width, int height)
     if (room == frame()) return;
     setFrame(room);
     _sizeDidChange();
-}
-
-HostSize GtkPageHolder::grow(HostSize growth)
-{
-    const HostSize before = frame().size();
-    setLeastSize({before.width + growth.width, before.height + growth.height});
-    _sizeDidChange();
-    return {frame().width - before.width, frame().height - before.height};
 }
 
 void GtkPageHolder::takeOut()

@@ -12,10 +12,8 @@ public:
     /// `sizeDidChange` is called when the dialog has given the holder another size.
     explicit GtkPageHolder(std::function<void()> sizeDidChange);
 
-    /// The dialog gives at least this size. In points.
+    /// The dialog gives at least this size, which the holder takes at once. In points.
     void setLeastSize(HostSize size);
-    /// Asks the dialog for more room, and takes it at once. Returns how much the holder has grown.
-    HostSize grow(HostSize growth);
     /// Takes the holder out of the dialog; the page keeps its widgets.
     void takeOut();
 
@@ -23,7 +21,6 @@ private:
     void takeSize(int width, int height);
 
     std::function<void()> _sizeDidChange;
-    HostSize _leastSize;
 };
 
 }  // namespace vantorel

@@ -17,9 +17,6 @@ constexpr const char* attachedProperty = "vantorelHasPage";
 /// Of the holder's widget: the `DialogPage`.
 constexpr const char* pageProperty = "vantorelDialogPage";
 
-/// All rows of the settings face fit into this page. In points.
-constexpr HostSize comfortableSize{260, 300};
-
 /// Qt's dialog cuts channels down to bytes; this rounds them.
 QColor colorInBytes(const HostColor& color)
 {
@@ -49,10 +46,7 @@ DialogPage::~DialogPage() = default;
 bool DialogPage::show(const LoadedPlugin& plugin)
 {
     QColorDialog& shown = *dialog();
-    _holder.setMinimumSize(comfortableSize);
-    _holder.setFrame({0, 0, comfortableSize.width, comfortableSize.height});
     if (!_panel.showPage(plugin, _holder, hostColorFrom(shown.currentColor()))) return false;
-    if (!_holder.putInto(shown)) return false;
     _holder.setSizeDidChange([this] { _panel.page().resize(); });
     _panel.page().setTakesOpacity(shown.testOption(QColorDialog::ShowAlphaChannel));
     shown.installEventFilter(this);
@@ -61,6 +55,12 @@ bool DialogPage::show(const LoadedPlugin& plugin)
     });
     connect(&shown, &QObject::destroyed, this, &DialogPage::dialogIsDestroyed);
     return true;
+}
+
+bool DialogPage::makeRoom(HostSize preferred, HostSize least)
+{
+    QColorDialog* shown = dialog();
+    return shown != nullptr && _holder.putInto(*shown, preferred, least);
 }
 
 void DialogPage::pageHasThrown(QObject& widget)

@@ -28,6 +28,7 @@ private:
     ~DialogPage() override;
 
     bool show(const LoadedPlugin& plugin);
+    bool makeRoom(HostSize preferred, HostSize least) override;
     void colorChosen(const HostColor& color, bool isFinal) override;
     HostSize growHolder(HostSize growth) override { return _holder.grow(growth); }
     void pageDidFail() override;

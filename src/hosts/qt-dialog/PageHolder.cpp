@@ -1,10 +1,12 @@
 #include "hosts/qt-dialog/PageHolder.h"
 
+#include "hosts/common/PageSize.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -55,7 +57,7 @@ PageHolder::PageHolder() : QtMirrored({}, new Widget)
     holder->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 
-bool PageHolder::putInto(QColorDialog& dialog)
+bool PageHolder::putInto(QColorDialog& dialog, HostSize preferred, HostSize least)
 {
     QLayout* whole = dialog.layout();
     if (whole == nullptr) return false;
@@ -69,6 +71,9 @@ bool PageHolder::putInto(QColorDialog& dialog)
         whole->addWidget(widget());
     }
     widget()->setVisible(true);
+    ask(preferred, least);
+    const double scale = textScale();
+    setFrame({0, 0, widget()->minimumWidth() / scale, widget()->minimumHeight() / scale});
     return true;
 }
 
@@ -80,9 +85,18 @@ void PageHolder::takeOut()
     }
 }
 
-void PageHolder::setMinimumSize(HostSize size)
+void PageHolder::ask(HostSize wanted, HostSize needed)
 {
-    widget()->setMinimumSize(scaled(size.width), scaled(size.height));
+    QWidget* shown = widget();
+    const QWidget* dialog = shown->parentWidget();
+    const auto give = [&](HostSize size) {
+        shown->setMinimumSize(scaled(size.width), scaled(size.height));
+        dialog->layout()->activate();
+    };
+    give(wanted);
+    const QSize spare = dialog->screen()->availableSize() - dialog->layout()->totalMinimumSize();
+    const double scale = textScale();
+    give(pageSizeWithin({spare.width() / scale, spare.height() / scale}, wanted, needed));
 }
 
 HostSize PageHolder::grow(HostSize growth)
@@ -91,8 +105,7 @@ HostSize PageHolder::grow(HostSize growth)
     QWidget* dialog = shown != nullptr ? shown->parentWidget() : nullptr;
     if (dialog == nullptr || dialog->layout() == nullptr) return {};
     const HostSize before = frame().size();
-    setMinimumSize({before.width + growth.width, before.height + growth.height});
-    dialog->layout()->activate();
+    ask({before.width + growth.width, before.height + growth.height}, before);
     const HostSize after = frame().size();
     return {std::max(0.0, after.width - before.width), std::max(0.0, after.height - before.height)};
 }

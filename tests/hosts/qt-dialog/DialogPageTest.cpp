@@ -2,6 +2,7 @@
 
 #include "host/HostControls.h"
 #include "hosts/qt/EventGuard.h"
+#include "hosts/qt/TextScale.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,7 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -47,6 +49,12 @@ public:
     [[nodiscard]] int currentMode() const override { return 0; }
     [[nodiscard]] std::u16string buttonToolTip() const override { return {}; }
     [[nodiscard]] HostSize minContentSize() const override { return {200, 100}; }
+    [[nodiscard]] HostSize preferredContentSize() const override { return preferred(); }
+    static HostSize& preferred()
+    {
+        static HostSize size{260, 300};
+        return size;
+    }
     void setColor(const std::optional<HostColor>&) override {}
     void viewSizeChanged(HostView*) override {}
     bool performAction(std::string_view, HostControl*) override { return false; }
@@ -107,6 +115,20 @@ TEST_F(DialogPageTest, ThePageIsBesideTheControls)
     EXPECT_EQ(dialog.height(), bare.height());
     DialogPage::putInto(dialog, _plugin, _desktop);
     EXPECT_EQ(dialog.findChildren<QWidget*>(QStringLiteral("vantorelPage")).size(), 1);
+}
+
+TEST_F(DialogPageTest, ThePageHasItsPreferredSizeIfTheScreenHasRoomForIt)
+{
+    SmallPicker::preferred() = {250, 450};
+    QColorDialog dialog;
+    put(dialog);
+    EXPECT_EQ(pageOf(dialog)->size(), QSize(scaled(250), scaled(450)));
+    SmallPicker::preferred() = {5000, 5000};
+    QColorDialog large;
+    put(large);
+    const QSize screen = large.screen()->availableSize();
+    EXPECT_EQ(large.size(), screen);
+    EXPECT_GE(pageOf(large)->width(), scaled(200));
 }
 
 TEST_F(DialogPageTest, ThePageIsBelowTheControlsOfADialogThatIsLaidOutOtherwise)
