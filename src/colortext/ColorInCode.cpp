@@ -152,11 +152,11 @@ std::u16string_view declaredValue(std::u16string_view text)
 
 Result<CSSColor> colorInText(std::u16string_view text)
 {
-    const Result<CSSColor> css = readCSSColor(text);
+    Result<CSSColor> css = readCSSColor(text);
     if (css) return css;
-    if (const auto declared = readCSSColor(declaredValue(text))) return declared;
+    if (auto declared = readCSSColor(declaredValue(text))) return declared;
     if (const auto color = colorInCode(text)) return CSSColor{.color = *color};
-    return css;
+    return css.error();
 }
 
 }  // namespace vantorel

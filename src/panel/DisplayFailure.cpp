@@ -51,10 +51,10 @@ QString missingPlugin()
 
 }  // namespace
 
-DisplayFailure::DisplayFailure(int exitStatus) : _exitStatus(exitStatus)
+DisplayFailure::DisplayFailure(int exitStatus)
+    : _exitStatus(exitStatus), _usualHandler(qInstallMessageHandler(&handle))
 {
     current = this;
-    _usualHandler = qInstallMessageHandler(&handle);
 }
 
 DisplayFailure::~DisplayFailure()

@@ -18,11 +18,13 @@ public:
     PropertyList() = default;
     // The constructors are implicit, so that arrays and dictionaries can be written as lists of
     // plain values.
+    // NOLINTBEGIN(google-explicit-constructor)
     PropertyList(std::u16string string) : _value(std::move(string)) {}
     PropertyList(const char16_t* string) : _value(std::u16string(string)) {}
     PropertyList(Array array) : _value(std::move(array)) {}
     PropertyList(Dictionary dictionary) : _value(std::move(dictionary)) {}
     // NOLINTEND(google-explicit-constructor)
+
     [[nodiscard]] static PropertyList data(std::string bytes)
     {
         PropertyList result;

@@ -17,6 +17,8 @@ namespace vantorel {
 template <class... Arguments>
 class PhraseText {
 public:
+    // Implicit, so that a literal can be passed.
+    // NOLINTNEXTLINE(google-explicit-constructor)
     consteval PhraseText(const char* text) : _text(text)
     {
         std::size_t highest = 0;
@@ -64,6 +66,8 @@ private:
 /// An argument of a phrase: a text, a number, or another phrase, which is translated too.
 class PhraseArgument {
 public:
+    // The constructors are implicit, so that values can be passed as they are.
+    // NOLINTBEGIN(google-explicit-constructor)
     PhraseArgument(const std::convertible_to<std::string_view> auto& utf8)
         : _value(std::string(std::string_view(utf8)))
     {
@@ -75,6 +79,7 @@ public:
     PhraseArgument(std::integral auto number) : _value(std::to_string(number)) {}
     PhraseArgument(Phrase phrase) : _value(std::move(phrase)) {}
     PhraseArgument(PhraseText<> text) : _value(Phrase(text.text(), {})) {}
+    // NOLINTEND(google-explicit-constructor)
 
     [[nodiscard]] std::string inWords(Phrase::Translate translate) const;
 

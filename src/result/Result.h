@@ -15,8 +15,10 @@ template <class Value, class Error = Message>
 class [[nodiscard]] Result {
 public:
     // Implicit, so that a function can return either.
+    // NOLINTBEGIN(google-explicit-constructor)
     Result(Value value) : _state(std::in_place_index<0>, std::move(value)) {}
     Result(Error error) : _state(std::in_place_index<1>, std::move(error)) {}
+    // NOLINTEND(google-explicit-constructor)
 
     [[nodiscard]] bool hasValue() const { return _state.index() == 0; }
     explicit operator bool() const { return hasValue(); }
@@ -59,6 +61,7 @@ class [[nodiscard]] Status {
 public:
     /// Success.
     Status() = default;
+    // NOLINTNEXTLINE(google-explicit-constructor): so that a function can return the message.
     Status(Message message) : _error(std::move(message)) {}
 
     [[nodiscard]] bool isOk() const { return !_error; }

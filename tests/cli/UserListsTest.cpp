@@ -16,8 +16,9 @@ void addLists(MemoryFiles& files, int count)
     files.createDirectory(ownFolder);
     for (int i = 0; i < count; ++i) {
         const std::string number = std::to_string(i);
-        files.writeAtomically(ownFolder + "/file " + number + ".gpl",
-                              "GIMP Palette\nName: List " + number + "\n255 0 0\tred\n");
+        std::string path = ownFolder;
+        path.append("/file ").append(number).append(".gpl");
+        files.writeAtomically(path, "GIMP Palette\nName: List " + number + "\n255 0 0\tred\n");
     }
 }
 

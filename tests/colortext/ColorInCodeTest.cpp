@@ -21,6 +21,7 @@ TEST(ColorInCodeTest, TheLinesOfTheBuiltInSnippetsAreRead)
 {
     for (const char16_t* line :
          {u"[NSColor colorWithCalibratedRed:1.00000 green:0.49804 blue:0.31373 alpha:1.00000]",
+          // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): long lines are split.
           u"[NSColor colorWithCalibratedRed:(255 / 255.0) green:(127 / 255.0) blue:(80 / 255.0) "
           u"alpha:1.00000]",
           u"[NSColor colorWithCalibratedRed:((CGFloat)0xff / (CGFloat)0xff) "

@@ -73,13 +73,15 @@ TEST(ASCIITest, ControlsAreThoseBelowSpaceAndDelete)
 TEST(ASCIITest, OnlyASCIILettersChangeCase)
 {
     for (char32_t c = 0; c < 0x20000; ++c) {
-        const std::size_t asUpper = c < 0x80 ? upper.find(static_cast<char>(c)) : upper.npos;
-        const std::size_t asLower = c < 0x80 ? lower.find(static_cast<char>(c)) : lower.npos;
+        const std::size_t asUpper =
+            c < 0x80 ? upper.find(static_cast<char>(c)) : std::string_view::npos;
+        const std::size_t asLower =
+            c < 0x80 ? lower.find(static_cast<char>(c)) : std::string_view::npos;
         const auto letterOf = [](std::string_view row, std::size_t place) {
             return static_cast<char32_t>(row[place]);
         };
-        ASSERT_EQ(lowerCase(c), asUpper != upper.npos ? letterOf(lower, asUpper) : c);
-        ASSERT_EQ(upperCase(c), asLower != lower.npos ? letterOf(upper, asLower) : c);
+        ASSERT_EQ(lowerCase(c), asUpper != std::string_view::npos ? letterOf(lower, asUpper) : c);
+        ASSERT_EQ(upperCase(c), asLower != std::string_view::npos ? letterOf(upper, asLower) : c);
     }
 }
 

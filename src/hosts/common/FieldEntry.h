@@ -36,7 +36,7 @@ public:
     /// Runs `reaction` when the toolkit has finished the change that it is reporting. Toolkits that
     /// move the insertion point after their report (GTK) must defer it, ahead of the next event of
     /// the user.
-    virtual void afterChange(std::function<void()> reaction) { reaction(); }
+    virtual void afterChange(const std::function<void()>& reaction) { reaction(); }
 
     /// Offers a text that is not meant for the field to the panel. Returns whether it was used.
     virtual bool offerText(const std::u16string& text) = 0;

@@ -9,6 +9,7 @@ namespace vantorel {
 ///
 /// A chooser that shows its swatches adds one for each colour that it is given. So it is given a
 /// colour when the user rests, and when the dialog is answered.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class GtkDialogPage final : private GtkEmbeddedPage {
 public:
     /// Puts a page into a dialog that is about to be shown; only once into each. The dialog stays

@@ -238,7 +238,8 @@ private:
         HostColor text = themeTextColor(_window);
         if (item.separator) {
             setCairoColor(cairo, text.colorWithAlphaComponent(0.3));
-            cairo_rectangle(cairo, besideImage, _rowHeight / 2, width - 2 * besideImage, 1);
+            cairo_rectangle(cairo, besideImage, std::floor(_rowHeight / 2.0),
+                            width - 2 * besideImage, 1);
             cairo_fill(cairo);
             return;
         }
@@ -267,7 +268,7 @@ private:
         int height = 0;
         pango_layout_get_pixel_size(layout.get(), nullptr, &height);
         setCairoColor(cairo, text);
-        cairo_move_to(cairo, textLeft(), (_rowHeight - height) / 2);
+        cairo_move_to(cairo, textLeft(), std::floor((_rowHeight - height) / 2.0));
         pango_cairo_show_layout(cairo, layout.get());
     }
 

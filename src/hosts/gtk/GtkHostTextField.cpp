@@ -233,7 +233,7 @@ bool GtkHostTextField::isVisible() const
     return widget() != nullptr && gtk_widget_get_mapped(widget());
 }
 
-void GtkHostTextField::afterChange(std::function<void()> reaction)
+void GtkHostTextField::afterChange(const std::function<void()>& reaction)
 {
     _reaction.callSoon(std::move(reaction));
 }

@@ -51,7 +51,7 @@ private:
     [[nodiscard]] bool hasFocus() const override;
     [[nodiscard]] bool isVisible() const override;
     [[nodiscard]] bool isReadOnly() const override { return _isReadOnly; }
-    void afterChange(std::function<void()> reaction) override;
+    void afterChange(const std::function<void()>& reaction) override;
     bool offerText(const std::u16string& text) override;
     void entryGivenUp() override;
 

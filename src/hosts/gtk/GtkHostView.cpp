@@ -71,7 +71,9 @@ void adoptGtkWidget(HostView& view)
     GtkWidget* window = gtk_widget_get_toplevel(inWindow);
     GtkWidget* focused = GTK_IS_WINDOW(window) ? gtk_window_get_focus(GTK_WINDOW(window)) : nullptr;
     const bool hadFocus =
-        focused != nullptr && (focused == widget || gtk_widget_is_ancestor(focused, widget));
+        focused != nullptr && (focused == widget ||
+                               // NOLINTNEXTLINE(readability-suspicious-call-argument)
+                               gtk_widget_is_ancestor(focused, widget));
     if (dynamic_cast<HostCustomView*>(view.superview()) != nullptr) styleForLightGround(widget);
     if (oldParent != parent) {
         if (oldParent != nullptr) gtk_container_remove(GTK_CONTAINER(oldParent), widget);

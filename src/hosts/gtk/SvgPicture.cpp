@@ -17,8 +17,8 @@ std::string withColor(std::string svg, const HostColor& color)
         return static_cast<unsigned>(channel > 0 ? std::lround(std::min(channel, 1.0) * 255) : 0);
     };
     std::array<char, 8> code{};
-    std::snprintf(code.data(), code.size(), "#%02x%02x%02x", byte(rgb.red), byte(rgb.green),
-                  byte(rgb.blue));
+    static_cast<void>(std::snprintf(code.data(), code.size(), "#%02x%02x%02x", byte(rgb.red),
+                                    byte(rgb.green), byte(rgb.blue)));
     for (auto at = svg.find(placeholder); at != std::string::npos; at = svg.find(placeholder, at)) {
         svg.replace(at, placeholder.size(), code.data());
     }

@@ -20,7 +20,7 @@ void QtColorPanel::pageDidAppear()
 {
     // A new context ends the connections to the previous page.
     _pageConnections = std::make_unique<QObject>();
-    forEachBelow<QtTextField>(pageView(), [this](QtTextField& field) {
+    forEachBelow<QtTextField>(pageView(), [this](const QtTextField& field) {
         QObject::connect(field.lineEdit(), &QtLineEdit::entryGivenUp, _pageConnections.get(),
                          [this] {
                              if (const auto current = color()) setColor(*current);
