@@ -56,7 +56,7 @@ private:
         return panelTakesTexts;
     }
     void entryGivenUp() override { ++givenUp; }
-    void afterChange(std::function<void()> reaction) override
+    void afterChange(const std::function<void()>& reaction) override
     {
         if (_order == Caret::movesBeforeReport) {
             reaction();
