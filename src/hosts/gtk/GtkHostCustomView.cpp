@@ -16,7 +16,7 @@ GtkHostCustomView::GtkHostCustomView(const HostControlDescription& description,
                                      HostViewContent& content)
     : GtkMirrored(description.frame, newHostBox(false)),
       _content(content),
-      _area(gtk_drawing_area_new()),
+      _area(newPaintArea()),
       _tracking(content),
       _turn(content)
 {

@@ -175,6 +175,8 @@ public:
                     GtkAllocation place;
                     gtk_widget_get_allocation(widget, &place);
                     cairo_translate(cairo.get(), place.x, place.y);
+                    cairo_rectangle(cairo.get(), 0, 0, place.width, place.height);
+                    cairo_clip(cairo.get());
                 }
                 paint(cairo.get());
                 return false;

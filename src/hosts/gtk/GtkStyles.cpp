@@ -62,7 +62,7 @@ GtkCssProvider* compactProvider()
 GtkCssProvider* lightGroundProvider()
 {
     static const auto provider = providerOf(
-        "label, checkbutton { color: #2e3436; text-shadow: none; }"
+        "label, checkbutton { color: #2e3436; background: none; text-shadow: none; }"
         "button { color: #2e3436; background: none; background-color: rgba(246,245,244,0.9);"
         " border-color: #cdc7c2; text-shadow: none; -gtk-icon-shadow: none; box-shadow: none; }"
         "button:hover { background-color: #ffffff; }"
@@ -189,7 +189,13 @@ void GtkControlStyle::setTextColor(const HostColor& color)
     const auto wanted = shown == usual ? std::nullopt : std::optional(shown);
     if (wanted == _color) return;
     _color = wanted;
+#if GTK_MAJOR_VERSION >= 3
     apply();
+#else
+    const GdkColor text = _color ? gdkColor(*_color) : GdkColor();
+    const auto modify = GTK_IS_ENTRY(_widget) ? gtk_widget_modify_text : gtk_widget_modify_fg;
+    modify(_widget, GTK_STATE_NORMAL, _color ? &text : nullptr);
+#endif
 }
 
 void GtkControlStyle::apply()
@@ -205,12 +211,6 @@ void GtkControlStyle::apply()
     GtkWidget* texts = GTK_IS_BUTTON(_widget) ? gtk_bin_get_child(GTK_BIN(_widget)) : _widget;
     if (texts == nullptr) texts = _widget;
     gtk_widget_modify_font(texts, fontOfHeight(_size, _isMonospaced).get());
-    const GdkColor color = _color ? gdkColor(*_color) : GdkColor();
-    if (GTK_IS_ENTRY(_widget)) {
-        gtk_widget_modify_text(texts, GTK_STATE_NORMAL, _color ? &color : nullptr);
-    } else {
-        gtk_widget_modify_fg(texts, GTK_STATE_NORMAL, _color ? &color : nullptr);
-    }
 #endif
 }
 
@@ -221,12 +221,18 @@ void styleForLightGround(GtkWidget* widget)
     g_object_set_data(G_OBJECT(widget), styledKey, widget);
 #if GTK_MAJOR_VERSION >= 3
     addProvider(widget, lightGroundProvider(), 3);
+    if (!GTK_IS_BUTTON(widget)) return;
 #else
+    // A theme can paint buttons with pictures, and paints what the mouse is over. Their texts stay
+    // the theme's, too.
+    const bool hasOwnGround = GTK_IS_BUTTON(widget) && !GTK_IS_CHECK_BUTTON(widget) &&
+                              gtk_button_get_relief(GTK_BUTTON(widget)) != GTK_RELIEF_NONE;
+    if (hasOwnGround) return;
     const GdkColor dark = gdkColor(textOnLightGround);
-    if (GTK_IS_LABEL(widget)) gtk_widget_modify_fg(widget, GTK_STATE_NORMAL, &dark);
+    gtk_widget_modify_fg(widget, GTK_STATE_NORMAL, &dark);
+    if (!GTK_IS_CHECK_BUTTON(widget)) return;
 #endif
     // The text of a button is a widget of its own.
-    if (!GTK_IS_BUTTON(widget)) return;
     if (GtkWidget* text = gtk_bin_get_child(GTK_BIN(widget))) styleForLightGround(text);
 }
 

@@ -38,6 +38,19 @@ namespace vantorel {
 #endif
 }
 
+/// A widget to paint on, which gets all events. Later widgets of its container can lie on it.
+[[nodiscard]] inline GtkWidget* newPaintArea()
+{
+#if GTK_MAJOR_VERSION >= 3
+    return gtk_drawing_area_new();
+#else
+    // A window of its own would hide them: they paint into the window of the container.
+    GtkWidget* area = gtk_event_box_new();
+    gtk_event_box_set_visible_window(GTK_EVENT_BOX(area), FALSE);
+    return area;
+#endif
+}
+
 [[nodiscard]] inline GtkAdjustment* newAdjustment(double lower, double upper, double step,
                                                   double page)
 {

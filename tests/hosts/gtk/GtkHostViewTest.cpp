@@ -4,6 +4,8 @@
 
 #include <gdk/gdkkeysyms.h>
 
+#include <array>
+
 namespace vantorel {
 namespace {
 
@@ -24,6 +26,76 @@ GtkAllocation placeOf(GtkWidget* widget)
     GtkAllocation place;
     gtk_widget_get_allocation(widget, &place);
     return place;
+}
+
+/// Red, green and blue of a pixel on the screen, in the window of a widget.
+std::array<int, 3> pixelOf(GtkWidget* widget, int x, int y)
+{
+    GdkWindow* window = gtk_widget_get_window(widget);
+#if GTK_MAJOR_VERSION >= 3
+    const auto picture =
+        GtkReference<GdkPixbuf>::adopt(gdk_pixbuf_get_from_window(window, x, y, 1, 1));
+#else
+    const auto picture = GtkReference<GdkPixbuf>::adopt(gdk_pixbuf_get_from_drawable(
+        nullptr, window, gdk_drawable_get_colormap(window), x, y, 0, 0, 1, 1));
+#endif
+    const guchar* bytes = gdk_pixbuf_get_pixels(picture.get());
+    return {bytes[0], bytes[1], bytes[2]};
+}
+
+#if GTK_MAJOR_VERSION >= 3
+GdkRGBA backgroundOf(GtkWidget* widget)
+{
+    GtkStyleContext* context = gtk_widget_get_style_context(widget);
+    GdkRGBA* color = nullptr;
+    gtk_style_context_get(context, gtk_style_context_get_state(context), "background-color", &color,
+                          nullptr);
+    const GdkRGBA result = *color;
+    gdk_rgba_free(color);
+    return result;
+}
+
+/// Gives everything the colours of a dark theme.
+class DarkTheme {
+public:
+    explicit DarkTheme(GtkWidget*)
+    {
+        gtk_css_provider_load_from_data(_colors.get(), "* { color: #eeeeee; background: #333333; }",
+                                        -1, nullptr);
+        gtk_style_context_add_provider_for_screen(gdk_screen_get_default(),
+                                                  GTK_STYLE_PROVIDER(_colors.get()),
+                                                  GTK_STYLE_PROVIDER_PRIORITY_THEME + 1);
+    }
+    DarkTheme(const DarkTheme&) = delete;
+    DarkTheme& operator=(const DarkTheme&) = delete;
+    ~DarkTheme()
+    {
+        gtk_style_context_remove_provider_for_screen(gdk_screen_get_default(),
+                                                     GTK_STYLE_PROVIDER(_colors.get()));
+    }
+
+private:
+    GtkReference<GtkCssProvider> _colors =
+        GtkReference<GtkCssProvider>::adopt(gtk_css_provider_new());
+};
+#else
+/// Gives a window the colours of a dark theme.
+class DarkTheme {
+public:
+    explicit DarkTheme(GtkWidget* window)
+    {
+        gtk_rc_parse_string(
+            "style \"dark-trial\" { fg[NORMAL] = \"#eeeeee\" bg[NORMAL] = \"#333333\" }\n"
+            "widget \"dark-trial*\" style \"dark-trial\"");
+        gtk_widget_set_name(window, "dark-trial");
+        gtk_widget_reset_rc_styles(window);
+    }
+};
+#endif
+
+bool isBlue(const std::array<int, 3>& pixel)
+{
+    return pixel == std::array{0, 0, 255};
 }
 
 TEST_F(GtkHostTest, WidgetsHaveTheFramesOfTheirViewsWhateverTheThemeWants)
@@ -129,23 +201,41 @@ TEST_F(GtkHostTest, TextsInAHandPaintedViewAreDarkInADarkTheme)
           static_cast<HostView*>(popUp.get())})
         view->addSubview(*subview);
     showWindow();
-#if GTK_MAJOR_VERSION >= 3
-    // The theme of the test is set in its environment; its colours are those of a dark one.
-    const auto dark = GtkReference<GtkCssProvider>::adopt(gtk_css_provider_new());
-    gtk_css_provider_load_from_data(dark.get(), "* { color: #eeeeee; background: #333333; }", -1,
-                                    nullptr);
-    GdkScreen* screen = gdk_screen_get_default();
-    gtk_style_context_add_provider_for_screen(screen, GTK_STYLE_PROVIDER(dark.get()),
-                                              GTK_STYLE_PROVIDER_PRIORITY_THEME + 1);
+    const DarkTheme theme(window());
     handleEvents();
     EXPECT_GT(lightnessOf(themeTextColor(gtkWidgetOf(beside.get()))), 0.5);
-#endif
     GtkWidget* textOfBox = gtk_bin_get_child(GTK_BIN(gtkWidgetOf(box.get())));
-    for (GtkWidget* text : {gtkWidgetOf(inside.get()), textOfBox, gtkWidgetOf(popUp.get())})
+    for (GtkWidget* text : {gtkWidgetOf(inside.get()), textOfBox})
         EXPECT_LT(lightnessOf(themeTextColor(text)), 0.5) << G_OBJECT_TYPE_NAME(text);
 #if GTK_MAJOR_VERSION >= 3
-    gtk_style_context_remove_provider_for_screen(screen, GTK_STYLE_PROVIDER(dark.get()));
+    for (GtkWidget* seen : {gtkWidgetOf(box.get()), textOfBox})
+        EXPECT_EQ(backgroundOf(seen).alpha, 0) << G_OBJECT_TYPE_NAME(seen);
+    // Buttons get the look of a light theme. GTK 2 leaves them their own.
+    EXPECT_LT(lightnessOf(themeTextColor(gtkWidgetOf(popUp.get()))), 0.5);
+#else
+    EXPECT_GT(lightnessOf(themeTextColor(gtkWidgetOf(popUp.get()))), 0.5);
 #endif
+}
+
+TEST_F(GtkHostTest, ControlsOnAHandPaintedViewAreSeen)
+{
+    RecordingContent content;
+    content.paint = [](HostCanvas& canvas) {
+        HostBezierPath everything;
+        everything.appendBezierPathWithRect({0, 0, 200, 100});
+        canvas.fill(everything, HostColor::colorWithCalibratedRed(0, 0, 1, 1));
+    };
+    auto view = factory.makeCustomView(described({20, 20, 200, 100}), content);
+    auto button = factory.makeButton(labelled({50, 30, 80, 30}));
+    root.addSubview(*view);
+    view->addSubview(*button);
+    showWindow();
+    runUntil([&] { return content.drawings > 0; });
+    handleEvents();
+    const GtkAllocation area = placeOf(gtkWidgetOf(view.get()));
+    const GtkAllocation place = placeOf(gtkWidgetOf(button.get()));
+    EXPECT_TRUE(isBlue(pixelOf(root.widget(), area.x + 5, area.y + 5)));
+    EXPECT_FALSE(isBlue(pixelOf(root.widget(), place.x + place.width / 2, place.y + 4)));
 }
 
 TEST_F(GtkHostTest, TheTrackingRectangleReportsCrossings)
