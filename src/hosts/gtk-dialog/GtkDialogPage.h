@@ -4,38 +4,43 @@
 
 namespace vantorel {
 
-/// The page in one colour dialog. It is a further part of the dialog, whose buttons, modality,
-/// options, result and signals stay its own.
-///
-/// A chooser that shows its swatches adds one for each colour that it is given. So it is given a
-/// colour when the user rests, and when the dialog is answered.
-// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
-class GtkDialogPage final : private GtkEmbeddedPage {
+/// The page beside a dialog's own controls for colours. It is a further part of the dialog, whose
+/// buttons, modality, options, result and signals stay its own.
+class GtkDialogPage : protected GtkEmbeddedPage {
 public:
-    /// Puts a page into a dialog that is about to be shown; only once into each. The dialog stays
-    /// as it is if it is not a GtkColorChooserDialog, or the page cannot be created.
-    static void putInto(GtkWidget* dialog, const LoadedPlugin& plugin, GtkHostDesktop& desktop);
+    /// Puts a page into a widget that has been shown, if that is a GtkColorChooserDialog, a window
+    /// with a GtkColorSelection, or a GtkColorSelection in a window that is visible; only once into
+    /// each. The window stays as it is if the page cannot be created.
+    static void putInto(GtkWidget* shown, const LoadedPlugin& plugin, GtkHostDesktop& desktop);
+
+protected:
+    /// `controls` has the colour.
+    GtkDialogPage(GtkWidget* controls, GtkHostDesktop& desktop);
+
+    /// Shows the page. Returns false if that is not possible; delete this object then.
+    bool show(const LoadedPlugin& plugin);
+    /// The dialog's controls; null once they are destroyed.
+    [[nodiscard]] GtkWidget* controls() const { return _controls; }
+
+    [[nodiscard]] virtual GdkRGBA dialogColor() const = 0;
+    /// Whether the user can choose the opacity in the dialog.
+    [[nodiscard]] virtual bool hasOpacity() const = 0;
+    /// Puts the widget into the dialog. Returns false if the dialog is not laid out as expected.
+    virtual bool place(GtkWidget* widget) = 0;
+    void dialogColorDidChange();
+    void followOpacity() { page().setTakesOpacity(hasOpacity()); }
+
+    void dialogIsAnswered(bool isAccepted) override;
+    void dialogIsGone() override { _controls = nullptr; }
+
+    /// The colour as GTK has it.
+    [[nodiscard]] static GdkRGBA rgbaOf(const HostColor& color);
 
 private:
-    GtkDialogPage(GtkDialog* dialog, GtkHostDesktop& desktop);
-    ~GtkDialogPage() override;
-
-    bool show(const LoadedPlugin& plugin);
     bool makeRoom(HostSize preferred, HostSize least) override;
     [[nodiscard]] HostSize spareRoom() const override;
-    void colorChosen(const HostColor& color, bool isFinal) override;
-    void dialogIsAnswered(bool isAccepted) override;
-    void dialogIsGone() override;
-    void dialogColorDidChange();
-    /// Gives the dialog the colour that it does not have yet.
-    void passOn();
-    [[nodiscard]] HostColor dialogColor() const;
-    [[nodiscard]] GtkColorChooser* chooser() const;
 
-    /// Null once it is destroyed.
-    GtkDialog* _dialog;
-    GtkDeferral _rest;
-    std::optional<HostColor> _kept;
+    GtkWidget* _controls;
 };
 
 }  // namespace vantorel

@@ -7,18 +7,6 @@ namespace {
 
 constexpr guint besidePage = 6;
 
-/// The child of a container that is a chooser of colours; null if there is none.
-GtkWidget* chooserIn(GtkWidget* container)
-{
-    GtkWidget* found = nullptr;
-    GList* children = gtk_container_get_children(GTK_CONTAINER(container));
-    for (const GList* child = children; child != nullptr; child = child->next) {
-        if (GTK_IS_COLOR_CHOOSER_WIDGET(child->data)) found = GTK_WIDGET(child->data);
-    }
-    g_list_free(children);
-    return found;
-}
-
 /// Puts a row into a box in place of one of its children, which becomes the row's first.
 GtkWidget* wrappedInRow(GtkBox* box, GtkWidget* child)
 {
@@ -45,14 +33,32 @@ GtkWidget* wrappedInRow(GtkBox* box, GtkWidget* child)
 
 }  // namespace
 
-bool putBesideControls(GtkWidget* widget, GtkDialog* dialog)
+GtkWidget* chooserIn(GtkWidget* container)
 {
-    GtkWidget* content = gtk_dialog_get_content_area(dialog);
-    if (!GTK_IS_BOX(content)) return false;
-    GtkWidget* chooser = chooserIn(content);
-    GtkBox* box = GTK_BOX(chooser != nullptr ? wrappedInRow(GTK_BOX(content), chooser) : content);
-    gtk_box_pack_start(box, widget, TRUE, TRUE, besidePage);
-    if (chooser != nullptr) gtk_box_reorder_child(box, widget, 0);
+    GtkWidget* found = nullptr;
+    GList* children = gtk_container_get_children(GTK_CONTAINER(container));
+    for (const GList* child = children; child != nullptr; child = child->next) {
+        if (GTK_IS_COLOR_CHOOSER_WIDGET(child->data)) found = GTK_WIDGET(child->data);
+    }
+    g_list_free(children);
+    return found;
+}
+
+bool putBeside(GtkWidget* widget, GtkWidget* other)
+{
+    GtkWidget* parent = gtk_widget_get_parent(other);
+    if (!GTK_IS_BOX(parent)) return false;
+    GtkBox* row = GTK_BOX(wrappedInRow(GTK_BOX(parent), other));
+    gtk_box_pack_start(row, widget, TRUE, TRUE, besidePage);
+    gtk_box_reorder_child(row, widget, 0);
+    gtk_widget_show(widget);
+    return true;
+}
+
+bool putBelow(GtkWidget* widget, GtkWidget* box)
+{
+    if (!GTK_IS_BOX(box)) return false;
+    gtk_box_pack_start(GTK_BOX(box), widget, TRUE, TRUE, besidePage);
     gtk_widget_show(widget);
     return true;
 }

@@ -69,18 +69,20 @@ void GtkEmbeddedPage::followAnswers()
     g_signal_add_emission_hook(
         g_signal_lookup("response", GTK_TYPE_DIALOG), 0,
         [](GSignalInvocationHint*, guint, const GValue* arguments, gpointer) {
-            callFromC(answer, g_value_get_object(arguments), g_value_get_int(arguments + 1));
+            callFromC(answer, GTK_WIDGET(g_value_get_object(arguments)),
+                      !isRefusal(g_value_get_int(arguments + 1)));
             return static_cast<gboolean>(TRUE);
         },
         nullptr, nullptr);
 }
 
-void GtkEmbeddedPage::answer(gpointer dialog, int response)
+void GtkEmbeddedPage::answer(GtkWidget* source, bool isAccepted)
 {
-    const bool isAccepted = !isRefusal(response);
+    GtkWidget* window = gtk_widget_get_toplevel(source);
     for (GtkEmbeddedPage* asked : std::vector(shownPages())) {
         GtkWidget* held = asked->_holder.widget();
-        if (held == nullptr || gtk_widget_get_toplevel(held) != dialog) continue;
+        if (held == nullptr || gtk_widget_get_toplevel(held) != window) continue;
+        if (gtk_widget_is_ancestor(source, held)) continue;
         // A program may end with its dialog, which it could not while it is in the page's own loop.
         asked->page().guarded([asked] { asked->_panel.endPress(); });
         if (isAccepted) asked->page().guarded([asked] { asked->_panel.finishEditing(); });

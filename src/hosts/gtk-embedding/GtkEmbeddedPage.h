@@ -26,6 +26,9 @@ protected:
     /// The user presses a button of the dialog. Called before any reaction of the program, which
     /// may read the colour or end.
     virtual void dialogIsAnswered(bool isAccepted) = 0;
+    /// Has the pages in the window of a widget answer as if a button of a dialog were pressed.
+    /// Pages that the widget is a part of do not.
+    static void answer(GtkWidget* source, bool isAccepted);
     /// The dialog is being destroyed; nothing of it may be used any more.
     virtual void dialogIsGone() = 0;
     bool makeRoom(HostSize preferred, HostSize least) override;
@@ -47,7 +50,6 @@ private:
     void dialogIsDestroyed();
     void deleteWhenIdle();
     static void followAnswers();
-    static void answer(gpointer dialog, int response);
 
     GtkPageHolder _holder;
     GtkPagePanel _panel;

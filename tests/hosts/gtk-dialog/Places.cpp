@@ -5,8 +5,9 @@
 
 /// A GTK module for tests: writes where the widgets of a program's colour dialog are to the file
 /// that VANTOREL_PLACES names, ten times a second. A line is `place NAME X Y WIDTH HEIGHT`,
-/// relative to the window; `tip NAME TEXT` is its tool tip; `swatches COUNT` is the number of the
-/// chooser's swatches.
+/// relative to the window; `color-button` is a button of a form; `tip NAME TEXT` is its tool tip;
+/// `report COUNT` is the number of the report; `swatches COUNT` is the number of the chooser's
+/// swatches.
 namespace {
 
 struct Report {
@@ -29,6 +30,16 @@ void addPlace(Report& report, GtkWidget* widget, const char* name)
     g_free(tip);
 }
 
+/// The buttons of windows that are not a GtkDialog.
+void addLabel(Report& report, GtkWidget* label)
+{
+    GtkWidget* button = gtk_widget_get_ancestor(label, GTK_TYPE_BUTTON);
+    if (button == nullptr) return;
+    const std::string text = gtk_label_get_text(GTK_LABEL(label));
+    if (text == "OK") addPlace(report, button, "ok");
+    if (text == "Cancel") addPlace(report, button, "cancel");
+}
+
 void addWidget(GtkWidget* widget, gpointer data)
 {
     auto& report = *static_cast<Report*>(data);
@@ -38,6 +49,8 @@ void addWidget(GtkWidget* widget, gpointer data)
     const std::string type = G_OBJECT_TYPE_NAME(widget);
     if (name != type) addPlace(report, widget, name.c_str());
     if (type == "GtkColorSwatch") ++report.swatches;
+    if (GTK_IS_LABEL(widget)) addLabel(report, widget);
+    if (GTK_IS_COLOR_BUTTON(widget)) addPlace(report, widget, "color-button");
     if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), addWidget, data);
 }
 
@@ -48,11 +61,36 @@ void addDialog(GtkWidget* dialog, const char* file)
     const std::pair<const char*, int> answers[] = {{"ok", GTK_RESPONSE_OK},
                                                    {"cancel", GTK_RESPONSE_CANCEL}};
     for (const auto& [name, answer] : answers) {
+        if (!GTK_IS_DIALOG(dialog)) break;
         GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), answer);
         if (button != nullptr) addPlace(report, button, name);
     }
+    static int reports = 0;
+    report.text += "report " + std::to_string(++reports) + '\n';
     report.text += "swatches " + std::to_string(report.swatches) + '\n';
     g_file_set_contents(file, report.text.data(), static_cast<gssize>(report.text.size()), nullptr);
+}
+
+struct Search {
+    GType type;
+    bool isFound = false;
+};
+
+void searchIn(GtkWidget* widget, gpointer data)
+{
+    auto& search = *static_cast<Search*>(data);
+    if (g_type_is_a(G_OBJECT_TYPE(widget), search.type)) {
+        search.isFound = true;
+    } else if (GTK_IS_CONTAINER(widget)) {
+        gtk_container_forall(GTK_CONTAINER(widget), searchIn, data);
+    }
+}
+
+bool has(GtkWidget* widget, GType type)
+{
+    Search search{type};
+    searchIn(widget, &search);
+    return search.isFound;
 }
 
 gboolean writePlaces(gpointer file)
@@ -60,7 +98,9 @@ gboolean writePlaces(gpointer file)
     GList* windows = gtk_window_list_toplevels();
     for (const GList* window = windows; window != nullptr; window = window->next) {
         auto* widget = GTK_WIDGET(window->data);
-        if (GTK_IS_COLOR_CHOOSER_DIALOG(widget) && gtk_widget_get_mapped(widget)) {
+        if (!gtk_widget_get_mapped(widget)) continue;
+        if (GTK_IS_COLOR_CHOOSER_DIALOG(widget) || has(widget, GTK_TYPE_COLOR_SELECTION) ||
+            has(widget, GTK_TYPE_COLOR_BUTTON)) {
             addDialog(widget, static_cast<const char*>(file));
         }
     }
@@ -76,5 +116,8 @@ extern "C" void gtk_module_init(int*, char***)
 {
     const char* file = g_getenv("VANTOREL_PLACES");
     constexpr unsigned intervalInMilliseconds = 100;
-    if (file != nullptr) g_timeout_add(intervalInMilliseconds, writePlaces, g_strdup(file));
+    if (file == nullptr) return;
+    // After the toolkit has laid out its windows.
+    g_timeout_add_full(G_PRIORITY_LOW, intervalInMilliseconds, writePlaces, g_strdup(file),
+                       nullptr);
 }

@@ -10,7 +10,6 @@ namespace vantorel {
 namespace {
 
 constexpr const char* toolkitName = "libgtk-3.so.0";
-constexpr const char* dialogClassName = "GtkColorChooserDialog";
 constexpr const char* libraryName = VANTOREL_DIALOG_LIBRARY;
 
 /// The type of GTK 3's widgets; 0 if this is a program of another GTK.
@@ -22,19 +21,44 @@ GType typeOfWidgets()
     return typeOf != nullptr ? typeOf() : 0;
 }
 
+/// A class that the program may not have used yet.
+class WidgetClass {
+public:
+    explicit constexpr WidgetClass(const char* name) : _name(name) {}
+
+    [[nodiscard]] bool isKnown()
+    {
+        if (_type == 0) _type = g_type_from_name(_name);
+        return _type != 0;
+    }
+    [[nodiscard]] bool has(void* widget)
+    {
+        return isKnown() &&
+               g_type_check_instance_is_a(static_cast<GTypeInstance*>(widget), _type) != FALSE;
+    }
+
+private:
+    const char* _name;
+    GType _type = 0;
+};
+
+/// Whether a widget is a colour dialog, or may be a window with the older colour selection. Most
+/// programs know neither class.
+bool mayHavePage(void* widget)
+{
+    static WidgetClass chooserDialogs("GtkColorChooserDialog");
+    static WidgetClass selections("GtkColorSelection");
+    static WidgetClass windows("GtkWindow");
+    if (chooserDialogs.has(widget)) return true;
+    return selections.isKnown() && (windows.has(widget) || selections.has(widget));
+}
+
 /// Called whenever any widget is shown.
 gboolean widgetIsShown(GSignalInvocationHint*, guint, const GValue* arguments, gpointer)
 {
     static DialogLibrary library;
-    // Unknown until the program has its first dialog.
-    static GType dialogClass = 0;
-    if (dialogClass == 0) dialogClass = g_type_from_name(dialogClassName);
-    if (dialogClass == 0) return TRUE;
     void* widget = g_value_peek_pointer(arguments);
-    if (g_type_check_instance_is_a(static_cast<GTypeInstance*>(widget), dialogClass) != FALSE &&
-        library.open(libraryName)) {
-        library.attachPage(widget);
-    }
+    if (mayHavePage(widget) && library.open(libraryName)) library.attachPage(widget);
     return TRUE;
 }
 
