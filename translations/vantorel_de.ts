@@ -1669,6 +1669,136 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
         <source>install it again</source>
         <translation>installieren Sie es neu</translation>
     </message>
+    <message>
+        <source>qt, gtk or gimp. Without PROGRAMS, all that are installed.</source>
+        <translation>qt, gtk oder gimp. Ohne PROGRAMS alle, die installiert sind.</translation>
+    </message>
+    <message>
+        <source>Print whether the page is in the dialogs; so does the command without an option.</source>
+        <translation>Ausgeben, ob die Seite in den Dialogen ist; das tut auch der Befehl ohne Option.</translation>
+    </message>
+    <message>
+        <source>Add the page to the colour dialogs.</source>
+        <translation>Die Seite zu den Farbdialogen hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Take the page out of the colour dialogs, and remove all that --on has written.</source>
+        <translation>Die Seite aus den Farbdialogen nehmen und alles entfernen, was --on geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Add the colour page to the colour dialogs of other programs.
+Programs of Qt and of GTK 3, and GIMP, then show the page in their own colour dialogs. Nothing is changed before you use --on, which changes your own settings only.</source>
+        <translation>Die Farbseite zu den Farbdialogen anderer Programme hinzufügen.
+Programme mit Qt und GTK 3 sowie GIMP zeigen die Seite dann in ihren eigenen Farbdialogen. Ohne --on wird nichts geändert, und --on ändert nur Ihre eigenen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins of &quot;dialogs --on&quot;, and what its option --off restores.</source>
+        <translation>Die Plug-ins von „dialogs --on“ und was die Option --off wiederherstellt.</translation>
+    </message>
+    <message>
+        <source>The environment in which programs find these plug-ins.</source>
+        <translation>Die Umgebung, in der Programme diese Plug-ins finden.</translation>
+    </message>
+    <message>
+        <source>GTK&apos;s list of modules, to which ours is added.</source>
+        <translation>Die Modulliste von GTK, in die unser Modul eingetragen wird.</translation>
+    </message>
+    <message>
+        <source>The programs whose dialogs stay as they are, one per line.</source>
+        <translation>Die Programme, deren Dialoge bleiben, wie sie sind, eines je Zeile.</translation>
+    </message>
+    <message>
+        <source>no page for the dialogs of other programs is installed</source>
+        <translation>es ist keine Seite für die Dialoge anderer Programme installiert</translation>
+    </message>
+    <message>
+        <source>install the package for the programs</source>
+        <translation>installieren Sie das Paket für die Programme</translation>
+    </message>
+    <message>
+        <source>you have no folder for your settings</source>
+        <translation>Sie haben keinen Ordner für Ihre Einstellungen</translation>
+    </message>
+    <message>
+        <source>set HOME</source>
+        <translation>setzen Sie HOME</translation>
+    </message>
+    <message>
+        <source>the libraries of Vantorel are not beside this program</source>
+        <translation>die Bibliotheken von Vantorel liegen nicht neben diesem Programm</translation>
+    </message>
+    <message>
+        <source>use the installed program</source>
+        <translation>verwenden Sie das installierte Programm</translation>
+    </message>
+    <message>
+        <source>%1: not installed</source>
+        <translation>%1: nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: aus</translation>
+    </message>
+    <message>
+        <source>%1: off; start it once, then turn it on</source>
+        <translation>%1: aus; starten Sie es einmal und schalten Sie dann ein</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: ein</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login</source>
+        <translation>%1: ein, ab der nächsten Anmeldung</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login, because this desktop sets its modules itself</source>
+        <translation>%1: ein, ab der nächsten Anmeldung, weil diese Arbeitsumgebung die Module selbst festlegt</translation>
+    </message>
+    <message>
+        <source>%1: on, but for another version; turn it on again</source>
+        <translation>%1: ein, aber für eine andere Version; schalten Sie es noch einmal ein</translation>
+    </message>
+    <message>
+        <source>%1: off; to remove the rest, turn it off again after your next login</source>
+        <translation>%1: aus; schalten Sie nach der nächsten Anmeldung noch einmal aus, um den Rest zu entfernen</translation>
+    </message>
+    <message>
+        <source>another program is changing the colour dialogs</source>
+        <translation>ein anderes Programm ändert gerade die Farbdialoge</translation>
+    </message>
+    <message>
+        <source>try again</source>
+        <translation>versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>the page for %1 is not installed</source>
+        <translation>die Seite für %1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>install the package for it</source>
+        <translation>installieren Sie das Paket dafür</translation>
+    </message>
+    <message>
+        <source>GIMP has no folder for your modules</source>
+        <translation>GIMP hat keinen Ordner für Ihre Module</translation>
+    </message>
+    <message>
+        <source>start GIMP once to create it</source>
+        <translation>starten Sie GIMP einmal, um ihn anzulegen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a character that the list of plug-ins of a desktop cannot have</source>
+        <translation>„%1“ enthält ein Zeichen, das in der Plug-in-Liste einer Arbeitsumgebung nicht vorkommen kann</translation>
+    </message>
+    <message>
+        <source>use a data folder without : &quot; &apos; \ $ and `</source>
+        <translation>verwenden Sie einen Datenordner ohne : &quot; &apos; \ $ und `</translation>
+    </message>
+    <message>
+        <source>make it a readable file, or remove it</source>
+        <translation>machen Sie es zu einer lesbaren Datei oder entfernen Sie es</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -1947,6 +2077,25 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::DialogSwitchesWindow</name>
+    <message>
+        <source>Dialogs of other programs</source>
+        <translation>Dialoge anderer Programme</translation>
+    </message>
+    <message>
+        <source>The page of this panel can be in the colour dialogs of other programs, beside their own controls. A switch changes only your own settings, and takes all of it back when you turn it off.</source>
+        <translation>Die Seite dieses Fensters kann in den Farbdialogen anderer Programme stehen, neben deren eigenen Bedienelementen. Ein Schalter ändert nur Ihre eigenen Einstellungen und nimmt alles zurück, wenn Sie ihn ausschalten.</translation>
+    </message>
+    <message>
+        <source>Programs made with Qt 5 or Qt 6</source>
+        <translation>Programme mit Qt 5 oder Qt 6</translation>
+    </message>
+    <message>
+        <source>Programs made with GTK 3</source>
+        <translation>Programme mit GTK 3</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>
@@ -2213,6 +2362,10 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Next control</source>
         <translation>Nächstes Bedienelement</translation>
+    </message>
+    <message>
+        <source>Dialogs of other programs...</source>
+        <translation>Dialoge anderer Programme …</translation>
     </message>
 </context>
 <context>

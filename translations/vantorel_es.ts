@@ -1669,6 +1669,136 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <source>install it again</source>
         <translation>vuelva a instalarlo</translation>
     </message>
+    <message>
+        <source>qt, gtk or gimp. Without PROGRAMS, all that are installed.</source>
+        <translation>qt, gtk o gimp. Sin PROGRAMS, todos los instalados.</translation>
+    </message>
+    <message>
+        <source>Print whether the page is in the dialogs; so does the command without an option.</source>
+        <translation>Mostrar si la página está en los diálogos; lo mismo hace la orden sin opciones.</translation>
+    </message>
+    <message>
+        <source>Add the page to the colour dialogs.</source>
+        <translation>Añadir la página a los diálogos de color.</translation>
+    </message>
+    <message>
+        <source>Take the page out of the colour dialogs, and remove all that --on has written.</source>
+        <translation>Quitar la página de los diálogos de color y borrar todo lo que --on ha escrito.</translation>
+    </message>
+    <message>
+        <source>Add the colour page to the colour dialogs of other programs.
+Programs of Qt and of GTK 3, and GIMP, then show the page in their own colour dialogs. Nothing is changed before you use --on, which changes your own settings only.</source>
+        <translation>Añadir la página de color a los diálogos de color de otros programas.
+Los programas de Qt y de GTK 3, y GIMP, muestran entonces la página en sus propios diálogos de color. Nada cambia antes de usar --on, que solo cambia sus propios ajustes.</translation>
+    </message>
+    <message>
+        <source>The plug-ins of &quot;dialogs --on&quot;, and what its option --off restores.</source>
+        <translation>Los complementos de «dialogs --on» y lo que su opción --off restaura.</translation>
+    </message>
+    <message>
+        <source>The environment in which programs find these plug-ins.</source>
+        <translation>El entorno en el que los programas encuentran estos complementos.</translation>
+    </message>
+    <message>
+        <source>GTK&apos;s list of modules, to which ours is added.</source>
+        <translation>La lista de módulos de GTK, a la que se añade el nuestro.</translation>
+    </message>
+    <message>
+        <source>The programs whose dialogs stay as they are, one per line.</source>
+        <translation>Los programas cuyos diálogos quedan como están, uno por línea.</translation>
+    </message>
+    <message>
+        <source>no page for the dialogs of other programs is installed</source>
+        <translation>no hay ninguna página instalada para los diálogos de otros programas</translation>
+    </message>
+    <message>
+        <source>install the package for the programs</source>
+        <translation>instale el paquete para los programas</translation>
+    </message>
+    <message>
+        <source>you have no folder for your settings</source>
+        <translation>no tiene una carpeta para sus ajustes</translation>
+    </message>
+    <message>
+        <source>set HOME</source>
+        <translation>defina HOME</translation>
+    </message>
+    <message>
+        <source>the libraries of Vantorel are not beside this program</source>
+        <translation>las bibliotecas de Vantorel no están junto a este programa</translation>
+    </message>
+    <message>
+        <source>use the installed program</source>
+        <translation>use el programa instalado</translation>
+    </message>
+    <message>
+        <source>%1: not installed</source>
+        <translation>%1: no instalado</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: desactivado</translation>
+    </message>
+    <message>
+        <source>%1: off; start it once, then turn it on</source>
+        <translation>%1: desactivado; inícielo una vez y actívelo después</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: activado</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login</source>
+        <translation>%1: activado a partir de su próximo inicio de sesión</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login, because this desktop sets its modules itself</source>
+        <translation>%1: activado a partir de su próximo inicio de sesión, porque este escritorio fija los módulos</translation>
+    </message>
+    <message>
+        <source>%1: on, but for another version; turn it on again</source>
+        <translation>%1: activado, pero para otra versión; actívelo de nuevo</translation>
+    </message>
+    <message>
+        <source>%1: off; to remove the rest, turn it off again after your next login</source>
+        <translation>%1: desactivado; para borrar el resto, desactívelo otra vez tras su próximo inicio de sesión</translation>
+    </message>
+    <message>
+        <source>another program is changing the colour dialogs</source>
+        <translation>otro programa está cambiando los diálogos de color</translation>
+    </message>
+    <message>
+        <source>try again</source>
+        <translation>inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>the page for %1 is not installed</source>
+        <translation>la página para %1 no está instalada</translation>
+    </message>
+    <message>
+        <source>install the package for it</source>
+        <translation>instale el paquete correspondiente</translation>
+    </message>
+    <message>
+        <source>GIMP has no folder for your modules</source>
+        <translation>GIMP no tiene una carpeta para sus módulos</translation>
+    </message>
+    <message>
+        <source>start GIMP once to create it</source>
+        <translation>inicie GIMP una vez para crearla</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a character that the list of plug-ins of a desktop cannot have</source>
+        <translation>«%1» tiene un carácter que la lista de complementos de un escritorio no admite</translation>
+    </message>
+    <message>
+        <source>use a data folder without : &quot; &apos; \ $ and `</source>
+        <translation>use una carpeta de datos sin : &quot; &apos; \ $ ni `</translation>
+    </message>
+    <message>
+        <source>make it a readable file, or remove it</source>
+        <translation>conviértalo en un archivo legible o bórrelo</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -1947,6 +2077,25 @@ Controles y gráficos: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::DialogSwitchesWindow</name>
+    <message>
+        <source>Dialogs of other programs</source>
+        <translation>Diálogos de otros programas</translation>
+    </message>
+    <message>
+        <source>The page of this panel can be in the colour dialogs of other programs, beside their own controls. A switch changes only your own settings, and takes all of it back when you turn it off.</source>
+        <translation>La página de este panel puede estar en los diálogos de color de otros programas, junto a sus propios controles. Un interruptor solo cambia sus propios ajustes y deshace todo cuando lo desactiva.</translation>
+    </message>
+    <message>
+        <source>Programs made with Qt 5 or Qt 6</source>
+        <translation>Programas hechos con Qt 5 o Qt 6</translation>
+    </message>
+    <message>
+        <source>Programs made with GTK 3</source>
+        <translation>Programas hechos con GTK 3</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>
@@ -2213,6 +2362,10 @@ Controles y gráficos: AA %6</translation>
     <message>
         <source>Next control</source>
         <translation>Control siguiente</translation>
+    </message>
+    <message>
+        <source>Dialogs of other programs...</source>
+        <translation>Diálogos de otros programas...</translation>
     </message>
 </context>
 <context>

@@ -1669,6 +1669,136 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <source>install it again</source>
         <translation>réinstallez-le</translation>
     </message>
+    <message>
+        <source>qt, gtk or gimp. Without PROGRAMS, all that are installed.</source>
+        <translation>qt, gtk ou gimp. Sans PROGRAMS, tous ceux qui sont installés.</translation>
+    </message>
+    <message>
+        <source>Print whether the page is in the dialogs; so does the command without an option.</source>
+        <translation>Indiquer si la page est dans les dialogues ; la commande sans option fait de même.</translation>
+    </message>
+    <message>
+        <source>Add the page to the colour dialogs.</source>
+        <translation>Ajouter la page aux dialogues de couleur.</translation>
+    </message>
+    <message>
+        <source>Take the page out of the colour dialogs, and remove all that --on has written.</source>
+        <translation>Retirer la page des dialogues de couleur et supprimer tout ce que --on a écrit.</translation>
+    </message>
+    <message>
+        <source>Add the colour page to the colour dialogs of other programs.
+Programs of Qt and of GTK 3, and GIMP, then show the page in their own colour dialogs. Nothing is changed before you use --on, which changes your own settings only.</source>
+        <translation>Ajouter la page de couleur aux dialogues de couleur d&apos;autres programmes.
+Les programmes de Qt et de GTK 3, ainsi que GIMP, affichent alors la page dans leurs propres dialogues de couleur. Rien ne change avant --on, qui ne modifie que vos propres réglages.</translation>
+    </message>
+    <message>
+        <source>The plug-ins of &quot;dialogs --on&quot;, and what its option --off restores.</source>
+        <translation>Les modules de « dialogs --on » et ce que l&apos;option --off rétablit.</translation>
+    </message>
+    <message>
+        <source>The environment in which programs find these plug-ins.</source>
+        <translation>L&apos;environnement dans lequel les programmes trouvent ces modules.</translation>
+    </message>
+    <message>
+        <source>GTK&apos;s list of modules, to which ours is added.</source>
+        <translation>La liste des modules de GTK, à laquelle le nôtre est ajouté.</translation>
+    </message>
+    <message>
+        <source>The programs whose dialogs stay as they are, one per line.</source>
+        <translation>Les programmes dont les dialogues restent tels quels, un par ligne.</translation>
+    </message>
+    <message>
+        <source>no page for the dialogs of other programs is installed</source>
+        <translation>aucune page pour les dialogues d&apos;autres programmes n&apos;est installée</translation>
+    </message>
+    <message>
+        <source>install the package for the programs</source>
+        <translation>installez le paquet pour ces programmes</translation>
+    </message>
+    <message>
+        <source>you have no folder for your settings</source>
+        <translation>vous n&apos;avez pas de dossier pour vos réglages</translation>
+    </message>
+    <message>
+        <source>set HOME</source>
+        <translation>définissez HOME</translation>
+    </message>
+    <message>
+        <source>the libraries of Vantorel are not beside this program</source>
+        <translation>les bibliothèques de Vantorel ne sont pas à côté de ce programme</translation>
+    </message>
+    <message>
+        <source>use the installed program</source>
+        <translation>utilisez le programme installé</translation>
+    </message>
+    <message>
+        <source>%1: not installed</source>
+        <translation>%1 : non installé</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1 : désactivé</translation>
+    </message>
+    <message>
+        <source>%1: off; start it once, then turn it on</source>
+        <translation>%1 : désactivé ; démarrez-le une fois, puis activez</translation>
+    </message>
+    <message>
+        <source>%1: on</source>
+        <translation>%1 : activé</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login</source>
+        <translation>%1 : activé à partir de votre prochaine session</translation>
+    </message>
+    <message>
+        <source>%1: on after your next login, because this desktop sets its modules itself</source>
+        <translation>%1 : activé à partir de votre prochaine session, car ce bureau fixe lui-même les modules</translation>
+    </message>
+    <message>
+        <source>%1: on, but for another version; turn it on again</source>
+        <translation>%1 : activé, mais pour une autre version ; activez-le de nouveau</translation>
+    </message>
+    <message>
+        <source>%1: off; to remove the rest, turn it off again after your next login</source>
+        <translation>%1 : désactivé ; pour supprimer le reste, désactivez de nouveau à votre prochaine session</translation>
+    </message>
+    <message>
+        <source>another program is changing the colour dialogs</source>
+        <translation>un autre programme modifie les dialogues de couleur</translation>
+    </message>
+    <message>
+        <source>try again</source>
+        <translation>réessayez</translation>
+    </message>
+    <message>
+        <source>the page for %1 is not installed</source>
+        <translation>la page pour %1 n&apos;est pas installée</translation>
+    </message>
+    <message>
+        <source>install the package for it</source>
+        <translation>installez le paquet correspondant</translation>
+    </message>
+    <message>
+        <source>GIMP has no folder for your modules</source>
+        <translation>GIMP n&apos;a pas de dossier pour vos modules</translation>
+    </message>
+    <message>
+        <source>start GIMP once to create it</source>
+        <translation>démarrez GIMP une fois pour le créer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a character that the list of plug-ins of a desktop cannot have</source>
+        <translation>« %1 » contient un caractère que la liste des modules d&apos;un bureau n&apos;admet pas</translation>
+    </message>
+    <message>
+        <source>use a data folder without : &quot; &apos; \ $ and `</source>
+        <translation>utilisez un dossier de données sans : &quot; &apos; \ $ ni `</translation>
+    </message>
+    <message>
+        <source>make it a readable file, or remove it</source>
+        <translation>faites-en un fichier lisible ou supprimez-le</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -1947,6 +2077,25 @@ Commandes et graphismes : AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::DialogSwitchesWindow</name>
+    <message>
+        <source>Dialogs of other programs</source>
+        <translation>Dialogues d&apos;autres programmes</translation>
+    </message>
+    <message>
+        <source>The page of this panel can be in the colour dialogs of other programs, beside their own controls. A switch changes only your own settings, and takes all of it back when you turn it off.</source>
+        <translation>La page de ce panneau peut figurer dans les dialogues de couleur d&apos;autres programmes, à côté de leurs propres éléments. Un interrupteur ne change que vos propres réglages et annule tout quand vous le désactivez.</translation>
+    </message>
+    <message>
+        <source>Programs made with Qt 5 or Qt 6</source>
+        <translation>Programmes faits avec Qt 5 ou Qt 6</translation>
+    </message>
+    <message>
+        <source>Programs made with GTK 3</source>
+        <translation>Programmes faits avec GTK 3</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>
@@ -2213,6 +2362,10 @@ Commandes et graphismes : AA %6</translation>
     <message>
         <source>Next control</source>
         <translation>Commande suivante</translation>
+    </message>
+    <message>
+        <source>Dialogs of other programs...</source>
+        <translation>Dialogues d&apos;autres programmes...</translation>
     </message>
 </context>
 <context>

@@ -31,7 +31,9 @@ CommandLine::CommandLine(GivenArguments given)
       yes(given.has("--yes")),
       undo(given.has("--undo")),
       copy(given.has("--copy")),
-      panel(given.has("--panel"))
+      panel(given.has("--panel")),
+      on(given.has("--on")),
+      off(given.has("--off"))
 {
 }
 

@@ -31,6 +31,8 @@ struct CommandLine {
     bool undo = false;
     bool copy = false;
     bool panel = false;
+    bool on = false;
+    bool off = false;
 };
 
 }  // namespace vantorel

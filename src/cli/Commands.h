@@ -58,6 +58,8 @@ int importLists(Session& session, const CommandLine& commandLine);
 int exportList(Session& session, const CommandLine& commandLine);
 int publishList(Session& session, const CommandLine& commandLine);
 
+int switchDialogs(Session& session, const CommandLine& commandLine);
+
 int drawWheel(Session& session, const CommandLine& commandLine);
 int drawPalette(Session& session, const CommandLine& commandLine);
 

@@ -39,7 +39,7 @@ constexpr std::pair<std::string_view, Function> functions[] = {
     {"list publish", publishList}, {"snippets", printSnippets},  {"contrast", printContrast},
     {"wheel", drawWheel},          {"palette", drawPalette},     {"pick", pickColor},
     {"choose", chooseColor},       {"panel", startPanel},        {"completions", printCompletions},
-    {"manpage", printManualPage},
+    {"manpage", printManualPage},  {"dialogs", switchDialogs},
 };
 
 int runArguments(Session& session, const std::vector<std::string>& arguments)

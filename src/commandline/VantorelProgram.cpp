@@ -135,6 +135,23 @@ constexpr OptionRow paletteOptions[] = {
 
 constexpr OptionRow pickOptions[] = {{"--copy", {}, "Copy the colour to the clipboard."}};
 constexpr OperandRow chooseOperands[] = {{"COLOR", "The colour to start with.", 0, 1}};
+std::vector<Choice> dialogPrograms()
+{
+    return {{"qt", "Qt 5, Qt 6"}, {"gtk", "GTK 3"}, {"gimp", "GIMP 2.10, GIMP 3.0"}};
+}
+constexpr OperandRow dialogsOperands[] = {
+    {.value = "PROGRAMS",
+     .text = "qt, gtk or gimp. Without PROGRAMS, all that are installed.",
+     .choices = dialogPrograms}};
+constexpr OptionRow dialogsOptions[] = {
+    {.name = "--status",
+     .text = "Print whether the page is in the dialogs; so does the command without an option.",
+     .excludes = "--on"},
+    {.name = "--on", .text = "Add the page to the colour dialogs.", .excludes = "--off"},
+    {.name = "--off",
+     .text = "Take the page out of the colour dialogs, and remove all that --on has written.",
+     .excludes = "--status"},
+};
 constexpr OperandRow completionsOperands[] = {{"SHELL", "bash, zsh or fish.", 1, 1, shells}};
 constexpr OptionRow completionsOptions[] = {
     {"--panel", {}, "Print the completion script of vantorel-panel."}};
@@ -174,6 +191,11 @@ constexpr CommandRow vantorelCommands[] = {
     {.name = "panel",
      .text = "Start the colour panel with the options that follow. \"panel --help\" lists them.",
      .handsOnTo = &vantorelPanelProgram.command},
+    {"dialogs",
+     "Add the colour page to the colour dialogs of other programs.\n"
+     "Programs of Qt and of GTK 3, and GIMP, then show the page in their own colour dialogs. "
+     "Nothing is changed before you use --on, which changes your own settings only.",
+     dialogsOperands, dialogsOptions},
     {"completions",
      "Print a completion script for a shell.\nFor bash: source <(vantorel completions bash)",
      completionsOperands, completionsOptions},
@@ -202,6 +224,13 @@ constexpr TermRow files[] = {
     {"$XDG_DATA_HOME/Vantorel/Settings.plist",
      "The settings of the colour picker. They are never changed."},
     {"$XDG_DATA_HOME/Vantorel/Palettes/*.gpl", "Your colour lists."},
+    {"$XDG_DATA_HOME/Vantorel/Dialogs",
+     "The plug-ins of \"dialogs --on\", and what its option --off restores."},
+    {"$XDG_CONFIG_HOME/environment.d/60-vantorel-*.conf, ~/.xsessionrc",
+     "The environment in which programs find these plug-ins."},
+    {"$XDG_CONFIG_HOME/gtk-3.0/settings.ini", "GTK's list of modules, to which ours is added."},
+    {"$XDG_CONFIG_HOME/Vantorel/programs-without-page",
+     "The programs whose dialogs stay as they are, one per line."},
     {"$XDG_DATA_HOME/Vantorel/Published/*.plist",
      "The files that \"list publish\" replaced, for its option --undo."},
 };

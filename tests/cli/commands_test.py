@@ -81,7 +81,8 @@ EXAMPLES = [
 
 # Options that other tests cover.
 TRIED_ELSEWHERE = {"list import": {"--name", "--yes"}, "list publish": {"--yes", "--undo"},
-                   "palette": {"--png", "--size"}, "pick": {"--copy"}, "list export": {"--output"}}
+                   "palette": {"--png", "--size"}, "pick": {"--copy"}, "list export": {"--output"},
+                   "dialogs": {"--status", "--on", "--off"}}
 
 USAGE_ERRORS = [
     ([], "the command is missing"),
@@ -232,7 +233,7 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 13)
+        self.assertEqual(len(commands), 14)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue

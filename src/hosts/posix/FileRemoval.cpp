@@ -12,4 +12,11 @@ bool removeFile(const std::string& path)
     return true;
 }
 
+bool removeEmptyFolder(const std::string& path)
+{
+    if (uninterrupted([&] { return ::rmdir(path.c_str()); }) != 0) return errno == ENOENT;
+    synchronizeFolder(folderOfPath(path));
+    return true;
+}
+
 }  // namespace vantorel

@@ -97,7 +97,7 @@ void addSubmenu(QMenu& target, const HostMenuItem& item)
         });
         // An empty menu would not open, without any explanation.
         if (submenu->isEmpty()) {
-            submenu->addAction(translatedText(u"None"))->setEnabled(false);
+            submenu->addAction(plainTitle(translatedText(u"None")))->setEnabled(false);
         }
     });
 }

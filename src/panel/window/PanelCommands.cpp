@@ -6,6 +6,7 @@
 #include "hosts/qt/TextScale.h"
 #include "hosts/qt/WaylandSession.h"
 #include "panel/widgets/PanelIcons.h"
+#include "panel/window/DialogSwitchesWindow.h"
 #include "panel/window/ShortcutOverlay.h"
 
 #include <algorithm>
@@ -74,6 +75,8 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     // Wayland leaves the order of windows to the user.
     _stayOnTop->setEnabled(!isWaylandSession());
     connect(_stayOnTop, &QAction::toggled, this, &PanelCommands::setStaysOnTop);
+    QAction* showDialogSwitches =
+        add(tr("Dialogs of other programs..."), {}, *this, &PanelCommands::showDialogSwitches);
     QAction* showShortcuts =
         add(tr("Keyboard shortcuts"), {Qt::Key_F1}, *this, &PanelCommands::showShortcuts);
     QAction* quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, window, &QWidget::close);
@@ -98,6 +101,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(previousPage);
     _menu->addAction(_stayOnTop);
     _menu->addSeparator();
+    _menu->addAction(showDialogSwitches);
     _menu->addAction(showShortcuts);
     _menu->addAction(quit);
 }
@@ -140,6 +144,11 @@ void PanelCommands::setStaysOnTop(bool flag)
     const bool wasVisible = _window.isVisible();
     _window.setWindowFlag(Qt::WindowStaysOnTopHint, flag);
     if (wasVisible) _window.show();
+}
+
+void PanelCommands::showDialogSwitches()
+{
+    (new DialogSwitchesWindow(_window))->open();
 }
 
 void PanelCommands::showShortcuts()

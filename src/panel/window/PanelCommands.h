@@ -41,6 +41,7 @@ private:
     void fillCopyMenu();
     void updateHistory();
     void setStaysOnTop(bool flag);
+    void showDialogSwitches();
     void showShortcuts();
 
     QWidget& _window;

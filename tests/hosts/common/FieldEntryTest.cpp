@@ -61,7 +61,7 @@ private:
         if (_order == Caret::movesBeforeReport) {
             reaction();
         } else {
-            _deferred.push_back(std::move(reaction));
+            _deferred.push_back(reaction);
         }
     }
 
