@@ -48,12 +48,32 @@ bool SelectorPage::show(const LoadedPlugin& plugin)
     return true;
 }
 
-/// GTK 2 does not unmap what is in a window that is hidden.
+bool SelectorPage::makeRoom(HostSize preferred, HostSize least)
+{
+    _preferredSize = preferred;
+    _leastSize = least;
+    return GtkEmbeddedPage::makeRoom(preferred, least);
+}
+
+HostSize SelectorPage::growHolder(HostSize growth)
+{
+    // The user alone decides how wide a dock is.
+    return isInDialog() ? GtkEmbeddedPage::growHolder(growth) : HostSize{};
+}
+
+bool SelectorPage::isInDialog() const
+{
+    return GTK_IS_DIALOG(gtk_widget_get_toplevel(holder().widget()));
+}
+
 void SelectorPage::followWindow()
 {
     _windowSignals.clear();
     GtkWidget* window = gtk_widget_get_toplevel(holder().widget());
     if (!GTK_IS_WINDOW(window)) return;
+    // GIMP gives a selector the least size that it asks for, and docks are narrow.
+    holder().setLeastSize(isInDialog() ? _preferredSize : _leastSize);
+    // GTK 2 does not unmap what is in a window that is hidden.
     for (const char* signal : {"map", "unmap"})
         _windowSignals.connect<void>(window, signal, [this] { visibilityDidChange(); });
     visibilityDidChange();

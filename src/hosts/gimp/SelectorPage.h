@@ -18,6 +18,8 @@ private:
     ~SelectorPage() override;
 
     bool show(const LoadedPlugin& plugin);
+    bool makeRoom(HostSize preferred, HostSize least) override;
+    HostSize growHolder(HostSize growth) override;
     void colorChosen(const HostColor& color, bool isFinal) override;
     void dialogIsAnswered(bool isAccepted) override;
     void dialogIsGone() override;
@@ -25,11 +27,14 @@ private:
     void followWindow();
     void visibilityDidChange();
     void followOpacity();
+    [[nodiscard]] bool isInDialog() const;
     void addIcon();
 
     /// Null once it is destroyed.
     GimpColorSelector* _selector;
     GtkConnections _windowSignals;
+    HostSize _preferredSize;
+    HostSize _leastSize;
 };
 
 }  // namespace vantorel

@@ -41,6 +41,7 @@ protected:
     [[nodiscard]] EmbeddedPage& page() { return _panel.page(); }
     [[nodiscard]] GtkPagePanel& panel() { return _panel; }
     [[nodiscard]] GtkPageHolder& holder() { return _holder; }
+    [[nodiscard]] const GtkPageHolder& holder() const { return _holder; }
     /// Ended when the dialog is destroyed.
     [[nodiscard]] GtkConnections& dialogSignals() { return _signals; }
 

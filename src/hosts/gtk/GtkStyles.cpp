@@ -225,12 +225,14 @@ void styleForLightGround(GtkWidget* widget)
 #else
     // A theme can paint buttons with pictures, and paints what the mouse is over. Their texts stay
     // the theme's, too.
-    const bool hasOwnGround = GTK_IS_BUTTON(widget) && !GTK_IS_CHECK_BUTTON(widget) &&
-                              gtk_button_get_relief(GTK_BUTTON(widget)) != GTK_RELIEF_NONE;
-    if (hasOwnGround) return;
+    const bool isCheckBox = GTK_IS_CHECK_BUTTON(widget);
+    const bool isButton = GTK_IS_BUTTON(widget) && !isCheckBox;
+    if (isButton && gtk_button_get_relief(GTK_BUTTON(widget)) != GTK_RELIEF_NONE) return;
     const GdkColor dark = gdkColor(textOnLightGround);
     gtk_widget_modify_fg(widget, GTK_STATE_NORMAL, &dark);
-    if (!GTK_IS_CHECK_BUTTON(widget)) return;
+    // A check box that is checked is active.
+    if (!isButton) gtk_widget_modify_fg(widget, GTK_STATE_ACTIVE, &dark);
+    if (!isCheckBox) return;
 #endif
     // The text of a button is a widget of its own.
     if (GtkWidget* text = gtk_bin_get_child(GTK_BIN(widget))) styleForLightGround(text);

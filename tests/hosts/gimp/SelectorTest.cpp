@@ -193,6 +193,29 @@ TEST_F(SelectorTest, APageThatIsHiddenShowsTheColourWhenItIsShownAgain)
     EXPECT_EQ(textOf("_fullHexText"), "#3366FF");
 }
 
+TEST_F(SelectorTest, InADockThePageIsAsSmallAsItCanBeAndOpensItsSettings)
+{
+    const auto sizeOfPage = [this] {
+        GtkRequisition size;
+        gtk_widget_get_size_request(widgets().at("vantorel-page"), &size.width, &size.height);
+        return size;
+    };
+    const GtkRequisition inDialog = sizeOfPage();
+    GtkWidget* dock = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+    gtk_widget_reparent(GTK_WIDGET(selector), dock);
+    const GtkRequisition inDock = sizeOfPage();
+    EXPECT_LT(inDock.width, inDialog.width);
+    EXPECT_LT(inDock.height, inDialog.height);
+    gtk_widget_show(dock);
+    handleEvents();
+    gtk_button_clicked(GTK_BUTTON(widgets().at("settingsButton")));
+    handleEvents();
+    EXPECT_TRUE(gtk_widget_get_mapped(widgets().at("settingsDoneButton")));
+    EXPECT_EQ(sizeOfPage().width, inDock.width);
+    gtk_widget_destroy(dock);
+    handleEvents();
+}
+
 TEST_F(SelectorTest, ASecondSelectorIsIndependent)
 {
     auto* other = static_cast<GtkWidget*>(g_object_new(loadedSelectorType(), nullptr));

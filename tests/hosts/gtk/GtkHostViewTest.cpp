@@ -85,7 +85,8 @@ public:
     explicit DarkTheme(GtkWidget* window)
     {
         gtk_rc_parse_string(
-            "style \"dark-trial\" { fg[NORMAL] = \"#eeeeee\" bg[NORMAL] = \"#333333\" }\n"
+            "style \"dark-trial\" { fg[NORMAL] = \"#eeeeee\" fg[ACTIVE] = \"#eeeeee\" bg[NORMAL] = "
+            "\"#333333\" }\n"
             "widget \"dark-trial*\" style \"dark-trial\"");
         gtk_widget_set_name(window, "dark-trial");
         gtk_widget_reset_rc_styles(window);
@@ -202,6 +203,7 @@ TEST_F(GtkHostTest, TextsInAHandPaintedViewAreDarkInADarkTheme)
         view->addSubview(*subview);
     showWindow();
     const DarkTheme theme(window());
+    box->setState(1);
     handleEvents();
     EXPECT_GT(lightnessOf(themeTextColor(gtkWidgetOf(beside.get()))), 0.5);
     GtkWidget* textOfBox = gtk_bin_get_child(GTK_BIN(gtkWidgetOf(box.get())));
