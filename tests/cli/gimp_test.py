@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Publishes lists and opens them in GIMP. Skipped if GIMP is not installed, because it is large.
+"""Publishes lists and opens them in GIMP 2.10. Skipped if that is not installed, because it is large.
 
     gimp_test.py PROGRAM
 
@@ -10,7 +10,7 @@ import shutil
 
 from program import ProgramTest, subprocess, sys, unittest
 
-GIMP = shutil.which("gimp-console")
+GIMP = shutil.which("gimp-console-2.10")
 
 # GIMP writes its messages to standard error, each followed by an empty line.
 PRINT_PALETTE = """
@@ -78,6 +78,6 @@ class GimpTest(ProgramTest):
 
 if __name__ == "__main__":
     if GIMP is None:
-        print("skipped: gimp-console is not installed")
+        print("skipped: gimp-console-2.10 is not installed")
         sys.exit(77)
     unittest.main(argv=sys.argv[:1])
