@@ -7,6 +7,7 @@ namespace vantorel {
 
 /// The page in one of GIMP's colour selectors. GIMP has a selector for each of its colour dialogs,
 /// shows one selector of a dialog at a time, and keeps dialogs that the user has closed.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class SelectorPage final : private GtkEmbeddedPage {
 public:
     /// Fills a new selector with a page. The selector stays empty if the page cannot be created.

@@ -8,6 +8,7 @@ namespace vantorel {
 /// The page in a dialog made with GTK: its panel and its holder, and their end. The derived class
 /// knows the dialog, and passes colours on. Create objects of it with `new`; they delete themselves
 /// when the dialog is destroyed, or the page has failed.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class GtkEmbeddedPage : protected EmbeddingDialog {
 public:
     GtkEmbeddedPage(const GtkEmbeddedPage&) = delete;

@@ -3,6 +3,7 @@
 #include <gdk/gdkx.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <string>
 
@@ -64,7 +65,8 @@ std::string foregroundOf(GtkWidget* editor)
     std::string code = "#";
     for (const double channel : channels) {
         char digits[8];
-        std::snprintf(digits, sizeof digits, "%02x", static_cast<unsigned>(channel * 255 + 0.5));
+        std::snprintf(digits, sizeof digits, "%02x",
+                      static_cast<unsigned>(std::lround(channel * 255)));
         code += digits;
     }
     return code;
