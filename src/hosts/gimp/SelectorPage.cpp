@@ -7,8 +7,8 @@
 namespace vantorel {
 namespace {
 
-/// GIMP's other selectors and its lists of colours may store floats.
-constexpr EmbeddingTraits traitsOfSelector{1e-6};
+/// GIMP may store colours in 16 bits a channel, or in floats.
+constexpr EmbeddingTraits traitsOfSelector{1e-5};
 
 constexpr int iconSize = 16;
 
@@ -107,7 +107,7 @@ void SelectorPage::addIcon()
 
 void SelectorPage::colorChosen(const HostColor& color, bool)
 {
-    // GIMP notes the end of a drag in the history of what the colour is for, as one more change.
+    // The end of a drag is not one more change.
     if (_selector != nullptr && color != colorOfSelector(_selector)) {
         setColorOfSelector(_selector, color);
     }

@@ -1,6 +1,7 @@
 #include "GtkHostFixture.h"
 #include "hosts/gimp/SelectorColor.h"
 
+#include <algorithm>
 #include <map>
 
 /// The module in a program that uses GIMP's libraries as GIMP does. VANTOREL_GIMP_MODULES names the
@@ -31,6 +32,26 @@ void collectNamedWidgets(GtkWidget* widget, gpointer data)
     widgets[gtk_widget_get_name(widget)] = widget;
     if (GTK_IS_CONTAINER(widget))
         gtk_container_forall(GTK_CONTAINER(widget), collectNamedWidgets, data);
+}
+
+void sendMouse(GtkWidget* area, GdkEventType type, double x, double y)
+{
+    const GdkEventCopy event(gdk_event_new(type));
+    event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(area)));
+    if (type == GDK_MOTION_NOTIFY) {
+        event->motion.x = x;
+        event->motion.y = y;
+        event->motion.state = GDK_BUTTON1_MASK;
+    } else {
+        event->button.x = x;
+        event->button.y = y;
+        event->button.button = 1;
+    }
+#if GTK_MAJOR_VERSION >= 3
+    GdkSeat* seat = gdk_display_get_default_seat(gtk_widget_get_display(area));
+    gdk_event_set_device(event.get(), gdk_seat_get_pointer(seat));
+#endif
+    gtk_widget_event(area, event.get());
 }
 
 /// A selector in a dialog with OK and Cancel.
@@ -137,6 +158,30 @@ TEST_F(SelectorTest, AnEntryIsOneChangeOfTheColourOfGIMP)
     enter("_fullHexText", "#12f");
     ASSERT_EQ(heard.size(), 1U);
     EXPECT_EQ(heard.front(), rgb(0x11, 0x22, 0xff));
+}
+
+TEST_F(SelectorTest, EachColourOfADragIsOneChange)
+{
+    showDialog();
+    followChanges();
+    GtkWidget* area = widgets().at("_hexColorsView-area");
+    GtkAllocation place;
+    gtk_widget_get_allocation(area, &place);
+    const double column = place.width * 0.1;
+    const auto row = [&](double part) { return place.height * part; };
+    std::vector<double> parts{0.3, 0.4, 0.5, 0.6};
+    GtkDeferral steps;
+    const std::function<void()> step = [&] {
+        if (parts.empty()) return sendMouse(area, GDK_BUTTON_RELEASE, column, row(0.6));
+        steps.callAfter(0, step);
+        sendMouse(area, GDK_MOTION_NOTIFY, column, row(parts.front()));
+        parts.erase(parts.begin());
+    };
+    steps.callAfter(0, step);
+    sendMouse(area, GDK_BUTTON_PRESS, column, row(0.2));
+    handleEvents();
+    EXPECT_GE(heard.size(), 4U);
+    EXPECT_EQ(std::ranges::adjacent_find(heard), heard.end()) << "a colour is reported twice";
 }
 
 TEST_F(SelectorTest, OpacityThatGIMPDoesNotShowStays)
