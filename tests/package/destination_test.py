@@ -25,13 +25,18 @@ class DestinationTest(TreeTest):
     def test_no_file_contains_the_path_of_the_destination_or_the_build(self):
         for name in files_below(self.destination):
             path = os.path.join(self.destination, name)
-            if not name.endswith((".so", ".a", ".png")) and "/bin/" not in name and not os.path.islink(path):
+            if not name.endswith((".so", ".a", ".png", "/vantorel-portal")) and "/bin/" not in name and not os.path.islink(path):
                 for folder in (self.destination, BUILD, SOURCES):
                     self.assertNotIn(folder, text_of(path), name)
 
     def test_the_service_file_has_the_prefix(self):
         service = text_of(f"{self.destination}{PREFIX}/share/dbus-1/services/org.vantorel.ColorPanel.service")
         self.assertIn(f"Exec={PREFIX}/bin/vantorel-panel --service\n", service)
+        portal = "org.freedesktop.impl.portal.desktop.vantorel.service"
+        service = text_of(f"{self.destination}{PREFIX}/share/dbus-1/services/{portal}")
+        program = f"{PREFIX}/lib/vantorel/vantorel-portal"
+        self.assertIn(f"Exec={program}\n", service)
+        self.assertTrue(os.access(self.destination + program, os.X_OK))
 
     def test_no_link_leads_out_of_the_tree(self):
         links = [name for name in files_below(self.destination) if os.path.islink(os.path.join(self.destination, name))]

@@ -3,10 +3,11 @@
 import pathlib
 import subprocess
 import sys
+import time
 
 from gi.repository import Gio, GLib
 
-from bussession import eventually, xdotool
+from bussession import PATIENCE, eventually, xdotool
 
 BACKEND, PORTAL, FOLDER = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3])
 NAME = "org.freedesktop.impl.portal.desktop.vantorel"
@@ -17,6 +18,14 @@ SERVICES = FOLDER / "services"
 CONFIGURATION = f"""<busconfig><type>session</type><listen>unix:path={FOLDER}/bus</listen>
 <servicedir>{SERVICES}</servicedir>
 <policy context="default"><allow send_destination="*"/><allow eavesdrop="true"/><allow own="*"/></policy></busconfig>"""
+
+
+def settle(is_over):
+    """Handles messages for half a second, or until that is true."""
+    end = time.monotonic() + 0.5
+    while not is_over() and time.monotonic() < end:
+        GLib.MainContext.default().iteration(False)
+        time.sleep(0.02)
 
 
 def magnifier_is_shown():
@@ -50,8 +59,12 @@ def pick_by_portal(bus, action):
     bus.call_sync("org.freedesktop.portal.Desktop", PATH, "org.freedesktop.portal.Screenshot", "PickColor",
                   GLib.Variant("(sa{sv})", ("", {"handle_token": GLib.Variant("s", token)})), None, 0, 60000, None)
     eventually(magnifier_is_shown, "the magnifier")
-    action()
-    eventually(lambda: answers, "the portal's response")
+    # It takes the mouse and the keyboard a moment after it is shown.
+    end = time.monotonic() + PATIENCE
+    while not answers and time.monotonic() < end:
+        action()
+        settle(lambda: answers)
+    expect(len(answers), 1, "responses of the portal")
     code, results = answers[0]
     return code, results.get("color")
 
