@@ -6,7 +6,7 @@ namespace vantorel {
 namespace {
 
 constexpr const char* pageName = "/QTXHexColorPicker.so";
-/// From PREFIX/lib/vantorel/pickers.
+/// From PREFIX/lib/vantorel/pickers, or a link to it, which the system follows before the dots.
 constexpr const char* translationsBesidePages = "/../../../share/vantorel/translations";
 
 const LoadedPlugin* opened = nullptr;

@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "ScopedEnvironment.h"
+#include "ScratchFolder.h"
+
+#include <filesystem>
+#include <string>
 
 namespace vantorel {
 namespace {
@@ -31,6 +35,15 @@ TEST_F(PageTranslationsTest, TheTranslationsBesideThePageAreUsed)
     EXPECT_EQ(pageTranslation("Vantorel", u"Settings"), u"Einstellungen");
     EXPECT_EQ(pageTranslation("DisplayNames", u"Uppercase"), u"Gro\u00df (A\u2013F)");
     EXPECT_EQ(pageTranslation("DisplayNames", u"Settings"), u"Settings");
+}
+
+TEST_F(PageTranslationsTest, TheFolderOfThePageMayBeALink)
+{
+    const ScratchFolder folder;
+    const std::string link = folder.pathOf("pickers");
+    std::filesystem::create_directory_symlink(VANTOREL_PICKERS, link);
+    ASSERT_TRUE(openPage(link.c_str()));
+    EXPECT_EQ(pageTranslation("Vantorel", u"Settings"), u"Einstellungen");
 }
 
 TEST_F(PageTranslationsTest, TheEnvironmentNamesTheLanguage)
