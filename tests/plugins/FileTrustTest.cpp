@@ -158,9 +158,9 @@ protected:
         FileTrustTest::SetUp();
         if (::geteuid() != 0) GTEST_SKIP() << "needs the administrator's rights";
     }
-    static void setOwner(const fs::path& path, uid_t owner)
+    static void setOwner(const fs::path& path, uid_t newOwner)
     {
-        ASSERT_EQ(::lchown(path.c_str(), owner, static_cast<gid_t>(-1)), 0);
+        ASSERT_EQ(::lchown(path.c_str(), newOwner, static_cast<gid_t>(-1)), 0);
     }
     [[nodiscard]] static std::string distrust(const fs::path& path, const TrustedUsers& users)
     {

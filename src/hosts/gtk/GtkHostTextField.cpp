@@ -235,7 +235,7 @@ bool GtkHostTextField::isVisible() const
 
 void GtkHostTextField::afterChange(const std::function<void()>& reaction)
 {
-    _reaction.callSoon(std::move(reaction));
+    _reaction.callSoon(reaction);
 }
 
 bool GtkHostTextField::offerText(const std::u16string& text)
