@@ -40,6 +40,7 @@ class PhraseArgument;
 /// A part of a message: an English text with a placeholder, `%1` to `%9`, for each argument.
 /// Arguments can be untrusted: placeholders in them are not replaced, and `inWords` makes them safe
 /// to print.
+// NOLINTNEXTLINE(clang-analyzer-core.uninitialized.Assign): `_text` always has a value.
 class Phrase {
 public:
     /// An empty phrase.

@@ -71,7 +71,7 @@ QFont fontOf(const HostControlDescription& description)
 
 QPalette paletteOnGround(const std::optional<HostColor>& groundColor)
 {
-    const QPalette themes = QApplication::palette();
+    QPalette themes = QApplication::palette();
     const HostColor window = hostColorFrom(themes.color(QPalette::Window));
     if (!groundColor || isDarkGround(*groundColor) == isDarkGround(window)) return themes;
     const QColor ground = qColorFrom(*groundColor);
