@@ -6,7 +6,7 @@
 
 namespace vantorel {
 
-/// Whether the desktop's XSETTINGS manager sets a value (XSETTINGS specification), such as
+/// Whether the desktop's XSETTINGS manager sets a value (XSETTINGS of freedesktop), such as
 /// "Gtk/Modules". False without an X server. GTK prefers these values to those in its settings.ini.
 [[nodiscard]] bool desktopSetsXSetting(std::string_view name);
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-/// A desktop of somebody else that sets GTK's modules (XSETTINGS specification). Prints "ready",
+/// A desktop of somebody else that sets GTK's modules (XSETTINGS of freedesktop). Prints "ready",
 /// and runs until it is killed.
 int main()
 {
