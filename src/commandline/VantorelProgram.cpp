@@ -135,6 +135,7 @@ constexpr OptionRow paletteOptions[] = {
 
 constexpr OptionRow pickOptions[] = {{"--copy", {}, "Copy the colour to the clipboard."}};
 constexpr OperandRow chooseOperands[] = {{"COLOR", "The colour to start with.", 0, 1}};
+
 std::vector<Choice> dialogPrograms()
 {
     return {{"qt", "Qt 5, Qt 6"}, {"gtk", "GTK 3"}, {"gimp", "GIMP 2.10, GIMP 3.0"}};
@@ -152,6 +153,7 @@ constexpr OptionRow dialogsOptions[] = {
      .text = "Take the page out of the colour dialogs, and remove all that --on has written.",
      .excludes = "--status"},
 };
+
 constexpr OperandRow completionsOperands[] = {{"SHELL", "bash, zsh or fish.", 1, 1, shells}};
 constexpr OptionRow completionsOptions[] = {
     {"--panel", {}, "Print the completion script of vantorel-panel."}};

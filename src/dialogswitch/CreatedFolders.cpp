@@ -1,6 +1,6 @@
 #include "dialogswitch/CreatedFolders.h"
 
-#include "dialogswitch/Failures.h"
+#include "dialogswitch/Folders.h"
 #include "hosts/posix/FileRemoval.h"
 
 #include <vector>
@@ -9,21 +9,13 @@ namespace vantorel {
 
 Status CreatedFolders::create(const std::string& folder)
 {
-    std::vector<std::string> missing;
-    for (std::string path = folder; _files.kindAtPath(path) == HostFileKind::none;
-         path = folderOfPath(path)) {
-        missing.push_back(path);
-    }
+    const std::vector<std::string> missing = missingFolders(_files, folder);
     if (missing.empty()) return {};
     std::string lines = _files.contentsAtPath(_record).value_or("");
-    // The outermost comes first.
-    for (auto path = missing.rbegin(); path != missing.rend(); ++path)
-        lines += *path + '\n';
+    for (const std::string& path : missing)
+        lines += path + '\n';
     if (Status written = write(lines); !written) return written;
-    for (auto path = missing.rbegin(); path != missing.rend(); ++path) {
-        if (!_files.createDirectory(*path)) return writeFailure(*path);
-    }
-    return {};
+    return createFolders(_files, folder);
 }
 
 Status CreatedFolders::removeEmpty()

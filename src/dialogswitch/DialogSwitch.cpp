@@ -41,13 +41,6 @@ std::string_view keyOf(DialogPrograms programs)
     return keys[static_cast<std::size_t>(programs)];
 }
 
-std::optional<DialogPrograms> dialogProgramsWithKey(std::string_view key)
-{
-    const auto* const found = std::ranges::find(keys, key);
-    if (found == std::end(keys)) return std::nullopt;
-    return allDialogPrograms[static_cast<std::size_t>(found - std::begin(keys))];
-}
-
 std::string_view nameOf(DialogPrograms programs)
 {
     return names[static_cast<std::size_t>(programs)];

@@ -19,7 +19,6 @@ inline constexpr std::array allDialogPrograms{DialogPrograms::qt, DialogPrograms
 
 /// The word for these programs on the command line.
 [[nodiscard]] std::string_view keyOf(DialogPrograms programs);
-[[nodiscard]] std::optional<DialogPrograms> dialogProgramsWithKey(std::string_view key);
 /// Their name for users. It is not translated.
 [[nodiscard]] std::string_view nameOf(DialogPrograms programs);
 

@@ -1,6 +1,6 @@
 #include "dialogswitch/GimpSwitch.h"
 
-#include "dialogswitch/Failures.h"
+#include "dialogswitch/Folders.h"
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/SymbolicLink.h"
 

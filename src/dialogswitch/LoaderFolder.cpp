@@ -1,6 +1,6 @@
 #include "dialogswitch/LoaderFolder.h"
 
-#include "dialogswitch/Failures.h"
+#include "dialogswitch/Folders.h"
 #include "hosts/posix/FileRemoval.h"
 #include "hosts/posix/SymbolicLink.h"
 
@@ -12,13 +12,6 @@ namespace {
 
 /// What the loaders look for two folders above them.
 constexpr const char* libraryFolders[] = {"dialogs", "pickers"};
-
-Status makeFolders(PosixFiles& files, const std::string& path)
-{
-    if (files.kindAtPath(path) == HostFileKind::folder) return {};
-    if (Status made = makeFolders(files, folderOfPath(path)); !made) return made;
-    return files.createDirectory(path) ? Status() : Status(writeFailure(path));
-}
 
 }  // namespace
 
@@ -60,7 +53,7 @@ bool LoaderFolder::hasCopies() const
 
 Status LoaderFolder::install()
 {
-    if (Status made = makeFolders(_files, _root); !made) return made;
+    if (Status made = createFolders(_files, _root); !made) return made;
     for (const char* name : libraryFolders) {
         const std::string link = _root + '/' + name;
         if (writeLink(link, _installed + '/' + name) != 0) return writeFailure(link);
@@ -69,12 +62,12 @@ Status LoaderFolder::install()
         const std::string copy = copyOf(loader);
         const auto bytes = _files.contentsAtPath(_installed + '/' + loader);
         if (!bytes) {
-            // One that is no longer installed.
+            // This loader is not installed any more.
             if (!removeFile(copy)) return writeFailure(copy);
             continue;
         }
         if (_files.contentsAtPath(copy) == bytes) continue;
-        if (Status made = makeFolders(_files, folderOfPath(copy)); !made) return made;
+        if (Status made = createFolders(_files, folderOfPath(copy)); !made) return made;
         if (!_files.writeAtomically(copy, *bytes)) return writeFailure(copy);
     }
     return {};

@@ -1,7 +1,8 @@
 #include "dialogswitch/SharedFile.h"
 
-#include "dialogswitch/Failures.h"
+#include "dialogswitch/Folders.h"
 #include "hosts/posix/FileRemoval.h"
+#include "result/HarmlessLine.h"
 
 #include <optional>
 

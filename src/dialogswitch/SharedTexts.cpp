@@ -44,7 +44,7 @@ void endLastLine(std::vector<std::string>& lines)
 
 using Lines = std::vector<std::string>;
 
-/// The line after that of GTK's group; the end if there is no such group.
+/// The first line of GTK's group, after its header; the end if the group is missing.
 Lines::iterator startOfSettings(Lines& lines)
 {
     const auto group = std::ranges::find_if(

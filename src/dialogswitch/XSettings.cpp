@@ -94,8 +94,8 @@ bool hasXSetting(std::string_view property, std::string_view name)
 
 namespace {
 
-/// The few functions of libxcb, which is not linked: it is needed by one command only, and may be
-/// missing where there is no X server.
+/// The few functions of libxcb. It is not linked: only one command needs it, and a machine without
+/// an X server may not have it.
 class Xcb {
 public:
     Xcb() : _library(::dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL)) {}

@@ -338,13 +338,6 @@ TEST_F(DialogSwitchTest, PathsThatNoListOfPathsCanHaveAreRefused)
     EXPECT_EQ(home(), before);
 }
 
-TEST(DialogProgramsTest, AreNamedByTheirKeys)
-{
-    for (const DialogPrograms programs : allDialogPrograms)
-        EXPECT_EQ(dialogProgramsWithKey(keyOf(programs)), programs);
-    EXPECT_EQ(dialogProgramsWithKey("Qt"), std::nullopt);
-}
-
 TEST(SessionEnvironmentTest, ValuesOfOthersFollow)
 {
     EXPECT_EQ(environmentFile({{"A", "x", ':'}, {"B", "y", ','}}),

@@ -2,7 +2,7 @@
 
 #include "embedding/PageTranslations.h"
 #include "hosts/common/PageSize.h"
-#include "hosts/gtk/GtkTranslations.h"
+#include "hosts/common/Translator.h"
 
 #include <exception>
 #include <limits>
@@ -157,7 +157,7 @@ GtkHostDesktop& desktopOfProgram()
 {
     // Never destroyed: a dialog may outlive the static objects of a program that ends.
     static auto* const desktop = [] {
-        setGtkTranslator(pageTranslation);
+        setTranslator(pageTranslation);
         return new GtkHostDesktop;
     }();
     return *desktop;

@@ -2,13 +2,10 @@
 
 #include "host/HostMenu.h"
 #include "host/HostText.h"
-#include "hosts/common/Translator.h"
 
-/// Texts of the core in the user's language.
+/// Texts of the core in the user's language, by the `Translator` of the program; without one every
+/// text stays English.
 namespace vantorel {
-
-/// Sets the source of all translations; without one every text stays English.
-void setGtkTranslator(Translator translator);
 
 /// A text of a page or of its interface file.
 [[nodiscard]] std::u16string translatedText(std::u16string_view text);

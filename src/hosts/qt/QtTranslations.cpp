@@ -1,30 +1,16 @@
 #include "hosts/qt/QtTranslations.h"
 
+#include "hosts/common/Translator.h"
 #include "text/Unicode.h"
 
 #include <QCoreApplication>
 
 namespace vantorel {
-namespace {
-
-/// Never destroyed: a dialog may outlive the static objects of a program that ends.
-Translator& translator()
-{
-    static auto* const current = new Translator;
-    return *current;
-}
-
-}  // namespace
-
-void setQtTranslator(Translator newTranslator)
-{
-    translator() = std::move(newTranslator);
-}
-
 QString translation(const char* context, const char* text)
 {
-    if (!translator()) return QCoreApplication::translate(context, text);
-    return QString::fromStdU16String(translator()(context, utf16FromUtf8(text)));
+    const Translator& translate = currentTranslator();
+    if (!translate) return QCoreApplication::translate(context, text);
+    return QString::fromStdU16String(translate(context, utf16FromUtf8(text)));
 }
 
 QString translatedText(const std::u16string& text)

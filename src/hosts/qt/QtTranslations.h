@@ -1,15 +1,10 @@
 #pragma once
 
-#include "hosts/common/Translator.h"
-
 #include <QString>
 
-/// Texts of pages and messages in the user's language.
+/// Texts of pages and messages in the user's language, by the `Translator` of the program; without
+/// one, by Qt's own translators.
 namespace vantorel {
-
-/// Sets the source of all translations in this folder. Without one they come from the program's own
-/// translators. A program of somebody else has none for our texts, and must not get any.
-void setQtTranslator(Translator translator);
 
 /// The translation of a text in a context of the translation files. The text is UTF-8.
 [[nodiscard]] QString translation(const char* context, const char* text);

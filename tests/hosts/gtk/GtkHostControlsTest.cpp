@@ -1,4 +1,5 @@
 #include "GtkHostFixture.h"
+#include "hosts/common/Translator.h"
 #include "hosts/gtk/GtkHostItemList.h"
 #include "hosts/gtk/GtkHostPopUpButton.h"
 #include "hosts/gtk/GtkHostTextField.h"
@@ -242,7 +243,7 @@ protected:
 
 TEST(GtkTranslationsTest, OnlyThePagesOwnWordsAreTranslated)
 {
-    setGtkTranslator([](std::string_view context, std::u16string_view text) {
+    setTranslator([](std::string_view context, std::u16string_view text) {
         return context == "DisplayNames" ? u"de " + std::u16string(text) : std::u16string(text);
     });
     HostMenuItem item;
@@ -252,7 +253,7 @@ TEST(GtkTranslationsTest, OnlyThePagesOwnWordsAreTranslated)
     EXPECT_EQ(shownTitle(item), u"de Color");
     item.title = u"* red";
     EXPECT_EQ(shownTitle(item), u"* red");
-    setGtkTranslator({});
+    setTranslator({});
 }
 
 TEST_F(GtkPopUpTest, AMenuSelectsAndSendsTheAction)

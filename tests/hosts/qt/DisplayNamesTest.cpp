@@ -1,3 +1,4 @@
+#include "hosts/common/Translator.h"
 #include "hosts/qt/DisplayNames.h"
 
 #include "host/HostControls.h"
@@ -37,12 +38,12 @@ HostMenuItem item(const char16_t* title, bool isOwnWord)
 TEST(TranslationsTest, ATranslatorOfOursCountsInPlaceOfTheProgramsTranslators)
 {
     const GermanNames german;
-    setQtTranslator([](std::string_view context, std::u16string_view text) {
+    setTranslator([](std::string_view context, std::u16string_view text) {
         return (context == "Vantorel" ? u"page " : u"other ") + std::u16string(text);
     });
     EXPECT_EQ(shownTitle(item(u"Color", true)), "other Color");
     EXPECT_EQ(translatedText(u"Red \u00e9"), QStringLiteral("page Red \u00e9"));
-    setQtTranslator({});
+    setTranslator({});
     EXPECT_EQ(shownTitle(item(u"Color", true)), "de Color");
     EXPECT_EQ(translatedText(u"Red"), "Red");
 }

@@ -27,10 +27,8 @@ GType typeOfSelectors()
 /// A selector that is not shown has no tab in GIMP's dialogs.
 void showSelector(GtkWidget* selector)
 {
-    const auto* object = reinterpret_cast<GObject*>(selector);
-    if (g_object_get_data(const_cast<GObject*>(object), selectorPageKey) != nullptr) {
-        showWidget(selector);
-    }
+    auto* object = reinterpret_cast<GObject*>(selector);
+    if (g_object_get_data(object, selectorPageKey) != nullptr) showWidget(selector);
 }
 
 void initializeClass(gpointer type, gpointer)

@@ -1,6 +1,7 @@
 #include "embedding/PageLibrary.h"
 #include "embedding/PageTranslations.h"
 #include "embedding/loader/DialogLibrary.h"
+#include "hosts/common/Translator.h"
 #include "hosts/qt-dialog/DialogPage.h"
 #include "hosts/qt/EventGuard.h"
 
@@ -12,7 +13,7 @@ namespace {
 QtDesktop& desktopOfProgram()
 {
     static auto* const desktop = [] {
-        setQtTranslator(pageTranslation);
+        setTranslator(pageTranslation);
         return new QtDesktop(QtLog::nowhere);
     }();
     return *desktop;

@@ -5,6 +5,8 @@
 #include <QGenericPlugin>
 #include <QPointer>
 
+#include <utility>
+
 #if QT_VERSION_MAJOR == 5
 #include "hosts/qt-dialog/loader/HiddenFromQt6.h"
 #endif
@@ -95,8 +97,7 @@ public:
     {
         // The environment may name the plug-in twice. The page must not be in a dialog twice.
         static bool isCreated = false;
-        if (isCreated) return new QObject;
-        isCreated = true;
+        if (std::exchange(isCreated, true)) return new QObject;
         return new DialogWatcher;
     }
 };
