@@ -11,14 +11,14 @@ namespace {
 
 GType loadedSelectorType()
 {
-    static const GType type = [] {
-        // As GIMP does.
+    // As GIMP does. The modules stay until the program ends.
+    static GimpModuleDB* const modules = [] {
         babl_init();
-        GimpModuleDB* modules = gimp_module_db_new(FALSE);
-        gimp_module_db_load(modules, g_getenv("VANTOREL_GIMP_MODULES"));
-        return g_type_from_name("VantorelColorSelector");
+        GimpModuleDB* created = gimp_module_db_new(FALSE);
+        gimp_module_db_load(created, g_getenv("VANTOREL_GIMP_MODULES"));
+        return created;
     }();
-    return type;
+    return modules != nullptr ? g_type_from_name("VantorelColorSelector") : G_TYPE_INVALID;
 }
 
 HostColor rgb(int red, int green, int blue, double alpha = 1)
