@@ -46,6 +46,26 @@ TEST_F(PanelWindowTest, AClickInADigitCellChangesTheColourEverywhere)
     EXPECT_EQ(chosenColor(), QColor(0xA0, 0, 0));
 }
 
+TEST_F(PanelWindowTest, AMinimisedPanelUpdatesItsPageWhenItIsRestored)
+{
+    _window->colors().setColor(rgb(255, 128, 0));
+    _window->showMinimized();
+    _window->colors().setColor(rgb(1, 2, 3));
+    EXPECT_EQ(text("_fullHexText"), "#FF8000");
+    _window->showNormal();
+    EXPECT_EQ(text("_fullHexText"), "#010203");
+}
+
+TEST_F(PanelWindowTest, APageThatIsChosenWhileThePanelIsHiddenIsUpToDateWhenItAppears)
+{
+    _window->hide();
+    _window->pages().showPage(1);
+    _window->colors().setColor(rgb(1, 2, 3));
+    _window->pages().showPage(0);
+    _window->show();
+    EXPECT_EQ(text("_fullHexText"), "#010203");
+}
+
 TEST_F(PanelWindowTest, TypingAHexCodeChangesThePanelsColour)
 {
     auto* field = child<QLineEdit>("_fullHexText");

@@ -41,6 +41,10 @@ public:
     /// Puts the page into `holder`, which has its final size.
     virtual void show(HostView& holder) = 0;
     virtual void hide() = 0;
+    /// Called when the page that is shown becomes visible to the user, and when it no longer is,
+    /// because of another page or because the window is hidden or minimised.
+    virtual void didAppear() {}
+    virtual void didDisappear() {}
     /// The holder has a new size.
     virtual void resize(HostSize size) = 0;
     /// Called when the panel's colour is set while the page is shown, even by the page itself.

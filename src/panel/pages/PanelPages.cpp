@@ -76,9 +76,13 @@ void PanelPages::showRemembered(const QString& identifierOrName)
 void PanelPages::showPage(int index)
 {
     if (index < 0 || index >= count() || index == _currentIndex) return;
-    if (PanelPage* old = current()) old->hide();
+    if (PanelPage* old = current()) {
+        if (_isVisible) old->didDisappear();
+        old->hide();
+    }
     _currentIndex = index;
     current()->show(*_holder);
+    if (_isVisible) current()->didAppear();
     current()->setColor(_color);
     emit pageShown(index);
 }
@@ -92,6 +96,14 @@ void PanelPages::setColor(const HostColor& color)
 {
     _color = color;
     if (PanelPage* page = current()) page->setColor(color);
+}
+
+void PanelPages::setVisible(bool isVisible)
+{
+    if (isVisible == std::exchange(_isVisible, isVisible)) return;
+    PanelPage* page = current();
+    if (page == nullptr) return;
+    isVisible ? page->didAppear() : page->didDisappear();
 }
 
 void PanelPages::setGeometry(const QRect& place)

@@ -37,6 +37,10 @@ public:
     /// does.
     void showRemembered(const QString& identifierOrName);
 
+    /// Tells the page that is shown, and each that is shown later, whether the user can see it.
+    /// Pages are visible from the beginning.
+    void setVisible(bool isVisible);
+
     /// Moves the area of the pages, in pixels of the window, immediately even in a hidden window.
     void setGeometry(const QRect& place);
     [[nodiscard]] const QWidget& place() const { return *_holder->widget(); }
@@ -59,6 +63,7 @@ private:
     std::unique_ptr<QtMirrored<HostView>> _holder;
     std::vector<std::unique_ptr<PanelPage>> _pages;
     int _currentIndex = -1;
+    bool _isVisible = true;
     HostColor _color = HostColor::whiteColor();
 };
 

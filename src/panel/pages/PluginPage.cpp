@@ -74,7 +74,6 @@ void PluginPage::show(HostView& holder)
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
         reportPageSize(*_picker, *_view);
-        _picker->pageDidAppear();
     } else {
         _message->setParent(widgetOf(&holder));
         _message->show();
@@ -84,11 +83,18 @@ void PluginPage::show(HostView& holder)
 
 void PluginPage::hide()
 {
-    if (_view != nullptr) {
-        _picker->pageDidDisappear();
-        _view->removeFromSuperview();
-    }
+    if (_view != nullptr) _view->removeFromSuperview();
     if (_message) _message->setParent(nullptr);
+}
+
+void PluginPage::didAppear()
+{
+    if (_view != nullptr) _picker->pageDidAppear();
+}
+
+void PluginPage::didDisappear()
+{
+    if (_view != nullptr) _picker->pageDidDisappear();
 }
 
 void PluginPage::resize(HostSize size)

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] QSize minimumSize() const override;
     void show(HostView& holder) override;
     void hide() override;
+    void didAppear() override;
+    void didDisappear() override;
     void resize(HostSize size) override;
     void setColor(const HostColor& color) override;
     void finishEditing() override;

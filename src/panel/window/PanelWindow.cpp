@@ -304,6 +304,26 @@ void PanelWindow::closeEvent(QCloseEvent* event)
     QApplication::quit();
 }
 
+void PanelWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    _pages.setVisible(!isMinimized());
+}
+
+void PanelWindow::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    _pages.setVisible(false);
+}
+
+void PanelWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    // A window that is minimised is not hidden.
+    if (event->type() == QEvent::WindowStateChange)
+        _pages.setVisible(isVisible() && !isMinimized());
+}
+
 void PanelWindow::recall(const PanelMemory& memory)
 {
     if (!memory.geometry.isEmpty()) restoreGeometry(memory.geometry);
