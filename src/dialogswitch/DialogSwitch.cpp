@@ -140,9 +140,10 @@ Status turnDialogs(PosixFiles& files, const DialogSwitchPlaces& places,
                            phrase("install the package for it")};
         }
         Status turned = on ? dialogSwitch->turnOn() : dialogSwitch->turnOff();
-        if (turned) continue;
-        if (on && !isOn(before) && dialogSwitch->turnOff()) removeLeftovers(files, places);
-        return turned;
+        if (!turned) {
+            if (on && !isOn(before) && dialogSwitch->turnOff()) removeLeftovers(files, places);
+            return turned;
+        }
     }
     removeLeftovers(files, places);
     return {};

@@ -77,7 +77,9 @@ show_mode() {
 
 # A copy of our libraries in which a test can damage something.
 copy=$scratch/vantorel
+# shellcheck disable=SC2034  # for the tests
 page=$copy/pickers/QTXHexColorPicker.so
+# shellcheck disable=SC2034
 library=$copy/dialogs/gtk3.so
 renew() {
     rm -rf "$copy"
@@ -98,6 +100,7 @@ size_of_dialog() {
 # expect_bare WHY STARTS OPTION...: the dialog is as it is without us, whose size is in `bare`, at each start.
 expect_bare() {
     local why=$1 starts=$2 found
+    : "${bare:?}"
     shift 2
     for _ in $(seq "$starts"); do
         found=$(size_of_dialog "$@")
