@@ -88,8 +88,7 @@ void PaletteFileStore::lookAgain()
 {
     beginListing();
     continueListing(_progress.allFiles);
-    rebuildCatalogue();
-    _isCatalogueCurrent = true;
+    endListing();
 }
 
 void PaletteFileStore::beginListing()
@@ -137,14 +136,17 @@ const PaletteCatalogue::Entry* PaletteFileStore::rememberedEntry(const std::u16s
 
 const PaletteCatalogue::Entry* PaletteFileStore::entryNamed(const std::u16string& name)
 {
-    const auto* entry = rememberedEntry(name);
-    if (entry != nullptr && _hostFiles.versionAtPath(entry->path()) == entry->version) return entry;
-    if (entry != nullptr || mustLookAgain()) lookAgain();
-    entry = _catalogue.entryListedAs(name);
+    const auto* entry = _catalogue.entryListedAs(name);
     if (entry != nullptr) return entry;
     entry = _catalogue.entryOnceListedAs(name);
     if (entry != nullptr) _onceListed[name] = entry;
     return entry;
+}
+
+std::shared_ptr<HostColorList> PaletteFileStore::listOf(const PaletteCatalogue::Entry* entry,
+                                                        const std::u16string& name)
+{
+    return entry != nullptr ? entry->folder->listInFile(entry->fileName, name) : nullptr;
 }
 
 bool PaletteFileStore::isInUsualFile(PaletteFolder& own, const std::u16string& name)
@@ -165,14 +167,26 @@ std::optional<std::string> PaletteFileStore::pathOfOwnList(const std::u16string&
     return std::nullopt;
 }
 
-std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
+std::optional<std::shared_ptr<HostColorList>> PaletteFileStore::knownList(
+    const std::u16string& name)
 {
     // The usual case first: a list in the file named by `fileNameOfList`. No other file is read.
     if (PaletteFolder* own = ownFolder()) {
         if (isInUsualFile(*own, name)) return own->listInFile(fileNameOfList(name));
     }
-    const auto* entry = entryNamed(name);
-    return entry != nullptr ? entry->folder->listInFile(entry->fileName, name) : nullptr;
+    const auto* entry = rememberedEntry(name);
+    const bool isUpToDate = entry != nullptr
+                                ? _hostFiles.versionAtPath(entry->path()) == entry->version
+                                : !mustLookAgain();
+    if (!isUpToDate) return std::nullopt;
+    return listOf(entry != nullptr ? entry : entryNamed(name), name);
+}
+
+std::shared_ptr<HostColorList> PaletteFileStore::colorListNamed(const std::u16string& name)
+{
+    if (const auto known = knownList(name)) return *known;
+    lookAgain();
+    return listOf(entryNamed(name), name);
 }
 
 std::vector<std::u16string> PaletteFileStore::availableColorLists()
@@ -218,10 +232,15 @@ std::vector<ListedPalette> PaletteFileStore::listedPalettes()
     return palettesInCatalogue();
 }
 
-std::vector<ListedPalette> PaletteFileStore::listedSoFar()
+void PaletteFileStore::endListing()
 {
     rebuildCatalogue();
     _isCatalogueCurrent = _foldersAhead.empty();
+}
+
+std::vector<ListedPalette> PaletteFileStore::listedSoFar()
+{
+    endListing();
     return palettesInCatalogue();
 }
 

@@ -41,6 +41,10 @@ public:
     /// plain "Reds" because the other list of that name was removed.
     [[nodiscard]] std::shared_ptr<HostColorList> colorListNamed(
         const std::u16string& name) override;
+    /// Returns what `colorListNamed` would return, or `std::nullopt` if it would have to look at
+    /// the files of all folders first.
+    [[nodiscard]] std::optional<std::shared_ptr<HostColorList>> knownList(
+        const std::u16string& name);
     [[nodiscard]] std::vector<std::u16string> availableColorLists() override;
     /// Saves a list to the file in our own folder that contains the list of that name, or to a new
     /// file there. A file with other contents, or one that cannot be read, is never overwritten.
@@ -61,7 +65,10 @@ public:
         std::size_t allFiles = 0;
     };
     [[nodiscard]] const ListingProgress& listingProgress() const { return _progress; }
-    /// Returns what has been found so far. The names are final only after the last step.
+    /// Lets names be looked up in what has been found so far. They are final only after the last
+    /// step.
+    void endListing();
+    /// Calls `endListing` and returns what has been found so far.
     [[nodiscard]] std::vector<ListedPalette> listedSoFar();
     /// Returns the folders that palettes are read from, our own first, whether or not they exist.
     /// Those of other programs are known only after the first refresh.
@@ -101,9 +108,11 @@ private:
     [[nodiscard]] std::vector<ListedPalette> palettesInCatalogue() const;
     /// Returns the entry that a name was last resolved to, or null.
     [[nodiscard]] const PaletteCatalogue::Entry* rememberedEntry(const std::u16string& name) const;
-    /// Resolves a name to an entry, refreshing the catalogue if necessary. Returns null if no list
-    /// has that name.
+    /// Resolves a name to an entry of the catalogue. Returns null if no list has that name.
     [[nodiscard]] const PaletteCatalogue::Entry* entryNamed(const std::u16string& name);
+    /// Returns the list of an entry, under the given name; null for a null entry.
+    [[nodiscard]] static std::shared_ptr<HostColorList> listOf(const PaletteCatalogue::Entry* entry,
+                                                               const std::u16string& name);
     /// Returns the file in our own folder that a list is saved to, or `std::nullopt` for a new
     /// list.
     [[nodiscard]] std::optional<std::string> fileNameOfSaved(PaletteFolder& own,

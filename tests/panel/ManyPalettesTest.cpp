@@ -1,3 +1,5 @@
+#include <QAccessible>
+
 #include "PalettesPageFixture.h"
 
 namespace vantorel {
@@ -60,6 +62,58 @@ TEST_F(ManyPalettesTest, APageThatIsLeftStops)
     EXPECT_TRUE(progress()->isVisible());
     ASSERT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
     EXPECT_GE(lists()->findText("Reds"), 0);
+}
+
+/// A panel whose first start finds more lists than it looks at before it shows its window.
+class FirstStartTest : protected UserFolders, public PanelWindowFixture {
+protected:
+    FirstStartTest()
+    {
+        QFile::remove(at(builtIn));
+        for (std::size_t i = 0; i <= ColorListSearch::filesAtOnce; ++i) {
+            const QByteArray number = QByteArray::number(static_cast<int>(10000 + i));
+            put("data/Vantorel/Palettes/" + number + ".gpl",
+                "GIMP Palette\nName: List " + number + "\n1 2 3\tfirst\n");
+        }
+    }
+    void SetUp() override { _search = loadPlugins({VANTOREL_PICKERS}, {}); }
+    /// Makes the window without letting the event loop run.
+    void start()
+    {
+        _window =
+            std::make_unique<PanelWindow>(_desktop, _search.plugins, _problems, screenPicker());
+    }
+    [[nodiscard]] bool isSearching() { return _desktop.colorLists().isRunning(); }
+    /// The name that the page shows for the panel's colour.
+    [[nodiscard]] QString name() const
+    {
+        QAccessibleInterface* shown =
+            QAccessible::queryAccessibleInterface(child<QWidget>("hexColorNamePopUp"));
+        return shown->text(QAccessible::Value);
+    }
+
+    static constexpr const char* builtIn = "data/Vantorel/Palettes/CSS Keyword.gpl";
+};
+
+TEST_F(FirstStartTest, TheBuiltInListsBecomeFilesWhileTheWindowIsUsed)
+{
+    start();
+    EXPECT_TRUE(isSearching());
+    EXPECT_EQ(name(), "white");
+    EXPECT_EQ(rowsAt(builtIn), "none");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isSearching(); }));
+    EXPECT_THAT(rowsAt(builtIn), testing::HasSubstr("white=ffffff"));
+    EXPECT_EQ(name(), "white");
+}
+
+TEST_F(FirstStartTest, TheUsersListIsShownWhenItIsFound)
+{
+    put("data/Vantorel/Palettes/Zebra.gpl",
+        "GIMP Palette\nName: CSS Keyword\n255 255 255\tstripe\n");
+    start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isSearching(); }));
+    EXPECT_EQ(name(), "stripe");
+    EXPECT_EQ(rowsAt(builtIn), "none");
 }
 
 /// The page with a list that is longer than it reads in two steps.

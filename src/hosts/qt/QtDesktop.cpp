@@ -40,7 +40,11 @@ private:
 }  // namespace
 
 QtDesktop::QtDesktop(QtLog log)
-    : _log(log), _colorLists(_files, [this](const std::u16string& line) { this->log(line); })
+    : _log(log),
+      _paletteFiles(_files, [this](const std::u16string& line) { this->log(line); }),
+      _colorLists(_paletteFiles, [this](double seconds, std::function<void()> reaction) {
+          return scheduleTimer(seconds, std::move(reaction));
+      })
 {
     _disk.setFailureHandler(
         [this](auto, const Message& message) { this->log(utf16FromUtf8(english(message))); });

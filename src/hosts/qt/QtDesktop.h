@@ -1,6 +1,6 @@
 #pragma once
 
-#include "colorlists/PaletteFileStore.h"
+#include "colorlists/ColorListSearch.h"
 #include "host/HostDesktop.h"
 #include "hosts/common/HeldFiles.h"
 #include "hosts/posix/PosixFiles.h"
@@ -17,7 +17,9 @@ class QtDesktop final : public HostDesktop {
 public:
     explicit QtDesktop(QtLog log = QtLog::standardError);
 
-    PaletteFileStore& colorLists() override { return _colorLists; }
+    ColorListSearch& colorLists() override { return _colorLists; }
+    /// The store that `colorLists` searches.
+    [[nodiscard]] PaletteFileStore& paletteFiles() { return _paletteFiles; }
     HeldFiles& files() override { return _files; }
     HostInterfaceFactory& interfaceFactory() override { return _factory; }
     [[nodiscard]] std::unique_ptr<HostTimer> scheduleTimer(double seconds,
@@ -32,7 +34,8 @@ private:
     QtLog _log;
     PosixFiles _disk;
     HeldFiles _files{_disk};
-    PaletteFileStore _colorLists;
+    PaletteFileStore _paletteFiles;
+    ColorListSearch _colorLists;
     QtInterfaceFactory _factory;
 };
 

@@ -85,6 +85,7 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
 
 PanelWindow::~PanelWindow()
 {
+    _host.desktop().colorLists().setReaction({});
     // Pickers may use the host until they are destroyed.
     _pages.clear();
 }
@@ -109,6 +110,8 @@ void PanelWindow::connectParts()
     connect(_message, &MessageLabel::messageChanged, this, &PanelWindow::makeRoomForMessage);
     connect(_topBar, &PanelTopBar::pageChosen, &_pages, &PanelPages::showPage);
     connect(&_pages, &PanelPages::pageShown, this, &PanelWindow::adaptToPage);
+    // A page looks its lists up again when it gets a colour.
+    _host.desktop().colorLists().setReaction([this] { _pages.setColor(_colors.color()); });
 }
 
 void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems)
@@ -123,7 +126,7 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
     }
     addPage(std::make_unique<DialogPage>());
     QtDesktop& desktop = _host.desktop();
-    addPage(std::make_unique<PalettesPage>(desktop.files(), desktop.colorLists()));
+    addPage(std::make_unique<PalettesPage>(desktop.files(), desktop.paletteFiles()));
 }
 
 void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
