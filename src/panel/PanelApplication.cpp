@@ -1,14 +1,23 @@
 #include "panel/PanelApplication.h"
 
 #include "panel/PanelTranslations.h"
+#include "panel/SessionManagerLoss.h"
 #include "panel/widgets/PanelTheme.h"
 
 namespace vantorel {
 
-PanelApplication::PanelApplication(char** argv, const PanelOptions& options, int noDisplayStatus)
-    : _displayFailure(std::in_place, noDisplayStatus), _application(_argumentCount, argv)
+PanelApplication::PanelApplication(const char* program, const PanelOptions& options,
+                                   const QString& sessionIdentifier, int noDisplayStatus)
+    : _displayFailure(std::in_place, noDisplayStatus),
+      _program(program),
+      _session(sessionIdentifier.toLocal8Bit()),
+      _arguments{_program.data(), _sessionOption.data(), _session.data(), nullptr},
+      _argumentCount(_session.isEmpty() ? 1 : 3),
+      _application(_argumentCount, _arguments.data()),
+      _restart(options)
 {
     _displayFailure.reset();
+    outliveSessionManager();
     installTranslations(_application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));

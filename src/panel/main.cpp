@@ -11,6 +11,7 @@ int main(int argc, char** argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    const QString session = takeSessionIdentifier(arguments);
     const PanelCommandLine commandLine = readCommandLine(arguments);
     if (commandLine.exitStatus) {
         if (*commandLine.exitStatus == succeeded) return printResult(commandLine.message);
@@ -31,7 +32,7 @@ int main(int argc, char** argv)
                            "--screenshot FILE works without one")});
         return noDisplay;
     }
-    const PanelApplication application(argv, options, noDisplay);
+    const PanelApplication application(argv[0], options, session, noDisplay);
 
     // A caller waits for these, so they are neither handed over nor found by other starts.
     if (options.screenshot || options.choice) {
