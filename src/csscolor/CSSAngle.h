@@ -19,7 +19,7 @@ namespace vantorel {
 }
 
 /// Converts an angle to degrees and drops whole turns. The turns are dropped before the conversion,
-/// which avoids a rounding error.
+/// which avoids a rounding error. A calculation needs them: a half of 1.5 turns is not a quarter.
 [[nodiscard]] inline double degreesOf(double number, double unitsInTurn)
 {
     return std::fmod(number, unitsInTurn) / unitsInTurn * 360;

@@ -1,7 +1,6 @@
 #include "csscolor/CSSColorFunctions.h"
 
 #include "csscolor/CSSTokenizer.h"
-#include "csscolor/GamutMapping.h"
 
 namespace vantorel {
 namespace {
@@ -12,7 +11,7 @@ constexpr CSSValueRule hue{phraseText("hue"), true, 0, -unlimited, unlimited};
 
 constexpr CSSValueRule channel(PhraseText<> name)
 {
-    return {name, false, 255, 0, 255};
+    return {name, false, cssChannelUnit, 0, cssChannelUnit};
 }
 
 constexpr CSSValueRule lightness(double hundredPercent)
@@ -33,10 +32,16 @@ constexpr CSSValueRule unbounded(PhraseText<> name, double hundredPercent)
 
 constexpr std::array<CSSValueRule, 3> rgbValues{
     channel(phraseText("red")), channel(phraseText("green")), channel(phraseText("blue"))};
+constexpr std::array<CSSValueRule, 3> relativeRGBValues{
+    unbounded(phraseText("red"), cssChannelUnit), unbounded(phraseText("green"), cssChannelUnit),
+    unbounded(phraseText("blue"), cssChannelUnit)};
 // A saturation above 100% is not clamped on reading (CSS Color 4, section 7). The lightness is,
 // because beyond its limits such a saturation would turn white and black into the opposite colour.
 constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(phraseText("saturation"), 100),
                                                 lightness(100)};
+// So that hsl(from ... h s l) is the same colour also outside sRGB.
+constexpr std::array<CSSValueRule, 3> relativeHSLValues{
+    hue, strength(phraseText("saturation"), 100), unbounded(phraseText("lightness"), 100)};
 constexpr std::array<CSSValueRule, 3> predefinedRGBValues{unbounded(phraseText("red"), 1),
                                                           unbounded(phraseText("green"), 1),
                                                           unbounded(phraseText("blue"), 1)};
@@ -50,17 +55,18 @@ constexpr std::u16string_view hslExample = u"hsl(30 100% 50% / 50%)";
 constexpr std::u16string_view hslExampleWithCommas = u"hsl(30, 100%, 50%, 0.5)";
 
 constexpr std::array functions{
-    CSSColorFunction{u"rgb", CSSColorForm::rgb, CSSCommaForm::allOfOneKind, rgbValues, rgbExample,
-                     rgbExampleWithCommas},
-    CSSColorFunction{u"rgba", CSSColorForm::rgb, CSSCommaForm::allOfOneKind, rgbValues, rgbExample,
-                     rgbExampleWithCommas},
-    CSSColorFunction{u"hsl", CSSColorForm::hsl, CSSCommaForm::hueAndPercentages, hslValues,
-                     hslExample, hslExampleWithCommas},
-    CSSColorFunction{u"hsla", CSSColorForm::hsl, CSSCommaForm::hueAndPercentages, hslValues,
-                     hslExample, hslExampleWithCommas},
+    CSSColorFunction{u"rgb", CSSColorForm::rgb, ColorSpace::srgb, CSSCommaForm::allOfOneKind,
+                     rgbValues, rgbExample, rgbExampleWithCommas},
+    CSSColorFunction{u"rgba", CSSColorForm::rgb, ColorSpace::srgb, CSSCommaForm::allOfOneKind,
+                     rgbValues, rgbExample, rgbExampleWithCommas},
+    CSSColorFunction{u"hsl", CSSColorForm::hsl, ColorSpace::hsl, CSSCommaForm::hueAndPercentages,
+                     hslValues, hslExample, hslExampleWithCommas},
+    CSSColorFunction{u"hsla", CSSColorForm::hsl, ColorSpace::hsl, CSSCommaForm::hueAndPercentages,
+                     hslValues, hslExample, hslExampleWithCommas},
     CSSColorFunction{
         u"hwb",
         CSSColorForm::hwb,
+        ColorSpace::hwb,
         CSSCommaForm::none,
         {hue, unbounded(phraseText("whiteness"), 100), unbounded(phraseText("blackness"), 100)},
         u"hwb(30 0% 0% / 50%)",
@@ -68,12 +74,14 @@ constexpr std::array functions{
     CSSColorFunction{
         u"lab",
         CSSColorForm::lab,
+        ColorSpace::lab,
         CSSCommaForm::none,
         {lightness(100), unbounded(phraseText("a"), 125), unbounded(phraseText("b"), 125)},
         u"lab(67 42 74 / 50%)",
         u""},
     CSSColorFunction{u"lch",
                      CSSColorForm::lch,
+                     ColorSpace::lch,
                      CSSCommaForm::none,
                      {lightness(100), strength(phraseText("chroma"), 150), hue},
                      u"lch(67 85 60 / 50%)",
@@ -81,43 +89,21 @@ constexpr std::array functions{
     CSSColorFunction{
         u"oklab",
         CSSColorForm::oklab,
+        ColorSpace::oklab,
         CSSCommaForm::none,
         {lightness(1), unbounded(phraseText("a"), 0.4), unbounded(phraseText("b"), 0.4)},
         u"oklab(73% 0.1 0.15 / 50%)",
         u""},
     CSSColorFunction{u"oklch",
                      CSSColorForm::oklch,
+                     ColorSpace::oklch,
                      CSSCommaForm::none,
                      {lightness(1), strength(phraseText("chroma"), 0.4), hue},
                      u"oklch(73% 0.18 54 / 50%)",
                      u""},
-    CSSColorFunction{u"color", CSSColorForm::color, CSSCommaForm::none, predefinedRGBValues,
-                     u"color(display-p3 1 0.5 0 / 50%)", u""},
+    CSSColorFunction{u"color", CSSColorForm::color, ColorSpace::srgb, CSSCommaForm::none,
+                     predefinedRGBValues, u"color(display-p3 1 0.5 0 / 50%)", u""},
 };
-
-ColorTriple srgbFromLab(const ColorTriple& lab)
-{
-    return srgbFromLinear(linearSRGBFromXYZ(xyzFromXYZD50(xyzD50FromLab(lab))));
-}
-
-SRGBResult mapped(const ColorTriple& srgb)
-{
-    return {mappedIntoSRGB(srgb), isOutsideSRGB(srgb)};
-}
-
-/// Clamps the channels. hsl() and hwb() are sRGB by definition, so browsers do not map them.
-SRGBResult clipped(const ColorTriple& srgb)
-{
-    return {clippedToSRGB(srgb), isOutsideSRGB(srgb)};
-}
-
-/// Converts without passing through sRGB, which would lose the lightness of huge chromas.
-SRGBResult mappedOklab(const ColorTriple& oklab)
-{
-    const ColorTriple srgb = srgbFromOklab(oklab);
-    if (!isOutsideSRGB(srgb)) return {clippedToSRGB(srgb), false};
-    return {srgbByReducedChroma(oklab), true};
-}
 
 }  // namespace
 
@@ -129,42 +115,21 @@ const CSSColorFunction* cssColorFunctionNamed(std::u16string_view name)
     return nullptr;
 }
 
-const std::array<CSSValueRule, 3>& cssValueRules(PredefinedColorSpace space)
+const std::array<CSSValueRule, 3>& cssValueRules(ColorSpace space)
 {
-    const bool isXYZ =
-        space == PredefinedColorSpace::xyzD65 || space == PredefinedColorSpace::xyzD50;
+    const bool isXYZ = space == ColorSpace::xyzD65 || space == ColorSpace::xyzD50;
     return isXYZ ? predefinedXYZValues : predefinedRGBValues;
+}
+
+const std::array<CSSValueRule, 3>& cssRelativeValueRules(const CSSColorFunction& function)
+{
+    if (function.form == CSSColorForm::rgb) return relativeRGBValues;
+    return function.form == CSSColorForm::hsl ? relativeHSLValues : function.values;
 }
 
 const CSSValueRule& cssAlphaRule()
 {
     return alphaRule;
-}
-
-SRGBResult srgbOfCSSValues(CSSColorForm form, PredefinedColorSpace space, const ColorTriple& values)
-{
-    switch (form) {
-        case CSSColorForm::hsl:
-            return clipped(srgbFromHSL(values));
-        case CSSColorForm::hwb:
-            return clipped(srgbFromHWB(values));
-        case CSSColorForm::lab:
-            return mapped(srgbFromLab(values));
-        case CSSColorForm::lch:
-            return mapped(srgbFromLab(rectangularFromPolar(values)));
-        case CSSColorForm::oklab:
-            return mappedOklab(values);
-        case CSSColorForm::oklch:
-            return mappedOklab(rectangularFromPolar(values));
-        case CSSColorForm::color:
-            return mapped(srgbFromPredefined(space, values));
-        case CSSColorForm::rgb:
-        case CSSColorForm::hex:
-        case CSSColorForm::bareHex:
-        case CSSColorForm::named:
-            break;
-    }
-    return clipped({values[0] / 255, values[1] / 255, values[2] / 255});
 }
 
 }  // namespace vantorel

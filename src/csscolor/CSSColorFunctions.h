@@ -1,8 +1,7 @@
 #pragma once
 
 #include "csscolor/CSSColorReader.h"
-#include "csscolor/ColorConversions.h"
-#include "csscolor/PredefinedColorSpaces.h"
+#include "csscolor/ColorSpaces.h"
 #include "result/Message.h"
 
 #include <array>
@@ -10,7 +9,7 @@
 
 namespace vantorel {
 
-/// A value of a colour function, read but not yet converted.
+/// A value of a colour function.
 struct CSSValue {
     /// Angles are in degrees; percentages are converted by `CSSValueRule::hundredPercent`.
     double number = 0;
@@ -26,7 +25,7 @@ struct CSSValueRule {
     bool isHue;
     /// The number that 100% stands for.
     double hundredPercent;
-    /// Values are clamped to these limits.
+    /// Values are clamped to these limits. Hues have none: they become 0..360 degrees.
     double smallest;
     double largest;
 };
@@ -43,6 +42,8 @@ enum class CSSCommaForm {
 struct CSSColorFunction {
     std::u16string_view name;
     CSSColorForm form;
+    /// For `color()`, it is the one that is written instead.
+    ColorSpace space;
     CSSCommaForm commaForm;
     std::array<CSSValueRule, 3> values;
     /// Examples for messages.
@@ -54,19 +55,16 @@ struct CSSColorFunction {
 [[nodiscard]] const CSSColorFunction* cssColorFunctionNamed(std::u16string_view name);
 
 /// Returns the rules for the values of `color()` in a colour space.
-[[nodiscard]] const std::array<CSSValueRule, 3>& cssValueRules(PredefinedColorSpace space);
+[[nodiscard]] const std::array<CSSValueRule, 3>& cssValueRules(ColorSpace space);
+
+/// Returns the rules for the values of a relative colour. Those of rgb() and hsl() are less
+/// limited, because the result is not one of the old form (CSS Color 5, section 4.1).
+[[nodiscard]] const std::array<CSSValueRule, 3>& cssRelativeValueRules(
+    const CSSColorFunction& function);
 
 [[nodiscard]] const CSSValueRule& cssAlphaRule();
 
-struct SRGBResult {
-    /// All components are 0..1.
-    ColorTriple srgb;
-    bool wasOutside;
-};
-
-/// Converts the values of a function to sRGB. `space` is used only for `color()`. The values must
-/// be within the limits of their rules.
-[[nodiscard]] SRGBResult srgbOfCSSValues(CSSColorForm form, PredefinedColorSpace space,
-                                         const ColorTriple& values);
+/// The number in rgb() for a channel of 1.
+inline constexpr double cssChannelUnit = 255;
 
 }  // namespace vantorel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "csscolor/CSSColorValue.h"
 #include "host/HostColor.h"
 #include "result/Result.h"
 
@@ -25,6 +26,8 @@ enum class CSSColorForm {
     oklab,
     oklch,
     color,
+    /// color-mix().
+    mix,
 };
 
 struct CSSColor {
@@ -35,20 +38,31 @@ struct CSSColor {
     /// result of `mappedIntoSRGB`, or clamped channels for hsl() and hwb(). Numbers that CSS clamps
     /// on reading, as in rgb(300 0 0), do not count.
     bool wasOutsideSRGB = false;
+    /// The same colour in the space of the text, not mapped.
+    CSSColorValue value = {};
 };
 
-/// Reads a colour in any form of CSS Color 4. Values out of range are treated as CSS prescribes.
-/// Numbers can have any size; `none` counts as zero.
+/// Which of its colours light-dark() denotes.
+enum class CSSTheme { unknown, light, dark };
+
+/// Reads a colour in any form of CSS Color 5. Values out of range are treated as CSS prescribes.
+/// Numbers can have any size, and can be calculated; `none` counts as zero. Functions and
+/// parentheses can be nested 32 deep. The form of light-dark() is that of the colour that it
+/// denotes.
 ///
 /// Also accepts texts that CSS does not: 3 or 6 hex digits without "#", a ";" after the colour,
 /// byte-order marks and no-break spaces around it, and NULs at the end, which some programs append
 /// to a dropped text. Rejects some that CSS accepts: unclosed parentheses and comments, and colours
-/// that depend on a page or a calculation (`currentcolor`, system colours, calc(), var(), relative
-/// colours).
+/// that depend on a page (`currentcolor`, system colours, var(), and light-dark() without a theme).
 ///
 /// Takes linear time.
-[[nodiscard]] Result<CSSColor> readCSSColor(std::u16string_view text);
+[[nodiscard]] Result<CSSColor> readCSSColor(std::u16string_view text,
+                                            CSSTheme theme = CSSTheme::unknown);
 /// Like the overload above, for UTF-8, which may be ill-formed.
-[[nodiscard]] Result<CSSColor> readCSSColor(std::string_view utf8);
+[[nodiscard]] Result<CSSColor> readCSSColor(std::string_view utf8,
+                                            CSSTheme theme = CSSTheme::unknown);
+
+/// Whether a text begins with the name of a colour function and its parenthesis.
+[[nodiscard]] bool startsCSSColorFunction(std::u16string_view text);
 
 }  // namespace vantorel

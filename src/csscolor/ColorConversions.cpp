@@ -24,6 +24,11 @@ constexpr ColorMatrix d50ToD65{{
     {-0.0283697093338637,    1.0099953980813041,    0.021041441191917323},
     { 0.012314014864481998, -0.020507649298898964,  1.330365926242124   },
 }};
+constexpr ColorMatrix d65ToD50{{
+    { 1.0479297925449969,    0.022946870601609652, -0.05019226628920524 },
+    { 0.02962780877005599,   0.9904344267538799,   -0.017073799063418826},
+    {-0.009243040646204504,  0.015055191490298152,  0.7518742814281371  },
+}};
 constexpr ColorMatrix xyzToLMS{{
     {0.8190224379967030, 0.3619062600528904, -0.1288737815209879},
     {0.0329836539323885, 0.9292868615863434,  0.0361446663506424},
@@ -117,6 +122,11 @@ ColorTriple xyzFromXYZD50(const ColorTriple& xyz)
     return multiplied(d50ToD65, xyz);
 }
 
+ColorTriple xyzD50FromXYZ(const ColorTriple& xyz)
+{
+    return multiplied(d65ToD50, xyz);
+}
+
 ColorTriple xyzD50FromLab(const ColorTriple& lab)
 {
     const double y = (lab[0] + 16) / 116;
@@ -127,6 +137,16 @@ ColorTriple xyzD50FromLab(const ColorTriple& lab)
         xyz[i] = (cube > labEpsilon ? cube : (116 * f[i] - 16) / labKappa) * d50White[i];
     }
     return xyz;
+}
+
+ColorTriple labFromXYZD50(const ColorTriple& xyz)
+{
+    ColorTriple f{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double part = xyz[i] / d50White[i];
+        f[i] = part > labEpsilon ? std::cbrt(part) : (labKappa * part + 16) / 116;
+    }
+    return {116 * f[1] - 16, 500 * (f[0] - f[1]), 200 * (f[1] - f[2])};
 }
 
 ColorTriple oklabFromXYZ(const ColorTriple& xyz)
@@ -177,25 +197,36 @@ ColorTriple srgbFromHSL(const ColorTriple& hsl)
     return {channel(0), channel(8), channel(4)};
 }
 
-ColorTriple hslFromSRGB(const ColorTriple& srgb)
+namespace {
+
+/// Conversions of greys leave differences between the channels that are below this.
+constexpr double leastRange = 1e-6;
+
+/// Returns the hue in degrees, which can be negative.
+double hueOfSRGB(const ColorTriple& srgb)
 {
     const auto [red, green, blue] = srgb;
-    const double largest = std::max({red, green, blue});
-    const double smallest = std::min({red, green, blue});
+    const auto [smallest, largest] = std::ranges::minmax(srgb);
     const double range = largest - smallest;
+    if (!(range > leastRange)) return 0;
+    constexpr double sixth = fullTurn / 6;
+    if (largest == red) return (green - blue) / range * sixth;
+    if (largest == green) return ((blue - red) / range + 2) * sixth;
+    return ((red - green) / range + 4) * sixth;
+}
+
+}  // namespace
+
+ColorTriple hslFromSRGB(const ColorTriple& srgb)
+{
+    const auto [smallest, largest] = std::ranges::minmax(srgb);
     const double lightness = (smallest + largest) / 2;
-    if (!(range > 0)) return {0, 0, lightness * 100};
-    double sixths = 0;
-    if (largest == red) {
-        sixths = (green - blue) / range;
-    } else if (largest == green) {
-        sixths = (blue - red) / range + 2;
-    } else {
-        sixths = (red - green) / range + 4;
-    }
+    if (!(largest - smallest > leastRange)) return {0, 0, lightness * 100};
     const double half = std::min(lightness, 1 - lightness);
-    const double saturation = half > 0 ? (largest - lightness) / half : 0;
-    return {normalizedHue(sixths * 60), saturation * 100, lightness * 100};
+    const double saturation = half != 0 ? (largest - lightness) / half : 0;
+    // A lightness outside 0..1 makes the saturation negative. The opposite hue does the same.
+    const double turn = saturation < 0 ? fullTurn / 2 : 0;
+    return {normalizedHue(hueOfSRGB(srgb) + turn), std::abs(saturation) * 100, lightness * 100};
 }
 
 ColorTriple srgbFromHWB(const ColorTriple& hwb)
@@ -206,8 +237,15 @@ ColorTriple srgbFromHWB(const ColorTriple& hwb)
         const double grey = white / (white + black);
         return {grey, grey, grey};
     }
+    // The ends are exact: "1 - 0.3 - 0.5 + 0.3" is a little less than "1 - 0.5".
     return each(srgbFromHSL({hwb[0], 100, 50}),
-                [&](double value) { return value * (1 - white - black) + white; });
+                [&](double value) { return value * (1 - black) + (1 - value) * white; });
+}
+
+ColorTriple hwbFromSRGB(const ColorTriple& srgb)
+{
+    const auto [smallest, largest] = std::ranges::minmax(srgb);
+    return {normalizedHue(hueOfSRGB(srgb)), smallest * 100, (1 - largest) * 100};
 }
 
 }  // namespace vantorel

@@ -26,11 +26,13 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 [[nodiscard]] ColorTriple xyzFromLinearSRGB(const ColorTriple& linear);
 [[nodiscard]] ColorTriple linearSRGBFromXYZ(const ColorTriple& xyz);
 
-/// The linear Bradford transform from the white point D50 to D65.
+/// The linear Bradford transforms between the white points D50 and D65.
 [[nodiscard]] ColorTriple xyzFromXYZD50(const ColorTriple& xyz);
+[[nodiscard]] ColorTriple xyzD50FromXYZ(const ColorTriple& xyz);
 
 /// CIE Lab is relative to D50, with a lightness of 0..100 (section 9.3).
 [[nodiscard]] ColorTriple xyzD50FromLab(const ColorTriple& lab);
+[[nodiscard]] ColorTriple labFromXYZD50(const ColorTriple& xyz);
 
 /// Oklab has a lightness of 0..1 (section 9.4).
 [[nodiscard]] ColorTriple oklabFromXYZ(const ColorTriple& xyz);
@@ -45,10 +47,13 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 
 /// Hue in degrees, saturation and lightness in percent (section 7).
 [[nodiscard]] ColorTriple srgbFromHSL(const ColorTriple& hsl);
-/// The hue and the saturation of a grey are 0.
+/// The hue and the saturation of a grey are 0. The saturation of a colour outside sRGB can be above
+/// 100, but is never negative.
 [[nodiscard]] ColorTriple hslFromSRGB(const ColorTriple& srgb);
 
 /// Hue in degrees, whiteness and blackness in percent (section 8).
 [[nodiscard]] ColorTriple srgbFromHWB(const ColorTriple& hwb);
+/// The hue of a grey is 0.
+[[nodiscard]] ColorTriple hwbFromSRGB(const ColorTriple& srgb);
 
 }  // namespace vantorel

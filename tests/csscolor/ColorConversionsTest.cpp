@@ -1,6 +1,6 @@
 #include "csscolor/ColorConversions.h"
 
-#include "csscolor/PredefinedColorSpaces.h"
+#include "csscolor/ColorSpaces.h"
 
 #include <gtest/gtest.h>
 
@@ -92,7 +92,7 @@ const std::vector<ColorTriple> samples{{0, 0, 0},       {1, 1, 1},        {1, 0,
 
 TEST(ColorConversionsTest, MatricesFollowFromTheChromaticitiesOfTheirSpaces)
 {
-    using Space = PredefinedColorSpace;
+    using Space = ColorSpace;
     struct Row {
         Space space;
         Primaries primaries;
@@ -126,7 +126,7 @@ TEST(ColorConversionsTest, MatricesFollowFromTheChromaticitiesOfTheirSpaces)
                                      row.linear(sample[2])};
             ColorTriple xyz = multiplied(toXYZ, linear);
             if (row.primaries.white == d50) xyz = adapted(xyz, d50, d65);
-            const ColorTriple srgb = srgbFromPredefined(row.space, sample);
+            const ColorTriple srgb = srgbFrom(row.space, sample);
             expectNear(linearFromSRGB(srgb), multiplied(xyzToSRGB, xyz), 1e-5);
         }
     }
@@ -207,8 +207,8 @@ TEST(ColorConversionsTest, NegativeChannelsMirrorPositiveOnes)
         EXPECT_EQ(linearFromSRGB(-value), -linearFromSRGB(value));
         EXPECT_EQ(srgbFromLinear(-value), -srgbFromLinear(value));
     }
-    const ColorTriple up = srgbFromPredefined(PredefinedColorSpace::a98RGB, {0.5, 0.2, 0.01});
-    const ColorTriple down = srgbFromPredefined(PredefinedColorSpace::a98RGB, {-0.5, -0.2, -0.01});
+    const ColorTriple up = srgbFrom(ColorSpace::a98RGB, {0.5, 0.2, 0.01});
+    const ColorTriple down = srgbFrom(ColorSpace::a98RGB, {-0.5, -0.2, -0.01});
     expectNear(down, {-up[0], -up[1], -up[2]}, 1e-12);
 }
 

@@ -50,15 +50,24 @@ TEST(HostileColorTextTest, RandomUnitsGiveAColourOrAnError)
 TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
 {
     const std::vector<std::string> pieces{
-        "rgb(",     "hsla(",       "hwb(",     "lab(",  "lch(",     "oklab(",
-        "oklch(",   "color(",      "srgb ",    "xyz ",  "rec2020 ", "prophoto-rgb ",
-        "a98-rgb ", "display-p3 ", "xyz-d50 ", ")",     ")",        ")",
-        ",",        " / ",         "/*",       "*/",    " ",        "1",
-        "255",      "50%",         "-1e38",    "1e999", "-1e999%",  ".5",
-        "none",     "1e-999",      "90deg",    "1turn", "-1e99rad", "99999999999",
-        "0.000001", "#",           "ff8000",   "red",   ";",        "\\",
-        "\\0",      "e",           "-",        "+",     ".",        "%",
-        "\xC3\xA4", "\xFF",        ":",        "from ", "\n"};
+        "rgb(",        "hsla(",       "hwb(",      "lab(",
+        "lch(",        "oklab(",      "oklch(",    "color(",
+        "srgb ",       "xyz ",        "rec2020 ",  "prophoto-rgb ",
+        "a98-rgb ",    "display-p3 ", "xyz-d50 ",  ")",
+        ")",           ")",           ",",         " / ",
+        "/*",          "*/",          " ",         "1",
+        "255",         "50%",         "-1e38",     "1e999",
+        "-1e999%",     ".5",          "none",      "1e-999",
+        "90deg",       "1turn",       "-1e99rad",  "99999999999",
+        "0.000001",    "#",           "ff8000",    "red",
+        ";",           "\\",          "\\0",       "e",
+        "-",           "+",           ".",         "%",
+        "\xC3\xA4",    "\xFF",        ":",         "from ",
+        "\n",          "calc(",       "min(",      "clamp(",
+        "(",           " + ",         " * ",       "infinity",
+        "NaN",         "pi",          "r g b",     "alpha",
+        "color-mix(",  "in hsl, ",    "in oklch ", "longer hue, ",
+        "light-dark(", "red 40%, ",   "var(--x)"};
     const std::vector<std::string> functions{"lab(",
                                              "lch(",
                                              "oklab(",
@@ -73,10 +82,36 @@ TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
                                              "color(a98-rgb ",
                                              "color(display-p3 ",
                                              "color(prophoto-rgb ",
-                                             "color(srgb-linear "};
-    const std::vector<std::string> numbers{"0",     "1",     "-1",   "1e999", "-1e999", "1e38",
-                                           "-1e38", "1e-40", "50",   "100%",  "1e99%",  "none",
-                                           "0.5",   "-0",    "1e10", "-1e20", "360",    "1e5"};
+                                             "color(srgb-linear ",
+                                             "rgb(from red ",
+                                             "lab(from color(xyz -1e38 1e38 0) ",
+                                             "color(from oklch(1 1e38 9) a98-rgb ",
+                                             "color(from hsl(9 1e38 7) rec2020 ",
+                                             "oklch(from color-mix(in lab, red 9%, #1230) ",
+                                             "hsl(from color(srgb 1e38 -1e38 0) "};
+    const std::vector<std::string> numbers{"0",
+                                           "1",
+                                           "-1",
+                                           "1e999",
+                                           "-1e999",
+                                           "1e38",
+                                           "-1e38",
+                                           "1e-40",
+                                           "50",
+                                           "100%",
+                                           "1e99%",
+                                           "none",
+                                           "0.5",
+                                           "-0",
+                                           "1e10",
+                                           "-1e20",
+                                           "360",
+                                           "1e5",
+                                           "alpha",
+                                           "calc(alpha / 0)",
+                                           "calc(alpha * 1e38)"};
+    const std::vector<std::string> spaces{"srgb", "xyz", "a98-rgb",          "rec2020", "hsl",
+                                          "hwb",  "lab", "oklch longer hue", "lch",     "oklab"};
     std::mt19937 random(22);
     const auto one = [&random](const std::vector<std::string>& from) {
         return from[random() % from.size()];
@@ -91,6 +126,7 @@ TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
         } else {
             text = one(functions) + one(numbers) + " " + one(numbers) + " " + one(numbers) + " / " +
                    one(numbers) + ")";
+            if (round % 8 == 1) text = "color-mix(in " + one(spaces) + ", red, " + text + " 30%)";
         }
         const Result<CSSColor> reading = readCSSColor(text);
         ASSERT_NO_FATAL_FAILURE(expectSoundReading(reading)) << text;
@@ -110,14 +146,42 @@ std::string repeated(const std::string& piece, std::size_t bytes)
 TEST(HostileColorTextTest, MegabytesTakeLinearTime)
 {
     constexpr std::size_t size = std::size_t{2} << 20;
-    for (const char* piece :
-         {"(", "rgb(", "/*",   "/**/", "*/",       " ",           "\\", "\\a", "#",
-          "f", "1",    "0",    ".",    "-",        "e",           "1e", "1 ",  ",",
-          "/", "a",    "red ", "\xFF", "\xC3\xA4", "rgb(1 2 3) ", ";"}) {
+    for (const char* piece : {"(",
+                              "rgb(",
+                              "/*",
+                              "/**/",
+                              "*/",
+                              " ",
+                              "\\",
+                              "\\a",
+                              "#",
+                              "f",
+                              "1",
+                              "0",
+                              ".",
+                              "-",
+                              "e",
+                              "1e",
+                              "1 ",
+                              ",",
+                              "/",
+                              "a",
+                              "red ",
+                              "\xFF",
+                              "\xC3\xA4",
+                              "rgb(1 2 3) ",
+                              ";",
+                              "calc(",
+                              "calc(1 + ",
+                              "1 + ",
+                              "min(1, ",
+                              "rgb(from ",
+                              "color-mix(in lab, "}) {
         const std::string many = repeated(piece, size);
         expectSoundReading(readCSSColor(many));
         expectSoundReading(readCSSColor("rgb(" + many));
         expectSoundReading(readCSSColor("rgb(1 2 3 / 1" + many + ")"));
+        expectSoundReading(readCSSColor("rgb(calc(1 + " + many + ")"));
         expectSoundReading(readCSSColor("red " + many));
         expectSoundReading(readCSSColor("#" + many));
     }
