@@ -302,18 +302,6 @@
         <translation>„%1“ ist keine unterstützte Farbfunktion</translation>
     </message>
     <message>
-        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
-        <translation>verwenden Sie rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() oder color()</translation>
-    </message>
-    <message>
-        <source>Relative colours, with &quot;from&quot;, are not supported</source>
-        <translation>Relative Farben, mit „from“, werden nicht unterstützt</translation>
-    </message>
-    <message>
-        <source>write the values themselves, as in &quot;%1&quot;</source>
-        <translation>schreiben Sie die Werte selbst wie in „%1“</translation>
-    </message>
-    <message>
         <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
         <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 oder xyz-d65</translation>
     </message>
@@ -1798,6 +1786,134 @@ Programme mit Qt und GTK 3 sowie GIMP zeigen die Seite dann in ihren eigenen Far
     <message>
         <source>make it a readable file, or remove it</source>
         <translation>machen Sie es zu einer lesbaren Datei oder entfernen Sie es</translation>
+    </message>
+    <message>
+        <source>Which of its two colours light-dark() stands for: &quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>Für welche ihrer beiden Farben light-dark() steht: „light“ oder „dark“.</translation>
+    </message>
+    <message>
+        <source>clamp() needs 3 values and has %1</source>
+        <translation>clamp() braucht 3 Werte und hat %1</translation>
+    </message>
+    <message>
+        <source>A calculation needs spaces on both sides of &quot;%1&quot;</source>
+        <translation>In einer Berechnung gehören Leerzeichen auf beide Seiten von „%1“</translation>
+    </message>
+    <message>
+        <source>A calculation can divide only by a number</source>
+        <translation>Eine Berechnung kann nur durch eine Zahl teilen</translation>
+    </message>
+    <message>
+        <source>A calculation can multiply only by a number</source>
+        <translation>Eine Berechnung kann nur mit einer Zahl malnehmen</translation>
+    </message>
+    <message>
+        <source>The calculation is not closed</source>
+        <translation>Die Berechnung ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>A calculation needs a value before &quot;%1&quot;</source>
+        <translation>In der Berechnung fehlt ein Wert vor „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not stand for a number in a calculation</source>
+        <translation>„%1“ steht in einer Berechnung für keine Zahl</translation>
+    </message>
+    <message>
+        <source>write the number</source>
+        <translation>schreiben Sie die Zahl</translation>
+    </message>
+    <message>
+        <source>A calculation cannot mix numbers, percentages and angles</source>
+        <translation>Eine Berechnung kann Zahlen, Prozente und Winkel nicht mischen</translation>
+    </message>
+    <message>
+        <source>write all values in one of them</source>
+        <translation>schreiben Sie alle Werte in einer dieser Arten</translation>
+    </message>
+    <message>
+        <source>The value of %1() depends on the page that uses it</source>
+        <translation>Der Wert von %1() hängt von der Seite ab, die ihn verwendet</translation>
+    </message>
+    <message>
+        <source>write the value itself</source>
+        <translation>schreiben Sie den Wert selbst</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 must be %3, not the result of this %4</source>
+        <translation>Der Wert für %1 von %2 muss %3 sein, nicht das Ergebnis dieses %4</translation>
+    </message>
+    <message>
+        <source>The function is not closed</source>
+        <translation>Die Funktion ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>A comma is missing before &quot;%1&quot;</source>
+        <translation>Vor „%1“ fehlt ein Komma</translation>
+    </message>
+    <message>
+        <source>color-mix() must begin with &quot;in&quot; and a colour space</source>
+        <translation>color-mix() muss mit „in“ und einem Farbraum beginnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour space of color-mix()</source>
+        <translation>„%1“ ist kein Farbraum von color-mix()</translation>
+    </message>
+    <message>
+        <source>write a space of color(), or hsl, hwb, lab, lch, oklab or oklch</source>
+        <translation>schreiben Sie einen Farbraum von color() oder hsl, hwb, lab, lch, oklab oder oklch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a way around the circle of hues</source>
+        <translation>„%1“ ist kein Weg um den Farbkreis</translation>
+    </message>
+    <message>
+        <source>write shorter, longer, increasing or decreasing hue</source>
+        <translation>schreiben Sie shorter, longer, increasing oder decreasing hue</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a colour space with a hue</source>
+        <translation>„%1“ braucht einen Farbraum mit Farbton</translation>
+    </message>
+    <message>
+        <source>use hsl, hwb, lch or oklch</source>
+        <translation>verwenden Sie hsl, hwb, lch oder oklch</translation>
+    </message>
+    <message>
+        <source>The word &quot;hue&quot; is missing before &quot;%1&quot;</source>
+        <translation>Vor „%1“ fehlt das Wort „hue“</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be a percentage</source>
+        <translation>Der Anteil einer Farbe muss ein Prozentwert sein</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be from 0% to 100%, not &quot;%1&quot;</source>
+        <translation>Der Anteil einer Farbe muss zwischen 0% und 100% liegen, nicht bei „%1“</translation>
+    </message>
+    <message>
+        <source>color-mix() mixes 0% of both colours</source>
+        <translation>color-mix() mischt 0% beider Farben</translation>
+    </message>
+    <message>
+        <source>The colour of %1() depends on the theme of the page</source>
+        <translation>Die Farbe von %1() hängt vom Farbschema der Seite ab</translation>
+    </message>
+    <message>
+        <source>write one of its two colours</source>
+        <translation>schreiben Sie eine ihrer beiden Farben</translation>
+    </message>
+    <message>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() or light-dark()</source>
+        <translation>verwenden Sie rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() oder light-dark()</translation>
+    </message>
+    <message>
+        <source>The parentheses are nested too deep</source>
+        <translation>Die Klammern sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>nest at most %1</source>
+        <translation>verschachteln Sie höchstens %1</translation>
     </message>
 </context>
 <context>

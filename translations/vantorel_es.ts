@@ -238,18 +238,6 @@
         <translation>«%1» no es una función de color admitida</translation>
     </message>
     <message>
-        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
-        <translation>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() o color()</translation>
-    </message>
-    <message>
-        <source>Relative colours, with &quot;from&quot;, are not supported</source>
-        <translation>No se admiten los colores relativos, con «from»</translation>
-    </message>
-    <message>
-        <source>write the values themselves, as in &quot;%1&quot;</source>
-        <translation>escriba los propios valores, como en «%1»</translation>
-    </message>
-    <message>
         <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
         <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 o xyz-d65</translation>
     </message>
@@ -1798,6 +1786,134 @@ Los programas de Qt y de GTK 3, y GIMP, muestran entonces la página en sus prop
     <message>
         <source>make it a readable file, or remove it</source>
         <translation>conviértalo en un archivo legible o bórrelo</translation>
+    </message>
+    <message>
+        <source>Which of its two colours light-dark() stands for: &quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>Cuál de sus dos colores representa light-dark(): «light» o «dark».</translation>
+    </message>
+    <message>
+        <source>clamp() needs 3 values and has %1</source>
+        <translation>clamp() necesita 3 valores y tiene %1</translation>
+    </message>
+    <message>
+        <source>A calculation needs spaces on both sides of &quot;%1&quot;</source>
+        <translation>Un cálculo necesita espacios a ambos lados de «%1»</translation>
+    </message>
+    <message>
+        <source>A calculation can divide only by a number</source>
+        <translation>Un cálculo solo puede dividir entre un número</translation>
+    </message>
+    <message>
+        <source>A calculation can multiply only by a number</source>
+        <translation>Un cálculo solo puede multiplicar por un número</translation>
+    </message>
+    <message>
+        <source>The calculation is not closed</source>
+        <translation>El cálculo no está cerrado</translation>
+    </message>
+    <message>
+        <source>A calculation needs a value before &quot;%1&quot;</source>
+        <translation>Al cálculo le falta un valor antes de «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not stand for a number in a calculation</source>
+        <translation>«%1» no representa un número en un cálculo</translation>
+    </message>
+    <message>
+        <source>write the number</source>
+        <translation>escriba el número</translation>
+    </message>
+    <message>
+        <source>A calculation cannot mix numbers, percentages and angles</source>
+        <translation>Un cálculo no puede mezclar números, porcentajes y ángulos</translation>
+    </message>
+    <message>
+        <source>write all values in one of them</source>
+        <translation>escriba todos los valores en una de esas formas</translation>
+    </message>
+    <message>
+        <source>The value of %1() depends on the page that uses it</source>
+        <translation>El valor de %1() depende de la página que lo usa</translation>
+    </message>
+    <message>
+        <source>write the value itself</source>
+        <translation>escriba el valor mismo</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 must be %3, not the result of this %4</source>
+        <translation>El valor «%1» de %2 debe ser %3, no el resultado de este %4</translation>
+    </message>
+    <message>
+        <source>The function is not closed</source>
+        <translation>La función no está cerrada</translation>
+    </message>
+    <message>
+        <source>A comma is missing before &quot;%1&quot;</source>
+        <translation>Falta una coma antes de «%1»</translation>
+    </message>
+    <message>
+        <source>color-mix() must begin with &quot;in&quot; and a colour space</source>
+        <translation>color-mix() debe empezar por «in» y un espacio de color</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour space of color-mix()</source>
+        <translation>«%1» no es un espacio de color de color-mix()</translation>
+    </message>
+    <message>
+        <source>write a space of color(), or hsl, hwb, lab, lch, oklab or oklch</source>
+        <translation>escriba un espacio de color(), o bien hsl, hwb, lab, lch, oklab u oklch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a way around the circle of hues</source>
+        <translation>«%1» no es un camino por el círculo de tonos</translation>
+    </message>
+    <message>
+        <source>write shorter, longer, increasing or decreasing hue</source>
+        <translation>escriba shorter, longer, increasing o decreasing hue</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a colour space with a hue</source>
+        <translation>«%1» necesita un espacio de color con tono</translation>
+    </message>
+    <message>
+        <source>use hsl, hwb, lch or oklch</source>
+        <translation>use hsl, hwb, lch u oklch</translation>
+    </message>
+    <message>
+        <source>The word &quot;hue&quot; is missing before &quot;%1&quot;</source>
+        <translation>Falta la palabra «hue» antes de «%1»</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be a percentage</source>
+        <translation>La parte de un color debe ser un porcentaje</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be from 0% to 100%, not &quot;%1&quot;</source>
+        <translation>La parte de un color debe estar entre 0% y 100%, no ser «%1»</translation>
+    </message>
+    <message>
+        <source>color-mix() mixes 0% of both colours</source>
+        <translation>color-mix() mezcla 0% de ambos colores</translation>
+    </message>
+    <message>
+        <source>The colour of %1() depends on the theme of the page</source>
+        <translation>El color de %1() depende del tema de la página</translation>
+    </message>
+    <message>
+        <source>write one of its two colours</source>
+        <translation>escriba uno de sus dos colores</translation>
+    </message>
+    <message>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() or light-dark()</source>
+        <translation>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() o light-dark()</translation>
+    </message>
+    <message>
+        <source>The parentheses are nested too deep</source>
+        <translation>Los paréntesis están anidados a demasiada profundidad</translation>
+    </message>
+    <message>
+        <source>nest at most %1</source>
+        <translation>anide %1 como máximo</translation>
     </message>
 </context>
 <context>

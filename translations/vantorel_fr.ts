@@ -238,18 +238,6 @@
         <translation>« %1 » n’est pas une fonction de couleur prise en charge</translation>
     </message>
     <message>
-        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() or color()</source>
-        <translation>utilisez rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch() ou color()</translation>
-    </message>
-    <message>
-        <source>Relative colours, with &quot;from&quot;, are not supported</source>
-        <translation>Les couleurs relatives, avec « from », ne sont pas prises en charge</translation>
-    </message>
-    <message>
-        <source>write the values themselves, as in &quot;%1&quot;</source>
-        <translation>écrivez les valeurs elles-mêmes, comme dans « %1 »</translation>
-    </message>
-    <message>
         <source>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 or xyz-d65</source>
         <translation>srgb, srgb-linear, display-p3, display-p3-linear, a98-rgb, prophoto-rgb, rec2020, xyz, xyz-d50 ou xyz-d65</translation>
     </message>
@@ -1798,6 +1786,134 @@ Les programmes de Qt et de GTK 3, ainsi que GIMP, affichent alors la page dans l
     <message>
         <source>make it a readable file, or remove it</source>
         <translation>faites-en un fichier lisible ou supprimez-le</translation>
+    </message>
+    <message>
+        <source>Which of its two colours light-dark() stands for: &quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>Laquelle de ses deux couleurs light-dark() désigne : « light » ou « dark ».</translation>
+    </message>
+    <message>
+        <source>clamp() needs 3 values and has %1</source>
+        <translation>clamp() demande 3 valeurs et en a %1</translation>
+    </message>
+    <message>
+        <source>A calculation needs spaces on both sides of &quot;%1&quot;</source>
+        <translation>Un calcul demande des espaces des deux côtés de « %1 »</translation>
+    </message>
+    <message>
+        <source>A calculation can divide only by a number</source>
+        <translation>Un calcul ne peut diviser que par un nombre</translation>
+    </message>
+    <message>
+        <source>A calculation can multiply only by a number</source>
+        <translation>Un calcul ne peut multiplier que par un nombre</translation>
+    </message>
+    <message>
+        <source>The calculation is not closed</source>
+        <translation>Le calcul n&apos;est pas fermé</translation>
+    </message>
+    <message>
+        <source>A calculation needs a value before &quot;%1&quot;</source>
+        <translation>Il manque une valeur au calcul avant « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not stand for a number in a calculation</source>
+        <translation>« %1 » ne désigne pas un nombre dans un calcul</translation>
+    </message>
+    <message>
+        <source>write the number</source>
+        <translation>écrivez le nombre</translation>
+    </message>
+    <message>
+        <source>A calculation cannot mix numbers, percentages and angles</source>
+        <translation>Un calcul ne peut mêler nombres, pourcentages et angles</translation>
+    </message>
+    <message>
+        <source>write all values in one of them</source>
+        <translation>écrivez toutes les valeurs sous l&apos;une de ces formes</translation>
+    </message>
+    <message>
+        <source>The value of %1() depends on the page that uses it</source>
+        <translation>La valeur de %1() dépend de la page qui l&apos;utilise</translation>
+    </message>
+    <message>
+        <source>write the value itself</source>
+        <translation>écrivez la valeur elle-même</translation>
+    </message>
+    <message>
+        <source>The %1 of %2 must be %3, not the result of this %4</source>
+        <translation>La valeur « %1 » de %2 doit être %3, non le résultat de ce %4</translation>
+    </message>
+    <message>
+        <source>The function is not closed</source>
+        <translation>La fonction n&apos;est pas fermée</translation>
+    </message>
+    <message>
+        <source>A comma is missing before &quot;%1&quot;</source>
+        <translation>Il manque une virgule avant « %1 »</translation>
+    </message>
+    <message>
+        <source>color-mix() must begin with &quot;in&quot; and a colour space</source>
+        <translation>color-mix() doit commencer par « in » et un espace de couleur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour space of color-mix()</source>
+        <translation>« %1 » n&apos;est pas un espace de couleur de color-mix()</translation>
+    </message>
+    <message>
+        <source>write a space of color(), or hsl, hwb, lab, lch, oklab or oklch</source>
+        <translation>écrivez un espace de color(), ou hsl, hwb, lab, lch, oklab ou oklch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a way around the circle of hues</source>
+        <translation>« %1 » n&apos;est pas un chemin sur le cercle des teintes</translation>
+    </message>
+    <message>
+        <source>write shorter, longer, increasing or decreasing hue</source>
+        <translation>écrivez shorter, longer, increasing ou decreasing hue</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a colour space with a hue</source>
+        <translation>« %1 » demande un espace de couleur avec une teinte</translation>
+    </message>
+    <message>
+        <source>use hsl, hwb, lch or oklch</source>
+        <translation>utilisez hsl, hwb, lch ou oklch</translation>
+    </message>
+    <message>
+        <source>The word &quot;hue&quot; is missing before &quot;%1&quot;</source>
+        <translation>Il manque le mot « hue » avant « %1 »</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be a percentage</source>
+        <translation>La part d&apos;une couleur doit être un pourcentage</translation>
+    </message>
+    <message>
+        <source>The share of a colour must be from 0% to 100%, not &quot;%1&quot;</source>
+        <translation>La part d&apos;une couleur doit être comprise entre 0% et 100%, et non « %1 »</translation>
+    </message>
+    <message>
+        <source>color-mix() mixes 0% of both colours</source>
+        <translation>color-mix() mélange 0% des deux couleurs</translation>
+    </message>
+    <message>
+        <source>The colour of %1() depends on the theme of the page</source>
+        <translation>La couleur de %1() dépend du thème de la page</translation>
+    </message>
+    <message>
+        <source>write one of its two colours</source>
+        <translation>écrivez l&apos;une de ses deux couleurs</translation>
+    </message>
+    <message>
+        <source>use rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() or light-dark()</source>
+        <translation>utilisez rgb(), hsl(), hwb(), lab(), lch(), oklab(), oklch(), color(), color-mix() ou light-dark()</translation>
+    </message>
+    <message>
+        <source>The parentheses are nested too deep</source>
+        <translation>Les parenthèses sont trop profondément imbriquées</translation>
+    </message>
+    <message>
+        <source>nest at most %1</source>
+        <translation>n&apos;en imbriquez que %1 au plus</translation>
     </message>
 </context>
 <context>

@@ -33,7 +33,9 @@ QTXCodeSnippet requiredSnippet(const QTXHexSettings& settings, const std::string
 /// Reads colour texts, which may be names of the naming list.
 ColorTextReader readerWithNamesOf(Session& session, const CommandLine& commandLine)
 {
-    return ColorTextReader([&] { return session.namingList(commandLine); });
+    auto theme = CSSTheme::unknown;
+    if (commandLine.theme) theme = commandLine.theme == "dark" ? CSSTheme::dark : CSSTheme::light;
+    return ColorTextReader([&] { return session.namingList(commandLine); }, theme);
 }
 
 /// Creates the namer when the first colour is named, because a stream may not need one.

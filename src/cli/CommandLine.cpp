@@ -24,6 +24,7 @@ CommandLine::CommandLine(GivenArguments given)
       png(given.value("--png")),
       size(given.value("--size")),
       rings(given.value("--rings")),
+      theme(given.value("--theme")),
       lowercase(eitherOf(given, "--lowercase", "--uppercase")),
       poundSign(eitherOf(given, "--pound-sign", "--no-pound-sign")),
       json(given.has("--json")),

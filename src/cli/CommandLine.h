@@ -23,6 +23,7 @@ struct CommandLine {
     std::optional<std::string> png;
     std::optional<std::string> size;
     std::optional<std::string> rings;
+    std::optional<std::string> theme;
     std::optional<bool> lowercase;
     std::optional<bool> poundSign;
     bool json = false;

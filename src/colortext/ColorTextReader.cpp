@@ -2,7 +2,6 @@
 
 #include "color/ColorTexts.h"
 #include "color/RgbTriple.h"
-#include "csscolor/CSSColorReader.h"
 #include "text/Trimming.h"
 #include "text/Unicode.h"
 
@@ -24,7 +23,7 @@ Result<ByteColor> ColorTextReader::read(std::string_view utf8)
 {
     if (const auto plain = readPlainHex(utf8)) return *plain;
     const std::u16string text = utf16FromUtf8(utf8);
-    Result<CSSColor> css = readCSSColor(std::u16string_view(text));
+    Result<CSSColor> css = readCSSColor(std::u16string_view(text), _theme);
     if (css) {
         ByteColor color = byteColorOf(css->color);
         color.wasOutsideSRGB = css->wasOutsideSRGB;
@@ -38,6 +37,7 @@ Result<ByteColor> ColorTextReader::read(std::string_view utf8)
     }
     // Names are looked up before triples, because a name can contain anything.
     if (const auto named = colorInList(name)) return byteColorOf(*named);
+    if (startsCSSColorFunction(name)) return std::move(css).error();
     if (const auto triple = readRgbTriple(text); triple.components) {
         const auto& [red, green, blue] = *triple.components;
         return ByteColor{static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "colortext/ByteColor.h"
+#include "csscolor/CSSColorReader.h"
 #include "host/HostColorList.h"
 #include "result/Result.h"
 #include "text/HexDigits.h"
@@ -15,14 +16,18 @@
 namespace vantorel {
 
 /// Reads colours that a user types: hex codes, all forms of CSS, the texts that the picker's fields
-/// accept, and names of a colour list.
+/// accept, and names of a colour list. What begins as a function of CSS must be whole and right:
+/// the picker's fields guess what "rgb(1 2 3 4)" means, but a program must be told.
 class ColorTextReader {
 public:
     using FindList = std::function<std::shared_ptr<HostColorList>()>;
 
     /// `findList` returns the list whose names are accepted, or null. It is called at most once,
     /// when a text has none of the other forms.
-    explicit ColorTextReader(FindList findList) : _findList(std::move(findList)) {}
+    explicit ColorTextReader(FindList findList, CSSTheme theme = CSSTheme::unknown)
+        : _findList(std::move(findList)), _theme(theme)
+    {
+    }
 
     /// Takes linear time for texts of any length.
     [[nodiscard]] Result<ByteColor> read(std::string_view utf8);
@@ -31,6 +36,7 @@ private:
     [[nodiscard]] std::optional<HostColor> colorInList(const std::u16string& name);
 
     FindList _findList;
+    CSSTheme _theme;
     bool _hasList = false;
     std::shared_ptr<HostColorList> _list;
 };

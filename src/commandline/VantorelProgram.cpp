@@ -17,6 +17,11 @@ std::vector<Choice> exportFormats()
     return choices;
 }
 
+std::vector<Choice> themes()
+{
+    return {{"light", {}}, {"dark", {}}};
+}
+
 constexpr std::string_view jsonLines = "Write JSON, one object per line.";
 
 constexpr OptionRow sizeOption{
@@ -55,6 +60,10 @@ constexpr OptionRow showOptions[] = {
      .text = "Write hex codes with \"#\". Without --pound-sign or --no-pound-sign, the settings "
              "decide.",
      .excludes = "--no-pound-sign"},
+    {.name = "--theme",
+     .value = "THEME",
+     .text = "Which of its two colours light-dark() stands for: \"light\" or \"dark\".",
+     .choices = themes},
 };
 
 constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};

@@ -36,6 +36,8 @@ EXAMPLES = [
     (["show", "--json", "#ff8000"], "", re.compile(r'\A\{"hex":"#FF8000","rgb":"rgb\(255, 128, 0\)",.*\}\n\Z')),
     (["show"], "#ff8000\n\n  \nf80\r\nrgb(1,2,3)\norange", "#FF8000\trgb(255, 128, 0)\n#FF8800\trgb(255, 136, 0)\n"
      "#010203\trgb(1, 2, 3)\n#FFA500\trgb(255, 165, 0)\n"),
+    (["show", "--theme", "light", "--snippet", "VBasic", "light-dark(red, blue)"], "", "RGB(255, 0, 0)\n"),
+    (["show", "--theme", "dark", "--snippet", "VBasic", "light-dark(red, blue)"], "", "RGB(0, 0, 255)\n"),
     (["show", "-"], "#12345680\n", "#12345680\trgba(18, 52, 86, 0.5)\n"),
     (["show", "--lowercase", "--no-pound-sign"], "#AB0\n", "aabb00\trgb(170, 187, 0)\n"),
     (["show", "--list", "CSS Keyword"], "red\n#fe0000\n#123\n", "#FF0000\trgb(255, 0, 0)\tred\n"
@@ -131,6 +133,8 @@ ERRORS = [
     (["show", "nope"], '"nope" is not a CSS colour name: write a colour'),
     (["show", ""], "no colour"),
     (["show", "[red,blue]"], '"[" is not a colour'),
+    (["show", "rgb(1 2 3 4)"], 'there is "4"'),
+    (["show", "light-dark(white, black)"], "depends on the theme of the page"),
     (["show", "red", "--list", "Nope"], 'there is no colour list "Nope"'),
     (["show", "red", "--snippet", "Nope"], 'there is no snippet "Nope"'),
     (["name", "red", "--list", ""], 'there is no colour list ""'),
@@ -150,8 +154,8 @@ ERRORS = [
 
 PICKERS_TEXTS = [
     ("ff8000", "FF8000"), ("#ff8000", "FF8000"), ("f80", "FF8800"), ("#f80", "FF8800"), ("a", "AAAAAA"),
-    ("#a", "AAAAAA"), ("RGB(255, 128, 0);", "FF8000"), ("rgb(255, 128, 0", "FF8000"),
-    ("orange: rgb(255, 165, 0);", "FFA500"), ("Rgb(1 2,3) and more", "010203"),
+    ("#a", "AAAAAA"), ("RGB(255, 128, 0);", "FF8000"), ("= rgb(255, 128, 0", "FF8000"),
+    ("orange: rgb(255, 165, 0);", "FFA500"), ("in Rgb(1 2,3) and more", "010203"),
     (" #ff8000 ", "FF8000"), ("hsl(30 100% 50%)", "FF8000"), ("hwb(30 0% 0%)", "FF8000"), ("rgb(50% 50% 50%)", "808080"),
     ("oklch(73.189% 0.1858 52.985)", "FF8000"), ("color(display-p3 0 1 0)", "00FB29"), ("REBECCAPURPLE", "663399"),
     ("lab(50% 0 0)", "777777"), ("transparent", "00000000"), ("#12345678", "12345678"),

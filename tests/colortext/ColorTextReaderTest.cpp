@@ -49,6 +49,35 @@ TEST(ColorTextReaderTest, ChannelsAreRoundedAsInBrowsers)
     EXPECT_EQ(byteColorOf(HostColor::colorWithCalibratedRed(0, 0, 0, -3)).alpha, 0);
 }
 
+TEST(ColorTextReaderTest, WhatBeginsAsAFunctionOfCSSMustBeCSS)
+{
+    ColorTextReader reader([] { return nullptr; });
+    EXPECT_EQ(codeOf(reader.read("the rgb(1, 2, 3) of it")), "010203");
+    EXPECT_EQ(codeOf(reader.read("rgb (1, 2, 3)")), "none");
+    for (const char* text : {"rgb(1 2 3 4)", "rgb(1,2,3,4,5)", "rgb(1 2 3 / )", "rgb(1 2 3",
+                             "rgb(255, 255, 255, none)", "rgb(0, 0 0)", " RGB(1, 2, 3, x)"})
+        EXPECT_EQ(codeOf(reader.read(text)), "none") << text;
+}
+
+TEST(ColorTextReaderTest, LightDarkNeedsATheme)
+{
+    const auto codeIn = [](CSSTheme theme) {
+        return codeOf(
+            ColorTextReader([] { return nullptr; }, theme).read("light-dark(#ff8000, #123456)"));
+    };
+    EXPECT_EQ(codeIn(CSSTheme::light), "ff8000");
+    EXPECT_EQ(codeIn(CSSTheme::dark), "123456");
+    EXPECT_EQ(codeIn(CSSTheme::unknown), "none");
+}
+
+TEST(ColorTextReaderTest, SumsThatJustMissAHalfAreRoundedUp)
+{
+    ColorTextReader reader([] { return nullptr; });
+    EXPECT_EQ(codeOf(reader.read("hwb(120 30% 50%)")), "4d804d");
+    EXPECT_EQ(codeOf(reader.read("rgb(30% 50% 10%)")), "4d801a");
+    EXPECT_EQ(codeOf(reader.read("hsl(0 0% 50%)")), "808080");
+}
+
 TEST(ColorTextReaderTest, AListIsLoadedOnceAndOnlyToLookUpNames)
 {
     int asked = 0;
