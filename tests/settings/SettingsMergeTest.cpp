@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 /// Several processes that write one settings file.
 namespace vantorel {
 namespace {
@@ -23,6 +26,20 @@ struct SettingsProcess {
     SettingsMerge merge;
 };
 
+/// Files that another process keeps locked for a while.
+class ContendedFiles final : public MemoryFiles {
+public:
+    [[nodiscard]] std::shared_ptr<HostFolderLock> lockFolder(const std::string& folder) override
+    {
+        if (const auto change = std::exchange(lastChange, {})) change();
+        return isReleased ? MemoryFiles::lockFolder(folder) : nullptr;
+    }
+
+    /// What the other process does before it releases the lock.
+    std::function<void()> lastChange;
+    bool isReleased = true;
+};
+
 class SettingsMergeTest : public testing::Test {
 protected:
     SettingsMergeTest() { SettingsProcess first(_files); }
@@ -34,7 +51,7 @@ protected:
         return settings;
     }
 
-    MemoryFiles _files;
+    ContendedFiles _files;
 };
 
 TEST_F(SettingsMergeTest, AProcessThatIsAloneWritesItsSettings)
@@ -107,6 +124,43 @@ TEST_F(SettingsMergeTest, SomeListStaysActive)
     two.settings.activeColorLists() = {u"B"};
     two.write();
     EXPECT_THAT(stored().activeColorLists(), ElementsAre(u"B"));
+}
+
+TEST_F(SettingsMergeTest, AnUnknownKeyOfAnotherProcessIsLeftOut)
+{
+    SettingsProcess one(_files);
+    const std::string path = *hexColorPickerDefaultsFileName(_files);
+    _files.writeAtomically(path, "{ Unknown = 1; }");
+    one.settings.setEntryForm(EntryForm::lowercase);
+    one.write();
+    EXPECT_EQ(_files.contentsAtPath(path), settingsData(stored()));
+    EXPECT_EQ(_files.contentsAtPath(path)->find("Unknown"), std::string::npos);
+}
+
+TEST_F(SettingsMergeTest, WhatIsWrittenBeforeTheLockIsReleasedIsKept)
+{
+    SettingsProcess one(_files);
+    SettingsProcess two(_files);
+    _files.lastChange = [&two] {
+        two.settings.setNColorCubeRings(7);
+        two.write();
+    };
+    one.settings.setEntryForm(EntryForm::lowercase);
+    one.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 7);
+    EXPECT_EQ(stored().entryForm(), EntryForm::lowercase);
+}
+
+TEST_F(SettingsMergeTest, NothingIsWrittenWithoutTheLock)
+{
+    SettingsProcess one(_files);
+    _files.isReleased = false;
+    one.settings.setNColorCubeRings(7);
+    one.write();
+    EXPECT_NE(stored().nColorCubeRings(), 7);
+    _files.isReleased = true;
+    one.write();
+    EXPECT_EQ(stored().nColorCubeRings(), 7);
 }
 
 TEST_F(SettingsMergeTest, ADamagedOrRemovedFileIsReplaced)
