@@ -46,7 +46,6 @@ void PanelMemoryKeeper::keep()
     saveSoon();
 
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &PanelMemoryKeeper::save);
-    connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &PanelMemoryKeeper::save);
     // Qt calls exit() when the connection to the X server breaks.
     static const bool isRegistered = std::atexit([] {
                                          if (keeperAtExit != nullptr) keeperAtExit->saveAtExit();

@@ -12,8 +12,8 @@ class PanelWindow;
 /// Keeps the panel's memory on the disk up to date, so that it survives whatever ends the panel.
 ///
 /// Changes are written soon after they are made, for the ends that nobody can prepare for. The
-/// memory is also written when the session asks programs to save, when the application quits, and
-/// when the program exits because the connection to the X server broke.
+/// memory is also written when the session asks programs to save, when the program exits because
+/// the connection to the X server broke, and by `save` at an orderly end.
 class PanelMemoryKeeper final : public QObject {
     Q_OBJECT
 
