@@ -50,8 +50,10 @@ public:
     virtual HostFieldEditor* fieldEditor(HostTextField& field) = 0;
 
     /// Waits for the panel's next event of a type in `mask` and removes it from the queue. The rest
-    /// of the program keeps running meanwhile. If the panel is destroyed while waiting, a
-    /// left-mouse-up is returned. The event's location is in the coordinates of `view`.
+    /// of the program keeps running meanwhile. A desktop may drop the events of other types that
+    /// come before it. If none can come, because the button is up, or the view or the panel goes
+    /// out of sight or is destroyed, a left-mouse-up at the last location is returned. The event's
+    /// location is in the coordinates of `view`.
     virtual HostEvent nextEventMatchingMask(std::uint32_t mask, HostView& view) = 0;
 
     /// Runs a drag that starts at `event`'s location. Returns when the drag has ended, by a drop or

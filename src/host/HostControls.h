@@ -15,7 +15,9 @@
 
 namespace vantorel {
 
-/// A view that the user operates. When the user has finished, the control sends its action.
+/// A view that the user operates. When the user has finished, the control sends its action. The
+/// action, like every other function that a control calls, may take the control out of sight or
+/// destroy it, and its page with it; but `setWillPopUp`'s may not.
 class HostControl : public HostView {
 public:
     using Action = std::function<void(HostControl& sender)>;
@@ -39,7 +41,8 @@ enum class HostEntryFit {
     isIgnored,   ///< it does nothing
 };
 
-/// A line of text, editable or not. The action is sent when the user ends the entry (Return).
+/// A line of text, editable or not. The action is sent when the user ends the entry: by Return, or
+/// by leaving the field. A field that goes out of sight sends none.
 class HostTextField : public HostControl {
 public:
     using HostControl::HostControl;
@@ -111,7 +114,8 @@ public:
     virtual void setSelectedRange(HostSelection range) = 0;
 };
 
-/// A push button, check box or toggle. State 0 is off, 1 is on.
+/// A push button, check box or toggle. State 0 is off, 1 is on. A click on a check box or toggle
+/// changes the state before the action is sent.
 class HostButton : public HostControl {
 public:
     using HostControl::HostControl;
@@ -133,6 +137,7 @@ private:
 
 /// A button that shows one item of its menu and opens the menu when pressed. This class holds the
 /// items, so that selection follows the same rules on every desktop; the desktop only shows them.
+/// Without items no menu opens. An open menu closes when the button goes out of sight.
 class HostPopUpButton : public HostControl {
 public:
     using HostControl::HostControl;

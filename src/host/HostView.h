@@ -61,7 +61,8 @@ public:
 
     [[nodiscard]] HostView* superview() const { return _superview; }
     [[nodiscard]] const std::vector<HostView*>& subviews() const { return _subviews; }
-    /// Puts `view` on top of the other subviews and removes it from its previous superview.
+    /// Puts `view` on top of the other subviews and removes it from its previous superview. Has no
+    /// effect if it is a subview already.
     void addSubview(HostView& view);
     void removeFromSuperview();
 

@@ -84,9 +84,10 @@ void GtkHostButton::wasToggled()
 {
     if (_stateIsBeingShown) return;
     setState(gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(widget())) ? 1 : 0);
+    const GtkWeakWidget alive(widget());
     sendAction();
-    // The action may have set another state.
-    stateDidChange();
+    // The action may have set another state, or destroyed the button.
+    if (alive.get() != nullptr) stateDidChange();
 }
 
 void GtkHostButton::stateDidChange()

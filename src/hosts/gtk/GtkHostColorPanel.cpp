@@ -68,9 +68,9 @@ void GtkHostColorPanel::dragImage(const HostImage& image, const HostPasteboardIt
 {
     auto* custom = dynamic_cast<GtkHostCustomView*>(&source);
     if (custom == nullptr || custom->widget() == nullptr) return;
-    const GtkWeakWidget alive(custom->widget());
+    // The drag takes the pointer, which must not count as a release.
+    custom->forgetButton();
     runDrag(custom->activeWidget(), custom->lastButtonEvent(), image, item);
-    if (alive.get() != nullptr) custom->forgetButton();
 }
 
 }  // namespace vantorel

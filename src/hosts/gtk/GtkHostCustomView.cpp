@@ -82,6 +82,8 @@ void GtkHostCustomView::connectMouse()
         if (isBackFromGrab == FALSE) _turn.breakOff();
     });
     signals().connect<void>(area, "unmap", [this] { _turn.breakOff(); });
+    // GTK 2 does not unmap what is taken out.
+    signals().connect<void>(area, "unrealize", [this] { _turn.breakOff(); });
     signals().connect<void>(area, "destroy", [this] { _turn.breakOff(); });
 }
 

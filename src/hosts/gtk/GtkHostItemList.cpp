@@ -48,6 +48,8 @@ public:
         connect();
         // A list must not outlive what it is a part of.
         _signals.connect<void>(button, "unmap", [this] { close(); });
+        // GTK 2 does not unmap what is taken out.
+        _signals.connect<void>(button, "unrealize", [this] { close(); });
         _signals.connect<void>(button, "destroy", [this] { close(); });
     }
 

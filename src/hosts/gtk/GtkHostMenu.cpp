@@ -61,11 +61,14 @@ public:
             _end.callSoon([menu = GtkWeakWidget(_menu)] { destroyMenu(menu.get()); });
         });
         // At once, because GTK 2 asks the button when a menu is destroyed.
-        const auto close = [menu = _menu] {
+        const auto close = [this, menu = _menu] {
+            if (std::exchange(_isClosed, true)) return;
             gtk_menu_popdown(GTK_MENU(menu));
             gtk_widget_destroy(menu);
         };
         _signals.connect<void>(_shownIn, "unmap", close);
+        // GTK 2 does not unmap what is taken out.
+        _signals.connect<void>(_shownIn, "unrealize", close);
         _signals.connect<void>(_shownIn, "destroy", close);
     }
 
@@ -162,6 +165,7 @@ private:
     TypeAhead _typeAhead;
     GtkConnections _signals;
     GtkDeferral _end;
+    bool _isClosed = false;
 };
 
 #if GTK_MAJOR_VERSION >= 3

@@ -143,8 +143,8 @@ void GtkHostTextField::focusDidChange(bool hasFocus)
     fit();
     GtkWidget* window = gtk_widget_get_toplevel(widget());
     // The focus can also go because of another window or a menu, or because the field is hidden.
-    const bool isLeft = !hasFocus && gtk_widget_get_mapped(widget()) && GTK_IS_WINDOW(window) &&
-                        gtk_window_has_toplevel_focus(GTK_WINDOW(window));
+    const bool isLeft = !hasFocus && !isHidingGtkWidget() && gtk_widget_get_mapped(widget()) &&
+                        GTK_IS_WINDOW(window) && gtk_window_has_toplevel_focus(GTK_WINDOW(window));
     if (isLeft) _entry.leave();
 }
 

@@ -10,8 +10,28 @@
 #include <atk/atk.h>
 
 #include <cmath>
+#include <optional>
 
 namespace vantorel {
+namespace {
+
+int hidingCount = 0;
+
+/// Marks the time in which a widget goes out of sight.
+class Hiding {
+public:
+    Hiding() { ++hidingCount; }
+    Hiding(const Hiding&) = delete;
+    Hiding& operator=(const Hiding&) = delete;
+    ~Hiding() { --hidingCount; }
+};
+
+}  // namespace
+
+bool isHidingGtkWidget()
+{
+    return hidingCount > 0;
+}
 
 GtkPeer::GtkPeer(GtkWidget* widget) : _widget(GtkReference<GtkWidget>::sink(widget)), _alive(widget)
 {
@@ -22,6 +42,7 @@ GtkPeer::GtkPeer(GtkWidget* widget) : _widget(GtkReference<GtkWidget>::sink(widg
 void GtkPeer::closeWidget()
 {
     _signals.clear();
+    const Hiding hiding;
     if (GtkWidget* widget = _alive.get()) gtk_widget_destroy(widget);
 }
 
@@ -52,8 +73,11 @@ void placeGtkWidgets(const HostView& view)
     if (widget != nullptr && view.superview() != nullptr) {
         placeInHostBox(widget,
                        pixelFrame(view.frame(), view.superview()->bounds(), gtkTextScale()));
-        gtk_widget_set_visible(
-            widget, gtk_widget_get_parent(widget) != nullptr && isInSight(view, gtkTextScale()));
+        const bool isSeen =
+            gtk_widget_get_parent(widget) != nullptr && isInSight(view, gtkTextScale());
+        std::optional<Hiding> hiding;
+        if (!isSeen) hiding.emplace();
+        gtk_widget_set_visible(widget, isSeen);
     }
     // With y up, an unchanged frame moves in GTK's coordinates when the superview's height changes.
     for (const HostView* subview : view.subviews())
@@ -76,7 +100,10 @@ void adoptGtkWidget(HostView& view)
                                gtk_widget_is_ancestor(focused, widget));
     if (dynamic_cast<HostCustomView*>(view.superview()) != nullptr) styleForLightGround(widget);
     if (oldParent != parent) {
-        if (oldParent != nullptr) gtk_container_remove(GTK_CONTAINER(oldParent), widget);
+        if (oldParent != nullptr) {
+            const Hiding hiding;
+            gtk_container_remove(GTK_CONTAINER(oldParent), widget);
+        }
         if (parent != nullptr) {
             gtk_widget_set_visible(widget, FALSE);
             gtk_container_add(GTK_CONTAINER(parent), widget);

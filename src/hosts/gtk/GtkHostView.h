@@ -45,6 +45,9 @@ private:
 
 /// Moves the widgets of a view and its subviews to their frames, and hides what is out of sight.
 void placeGtkWidgets(const HostView& view);
+/// Whether a widget is being hidden or taken out by its view. If it has the focus, GTK takes it
+/// away first; it was not the user who left it.
+[[nodiscard]] bool isHidingGtkWidget();
 /// Puts a view's widget into that of its superview, or takes it out if there is none.
 void adoptGtkWidget(HostView& view);
 
@@ -78,7 +81,7 @@ protected:
         GtkWidget* shown = activeWidget();
         if (shown == nullptr) return;
         const PixelRect area = pixelsAround(rect, this->bounds());
-        gtk_widget_queue_draw_area(shown, area.x, area.y, area.width, area.height);
+        queueDrawing(shown, area.x, area.y, area.width, area.height);
     }
 };
 

@@ -61,6 +61,21 @@ namespace vantorel {
 #endif
 }
 
+/// Marks a part of a widget, relative to its corner, for redrawing.
+inline void queueDrawing(GtkWidget* widget, int x, int y, int width, int height)
+{
+#if GTK_MAJOR_VERSION < 3
+    // GTK 2 counts from the corner of the window.
+    if (!gtk_widget_get_has_window(widget)) {
+        GtkAllocation place;
+        gtk_widget_get_allocation(widget, &place);
+        x += place.x;
+        y += place.y;
+    }
+#endif
+    gtk_widget_queue_draw_area(widget, x, y, width, height);
+}
+
 /// Allocates the children of a widget anew. Its own size stays.
 inline void queueAllocation(GtkWidget* widget)
 {

@@ -91,16 +91,21 @@ QtButton::QtButton(const HostControlDescription& description)
     shown->setIconSize(QSize(iconSize, iconSize) * textScale());
     shown->setAccessibleName(qStringFrom(description.accessibleName));
     if (!shown->isCheckable()) {
-        QObject::connect(shown, &QAbstractButton::clicked, shown, [this] { sendAction(); });
+        QObject::connect(shown, &QAbstractButton::clicked, shown, [this] {
+            const WidgetReaction reaction;
+            sendAction();
+        });
         return;
     }
     // Not `clicked`: assistive technology toggles without a click.
     QObject::connect(shown, &QAbstractButton::toggled, shown, [this](bool checked) {
         if (_stateIsBeingShown) return;
+        const WidgetReaction reaction;
+        const std::weak_ptr<const bool> life = _life;
         setState(checked ? 1 : 0);
         sendAction();
-        // The action may have set another state.
-        stateDidChange();
+        // The action may have set another state, or destroyed the button.
+        if (!life.expired()) stateDidChange();
     });
 }
 
@@ -111,7 +116,7 @@ QAbstractButton* QtButton::button() const
 
 void QtButton::stateDidChange()
 {
-    if (!button()->isCheckable()) return;
+    if (button() == nullptr || !button()->isCheckable()) return;
     const bool wasBeingShown = std::exchange(_stateIsBeingShown, true);
     button()->setChecked(state() == 1);
     _stateIsBeingShown = wasBeingShown;

@@ -7,6 +7,8 @@
 #include <QAbstractButton>
 #include <QIcon>
 
+#include <memory>
+
 namespace vantorel {
 
 /// A push button, check box or toggle, with a text or a picture.
@@ -21,6 +23,8 @@ private:
     [[nodiscard]] QAbstractButton* button() const;
 
     bool _stateIsBeingShown = false;
+    /// Expires when the button is destroyed.
+    std::shared_ptr<const bool> _life = std::make_shared<bool>(true);
 };
 
 /// An icon from an SVG picture. `currentColor` in it becomes the text colour of the theme: that of

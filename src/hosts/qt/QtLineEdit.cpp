@@ -5,6 +5,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtEvents.h"
 #include "hosts/qt/QtVersions.h"
+#include "hosts/qt/QtView.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -42,6 +43,7 @@ void QtLineEdit::setHostColor(const HostColor& color)
 
 bool QtLineEdit::event(QEvent* event)
 {
+    const WidgetReaction reaction;
     // Accepted ahead of shortcuts: in a field Escape only ends the entry, even in a window that
     // Escape would close.
     if (event->type() == QEvent::ShortcutOverride &&
@@ -82,6 +84,8 @@ void QtLineEdit::focusOutEvent(QFocusEvent* event)
 {
     ClipboardLineEdit::focusOutEvent(event);
     fit();
+    // Qt moves the focus on, as Tab does, when it hides the widget that has it.
+    if (!isVisible()) return;
     switch (event->reason()) {
         case Qt::MouseFocusReason:
         case Qt::TabFocusReason:
@@ -90,7 +94,7 @@ void QtLineEdit::focusOutEvent(QFocusEvent* event)
             _entry->leave();
             break;
         default:
-            break;  // another window, a menu, or the field was hidden
+            break;  // another window or a menu
     }
 }
 

@@ -23,6 +23,7 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setAttribute(Qt::WA_Hover);
         connect(this, &QAbstractButton::pressed, this, [this] {
+            const WidgetReaction reaction;
             setDown(false);
             _owner.openMenu();
         });
@@ -68,6 +69,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override
     {
+        const WidgetReaction reaction;
         const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
         switch (event->key()) {
             case Qt::Key_Space:
@@ -96,6 +98,12 @@ protected:
         } else {
             QAbstractButton::keyPressEvent(event);
         }
+    }
+
+    void hideEvent(QHideEvent* event) override
+    {
+        QAbstractButton::hideEvent(event);
+        if (_owner._opened) _owner._opened->close();
     }
 
 private:
@@ -131,15 +139,19 @@ void QtPopUpButton::openMenu()
 {
     sendWillPopUp();
     QWidget* shown = widget();
+    if (shown == nullptr || menu().empty()) return;
     const auto choose = [this](const HostMenuItem& item, int index) {
+        const WidgetReaction reaction;
         EventGuard::run(*widget(), [&] { chooseOpenedItem(*this, item, index); });
     };
     if (hasSubmenus(menu())) {
         QMenu* opened = makeMenu(menu(), indexOfSelectedItem(), *shown, choose);
+        _opened = opened;
         opened->setMinimumWidth(shown->width());
         opened->popup(shown->mapToGlobal(QPoint(0, shown->height())));
     } else {
         auto* opened = new QtItemList(menu(), indexOfSelectedItem(), *shown);
+        _opened = opened;
         QObject::connect(opened, &QtItemList::chosen, shown, choose);
         opened->openBeside(QRect(shown->mapToGlobal(QPoint(0, 0)), shown->size()));
     }

@@ -21,6 +21,9 @@ protected:
 
 private:
     class Widget;
+
+    /// The open menu or list, which goes with the button.
+    QPointer<QWidget> _opened;
 };
 
 }  // namespace vantorel

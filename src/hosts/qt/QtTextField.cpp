@@ -32,15 +32,20 @@ QtTextField::QtTextField(const HostControlDescription& description)
     edit->setAccessibleName(qStringFrom(description.accessibleName));
     edit->setReadOnly(description.readOnly);
     // Not `textEdited`: text entered by an assistive program counts as typed, too.
-    QObject::connect(edit, &QLineEdit::textChanged, edit,
-                     [this, edit] { _entry.textDidChange(edit->isDeleting()); });
-    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] { _entry.enter(); });
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [this, edit] {
+        const WidgetReaction reaction;
+        _entry.textDidChange(edit->isDeleting());
+    });
+    QObject::connect(edit, &QLineEdit::returnPressed, edit, [this] {
+        const WidgetReaction reaction;
+        _entry.enter();
+    });
     edit->setEntry(_entry);
 }
 
 void QtTextField::stepDidChange()
 {
-    lineEdit()->setCanStep(canStep());
+    if (QtLineEdit* edit = lineEdit()) edit->setCanStep(canStep());
 }
 
 QtLineEdit* QtTextField::lineEdit() const
@@ -50,27 +55,29 @@ QtLineEdit* QtTextField::lineEdit() const
 
 std::u16string QtTextField::stringValue() const
 {
-    return u16From(lineEdit()->text());
+    const QtLineEdit* edit = lineEdit();
+    return edit != nullptr ? u16From(edit->text()) : std::u16string();
 }
 
 void QtTextField::setStringValue(const std::u16string& text)
 {
-    _entry.setStringValue(text);
+    if (lineEdit() != nullptr) _entry.setStringValue(text);
 }
 
 void QtTextField::writeText(const std::u16string& text)
 {
-    lineEdit()->setText(qStringFrom(text));
+    if (QtLineEdit* edit = lineEdit()) edit->setText(qStringFrom(text));
 }
 
 void QtTextField::setTextColor(const HostColor& color)
 {
-    lineEdit()->setHostColor(color);
+    if (QtLineEdit* edit = lineEdit()) edit->setHostColor(color);
 }
 
 EntryWidget::Range QtTextField::selection() const
 {
     const QLineEdit* edit = lineEdit();
+    if (edit == nullptr) return {};
     const auto caret = static_cast<std::size_t>(edit->cursorPosition());
     if (!edit->hasSelectedText()) return {caret, caret};
     const auto start = static_cast<std::size_t>(edit->selectionStart());
@@ -81,39 +88,40 @@ EntryWidget::Range QtTextField::selection() const
 void QtTextField::select(Range range)
 {
     const int anchor = static_cast<int>(range.anchor);
-    lineEdit()->setSelection(anchor, static_cast<int>(range.caret) - anchor);
+    if (QtLineEdit* edit = lineEdit())
+        edit->setSelection(anchor, static_cast<int>(range.caret) - anchor);
 }
 
 void QtTextField::insert(const std::u16string& text)
 {
-    lineEdit()->insert(qStringFrom(text));
+    if (QtLineEdit* edit = lineEdit()) edit->insert(qStringFrom(text));
 }
 
 bool QtTextField::hasFocus() const
 {
-    return lineEdit()->hasFocus();
+    return lineEdit() != nullptr && lineEdit()->hasFocus();
 }
 
 bool QtTextField::isVisible() const
 {
-    return lineEdit()->isVisible();
+    return lineEdit() != nullptr && lineEdit()->isVisible();
 }
 
 bool QtTextField::isReadOnly() const
 {
-    return lineEdit()->isReadOnly();
+    return lineEdit() == nullptr || lineEdit()->isReadOnly();
 }
 
 bool QtTextField::offerText(const std::u16string& text)
 {
     bool isTaken = false;
-    emit lineEdit()->textOffered(qStringFrom(text), isTaken);
+    if (QtLineEdit* edit = lineEdit()) emit edit->textOffered(qStringFrom(text), isTaken);
     return isTaken;
 }
 
 void QtTextField::entryGivenUp()
 {
-    emit lineEdit()->entryGivenUp();
+    if (QtLineEdit* edit = lineEdit()) emit edit->entryGivenUp();
 }
 
 QtLabel::QtLabel(const HostControlDescription& description)
@@ -132,11 +140,12 @@ QLabel* QtLabel::label() const
 
 std::u16string QtLabel::stringValue() const
 {
-    return u16From(label()->text());
+    return label() != nullptr ? u16From(label()->text()) : std::u16string();
 }
 
 void QtLabel::setStringValue(const std::u16string& text)
 {
+    if (label() == nullptr) return;
     const QString shown = qStringFrom(text);
     label()->setText(shown);
     // An accessible name of the label itself would hide its text from assistive technology.
@@ -146,7 +155,7 @@ void QtLabel::setStringValue(const std::u16string& text)
 
 QRect QtLabel::shownGeometry(QRect frame) const
 {
-    if (!label()->alignment().testFlag(Qt::AlignRight)) return frame;
+    if (label() == nullptr || !label()->alignment().testFlag(Qt::AlignRight)) return frame;
     const int whole = frame.right() + 1 - label()->sizeHint().width();
     // Not outside the superview, unless the frame is.
     frame.setLeft(std::min(frame.left(), std::max(whole, 0)));
@@ -158,7 +167,7 @@ void QtLabel::setTextColor(const HostColor& color)
     QPalette palette;
     palette.setColor(QPalette::WindowText,
                      readableTextColor(color, paletteOnGround(groundColor())));
-    label()->setPalette(palette);
+    if (label() != nullptr) label()->setPalette(palette);
 }
 
 }  // namespace vantorel

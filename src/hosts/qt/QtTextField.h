@@ -27,7 +27,7 @@ public:
     [[nodiscard]] bool isEdited() const { return _entry.isEdited(); }
     /// See `FieldEntry::finish`.
     void finishEditing() { _entry.finish(); }
-    /// The field's widget.
+    /// The field's widget; null if it was destroyed with its window.
     [[nodiscard]] QtLineEdit* lineEdit() const;
 
 protected:

@@ -4,6 +4,38 @@
 #include "hosts/qt/TextScale.h"
 
 namespace vantorel {
+namespace {
+
+/// Keeps all events from a widget whose view is gone.
+class LastFilter final : public QObject {
+public:
+    explicit LastFilter(QObject* parent) : QObject(parent) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() != QEvent::DeferredDelete;
+    }
+};
+
+}  // namespace
+
+int& WidgetReaction::running()
+{
+    static int count = 0;
+    return count;
+}
+
+void disposeOf(QWidget* widget)
+{
+    if (widget == nullptr || !WidgetReaction::isRunning()) {
+        delete widget;
+        return;
+    }
+    widget->disconnect();
+    widget->installEventFilter(new LastFilter(widget));
+    widget->setVisible(false);
+    widget->setParent(nullptr);
+    widget->deleteLater();
+}
 
 QWidget* widgetOf(const HostView* view)
 {

@@ -37,7 +37,27 @@ void placeWidgets(const HostView& view);
 /// Puts a view's widget into that of its superview, or hides it if there is none.
 void adoptWidget(HostView& view);
 
-/// Mirrors a view in a widget. Owns the widget unless the widget's parent is destroyed first.
+/// A reaction of the page to one of Qt's signals or events, while it runs. Lives on the stack.
+class WidgetReaction {
+public:
+    WidgetReaction() { ++running(); }
+    WidgetReaction(const WidgetReaction&) = delete;
+    WidgetReaction& operator=(const WidgetReaction&) = delete;
+    ~WidgetReaction() { --running(); }
+
+    [[nodiscard]] static bool isRunning() { return running() > 0; }
+
+private:
+    [[nodiscard]] static int& running();
+};
+
+/// Destroys the widget of a view that is gone. In the middle of a `WidgetReaction` it hides the
+/// widget and destroys it later, because Qt goes on with the widget when the reaction is over.
+void disposeOf(QWidget* widget);
+
+/// Mirrors a view in a widget. Owns the widget unless the widget's parent is destroyed first: a
+/// program may destroy its window before the page in it. `widget()` is null from then on, and
+/// changes of the view have no effect on the screen.
 template <class Base>
 class QtMirrored : public Base, public QtPeer {
 public:
@@ -47,7 +67,7 @@ public:
         _widget->setVisible(false);
         _widget->resize(static_cast<int>(frame.width), static_cast<int>(frame.height));
     }
-    ~QtMirrored() override { delete _widget.data(); }
+    ~QtMirrored() override { disposeOf(_widget); }
 
     [[nodiscard]] QWidget* widget() const override { return _widget; }
 
