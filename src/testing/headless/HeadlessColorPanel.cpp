@@ -92,6 +92,12 @@ HostFieldEditor* HeadlessColorPanel::fieldEditor(HostTextField& field)
     return edited != nullptr && edited->isEdited() ? edited : nullptr;
 }
 
+bool HeadlessColorPanel::hasEvents()
+{
+    if (_events.empty()) eventsRanOut();
+    return !_events.empty();
+}
+
 HostEvent HeadlessColorPanel::takeEvent(const std::deque<HostEvent>::const_iterator& place)
 {
     const HostEvent event = *place;
@@ -102,9 +108,17 @@ HostEvent HeadlessColorPanel::takeEvent(const std::deque<HostEvent>::const_itera
 
 HostEvent HeadlessColorPanel::nextEventMatchingMask(std::uint32_t mask, HostView&)
 {
-    const auto next = std::find_if(_events.begin(), _events.end(), [mask](const HostEvent& event) {
-        return (maskOfEventType(event.type) & mask) != 0;
-    });
+    const auto find = [this, mask] {
+        return std::find_if(_events.begin(), _events.end(), [mask](const HostEvent& event) {
+            return (maskOfEventType(event.type) & mask) != 0;
+        });
+    };
+    auto next = find();
+    for (std::size_t count = _events.size(); next == _events.end(); count = _events.size()) {
+        eventsRanOut();
+        if (_events.size() == count) break;
+        next = find();
+    }
     if (next != _events.end()) return takeEvent(next);
     HostEvent released;
     released.type = HostEventType::leftMouseUp;
@@ -121,14 +135,14 @@ void HeadlessColorPanel::dragImage(const HostImage& image, const HostPasteboardI
     dragged.imageSize = image.size;
     dragged.panelColor = _color;
     _desktop.journal().emplace_back(std::move(dragged));
-    while (!_events.empty() && takeEvent(_events.begin()).type != HostEventType::leftMouseUp) {
+    while (hasEvents() && takeEvent(_events.begin()).type != HostEventType::leftMouseUp) {
     }
 }
 
 void HeadlessColorPanel::deliver(const std::vector<HostEvent>& events, HeadlessCustomView& view)
 {
     _events.assign(events.begin(), events.end());
-    while (!_events.empty()) {
+    while (hasEvents()) {
         const HostEvent event = takeEvent(_events.begin());
         deliver(event, view);
     }

@@ -54,9 +54,18 @@ public:
     void setPointer(std::optional<HostPoint> point);
     /// Delivers events to a view in their order.
     void deliver(const std::vector<HostEvent>& events, HeadlessCustomView& view);
+    /// Adds an event to the queue.
+    void post(const HostEvent& event) { _events.push_back(event); }
+
+protected:
+    /// Called when an event is wanted and the queue has none. May post events, or do what else
+    /// happens to the program meanwhile.
+    virtual void eventsRanOut() {}
 
 private:
     void deliver(const HostEvent& event, HeadlessCustomView& view);
+    /// Whether there is an event, if need be after `eventsRanOut`.
+    [[nodiscard]] bool hasEvents();
     /// Removes an event from the queue and moves the pointer to its position.
     HostEvent takeEvent(const std::deque<HostEvent>::const_iterator& place);
     void applyFrame(HostRect frame);

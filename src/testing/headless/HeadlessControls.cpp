@@ -26,6 +26,12 @@ void HeadlessTextField::setSelectedRange(HostSelection range)
     _selection = range;
 }
 
+void HeadlessButton::click()
+{
+    if (_kind != Kind::push) setState(1 - state());
+    sendAction();
+}
+
 RecordingCanvas HeadlessCustomView::draw()
 {
     RecordingCanvas canvas;
@@ -79,14 +85,15 @@ std::unique_ptr<HostTextField> HeadlessInterfaceFactory::makeTextField(
     auto field =
         std::make_unique<HeadlessTextField>(description.frame, _controls, description.identifier);
     field->setStringValue(description.title);
+    field->setTakesTyping(description.editable && !description.readOnly);
     return field;
 }
 
 std::unique_ptr<HostButton> HeadlessInterfaceFactory::makeButton(
     const HostControlDescription& description)
 {
-    return std::make_unique<Registered<HostButton>>(description.frame, _controls,
-                                                    description.identifier);
+    return std::make_unique<HeadlessButton>(description.frame, _controls, description.identifier,
+                                            description.buttonKind);
 }
 
 std::unique_ptr<HostPopUpButton> HeadlessInterfaceFactory::makePopUpButton(

@@ -54,8 +54,14 @@ public:
     void setTextColor(const HostColor& color) override { _color = color; }
     [[nodiscard]] const std::optional<HostColor>& textColor() const { return _color; }
 
+    /// Whether a user can type into the field. A label or a read-only field takes no typing.
+    [[nodiscard]] bool takesTyping() const { return _takesTyping; }
+    void setTakesTyping(bool flag) { _takesTyping = flag; }
+
     /// Sets the text and the insertion point as they are after a user's keystroke.
     void type(const std::u16string& text, std::size_t insertionPoint);
+    /// Puts the insertion point at the end of the text.
+    void beginEditing() { _selection = HostSelection{_text.size(), 0}; }
     void endEditing() { _selection.reset(); }
     [[nodiscard]] bool isEdited() const { return _selection.has_value(); }
 
@@ -69,6 +75,24 @@ private:
     std::u16string _text;
     std::optional<HostColor> _color;
     std::optional<HostSelection> _selection;
+    bool _takesTyping = true;
+};
+
+class HeadlessButton final : public Registered<HostButton> {
+public:
+    using Kind = HostControlDescription::ButtonKind;
+
+    HeadlessButton(HostRect frame, const std::shared_ptr<ControlRegister>& controls,
+                   const std::string& name, Kind kind)
+        : Registered(frame, controls, name), _kind(kind)
+    {
+    }
+
+    /// Clicks the button as a user does: all but push buttons change their state first.
+    void click();
+
+private:
+    Kind _kind;
 };
 
 class HeadlessCustomView final : public Registered<HostCustomView> {
