@@ -74,20 +74,20 @@ protected:
     {
         _signals.clear();
         gtk_widget_destroy(dialog);
-        handleEvents();
+        handleGtkEvents();
     }
 
     void showDialog()
     {
         gtk_widget_show(dialog);
         runUntil([this] { return gtk_widget_get_mapped(dialog) != FALSE; });
-        handleEvents();
+        handleGtkEvents();
     }
 
     void hideDialog()
     {
         gtk_widget_hide(dialog);
-        handleEvents();
+        handleGtkEvents();
     }
 
     void followChanges()
@@ -115,14 +115,14 @@ protected:
         gtk_editable_select_region(GTK_EDITABLE(field), 0, -1);
         gtk_editable_delete_selection(GTK_EDITABLE(field));
         g_signal_emit_by_name(field, "insert-at-cursor", text);
-        handleEvents();
+        handleGtkEvents();
     }
 
     void enter(const std::string& name, const char* text)
     {
         type(name, text);
         gtk_widget_activate(widgets().at(name));
-        handleEvents();
+        handleGtkEvents();
     }
 
     GtkWidget* dialog;
@@ -146,7 +146,7 @@ TEST_F(SelectorTest, ShowsTheColourOfGIMPAndDoesNotSendItBack)
     showDialog();
     followChanges();
     setColorOfSelector(selector, rgb(0x33, 0x66, 0xff));
-    handleEvents();
+    handleGtkEvents();
     EXPECT_EQ(textOf("_fullHexText"), "#3366FF");
     EXPECT_EQ(heard.size(), 1U);
 }
@@ -179,7 +179,7 @@ TEST_F(SelectorTest, EachColourOfADragIsOneChange)
     };
     steps.callAfter(0, step);
     sendMouse(area, GDK_BUTTON_PRESS, column, row(0.2));
-    handleEvents();
+    handleGtkEvents();
     EXPECT_GE(heard.size(), 4U);
     EXPECT_EQ(std::ranges::adjacent_find(heard), heard.end()) << "a colour is reported twice";
 }
@@ -232,7 +232,7 @@ TEST_F(SelectorTest, APageThatIsHiddenShowsTheColourWhenItIsShownAgain)
     showDialog();
     hideDialog();
     setColorOfSelector(selector, rgb(0x33, 0x66, 0xff));
-    handleEvents();
+    handleGtkEvents();
     EXPECT_NE(textOf("_fullHexText"), "#3366FF") << "a hidden page works";
     showDialog();
     EXPECT_EQ(textOf("_fullHexText"), "#3366FF");
@@ -252,13 +252,13 @@ TEST_F(SelectorTest, InADockThePageIsAsSmallAsItCanBeAndOpensItsSettings)
     EXPECT_LT(inDock.width, inDialog.width);
     EXPECT_LT(inDock.height, inDialog.height);
     gtk_widget_show(dock);
-    handleEvents();
+    handleGtkEvents();
     gtk_button_clicked(GTK_BUTTON(widgets().at("settingsButton")));
-    handleEvents();
+    handleGtkEvents();
     EXPECT_TRUE(gtk_widget_get_mapped(widgets().at("settingsDoneButton")));
     EXPECT_EQ(sizeOfPage().width, inDock.width);
     gtk_widget_destroy(dock);
-    handleEvents();
+    handleGtkEvents();
 }
 
 TEST_F(SelectorTest, ASecondSelectorIsIndependent)
@@ -269,7 +269,7 @@ TEST_F(SelectorTest, ASecondSelectorIsIndependent)
     EXPECT_EQ(colorOfSelector(GIMP_COLOR_SELECTOR(other)).alphaComponent(), 1);
     gtk_widget_destroy(other);
     g_object_unref(other);
-    handleEvents();
+    handleGtkEvents();
     showDialog();
     EXPECT_EQ(textOf("_fullHexText"), "#3366FF");
 }

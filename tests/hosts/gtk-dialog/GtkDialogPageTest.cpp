@@ -81,7 +81,7 @@ protected:
         gtk_widget_show(dialog);
         GtkDialogPage::putInto(dialog, _plugin, desktopOfProgram());
         runUntil([=] { return gtk_widget_get_mapped(dialog) != FALSE; });
-        handleEvents();
+        handleGtkEvents();
     }
     [[nodiscard]] GtkWidget* page() const { return widgetNamed(_dialog.get(), "vantorel-page"); }
 
@@ -187,7 +187,7 @@ TEST_F(GtkSelectionPageTest, StepsOfADragLeaveThePreviousColorAndThePalette)
         runUntilRed(red);
     }
     panel.continuousChangeDidEnd();
-    handleEvents();
+    handleGtkEvents();
     GdkRGBA after;
     gtk_color_selection_get_previous_rgba(_selection, &after);
     EXPECT_TRUE(gdk_rgba_equal(&before, &after));

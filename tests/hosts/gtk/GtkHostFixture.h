@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GtkHand.h"
 #include "hosts/gtk/GtkHostBox.h"
 #include "hosts/gtk/GtkHostCustomView.h"
 #include "hosts/gtk/GtkHostDesktop.h"
@@ -16,19 +17,7 @@ namespace vantorel {
 /// Lets the program run until something has happened; fails after ten seconds.
 inline void runUntil(const std::function<bool()>& hasHappened)
 {
-    bool isLate = false;
-    GtkDeferral limit;
-    limit.callAfter(10000, [&] { isLate = true; });
-    while (!hasHappened() && !isLate)
-        g_main_context_iteration(nullptr, TRUE);
-    EXPECT_FALSE(isLate) << "it did not happen";
-}
-
-/// Handles all events that have arrived.
-inline void handleEvents()
-{
-    while (g_main_context_iteration(nullptr, FALSE)) {
-    }
+    EXPECT_TRUE(runGtkUntil(hasHappened)) << "it did not happen";
 }
 
 /// A window whose content is a box for views.
@@ -45,14 +34,14 @@ protected:
     ~GtkHostTest() override
     {
         if (GtkWidget* window = _window.get()) gtk_widget_destroy(window);
-        handleEvents();
+        handleGtkEvents();
     }
 
     void showWindow()
     {
         gtk_widget_show(_window.get());
         runUntil([this] { return gtk_widget_get_mapped(root.widget()) != FALSE; });
-        handleEvents();
+        handleGtkEvents();
     }
 
     [[nodiscard]] GtkWidget* window() const { return _window.get(); }
@@ -64,44 +53,6 @@ protected:
         description.frame = frame;
         description.accessibleName = u"Control";
         return description;
-    }
-
-    /// A press, move or release at a place of a view, in its own coordinates.
-    static void sendMouse(const GtkHostCustomView& view, GdkEventType type, HostPoint at,
-                          guint state = 0)
-    {
-        GtkWidget* area = view.activeWidget();
-        const PixelPoint place = pixelPoint(at, view.bounds(), 1);
-        const GdkEventCopy event(gdk_event_new(type));
-        event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(area)));
-        if (type == GDK_MOTION_NOTIFY) {
-            event->motion.x = place.x;
-            event->motion.y = place.y;
-            event->motion.state = state;
-        } else {
-            event->button.x = place.x;
-            event->button.y = place.y;
-            event->button.button = 1;
-            event->button.state = state;
-        }
-#if GTK_MAJOR_VERSION >= 3
-        GdkSeat* seat = gdk_display_get_default_seat(gtk_widget_get_display(area));
-        gdk_event_set_device(event.get(), gdk_seat_get_pointer(seat));
-#endif
-        gtk_widget_event(area, event.get());
-    }
-
-    static bool sendKey(GtkWidget* widget, guint key, guint state = 0)
-    {
-        const GdkEventCopy event(gdk_event_new(GDK_KEY_PRESS));
-        event->key.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(widget)));
-        event->key.keyval = key;
-        event->key.state = state;
-#if GTK_MAJOR_VERSION >= 3
-        GdkSeat* seat = gdk_display_get_default_seat(gtk_widget_get_display(widget));
-        gdk_event_set_device(event.get(), gdk_seat_get_keyboard(seat));
-#endif
-        return gtk_widget_event(widget, event.get()) != FALSE;
     }
 
 private:

@@ -9,8 +9,6 @@
 namespace vantorel {
 namespace {
 
-using testing::ElementsAre;
-
 HostControlDescription labelled(HostRect frame)
 {
     HostControlDescription description;
@@ -26,21 +24,6 @@ GtkAllocation placeOf(GtkWidget* widget)
     GtkAllocation place;
     gtk_widget_get_allocation(widget, &place);
     return place;
-}
-
-/// Red, green and blue of a pixel on the screen, in the window of a widget.
-std::array<int, 3> pixelOf(GtkWidget* widget, int x, int y)
-{
-    GdkWindow* window = gtk_widget_get_window(widget);
-#if GTK_MAJOR_VERSION >= 3
-    const auto picture =
-        GtkReference<GdkPixbuf>::adopt(gdk_pixbuf_get_from_window(window, x, y, 1, 1));
-#else
-    const auto picture = GtkReference<GdkPixbuf>::adopt(gdk_pixbuf_get_from_drawable(
-        nullptr, window, gdk_drawable_get_colormap(window), x, y, 0, 0, 1, 1));
-#endif
-    const guchar* bytes = gdk_pixbuf_get_pixels(picture.get());
-    return {bytes[0], bytes[1], bytes[2]};
 }
 
 #if GTK_MAJOR_VERSION >= 3
@@ -99,68 +82,14 @@ bool isBlue(const std::array<int, 3>& pixel)
     return pixel == std::array{0, 0, 255};
 }
 
-TEST_F(GtkHostTest, WidgetsHaveTheFramesOfTheirViewsWhateverTheThemeWants)
-{
-    auto button = factory.makeButton(described({10, 20, 22, 20}));
-    auto field = factory.makeTextField(described({50, 20, 46, 22}));
-    field->setResizing({.bottomMargin = true});
-    root.addSubview(*button);
-    root.addSubview(*field);
-    showWindow();
-    const GtkAllocation buttonPlace = placeOf(gtkWidgetOf(button.get()));
-    EXPECT_EQ(buttonPlace.x, 10);
-    EXPECT_EQ(buttonPlace.y, 160);
-    EXPECT_EQ(buttonPlace.width, 22);
-    EXPECT_EQ(buttonPlace.height, 20);
-    EXPECT_EQ(placeOf(gtkWidgetOf(field.get())).height, 22);
-
-    root.setFrame({0, 0, 300, 240});
-    gtk_widget_set_size_request(root.widget(), 300, 240);
-    runUntil([&] { return placeOf(root.widget()).height == 240; });
-    handleEvents();
-    // One keeps its distance from the bottom, the other from the top.
-    EXPECT_EQ(placeOf(gtkWidgetOf(button.get())).y, 200);
-    EXPECT_EQ(placeOf(gtkWidgetOf(field.get())).y, 158);
-}
-
-TEST_F(GtkHostTest, WhatIsParkedOrOutsideIsNotShown)
-{
-    auto label = factory.makeTextField(described({-500, 20, 60, 20}));
-    root.addSubview(*label);
-    showWindow();
-    GtkWidget* widget = gtkWidgetOf(label.get());
-    EXPECT_FALSE(gtk_widget_get_mapped(widget));
-    label->setFrameOrigin({10, 20});
-    EXPECT_TRUE(gtk_widget_get_mapped(widget));
-    label->setParked(true);
-    EXPECT_FALSE(gtk_widget_get_mapped(widget));
-    gtk_widget_show_all(window());
-    EXPECT_FALSE(gtk_widget_get_mapped(widget)) << "a program may show all of its dialog";
-}
-
-TEST_F(GtkHostTest, TheFocusReturnsWhenAFaceIsTakenOut)
-{
-    auto field = factory.makeTextField(described({10, 20, 100, 22}));
-    root.addSubview(*field);
-    showWindow();
-    gtk_widget_grab_focus(gtkWidgetOf(field.get()));
-    auto face = factory.makeView(described({0, 60, 300, 100}));
-    auto inner = factory.makeTextField(described({10, 20, 100, 22}));
-    face->addSubview(*inner);
-    root.addSubview(*face);
-    gtk_widget_grab_focus(gtkWidgetOf(inner.get()));
-    face->removeFromSuperview();
-    EXPECT_EQ(gtk_window_get_focus(GTK_WINDOW(window())), gtkWidgetOf(field.get()));
-}
-
-TEST_F(GtkHostTest, ToolTipsAreNeverMarkup)
+TEST_F(GtkHostTest, AProgramThatShowsAllOfItsDialogDoesNotShowWhatIsParked)
 {
     auto label = factory.makeTextField(described({10, 20, 60, 20}));
-    label->setToolTip(u"<b>bold</b> & more");
-    const GText shown(gtk_widget_get_tooltip_text(gtkWidgetOf(label.get())));
-    EXPECT_STREQ(shown.get(), "<b>bold</b> & more");
-    label->setToolTip(u"  ");
-    EXPECT_FALSE(gtk_widget_get_has_tooltip(gtkWidgetOf(label.get())));
+    root.addSubview(*label);
+    label->setParked(true);
+    showWindow();
+    gtk_widget_show_all(window());
+    EXPECT_FALSE(gtk_widget_get_mapped(gtkWidgetOf(label.get())));
 }
 
 TEST_F(GtkHostTest, AssistiveTechnologyGetsNamesRolesAndDescriptions)
@@ -204,7 +133,7 @@ TEST_F(GtkHostTest, TextsInAHandPaintedViewAreDarkInADarkTheme)
     showWindow();
     const DarkTheme theme(window());
     box->setState(1);
-    handleEvents();
+    handleGtkEvents();
     EXPECT_GT(lightnessOf(themeTextColor(gtkWidgetOf(beside.get()))), 0.5);
     GtkWidget* textOfBox = gtk_bin_get_child(GTK_BIN(gtkWidgetOf(box.get())));
     for (GtkWidget* text : {gtkWidgetOf(inside.get()), textOfBox})
@@ -233,121 +162,11 @@ TEST_F(GtkHostTest, ControlsOnAHandPaintedViewAreSeen)
     view->addSubview(*button);
     showWindow();
     runUntil([&] { return content.drawings > 0; });
-    handleEvents();
+    handleGtkEvents();
     const GtkAllocation area = placeOf(gtkWidgetOf(view.get()));
     const GtkAllocation place = placeOf(gtkWidgetOf(button.get()));
     EXPECT_TRUE(isBlue(pixelOf(root.widget(), area.x + 5, area.y + 5)));
     EXPECT_FALSE(isBlue(pixelOf(root.widget(), place.x + place.width / 2, place.y + 4)));
-}
-
-TEST_F(GtkHostTest, TheTrackingRectangleReportsCrossings)
-{
-    RecordingContent content;
-    auto made = factory.makeCustomView(described({10, 10, 100, 100}), content);
-    auto& view = static_cast<GtkHostCustomView&>(*made);
-    root.addSubview(view);
-    showWindow();
-    content.events.clear();
-    const auto tag = view.addTrackingRect({0, 0, 50, 50}, false);
-    sendMouse(view, GDK_MOTION_NOTIFY, {80, 80});
-    sendMouse(view, GDK_MOTION_NOTIFY, {20, 20});
-    view.setAcceptsMouseMoved(true);
-    sendMouse(view, GDK_MOTION_NOTIFY, {21, 20});
-    sendMouse(view, GDK_MOTION_NOTIFY, {80, 20});
-    EXPECT_THAT(content.events, ElementsAre("entered", "moved", "exited"));
-    view.removeTrackingRect(tag);
-    sendMouse(view, GDK_MOTION_NOTIFY, {20, 20});
-    EXPECT_EQ(content.events.size(), 3U);
-}
-
-/// Queues a function that runs while a content waits for events.
-void runLater(GtkDeferral& deferral, std::function<void()> function)
-{
-    deferral.callAfter(0, std::move(function));
-}
-
-TEST_F(GtkHostTest, AContentCanWaitForTheEventsOfItsDrag)
-{
-    RecordingContent content;
-    auto made = factory.makeCustomView(described({10, 10, 100, 100}), content);
-    auto& view = static_cast<GtkHostCustomView&>(*made);
-    root.addSubview(view);
-    showWindow();
-    std::vector<HostEvent> got;
-    GtkDeferral deferral;
-    const auto mask = maskOfEventType(HostEventType::leftMouseDragged) |
-                      maskOfEventType(HostEventType::leftMouseUp);
-    content.whenPressed = [&](const HostEvent&) {
-        runLater(deferral, [&] {
-            sendMouse(view, GDK_MOTION_NOTIFY, {30, 40}, GDK_BUTTON1_MASK);
-            sendMouse(view, GDK_MOTION_NOTIFY, {31, 40}, GDK_BUTTON1_MASK);
-            sendMouse(view, GDK_BUTTON_RELEASE, {32, 40}, GDK_BUTTON1_MASK);
-        });
-        got.push_back(view.nextMouseEvent(mask));
-        got.push_back(view.nextMouseEvent(mask));
-    };
-    sendMouse(view, GDK_BUTTON_PRESS, {20, 20});
-    ASSERT_EQ(got.size(), 2U);
-    EXPECT_EQ(got[0].type, HostEventType::leftMouseDragged);
-    EXPECT_EQ(got[0].location, (HostPoint{31, 40}));
-    EXPECT_EQ(got[1].type, HostEventType::leftMouseUp);
-}
-
-TEST_F(GtkHostTest, AWindowMayBeDestroyedInTheMiddleOfADrag)
-{
-    RecordingContent content;
-    auto made = factory.makeCustomView(described({10, 10, 100, 100}), content);
-    auto& view = static_cast<GtkHostCustomView&>(*made);
-    root.addSubview(view);
-    showWindow();
-    HostEventType last = HostEventType::leftMouseDown;
-    GtkDeferral deferral;
-    content.whenPressed = [&](const HostEvent&) {
-        runLater(deferral, [&] { gtk_widget_destroy(window()); });
-        last = view.nextMouseEvent(maskOfEventType(HostEventType::leftMouseUp)).type;
-    };
-    sendMouse(view, GDK_BUTTON_PRESS, {20, 20});
-    EXPECT_EQ(last, HostEventType::leftMouseUp);
-    EXPECT_EQ(view.widget(), nullptr);
-    // The views get no notice. Calling them has no effect.
-    view.setNeedsDisplay(true);
-    view.setFrame({0, 0, 20, 20});
-    view.setToolTip(u"tip");
-}
-
-TEST_F(GtkHostTest, AHiddenViewGetsItsRelease)
-{
-    RecordingContent content;
-    auto made = factory.makeCustomView(described({10, 10, 100, 100}), content);
-    auto& view = static_cast<GtkHostCustomView&>(*made);
-    root.addSubview(view);
-    showWindow();
-    HostEventType last = HostEventType::leftMouseDown;
-    GtkDeferral deferral;
-    content.whenPressed = [&](const HostEvent&) {
-        runLater(deferral, [&] { view.setParked(true); });
-        last = view.nextMouseEvent(maskOfEventType(HostEventType::leftMouseUp)).type;
-    };
-    sendMouse(view, GDK_BUTTON_PRESS, {20, 20});
-    EXPECT_EQ(last, HostEventType::leftMouseUp);
-}
-
-TEST_F(GtkHostTest, KeysGoToTheContentExceptThoseOfShortcuts)
-{
-    RecordingContent content;
-    auto made = factory.makeCustomView(described({10, 10, 100, 100}), content);
-    auto& view = static_cast<GtkHostCustomView&>(*made);
-    root.addSubview(view);
-    showWindow();
-    GtkWidget* area = view.activeWidget();
-    EXPECT_TRUE(sendKey(area, GDK_KEY_Left));
-    EXPECT_TRUE(sendKey(area, GDK_KEY_Return)) << "a cell is marked";
-    EXPECT_FALSE(sendKey(area, GDK_KEY_Left, GDK_CONTROL_MASK));
-    EXPECT_FALSE(sendKey(area, GDK_KEY_a));
-    EXPECT_THAT(content.keys, ElementsAre(HostKey::left, HostKey::pick));
-    sendMouse(view, GDK_BUTTON_PRESS, {20, 20});
-    sendMouse(view, GDK_BUTTON_RELEASE, {20, 20}, GDK_BUTTON1_MASK);
-    EXPECT_FALSE(sendKey(area, GDK_KEY_Return)) << "after a click it belongs to the dialog";
 }
 
 TEST_F(GtkHostTest, AReactionThatThrowsEndsThereAndIsReported)

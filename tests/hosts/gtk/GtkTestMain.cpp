@@ -16,8 +16,10 @@ class WindowsGoAway final : public testing::EmptyTestEventListener {
         }
         GList* windows = gtk_window_list_toplevels();
         for (const GList* window = windows; window != nullptr; window = window->next) {
-            // The toolkit keeps its own pop-ups.
-            if (!gtk_widget_get_visible(GTK_WIDGET(window->data))) continue;
+            // The toolkit keeps its own pop-ups, and an empty window for drags.
+            GtkWidget* widget = GTK_WIDGET(window->data);
+            if (!gtk_widget_get_visible(widget)) continue;
+            if (GTK_IS_BIN(widget) && gtk_bin_get_child(GTK_BIN(widget)) == nullptr) continue;
             ADD_FAILURE() << "left behind: " << G_OBJECT_TYPE_NAME(window->data);
         }
         g_list_free(windows);
@@ -43,13 +45,17 @@ int main(int argc, char** argv)
     g_setenv("NO_AT_BRIDGE", "1", TRUE);
     g_setenv("GSETTINGS_BACKEND", "memory", TRUE);
     g_setenv("GTK_THEME", "Adwaita", TRUE);
-    g_log_set_default_handler(
-        [](const gchar* domain, GLogLevelFlags level, const gchar* message, gpointer) {
+    g_log_set_writer_func(
+        [](GLogLevelFlags level, const GLogField* fields, gsize count, gpointer) {
             constexpr int complaints =
                 G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING;
-            if ((level & complaints) != 0) ADD_FAILURE() << domain << ": " << message;
+            if ((level & complaints) != 0) {
+                const vantorel::GText text(g_log_writer_format_fields(level, fields, count, FALSE));
+                ADD_FAILURE() << text.get();
+            }
+            return G_LOG_WRITER_HANDLED;
         },
-        nullptr);
+        nullptr, nullptr);
     if (!gtk_init_check(&argc, &argv)) {
         g_printerr("no display\n");
         return 1;

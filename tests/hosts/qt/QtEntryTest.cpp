@@ -73,34 +73,6 @@ protected:
     int _givenUp = 0;
 };
 
-TEST_F(QtEntryTest, WhatThePageCompletesIsSelected)
-{
-    QTest::keyClicks(edit(), "ma");
-    EXPECT_EQ(edit()->text(), "maroon: rgb(128, 0, 0)");
-    EXPECT_EQ(selected(), "roon: rgb(128, 0, 0)");
-    EXPECT_EQ(_field->selectedRange().location, 2U) << "where the page looks for the typed part";
-    QTest::keyClick(edit(), Qt::Key_Return);
-    EXPECT_EQ(_entered, "maroon: rgb(128, 0, 0)");
-}
-
-TEST_F(QtEntryTest, ACompletionGoesWhenNoNameBeginsSo)
-{
-    QTest::keyClicks(edit(), "mag");
-    EXPECT_EQ(edit()->text(), "mag");
-    EXPECT_FALSE(edit()->hasSelectedText());
-}
-
-TEST_F(QtEntryTest, KeysThatDeleteBringNoCompletion)
-{
-    QTest::keyClicks(edit(), "mar");
-    QTest::keyClick(edit(), Qt::Key_Backspace);
-    EXPECT_EQ(edit()->text(), "mar") << "the completion goes first";
-    QTest::keyClick(edit(), Qt::Key_Backspace);
-    EXPECT_EQ(edit()->text(), "ma");
-    QTest::keyClicks(edit(), "r");
-    EXPECT_EQ(selected(), "oon: rgb(128, 0, 0)");
-}
-
 TEST_F(QtEntryTest, AnIgnoredTextIsOfferedWhenItIsEntered)
 {
     QTest::keyClicks(edit(), "ff8000");
@@ -112,22 +84,6 @@ TEST_F(QtEntryTest, AnIgnoredTextIsOfferedWhenItIsEntered)
     QTest::keyClick(edit(), Qt::Key_Return);
     EXPECT_EQ(_offered, "ff8000") << "what was typed is the page's to reject";
     EXPECT_EQ(_entered, "bad");
-}
-
-TEST_F(QtEntryTest, LeavingTheFieldEntersOnce)
-{
-    QTest::keyClicks(edit(), "rgb(1 2 3");
-    QTest::keyClick(edit(), Qt::Key_Tab);
-    EXPECT_TRUE(_other.hasFocus());
-    EXPECT_EQ(_entered, "rgb(1 2 3");
-    _entered.clear();
-    edit()->setFocus();
-    QTest::keyClick(edit(), Qt::Key_Tab);
-    EXPECT_EQ(_entered, QString()) << "nothing was typed";
-    edit()->setFocus();
-    QTest::keyClicks(edit(), "4)");
-    _other.setFocus(Qt::MouseFocusReason);
-    EXPECT_TRUE(_entered.endsWith("4)")) << "a click elsewhere";
 }
 
 TEST_F(QtEntryTest, AHalfEntryIsGivenUpWhenTheFieldIsLeft)

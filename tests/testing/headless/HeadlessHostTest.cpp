@@ -64,30 +64,6 @@ public:
     std::string _calls;
 };
 
-TEST_F(HeadlessHostTest, MovesCrossTheTrackingRectangleOnce)
-{
-    RecordingContent content;
-    HostControlDescription description;
-    description.identifier = "view";
-    const auto view = _desktop.interfaceFactory().makeCustomView(description, content);
-    auto& custom = *_desktop.interfaceFactory().control<HeadlessCustomView>("view");
-    const auto move = [&](double x) {
-        _panel.deliver({{HostEventType::mouseMoved, {x, 5}, 0}}, custom);
-    };
-    move(5);
-    EXPECT_EQ(content._calls, "");
-    const auto tag = custom.addTrackingRect({0, 0, 10, 10}, false);
-    EXPECT_NE(tag, 0);
-    move(5);
-    move(6);
-    _panel.setAcceptsMouseMovedEvents(true);
-    move(7);
-    move(10);
-    EXPECT_EQ(content._calls, "entered moved exited ");
-    custom.removeTrackingRect(tag);
-    EXPECT_FALSE(custom.isTracking());
-}
-
 TEST_F(HeadlessHostTest, AnExhaustedQueueEndsWithARelease)
 {
     HostView view({});

@@ -1,0 +1,10 @@
+#include "HostUnderTest.h"
+
+namespace vantorel {
+
+std::unique_ptr<HostUnderTest> makeHostUnderTest()
+{
+    return makeHeadlessHost();
+}
+
+}  // namespace vantorel
