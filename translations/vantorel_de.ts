@@ -1915,6 +1915,20 @@ Programme mit Qt und GTK 3 sowie GIMP zeigen die Seite dann in ihren eigenen Far
         <source>nest at most %1</source>
         <translation>verschachteln Sie höchstens %1</translation>
     </message>
+    <message>
+        <source>The colour to convert; read as for &quot;show&quot;.</source>
+        <translation>Die umzuwandelnde Farbe; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>The form to write: &quot;hex&quot;, the name of a function such as &quot;oklch&quot;, or a colour space of color() such as &quot;display-p3&quot;.</source>
+        <translation>Die Form, die geschrieben wird: „hex“, der Name einer Funktion wie „oklch“ oder ein Farbraum von color() wie „display-p3“.</translation>
+    </message>
+    <message>
+        <source>Write each colour in another form of CSS, on a line of its own.
+hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
+        <translation>Jede Farbe in einer anderen Form von CSS schreiben, je in eine Zeile.
+hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS es vorschreibt. Alle anderen Formen lassen Farben, wie sie sind.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1915,6 +1915,20 @@ Los programas de Qt y de GTK 3, y GIMP, muestran entonces la página en sus prop
         <source>nest at most %1</source>
         <translation>anide %1 como máximo</translation>
     </message>
+    <message>
+        <source>The colour to convert; read as for &quot;show&quot;.</source>
+        <translation>El color que se convierte; se lee como en «show».</translation>
+    </message>
+    <message>
+        <source>The form to write: &quot;hex&quot;, the name of a function such as &quot;oklch&quot;, or a colour space of color() such as &quot;display-p3&quot;.</source>
+        <translation>La forma que se escribe: «hex», el nombre de una función como «oklch» o un espacio de color() como «display-p3».</translation>
+    </message>
+    <message>
+        <source>Write each colour in another form of CSS, on a line of its own.
+hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
+        <translation>Escribir cada color en otra forma de CSS, en una línea propia.
+hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan como indica CSS. Las otras formas dejan los colores como son.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1915,6 +1915,20 @@ Les programmes de Qt et de GTK 3, ainsi que GIMP, affichent alors la page dans l
         <source>nest at most %1</source>
         <translation>n&apos;en imbriquez que %1 au plus</translation>
     </message>
+    <message>
+        <source>The colour to convert; read as for &quot;show&quot;.</source>
+        <translation>La couleur à convertir ; lue comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>The form to write: &quot;hex&quot;, the name of a function such as &quot;oklch&quot;, or a colour space of color() such as &quot;display-p3&quot;.</source>
+        <translation>La forme à écrire : « hex », le nom d&apos;une fonction comme « oklch » ou un espace de color() comme « display-p3 ».</translation>
+    </message>
+    <message>
+        <source>Write each colour in another form of CSS, on a line of its own.
+hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
+        <translation>Écrire chaque couleur sous une autre forme de CSS, une par ligne.
+hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramenées comme CSS le prescrit. Les autres formes laissent les couleurs telles quelles.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

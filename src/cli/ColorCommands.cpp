@@ -30,14 +30,6 @@ QTXCodeSnippet requiredSnippet(const QTXHexSettings& settings, const std::string
     return *found;
 }
 
-/// Reads colour texts, which may be names of the naming list.
-ColorTextReader readerWithNamesOf(Session& session, const CommandLine& commandLine)
-{
-    auto theme = CSSTheme::unknown;
-    if (commandLine.theme) theme = commandLine.theme == "dark" ? CSSTheme::dark : CSSTheme::light;
-    return ColorTextReader([&] { return session.namingList(commandLine); }, theme);
-}
-
 /// Creates the namer when the first colour is named, because a stream may not need one.
 class LazyNamer {
 public:
@@ -64,8 +56,8 @@ private:
 
 class ShowWriter final : public ColorWriter {
 public:
-    ShowWriter(Session& session, const CommandLine& commandLine)
-        : _commandLine(commandLine), _namer(session, commandLine)
+    ShowWriter(Session& session, const CommandLine& commandLine, ColorTextReader& reader)
+        : ColorWriter(reader), _commandLine(commandLine), _namer(session, commandLine)
     {
         const QTXHexSettings& settings = session.settings();
         _form.entryForm = settings.entryForm();
@@ -123,7 +115,10 @@ private:
 
 class NameWriter final : public ColorWriter {
 public:
-    NameWriter(const ColorNamer& namer, bool json) : _namer(namer), _json(json) {}
+    NameWriter(const ColorNamer& namer, bool json, ColorTextReader& reader)
+        : ColorWriter(reader), _namer(namer), _json(json)
+    {
+    }
 
     void write(Output& output, const ByteColor& color, bool) override
     {
@@ -183,9 +178,9 @@ std::string ratioText(double ratio)
 
 int showColors(Session& session, const CommandLine& commandLine)
 {
-    ColorTextReader reader = readerWithNamesOf(session, commandLine);
-    ShowWriter writer(session, commandLine);
-    const bool areAllColors = writeColors(commandLine.operands, reader, writer, session.output());
+    ColorTextReader reader = colorTextReader(session, commandLine);
+    ShowWriter writer(session, commandLine, reader);
+    const bool areAllColors = useColorTexts(commandLine.operands, writer, session.output());
     return areAllColors ? 0 : failureStatus;
 }
 
@@ -199,8 +194,8 @@ int nameColors(Session& session, const CommandLine& commandLine)
     }
     ColorTextReader reader([&] { return list; });
     const ColorNamer namer(list);
-    NameWriter writer(namer, commandLine.json);
-    const bool areAllColors = writeColors(commandLine.operands, reader, writer, session.output());
+    NameWriter writer(namer, commandLine.json, reader);
+    const bool areAllColors = useColorTexts(commandLine.operands, writer, session.output());
     return areAllColors ? 0 : failureStatus;
 }
 
@@ -232,7 +227,7 @@ int printSnippets(Session& session, const CommandLine& commandLine)
 
 int printContrast(Session& session, const CommandLine& commandLine)
 {
-    ColorTextReader reader = readerWithNamesOf(session, commandLine);
+    ColorTextReader reader = colorTextReader(session, commandLine);
     const ByteColor foreground = requiredColor(reader, commandLine.operands.at(0));
     const ByteColor background = requiredColor(reader, commandLine.operands.at(1));
     const double ratio = contrastRatio(foreground.hostColor(), background.hostColor()).value_or(1);
@@ -268,7 +263,7 @@ int chooseColor(Session& session, const CommandLine& commandLine)
 {
     if (commandLine.operands.empty()) becomePanel({"--choose"});
     // Passed as a hex code, because the panel does not know the names of colour lists.
-    ColorTextReader reader = readerWithNamesOf(session, commandLine);
+    ColorTextReader reader = colorTextReader(session, commandLine);
     const ByteColor color = requiredColor(reader, commandLine.operands.front());
     becomePanel({"--choose", "--color",
                  hexTextOf(color, {EntryForm::lowercase, true, nullptr, {}, false})});

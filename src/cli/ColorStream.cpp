@@ -86,7 +86,7 @@ private:
     std::uint64_t _unreported = 0;
 };
 
-bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& output)
+bool useStandardInput(ColorTextUser& user, Output& output)
 {
     LineReader lines(STDIN_FILENO);
     Progress progress;
@@ -100,16 +100,9 @@ bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& ou
     for (;;) {
         switch (lines.next(line, beforeReading)) {
             case LineReader::Result::line:
-                if (const auto plain = readPlainHex(line)) {
-                    writer.write(output, *plain, true);
-                } else if (!trimmed(line).empty()) {
-                    const Result<ByteColor> color = reader.read(line);
-                    if (color) {
-                        writer.write(output, *color, true);
-                    } else {
-                        errors.add(lines.number(), color.error());
-                    }
-                }
+                if (const Status used = user.use(output, line, true);
+                    !used && !trimmed(line).empty())
+                    errors.add(lines.number(), used.error());
                 break;
             case LineReader::Result::tooLong:
                 errors.add(lines.number(), {phrase("the line is longer than 64 KiB"),
@@ -129,25 +122,33 @@ bool writeStandardInput(ColorTextReader& reader, ColorWriter& writer, Output& ou
 
 }  // namespace
 
-bool writeColors(const std::vector<std::string>& arguments, ColorTextReader& reader,
-                 ColorWriter& writer, Output& output)
+Status ColorWriter::use(Output& output, std::string_view text, bool isLine)
 {
-    if (arguments.empty()) return writeStandardInput(reader, writer, output);
+    if (const auto plain = readPlainHex(text)) {
+        write(output, *plain, isLine);
+        return {};
+    }
+    Result<ByteColor> color = _reader.read(text);
+    if (!color) return std::move(color).error();
+    write(output, *color, isLine);
+    return {};
+}
+
+bool useColorTexts(const std::vector<std::string>& arguments, ColorTextUser& user, Output& output)
+{
+    if (arguments.empty()) return useStandardInput(user, output);
     bool areAllColors = true;
     for (const std::string& argument : arguments) {
         if (argument == "-") {
-            areAllColors = writeStandardInput(reader, writer, output) && areAllColors;
+            areAllColors = useStandardInput(user, output) && areAllColors;
             continue;
         }
-        const Result<ByteColor> color = reader.read(argument);
-        if (color) {
-            writer.write(output, *color, false);
-            continue;
-        }
+        const Status used = user.use(output, argument, false);
+        if (used) continue;
         areAllColors = false;
         // Flushed, so that the message appears in place of the colour.
         output.flush();
-        reportError(color.error());
+        reportError(used.error());
     }
     return areAllColors;
 }

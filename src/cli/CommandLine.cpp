@@ -19,6 +19,7 @@ CommandLine::CommandLine(GivenArguments given)
       snippetName(given.value("--snippet")),
       newName(given.value("--name")),
       format(given.value("--format")),
+      form(given.value("--to")),
       output(given.value("--output")),
       svg(given.value("--svg")),
       png(given.value("--png")),

@@ -18,6 +18,7 @@ struct CommandLine {
     std::optional<std::string> snippetName;
     std::optional<std::string> newName;
     std::optional<std::string> format;
+    std::optional<std::string> form;
     std::optional<std::string> output;
     std::optional<std::string> svg;
     std::optional<std::string> png;

@@ -4,6 +4,7 @@
 #include "cli/Output.h"
 #include "cli/ReadOnlyFiles.h"
 #include "cli/UserLists.h"
+#include "colortext/ColorTextReader.h"
 #include "hosts/posix/PosixFiles.h"
 #include "settings/QTXHexSettings.h"
 
@@ -45,9 +46,14 @@ private:
     bool _hasReportedUnreadable = false;
 };
 
+/// Returns a reader of colours, which may be names of the naming list. It may use both arguments
+/// later.
+[[nodiscard]] ColorTextReader colorTextReader(Session& session, const CommandLine& commandLine);
+
 // Each carries out a command and returns the exit status, or throws a `Failure`.
 
 int showColors(Session& session, const CommandLine& commandLine);
+int convertColors(Session& session, const CommandLine& commandLine);
 int nameColors(Session& session, const CommandLine& commandLine);
 int printSnippets(Session& session, const CommandLine& commandLine);
 int printContrast(Session& session, const CommandLine& commandLine);

@@ -39,4 +39,11 @@ std::shared_ptr<HostColorList> Session::namingList(const CommandLine& commandLin
     return name ? _lists.listNamed(*name) : nullptr;
 }
 
+ColorTextReader colorTextReader(Session& session, const CommandLine& commandLine)
+{
+    auto theme = CSSTheme::unknown;
+    if (commandLine.theme) theme = commandLine.theme == "dark" ? CSSTheme::dark : CSSTheme::light;
+    return ColorTextReader([&] { return session.namingList(commandLine); }, theme);
+}
+
 }  // namespace vantorel

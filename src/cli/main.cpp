@@ -34,12 +34,15 @@ using Function = int (*)(Session& session, const CommandLine& commandLine);
 
 /// Each command of `vantorelProgram`.
 constexpr std::pair<std::string_view, Function> functions[] = {
-    {"show", showColors},          {"name", nameColors},         {"lists", printLists},
-    {"list", printList},           {"list import", importLists}, {"list export", exportList},
-    {"list publish", publishList}, {"snippets", printSnippets},  {"contrast", printContrast},
-    {"wheel", drawWheel},          {"palette", drawPalette},     {"pick", pickColor},
-    {"choose", chooseColor},       {"panel", startPanel},        {"completions", printCompletions},
-    {"manpage", printManualPage},  {"dialogs", switchDialogs},
+    {"show", showColors},         {"convert", convertColors},
+    {"name", nameColors},         {"lists", printLists},
+    {"list", printList},          {"list import", importLists},
+    {"list export", exportList},  {"list publish", publishList},
+    {"snippets", printSnippets},  {"contrast", printContrast},
+    {"wheel", drawWheel},         {"palette", drawPalette},
+    {"pick", pickColor},          {"choose", chooseColor},
+    {"panel", startPanel},        {"completions", printCompletions},
+    {"manpage", printManualPage}, {"dialogs", switchDialogs},
 };
 
 int runArguments(Session& session, const std::vector<std::string>& arguments)

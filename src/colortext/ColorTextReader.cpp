@@ -22,28 +22,47 @@ std::u16string_view withoutSurroundings(std::u16string_view text)
 Result<ByteColor> ColorTextReader::read(std::string_view utf8)
 {
     if (const auto plain = readPlainHex(utf8)) return *plain;
+    Result<CSSColor> css = readUnrounded(utf8);
+    if (!css) return std::move(css).error();
+    ByteColor color = byteColorOf(css->color);
+    color.wasOutsideSRGB = css->wasOutsideSRGB;
+    return color;
+}
+
+Result<CSSColor> ColorTextReader::readUnrounded(std::string_view utf8)
+{
     const std::u16string text = utf16FromUtf8(utf8);
     Result<CSSColor> css = readCSSColor(std::u16string_view(text), _theme);
-    if (css) {
-        ByteColor color = byteColorOf(css->color);
-        color.wasOutsideSRGB = css->wasOutsideSRGB;
-        return color;
+    if (css) return css;
+    const auto other = readOtherForm(text);
+    if (!other) return css;
+    CSSColor color;
+    color.color = *other;
+    if (const auto rgb = other->calibratedRGB()) {
+        color.value.components = {rgb->red, rgb->green, rgb->blue};
+        color.value.alpha = rgb->alpha;
     }
+    return color;
+}
+
+std::optional<HostColor> ColorTextReader::readOtherForm(std::u16string_view text)
+{
     const std::u16string name(withoutSurroundings(text));
     if (const auto hex = validHexString(name, fullDigits)) {
         QTXHexColorSpec spec;
         spec.setWithString(*hex);
-        return byteColorOf(spec.colorHexColorSpec());
+        return spec.colorHexColorSpec();
     }
     // Names are looked up before triples, because a name can contain anything.
-    if (const auto named = colorInList(name)) return byteColorOf(*named);
-    if (startsCSSColorFunction(name)) return std::move(css).error();
-    if (const auto triple = readRgbTriple(text); triple.components) {
-        const auto& [red, green, blue] = *triple.components;
-        return ByteColor{static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green),
-                         static_cast<std::uint8_t>(blue)};
-    }
-    return std::move(css).error();
+    if (auto named = colorInList(name)) return named;
+    if (startsCSSColorFunction(name)) return std::nullopt;
+    const auto triple = readRgbTriple(text);
+    if (!triple.components) return std::nullopt;
+    const auto& [red, green, blue] = *triple.components;
+    const auto fraction = [](std::uint64_t channel) {
+        return static_cast<double>(std::min<std::uint64_t>(channel, 255)) / 255;
+    };
+    return HostColor::colorWithCalibratedRed(fraction(red), fraction(green), fraction(blue), 1);
 }
 
 /// Returns the colour with exactly this name, or else the first whose name differs only in case.

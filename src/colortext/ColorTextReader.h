@@ -31,8 +31,12 @@ public:
 
     /// Takes linear time for texts of any length.
     [[nodiscard]] Result<ByteColor> read(std::string_view utf8);
+    /// Like `read`, but the colour is neither rounded nor mapped into sRGB.
+    [[nodiscard]] Result<CSSColor> readUnrounded(std::string_view utf8);
 
 private:
+    /// Reads the texts that are not CSS.
+    [[nodiscard]] std::optional<HostColor> readOtherForm(std::u16string_view text);
     [[nodiscard]] std::optional<HostColor> colorInList(const std::u16string& name);
 
     FindList _findList;

@@ -17,6 +17,9 @@ std::vector<Choice> exportFormats()
     return choices;
 }
 
+constexpr std::string_view themeText =
+    "Which of its two colours light-dark() stands for: \"light\" or \"dark\".";
+
 std::vector<Choice> themes()
 {
     return {{"light", {}}, {"dark", {}}};
@@ -60,10 +63,27 @@ constexpr OptionRow showOptions[] = {
      .text = "Write hex codes with \"#\". Without --pound-sign or --no-pound-sign, the settings "
              "decide.",
      .excludes = "--no-pound-sign"},
-    {.name = "--theme",
-     .value = "THEME",
-     .text = "Which of its two colours light-dark() stands for: \"light\" or \"dark\".",
-     .choices = themes},
+    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themes},
+};
+
+std::vector<Choice> colorForms()
+{
+    return {{"hex", {}},     {"rgb", {}},          {"hsl", {}},        {"hwb", {}},
+            {"lab", {}},     {"lch", {}},          {"oklab", {}},      {"oklch", {}},
+            {"srgb", {}},    {"srgb-linear", {}},  {"display-p3", {}}, {"display-p3-linear", {}},
+            {"a98-rgb", {}}, {"prophoto-rgb", {}}, {"rec2020", {}},    {"xyz", {}},
+            {"xyz-d50", {}}};
+}
+constexpr OperandRow convertOperands[] = {
+    {"COLOR", "The colour to convert; read as for \"show\"."}};
+constexpr OptionRow convertOptions[] = {
+    {.name = "--to",
+     .value = "FORM",
+     .text = "The form to write: \"hex\", the name of a function such as \"oklch\", or a colour "
+             "space of color() such as \"display-p3\".",
+     .isRequired = true,
+     .choices = colorForms},
+    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themes},
 };
 
 constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};
@@ -176,6 +196,12 @@ constexpr CommandRow vantorelCommands[] = {
      "line that is not a colour is reported on standard error, and the following lines are still "
      "read.",
      showOperands, showOptions},
+    {"convert",
+     "Write each colour in another form of CSS, on a line of its own.\n"
+     "hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All "
+     "other "
+     "forms keep colours as they are.",
+     convertOperands, convertOptions},
     {"name",
      "Print the name of each colour on a line of its own.\n"
      "If the list has no exact name but CSS Color 4 has one, that name is printed, followed by "

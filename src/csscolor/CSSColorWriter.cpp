@@ -6,6 +6,7 @@
 #include "text/HexDigits.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vantorel {
@@ -63,6 +64,62 @@ std::u16string slashAlpha(double alpha)
     return nearestByte(alpha) == opaqueByte ? u"" : u" / " + alphaText(alpha);
 }
 
+/// How a component is written: its factor, the most decimals, and "%" or nothing.
+struct WrittenComponent {
+    double unit;
+    int decimals;
+    std::u16string_view sign;
+};
+
+struct WrittenSpace {
+    std::u16string_view beginning;
+    std::array<WrittenComponent, 3> components;
+};
+
+/// The forms have about five significant digits, as the examples of CSS Color 4.
+WrittenSpace writtenSpace(ColorSpace space)
+{
+    constexpr WrittenComponent part{1, 5, u""};
+    constexpr WrittenComponent hue{1, 3, u""};
+    constexpr WrittenComponent shortHue{1, 2, u""};
+    constexpr WrittenComponent percent{1, 2, u"%"};
+    constexpr WrittenComponent ofHundred{1, 3, u""};
+    constexpr WrittenComponent okLightness{100, 3, u"%"};
+    switch (space) {
+        case ColorSpace::srgb:
+            return {u"color(srgb ", {part, part, part}};
+        case ColorSpace::srgbLinear:
+            return {u"color(srgb-linear ", {part, part, part}};
+        case ColorSpace::displayP3:
+            return {u"color(display-p3 ", {part, part, part}};
+        case ColorSpace::displayP3Linear:
+            return {u"color(display-p3-linear ", {part, part, part}};
+        case ColorSpace::a98RGB:
+            return {u"color(a98-rgb ", {part, part, part}};
+        case ColorSpace::proPhotoRGB:
+            return {u"color(prophoto-rgb ", {part, part, part}};
+        case ColorSpace::rec2020:
+            return {u"color(rec2020 ", {part, part, part}};
+        case ColorSpace::xyzD65:
+            return {u"color(xyz ", {part, part, part}};
+        case ColorSpace::xyzD50:
+            return {u"color(xyz-d50 ", {part, part, part}};
+        case ColorSpace::hsl:
+            return {u"hsl(", {shortHue, percent, percent}};
+        case ColorSpace::hwb:
+            return {u"hwb(", {shortHue, percent, percent}};
+        case ColorSpace::lab:
+            return {u"lab(", {ofHundred, ofHundred, ofHundred}};
+        case ColorSpace::lch:
+            return {u"lch(", {ofHundred, ofHundred, hue}};
+        case ColorSpace::oklab:
+            return {u"oklab(", {okLightness, part, part}};
+        case ColorSpace::oklch:
+            return {u"oklch(", {okLightness, part, hue}};
+    }
+    return {};
+}
+
 }  // namespace
 
 std::optional<std::u16string> hexText(const HostColor& color)
@@ -113,15 +170,30 @@ std::optional<std::u16string> hslText(const HostColor& color)
 
 std::optional<std::u16string> oklchText(const HostColor& color)
 {
-    // A chroma below this is written as 0, and its hue is noise.
-    constexpr double smallestChroma = 0.000005;
     const auto fractions = fractionsOf(color);
     if (!fractions) return std::nullopt;
-    const auto [lightness, chroma, hue] = polarFromRectangular(oklabFromSRGB(fractions->srgb));
-    const bool isGrey = chroma < smallestChroma;
-    return u"oklch(" + shortText(std::clamp(lightness, 0.0, 1.0) * 100, 3) + u"% " +
-           shortText(isGrey ? 0 : chroma, 5) + u" " + shortText(isGrey ? 0 : hue, 3) +
-           slashAlpha(fractions->alpha) + u")";
+    CSSColorValue value;
+    value.components = fractions->srgb;
+    value.alpha = fractions->alpha;
+    return cssTextIn(ColorSpace::oklch, value);
+}
+
+std::u16string cssTextIn(ColorSpace space, const CSSColorValue& color)
+{
+    const bool hasNone = std::ranges::find(color.isMissing, true) != color.isMissing.end();
+    const CSSColorValue value = converted(color, space);
+    const WrittenSpace written = writtenSpace(space);
+    std::u16string text = std::u16string(written.beginning);
+    for (std::size_t i = 0; i < value.components.size(); ++i) {
+        if (i > 0) text += u' ';
+        const auto& [unit, decimals, sign] = written.components[i];
+        if (hasNone && value.isMissing[i]) {
+            text += u"none";
+        } else {
+            text += shortText(value.components[i] * unit, decimals) + std::u16string(sign);
+        }
+    }
+    return text + (color.isAlphaMissing ? u" / none" : slashAlpha(color.alpha)) + u")";
 }
 
 }  // namespace vantorel

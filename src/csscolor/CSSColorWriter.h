@@ -1,12 +1,13 @@
 #pragma once
 
+#include "csscolor/CSSColorValue.h"
 #include "host/HostColor.h"
 
 #include <optional>
 #include <string>
 
 /// Colours as texts of CSS Color 4. The alpha is written unless it is opaque in 8 bits. Components
-/// outside 0..1 are clamped, and NaN counts as 0. All functions return `std::nullopt` for a
+/// outside 0..1 are clamped, and NaN counts as 0. The functions return `std::nullopt` for a
 /// pattern. The texts do not depend on the locale, and `readCSSColor` reads each of them back as
 /// the same colour in 8 bits.
 namespace vantorel {
@@ -28,5 +29,11 @@ namespace vantorel {
 /// Returns "oklch(73.227% 0.18566 53.148)" or "oklch(... / 0.5)". Each value has five significant
 /// digits, as in the examples of CSS Color 4. The hue of a grey is 0.
 [[nodiscard]] std::optional<std::u16string> oklchText(const HostColor& color);
+
+/// Returns the colour in a space, in the syntax of CSS Color 4: "hwb(30.12 0% 0%)",
+/// "lab(67.053 43.148 74.345)", "color(display-p3 0.9496 0.54191 0.19661)". It is neither clamped
+/// nor mapped, so that only the spaces of sRGB need a colour within them. `none` is written only
+/// for a colour that was written with it; the hue of a grey is 0.
+[[nodiscard]] std::u16string cssTextIn(ColorSpace space, const CSSColorValue& color);
 
 }  // namespace vantorel

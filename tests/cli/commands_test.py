@@ -36,6 +36,12 @@ EXAMPLES = [
     (["show", "--json", "#ff8000"], "", re.compile(r'\A\{"hex":"#FF8000","rgb":"rgb\(255, 128, 0\)",.*\}\n\Z')),
     (["show"], "#ff8000\n\n  \nf80\r\nrgb(1,2,3)\norange", "#FF8000\trgb(255, 128, 0)\n#FF8800\trgb(255, 136, 0)\n"
      "#010203\trgb(1, 2, 3)\n#FFA500\trgb(255, 165, 0)\n"),
+    (["convert", "--to", "oklch", "#ff8000", "red"], "", "oklch(73.189% 0.1858 52.985)\noklch(62.796% 0.25768 29.234)\n"),
+    (["convert", "--to", "hex"], "color(display-p3 0 1 0)\n\nrgb(1 2 3 / 50%)\nhwb(120 30% 50%)", "#00fb29\n#01020380\n#4d804d\n"),
+    (["convert", "--to", "display-p3", "color(display-p3 0 1 0)"], "", "color(display-p3 0 1 0)\n"),
+    (["convert", "--to", "hwb", "color(display-p3 0 1 0)", "CSS: rgb(255, 128, 0)"], "",
+     "hwb(129.72 0% 1.42%)\nhwb(30.12 0% 0%)\n"),
+    (["convert", "--to", "rgb", "--theme", "dark", "light-dark(red, blue)"], "", "rgb(0, 0, 255)\n"),
     (["show", "--theme", "light", "--snippet", "VBasic", "light-dark(red, blue)"], "", "RGB(255, 0, 0)\n"),
     (["show", "--theme", "dark", "--snippet", "VBasic", "light-dark(red, blue)"], "", "RGB(0, 0, 255)\n"),
     (["show", "-"], "#12345680\n", "#12345680\trgba(18, 52, 86, 0.5)\n"),
@@ -133,6 +139,7 @@ ERRORS = [
     (["show", "nope"], '"nope" is not a CSS colour name: write a colour'),
     (["show", ""], "no colour"),
     (["show", "[red,blue]"], '"[" is not a colour'),
+    (["convert", "--to", "lab", "redd"], '"redd" is not a CSS colour name'),
     (["show", "rgb(1 2 3 4)"], 'there is "4"'),
     (["show", "light-dark(white, black)"], "depends on the theme of the page"),
     (["show", "red", "--list", "Nope"], 'there is no colour list "Nope"'),
@@ -237,7 +244,7 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 14)
+        self.assertEqual(len(commands), 15)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue

@@ -1,4 +1,5 @@
 #include "csscolor/CSSColorWriter.h"
+#include "text/Unicode.h"
 
 #include "csscolor/CSSColorReader.h"
 
@@ -94,6 +95,60 @@ TEST(CSSColorWriterTest, FractionsOutOfRangeAreClamped)
     EXPECT_EQ(hslText(strange), u"hsl(0 100% 50%)");
     EXPECT_EQ(oklchText(strange), u"oklch(62.796% 0.25768 29.234)");
     EXPECT_EQ(hexText(bytes(0, 0, 0, std::nan(""))), u"#00000000");
+}
+
+TEST(CSSColorWriterTest, EverySpaceHasAForm)
+{
+    const auto textIn = [](ColorSpace space, const char* color) {
+        return utf8FromUtf16(cssTextIn(space, readCSSColor(color)->value));
+    };
+    const std::vector<std::pair<ColorSpace, const char*>> rows{
+        {ColorSpace::srgb, "color(srgb 1 0.5 0)"},
+        {ColorSpace::srgbLinear, "color(srgb-linear 1 0.21404 0)"},
+        {ColorSpace::displayP3, "color(display-p3 0.93596 0.52724 0.1983)"},
+        {ColorSpace::displayP3Linear, "color(display-p3-linear 0.86046 0.24013 0.03258)"},
+        {ColorSpace::a98RGB, "color(a98-rgb 0.89114 0.4961 0.1163)"},
+        {ColorSpace::proPhotoRGB, "color(prophoto-rgb 0.75288 0.49821 0.17198)"},
+        {ColorSpace::rec2020, "color(rec2020 0.86081 0.57585 0.24805)"},
+        {ColorSpace::xyzD65, "color(xyz 0.48893 0.36571 0.04484)"},
+        {ColorSpace::xyzD50, "color(xyz-d50 0.5185 0.37594 0.0347)"},
+        {ColorSpace::hsl, "hsl(30 100% 50%)"},
+        {ColorSpace::hwb, "hwb(30 0% 0%)"},
+        {ColorSpace::lab, "lab(67.72 45.722 74.792)"},
+        {ColorSpace::lch, "lch(67.72 87.66 58.562)"},
+        {ColorSpace::oklab, "oklab(73.114% 0.11259 0.1482)"},
+        {ColorSpace::oklch, "oklch(73.114% 0.18611 52.776)"},
+    };
+    for (const auto& [space, text] : rows) {
+        EXPECT_EQ(textIn(space, "color(srgb 1 0.5 0)"), text);
+    }
+    EXPECT_EQ(textIn(ColorSpace::lab, "lab(50 -200 3 / 50%)"), "lab(50 -200 3 / 0.5)");
+    EXPECT_EQ(textIn(ColorSpace::displayP3, "color(display-p3 1.5 -1 0)"),
+              "color(display-p3 1.5 -1 0)");
+}
+
+TEST(CSSColorWriterTest, EverySpaceReadsBackAsTheSameEightBits)
+{
+    std::mt19937 random(12);
+    for (int round = 0; round < 1000; ++round) {
+        const auto byte = [&random] { return static_cast<int>(random() & 0xFF); };
+        const auto hex = hexText(bytes(byte(), byte(), byte(), byte() / 255.0));
+        const CSSColorValue value = readCSSColor(*hex)->value;
+        for (int space = 0; space <= static_cast<int>(ColorSpace::oklch); ++space) {
+            const std::u16string text = cssTextIn(static_cast<ColorSpace>(space), value);
+            ASSERT_EQ(hexText(readCSSColor(text).value().color), hex) << utf8FromUtf16(text);
+        }
+    }
+}
+
+TEST(CSSColorWriterTest, NoneIsWrittenOnlyIfItWasRead)
+{
+    const auto textIn = [](ColorSpace space, const char* color) {
+        return utf8FromUtf16(cssTextIn(space, readCSSColor(color)->value));
+    };
+    EXPECT_EQ(textIn(ColorSpace::oklch, "gray"), "oklch(59.987% 0 0)");
+    EXPECT_EQ(textIn(ColorSpace::oklch, "oklch(50% none 30 / none)"), "oklch(50% none 30 / none)");
+    EXPECT_EQ(textIn(ColorSpace::oklab, "lch(none 0 30)"), "oklab(none 0 0)");
 }
 
 TEST(CSSColorWriterTest, APatternHasNoText)
