@@ -199,7 +199,9 @@ TEST_F(PanelCommandsTest, TabMovesFromTheBarThroughThePageToTheTools)
     EXPECT_EQ(names.front(), "Hex code");
     const auto place = [&](const char* name) { return names.indexOf(QLatin1String(name)); };
     EXPECT_LT(place("Colour name"), place("Swap colour and background"));
-    EXPECT_LT(place("Swap colour and background"), place("Copy"));
+    EXPECT_LT(place("Colour"), place("Swap colour and background"));
+    EXPECT_LT(place("Swap colour and background"), place("Background")) << "as one reads";
+    EXPECT_LT(place("Background"), place("Copy"));
     EXPECT_LT(place("Copy"), place("Commands")) << names.join(", ").toStdString();
     EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
 }

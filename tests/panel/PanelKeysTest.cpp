@@ -144,5 +144,18 @@ TEST_F(PanelKeysTest, BothWellsTakeTheFocus)
     }
 }
 
+TEST_F(PanelKeysTest, TheFocusIsSeenOnAWellOfItsColour)
+{
+    const QColor focus = _window->palette().color(QPalette::Highlight);
+    _window->colors().setColor(hostColorFrom(focus));
+    auto* well = child<QWidget>("colorWell");
+    well->setFocus(Qt::TabFocusReason);
+    const QImage picture = well->grab().toImage();
+    const int middle = picture.height() / 2;
+    EXPECT_EQ(picture.pixelColor(0, middle), focus);
+    EXPECT_EQ(picture.pixelColor(2, middle), _window->palette().color(QPalette::Base));
+    EXPECT_EQ(picture.pixelColor(4, middle), focus);
+}
+
 }  // namespace
 }  // namespace vantorel

@@ -42,6 +42,9 @@ void ColorWell::paintEvent(QPaintEvent*)
     opaque.setAlpha(255);
     painter.fillRect(QRect(inside.topLeft(), QPoint(right.left() - 1, inside.bottom())), opaque);
     const bool isMarked = _dropIsNear || hasFocus();
+    // The colour may be that of the mark.
+    if (isMarked)
+        paintFrame(painter, rect().adjusted(2, 2, -2, -2), palette().color(QPalette::Base), 1);
     paintFrame(painter, rect(), palette().color(isMarked ? QPalette::Highlight : QPalette::Mid),
                isMarked ? 2 : 1);
 }

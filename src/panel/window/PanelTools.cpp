@@ -39,8 +39,8 @@ QHBoxLayout* newRow(QVBoxLayout& rows)
 PanelTools::PanelTools(QWidget* parent)
     : QWidget(parent),
       _well(new ColorWell(tr("Colour"), this)),
-      _backgroundWell(new ColorWell(tr("Background"), this)),
       _swap(newToolsButton(this)),
+      _backgroundWell(new ColorWell(tr("Background"), this)),
       _opacity(new QSlider(Qt::Horizontal, this)),
       _opacityText(new PlainLabel(this)),
       _recent(new RecentColors(this)),

@@ -40,9 +40,10 @@ private:
 
     HostColor _color = HostColor::whiteColor();
     HostColor _background = HostColor::whiteColor();
+    // In the order of reading, in which Tab visits them.
     ColorWell* _well;
-    ColorWell* _backgroundWell;
     QToolButton* _swap;
+    ColorWell* _backgroundWell;
     QSlider* _opacity;
     PlainLabel* _opacityText;
     RecentColors* _recent;
