@@ -9,6 +9,7 @@
 #include "hosts/gtk/GtkTranslations.h"
 
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vantorel {

@@ -2,7 +2,6 @@
 
 #include "GtkDragData.h"
 #include "GtkHand.h"
-#include "hosts/common/ViewTree.h"
 #include "hosts/gtk/GtkHostBox.h"
 #include "hosts/gtk/GtkHostColorPanel.h"
 #include "hosts/gtk/GtkHostTextField.h"
@@ -11,6 +10,8 @@
 #include <gdk/gdkkeysyms.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace vantorel {
 namespace {

@@ -4,6 +4,7 @@
 #include "testing/headless/HeadlessColorPanel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantorel {
 namespace {

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <stdexcept>
 
 namespace vantorel {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "hosts/gtk/GtkHostCustomView.h"
 
+#include <array>
 #include <functional>
 #include <vector>
 
