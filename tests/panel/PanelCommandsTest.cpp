@@ -204,6 +204,7 @@ TEST_F(PanelCommandsTest, TabMovesFromTheBarThroughThePageToTheTools)
     EXPECT_LT(place("Background"), place("Copy"));
     EXPECT_LT(place("Copy"), place("Commands")) << names.join(", ").toStdString();
     EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
+    EXPECT_EQ(place("Last colours"), -1) << "nor what is empty";
 }
 
 TEST_F(PanelCommandsTest, BarAndToolsAreMirroredRightToLeft)

@@ -36,11 +36,14 @@ RecentColors::RecentColors(QWidget* parent) : QWidget(parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Last colours"));
+    setColors({});
 }
 
 void RecentColors::setColors(std::vector<HostColor> colors)
 {
     _colors = std::move(colors);
+    // An empty row shows nothing, and so no focus.
+    setEnabled(!_colors.empty());
     setCurrent(_current);
     update();
 }
