@@ -178,7 +178,7 @@ TEST_F(CopyAndPasteTest, PastingAColourOutsideSRGBMapsItAndSaysSo)
 
 TEST_F(CopyAndPasteTest, AFailureIsShownWholeUntilTheNextSuccess)
 {
-    QApplication::clipboard()->setText("color-mix(in oklab, red 30%, rebeccapurple 70%)");
+    QApplication::clipboard()->setText("color-mix(in oklab, red 30%, rebeccamauve 70%)");
     _window->resizeToPage({180, 286});
     const int minimum = _window->minimumHeight();
     type(QKeySequence("Ctrl+V"));
