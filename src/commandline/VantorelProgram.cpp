@@ -20,7 +20,7 @@ std::vector<Choice> exportFormats()
 constexpr std::string_view themeText =
     "Which of its two colours light-dark() stands for: \"light\" or \"dark\".";
 
-std::vector<Choice> themes()
+std::vector<Choice> themesOfPages()
 {
     return {{"light", {}}, {"dark", {}}};
 }
@@ -63,7 +63,7 @@ constexpr OptionRow showOptions[] = {
      .text = "Write hex codes with \"#\". Without --pound-sign or --no-pound-sign, the settings "
              "decide.",
      .excludes = "--no-pound-sign"},
-    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themes},
+    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themesOfPages},
 };
 
 std::vector<Choice> colorForms()
@@ -83,7 +83,7 @@ constexpr OptionRow convertOptions[] = {
              "space of color() such as \"display-p3\".",
      .isRequired = true,
      .choices = colorForms},
-    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themes},
+    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themesOfPages},
 };
 
 constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};

@@ -7,7 +7,7 @@ namespace {
 
 constexpr double unlimited = largestCSSNumber;
 
-constexpr CSSValueRule hue{phraseText("hue"), true, 0, -unlimited, unlimited};
+constexpr CSSValueRule anyHue{phraseText("hue"), true, 0, -unlimited, unlimited};
 
 constexpr CSSValueRule channel(PhraseText<> name)
 {
@@ -37,11 +37,11 @@ constexpr std::array<CSSValueRule, 3> relativeRGBValues{
     unbounded(phraseText("blue"), cssChannelUnit)};
 // A saturation above 100% is not clamped on reading (CSS Color 4, section 7). The lightness is,
 // because beyond its limits such a saturation would turn white and black into the opposite colour.
-constexpr std::array<CSSValueRule, 3> hslValues{hue, strength(phraseText("saturation"), 100),
+constexpr std::array<CSSValueRule, 3> hslValues{anyHue, strength(phraseText("saturation"), 100),
                                                 lightness(100)};
 // So that hsl(from ... h s l) is the same colour also outside sRGB.
 constexpr std::array<CSSValueRule, 3> relativeHSLValues{
-    hue, strength(phraseText("saturation"), 100), unbounded(phraseText("lightness"), 100)};
+    anyHue, strength(phraseText("saturation"), 100), unbounded(phraseText("lightness"), 100)};
 constexpr std::array<CSSValueRule, 3> predefinedRGBValues{unbounded(phraseText("red"), 1),
                                                           unbounded(phraseText("green"), 1),
                                                           unbounded(phraseText("blue"), 1)};
@@ -68,7 +68,7 @@ constexpr std::array functions{
         CSSColorForm::hwb,
         ColorSpace::hwb,
         CSSCommaForm::none,
-        {hue, unbounded(phraseText("whiteness"), 100), unbounded(phraseText("blackness"), 100)},
+        {anyHue, unbounded(phraseText("whiteness"), 100), unbounded(phraseText("blackness"), 100)},
         u"hwb(30 0% 0% / 50%)",
         u""},
     CSSColorFunction{
@@ -83,7 +83,7 @@ constexpr std::array functions{
                      CSSColorForm::lch,
                      ColorSpace::lch,
                      CSSCommaForm::none,
-                     {lightness(100), strength(phraseText("chroma"), 150), hue},
+                     {lightness(100), strength(phraseText("chroma"), 150), anyHue},
                      u"lch(67 85 60 / 50%)",
                      u""},
     CSSColorFunction{
@@ -98,7 +98,7 @@ constexpr std::array functions{
                      CSSColorForm::oklch,
                      ColorSpace::oklch,
                      CSSCommaForm::none,
-                     {lightness(1), strength(phraseText("chroma"), 0.4), hue},
+                     {lightness(1), strength(phraseText("chroma"), 0.4), anyHue},
                      u"oklch(73% 0.18 54 / 50%)",
                      u""},
     CSSColorFunction{u"color", CSSColorForm::color, ColorSpace::srgb, CSSCommaForm::none,

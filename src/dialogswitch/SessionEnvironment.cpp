@@ -26,8 +26,8 @@ std::string environmentFile(const std::vector<ListVariable>& variables)
     for (const ListVariable& variable : variables) {
         const std::string name = variable.name;
         // The values of others follow after a separator, if there are any.
-        text += name + "=\"" + variable.value + "${" + name + ":+" + variable.separator + "$" +
-                name + "}\"\n";
+        text.append(name).append("=\"").append(variable.value).append("${").append(name);
+        text.append(":+").append(1, variable.separator).append("$").append(name).append("}\"\n");
     }
     return text;
 }

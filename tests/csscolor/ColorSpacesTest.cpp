@@ -15,7 +15,7 @@ const std::vector<ColorSpace> allSpaces{
     ColorSpace::lch,    ColorSpace::oklab,       ColorSpace::oklch,
 };
 
-void expectNear(const ColorTriple& found, const ColorTriple& expected, double tolerance)
+void expectComponents(const ColorTriple& found, const ColorTriple& expected, double tolerance)
 {
     for (std::size_t i = 0; i < found.size(); ++i)
         EXPECT_NEAR(found[i], expected[i], tolerance) << "component " << i;
@@ -34,12 +34,12 @@ TEST(ColorSpacesTest, EveryConversionCanBeUndone)
             const ColorTriple values = convertedColor(srgb, ColorSpace::srgb, from);
             if (isInside || from != ColorSpace::hwb) {
                 SCOPED_TRACE(static_cast<int>(from));
-                expectNear(srgbFrom(from, values), srgb, 1e-9);
+                expectComponents(srgbFrom(from, values), srgb, 1e-9);
             }
             for (const ColorSpace to : allSpaces) {
                 if (!isInside && (from == ColorSpace::hwb || to == ColorSpace::hwb)) continue;
                 SCOPED_TRACE(static_cast<int>(to));
-                expectNear(srgbFrom(to, convertedColor(values, from, to)), srgb, 1e-9);
+                expectComponents(srgbFrom(to, convertedColor(values, from, to)), srgb, 1e-9);
             }
         }
     }
@@ -53,12 +53,12 @@ TEST(ColorSpacesTest, WhiteIsWhiteInEverySpace)
     for (const ColorSpace space :
          {ColorSpace::srgbLinear, ColorSpace::displayP3, ColorSpace::a98RGB,
           ColorSpace::proPhotoRGB, ColorSpace::rec2020})
-        expectNear(white(space), {1, 1, 1}, 1e-6);
-    expectNear(white(ColorSpace::lab), {100, 0, 0}, 1e-4);
-    expectNear(white(ColorSpace::oklab), {1, 0, 0}, 1e-6);
-    expectNear(white(ColorSpace::xyzD65), {0.3127 / 0.3290, 1, (1 - 0.3127 - 0.3290) / 0.3290},
-               1e-6);
-    expectNear(white(ColorSpace::hwb), {0, 100, 0}, 1e-9);
+        expectComponents(white(space), {1, 1, 1}, 1e-6);
+    expectComponents(white(ColorSpace::lab), {100, 0, 0}, 1e-4);
+    expectComponents(white(ColorSpace::oklab), {1, 0, 0}, 1e-6);
+    expectComponents(white(ColorSpace::xyzD65),
+                     {0.3127 / 0.3290, 1, (1 - 0.3127 - 0.3290) / 0.3290}, 1e-6);
+    expectComponents(white(ColorSpace::hwb), {0, 100, 0}, 1e-9);
 }
 
 TEST(ColorSpacesTest, GreysHaveNoHue)

@@ -190,7 +190,7 @@ TEST_F(MagnifierTest, theWheelDoesNotMoveIt)
 
 TEST_F(MagnifierTest, theWheelChangesTheMagnification)
 {
-    const auto look = [this] { return overlay().grab().toImage(); };
+    const auto look = [] { return overlay().grab().toImage(); };
     overlay().resize(200, 150);
     const QImage before = look();
     wheel(60);

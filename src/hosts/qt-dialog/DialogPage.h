@@ -9,7 +9,8 @@
 namespace vantorel {
 
 /// The page in one colour dialog. It is a further part of the dialog, whose buttons, modality,
-/// options, result and signals stay its own.
+/// options, result and signals stay its own. The dialog owns it.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): nobody else may destroy it.
 class DialogPage final : public QObject, private EmbeddingDialog {
     Q_OBJECT
 

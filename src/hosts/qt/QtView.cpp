@@ -3,6 +3,8 @@
 #include "hosts/common/PixelFrames.h"
 #include "hosts/qt/TextScale.h"
 
+#include <QEvent>
+
 namespace vantorel {
 namespace {
 

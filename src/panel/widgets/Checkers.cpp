@@ -21,7 +21,7 @@ void paintCheckers(QPainter& painter, const QRect& place)
 QString codeWithOpacity(const HostColor& color)
 {
     const QColor shown = qColorFrom(color);
-    const QString code = shown.name().toUpper();
+    QString code = shown.name().toUpper();
     if (shown.alpha() == 255) return code;
     return QStringLiteral("%1, %2 %").arg(code).arg(qRound(shown.alphaF() * 100));
 }

@@ -93,16 +93,23 @@ bool has(GtkWidget* widget, GType type)
     return search.isFound;
 }
 
+/// Whether a window is a dialog, or has controls, of the kinds in which the page can be.
+bool choosesColors(GtkWidget* window)
+{
+    // Programs still use the older ones.
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+    return GTK_IS_COLOR_CHOOSER_DIALOG(window) || has(window, GTK_TYPE_COLOR_SELECTION) ||
+           has(window, GTK_TYPE_COLOR_BUTTON);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+}
+
 gboolean writePlaces(gpointer file)
 {
     GList* windows = gtk_window_list_toplevels();
     for (const GList* window = windows; window != nullptr; window = window->next) {
         auto* widget = GTK_WIDGET(window->data);
         if (!gtk_widget_get_mapped(widget)) continue;
-        if (GTK_IS_COLOR_CHOOSER_DIALOG(widget) || has(widget, GTK_TYPE_COLOR_SELECTION) ||
-            has(widget, GTK_TYPE_COLOR_BUTTON)) {
-            addDialog(widget, static_cast<const char*>(file));
-        }
+        if (choosesColors(widget)) addDialog(widget, static_cast<const char*>(file));
     }
     g_list_free(windows);
     return G_SOURCE_CONTINUE;
