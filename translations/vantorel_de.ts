@@ -678,8 +678,8 @@
         <translation>Dasselbe wie --color COLOR.</translation>
     </message>
     <message>
-        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
-        <translation>Beginnt mit dieser Farbe: jede Form von CSS Color 4, etwa „#ff8000“ oder „hsl(30 100% 50%)“, oder ein Text, den die Hex-Seite annimmt.</translation>
+        <source>Start with this colour: any form of CSS Color 5, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Beginnt mit dieser Farbe: jede Form von CSS Color 5, etwa „#ff8000“ oder „hsl(30 100% 50%)“, oder ein Text, den die Hex-Seite annimmt.</translation>
     </message>
     <message>
         <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
@@ -955,10 +955,10 @@ Für bash: source &lt;(vantorel completions bash)</translation>
     </message>
     <message>
         <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
 Settings, snippets and colour lists are shared with the colour picker.</source>
         <translation>Farben für Menschen, die CSS und Code schreiben.
-Eine COLOR ist jede Form von CSS Color 4 („#ff8000“, „rgb(255 128 0)“, „oklch(70% 0.1 50)“, „orange“), ein Text, den der Farbwähler annimmt („ff8000“, „RGB(255, 128, 0);“), oder ein Name der Farbliste.
+Eine COLOR ist jede Form von CSS Color 5 („#ff8000“, „rgb(255 128 0)“, „oklch(70% 0.1 50)“, „orange“), ein Text, den der Farbwähler annimmt („ff8000“, „RGB(255, 128, 0);“), oder ein Name der Farbliste.
 Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</translation>
     </message>
     <message>

@@ -662,8 +662,8 @@
         <translation>Lo mismo que --color COLOR.</translation>
     </message>
     <message>
-        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
-        <translation>Empieza con este color: cualquier forma de CSS Color 4, como «#ff8000» o «hsl(30 100% 50%)», o un texto que la página Hex acepta.</translation>
+        <source>Start with this colour: any form of CSS Color 5, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Empieza con este color: cualquier forma de CSS Color 5, como «#ff8000» o «hsl(30 100% 50%)», o un texto que la página Hex acepta.</translation>
     </message>
     <message>
         <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
@@ -939,10 +939,10 @@ Para bash: source &lt;(vantorel completions bash)</translation>
     </message>
     <message>
         <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
 Settings, snippets and colour lists are shared with the colour picker.</source>
         <translation>Colores para quienes escriben CSS y código.
-Un COLOR es cualquier forma de CSS Color 4 («#ff8000», «rgb(255 128 0)», «oklch(70% 0.1 50)», «orange»), un texto que el selector acepta («ff8000», «RGB(255, 128, 0);») o un nombre de la lista de colores.
+Un COLOR es cualquier forma de CSS Color 5 («#ff8000», «rgb(255 128 0)», «oklch(70% 0.1 50)», «orange»), un texto que el selector acepta («ff8000», «RGB(255, 128, 0);») o un nombre de la lista de colores.
 Los ajustes, líneas de código y listas de colores son los del selector.</translation>
     </message>
     <message>

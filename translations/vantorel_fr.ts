@@ -662,8 +662,8 @@
         <translation>Identique à --color COLOR.</translation>
     </message>
     <message>
-        <source>Start with this colour: any form of CSS Color 4, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
-        <translation>Commence par cette couleur : toute forme de CSS Color 4, comme « #ff8000 » ou « hsl(30 100% 50%) », ou un texte que la page Hex accepte.</translation>
+        <source>Start with this colour: any form of CSS Color 5, such as &quot;#ff8000&quot; or &quot;hsl(30 100% 50%)&quot;, or a text that the hex page accepts.</source>
+        <translation>Commence par cette couleur : toute forme de CSS Color 5, comme « #ff8000 » ou « hsl(30 100% 50%) », ou un texte que la page Hex accepte.</translation>
     </message>
     <message>
         <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
@@ -939,10 +939,10 @@ Pour bash : source &lt;(vantorel completions bash)</translation>
     </message>
     <message>
         <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 4 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
 Settings, snippets and colour lists are shared with the colour picker.</source>
         <translation>Des couleurs pour celles et ceux qui écrivent du CSS et du code.
-Une COLOR est toute forme de CSS Color 4 (« #ff8000 », « rgb(255 128 0) », « oklch(70% 0.1 50) », « orange »), un texte que le sélecteur accepte (« ff8000 », « RGB(255, 128, 0); ») ou un nom de la liste de couleurs.
+Une COLOR est toute forme de CSS Color 5 (« #ff8000 », « rgb(255 128 0) », « oklch(70% 0.1 50) », « orange »), un texte que le sélecteur accepte (« ff8000 », « RGB(255, 128, 0); ») ou un nom de la liste de couleurs.
 Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</translation>
     </message>
     <message>

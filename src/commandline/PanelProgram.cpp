@@ -21,7 +21,7 @@ std::vector<Choice> themes()
 constexpr OperandRow panelOperands[] = {{"COLOR", "The same as --color COLOR.", 0, 1}};
 constexpr OptionRow panelOptions[] = {
     {"--color", "TEXT",
-     "Start with this colour: any form of CSS Color 4, such as \"#ff8000\" or "
+     "Start with this colour: any form of CSS Color 5, such as \"#ff8000\" or "
      "\"hsl(30 100% 50%)\", or a text that the hex page accepts."},
     {"--page", "PAGE",
      "Start with this page: hex, dialog, palettes, or the page of another plug-in."},

@@ -292,7 +292,7 @@ constexpr SectionRow vantorelSections[] = {
 constinit const ProgramRow vantorelProgram{
     .command = {.name = "vantorel",
                 .text = "Colours for people who write CSS and code.\n"
-                        "A COLOR is any form of CSS Color 4 (\"#ff8000\", \"rgb(255 128 0)\", "
+                        "A COLOR is any form of CSS Color 5 (\"#ff8000\", \"rgb(255 128 0)\", "
                         "\"oklch(70% 0.1 50)\", \"orange\"), a text that the colour picker accepts "
                         "(\"ff8000\", \"RGB(255, 128, 0);\"), or a name of the colour list.\n"
                         "Settings, snippets and colour lists are shared with the colour picker.",

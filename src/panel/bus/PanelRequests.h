@@ -27,7 +27,7 @@ public:
     explicit PanelRequests(PanelWindow& window);
 
     void show(const ActivationToken& token);
-    /// Reads every text form of CSS Color 4. The answer is an empty text.
+    /// Reads every text form of CSS Color 5. The answer is an empty text.
     [[nodiscard]] PanelAnswer setColor(const QString& text);
     /// The hex code, with the alpha unless it is opaque; empty for a pattern.
     [[nodiscard]] QString color() const;

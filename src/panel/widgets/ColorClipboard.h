@@ -38,7 +38,7 @@ struct ColorOffer {
 /// Whether the data may contain a colour. Quick enough for a drag that moves.
 [[nodiscard]] bool mayHoldColor(const QMimeData& data);
 
-/// Reads every text form of CSS Color 4, also as the value of a declaration, and lines of code with
+/// Reads every text form of CSS Color 5, also as the value of a declaration, and lines of code with
 /// a colour.
 [[nodiscard]] ColorOffer colorFromText(const QString& text);
 /// Reads `application/x-color` (four native 16-bit words) or a text.
