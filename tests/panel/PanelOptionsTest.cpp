@@ -26,12 +26,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         ColorRow{"#f80", QColor(255, 136, 0)}, ColorRow{"#ff8000", QColor(255, 128, 0)},
         ColorRow{"#ff800040", QColor(255, 128, 0, 64)}, ColorRow{"#f804", QColor(255, 136, 0, 68)},
-        ColorRow{"ff8000", QColor(255, 128, 0)}, ColorRow{" RGB(1, 2 3); ", QColor(1, 2, 3)},
+        ColorRow{"ff8000", QColor(255, 128, 0)}, ColorRow{"= RGB(1, 2 3); ", QColor(1, 2, 3)},
         ColorRow{"navy", QColor(0, 0, 128)}, ColorRow{"hsl(120 100% 50%)", QColor(0, 255, 0)},
         ColorRow{"hsl(120 100% 50% / 20%)", QColor(0, 255, 0, 51)},
         ColorRow{"oklch(62.796% 0.25768 29.234)", QColor(255, 0, 0)},
-        ColorRow{"#fff000fff000", std::nullopt}, ColorRow{"", std::nullopt},
-        ColorRow{"nonsense", std::nullopt}));
+        ColorRow{"#fff000fff000", std::nullopt}, ColorRow{"rgb(1 2 3 4)", std::nullopt},
+        ColorRow{"", std::nullopt}, ColorRow{"nonsense", std::nullopt}));
 
 TEST(PanelOptionsTest, AnInvalidColourIsExplained)
 {
