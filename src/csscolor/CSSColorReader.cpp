@@ -142,12 +142,12 @@ bool readEnd(CSSParser& parser)
 }
 
 /// Sums and products can just miss the half between two bytes, which CSS rounds up: the channels of
-/// hwb(120 30% 50%) are 76.5 and 127.5, so its bytes are 77 and 128.
+/// hwb(120 30% 50%) are 76.5 and 127.5, so its bytes are 77 and 128. The channel must be 0..1.
 double withExactHalf(double channel)
 {
     constexpr double tolerance = 1e-9;
     const double byte = channel * cssChannelUnit;
-    const double half = std::floor(byte) + 0.5;
+    const double half = static_cast<int>(byte) + 0.5;
     if (byte >= half || half - byte > tolerance) return channel;
     double exact = half / cssChannelUnit;
     while (exact * cssChannelUnit < half)
@@ -164,6 +164,14 @@ ColorTriple oklabOf(const CSSColorValue& value)
 CSSColor colorOf(const CSSColorReading& reading)
 {
     const CSSColorValue& value = reading.value;
+    const auto colorIs = [&](const ColorTriple& srgb, bool wasOutside) {
+        return CSSColor{HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], value.alpha),
+                        reading.form, wasOutside, value};
+    };
+    const bool isFromBytes = reading.form == CSSColorForm::named ||
+                             reading.form == CSSColorForm::hex ||
+                             reading.form == CSSColorForm::bareHex;
+    if (isFromBytes) return colorIs(value.components, false);
     ColorTriple srgb = srgbFrom(value.space, value.components);
     const bool isOutside = isOutsideSRGB(srgb);
     if (reading.isSRGB) {
@@ -173,8 +181,7 @@ CSSColor colorOf(const CSSColorReading& reading)
     } else {
         srgb = isOutside ? srgbByReducedChroma(oklabOf(value)) : clippedToSRGB(srgb);
     }
-    return {HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], value.alpha), reading.form,
-            isOutside, value};
+    return colorIs(srgb, isOutside);
 }
 
 }  // namespace
