@@ -103,12 +103,25 @@ bool choosesColors(GtkWidget* window)
     G_GNUC_END_IGNORE_DEPRECATIONS
 }
 
+/// Whether a window waits for a dialog that it has opened. Two reports in one file would take
+/// turns.
+bool hasDialog(GtkWidget* window, const GList* windows)
+{
+    for (const GList* other = windows; other != nullptr; other = other->next) {
+        auto* dialog = GTK_WIDGET(other->data);
+        if (gtk_widget_get_mapped(dialog) &&
+            GTK_WIDGET(gtk_window_get_transient_for(GTK_WINDOW(dialog))) == window)
+            return true;
+    }
+    return false;
+}
+
 gboolean writePlaces(gpointer file)
 {
     GList* windows = gtk_window_list_toplevels();
     for (const GList* window = windows; window != nullptr; window = window->next) {
         auto* widget = GTK_WIDGET(window->data);
-        if (!gtk_widget_get_mapped(widget)) continue;
+        if (!gtk_widget_get_mapped(widget) || hasDialog(widget, windows)) continue;
         if (choosesColors(widget)) addDialog(widget, static_cast<const char*>(file));
     }
     g_list_free(windows);
