@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 namespace vantorel {
 namespace {
@@ -123,9 +122,9 @@ std::optional<MixedColor> readMixedColor(CSSParser& parser, CSSTheme theme)
 {
     MixedColor mixedColor;
     if (startsPercentage(parser) && !(mixedColor.share = readShare(parser))) return std::nullopt;
-    auto color = readColor(parser, theme);
+    const auto color = readColor(parser, theme);
     if (!color) return std::nullopt;
-    mixedColor.color = *std::move(color);
+    mixedColor.color = *color;
     if (!mixedColor.share && startsPercentage(parser) && !(mixedColor.share = readShare(parser))) {
         return std::nullopt;
     }

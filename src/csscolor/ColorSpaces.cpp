@@ -134,7 +134,7 @@ std::optional<ColorSpace> spaceIn(const Names& names, std::u16string_view name)
 }
 
 struct SpaceComponents {
-    std::array<ColorComponent, 3> components;
+    std::array<ColorComponent, 3> components{};
     std::array<std::u16string_view, 3> keywords;
 };
 

@@ -9,6 +9,8 @@ need() {
     done
 }
 
+# The checkout stays as it is.
+export PYTHONDONTWRITEBYTECODE=1
 scratch=$(mktemp -d)
 # Prints the processes whose home is the scratch folder. They include those that a program left running, such as
 # the owner of the clipboard after `--copy`.
