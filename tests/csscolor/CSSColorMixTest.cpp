@@ -170,7 +170,7 @@ TEST(NestedColorTest, NestingHasALimit)
     const auto nested = [](int depth) {
         std::string text = "red";
         for (int i = 0; i < depth; ++i)
-            text = "rgb(from " + text + " r g b)";
+            text.insert(0, "rgb(from ").append(" r g b)");
         return text;
     };
     EXPECT_EQ(outcomeOf(nested(32)), "ff0000");

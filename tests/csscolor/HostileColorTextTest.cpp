@@ -126,7 +126,11 @@ TEST(HostileColorTextTest, RandomPiecesOfColoursGiveAColourOrAnError)
         } else {
             text = one(functions) + one(numbers) + " " + one(numbers) + " " + one(numbers) + " / " +
                    one(numbers) + ")";
-            if (round % 8 == 1) text = "color-mix(in " + one(spaces) + ", red, " + text + " 30%)";
+            if (round % 8 == 1)
+                text.insert(0, ", red, ")
+                    .insert(0, one(spaces))
+                    .insert(0, "color-mix(in ")
+                    .append(" 30%)");
         }
         const Result<CSSColor> reading = readCSSColor(text);
         ASSERT_NO_FATAL_FAILURE(expectSoundReading(reading)) << text;
