@@ -203,7 +203,7 @@ public:
     bool isOn(const HostButton& button) override { return button.state() == 1; }
     std::optional<std::u16string> tipOf(const HostView& view) override
     {
-        const auto tip = view.toolTip();
+        const auto& tip = view.toolTip();
         return tip && tip->find_first_not_of(u' ') != tip->npos ? tip : std::nullopt;
     }
     std::array<int, 3> pixelAt(HostPoint inRoot) override

@@ -229,12 +229,12 @@ TEST_F(PageConformance, EnteredTextsChooseTheSameColours)
         const char* field;
         const char16_t* text;
     };
-    for (const auto& [field, typed] :
+    for (const Row& row :
          {Row{"_fullHexText", u"#12f"}, Row{"_fullHexText", u"zz"}, Row{"_redHexText", u"7"},
           Row{"_greenHexText", u"ff"}, Row{"_blueHexText", u"0"}, Row{"_rgbDecimalText", u"navy"},
           Row{"_rgbDecimalText", u"rgb(1, 20, 255)"}}) {
-        SCOPED_TRACE(field);
-        expectSame([&](HostUnderTest& each) { enter(each, field, typed); });
+        SCOPED_TRACE(row.field);
+        expectSame([&](HostUnderTest& each) { enter(each, row.field, row.text); });
         EXPECT_EQ(text("_rgbDecimalText"), headlessText("_rgbDecimalText"));
     }
 }

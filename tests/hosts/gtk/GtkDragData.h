@@ -20,7 +20,7 @@ using SelectionData = std::unique_ptr<GtkSelectionData, SelectionDataFree>;
 [[nodiscard]] inline SelectionData dataOfDrag(GtkWidget* source, GdkDragContext* drag,
                                               const char* type)
 {
-    const GdkAtom target = gdk_atom_intern(type, FALSE);
+    GdkAtom target = gdk_atom_intern(type, FALSE);
 #if GTK_MAJOR_VERSION >= 3
     static_cast<void>(source);
     GtkClipboard* selection = gtk_clipboard_get(gdk_drag_get_selection(drag));
