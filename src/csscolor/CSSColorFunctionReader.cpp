@@ -46,10 +46,8 @@ private:
     std::optional<CSSValue> readKeyword(const CSSValueRule& rule);
     bool readSeparator(std::size_t index);
     bool checkCommaForm(const std::array<CSSValue, 3>& values);
-    bool readClosing();
     std::nullopt_t failAtValue(const CSSValueRule& rule);
     std::nullopt_t failMixed();
-    std::nullopt_t failUnclosed();
 
     /// For messages, such as "rgb()".
     [[nodiscard]] std::u16string name() const { return std::u16string(_function.name) + u"()"; }
@@ -87,7 +85,7 @@ std::optional<CSSColorReading> FunctionReader::read()
         values[i] = *value;
     }
     const auto alpha = readAlpha();
-    if (!alpha || !readClosing()) return std::nullopt;
+    if (!alpha || !_parser.readClosing(name(), _function.example)) return std::nullopt;
     if (_hasCommas && !checkCommaForm(values)) return std::nullopt;
 
     CSSColorReading reading;
@@ -187,7 +185,7 @@ std::optional<CSSValue> FunctionReader::readValue(const CSSValueRule& rule,
             return _parser.fail(phrase("%1 needs 3 values and has %2", name(), valuesBefore),
                                 writeAs(_function.example));
         case CSSTokenKind::end:
-            return failUnclosed();
+            return _parser.failUnclosed(name());
         case CSSTokenKind::comma:
         case CSSTokenKind::slash:
             return _parser.fail(phrase("The %1 of %2 is missing before \"%3\"", rule.name, name(),
@@ -280,19 +278,6 @@ std::optional<CSSValue> FunctionReader::readAlpha()
     return value;
 }
 
-bool FunctionReader::readClosing()
-{
-    if (_parser.skip(CSSTokenKind::closeParenthesis)) return true;
-    if (_parser.is(CSSTokenKind::end)) {
-        failUnclosed();
-    } else {
-        _parser.failAtToken(
-            phrase("Instead of the \")\" of %1 there is \"%2\"", name(), _parser.quoted()),
-            writeAs(_function.example));
-    }
-    return false;
-}
-
 bool FunctionReader::checkCommaForm(const std::array<CSSValue, 3>& values)
 {
     if (std::ranges::any_of(values, &CSSValue::isNone)) {
@@ -328,11 +313,6 @@ std::nullopt_t FunctionReader::failMixed()
     return _parser.fail(
         phrase("The values of %1 must be separated either by commas or by spaces", name()),
         phrase("write \"%1\" or \"%2\"", _function.example, _function.exampleWithCommas));
-}
-
-std::nullopt_t FunctionReader::failUnclosed()
-{
-    return _parser.fail(phrase("%1 is not closed", name()), phrase("add a \")\" after the values"));
 }
 
 }  // namespace

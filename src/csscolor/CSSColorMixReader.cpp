@@ -28,19 +28,6 @@ bool readComma(CSSParser& parser, std::u16string_view example)
     return false;
 }
 
-bool readClosing(CSSParser& parser, std::u16string_view function, std::u16string_view example)
-{
-    if (parser.skip(CSSTokenKind::closeParenthesis)) return true;
-    if (parser.is(CSSTokenKind::end)) {
-        parser.fail(phrase("%1 is not closed", function), phrase("add a \")\" after the values"));
-    } else {
-        parser.failAtToken(
-            phrase("Instead of the \")\" of %1 there is \"%2\"", function, parser.quoted()),
-            writeAs(example));
-    }
-    return false;
-}
-
 std::optional<ColorSpace> readMixingSpace(CSSParser& parser)
 {
     if (!parser.isName(u"in")) {
@@ -162,7 +149,7 @@ std::optional<CSSColorReading> readColorMix(CSSParser& parser, CSSTheme theme)
     const auto first = readMixedColor(parser, theme);
     if (!first || !readComma(parser, mixExample)) return std::nullopt;
     const auto second = readMixedColor(parser, theme);
-    if (!second || !readClosing(parser, u"color-mix()", mixExample)) return std::nullopt;
+    if (!second || !parser.readClosing(u"color-mix()", mixExample)) return std::nullopt;
     const auto shares = sharesOf(*first, *second);
     if (!shares) {
         return parser.fail(phrase("color-mix() mixes 0% of both colours"), writeAs(mixExample));
@@ -184,7 +171,7 @@ std::optional<CSSColorReading> readLightDark(CSSParser& parser, CSSTheme theme)
     auto light = readColor(parser, theme);
     if (!light || !readComma(parser, lightDarkExample)) return std::nullopt;
     auto dark = readColor(parser, theme);
-    if (!dark || !readClosing(parser, u"light-dark()", lightDarkExample)) return std::nullopt;
+    if (!dark || !parser.readClosing(u"light-dark()", lightDarkExample)) return std::nullopt;
     switch (theme) {
         case CSSTheme::light:
             return light;

@@ -38,6 +38,18 @@ bool CSSParser::isCharacter(char16_t character) const
     return is(CSSTokenKind::other) && source() == std::u16string_view(&character, 1);
 }
 
+bool CSSParser::readClosing(std::u16string_view function, std::u16string_view example)
+{
+    if (skip(CSSTokenKind::closeParenthesis)) return true;
+    if (is(CSSTokenKind::end)) {
+        failUnclosed(function);
+    } else {
+        failAtToken(phrase("Instead of the \")\" of %1 there is \"%2\"", function, quoted()),
+                    writeAs(example));
+    }
+    return false;
+}
+
 bool CSSParser::isSpacedApart() const
 {
     CSSTokenizer following = _tokens;
@@ -80,6 +92,11 @@ std::nullopt_t CSSParser::failAtToken(Phrase what, Phrase remedy)
     if (!is(CSSTokenKind::unclosedComment)) return fail(std::move(what), std::move(remedy));
     return fail(phrase("The comment that starts with \"/*\" is not closed"),
                 phrase("close it with \"*/\""));
+}
+
+std::nullopt_t CSSParser::failUnclosed(std::u16string_view function)
+{
+    return fail(phrase("%1 is not closed", function), phrase("add a \")\" after the values"));
 }
 
 CSSParser::Nesting::Nesting(CSSParser& parser) : _parser(parser)

@@ -34,6 +34,9 @@ public:
         advance();
         return true;
     }
+    /// Skips the ")" of a function, which has a name such as "rgb()" in messages. Returns false,
+    /// with an error, if there is another token.
+    bool readClosing(std::u16string_view function, std::u16string_view example);
     /// Whether there is white space on both sides of the token.
     [[nodiscard]] bool isSpacedApart() const;
 
@@ -49,6 +52,8 @@ public:
     std::nullopt_t fail(Phrase what, Phrase remedy = {});
     /// Fails because a comment is not closed, if that is the token, or with the phrases.
     std::nullopt_t failAtToken(Phrase what, Phrase remedy = {});
+    /// Fails because the text ends before the ")" of a function.
+    std::nullopt_t failUnclosed(std::u16string_view function);
     [[nodiscard]] bool hasFailed() const { return !_error.what.isEmpty(); }
     [[nodiscard]] Message takeError() { return std::move(_error); }
 

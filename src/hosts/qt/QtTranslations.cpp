@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 namespace vantorel {
+
 QString translation(const char* context, const char* text)
 {
     const Translator& translate = currentTranslator();
