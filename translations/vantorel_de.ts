@@ -702,10 +702,6 @@
         <translation>Zeigt diese Seite der Hex-Seite: colors oder settings.</translation>
     </message>
     <message>
-        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
-        <translation>Farben des Fensters anstelle derer des Desktops: light oder dark.</translation>
-    </message>
-    <message>
         <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
         <translation>Hält Einstellungen, Farblisten und den Zustand des Fensters in DIR/Vantorel anstatt im Ordner des Benutzers. DIR muss existieren.</translation>
     </message>
@@ -1928,6 +1924,10 @@ Programme mit Qt und GTK 3 sowie GIMP zeigen die Seite dann in ihren eigenen Far
 hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
         <translation>Jede Farbe in einer anderen Form von CSS schreiben, je in eine Zeile.
 hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS es vorschreibt. Alle anderen Formen lassen Farben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
+        <translation>Aussehen des Fensters: auto (hell oder dunkel wie der Desktop), light, dark, contrast (Weiß auf Schwarz) oder desktop (Farben und Bedienelemente des Desktops).</translation>
     </message>
 </context>
 <context>

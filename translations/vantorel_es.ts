@@ -686,10 +686,6 @@
         <translation>Muestra esta cara de la página Hex: colors o settings.</translation>
     </message>
     <message>
-        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
-        <translation>Colores de la ventana en lugar de los del escritorio: light o dark.</translation>
-    </message>
-    <message>
         <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
         <translation>Guarda los ajustes, las listas de colores y el estado del panel en DIR/Vantorel en lugar de la carpeta del usuario. DIR debe existir.</translation>
     </message>
@@ -1928,6 +1924,10 @@ Los programas de Qt y de GTK 3, y GIMP, muestran entonces la página en sus prop
 hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
         <translation>Escribir cada color en otra forma de CSS, en una línea propia.
 hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan como indica CSS. Las otras formas dejan los colores como son.</translation>
+    </message>
+    <message>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
+        <translation>Aspecto de la ventana: auto (claro u oscuro como el escritorio), light, dark, contrast (blanco sobre negro) o desktop (los colores y controles del escritorio).</translation>
     </message>
 </context>
 <context>

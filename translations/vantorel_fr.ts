@@ -686,10 +686,6 @@
         <translation>Montre cette face de la page Hex : colors ou settings.</translation>
     </message>
     <message>
-        <source>Colours of the window instead of the desktop&apos;s: light or dark.</source>
-        <translation>Couleurs de la fenêtre au lieu de celles du bureau : light ou dark.</translation>
-    </message>
-    <message>
         <source>Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user&apos;s own folder. DIR must exist.</source>
         <translation>Garde réglages, listes de couleurs et état du panneau dans DIR/Vantorel au lieu du dossier de l’utilisateur. DIR doit exister.</translation>
     </message>
@@ -1928,6 +1924,10 @@ Les programmes de Qt et de GTK 3, ainsi que GIMP, affichent alors la page dans l
 hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescribes. All other forms keep colours as they are.</source>
         <translation>Écrire chaque couleur sous une autre forme de CSS, une par ligne.
 hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramenées comme CSS le prescrit. Les autres formes laissent les couleurs telles quelles.</translation>
+    </message>
+    <message>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
+        <translation>Aspect de la fenêtre : auto (clair ou sombre comme le bureau), light, dark, contrast (blanc sur noir) ou desktop (les couleurs et les contrôles du bureau).</translation>
     </message>
 </context>
 <context>

@@ -15,7 +15,7 @@ std::vector<Choice> faces()
 
 std::vector<Choice> themes()
 {
-    return {{"light", {}}, {"dark", {}}};
+    return {{"auto", {}}, {"light", {}}, {"dark", {}}, {"contrast", {}}, {"desktop", {}}};
 }
 
 constexpr OperandRow panelOperands[] = {{"COLOR", "The same as --color COLOR.", 0, 1}};
@@ -39,7 +39,8 @@ constexpr OptionRow panelOptions[] = {
      .choices = faces},
     {.name = "--theme",
      .value = "THEME",
-     .text = "Colours of the window instead of the desktop's: light or dark.",
+     .text = "Look of the window: auto (light or dark as the desktop is), light, dark, contrast "
+             "(white on black), or desktop (the desktop's own colours and controls).",
      .choices = themes},
     {"--data", "DIR",
      "Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user's "

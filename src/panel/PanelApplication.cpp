@@ -24,7 +24,7 @@ PanelApplication::PanelApplication(const char* program, const PanelOptions& opti
     // Closing the panel's window quits explicitly. In a panel without a window, closing the
     // magnifier would quit.
     QApplication::setQuitOnLastWindowClosed(false);
-    if (options.theme) applyTheme(*options.theme);
+    applyTheme(options.theme.value_or(QStringLiteral("auto")));
 }
 
 }  // namespace vantorel

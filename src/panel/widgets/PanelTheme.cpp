@@ -1,59 +1,80 @@
 #include "panel/widgets/PanelTheme.h"
 
+#include "panel/widgets/ThemeTables.h"
+
 #include <QApplication>
-#include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 
-#include <array>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+#include <QStyleHints>
+#endif
 
 namespace vantorel {
 namespace {
 
-struct ThemeColor {
-    QPalette::ColorRole role;
-    const char* light;
-    const char* dark;
+/// What the desktop has given the program.
+class DesktopLook {
+public:
+    DesktopLook() : _style(QApplication::style()->name()) {}
+
+    void restore() const
+    {
+        if (QApplication::style()->name() != _style) QApplication::setStyle(_style);
+        QApplication::setPalette(QPalette());
+    }
+
+    [[nodiscard]] static bool isDark()
+    {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+        const Qt::ColorScheme scheme = QGuiApplication::styleHints()->colorScheme();
+        if (scheme != Qt::ColorScheme::Unknown) return scheme == Qt::ColorScheme::Dark;
+#endif
+        // A palette without roles of its own brings the desktop's back.
+        QApplication::setPalette(QPalette());
+        return themeColors(QApplication::palette()).isDark;
+    }
+
+private:
+    QString _style;
 };
 
-constexpr std::array themeColors{
-    ThemeColor{QPalette::Window, "#efeff1", "#2b2c30"},
-    ThemeColor{QPalette::WindowText, "#1c1c1e", "#ececee"},
-    ThemeColor{QPalette::Base, "#ffffff", "#1f2023"},
-    ThemeColor{QPalette::AlternateBase, "#f5f5f7", "#26272b"},
-    ThemeColor{QPalette::Text, "#1c1c1e", "#ececee"},
-    ThemeColor{QPalette::Button, "#f4f4f6", "#3a3b40"},
-    ThemeColor{QPalette::ButtonText, "#1c1c1e", "#ececee"},
-    ThemeColor{QPalette::BrightText, "#ffffff", "#ffffff"},
-    ThemeColor{QPalette::ToolTipBase, "#ffffe8", "#3a3b40"},
-    ThemeColor{QPalette::ToolTipText, "#1c1c1e", "#ececee"},
-    ThemeColor{QPalette::Highlight, "#2f6fd6", "#3f7fe6"},
-    ThemeColor{QPalette::HighlightedText, "#ffffff", "#ffffff"},
-    ThemeColor{QPalette::Link, "#1f5fc6", "#7fb0ff"},
-    ThemeColor{QPalette::PlaceholderText, "#77777c", "#97979c"},
-    ThemeColor{QPalette::Light, "#ffffff", "#4a4b50"},
-    ThemeColor{QPalette::Midlight, "#f8f8fa", "#424348"},
-    ThemeColor{QPalette::Mid, "#b4b4b8", "#5a5b60"},
-    ThemeColor{QPalette::Dark, "#9a9a9e", "#1a1b1e"},
-    ThemeColor{QPalette::Shadow, "#70707a", "#0c0c0e"},
-};
+void setOwnLook(const ThemeColors& theme)
+{
+    if (QApplication::style()->name() != QLatin1String("fusion"))
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(paletteOf(theme));
+}
+
+void followDesktop()
+{
+    setOwnLook(DesktopLook::isDark() ? darkTheme() : lightTheme());
+}
 
 }  // namespace
 
 bool applyTheme(const QString& name)
 {
-    const bool dark = name == QLatin1String("dark");
-    if (!dark && name != QLatin1String("light")) return false;
-    QPalette palette;
-    for (const ThemeColor& row : themeColors) {
-        const QColor color(dark ? row.dark : row.light);
-        palette.setColor(row.role, color);
+    static const DesktopLook desktop;
+    static QMetaObject::Connection following;
+    QObject::disconnect(following);
+    if (name == QLatin1String("auto")) {
+        followDesktop();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+        following = QObject::connect(QGuiApplication::styleHints(),
+                                     &QStyleHints::colorSchemeChanged, qApp, followDesktop);
+#endif
+    } else if (name == QLatin1String("light")) {
+        setOwnLook(lightTheme());
+    } else if (name == QLatin1String("dark")) {
+        setOwnLook(darkTheme());
+    } else if (name == QLatin1String("contrast")) {
+        setOwnLook(contrastTheme());
+    } else if (name == QLatin1String("desktop")) {
+        desktop.restore();
+    } else {
+        return false;
     }
-    const QColor faint(dark ? "#77777c" : "#9a9a9e");
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, faint);
-    }
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(palette);
     return true;
 }
 

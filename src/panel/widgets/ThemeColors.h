@@ -37,13 +37,17 @@ struct ThemeColors {
     /// The squares below a translucent colour.
     QColor checkA;
     QColor checkB;
+    /// The ground of a plane of colours, and the translucent lines over what cannot be shown there.
+    QColor plane;
+    QColor hatch;
     bool isDark = false;
     /// High contrast has wider focus rings and borders in the colour of the text.
     bool isHighContrast = false;
 };
 
 /// Returns the colours that belong to a palette: those of the panel's themes for a palette that
-/// `applyTheme` has set, otherwise colours derived from the desktop's palette.
+/// `applyTheme` has set, otherwise colours derived from the palette. Derived colours reach the
+/// contrasts above unless the palette's own text does not. Call it while painting: it is cheap.
 [[nodiscard]] ThemeColors themeColors(const QPalette& palette);
 
 }  // namespace vantorel
