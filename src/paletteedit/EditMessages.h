@@ -8,9 +8,9 @@
 /// The messages about a step of editing. `name` is the name of the list.
 namespace vantorel::editmessages {
 
-/// The list could not be saved in `folder` and is unchanged.
 /// Another program has kept the folder locked for too long.
 [[nodiscard]] Message locked(std::u16string_view name);
+/// The list could not be saved in `folder` and is unchanged.
 [[nodiscard]] Message notSaved(std::u16string_view name, const std::string& folder);
 /// The list's file could not be removed from `folder`.
 [[nodiscard]] Message notRemoved(std::u16string_view name, const std::string& folder);

@@ -1,0 +1,42 @@
+#include "paletteedit/PaletteRecord.h"
+
+#include <utility>
+
+namespace vantorel {
+
+void PaletteRecord::readIfChanged(HostFiles& files)
+{
+    // Read the version first, so that a later change is noticed the next time.
+    const std::uint64_t versionNow = files.versionAtPath(path);
+    if (versionNow != 0 && versionNow == version) return;
+    version = versionNow;
+    auto bytes = version != 0 ? files.contentsAtPath(path) : std::nullopt;
+    EntriesReader reader(std::move(bytes).value_or(std::string()), path);
+    reader.readLines(reader.allBytes());
+    setContents(reader.takeFile());
+}
+
+void PaletteRecord::setContents(std::optional<EntriesReader::File> file)
+{
+    state.reset();
+    hasOtherLines = file && file->hasOtherLines;
+    if (file) state = std::move(file->state);
+}
+
+void PaletteRecord::setWritten(const PaletteState& written, const std::string& text,
+                               HostFiles& files)
+{
+    version = files.versionAtPath(path);
+    state = written;
+    if (state->bytes != nullptr && *state->bytes != text) state->bytes = nullptr;
+    hasOtherLines = state->bytes != nullptr;
+    // If the file has already been changed again, it is read at the next request.
+    if (files.contentsAtPath(path) != text) version = 0;
+}
+
+bool PaletteRecord::isUnreadable(HostFiles& files) const
+{
+    return version == 0 && files.kindAtPath(path) != HostFileKind::none;
+}
+
+}  // namespace vantorel

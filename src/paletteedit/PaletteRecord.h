@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/HostFiles.h"
+#include "paletteedit/EntriesReader.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vantorel {
+
+/// The known state of a list's file.
+struct PaletteRecord {
+    std::string path;
+    /// The program that the list belongs to; empty for one of the user's own.
+    std::u16string program;
+    /// The file's version when `state` was read; 0 if it must be read again.
+    std::uint64_t version = 0;
+    /// Empty until it is requested, and if the file is not a palette.
+    std::optional<PaletteState> state = {};
+    /// Whether the file has lines that saving would drop.
+    bool hasOtherLines = false;
+
+    [[nodiscard]] bool isOwn() const { return program.empty(); }
+    /// Reads the file, unless it has not changed since it was last read. Afterwards the version is
+    /// 0 if there is no file that can be read.
+    void readIfChanged(HostFiles& files);
+    /// Takes in what a reader has found in the file; `std::nullopt` if it is not a palette.
+    void setContents(std::optional<EntriesReader::File> file);
+    /// Takes in that `written` has just been written to the file as `text`.
+    void setWritten(const PaletteState& written, const std::string& text, HostFiles& files);
+    /// Returns whether something that cannot be read exists at the path. Such a list must not be
+    /// treated as removed.
+    [[nodiscard]] bool isUnreadable(HostFiles& files) const;
+};
+
+}  // namespace vantorel
