@@ -2301,6 +2301,13 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteEdits</name>
+    <message>
+        <source>My colours</source>
+        <translation>Meine Farben</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteEntriesView</name>
     <message>
         <source>Colour name</source>
@@ -2309,6 +2316,28 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Colours of the list</source>
         <translation>Farben der Liste</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFiles</name>
+    <message>
+        <source>Import palette files</source>
+        <translation>Palettendateien übernehmen</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Kopie sichern</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFilter</name>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Name oder Hex-Code suchen</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>Zeigt nur Farben, deren Name oder Hex-Code dies enthält (Strg+F)</translation>
     </message>
 </context>
 <context>
@@ -2334,6 +2363,32 @@ Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>Nicht weiter lesen. Das bisher Gelesene lässt sich benutzen.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Bisher gelesen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteUpdates</name>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 von %2 Listen</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % der Liste</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PalettesPage</name>
     <message>
         <source>Palettes</source>
@@ -2349,14 +2404,6 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>Palettes</source>
         <translation>Paletten</translation>
-    </message>
-    <message>
-        <source>Find a name or hex code</source>
-        <translation>Name oder Hex-Code suchen</translation>
-    </message>
-    <message>
-        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
-        <translation>Zeigt nur Farben, deren Name oder Hex-Code dies enthält (Strg+F)</translation>
     </message>
     <message>
         <source>Commands for lists and colours</source>
@@ -2391,44 +2438,12 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>%1 Kopie</translation>
     </message>
     <message>
-        <source>My colours</source>
-        <translation>Meine Farben</translation>
-    </message>
-    <message>
-        <source>Import palette files</source>
-        <translation>Palettendateien übernehmen</translation>
-    </message>
-    <message>
-        <source>Save a copy</source>
-        <translation>Kopie sichern</translation>
-    </message>
-    <message>
         <source>There is no list yet. Create one, or drop a palette file here.</source>
         <translation>Es gibt noch keine Liste. Legen Sie eine an, oder lassen Sie eine Palettendatei hier fallen.</translation>
     </message>
     <message>
         <source>No colour name or hex code matches.</source>
         <translation>Kein Name und kein Hex-Code passt.</translation>
-    </message>
-    <message>
-        <source>%1 of %2 lists</source>
-        <translation>%1 von %2 Listen</translation>
-    </message>
-    <message>
-        <source>%1 % of the list</source>
-        <translation>%1 % der Liste</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Read no more. What has been read so far can be used.</source>
-        <translation>Nicht weiter lesen. Das bisher Gelesene lässt sich benutzen.</translation>
-    </message>
-    <message>
-        <source>Read so far: %1</source>
-        <translation>Bisher gelesen: %1</translation>
     </message>
 </context>
 <context>

@@ -2301,6 +2301,13 @@ Controles y gráficos: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteEdits</name>
+    <message>
+        <source>My colours</source>
+        <translation>Mis colores</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteEntriesView</name>
     <message>
         <source>Colour name</source>
@@ -2309,6 +2316,28 @@ Controles y gráficos: AA %6</translation>
     <message>
         <source>Colours of the list</source>
         <translation>Colores de la lista</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFiles</name>
+    <message>
+        <source>Import palette files</source>
+        <translation>Importar archivos de paleta</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Guardar una copia</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFilter</name>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Buscar un nombre o código hexadecimal</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>Muestra solo los colores cuyo nombre o código hexadecimal contiene esto (Ctrl+F)</translation>
     </message>
 </context>
 <context>
@@ -2334,6 +2363,32 @@ Controles y gráficos: AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>No leer más. Lo leído hasta ahora se puede usar.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Leído hasta ahora: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteUpdates</name>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 de %2 listas</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % de la lista</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PalettesPage</name>
     <message>
         <source>Palettes</source>
@@ -2349,14 +2404,6 @@ Controles y gráficos: AA %6</translation>
     <message>
         <source>Palettes</source>
         <translation>Paletas</translation>
-    </message>
-    <message>
-        <source>Find a name or hex code</source>
-        <translation>Buscar un nombre o código hexadecimal</translation>
-    </message>
-    <message>
-        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
-        <translation>Muestra solo los colores cuyo nombre o código hexadecimal contiene esto (Ctrl+F)</translation>
     </message>
     <message>
         <source>Commands for lists and colours</source>
@@ -2397,38 +2444,6 @@ Controles y gráficos: AA %6</translation>
     <message>
         <source>%1 copy</source>
         <translation>%1 copia</translation>
-    </message>
-    <message>
-        <source>My colours</source>
-        <translation>Mis colores</translation>
-    </message>
-    <message>
-        <source>Import palette files</source>
-        <translation>Importar archivos de paleta</translation>
-    </message>
-    <message>
-        <source>Save a copy</source>
-        <translation>Guardar una copia</translation>
-    </message>
-    <message>
-        <source>%1 of %2 lists</source>
-        <translation>%1 de %2 listas</translation>
-    </message>
-    <message>
-        <source>%1 % of the list</source>
-        <translation>%1 % de la lista</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
-        <source>Read no more. What has been read so far can be used.</source>
-        <translation>No leer más. Lo leído hasta ahora se puede usar.</translation>
-    </message>
-    <message>
-        <source>Read so far: %1</source>
-        <translation>Leído hasta ahora: %1</translation>
     </message>
 </context>
 <context>

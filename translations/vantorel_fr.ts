@@ -2301,6 +2301,13 @@ Commandes et graphismes : AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteEdits</name>
+    <message>
+        <source>My colours</source>
+        <translation>Mes couleurs</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteEntriesView</name>
     <message>
         <source>Colour name</source>
@@ -2309,6 +2316,28 @@ Commandes et graphismes : AA %6</translation>
     <message>
         <source>Colours of the list</source>
         <translation>Couleurs de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFiles</name>
+    <message>
+        <source>Import palette files</source>
+        <translation>Importer des fichiers de palette</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Enregistrer une copie</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteFilter</name>
+    <message>
+        <source>Find a name or hex code</source>
+        <translation>Rechercher un nom ou un code hexadécimal</translation>
+    </message>
+    <message>
+        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
+        <translation>N’affiche que les couleurs dont le nom ou le code hexadécimal contient ceci (Ctrl+F)</translation>
     </message>
 </context>
 <context>
@@ -2334,6 +2363,32 @@ Commandes et graphismes : AA %6</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::PaletteProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Read no more. What has been read so far can be used.</source>
+        <translation>Ne plus rien lire. Ce qui a été lu jusqu’ici est utilisable.</translation>
+    </message>
+    <message>
+        <source>Read so far: %1</source>
+        <translation>Lu jusqu’ici : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PaletteUpdates</name>
+    <message>
+        <source>%1 of %2 lists</source>
+        <translation>%1 listes sur %2</translation>
+    </message>
+    <message>
+        <source>%1 % of the list</source>
+        <translation>%1 % de la liste</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PalettesPage</name>
     <message>
         <source>Palettes</source>
@@ -2349,14 +2404,6 @@ Commandes et graphismes : AA %6</translation>
     <message>
         <source>Palettes</source>
         <translation>Palettes</translation>
-    </message>
-    <message>
-        <source>Find a name or hex code</source>
-        <translation>Rechercher un nom ou un code hexadécimal</translation>
-    </message>
-    <message>
-        <source>Shows only colours with this in their name or hex code (Ctrl+F)</source>
-        <translation>N’affiche que les couleurs dont le nom ou le code hexadécimal contient ceci (Ctrl+F)</translation>
     </message>
     <message>
         <source>Commands for lists and colours</source>
@@ -2397,38 +2444,6 @@ Commandes et graphismes : AA %6</translation>
     <message>
         <source>%1 copy</source>
         <translation>%1 copie</translation>
-    </message>
-    <message>
-        <source>My colours</source>
-        <translation>Mes couleurs</translation>
-    </message>
-    <message>
-        <source>Import palette files</source>
-        <translation>Importer des fichiers de palette</translation>
-    </message>
-    <message>
-        <source>Save a copy</source>
-        <translation>Enregistrer une copie</translation>
-    </message>
-    <message>
-        <source>%1 of %2 lists</source>
-        <translation>%1 listes sur %2</translation>
-    </message>
-    <message>
-        <source>%1 % of the list</source>
-        <translation>%1 % de la liste</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Read no more. What has been read so far can be used.</source>
-        <translation>Ne plus rien lire. Ce qui a été lu jusqu’ici est utilisable.</translation>
-    </message>
-    <message>
-        <source>Read so far: %1</source>
-        <translation>Lu jusqu’ici : %1</translation>
     </message>
 </context>
 <context>

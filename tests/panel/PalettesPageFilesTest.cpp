@@ -48,11 +48,11 @@ TEST_F(PalettesPageTest, ColoursAreDroppedBetweenRows)
 
 TEST_F(PalettesPageTest, ACopyIsSavedInTheStrictForm)
 {
-    page()->saveCopy(at("elsewhere/copy.gpl"));
+    files()->saveCopy(at("elsewhere/copy.gpl"));
     QFile file(at("elsewhere/copy.gpl"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), QByteArray(reds));
-    page()->saveCopy(at("no/such/folder/copy.gpl"));
+    files()->saveCopy(at("no/such/folder/copy.gpl"));
     EXPECT_THAT(message(), testing::HasSubstr("could not be written"));
 }
 
@@ -65,12 +65,12 @@ TEST_F(PalettesPageTest, EveryFormatIsSavedAndImported)
             show("Reds");
             const QString path =
                 at("elsewhere/copy.") + QString::fromStdString(std::string(ending));
-            page()->saveCopy(path);
+            files()->saveCopy(path);
             QFile file(path);
             ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << ending;
             EXPECT_EQ(file.readAll().toStdString(), format.write(*list)) << ending;
             if (!format.isRead) continue;
-            page()->importFiles({path});
+            files()->importFiles({path});
             EXPECT_NE(shownList(), "Reds") << ending << message();
             EXPECT_EQ(own(lists()->currentText()), original) << ending;
         }
@@ -79,8 +79,8 @@ TEST_F(PalettesPageTest, EveryFormatIsSavedAndImported)
 
 TEST_F(PalettesPageTest, APictureIsNotImported)
 {
-    page()->saveCopy(at("elsewhere/copy.svg"));
-    page()->importFiles({at("elsewhere/copy.svg")});
+    files()->saveCopy(at("elsewhere/copy.svg"));
+    files()->importFiles({at("elsewhere/copy.svg")});
     EXPECT_THAT(message(), testing::HasSubstr("\"copy.svg\" is not a colour list"));
 }
 

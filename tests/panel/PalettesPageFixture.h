@@ -92,6 +92,7 @@ protected:
     {
         return static_cast<PalettesWidget*>(child<QWidget>("palettesPage"));
     }
+    [[nodiscard]] PaletteFiles* files() const { return page()->findChild<PaletteFiles*>(); }
     [[nodiscard]] std::string message() const
     {
         return child<QLabel>("paletteMessage")->text().toStdString();

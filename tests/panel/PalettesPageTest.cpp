@@ -243,7 +243,7 @@ TEST_F(PalettesPageTest, ThirtyThousandColoursAreFilteredAndPaintedOnDemand)
         text += QByteArray::number(i % 256) + " 0 " + QByteArray::number(i / 256) + "\tcolour " +
                 QByteArray::number(i) + "\n";
     put("data/Vantorel/Palettes/Many.gpl", text);
-    page()->importFiles({});
+    files()->importFiles({});
     _window->pages().showPage(0);
     _window->pages().showPageWithKey("palettes");
     show("Many");

@@ -1,156 +1,58 @@
 #include "panel/palettes/PalettesWidget.h"
 
-#include "hosts/qt/ClipboardLineEdit.h"
-#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
+#include "panel/palettes/PaletteControls.h"
 #include "panel/widgets/PanelIcons.h"
 #include "result/HarmlessLine.h"
 
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <unordered_set>
 
 namespace vantorel {
-namespace {
-
-constexpr int iconPoints = 16;
-
-QLabel* newLabel(QWidget* parent, const char* name)
-{
-    auto* label = new PlainLabel(parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setFont(fontOfSize(10));
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
-
-QToolButton* newButton(QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setIconSize(QSize(scaled(iconPoints), scaled(iconPoints)));
-    return button;
-}
-
-QToolButton* newButton(QWidget* parent, QAction* action)
-{
-    QToolButton* button = newButton(parent);
-    button->setDefaultAction(action);
-    button->setAccessibleName(action->text());
-    // Only icons, because the text "Add" would not fit beside the others.
-    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    return button;
-}
-
-}  // namespace
 
 PalettesWidget::PalettesWidget(HostFiles& files, PaletteFileStore& store)
-    : _files(files),
-      _session(files, store),
-      _refresh(_session),
-      _loading(_session),
-      _watch(files, store)
+    : _session(files, store), _updates(files, store, _session)
 {
     setObjectName(QStringLiteral("palettesPage"));
     setAccessibleName(tr("Palettes"));
     setAcceptDrops(true);
     makeControls();
-    makeProgress();
-    connectCommands();
     layOutControls();
-    connect(&_session, &PaletteSession::stepTaken, this, &PalettesWidget::showStep);
-    connect(&_watch, &PaletteWatch::changed, this, &PalettesWidget::lookAtDisk);
-    connect(&_refresh, &PaletteRefresh::progressed, this, [this](qsizetype seen, qsizetype all) {
-        showProgress(tr("%1 of %2 lists").arg(locale().toString(seen), locale().toString(all)));
-    });
-    connect(&_refresh, &PaletteRefresh::foundMore, this, &PalettesWidget::showCurrentList);
-    connect(&_refresh, &PaletteRefresh::finished, this, &PalettesWidget::showRefreshed);
-    connect(&_loading, &PaletteLoading::progressed, this,
-            [this](int percent) { showProgress(tr("%1 % of the list").arg(percent)); });
-    connect(&_loading, &PaletteLoading::foundMore, this, &PalettesWidget::showEntries);
-    connect(&_loading, &PaletteLoading::finished, this, [this] {
-        hideProgress();
-        showEntries();
-    });
+    _keys = new PaletteKeys(*this, *_commands, *_filter);
+    _edits = new PaletteEdits(*this, _session, *_filter, *_view, *_message);
+    _files = new PaletteFiles(*this, files, _session, *_message);
+    connectControls();
+    connectSession();
+    connectCommands();
     showCurrentList();
 }
 
 void PalettesWidget::makeControls()
 {
+    _commands = new PaletteCommands(*this);
     _lists = new PaletteListChooser(this);
-    connect(_lists, &PaletteListChooser::listChosen, this, [this](PaletteId list) {
-        _session.showList(list);
-        _filter->clear();
-        showCurrentList();
-    });
-    connect(_lists, &PaletteListChooser::nameEntered, this, [this](const QString& name) {
-        if (name != _session.listName()) _session.renameList(u16From(name));
-    });
-
-    _ownership = newLabel(this, "paletteOwnership");
+    _ownership = palettecontrols::newLabel(this, "paletteOwnership");
     _ownership->setWordWrap(true);
-
-    _filter = new ClipboardLineEdit(this);
-    _filter->setObjectName(QStringLiteral("paletteFilter"));
-    _filter->setPlaceholderText(tr("Find a name or hex code"));
-    _filter->setAccessibleName(tr("Find a name or hex code"));
-    _filter->setToolTip(tr("Shows only colours with this in their name or hex code (Ctrl+F)"));
-    _filter->setClearButtonEnabled(true);
-    _filter->setFont(fontOfSize(11));
-    connect(_filter, &QLineEdit::textChanged, this, [this](const QString& text) {
-        const auto selected = _view->selectedPlaces();
-        _view->entriesModel().setFilter(text.trimmed());
-        _view->selectPlaces(selected);
-        showState();
-    });
-
     _view = new PaletteEntriesView(this);
-    connect(&_view->entriesModel(), &PaletteEntriesModel::nameEntered, this,
-            &PalettesWidget::renameEntry);
-    connect(_view, &PaletteEntriesView::colorChosen, this, [this](std::size_t place) {
-        emit colorChosen(_view->entriesModel().entries()[place].color());
-    });
-    connect(_view, &PaletteEntriesView::selectionMoved, this, [this](std::size_t before) {
-        _session.edit(withMoved(_session.entries(), _view->selectedPlaces(), before));
-    });
-    connect(_view, &PaletteEntriesView::colorDropped, this, &PalettesWidget::takeDrop);
-    connect(_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &PalettesWidget::showState);
-
+    _filter = new PaletteFilter(this, *_view);
+    // Assistive technology lists the controls in the order of their stack.
+    _filter->stackUnder(_view);
+    _progress = new PaletteProgress(this);
     _message = new MessageLabel(this);
     _message->setObjectName(QStringLiteral("paletteMessage"));
-    _count = newLabel(this, "paletteCount");
+    _count = palettecontrols::newLabel(this, "paletteCount");
     _count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     _count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
 }
 
-void PalettesWidget::makeProgress()
-{
-    _progress = new QWidget(this);
-    _progress->setObjectName(QStringLiteral("paletteProgress"));
-    _progressText = newLabel(_progress, "paletteProgressText");
-    auto* stop = newButton(_progress);
-    stop->setObjectName(QStringLiteral("paletteStop"));
-    stop->setText(tr("Stop"));
-    stop->setAccessibleName(tr("Stop"));
-    stop->setToolTip(tr("Read no more. What has been read so far can be used."));
-    connect(stop, &QToolButton::clicked, &_refresh, &PaletteRefresh::stop);
-    connect(stop, &QToolButton::clicked, &_loading, &PaletteLoading::stop);
-    auto* row = new QHBoxLayout(_progress);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(_progressText, 1);
-    row->addWidget(stop);
-    _progress->hide();
-}
-
 void PalettesWidget::layOutControls()
 {
-    QToolButton* menuButton = newButton(this);
+    QToolButton* menuButton = palettecontrols::newButton(this);
     menuButton->setObjectName(QStringLiteral("paletteMenuButton"));
     menuButton->setIcon(moreIcon());
     menuButton->setToolTip(tr("Commands for lists and colours"));
@@ -177,24 +79,120 @@ void PalettesWidget::layOutControls()
     std::vector<QWidget*> tabOrder{_lists, menuButton, _filter, _view};
     for (const Command command : {Command::addColor, Command::removeColors, Command::recolor,
                                   Command::undo, Command::redo}) {
-        QToolButton* button = newButton(this, _commands->action(command));
+        QToolButton* button = palettecontrols::newButton(this, _commands->action(command));
         foot->addWidget(button);
         tabOrder.push_back(button);
     }
     foot->addWidget(_count, 1);
     rows->addLayout(foot);
-
-    for (QWidget* widget : findChildren<QWidget*>()) {
-        if (widget->focusPolicy() != Qt::NoFocus) widget->installEventFilter(this);
-    }
     for (std::size_t i = 1; i < tabOrder.size(); ++i)
         setTabOrder(tabOrder[i - 1], tabOrder[i]);
+}
+
+void PalettesWidget::connectControls()
+{
+    connect(_lists, &PaletteListChooser::listChosen, this, [this](PaletteId list) {
+        _session.showList(list);
+        _filter->clear();
+        showCurrentList();
+    });
+    connect(_lists, &PaletteListChooser::nameEntered, this, [this](const QString& name) {
+        if (name != _session.listName()) _session.renameList(u16From(name));
+    });
+    connect(_filter, &PaletteFilter::filtered, this, &PalettesWidget::showState);
+    connect(_view, &PaletteEntriesView::colorChosen, this, [this](std::size_t place) {
+        emit colorChosen(_view->entriesModel().entries()[place].color());
+    });
+    connect(_view, &PaletteEntriesView::selectionMoved, _edits, &PaletteEdits::moveSelected);
+    connect(_view, &PaletteEntriesView::colorDropped, _edits, &PaletteEdits::takeDrop);
+    connect(&_view->entriesModel(), &PaletteEntriesModel::nameEntered, _edits,
+            &PaletteEdits::rename);
+    connect(_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &PalettesWidget::showState);
+    _view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(_view, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+        _commands->colorMenu()->popup(_view->viewport()->mapToGlobal(at));
+    });
+    connect(_progress, &PaletteProgress::stopPressed, &_updates, &PaletteUpdates::readNoMore);
+}
+
+void PalettesWidget::connectSession()
+{
+    connect(&_session, &PaletteSession::stepTaken, this, &PalettesWidget::showStep);
+    connect(&_updates, &PaletteUpdates::progressed, _progress, &PaletteProgress::showProgress);
+    connect(&_updates, &PaletteUpdates::rested, _progress, &QWidget::hide);
+    connect(&_updates, &PaletteUpdates::foundLists, this, &PalettesWidget::showCurrentList);
+    connect(&_updates, &PaletteUpdates::foundColors, this, &PalettesWidget::showEntries);
+    connect(&_updates, &PaletteUpdates::refreshed, this, &PalettesWidget::showRefreshed);
+}
+
+void PalettesWidget::connectCommands()
+{
+    const auto on = [this](Command command, auto reaction) {
+        connect(_commands->action(command), &QAction::triggered, this, reaction);
+    };
+    on(Command::newList, [this] { startList(tr("New list"), {}); });
+    on(Command::renameList, [this] { _lists->beginRename(_session.listName()); });
+    on(Command::copyList, [this] {
+        startList(tr("%1 copy").arg(_session.listName()), PaletteEntries(_session.entries()));
+    });
+    on(Command::removeList, [this] { removeList(); });
+    on(Command::importFiles, [this] { _files->chooseImport(); });
+    on(Command::saveCopy, [this] { _files->chooseCopy(); });
+    on(Command::addColor, [this] { _edits->addPanelColor(); });
+    on(Command::renameColor, [this] { _edits->beginRename(); });
+    on(Command::recolor, [this] { _edits->recolorSelected(); });
+    on(Command::moveUp, [this] { _edits->stepSelected(-1); });
+    on(Command::moveDown, [this] { _edits->stepSelected(1); });
+    on(Command::removeColors, [this] { _edits->removeSelected(); });
+    on(Command::find, [this] {
+        _filter->setFocus();
+        _filter->selectAll();
+    });
+    on(Command::undo, [this] { _session.undo(); });
+    on(Command::redo, [this] { _session.redo(); });
+}
+
+void PalettesWidget::setColor(const HostColor& color)
+{
+    _edits->setColor(color);
+    _commands->setPanelColor(qStringFrom(hexCodeOf(color)));
+}
+
+void PalettesWidget::setWatching(bool flag)
+{
+    if (flag) {
+        _updates.start();
+    } else {
+        _updates.stop();
+    }
+}
+
+void PalettesWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    // Some file systems do not report changes.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) _updates.lookAgain();
+}
+
+void PalettesWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!event->mimeData()->hasUrls()) return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void PalettesWidget::dropEvent(QDropEvent* event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    _files->importUrls(event->mimeData()->urls());
 }
 
 void PalettesWidget::showCurrentList()
 {
     _session.showList(_lists->showLists(_session.palettes(), _session.listId()));
-    _loading.start();
+    _updates.followList();
     _view->entriesModel().setEntries(_session.entriesSoFar());
     const EditablePalette* list = _session.list();
     const bool isForeign = list != nullptr && !list->isOwn();
@@ -203,7 +201,6 @@ void PalettesWidget::showCurrentList()
         _ownership->setText(tr("From %1, read-only. Your first change makes a list of your own.")
                                 .arg(qStringFrom(list->program)));
     }
-    _watch.watchFile(list != nullptr ? list->path : std::string());
     showState();
 }
 
@@ -241,40 +238,8 @@ void PalettesWidget::showState()
     _view->setNote(note);
 }
 
-void PalettesWidget::setColor(const HostColor& color)
-{
-    _color = color;
-    _commands->setPanelColor(qStringFrom(hexCodeOf(color)));
-}
-
-void PalettesWidget::setWatching(bool flag)
-{
-    if (flag) {
-        _watch.start();
-        lookAtDisk();
-    } else {
-        _watch.stop();
-        _refresh.stop();
-        _loading.pause();
-        hideProgress();
-    }
-}
-
-void PalettesWidget::showProgress(const QString& text)
-{
-    _progress->show();
-    _progressText->setText(text);
-    _progressText->setAccessibleName(tr("Read so far: %1").arg(text));
-}
-
-void PalettesWidget::hideProgress()
-{
-    _progress->setVisible(_refresh.isRunning() || _loading.isRunning());
-}
-
 void PalettesWidget::showRefreshed(const std::vector<EditablePalette>& changed)
 {
-    hideProgress();
     const PaletteId shown = _session.listId();
     const auto found = std::find_if(changed.begin(), changed.end(),
                                     [shown](const auto& palette) { return palette.id == shown; });
@@ -293,6 +258,32 @@ void PalettesWidget::showRefreshed(const std::vector<EditablePalette>& changed)
     _message->showMessage(
         {_session.listId() != shown ? phrase("\"%1\" has been removed by another program", name)
                                     : phrase("\"%1\" has been changed by another program", name)},
+        MessageKind::news);
+}
+
+void PalettesWidget::showStep(const EditOutcome& outcome, const std::vector<std::size_t>& places)
+{
+    if (_session.listId() != _lists->shownList()) _filter->clear();
+    showCurrentList();
+    if (outcome.done && !places.empty()) _view->selectPlaces(places);
+    _message->showMessages(outcome.messages,
+                           outcome.hasFailed() ? MessageKind::failure : MessageKind::news);
+}
+
+void PalettesWidget::startList(const QString& name, const PaletteEntries& entries)
+{
+    if (!_session.addList(u16From(name), entries).done) return;
+    // The user is about to type a name, so whether this one was taken does not matter.
+    _message->showMessages({}, MessageKind::news);
+    _lists->beginRename(_session.listName());
+}
+
+void PalettesWidget::removeList()
+{
+    const std::string name = excerpt(_session.listName().toStdString());
+    if (!_session.removeList().done) return;
+    _message->showMessage(
+        {phrase("\"%1\" has been removed", name), phrase("choose Undo to restore it")},
         MessageKind::news);
 }
 
