@@ -1,8 +1,9 @@
+#include "hosts/qt-dialog/loader/Loader.h"
+
 #include "embedding/loader/DialogLibrary.h"
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QGenericPlugin>
 #include <QPointer>
 
 #include <utility>
@@ -11,8 +12,6 @@
 #include "hosts/qt-dialog/loader/HiddenFromQt6.h"
 #endif
 
-/// The plug-in that Qt loads at the start of every program. It links neither Qt Widgets nor the
-/// rest of our code: most programs never open a colour dialog.
 namespace vantorel {
 namespace {
 
@@ -88,20 +87,12 @@ private:
 
 }  // namespace
 
-class LoaderPlugin final : public QGenericPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "vantorel.json")
-
-public:
-    QObject* create(const QString&, const QString&) override
-    {
-        // The environment may name the plug-in twice. The page must not be in a dialog twice.
-        static bool isCreated = false;
-        if (std::exchange(isCreated, true)) return new QObject;
-        return new DialogWatcher;
-    }
-};
+QObject* LoaderPlugin::create(const QString&, const QString&)
+{
+    // The environment may name the plug-in twice. The page must not be in a dialog twice.
+    static bool isCreated = false;
+    if (std::exchange(isCreated, true)) return new QObject;
+    return new DialogWatcher;
+}
 
 }  // namespace vantorel
-
-#include "Loader.moc"
