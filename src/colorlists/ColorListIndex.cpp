@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 #include <optional>
 
 namespace vantorel {
@@ -41,9 +42,11 @@ std::optional<Steps> stepsOf(const HostColor::Components& rgb)
     return steps;
 }
 
-bool onGrid(const QTXHexColorSpec& color)
+/// Returns a component; of those to which no colour in the cube is close, the smallest.
+int limited(std::uint64_t component)
 {
-    return color.redHexComp() <= 255 && color.greenHexComp() <= 255 && color.blueHexComp() <= 255;
+    constexpr std::uint64_t pastLastClose = (cellsAcross + 1) * closeness;
+    return static_cast<int>(std::min(component, pastLastClose));
 }
 
 }  // namespace
@@ -80,8 +83,7 @@ void ColorListIndex::sortIntoCells(const std::vector<Entry>& entries)
 {
     for (const Entry& entry : entries)
         ++_cellStarts[cellOf(entry.steps) + 1];
-    for (std::size_t cell = 0; cell < cellCount; ++cell)
-        _cellStarts[cell + 1] += _cellStarts[cell];
+    std::partial_sum(_cellStarts.begin(), _cellStarts.end(), _cellStarts.begin());
     std::vector<std::uint32_t> next = _cellStarts;
     _entries.resize(entries.size());
     for (const Entry& entry : entries)
@@ -91,9 +93,8 @@ void ColorListIndex::sortIntoCells(const std::vector<Entry>& entries)
 void ColorListIndex::addPlacesInCells(const QTXHexColorSpec& color,
                                       std::vector<std::size_t>& places) const
 {
-    const std::array<int, 3> wanted{static_cast<int>(color.redHexComp()),
-                                    static_cast<int>(color.greenHexComp()),
-                                    static_cast<int>(color.blueHexComp())};
+    const std::array<int, 3> wanted{limited(color.redHexComp()), limited(color.greenHexComp()),
+                                    limited(color.blueHexComp())};
     const auto isClose = [&](const Entry& entry) {
         return std::abs(entry.steps[0] - wanted[0]) <= closeness &&
                std::abs(entry.steps[1] - wanted[1]) <= closeness &&
@@ -123,15 +124,9 @@ std::vector<std::size_t> ColorListIndex::placesNear(const QTXHexColorSpec& color
         const HostColor& entry = _list->colorAtIndex(place);
         return color.isEqualToColor(entry) || color.isCloseToColor(entry);
     };
-    if (onGrid(color)) {
-        addPlacesInCells(color, places);
-        std::copy_if(_outsideCube.begin(), _outsideCube.end(), std::back_inserter(places), isNear);
-        std::sort(places.begin(), places.end());
-    } else {
-        for (std::size_t place = 0; place < _list->allKeys().size(); ++place) {
-            if (isNear(place)) places.push_back(place);
-        }
-    }
+    addPlacesInCells(color, places);
+    std::copy_if(_outsideCube.begin(), _outsideCube.end(), std::back_inserter(places), isNear);
+    std::sort(places.begin(), places.end());
     return places;
 }
 

@@ -100,6 +100,35 @@ TEST(ColorListIndexTest, FindsTheSameAsALinearSearch)
     EXPECT_GT(found, 1000U) << "too few close colours for a meaningful test";
 }
 
+TEST(ColorListIndexTest, FindsWhatIsCloseToComponentsBeyondTheCube)
+{
+    const auto list = std::make_shared<HostColorList>(u"list");
+    for (const double channel : {0.9, 0.94, 0.95, 1.0, 1.05, 1.07, 2.0, 1e30}) {
+        for (const double other : {0.0, 1.0}) {
+            list->setColor(HostColor::colorWithCalibratedRed(channel, other, other, 1),
+                           keyOfNumber(list->allKeys().size()));
+            list->setColor(HostColor::colorWithCalibratedRed(other, channel, other, 1),
+                           keyOfNumber(list->allKeys().size()));
+            list->setColor(HostColor::colorWithCalibratedRed(other, other, channel, 1),
+                           keyOfNumber(list->allKeys().size()));
+        }
+    }
+    ColorListIndex index;
+    index.update(list);
+    QTXHexColorSpec color;
+    for (const std::uint64_t beyond : {239ULL, 240ULL, 255ULL, 256ULL, 257ULL, 266ULL, 270ULL,
+                                       271ULL, 272ULL, 287ULL, 510ULL, ~0ULL}) {
+        for (const std::uint64_t other : {std::uint64_t{0}, std::uint64_t{255}, beyond}) {
+            for (const int component : {0, 1, 2}) {
+                color.setHexRed(other, other, other);
+                color.setComponent(beyond, component);
+                EXPECT_EQ(index.placesNear(color), placesNearByWalking(color, *list))
+                    << utf8FromUtf16(color.description());
+            }
+        }
+    }
+}
+
 TEST(ColorListIndexTest, NoticesThatTheListHasGrown)
 {
     const auto list = std::make_shared<HostColorList>(u"list");
@@ -123,6 +152,23 @@ TEST(SortedColorKeysTest, AreInPaletteOrder)
     ASSERT_EQ(keys.size(), 500U);
     for (std::size_t i = 0; i + 1 < keys.size(); ++i)
         EXPECT_LE(colorSortFunc(keys[i], keys[i + 1], *list), 0) << i;
+}
+
+TEST(SortedColorKeysTest, FollowTheListAndItsChanges)
+{
+    const auto first = std::make_shared<HostColorList>(u"first");
+    const auto second = std::make_shared<HostColorList>(u"second");
+    first->setColor(HostColor::blackColor(), u"a");
+    second->setColor(HostColor::blackColor(), u"b");
+    SortedColorKeys keys;
+    keys.update(first);
+    EXPECT_EQ(keys[0], u"a");
+    keys.update(second);
+    EXPECT_EQ(keys[0], u"b") << "another list, changed as often as the first";
+    second->setColor(HostColor::whiteColor(), u"c");
+    keys.update(second);
+    EXPECT_EQ(keys.size(), 2U);
+    EXPECT_EQ(keys.positionsNear(QTXHexColorSpec()).size(), 1U);
 }
 
 TEST(SortedColorKeysTest, FindThePositionsOfNearColoursInOrder)
