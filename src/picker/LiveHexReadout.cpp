@@ -24,9 +24,10 @@ std::u16string liveHexReadout(std::u16string_view typed, std::u16string_view err
     if (typed.starts_with(u'#')) typed.remove_prefix(1);
     const std::size_t count = typed.size();
     QTXHexColorSpec spec;
-    if (count > 0 && count < progressFormats.size()) spec.setWithString(typed);
-    const std::array<FormatArgument, 4> arguments{std::uint64_t{count}, spec.redHexComp(),
-                                                  spec.greenHexComp(), spec.blueHexComp()};
+    spec.setWithString(typed);
+    const std::array arguments{
+        FormatArgument{std::uint64_t{count}}, FormatArgument{spec.redHexComp()},
+        FormatArgument{spec.greenHexComp()}, FormatArgument{spec.blueHexComp()}};
     if (count < progressFormats.size()) return formatted(progressFormats[count], arguments);
     return formatted(errorFormat, arguments).append(error);
 }

@@ -77,7 +77,6 @@ void QTXHexColorPicker::stepComponent(HostTextField& field, int componentIndex, 
     if (after == before) return;
     _hexColorsView.clearMessage();
     _hexColorSpec.setComponent(static_cast<std::uint64_t>(after), componentIndex);
-    loadFullHex();
     colorChanged(&field);
 }
 

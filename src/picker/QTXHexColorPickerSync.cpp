@@ -89,7 +89,7 @@ void QTXHexColorPicker::syncExactness(const std::u16string& red, const std::u16s
         // The tip reads the text as hex in every display, even if the text is not hex. This is kept
         // for compatibility.
         const std::uint64_t value = readComponent(row.text, ComponentDisplay::hex);
-        const std::array<FormatArgument, 2> arguments{value, row.remainder * 255.0};
+        const std::array arguments{FormatArgument{value}, FormatArgument{row.remainder * 255.0}};
         row.field->setToolTip(formatted(exact ? u"%3.0d" : u"%3.0d + %0.3f", arguments));
     }
 }

@@ -141,10 +141,10 @@ private:
                 if (high) return std::nullopt;
                 return PropertyList::data(std::move(bytes));
             }
-            const auto digit = digitOf(c, 16);
-            if (!digit) return std::nullopt;
+            if (!isHexDigit(c)) return std::nullopt;
+            const unsigned digit = hexDigitValue(c);
             if (high) {
-                bytes.push_back(static_cast<char>(*high * 16 + *digit));
+                bytes.push_back(static_cast<char>(*high * 16 + digit));
                 high.reset();
             } else {
                 high = digit;
@@ -193,7 +193,7 @@ private:
         } else if (digitOf(c, 8)) {
             --_place;
             result.push_back(codeUnit(8, 3));
-        } else if ((c == u'U' || c == u'u') && !atEnd() && digitOf(here(), 16)) {
+        } else if ((c == u'U' || c == u'u') && !atEnd() && isHexDigit(here())) {
             result.push_back(codeUnit(16, 4));
         } else if (c != u'\n') {
             result.push_back(c);

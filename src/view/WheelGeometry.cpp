@@ -9,7 +9,7 @@ namespace vantorel {
 namespace {
 
 constexpr double halfSqrt3 = 0.8660254037844387;
-constexpr std::array<std::uint8_t, 6> centerGreys{192, 255, 0, 48, 96, 144};
+constexpr auto centerGreys = std::to_array<std::uint8_t>({192, 255, 0, 48, 96, 144});
 
 /// The corners of the hexagon of size 1, in units, clockwise from the lower left one. The
 /// difference of two neighbouring corners is again a corner, so all cells lie on one triangular
