@@ -30,6 +30,25 @@ TEST(ColorTextsTest, EveryComponentSurvivesHexAndInteger)
         6U);
 }
 
+TEST(ColorTextsTest, AFractionIsReadFromItsFirstDigits)
+{
+    struct Row {
+        const char16_t* text;
+        std::uint64_t component;
+    };
+    for (const Row& row :
+         {Row{u"1", 255},     Row{u"2", 255},     Row{u"8", 255},     Row{u"9", 255},
+          Row{u"1.5", 255},   Row{u"0", 0},       Row{u"00", 0},      Row{u"", 0},
+          Row{u"x", 0},       Row{u".", 0},       Row{u"0.5", 127},   Row{u".5", 127},
+          Row{u"-0.5", 127},  Row{u"x.5", 127},   Row{u"0.05", 12},   Row{u"0.005", 1},
+          Row{u"0.0039", 0},  Row{u"0.00391", 0}, Row{u"0.00392", 1}, Row{u"0.003919", 0},
+          Row{u"0.999", 255}, Row{u"0.99", 252},  Row{u"0.5x9", 127}, Row{u"0.5.9", 127},
+          Row{u":", 0},       Row{u"/", 0}}) {
+        EXPECT_EQ(readFraction(row.text), row.component)
+            << testing::PrintToString(std::u16string(row.text));
+    }
+}
+
 TEST(ColorTextsTest, OnlyHexDigitsDecode)
 {
     for (char32_t c = 0; c <= 0xFFFF; ++c) {

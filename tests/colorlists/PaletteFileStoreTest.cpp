@@ -1,6 +1,7 @@
 #include "colorlists/PaletteFileStore.h"
 
 #include "colorlists/PaletteFile.h"
+#include "colorlists/PaletteFolder.h"
 #include "hosts/posix/PosixFiles.h"
 #include "testing/headless/MemoryFiles.h"
 
@@ -55,6 +56,20 @@ TEST_F(PaletteFileStoreTest, ListsAreFoundByTheNameInsideTheFile)
     EXPECT_EQ(_store.colorListNamed(u"Text"), nullptr);
 }
 
+TEST_F(PaletteFileStoreTest, AnOwnListIsFoundInTheFileThatHoldsIt)
+{
+    put("a.gpl", "GIMP Palette\nName: Zebra\n1 2 3 x\n");
+    put("b.gpl", "GIMP Palette\nName: Mine\n1 2 3 x\n");
+    put("c.gpl", "GIMP Palette\n1 2 3 x\n");
+    put("d.gpl", "not a palette");
+    EXPECT_EQ(_store.pathOfOwnList(u"Mine"), folder + "/b.gpl");
+    EXPECT_EQ(_store.pathOfOwnList(u"Zebra"), folder + "/a.gpl");
+    EXPECT_EQ(_store.pathOfOwnList(u"c"), folder + "/c.gpl");
+    EXPECT_EQ(_store.pathOfOwnList(u"a"), std::nullopt);
+    EXPECT_EQ(_store.pathOfOwnList(u"d"), std::nullopt);
+    EXPECT_EQ(_store.pathOfOwnList(u""), std::nullopt);
+}
+
 TEST_F(PaletteFileStoreTest, ALookupByNameDoesNotHideTheOtherLists)
 {
     put("b.gpl", "GIMP Palette\nName: b\n1 2 3 x\n");
@@ -105,6 +120,58 @@ TEST_F(PaletteFileStoreTest, NoNameLeadsOutOfTheFolder)
         EXPECT_TRUE(path.starts_with(folder) || folder.starts_with(path)) << path;
     }
     EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 11U);
+}
+
+/// Written lists must be found again by later versions.
+TEST_F(PaletteFileStoreTest, FileNamesAreThoseOfEarlierVersions)
+{
+    const std::string cut(200, 'x');
+    for (const auto& [name, file] : {
+             std::pair{std::u16string(u"Mine"), std::string("Mine.gpl")},
+             {u"a b", "a b.gpl"},
+             {u" a ", "%20a%20.gpl"},
+             {u".a.b", "%2Ea.b.gpl"},
+             {u"a/b:c\\d%e", "a%2Fb%3Ac%5Cd%25e.gpl"},
+             {u"\u00e9\u0001\u007f", "\u00e9%01%7F.gpl"},
+             {u"", "%.gpl"},
+             {std::u16string(200, u'x'), cut + ".gpl"},
+             {std::u16string(201, u'x'), cut + "%3631500d06f3bba7.gpl"},
+             {std::u16string(201, u'x') + u"y", cut + "%0986e422d0283a3a.gpl"},
+         }) {
+        EXPECT_EQ(PaletteFileStore::fileNameOfList(name), file);
+    }
+}
+
+TEST_F(PaletteFileStoreTest, TheNameOfAFileWithoutANameIsThatOfTheFile)
+{
+    for (const auto& [file, name] : {std::pair{"a.gpl", u"a"},
+                                     {"a.GPL", u"a"},
+                                     {"Web.colors", u"Web"},
+                                     {"a.colors.gpl", u"a.colors"},
+                                     {"a.gpl.colors", u"a.gpl"},
+                                     {"gpl", u"gpl"},
+                                     {".gpl", u""},
+                                     {"a.gp", u"a.gp"}}) {
+        EXPECT_EQ(PaletteFolder::fallbackListName(file), name) << file;
+    }
+}
+
+TEST_F(PaletteFileStoreTest, AListingInStepsCountsTheFiles)
+{
+    for (const char* name : {"a", "b", "c", "d", "e"})
+        put(std::string(name) + ".gpl", "GIMP Palette\n1 2 3 x\n");
+    _store.beginListing();
+    EXPECT_EQ(_store.listingProgress().files, 0U);
+    EXPECT_EQ(_store.listingProgress().allFiles, 5U);
+    EXPECT_FALSE(_store.continueListing(2));
+    EXPECT_EQ(_store.listingProgress().files, 2U);
+    EXPECT_EQ(_store.listedSoFar().size(), 2U);
+    EXPECT_FALSE(_store.continueListing(2));
+    EXPECT_EQ(_store.listingProgress().files, 4U);
+    EXPECT_TRUE(_store.continueListing(2));
+    EXPECT_EQ(_store.listingProgress().files, 5U);
+    EXPECT_EQ(_store.listingProgress().allFiles, 5U);
+    EXPECT_EQ(_store.listedSoFar().size(), 5U);
 }
 
 TEST_F(PaletteFileStoreTest, AWrittenListIsAvailableAtOnce)

@@ -52,6 +52,40 @@ TEST(CSSColorMixTest, AlphaWeighsTheComponentsAndMissingOnesAreTaken)
                 40, 1e-9);
 }
 
+TEST(CSSColorMixTest, AnArcLeadsFromHueToHue)
+{
+    struct Row {
+        int from, to;
+        int shorter, longer, increasing, decreasing;
+    };
+    // The hues halfway.
+    for (const Row& row : {
+             Row{0, 120, 60, 240, 60, 240},
+             Row{120, 0, 60, 240, 240, 60},
+             Row{0, 150, 75, 255, 75, 255},
+             Row{150, 0, 75, 255, 255, 75},
+             Row{0, 180, 90, 90, 90, 270},
+             Row{180, 0, 90, 90, 270, 90},
+             Row{0, 200, 280, 100, 100, 280},
+             Row{200, 0, 280, 100, 280, 100},
+             Row{20, 350, 5, 185, 185, 5},
+             Row{350, 20, 5, 185, 5, 185},
+             Row{40, 40, 40, 220, 40, 40},
+             Row{0, 1, 0, 180, 0, 180},
+         }) {
+        const auto halfway = [&](const std::string& arc) {
+            const auto reading = readCSSColor("color-mix(in lch " + arc + " hue, lch(50 20 " +
+                                              std::to_string(row.from) + "), lch(50 20 " +
+                                              std::to_string(row.to) + "))");
+            return static_cast<int>(reading->value.components[2]);
+        };
+        EXPECT_EQ(halfway("shorter"), row.shorter) << row.from << " to " << row.to;
+        EXPECT_EQ(halfway("longer"), row.longer) << row.from << " to " << row.to;
+        EXPECT_EQ(halfway("increasing"), row.increasing) << row.from << " to " << row.to;
+        EXPECT_EQ(halfway("decreasing"), row.decreasing) << row.from << " to " << row.to;
+    }
+}
+
 TEST(CSSColorMixTest, AMixtureCanBeMixedAgain)
 {
     EXPECT_EQ(outcomeOf("color-mix(in srgb, color-mix(in srgb, red, blue), white)"), "bf80bf");

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -278,6 +279,20 @@ TEST(CSSColorReaderTest, HSLAndHWBAreClippedAndNotMapped)
 {
     expectColor("hsl(40 200% 50%)", 255, 212.5, 0, 1);
     expectColor("hwb(40 -50% 0%)", 255, 127.5, 0, 1);
+}
+
+TEST(CSSColorReaderTest, ChannelsThatJustMissAHalfAreRoundedUp)
+{
+    const auto red = [](const std::string& text) {
+        return std::lround(readCSSColor(text)->color.calibratedRGB()->red * 255);
+    };
+    EXPECT_EQ(red("rgb(76.5 0 0)"), 77);
+    EXPECT_EQ(red("rgb(76.4999999995 0 0)"), 77) << "less than a billionth";
+    EXPECT_EQ(red("rgb(76.4999999985 0 0)"), 76);
+    EXPECT_EQ(red("rgb(254.5 0 0)"), 255);
+    EXPECT_EQ(red("rgb(0.5 0 0)"), 1);
+    EXPECT_EQ(red("rgb(0.4999 0 0)"), 0);
+    EXPECT_EQ(red("hwb(120 30% 50%)"), 77);
 }
 
 TEST(CSSColorReaderTest, NamedColoursHaveTheirValues)

@@ -225,6 +225,17 @@ TEST(ColorConversionsTest, HuesWrapIntoOneTurn)
     EXPECT_LT(normalizedHue(std::numeric_limits<double>::max()), 360);
 }
 
+TEST(ColorConversionsTest, ColoursBeyondTheRangeHaveTheOppositeHue)
+{
+    expectNear(hslFromSRGB({0.2, 0.4, 0.6}), {210, 50, 40}, 1e-12);
+    // Lightness of 20 %, 0, -10 %, 100 % and 110 %.
+    expectNear(hslFromSRGB({-0.1, 0.2, 0.5}), {210, 150, 20}, 1e-12);
+    expectNear(hslFromSRGB({-0.5, 0, 0.5}), {210, 0, 0}, 1e-12);
+    expectNear(hslFromSRGB({-0.3, -0.1, 0.1}), {30, 200, -10}, 1e-9);
+    expectNear(hslFromSRGB({0.5, 1, 1.5}), {210, 0, 100}, 1e-12);
+    expectNear(hslFromSRGB({0.9, 1.1, 1.3}), {30, 200, 110}, 1e-9);
+}
+
 TEST(ColorConversionsTest, WhitenessAndBlacknessOfAHundredOrMoreMakeGrey)
 {
     expectNear(srgbFromHWB({70, 60, 60}), {0.5, 0.5, 0.5}, 1e-12);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -59,6 +60,61 @@ TEST(ColorSpacesTest, WhiteIsWhiteInEverySpace)
     expectComponents(white(ColorSpace::xyzD65),
                      {0.3127 / 0.3290, 1, (1 - 0.3127 - 0.3290) / 0.3290}, 1e-6);
     expectComponents(white(ColorSpace::hwb), {0, 100, 0}, 1e-9);
+}
+
+/// XYZ of a point of the chromaticity diagram, scaled to a luminance.
+ColorTriple xyzOf(double x, double y, double luminance)
+{
+    return {x / y * luminance, luminance, (1 - x - y) / y * luminance};
+}
+
+TEST(ColorSpacesTest, RGBSpacesHaveTheirPrimaries)
+{
+    struct Row {
+        ColorSpace space;
+        ColorSpace xyz;
+        double tolerance;
+        std::array<std::array<double, 2>, 3> primaries;
+    };
+    // The chromaticities by which the standards define the spaces.
+    for (const Row& row : {
+             Row{ColorSpace::srgb,
+                 ColorSpace::xyzD65,
+                 1e-9,
+                 {{{0.64, 0.33}, {0.30, 0.60}, {0.15, 0.06}}}},
+             Row{ColorSpace::displayP3,
+                 ColorSpace::xyzD65,
+                 1e-9,
+                 {{{0.680, 0.320}, {0.265, 0.690}, {0.150, 0.060}}}},
+             Row{ColorSpace::a98RGB,
+                 ColorSpace::xyzD65,
+                 1e-9,
+                 {{{0.64, 0.33}, {0.21, 0.71}, {0.15, 0.06}}}},
+             Row{ColorSpace::rec2020,
+                 ColorSpace::xyzD65,
+                 1e-9,
+                 {{{0.708, 0.292}, {0.170, 0.797}, {0.131, 0.046}}}},
+             Row{ColorSpace::proPhotoRGB,
+                 ColorSpace::xyzD50,
+                 1e-9,
+                 {{{0.734699, 0.265301}, {0.159597, 0.840403}, {0.036598, 0.000105}}}},
+         }) {
+        SCOPED_TRACE(static_cast<int>(row.space));
+        ColorTriple sum{};
+        for (std::size_t i = 0; i < 3; ++i) {
+            ColorTriple primary{};
+            primary[i] = 1;
+            const ColorTriple xyz = convertedColor(primary, row.space, row.xyz);
+            const auto [x, y] = row.primaries[i];
+            expectComponents(xyz, xyzOf(x, y, xyz[1]), row.tolerance);
+            for (std::size_t j = 0; j < 3; ++j)
+                sum[j] += xyz[j];
+        }
+        const bool isD50 = row.xyz == ColorSpace::xyzD50;
+        const double x = isD50 ? 0.3457 : 0.3127;
+        const double y = isD50 ? 0.3585 : 0.3290;
+        expectComponents(sum, xyzOf(x, y, 1), row.tolerance);
+    }
 }
 
 TEST(ColorSpacesTest, GreysHaveNoHue)

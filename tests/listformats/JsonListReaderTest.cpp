@@ -64,6 +64,17 @@ INSTANTIATE_TEST_SUITE_P(
         JsonRow{"[\"\xFF\"]", "not a list"}, JsonRow{"", "not a list"}, JsonRow{"{}", ":"},
         JsonRow{"[]", ":"}));
 
+TEST(JsonListReaderTest, ATextThatIsNotAListIsRefusedWithAnExample)
+{
+    for (const char* text : {"red", "[", "{\"colors\": 1}"}) {
+        const auto found = readJsonList(text);
+        ASSERT_FALSE(found) << text;
+        EXPECT_EQ(english(found.error()),
+                  "it is not a JSON colour list; write "
+                  R"({"name": NAME, "colors": [{"name": NAME, "hex": "#ff8000"}]})");
+    }
+}
+
 TEST(JsonListLimitsTest, DeepTextsAreNotRead)
 {
     const auto nested = [](std::size_t depth) {

@@ -40,6 +40,17 @@ TEST(ListFormatsTest, NamesThatLookLikeFormatSyntaxSurvive)
     }
 }
 
+TEST(ListFormatsTest, TheFirstCommentAfterADeclarationIsTheName)
+{
+    const auto css = readColorList(
+        "/* List */ /* not a name */\n--a: red; /* one */ /* two */\n--b: blue; /* */ /* four */\n"
+        "--c: 12px; /* five */\n$d: black; // six\n// seven\n",
+        "x.scss");
+    ASSERT_TRUE(css);
+    EXPECT_EQ(css->list->name(), u"List");
+    EXPECT_EQ(css->list->allKeys(), (std::vector<std::u16string>{u"one", u"b", u"six"}));
+}
+
 TEST(ListFormatsTest, IdentifiersAreUnique)
 {
     HostColorList list(u"L");

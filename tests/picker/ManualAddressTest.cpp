@@ -30,12 +30,14 @@ private:
     std::vector<std::string> _paths;
 };
 
-/// A disk with a manual in English and German, in a folder whose name must be escaped in URLs.
+/// A disk with a manual in English and German, in folders whose names must be escaped in URLs.
 MemoryFiles filesWithInstalledManual()
 {
     MemoryFiles files("/a b");
-    files.createDirectory("/a b/50%");
-    files.writeAtomically("/a b/50%/supportManual.htm", "manual");
+    for (const std::string folder : {"/a b/50%", "/a b/5%4g", "/a b/5%g4"}) {
+        files.createDirectory(folder);
+        files.writeAtomically(folder + "/supportManual.htm", "manual");
+    }
     files.writeAtomically("/a b/50%/supportManual_de.htm", "Handbuch");
     return files;
 }
@@ -86,6 +88,18 @@ INSTANTIATE_TEST_SUITE_P(
                                "file:///a%20b/50%/supportManual.htm",
                                {"/p/supportManual.htm"},
                                "file:///a%20b/50%/supportManual.htm"},
+                    AddressRow{"the second digit of an escape is none",
+                               "file:///a%20b/5%4g/supportManual.htm",
+                               {"/p/supportManual.htm"},
+                               "file:///a%20b/5%4g/supportManual.htm"},
+                    AddressRow{"the first digit of an escape is none",
+                               "file:///a%20b/5%g4/supportManual.htm",
+                               {"/p/supportManual.htm"},
+                               "file:///a%20b/5%g4/supportManual.htm"},
+                    AddressRow{"half an escape at the end is taken literally",
+                               "file:///a%20b/5%4",
+                               {},
+                               "file:///a%20b/5%4"},
                     AddressRow{"there is no manual at all",
                                "file:///usr/share/doc/vantorel/supportManual.htm",
                                {},

@@ -7,15 +7,22 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 namespace vantorel {
 
-/// A panel that writes down when a change in steps begins and ends.
+/// A panel that writes down when a change in steps begins and ends, and can do something else when
+/// it is asked for its colour.
 class LoggingPanel final : public HeadlessColorPanel {
 public:
     using HeadlessColorPanel::HeadlessColorPanel;
 
+    [[nodiscard]] std::optional<HostColor> color() const override
+    {
+        if (whenAsked) whenAsked();
+        return HeadlessColorPanel::color();
+    }
     void setColor(const std::optional<HostColor>& color) override
     {
         log += "set ";
@@ -31,6 +38,7 @@ public:
     }
 
     std::string log;
+    std::function<void()> whenAsked;
 };
 
 /// A picker of the shipped interface file, in a headless panel.

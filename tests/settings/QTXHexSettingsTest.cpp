@@ -142,6 +142,22 @@ TEST(QTXHexSettingsTest, ACopyKeepsTheOddRules)
     EXPECT_EQ(copy.nColorCubeRings(), 5);
 }
 
+TEST(QTXHexSettingsTest, ACopyHasTheOtherSettings)
+{
+    QTXHexSettings settings;
+    settings.setEntryForm(EntryForm::lowercase);
+    settings.setUsePoundSign(false);
+    settings.setPickViewMode(PickViewMode::wheel);
+    settings.setNColorCubeRings(5);
+    settings.setComponentDisplay(ComponentDisplay::fraction);
+    settings.setCodeSnippetName(u"VBasic");
+    settings.setCreateColorLists(false);
+    settings.setCodeDragType(CodeDragType::rgbCSS);
+    QTXHexSettings copy = settings.copyWithZone();
+    copy.activeColorLists() = settings.activeColorLists();
+    EXPECT_EQ(copy.propertyListRepresentation(), settings.propertyListRepresentation());
+}
+
 TEST(QTXHexSettingsTest, TheFirstSnippetWithTheNameIsSelected)
 {
     QTXHexSettings settings;

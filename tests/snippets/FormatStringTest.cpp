@@ -53,6 +53,24 @@ TEST(FormatStringTest, IntegersAreReadAsInC)
     }
 }
 
+TEST(FormatStringTest, LengthsCutIntegersAsInC)
+{
+    for (const std::uint64_t value :
+         {0ULL, 1ULL, 0x7FULL, 0x80ULL, 0xFFULL, 0x123ULL, 0x7FFFULL, 0x8000ULL, 0xFFFFULL,
+          0x12345ULL, 0x80000000ULL, 0x123456789ULL, 0xFEDCBA9876543210ULL}) {
+        for (const std::string letter : {"d", "i", "u", "x", "X", "o"}) {
+            const auto small = static_cast<int>(value);
+            EXPECT_EQ(byUs("%hh" + letter, value), byTheCLibrary("%hh" + letter, small));
+            EXPECT_EQ(byUs("%h" + letter, value), byTheCLibrary("%h" + letter, small));
+            EXPECT_EQ(byUs("%" + letter, value), byTheCLibrary("%" + letter, small));
+            EXPECT_EQ(byUs("%l" + letter, value), byTheCLibrary("%l" + letter, value));
+            EXPECT_EQ(byUs("%ll" + letter, value), byTheCLibrary("%ll" + letter, value));
+        }
+        const FormatArgument argument(value);
+        EXPECT_EQ(formatted(u"%c", {&argument, 1}), std::u16string(1, char16_t(value & 0xFF)));
+    }
+}
+
 TEST(FormatStringTest, RealNumbersAreReadAsInC)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
