@@ -2,6 +2,35 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
+    <name>ContrastText</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Kontrast zum Hintergrund: %1 zu 1
+Normaler Text: AA %2, AAA %3
+Großer Text: AA %4, AAA %5
+Bedienelemente und Grafik: AA %6</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA groß</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>zu gering</translation>
+    </message>
+</context>
+<context>
     <name>DisplayNames</name>
     <message>
         <source>Add</source>
@@ -2164,31 +2193,25 @@ hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS 
     </message>
 </context>
 <context>
+    <name>vantorel::ColorBand</name>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Colour and background</source>
+        <translation>Farbe und Hintergrund</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ColorChoice</name>
     <message>
         <source>Choose a colour</source>
         <translation>Eine Farbe wählen</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::ContrastLabel</name>
-    <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-    <message>
-        <source>Contrast with the background: %1 to 1
-Normal text: AA %2, AAA %3
-Large text: AA %4, AAA %5
-Controls and graphics: AA %6</source>
-        <translation>Kontrast zum Hintergrund: %1 zu 1
-Normaler Text: AA %2, AAA %3
-Großer Text: AA %4, AAA %5
-Bedienelemente und Grafik: AA %6</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,35 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_GB">
 <context>
+    <name>ContrastText</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Contraste con el fondo: %1 a 1
+Texto normal: AA %2, AAA %3
+Texto grande: AA %4, AAA %5
+Controles y gráficos: AA %6</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA grande</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>no cumple</translation>
+    </message>
+</context>
+<context>
     <name>DisplayNames</name>
     <message>
         <source>Add</source>
@@ -2164,31 +2193,25 @@ hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan co
     </message>
 </context>
 <context>
+    <name>vantorel::ColorBand</name>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Colour and background</source>
+        <translation>Color y fondo</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ColorChoice</name>
     <message>
         <source>Choose a colour</source>
         <translation>Elegir un color</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::ContrastLabel</name>
-    <message>
-        <source>yes</source>
-        <translation>sí</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-    <message>
-        <source>Contrast with the background: %1 to 1
-Normal text: AA %2, AAA %3
-Large text: AA %4, AAA %5
-Controls and graphics: AA %6</source>
-        <translation>Contraste con el fondo: %1 a 1
-Texto normal: AA %2, AAA %3
-Texto grande: AA %4, AAA %5
-Controles y gráficos: AA %6</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,35 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_GB">
 <context>
+    <name>ContrastText</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Contrast with the background: %1 to 1
+Normal text: AA %2, AAA %3
+Large text: AA %4, AAA %5
+Controls and graphics: AA %6</source>
+        <translation>Contraste avec le fond : %1 pour 1
+Texte normal : AA %2, AAA %3
+Grand texte : AA %4, AAA %5
+Commandes et graphismes : AA %6</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA grand</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>échec</translation>
+    </message>
+</context>
+<context>
     <name>DisplayNames</name>
     <message>
         <source>Add</source>
@@ -2164,31 +2193,25 @@ hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramen
     </message>
 </context>
 <context>
+    <name>vantorel::ColorBand</name>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Colour and background</source>
+        <translation>Couleur et fond</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ColorChoice</name>
     <message>
         <source>Choose a colour</source>
         <translation>Choisir une couleur</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::ContrastLabel</name>
-    <message>
-        <source>yes</source>
-        <translation>oui</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>non</translation>
-    </message>
-    <message>
-        <source>Contrast with the background: %1 to 1
-Normal text: AA %2, AAA %3
-Large text: AA %4, AAA %5
-Controls and graphics: AA %6</source>
-        <translation>Contraste avec le fond : %1 pour 1
-Texte normal : AA %2, AAA %3
-Grand texte : AA %4, AAA %5
-Commandes et graphismes : AA %6</translation>
     </message>
 </context>
 <context>

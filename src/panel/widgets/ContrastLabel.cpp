@@ -1,22 +1,8 @@
 #include "panel/widgets/ContrastLabel.h"
 
-#include "csscolor/Contrast.h"
-
-#include <QLocale>
-
-#include <cmath>
+#include "panel/widgets/ContrastTexts.h"
 
 namespace vantorel {
-namespace {
-
-/// Rounded down, so that a ratio shown as 4.5 is at least 4.5.
-QString shownRatio(double ratio)
-{
-    const double cut = std::floor(ratio * 100) / 100;
-    return QLocale().toString(cut, 'f', ratio < 10 ? 2 : 1);
-}
-
-}  // namespace
 
 ContrastLabel::ContrastLabel(QWidget* parent) : PlainLabel(parent)
 {
@@ -37,15 +23,8 @@ void ContrastLabel::setColors(const HostColor& foreground, const HostColor& back
                           : verdicts.normalTextAA ? QStringLiteral("AA")
                           : verdicts.largeTextAA  ? QStringLiteral("AA+")
                                                   : QStringLiteral("\u2013");
-    setText(QStringLiteral("%1 %2").arg(shownRatio(*ratio), level));
-    const auto verdict = [](bool reached) { return reached ? tr("yes") : tr("no"); };
-    const QString details = tr("Contrast with the background: %1 to 1\n"
-                               "Normal text: AA %2, AAA %3\n"
-                               "Large text: AA %4, AAA %5\n"
-                               "Controls and graphics: AA %6")
-                                .arg(shownRatio(*ratio), verdict(verdicts.normalTextAA),
-                                     verdict(verdicts.normalTextAAA), verdict(verdicts.largeTextAA),
-                                     verdict(verdicts.largeTextAAA), verdict(verdicts.componentAA));
+    setText(QStringLiteral("%1 %2").arg(shownContrastRatio(*ratio), level));
+    const QString details = contrastDetails(*ratio);
     setToolTip(plainToolTip(details));
     setAccessibleName(details);
 }
