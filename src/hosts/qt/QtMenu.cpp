@@ -8,6 +8,7 @@
 #include "hosts/qt/QtCanvas.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtTranslations.h"
+#include "hosts/qt/StyleHints.h"
 #include "hosts/qt/TextScale.h"
 
 #include <QKeyEvent>
@@ -45,6 +46,7 @@ public:
     explicit LongMenu(QWidget* parent) : QMenu(parent)
     {
         EventGuard::watch(*this);
+        if (style()->styleHint(stylePaintsHostControls) != 0) return;
         auto* style = new LongMenuStyle;
         style->setParent(this);
         setStyle(style);

@@ -1,5 +1,7 @@
 #include "hosts/qt/QtToolButton.h"
 
+#include "hosts/qt/StyleHints.h"
+
 #include <QPainter>
 
 namespace vantorel {
@@ -13,7 +15,7 @@ QtToolButton::QtToolButton(QWidget* parent) : QToolButton(parent)
 void QtToolButton::paintEvent(QPaintEvent* event)
 {
     QToolButton::paintEvent(event);
-    if (!hasFocus()) return;
+    if (!hasFocus() || style()->styleHint(stylePaintsHostControls) != 0) return;
     constexpr qreal width = 2;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

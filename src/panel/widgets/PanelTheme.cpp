@@ -1,10 +1,9 @@
 #include "panel/widgets/PanelTheme.h"
 
+#include "panel/widgets/PanelStyle.h"
 #include "panel/widgets/ThemeTables.h"
 
 #include <QApplication>
-#include <QStyle>
-#include <QStyleFactory>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
 #include <QStyleHints>
@@ -13,6 +12,13 @@
 namespace vantorel {
 namespace {
 
+constexpr const char* listClass = "QAbstractItemView";
+
+bool hasOwnStyle()
+{
+    return qobject_cast<PanelStyle*>(QApplication::style()) != nullptr;
+}
+
 /// What the desktop has given the program.
 class DesktopLook {
 public:
@@ -20,8 +26,9 @@ public:
 
     void restore() const
     {
-        if (QApplication::style()->name() != _style) QApplication::setStyle(_style);
+        if (hasOwnStyle()) QApplication::setStyle(_style);
         QApplication::setPalette(QPalette());
+        QApplication::setPalette(QApplication::palette(), listClass);
     }
 
     [[nodiscard]] static bool isDark()
@@ -39,11 +46,21 @@ private:
     QString _style;
 };
 
+/// A chosen row of a list is shown in grey, because the accent marks only the keyboard's focus.
+/// Delegates that paint rows themselves take its colours from these roles.
+QPalette paletteOfLists(const ThemeColors& theme)
+{
+    QPalette palette = paletteOf(theme);
+    palette.setColor(QPalette::Highlight, theme.down);
+    palette.setColor(QPalette::HighlightedText, theme.text);
+    return palette;
+}
+
 void setOwnLook(const ThemeColors& theme)
 {
-    if (QApplication::style()->name() != QLatin1String("fusion"))
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (!hasOwnStyle()) QApplication::setStyle(new PanelStyle);
     QApplication::setPalette(paletteOf(theme));
+    QApplication::setPalette(paletteOfLists(theme), listClass);
 }
 
 void followDesktop()

@@ -144,7 +144,7 @@ const ThemeColors* themeOf(const QPalette& palette)
         std::find_if(themes.begin(), themes.end(), [&has](const ThemeColors* theme) {
             return has(QPalette::Window, theme->window) && has(QPalette::Base, theme->base) &&
                    has(QPalette::Button, theme->control) && has(QPalette::Mid, theme->edge) &&
-                   has(QPalette::Highlight, theme->accent);
+                   has(QPalette::Link, theme->accent);
         });
     return found != themes.end() ? *found : nullptr;
 }
