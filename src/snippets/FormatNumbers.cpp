@@ -96,7 +96,7 @@ std::u16string alternateDigits(std::u16string digits, std::size_t significant)
     const std::size_t from = first < end ? first : 0;
     const std::size_t point = digits.find(u'.');
     const std::size_t have = end - from - (point >= from ? 1 : 0);
-    if (have < significant) digits.insert(end, significant - have, u'0');
+    digits.insert(end, std::max(have, significant) - have, u'0');
     return digits;
 }
 
