@@ -101,6 +101,9 @@ TEST(QTXHexColorSpecTest, ComparesTruncatedWithoutBias)
     EXPECT_FALSE(specOf(255, 255, 255).isEqualToColor(gray(0.99999)));
     EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(std::nullopt));
     EXPECT_TRUE(specOf(0, 0, 0).isEqualToColor(gray(-0.003)));
+    ASSERT_EQ(-1.0 / 255 * 255, -1);
+    EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(gray(-1.0 / 255)));
+    EXPECT_TRUE(specOf(0, 0, 0).isEqualToColor(gray(-0.999 / 255)));
     EXPECT_FALSE(specOf(0, 0, 0).isEqualToColor(gray(-0.5))) << "not 0, although stored as 0";
     EXPECT_FALSE(specOf(0, 0, 0).isCloseToColor(HostColor::patternColor()));
 }

@@ -26,6 +26,7 @@ TEST(GamutMappingTest, HalfAnEightBitStepOutsideCountsAsInGamut)
 {
     EXPECT_FALSE(isOutsideSRGB({1.0019, 0.5, -0.0019}));
     EXPECT_EQ(mappedIntoSRGB({1.0019, 0.5, -0.0019}), (ColorTriple{1, 0.5, 0}));
+    EXPECT_FALSE(isOutsideSRGB({1 + 0.5 / 255, 0.5, -0.5 / 255}));
     EXPECT_TRUE(isOutsideSRGB({1.002, 0.5, 0}));
     EXPECT_TRUE(isOutsideSRGB({0.5, -0.002, 0}));
 }

@@ -1,7 +1,10 @@
+#include "listformats/ListFormats.h"
 #include "listformats/ListReader.h"
 #include "listformats/ListTexts.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -49,6 +52,33 @@ TEST(ListFormatsTest, TheFirstCommentAfterADeclarationIsTheName)
     ASSERT_TRUE(css);
     EXPECT_EQ(css->list->name(), u"List");
     EXPECT_EQ(css->list->allKeys(), (std::vector<std::u16string>{u"one", u"b", u"six"}));
+}
+
+TEST(ListFormatsTest, TheFormatsSayWhatTheyAre)
+{
+    const auto list = listWithName(u"name");
+    for (const ListFormat& format : listFormats()) {
+        const std::string bytes = format.write(*list);
+        const bool hasControls = std::ranges::any_of(
+            bytes, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; });
+        EXPECT_EQ(format.isBinary, hasControls) << format.name;
+        EXPECT_EQ(listFormatNamed(format.name), &format);
+        for (const std::string_view ending : format.endings) {
+            const std::string file = "a.b." + std::string(ending);
+            EXPECT_EQ(listFormatOfFile(file), &format);
+            const auto reading = readColorList(bytes, file);
+            const bool isWhole = reading && reading->list->allKeys() == list->allKeys();
+            EXPECT_EQ(format.isRead, isWhole) << file;
+        }
+    }
+    EXPECT_EQ(listFormats().front().name, "gpl");
+    EXPECT_EQ(listFormatOfFile("A.SVG"), listFormatNamed("svg"));
+    EXPECT_NE(listFormatNamed("svg")->write(*list).find("viewBox=\"0 0 640 480\""),
+              std::string::npos);
+    EXPECT_EQ(listFormatNamed("SVG"), nullptr);
+    EXPECT_EQ(listFormatOfFile("svg"), nullptr);
+    EXPECT_EQ(listFormatOfFile("a.b"), nullptr);
+    EXPECT_EQ(listFormatOfFile("a."), nullptr);
 }
 
 TEST(ListFormatsTest, IdentifiersAreUnique)

@@ -147,6 +147,21 @@ TEST_F(SharedFolderTest, ARenameByOthersIsKept)
     EXPECT_EQ(fileAt(reds), "Theirs: a=1 b=2 m=3");
 }
 
+TEST_F(SharedFolderTest, AnUndoKeepsTheNameOfTheListThoughAnotherFileHasItToo)
+{
+    PaletteEditor editor(_files, _store, remover());
+    const PaletteId id = idOf(editor, "Reds");
+    ASSERT_TRUE(editor.setEntries(id, entriesFrom("a=1")).done);
+    const std::string earlier = ours + std::string("A.gpl");
+    put(earlier, "Reds", "x=9");
+    editor.refresh();
+    ASSERT_NE(idOf(editor, "Reds"), id);
+    EXPECT_TRUE(editor.undo().done);
+    EXPECT_EQ(fileAt(reds), "Reds: a=1 b=2");
+    EXPECT_EQ(fileAt(earlier), "Reds: x=9");
+    EXPECT_EQ(_files.contentsOfDirectory(folder).size(), 2U);
+}
+
 TEST_F(SharedFolderTest, TwoEditorsThatNeverRefreshLoseNoEntry)
 {
     PaletteFileStore otherStore(_files);

@@ -60,6 +60,14 @@ TEST_F(CopyTextTest, ASnippetWritesTheOpacityItself)
     EXPECT_EQ(copyText(CodeDragType::hexCode), u"#00000000");
 }
 
+TEST_F(CopyTextTest, AnEmptyTextIsNoText)
+{
+    _picker.hexSettings().setCodeSnippets(std::vector{QTXCodeSnippet(u"s", u"", u"rgbFloats")});
+    _picker.hexSettings().setCodeSnippetName(u"s");
+    EXPECT_EQ(copyText(CodeDragType::codeSnippet), std::nullopt);
+    EXPECT_EQ(dragText(CodeDragType::codeSnippet), std::nullopt);
+}
+
 TEST_F(CopyTextTest, AllTextsAreOffered)
 {
     _picker.hexSettings().setCodeSnippets(

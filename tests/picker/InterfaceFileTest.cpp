@@ -103,6 +103,24 @@ INSTANTIATE_TEST_SUITE_P(
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=big;});}"},
         BrokenRow{"not UTF-8", "{Version=1;Views=();}\xFF"}));
 
+TEST(InterfaceFileTest, FramesAndFontSizesHaveLimits)
+{
+    const auto isRead = [](const std::string& frame, const std::string& fontSize) {
+        return parseInterfaceFile("{Version=1;Views=({Name=a;Class=View;Frame=\"" + frame +
+                                  "\";FontSize=\"" + fontSize + "\";});}")
+            .has_value();
+    };
+    EXPECT_TRUE(isRead("{{-100000, 100000}, {100000, 0}}", "200"));
+    EXPECT_FALSE(isRead("{{-100000.5, 0}, {1, 1}}", "12"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, 100000.5}}", "12"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, -0.5}}", "12"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}x", "12"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}", "200.5"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}", "0"));
+    EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}", "12pt"));
+    EXPECT_TRUE(isRead("{{0, 0}, {1, 1}}", "0.5"));
+}
+
 TEST(InterfaceFileTest, DamagedFilesAreReadWithoutCrashing)
 {
     const std::string good = fileText();

@@ -98,6 +98,14 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(RingRow{u"0", 0}, RingRow{u"  12abc", 12}, RingRow{u"-5", -5},
                     RingRow{u"+7", 7}, RingRow{u"text", 0}, RingRow{u"", 0},
                     RingRow{u"1000000000", 1000000000},
+                    RingRow{u"9223372036854775799", 9223372036854775799},
+                    RingRow{u"9223372036854775800", 9223372036854775800},
+                    RingRow{u"9223372036854775807", std::numeric_limits<std::int64_t>::max()},
+                    RingRow{u"-9223372036854775800", -9223372036854775800},
+                    RingRow{u"9223372036854775808", std::numeric_limits<std::int64_t>::max()},
+                    RingRow{u"\t\n\v\f\r7", 7}, RingRow{u"\u000e7", 0}, RingRow{u"\b7", 0},
+                    RingRow{u"- 7", 0}, RingRow{u"--7", 0}, RingRow{u"190", 190},
+                    RingRow{u"1:2", 1}, RingRow{u"1/2", 1},
                     RingRow{u"99999999999999999999", std::numeric_limits<std::int64_t>::max()},
                     RingRow{u"-99999999999999999999", std::numeric_limits<std::int64_t>::min()}));
 
