@@ -80,7 +80,7 @@ TEST_F(PanelStyleTest, BordersAreSharpAtEveryScale)
             const QImage picture = styledPicture(shown.window, scale);
             const int y = qRound(24 * scale);
             const int edge = qRound(left * scale);
-            const auto line = static_cast<int>(scale);
+            const int line = qRound(scale);
             EXPECT_EQ(picture.pixelColor(edge - 1, y), lightTheme().window) << scale << ' ' << left;
             for (int x = edge; x < edge + line; ++x)
                 EXPECT_EQ(picture.pixelColor(x, y), lightTheme().edge) << scale << ' ' << left;

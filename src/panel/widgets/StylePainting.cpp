@@ -41,9 +41,7 @@ qreal lineOnDevicePixels(const QPainter& painter, qreal width)
 {
     const qreal scale = painter.deviceTransform().m11();
     if (scale <= 0) return width;
-    // Not quite down: 1.9999 is 2.
-    constexpr qreal tolerance = 0.01;
-    return std::max(1.0, std::floor(width * scale + tolerance)) / scale;
+    return std::max(1.0, std::round(width * scale)) / scale;
 }
 
 void paintRounded(QPainter& painter, const QRectF& rect, qreal radius, const QColor& ground,

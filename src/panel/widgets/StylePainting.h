@@ -34,7 +34,7 @@ private:
 
 /// Moves edges to whole device pixels.
 [[nodiscard]] QRectF onDevicePixels(const QPainter& painter, const QRectF& rect);
-/// The width of a line in whole device pixels, at least one; as browsers do, rounded down.
+/// The width of a line in whole device pixels, at least one.
 [[nodiscard]] qreal lineOnDevicePixels(const QPainter& painter, qreal width);
 
 /// Paints a ground with a border inside the edges of `rect`. An invalid colour leaves its part out.
