@@ -127,7 +127,7 @@ QIcon dialogPageIcon()
 QIcon sliderIcon()
 {
     return iconFromStrokes(
-        R"(<path d="M2.5 2.5v4M1 9.5h3M2.5 9.5v4M7.5 2.5v3M6 5.5h3M7.5 8.5v5M12.5 2.5v6M11 11.5h3M12.5 11.5v2"/>)");
+        R"(<path d="M3.5 2.5v4M2 9.5h3M3.5 9.5v4M8 2.5v3M6.5 5.5h3M8 8.5v5M12.5 2.5v6M11 11.5h3M12.5 11.5v2"/>)");
 }
 
 QIcon gridIcon()
