@@ -2249,6 +2249,37 @@ hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS 
     </message>
 </context>
 <context>
+    <name>vantorel::LastColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Letzte Farben</translation>
+    </message>
+    <message>
+        <source>Commands for the last colours</source>
+        <translation>Befehle für die letzten Farben</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>%1 lösen</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>%1 anheften</translation>
+    </message>
+    <message>
+        <source>Keep all as a list</source>
+        <translation>Alle als Liste behalten</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>angeheftet</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>

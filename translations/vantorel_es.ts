@@ -2249,6 +2249,37 @@ hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan co
     </message>
 </context>
 <context>
+    <name>vantorel::LastColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Últimos colores</translation>
+    </message>
+    <message>
+        <source>Commands for the last colours</source>
+        <translation>Órdenes de los últimos colores</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>Soltar %1</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>Fijar %1</translation>
+    </message>
+    <message>
+        <source>Keep all as a list</source>
+        <translation>Guardar todos como lista</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>fijado</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>

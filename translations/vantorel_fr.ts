@@ -2249,6 +2249,37 @@ hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramen
     </message>
 </context>
 <context>
+    <name>vantorel::LastColors</name>
+    <message>
+        <source>Last colours</source>
+        <translation>Dernières couleurs</translation>
+    </message>
+    <message>
+        <source>Commands for the last colours</source>
+        <translation>Commandes des dernières couleurs</translation>
+    </message>
+    <message>
+        <source>Unpin %1</source>
+        <translation>Détacher %1</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>Épingler %1</translation>
+    </message>
+    <message>
+        <source>Keep all as a list</source>
+        <translation>Tout garder comme liste</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>épinglée</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::PaletteCommands</name>
     <message>
         <source>New list</source>
