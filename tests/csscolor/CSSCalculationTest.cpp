@@ -39,6 +39,21 @@ TEST(CSSCalculationTest, OperatorsAndBrackets)
     EXPECT_DOUBLE_EQ(redOf("clamp(30, 15, 20)"), 30) << "the lower limit wins";
 }
 
+TEST(CSSCalculationTest, NumbersOfAnySizeAreRead)
+{
+    EXPECT_EQ(redOf("calc(1e40 / 1e38)"), redOf("calc(3.4028234663852886e38 / 1e38)"));
+    EXPECT_DOUBLE_EQ(redOf("calc(3e38 / 1e38)"), 3);
+    EXPECT_EQ(redOf("calc(-1e99999999999999999999 / -1e38)"), redOf("calc(1e40 / 1e38)"));
+    EXPECT_DOUBLE_EQ(redOf("calc(100" + std::string(100, '0') + "e-101)"), 10);
+    EXPECT_DOUBLE_EQ(redOf("calc(0." + std::string(400, '0') + "1e402)"), 10);
+    EXPECT_DOUBLE_EQ(redOf("calc(1" + std::string(50, '3') + "e-49)"), 13 + 1.0 / 3);
+    // Numbers that are closer to 0 count as 0.
+    const std::string factor = " * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e37)";
+    EXPECT_NEAR(redOf("calc(1e-301" + factor), 100, 1e-9);
+    EXPECT_EQ(redOf("calc(9e-302" + factor), 0);
+    EXPECT_EQ(redOf("calc(1e-99999999999999999999" + factor), 0);
+}
+
 TEST(CSSCalculationTest, PercentagesAndAngles)
 {
     EXPECT_DOUBLE_EQ(redOf("calc(20% + 20%)"), 102);

@@ -54,6 +54,21 @@ TEST(ListFormatsTest, TheFirstCommentAfterADeclarationIsTheName)
     EXPECT_EQ(css->list->allKeys(), (std::vector<std::u16string>{u"one", u"b", u"six"}));
 }
 
+TEST(ListFormatsTest, ADeclarationBeginsWithItsName)
+{
+    for (const char* text : {"a--b: red;", "a$b: red;", "--: red;", "$: red;", "--b red;", "--b;",
+                             "-b: red;", "_--b: red;", "\u00e9--b: red;"}) {
+        const auto css = readColorList(text, "x.scss");
+        EXPECT_TRUE(!css || css->list->allKeys().empty()) << text;
+    }
+    for (const char* text : {"--b: red;", "$b: red", "{--b:red}", " --b : red ;", "a{--b: red;}",
+                             "--b: red !important;", "/**/--b: red"}) {
+        const auto css = readColorList(text, "x.scss");
+        ASSERT_TRUE(css) << text;
+        EXPECT_EQ(css->list->allKeys(), std::vector<std::u16string>{u"b"}) << text;
+    }
+}
+
 TEST(ListFormatsTest, TheFormatsSayWhatTheyAre)
 {
     const auto list = listWithName(u"name");

@@ -42,6 +42,25 @@ TEST(EntriesReaderTest, StepsReadWhatOneStepReads)
     }
 }
 
+TEST(EntriesReaderTest, OnlyCommentsWithATextAreOtherLines)
+{
+    struct Row {
+        const char* lines;
+        bool isOther;
+    };
+    for (const Row& row :
+         {Row{"#\n", false}, Row{"#\n1 2 3 a\n# \t#\n", false}, Row{"# text\n", true},
+          Row{"#\n  \t# text", true}, Row{"1 2 3 a # b\n", false},
+          Row{"1 2 3 # b\r\n4 5 6 # c\r", false}, Row{"1 2 3 a#\n#b\n1 2 3 c\n", true},
+          Row{"#\r\n#\r\n1 2 3 a", false}, Row{"#\r# text\r", true}, Row{"no colour\n", true}}) {
+        EntriesReader reader("GIMP Palette\nName: A # b\n" + std::string(row.lines), "/x.gpl");
+        EXPECT_TRUE(reader.readLines(100));
+        const auto file = reader.takeFile();
+        ASSERT_TRUE(file);
+        EXPECT_EQ(file->hasOtherLines, row.isOther) << row.lines;
+    }
+}
+
 TEST(EntriesReaderTest, OtherFilesAreNotPalettes)
 {
     EntriesReader reader("a text\nof two lines\n", "/x.gpl");

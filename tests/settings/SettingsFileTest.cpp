@@ -105,6 +105,87 @@ TEST(SettingsFileTest, FailingWritesAreIgnored)
     EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
 }
 
+/// Files whose folder another process has locked, or in which it is quicker.
+class SharedFiles final : public MemoryFiles {
+public:
+    std::shared_ptr<HostFolderLock> lockFolder(const std::string&) override
+    {
+        ++locks;
+        if (!writtenBefore.empty()) writeAtomically(file, writtenBefore);
+        return isLocked ? nullptr : std::make_shared<HostFolderLock>();
+    }
+
+    int locks = 0;
+    bool isLocked = false;
+    /// What the other process writes before it unlocks the folder.
+    std::string writtenBefore;
+};
+
+TEST(SettingsFileTest, AFileWhoseContentsAreNotInTheSettingsIsReported)
+{
+    const auto isLoaded = [](HostFiles& files) {
+        QTXHexSettings settings;
+        SettingsMerge merge;
+        return initializeDefaults(files, settings, merge);
+    };
+    SharedFiles files;
+    EXPECT_TRUE(isLoaded(files)) << "a new file has the settings";
+    EXPECT_EQ(files.locks, 2) << "to see whether there is a file, and to write it";
+    EXPECT_TRUE(isLoaded(files));
+    EXPECT_EQ(files.locks, 2);
+    files.writeAtomically(file, "damaged {");
+    EXPECT_FALSE(isLoaded(files));
+    files.remove(folder);
+    files.writeAtomically(folder, "in the way");
+    EXPECT_FALSE(isLoaded(files));
+    MemoryFiles none(std::nullopt);
+    EXPECT_TRUE(isLoaded(none));
+    MemoryFiles failing;
+    failing.failWrites(true);
+    EXPECT_FALSE(isLoaded(failing)) << "there is no folder";
+}
+
+TEST(SettingsFileTest, AFileOfAQuickerProcessIsLoaded)
+{
+    SharedFiles files;
+    files.createDirectory(folder);
+    files.writtenBefore = "{ NColorCubeRings = 5; }";
+    QTXHexSettings settings;
+    SettingsMerge merge;
+    EXPECT_TRUE(initializeDefaults(files, settings, merge));
+    EXPECT_EQ(settings.nColorCubeRings(), 5);
+    EXPECT_EQ(files.contentsAtPath(file), files.writtenBefore);
+}
+
+TEST(SettingsFileTest, ALockedFolderGetsNoFile)
+{
+    SharedFiles files;
+    files.createDirectory(folder);
+    files.isLocked = true;
+    QTXHexSettings settings;
+    SettingsMerge merge;
+    EXPECT_TRUE(initializeDefaults(files, settings, merge));
+    EXPECT_EQ(files.contentsAtPath(file), std::nullopt);
+}
+
+TEST(SettingsFileTest, AFileIsKeptBesideTheNewOne)
+{
+    MemoryFiles files;
+    EXPECT_TRUE(keepDefaultsFile(files)) << "there is none";
+    EXPECT_EQ(files.contentsAtPath(file + "~"), std::nullopt);
+    files.createDirectory(folder);
+    files.createDirectory(file);
+    EXPECT_TRUE(keepDefaultsFile(files)) << "a folder is not overwritten";
+    files.remove(file);
+    files.writeAtomically(file, "damaged {");
+    EXPECT_TRUE(keepDefaultsFile(files));
+    EXPECT_EQ(files.contentsAtPath(file + "~"), "damaged {");
+    files.failWrites(true);
+    EXPECT_FALSE(keepDefaultsFile(files));
+    MemoryFiles none(std::nullopt);
+    EXPECT_TRUE(keepDefaultsFile(none));
+}
+
 class DamagedSettingsTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(DamagedSettingsTest, AreReadAsAnEmptyDictionary)
