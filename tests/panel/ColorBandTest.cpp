@@ -176,6 +176,18 @@ TEST_F(ColorBandTest, HalvesAreDescribed)
     EXPECT_EQ(QAccessible::queryAccessibleInterface(_band)->role(), QAccessible::ColorChooser);
 }
 
+TEST_F(ColorBandTest, AssistiveTechnologyPressesTheHalves)
+{
+    QAccessibleActionInterface* actions =
+        QAccessible::queryAccessibleInterface(&background())->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    EXPECT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(_edits, std::vector{EditedColor::background});
+    actions->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(background().hasFocus());
+}
+
 TEST_F(ColorBandTest, TheBackgroundNarrowsWithTheBand)
 {
     for (const auto& [width, expected] :

@@ -22,7 +22,7 @@ ColorBand::ColorBand(QWidget* parent)
     _swap->raise();
     connectHalf(*_color, EditedColor::color);
     connectHalf(*_background, EditedColor::background);
-    showContrast();
+    showBackground(_background->color());
 }
 
 void ColorBand::connectHalf(ColorBandHalf& half, EditedColor which)
@@ -37,20 +37,18 @@ void ColorBand::connectHalf(ColorBandHalf& half, EditedColor which)
 void ColorBand::setColor(const HostColor& color)
 {
     _color->setColor(color);
-    showContrast();
+    showBackground(_background->color());
 }
 
 void ColorBand::setBackground(const HostColor& color)
 {
-    _background->setColor(color);
-    showContrast();
+    showBackground(color);
 }
 
-void ColorBand::showContrast()
+void ColorBand::showBackground(const HostColor& background)
 {
-    _contrast = contrastRatio(_color->color(), _background->color());
-    _background->setColor(_background->color(),
-                          _contrast ? contrastDetails(*_contrast) : QString());
+    _contrast = contrastRatio(_color->color(), background);
+    _background->setColor(background, _contrast ? contrastDetails(*_contrast) : QString());
     placeParts();
 }
 

@@ -41,7 +41,8 @@ protected:
 
 private:
     void connectHalf(ColorBandHalf& half, EditedColor which);
-    void showContrast();
+    /// Shows the background and its contrast with the colour.
+    void showBackground(const HostColor& background);
     void placeParts();
 
     // In the order in which Tab visits them.

@@ -1,21 +1,62 @@
 #include "panel/widgets/ColorBandHalf.h"
 
 #include "hosts/qt/PlainText.h"
-#include "hosts/qt/QtAccessibility.h"
 #include "panel/widgets/Checkers.h"
 #include "panel/widgets/Swatch.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace vantorel {
+namespace {
+
+/// A picture that can be pressed like a button.
+class AccessibleHalf final : public QAccessibleWidget {
+public:
+    explicit AccessibleHalf(ColorBandHalf& half)
+        : QAccessibleWidget(&half, QAccessible::Graphic), _half(half)
+    {
+    }
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction()) {
+            _half.choose();
+        } else {
+            QAccessibleWidget::doAction(action);
+        }
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString& action) const override
+    {
+        if (action == pressAction()) return {QStringLiteral("Return")};
+        return QAccessibleWidget::keyBindingsForAction(action);
+    }
+
+private:
+    ColorBandHalf& _half;
+};
+
+QAccessibleInterface* halfInterface(const QString&, QObject* object)
+{
+    auto* half = qobject_cast<ColorBandHalf*>(object);
+    return half != nullptr ? new AccessibleHalf(*half) : nullptr;
+}
+
+}  // namespace
 
 ColorBandHalf::ColorBandHalf(const QString& name, QWidget* parent) : QWidget(parent)
 {
+    // Before the name: Qt keeps the interface that it gives to a widget with one.
+    static const bool installed = (QAccessible::installFactory(halfInterface), true);
+    static_cast<void>(installed);
     setAccessibleName(name);
-    setAccessibleRole(*this, QAccessible::Graphic);
     setFocusPolicy(Qt::TabFocus);
     setAcceptDrops(true);
     setColor(_color);

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] bool showsFocus() const { return _focus.isShown(); }
     /// Whether a colour is being dragged over this half.
     [[nodiscard]] bool dropIsNear() const { return _dropIsNear; }
+    /// Does what a click does.
+    void choose() { emit chosen(); }
 
 signals:
     /// A click, Return or Space.

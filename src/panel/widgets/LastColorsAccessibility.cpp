@@ -159,14 +159,10 @@ QAccessibleInterface* lastColorsInterface(const QString&, QObject* object)
 
 }  // namespace
 
-void makeLastColorsAccessible(LastColors& widget)
+void installLastColorsInterface()
 {
     static const bool installed = (QAccessible::installFactory(lastColorsInterface), true);
     static_cast<void>(installed);
-    // Naming a widget is enough for Qt to give it an interface, which it keeps.
-    if (QAccessibleInterface* former = QAccessible::queryAccessibleInterface(&widget)) {
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
-    }
 }
 
 }  // namespace vantorel

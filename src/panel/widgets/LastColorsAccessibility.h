@@ -2,10 +2,9 @@
 
 namespace vantorel {
 
-class LastColors;
-
-/// Shows the last colours to assistive technology: a list with an item for each colour, which can
-/// be pressed and pinned, and the button of the menu.
-void makeLastColorsAccessible(LastColors& widget);
+/// Has the last colours shown to assistive technology: a list with an item for each colour, which
+/// can be pressed, and the button of the menu. Call it before a row gets its name, because Qt keeps
+/// the interface that it gives to a widget with one.
+void installLastColorsInterface();
 
 }  // namespace vantorel
