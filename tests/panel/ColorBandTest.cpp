@@ -291,18 +291,34 @@ TEST_F(ColorBandTest, AHalfIsDraggedOutAndThenNotEdited)
     EXPECT_TRUE(_edits.empty());
 }
 
-TEST_F(ColorBandTest, TheSeamIsSharpAtEveryScale)
+TEST_F(ColorBandTest, EdgesAreSharpAtEveryScale)
 {
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
-        for (int offset = 0; offset < 4; ++offset) {
-            _band->move(offset, 0);
-            _window.resize(_band->width() + 8, _band->height());
-            const QImage image = picture(scale);
-            const int y = qRound(image.height() * 0.75);
-            for (int x = qRound(40 * scale); x < qRound(170 * scale); ++x) {
-                const QRgb pixel = image.pixel(x, y);
-                EXPECT_TRUE(pixel == qRgb(0, 0, 255) || pixel == qRgb(255, 255, 255))
-                    << scale << ", " << offset << ": " << x << " is " << std::hex << pixel;
+        for (int offset = 1; offset < 5; ++offset) {
+            for (const int width : {276, 237}) {
+                _band->setGeometry(offset, offset, scaled(width), scaled(64));
+                _window.resize(_band->size() + QSize(8, 8));
+                const QImage image = picture(scale);
+                const auto colorsFrom = [&](QPoint first, QPoint step) {
+                    std::vector<QColor> found;
+                    for (QPoint at = first; image.rect().contains(at); at += step) {
+                        const QColor color = image.pixelColor(at);
+                        if (found.empty() || found.back() != color) found.push_back(color);
+                    }
+                    return found;
+                };
+                // Off the button and the mark.
+                const QPoint below(0, qRound((offset + scaled(50)) * scale));
+                const QPoint beside(qRound((offset + scaled(40)) * scale), 0);
+                const std::vector<QColor> row = colorsFrom(below, {1, 0});
+                const std::vector<QColor> column = colorsFrom(beside, {0, 1});
+                const std::string where = std::to_string(scale) + ", " + std::to_string(offset);
+                ASSERT_GT(row.size(), 4U) << where;
+                EXPECT_EQ(row[2], QColor(Qt::blue)) << where << ": ground, line, colour";
+                EXPECT_EQ(row[3], QColor(Qt::white)) << where << ": the seam";
+                EXPECT_EQ(row[row.size() - 3], QColor(Qt::white)) << where << ": and at the end";
+                EXPECT_EQ(column.size(), 5U) << where;
+                EXPECT_EQ(column[2], QColor(Qt::blue)) << where;
             }
         }
     }

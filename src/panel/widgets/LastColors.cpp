@@ -254,8 +254,8 @@ void LastColors::paintDropMark(QPainter& painter, std::size_t place, const Pixel
     const bool isAtRight = (place == 0) == isRightToLeft();
     const qreal mark = grid.lineWidth(scaled(markPoints));
     const qreal x = isAtRight ? neighbour.right() + mark / 2 : neighbour.left() - 1.5 * mark;
-    painter.fillRect(QRectF(grid.nearest(std::clamp(x, 0.0, width() - mark)), neighbour.top() - mark, mark,
-                            neighbour.height() + 2 * mark),
+    painter.fillRect(QRectF(grid.nearest(std::clamp(x, 0.0, width() - mark)),
+                            neighbour.top() - mark, mark, neighbour.height() + 2 * mark),
                      theme.text);
 }
 
