@@ -27,7 +27,7 @@ Controles y gráficos: AA %6</translation>
     </message>
     <message>
         <source>fails</source>
-        <translation>no cumple</translation>
+        <translation>falla</translation>
     </message>
 </context>
 <context>

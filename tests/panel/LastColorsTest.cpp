@@ -40,6 +40,14 @@ Colors manyColors()
     return colors;
 }
 
+/// A widget at a pixel a device-independent pixel, whatever the screen has.
+QImage pixelsOf(QWidget& widget)
+{
+    QImage image(widget.size(), QImage::Format_RGB32);
+    widget.render(&image);
+    return image;
+}
+
 /// Sends a colour that is dragged out of a row back into it. Without a screen a drag ends when it
 /// begins, so that nothing can be sent in between, except when Qt creates it.
 class DragInto final : public QObject {
@@ -56,7 +64,7 @@ protected:
         QDragMoveEvent move(_to, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(watched, &move);
         wasWelcome = enter.isAccepted() && move.isAccepted();
-        picture = _row.grab().toImage();
+        picture = pixelsOf(_row);
         QDropEvent drop(_to, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(watched, &drop);
         return false;
@@ -124,7 +132,7 @@ protected:
     }
     [[nodiscard]] std::set<QRgb> colorsIn(const QRect& place)
     {
-        const QImage image = _window.grab().toImage();
+        const QImage image = pixelsOf(_window);
         std::set<QRgb> found;
         for (int y = place.top(); y <= place.bottom(); ++y) {
             for (int x = place.left(); x <= place.right(); ++x)

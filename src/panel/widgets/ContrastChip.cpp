@@ -14,7 +14,7 @@ namespace {
 
 constexpr int textPoints = 11;
 constexpr int heightPoints = 20;
-constexpr int paddingPoints = 7;
+constexpr int paddingPoints = 6;
 
 QColor levelColor(ContrastLevel level, const ThemeColors& theme)
 {
