@@ -12,7 +12,7 @@ namespace {
 
 constexpr int samplePoints = 24;
 constexpr int sampleLinePoints = 28;
-constexpr int gapPoints = 4;
+constexpr int sampleGapPoints = 4;
 constexpr int swapRadiusPoints = 13;
 
 /// The background's width in points. The colour is the wider half.
@@ -40,7 +40,7 @@ void stack(ColorBandLayout& layout, const QRectF& room)
 void line(ColorBandLayout& layout, const QRectF& room)
 {
     const QSizeF chip = layout.chip.size();
-    const qreal gap = chip.isEmpty() ? 0 : scaled(gapPoints);
+    const qreal gap = chip.isEmpty() ? 0 : scaled(sampleGapPoints);
     layout.sample.moveTop(room.center().y() - layout.sample.height() / 2);
     layout.sample.moveLeft(room.center().x() - (layout.sample.width() + gap + chip.width()) / 2);
     layout.chipTopLeft = {layout.sample.right() + gap, room.center().y() - chip.height() / 2};
@@ -77,10 +77,10 @@ ColorBandLayout layoutOfBand(QSize size, std::optional<double> contrast,
     const bool hasChip = contrast.has_value() && points > 64;
     // Beside the button on the seam.
     const QRectF beside =
-        whole.adjusted(scaled(swapRadiusPoints + gapPoints), 0, -scaled(gapPoints), 0);
+        whole.adjusted(scaled(swapRadiusPoints + sampleGapPoints), 0, -scaled(sampleGapPoints), 0);
     if (hasChip) {
-        const qreal room = isLow ? beside.width() - layout.sample.width() - scaled(gapPoints)
-                                 : whole.width() - 2 * scaled(gapPoints);
+        const qreal room = isLow ? beside.width() - layout.sample.width() - scaled(sampleGapPoints)
+                                 : whole.width() - 2 * scaled(sampleGapPoints);
         layout.chip = ContrastChip(*contrast, room);
     }
     if (layout.chip.size().isEmpty() || isLow) {

@@ -13,11 +13,11 @@ namespace vantorel {
 namespace {
 
 constexpr int bandRadiusPoints = 8;
-constexpr int markPoints = 5;
-constexpr int markOutlinePoints = 2;
+constexpr int editMarkPoints = 5;
+constexpr int editMarkOutlinePoints = 2;
 constexpr int dropInsetPoints = 3;
 constexpr int dropRadiusPoints = 6;
-constexpr int ringPoints = 2;
+constexpr int halfRingPoints = 2;
 
 QPainterPath triangle(QPointF foot, qreal height)
 {
@@ -96,10 +96,10 @@ void ColorBandPainter::paintSample(const HostColor& color, const HostColor& back
 void ColorBandPainter::paintEditMark(const QRect& half)
 {
     const QPointF foot(_grid.nearest(QRectF(half).center().x()), _band.bottom());
-    const qreal height = scaled(markPoints);
+    const qreal height = scaled(editMarkPoints);
     _painter.setPen(Qt::NoPen);
     _painter.setBrush(Qt::white);
-    _painter.drawPath(triangle(foot, height + scaled(markOutlinePoints)));
+    _painter.drawPath(triangle(foot, height + scaled(editMarkOutlinePoints)));
     _painter.setBrush(Qt::black);
     _painter.drawPath(triangle(foot, height));
 }
@@ -130,7 +130,7 @@ QPainterPath ColorBandPainter::outline(const QRect& half, qreal inset) const
 void ColorBandPainter::paintDropFrame(const QRect& half)
 {
     const qreal inset = scaled(dropInsetPoints);
-    const qreal width = _grid.lineWidth(scaled(ringPoints));
+    const qreal width = _grid.lineWidth(scaled(halfRingPoints));
     const QRectF place = _grid.nearest(QRectF(half)).adjusted(inset, inset, -inset, -inset);
     const qreal radius = scaled(dropRadiusPoints);
     // Black dashes on white are visible on every colour.
@@ -145,7 +145,7 @@ void ColorBandPainter::paintDropFrame(const QRect& half)
 
 void ColorBandPainter::paintFocusRing(const QRect& half)
 {
-    const qreal width = _grid.lineWidth(scaled(ringPoints));
+    const qreal width = _grid.lineWidth(scaled(halfRingPoints));
     // The colour may be that of the ring.
     const qreal gap = _grid.lineWidth(1);
     _painter.setBrush(Qt::NoBrush);

@@ -12,9 +12,9 @@
 namespace vantorel {
 namespace {
 
-constexpr int textPoints = 11;
-constexpr int heightPoints = 20;
-constexpr int paddingPoints = 6;
+constexpr int chipTextPoints = 11;
+constexpr int chipHeightPoints = 20;
+constexpr int chipPaddingPoints = 6;
 
 QColor levelColor(ContrastLevel level, const ThemeColors& theme)
 {
@@ -34,18 +34,18 @@ QColor levelColor(ContrastLevel level, const ThemeColors& theme)
 
 qreal ContrastChip::height()
 {
-    const QFontMetricsF metrics(fontOfSize(textPoints));
-    return std::max<qreal>(scaled(heightPoints), metrics.height());
+    const QFontMetricsF metrics(fontOfSize(chipTextPoints));
+    return std::max<qreal>(scaled(chipHeightPoints), metrics.height());
 }
 
 ContrastChip::ContrastChip(double ratio, qreal mostWidth)
-    : _font(fontOfSize(textPoints)),
+    : _font(fontOfSize(chipTextPoints)),
       _bold(_font),
       _ratio(shownContrastRatio(ratio)),
       _kind(contrastLevel(ratio))
 {
     _bold.setBold(true);
-    const qreal padding = scaled(paddingPoints);
+    const qreal padding = scaled(chipPaddingPoints);
     _ratioWidth = QFontMetricsF(_font).horizontalAdvance(_ratio);
     const QString level = contrastLevelName(_kind);
     const qreal space = QFontMetricsF(_font).horizontalAdvance(u' ');

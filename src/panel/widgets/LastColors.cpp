@@ -22,12 +22,11 @@ namespace vantorel {
 namespace {
 
 constexpr int rowPoints = 28;
-constexpr int iconPoints = 16;
+constexpr int moreIconPoints = 16;
 constexpr int hintTextPoints = 11;
 constexpr int hintPaddingPoints = 8;
 constexpr int hintRadiusPoints = 6;
-constexpr int swatchRadiusPoints = 4;
-constexpr int markPoints = 2;
+constexpr int lastColorMarkPoints = 2;
 
 bool contains(const std::vector<HostColor>& colors, const HostColor& color)
 {
@@ -43,7 +42,7 @@ LastColors::LastColors(QWidget* parent) : QWidget(parent), _button(new QtToolBut
     installLastColorsInterface();
     setAccessibleName(tr("Last colours"));
     _button->setIcon(moreIcon());
-    _button->setIconSize(QSize(1, 1) * scaled(iconPoints));
+    _button->setIconSize(QSize(1, 1) * scaled(moreIconPoints));
     _button->setToolTip(tr("Commands for the last colours"));
     _button->setAccessibleName(tr("Commands for the last colours"));
     connect(_button, &QToolButton::clicked, this,
@@ -252,7 +251,7 @@ void LastColors::paintDropMark(QPainter& painter, std::size_t place, const Pixel
     // After the colour before it: a rule may follow, which the mark must not be beyond.
     const QRectF neighbour = _places.swatches[place == 0 ? 0 : place - 1];
     const bool isAtRight = (place == 0) == isRightToLeft();
-    const qreal mark = grid.lineWidth(scaled(markPoints));
+    const qreal mark = grid.lineWidth(scaled(lastColorMarkPoints));
     const qreal x = isAtRight ? neighbour.right() + mark / 2 : neighbour.left() - 1.5 * mark;
     painter.fillRect(QRectF(grid.nearest(std::clamp(x, 0.0, width() - mark)),
                             neighbour.top() - mark, mark, neighbour.height() + 2 * mark),
@@ -273,8 +272,8 @@ void LastColors::paintEvent(QPaintEvent*)
         const QRectF place = grid.nearest(_places.swatches[static_cast<std::size_t>(i)]);
         paintSwatch(painter, place, colorAt(i), theme);
         if (i != _current || !_focus.isShown()) continue;
-        const qreal radius = scaled(swatchRadiusPoints);
-        const qreal ring = grid.lineWidth(scaled(markPoints));
+        const qreal radius = swatchRadius();
+        const qreal ring = grid.lineWidth(scaled(lastColorMarkPoints));
         // The colour may be that of the ring.
         const qreal gap = grid.lineWidth(1);
         paintSwatchLine(painter, place.adjusted(ring, ring, -ring, -ring), radius - ring, gap,

@@ -8,14 +8,14 @@ namespace vantorel {
 namespace {
 
 constexpr int swatchPoints = 20;
-constexpr int gapPoints = 4;
-constexpr int buttonPoints = 24;
+constexpr int swatchGapPoints = 4;
+constexpr int menuButtonPoints = 24;
 /// What the rule adds to the gap that it is in.
 constexpr int rulePoints = 11;
 
 int swatchesIn(int width)
 {
-    const int gap = scaled(gapPoints);
+    const int gap = scaled(swatchGapPoints);
     return std::max(0, (width + gap) / (scaled(swatchPoints) + gap));
 }
 
@@ -23,9 +23,9 @@ int swatchesIn(int width)
 LastColorsPlaces row(QSize size, std::size_t pinned, std::size_t others)
 {
     LastColorsPlaces places;
-    const int gap = scaled(gapPoints);
+    const int gap = scaled(swatchGapPoints);
     const int side = scaled(swatchPoints);
-    const int buttonSide = scaled(buttonPoints);
+    const int buttonSide = scaled(menuButtonPoints);
     places.button =
         QRect(size.width() - buttonSide, (size.height() - buttonSide) / 2, buttonSide, buttonSide);
     const int room = places.button.x() - gap;
@@ -52,7 +52,7 @@ LastColorsPlaces row(QSize size, std::size_t pinned, std::size_t others)
 LastColorsPlaces grid(QSize size, int rows, std::size_t pinned, std::size_t others)
 {
     LastColorsPlaces places;
-    const int gap = scaled(gapPoints);
+    const int gap = scaled(swatchGapPoints);
     const int side = scaled(swatchPoints);
     places.columns = std::max(1, swatchesIn(size.width()));
     const qreal width = qreal(size.width() - (places.columns - 1) * gap) / places.columns;
@@ -62,7 +62,7 @@ LastColorsPlaces grid(QSize size, int rows, std::size_t pinned, std::size_t othe
                       top + (index / places.columns) * (side + gap), width, side);
     };
     const int last = rows * places.columns - 1;
-    places.button = QRect(QPoint(), QSize(1, 1) * scaled(buttonPoints));
+    places.button = QRect(QPoint(), QSize(1, 1) * scaled(menuButtonPoints));
     places.button.moveCenter(placeAt(last).center().toPoint());
     places.button.moveRight(size.width() - 1);
     places.button.moveBottom(std::min(places.button.bottom(), size.height() - 1));
@@ -81,7 +81,7 @@ LastColorsPlaces grid(QSize size, int rows, std::size_t pinned, std::size_t othe
 
 int LastColorsPlaces::swatchAt(QPointF point) const
 {
-    const qreal around = scaled(gapPoints) / 2.0;
+    const qreal around = scaled(swatchGapPoints) / 2.0;
     for (std::size_t i = 0; i < swatches.size(); ++i) {
         if (swatches[i].adjusted(-around, -around, around, around).contains(point)) {
             return static_cast<int>(i);

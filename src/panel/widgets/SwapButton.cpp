@@ -12,9 +12,9 @@
 namespace vantorel {
 namespace {
 
-constexpr int diameterPoints = 24;
-constexpr int picturePoints = 14;
-constexpr int ringPoints = 2;
+constexpr int swapDiameterPoints = 24;
+constexpr int swapPicturePoints = 14;
+constexpr int swapRingPoints = 2;
 
 }  // namespace
 
@@ -34,7 +34,7 @@ SwapButton::SwapButton(QWidget* parent) : QAbstractButton(parent), _picture(swap
 QSize SwapButton::sizeHint() const
 {
     // The edge lies around the button.
-    const int side = scaled(diameterPoints) + 2;
+    const int side = scaled(swapDiameterPoints) + 2;
     return {side, side};
 }
 
@@ -62,7 +62,7 @@ void SwapButton::paintIn(QPainter& painter, const ThemeColors& theme) const
     const QRectF place = grid.nearest(QRectF(geometry()));
     const qreal edge = grid.lineWidth(1);
     if (_focus.isShown()) {
-        const qreal ring = grid.lineWidth(scaled(ringPoints));
+        const qreal ring = grid.lineWidth(scaled(swapRingPoints));
         const qreal reach = ring + edge;
         const QRectF around = place.adjusted(-reach, -reach, reach, reach);
         painter.setPen(Qt::NoPen);
@@ -77,7 +77,7 @@ void SwapButton::paintIn(QPainter& painter, const ThemeColors& theme) const
     painter.drawEllipse(place);
     paintSwatchLine(painter, place, place.height() / 2, edge,
                     isEnabled() ? theme.edge : theme.line);
-    QRectF picture(QPointF(), QSizeF(1, 1) * scaled(picturePoints));
+    QRectF picture(QPointF(), QSizeF(1, 1) * scaled(swapPicturePoints));
     picture.moveCenter(place.center());
     _picture.paint(&painter, picture.toAlignedRect(), Qt::AlignCenter,
                    isEnabled() ? QIcon::Normal : QIcon::Disabled);

@@ -44,6 +44,11 @@ QBrush checkersBrush(const ThemeColors& theme, qreal pixelsPerUnit)
     return brush;
 }
 
+qreal swatchRadius()
+{
+    return scaled(swatchRadiusPoints);
+}
+
 void paintSwatchLine(QPainter& painter, const QRectF& place, qreal radius, qreal width,
                      const QColor& color)
 {
@@ -58,7 +63,7 @@ void paintSwatch(QPainter& painter, const QRectF& place, const HostColor& color,
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const qreal radius = scaled(swatchRadiusPoints);
+    const qreal radius = swatchRadius();
     const PixelGrid grid(painter);
     painter.setPen(Qt::NoPen);
     if (color.alphaComponent() < 1) {

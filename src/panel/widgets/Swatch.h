@@ -15,6 +15,9 @@ namespace vantorel {
 /// pixels at this number of pixels per device-independent pixel.
 [[nodiscard]] QBrush checkersBrush(const ThemeColors& theme, qreal pixelsPerUnit);
 
+/// The radius of a swatch's corners.
+[[nodiscard]] qreal swatchRadius();
+
 /// Paints a colour with round corners and a line just inside its edge, over squares if it is
 /// translucent. `place` should be on a `PixelGrid`.
 void paintSwatch(QPainter& painter, const QRectF& place, const HostColor& color,
