@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -25,7 +26,10 @@ void LastColors::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     _dragged = colorAt(std::exchange(_pressed, -1));
-    dragColor(*this, *_dragged);
+    // The panel may be closed while the drag runs.
+    const QPointer<LastColors> life(this);
+    dragColor(*this, HostColor(*_dragged));
+    if (life == nullptr) return;
     _dragged.reset();
     setDropPlace({});
 }
