@@ -1955,8 +1955,12 @@ hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescri
 hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS es vorschreibt. Alle anderen Formen lassen Farben, wie sie sind.</translation>
     </message>
     <message>
-        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
-        <translation>Aussehen des Fensters: auto (hell oder dunkel wie der Desktop), light, dark, contrast (Weiß auf Schwarz) oder desktop (Farben und Bedienelemente des Desktops).</translation>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls). Without the option the preferences decide.</source>
+        <translation>Aussehen des Fensters: auto (hell oder dunkel wie der Desktop), light, dark, contrast (Weiß auf Schwarz) oder desktop (Farben und Bedienelemente des Desktops). Ohne die Option entscheiden die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
+        <translation>Die Einstellungen des Fensters. Ist die Variable nicht gesetzt, ist der Ordner ~/.config/Vantorel/.</translation>
     </message>
 </context>
 <context>
@@ -2246,6 +2250,45 @@ hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS 
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programme mit GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::GeneralPreferences</name>
+    <message>
+        <source>Use the desktop&apos;s own controls and colours</source>
+        <translation>Bedienelemente und Farben des Desktops verwenden</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Textgröße</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start of the panel</source>
+        <translation>Wirkt beim nächsten Start</translation>
     </message>
 </context>
 <context>
@@ -2637,6 +2680,21 @@ hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS 
     <message>
         <source>Take the colour</source>
         <translation>Farbe nehmen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Changes apply at once</source>
+        <translation>Änderungen wirken sofort</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

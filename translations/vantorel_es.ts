@@ -1955,8 +1955,12 @@ hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescri
 hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan como indica CSS. Las otras formas dejan los colores como son.</translation>
     </message>
     <message>
-        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
-        <translation>Aspecto de la ventana: auto (claro u oscuro como el escritorio), light, dark, contrast (blanco sobre negro) o desktop (los colores y controles del escritorio).</translation>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls). Without the option the preferences decide.</source>
+        <translation>Aspecto de la ventana: auto (claro u oscuro como el escritorio), light, dark, contrast (blanco sobre negro) o desktop (los colores y controles del escritorio). Sin esta opción deciden las preferencias.</translation>
+    </message>
+    <message>
+        <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
+        <translation>Las preferencias del panel. Si la variable no está definida, la carpeta es ~/.config/Vantorel/.</translation>
     </message>
 </context>
 <context>
@@ -2246,6 +2250,45 @@ hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan co
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programas hechos con GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::GeneralPreferences</name>
+    <message>
+        <source>Use the desktop&apos;s own controls and colours</source>
+        <translation>Usar los controles y colores del escritorio</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start of the panel</source>
+        <translation>Tiene efecto en el próximo inicio del panel</translation>
     </message>
 </context>
 <context>
@@ -2637,6 +2680,21 @@ hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan co
     <message>
         <source>Take the colour</source>
         <translation>Tomar el color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Changes apply at once</source>
+        <translation>Los cambios se aplican al momento</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>

@@ -1955,8 +1955,12 @@ hex, rgb, hsl and hwb hold sRGB only, so other colours are mapped as CSS prescri
 hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramenées comme CSS le prescrit. Les autres formes laissent les couleurs telles quelles.</translation>
     </message>
     <message>
-        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls).</source>
-        <translation>Aspect de la fenêtre : auto (clair ou sombre comme le bureau), light, dark, contrast (blanc sur noir) ou desktop (les couleurs et les contrôles du bureau).</translation>
+        <source>Look of the window: auto (light or dark as the desktop is), light, dark, contrast (white on black), or desktop (the desktop&apos;s own colours and controls). Without the option the preferences decide.</source>
+        <translation>Aspect de la fenêtre : auto (clair ou sombre comme le bureau), light, dark, contrast (blanc sur noir) ou desktop (les couleurs et les contrôles du bureau). Sans cette option, les préférences décident.</translation>
+    </message>
+    <message>
+        <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
+        <translation>Les préférences du panneau. Si la variable n’est pas définie, le dossier est ~/.config/Vantorel/.</translation>
     </message>
 </context>
 <context>
@@ -2246,6 +2250,45 @@ hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramen
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programmes faits avec GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::GeneralPreferences</name>
+    <message>
+        <source>Use the desktop&apos;s own controls and colours</source>
+        <translation>Utiliser les contrôles et les couleurs du bureau</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start of the panel</source>
+        <translation>Prend effet au prochain démarrage du panneau</translation>
     </message>
 </context>
 <context>
@@ -2637,6 +2680,21 @@ hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramen
     <message>
         <source>Take the colour</source>
         <translation>Prendre la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Changes apply at once</source>
+        <translation>Les changements s’appliquent aussitôt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>

@@ -40,7 +40,8 @@ constexpr OptionRow panelOptions[] = {
     {.name = "--theme",
      .value = "THEME",
      .text = "Look of the window: auto (light or dark as the desktop is), light, dark, contrast "
-             "(white on black), or desktop (the desktop's own colours and controls).",
+             "(white on black), or desktop (the desktop's own colours and controls). Without the "
+             "option the preferences decide.",
      .choices = themes},
     {"--data", "DIR",
      "Keep settings, colour lists and the state of the panel in DIR/Vantorel instead of the user's "
@@ -84,6 +85,9 @@ constexpr TermRow panelFiles[] = {
     {"$XDG_DATA_HOME/Vantorel/",
      "The user's settings, colour lists and plug-ins. If the variable is not set, the folder is "
      "~/.local/share/Vantorel/."},
+    {"$XDG_CONFIG_HOME/Vantorel/Preferences.plist",
+     "The preferences of the panel. If the variable is not set, the folder is "
+     "~/.config/Vantorel/."},
 };
 constexpr SectionRow panelSections[] = {
     {.title = phraseText("EXIT STATUS"), .terms = panelStatuses},

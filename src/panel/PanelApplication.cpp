@@ -1,7 +1,9 @@
 #include "panel/PanelApplication.h"
 
+#include "hosts/qt/TextScale.h"
 #include "panel/PanelTranslations.h"
 #include "panel/SessionManagerLoss.h"
+#include "panel/preferences/PanelPreferences.h"
 #include "panel/widgets/PanelTheme.h"
 
 namespace vantorel {
@@ -24,7 +26,9 @@ PanelApplication::PanelApplication(const char* program, const PanelOptions& opti
     // Closing the panel's window quits explicitly. In a panel without a window, closing the
     // magnifier would quit.
     QApplication::setQuitOnLastWindowClosed(false);
-    applyTheme(options.theme.value_or(QStringLiteral("auto")));
+    const PanelPreferences preferences;
+    enlargeText(preferences.textSize() / 100.0);
+    applyTheme(options.theme.value_or(preferences.themeInForce()));
 }
 
 }  // namespace vantorel

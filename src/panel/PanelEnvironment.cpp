@@ -1,6 +1,7 @@
 #include "panel/PanelEnvironment.h"
 
 #include "hosts/posix/PosixFiles.h"
+#include "panel/preferences/PanelPreferences.h"
 #include "panel/window/PanelMemory.h"
 
 #include <QFile>
@@ -14,6 +15,7 @@ PanelEnvironment::PanelEnvironment(const PanelOptions& options)
         // The configuration folder is not replaced: it also leads to the palettes of other
         // programs.
         setPanelMemoryFolder(*options.dataFolder);
+        PanelPreferences::setFolder(*options.dataFolder);
     }
     _userData = PosixFiles().applicationSupportDirectory().value_or("");
     if (options.screenshot) hideUser(options);

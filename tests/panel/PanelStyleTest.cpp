@@ -153,9 +153,23 @@ TEST_F(PanelStyleTest, AComboBoxElidesAndKeepsTheTextFromItsArrow)
         for (int y = 2; y < 26; ++y)
             EXPECT_EQ(picture.pixelColor(x, y), lightTheme().control) << x << ' ' << y;
     }
-    EXPECT_GE(shown.widget->sizeHint().width(),
-              QFontMetrics(shown.widget->font()).horizontalAdvance(shown.widget->currentText()) +
-                  90 - text.width());
+}
+
+TEST_F(PanelStyleTest, AComboBoxAsksForTheRoomThatItsTextNeeds)
+{
+    for (const char* text : {"100 %", "fjord", "Ill", "Copy the colour and stay"}) {
+        QComboBox combo;
+        combo.addItem(QString::fromLatin1(text));
+        combo.resize(combo.sizeHint());
+        QStyleOptionComboBox option;
+        option.initFrom(&combo);
+        const QRect room = QApplication::style()->subControlRect(
+            QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
+        constexpr int labelPadding = 4;
+        EXPECT_GE(room.width() - labelPadding,
+                  QFontMetrics(combo.font()).horizontalAdvance(combo.currentText()))
+            << text;
+    }
 }
 
 TEST_F(PanelStyleTest, TheRowOfTabsDoesNotMove)

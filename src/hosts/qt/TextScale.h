@@ -7,6 +7,10 @@ namespace vantorel {
 /// QGuiApplication.
 [[nodiscard]] double textScale();
 
+/// Enlarges pages and the program's font by this factor, on top of what the desktop asks for. Call
+/// it before the first call of `textScale` and before the first window. Needs a QApplication.
+void enlargeText(double factor);
+
 /// Converts points to whole device-independent pixels.
 [[nodiscard]] int scaled(double points);
 

@@ -108,7 +108,9 @@ QRect comboBoxArrowRect(const QStyleOptionComboBox& option)
 
 int comboBoxChrome()
 {
-    return comboPadding + labelPadding + comboArrowRoom;
+    // Qt measures the ink of a text, which can be narrower than its place.
+    constexpr int slack = 4;
+    return comboPadding + labelPadding + comboArrowRoom + slack;
 }
 
 void paintSpinBox(QPainter& painter, const QStyleOptionSpinBox& option, const QRect& up,

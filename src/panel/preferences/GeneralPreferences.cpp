@@ -1,0 +1,117 @@
+#include "panel/preferences/GeneralPreferences.h"
+
+#include "hosts/qt/QtColors.h"
+#include "hosts/qt/TextScale.h"
+#include "panel/preferences/PanelPreferences.h"
+#include "panel/widgets/PanelTheme.h"
+#include "panel/widgets/QuietLabel.h"
+#include "panel/widgets/SegmentedChoice.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLocale>
+#include <QSignalBlocker>
+
+namespace vantorel {
+namespace {
+
+constexpr int textSizes[]{100, 125, 150, 175, 200, 250, 300};
+
+}  // namespace
+
+GeneralPreferences::GeneralPreferences(PanelPreferences& preferences, QWidget* parent)
+    : QWidget(parent),
+      _preferences(preferences),
+      _rows(new QGridLayout(this)),
+      _theme(new SegmentedChoice(this)),
+      _desktopStyle(new QCheckBox(tr("Use the desktop's own controls and colours"), this)),
+      _textSize(new QComboBox(this))
+{
+    constexpr int gap = 8;
+    constexpr int besideNames = 12;
+    _rows->setContentsMargins(0, 0, 0, 0);
+    _rows->setVerticalSpacing(scaled(gap));
+    _rows->setHorizontalSpacing(scaled(besideNames));
+    _rows->setColumnStretch(1, 1);
+    addTheme();
+    addTextSize();
+    showPreferences();
+    connect(&_preferences, &PanelPreferences::changed, this, &GeneralPreferences::showPreferences);
+}
+
+void GeneralPreferences::addRow(const QString& name, QWidget& control)
+{
+    const int row = _rows->rowCount();
+    _rows->addWidget(&control, row, 1);
+    if (name.isEmpty()) return;
+    auto* label = new QuietLabel(name, this);
+    label->setBuddy(&control);
+    control.setAccessibleName(name);
+    _rows->addWidget(label, row, 0, Qt::AlignTrailing | Qt::AlignVCenter);
+}
+
+void GeneralPreferences::addRule()
+{
+    auto* rule = new QFrame(this);
+    rule->setFrameShape(QFrame::HLine);
+    _rows->addWidget(rule, _rows->rowCount(), 0, 1, 2);
+}
+
+void GeneralPreferences::addNote(const QString& text)
+{
+    constexpr int smallText = 11;
+    auto* note = new QuietLabel(text, this);
+    note->setFont(fontOfSize(smallText));
+    note->setWordWrap(true);
+    _rows->addWidget(note, _rows->rowCount(), 1);
+}
+
+void GeneralPreferences::addTheme()
+{
+    _theme->setObjectName(QStringLiteral("theme"));
+    _theme->addChoice(tr("Automatic"), QStringLiteral("auto"));
+    _theme->addChoice(tr("Light"), QStringLiteral("light"));
+    _theme->addChoice(tr("Dark"), QStringLiteral("dark"));
+    _theme->addChoice(tr("Contrast"), QStringLiteral("contrast"));
+    addRow(tr("Theme"), *_theme);
+    _desktopStyle->setObjectName(QStringLiteral("desktopStyle"));
+    addRow({}, *_desktopStyle);
+    connect(_theme, &SegmentedChoice::chosen, this, [this](const QString& theme) {
+        _preferences.setTheme(theme);
+        changeTheme();
+    });
+    connect(_desktopStyle, &QCheckBox::toggled, this, [this](bool uses) {
+        _preferences.setUsesDesktopStyle(uses);
+        changeTheme();
+    });
+}
+
+void GeneralPreferences::addTextSize()
+{
+    _textSize->setObjectName(QStringLiteral("textSize"));
+    _textSize->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    for (const int percent : textSizes)
+        _textSize->addItem(tr("%1 %").arg(QLocale().toString(percent)), percent);
+    addRow(tr("Text size"), *_textSize);
+    addNote(tr("Takes effect at the next start of the panel"));
+    connect(_textSize, &QComboBox::activated, this,
+            [this](int index) { _preferences.setTextSize(_textSize->itemData(index).toInt()); });
+}
+
+void GeneralPreferences::showPreferences()
+{
+    const QSignalBlocker blocker(_desktopStyle);
+    _theme->setCurrentKey(_preferences.theme());
+    _theme->setEnabled(!_preferences.usesDesktopStyle());
+    _desktopStyle->setChecked(_preferences.usesDesktopStyle());
+    _textSize->setCurrentIndex(_textSize->findData(_preferences.textSize()));
+}
+
+void GeneralPreferences::changeTheme()
+{
+    applyTheme(_preferences.themeInForce());
+}
+
+}  // namespace vantorel

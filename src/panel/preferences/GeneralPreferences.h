@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+
+namespace vantorel {
+
+class PanelPreferences;
+class SegmentedChoice;
+
+/// The first page of the preferences: theme and text size.
+class GeneralPreferences final : public QWidget {
+    Q_OBJECT
+
+public:
+    GeneralPreferences(PanelPreferences& preferences, QWidget* parent);
+
+    /// Adds a control below the others, with its name beside it; an empty name continues the row
+    /// before. A name is also what screen readers call the control.
+    void addRow(const QString& name, QWidget& control);
+    /// Adds a line between groups of rows.
+    void addRule();
+    /// Adds a sentence below a control.
+    void addNote(const QString& text);
+
+private:
+    void addTheme();
+    void addTextSize();
+    void showPreferences();
+    void changeTheme();
+
+    PanelPreferences& _preferences;
+    QGridLayout* _rows;
+    SegmentedChoice* _theme;
+    QCheckBox* _desktopStyle;
+    QComboBox* _textSize;
+};
+
+}  // namespace vantorel

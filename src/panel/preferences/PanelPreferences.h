@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <string_view>
+
+namespace vantorel {
+
+class PropertyList;
+
+/// What the user has set for the panel. Kept in `Vantorel/Preferences.plist` in the folder of the
+/// user's configuration.
+class PanelPreferences final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Sizes in percent of the desktop's text.
+    static constexpr int usualTextSize = 100;
+    static constexpr int largestTextSize = 300;
+
+    /// Reads the file. Values that are missing or damaged are the usual ones, so a file that cannot
+    /// be read is as none.
+    explicit PanelPreferences(QObject* parent = nullptr);
+
+    /// Sets the folder that takes the place of the user's configuration.
+    static void setFolder(const QString& path);
+
+    /// "auto", "light", "dark" or "contrast".
+    [[nodiscard]] const QString& theme() const { return _values.theme; }
+    /// Whether the controls are the desktop's, in its colours, whatever the theme is.
+    [[nodiscard]] bool usesDesktopStyle() const { return _values.usesDesktopStyle; }
+    /// The name for `applyTheme`.
+    [[nodiscard]] QString themeInForce() const;
+    /// In percent. The text of a panel that runs keeps its size.
+    [[nodiscard]] int textSize() const { return _values.textSize; }
+
+    // Each writes one value to the file at once, and leaves all others there as they are: another
+    // panel may have changed them, and a later version may have more. A value that cannot be
+    // written, which is reported on standard error, holds until the program ends.
+
+    void setTheme(const QString& theme);
+    void setUsesDesktopStyle(bool uses);
+    void setTextSize(int percent);
+
+signals:
+    /// A value has changed, here or, before this one was written, in another panel.
+    void changed();
+
+private:
+    struct Values {
+        QString theme = QStringLiteral("auto");
+        bool usesDesktopStyle = false;
+        int textSize = usualTextSize;
+
+        bool operator==(const Values&) const = default;
+    };
+
+    [[nodiscard]] static Values valuesFrom(const PropertyList& list);
+    void write(std::u16string_view key, const QString& value);
+
+    Values _values;
+};
+
+}  // namespace vantorel
