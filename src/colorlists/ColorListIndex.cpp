@@ -51,20 +51,16 @@ int limited(std::uint64_t component)
 
 }  // namespace
 
-void ColorListIndex::clear()
-{
-    _entries.clear();
-    _cellStarts.assign(cellCount + 1, 0);
-    _outsideCube.clear();
-}
-
 void ColorListIndex::update(const std::shared_ptr<const HostColorList>& list)
 {
     if (list == _list && (!list || list->revision() == _revision)) return;
-    clear();
+    if (!list) {
+        *this = {};
+        return;
+    }
     _list = list;
-    if (!list) return;
     _revision = list->revision();
+    _outsideCube.clear();
     std::vector<Entry> entries;
     for (std::size_t place = 0; place < list->allKeys().size(); ++place) {
         const auto rgb = list->colorAtIndex(place).calibratedRGB();
@@ -81,6 +77,7 @@ void ColorListIndex::update(const std::shared_ptr<const HostColorList>& list)
 /// Sorts the entries by cell, using a counting sort.
 void ColorListIndex::sortIntoCells(const std::vector<Entry>& entries)
 {
+    _cellStarts.assign(cellCount + 1, 0);
     for (const Entry& entry : entries)
         ++_cellStarts[cellOf(entry.steps) + 1];
     std::partial_sum(_cellStarts.begin(), _cellStarts.end(), _cellStarts.begin());

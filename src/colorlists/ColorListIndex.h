@@ -29,7 +29,6 @@ private:
         std::uint32_t place = 0;
     };
 
-    void clear();
     void sortIntoCells(const std::vector<Entry>& entries);
     void addPlacesInCells(const QTXHexColorSpec& color, std::vector<std::size_t>& places) const;
 

@@ -85,9 +85,9 @@ TEST(ColorListIndexTest, FindsTheSameAsALinearSearch)
 {
     ColorSource source;
     std::size_t found = 0;
-    for (const std::size_t count : {0U, 1U, 17U, 3000U}) {
+    ColorListIndex index;
+    for (const std::size_t count : {0U, 1U, 17U, 3000U, 170U}) {
         const auto list = listFrom(source, count);
-        ColorListIndex index;
         index.update(list);
         for (int i = 0; i < 500; ++i) {
             const QTXHexColorSpec color = source.nextSpec();
