@@ -11,6 +11,21 @@ namespace {
 using Array = PropertyList::Array;
 using Dictionary = PropertyList::Dictionary;
 
+TEST(ReadingBlanksTest, BlanksOfUnicodeAreSkipped)
+{
+    std::u16string blanks;
+    for (char32_t c = 1; c <= 0xFFFF; ++c) {
+        const std::u16string text{static_cast<char16_t>(c), u'a'};
+        const auto value = parsePropertyList(text);
+        const bool isBlank = value && *value->string() == u"a";
+        // A byte order mark is no blank, but is skipped at the beginning.
+        if (isBlank && c != 0xFEFF) blanks += static_cast<char16_t>(c);
+    }
+    EXPECT_EQ(blanks,
+              u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008"
+              u"\u2009\u200A\u2028\u2029\u202F\u205F\u3000");
+}
+
 struct ReadRow {
     const char16_t* text;
     PropertyList value;
