@@ -1,10 +1,12 @@
 #include "hosts/qt/QtToolButton.h"
+#include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/PanelStyle.h"
 #include "panel/widgets/PanelTheme.h"
 #include "panel/widgets/ThemeTables.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -172,6 +174,17 @@ TEST_F(PanelStyleTest, AComboBoxAsksForTheRoomThatItsTextNeeds)
     }
 }
 
+TEST_F(PanelStyleTest, RowsOfAnOpenComboBoxAreAsInMenus)
+{
+    Shown<QComboBox> shown({10, 10, 90, 28});
+    shown.widget->addItems({QStringLiteral("One"), QStringLiteral("Two")});
+    shown.widget->showPopup();
+    const int row = shown.widget->view()->sizeHintForRow(0);
+    EXPECT_GE(row, 24);
+    EXPECT_LT(row, 2 * 28);
+    shown.widget->hidePopup();
+}
+
 TEST_F(PanelStyleTest, TheRowOfTabsDoesNotMove)
 {
     QTabBar tabs;
@@ -207,6 +220,21 @@ TEST_F(PanelStyleTest, TheMenuRowUnderThePointerHasTheAccent)
     menu.close();
 }
 
+TEST_F(PanelStyleTest, TheIconOfAMenuRowHasTheColourOfItsText)
+{
+    QMenu menu;
+    QAction* row = menu.addAction(copyIcon(), {});
+    QAction* other = menu.addAction(copyIcon(), {});
+    menu.popup({0, 0});
+    menu.setActiveAction(row);
+    const QImage picture = styledPicture(menu, 1);
+    const QImage selected = picture.copy(menu.actionGeometry(row));
+    EXPECT_TRUE(hasColor(selected, lightTheme().onAccent));
+    EXPECT_FALSE(hasColor(selected, lightTheme().text));
+    EXPECT_TRUE(hasColor(picture.copy(menu.actionGeometry(other)), lightTheme().text));
+    menu.close();
+}
+
 TEST_F(PanelStyleTest, AChosenRowOfAListIsGrey)
 {
     Shown<QListWidget> shown({0, 0, 200, 60});
@@ -217,6 +245,9 @@ TEST_F(PanelStyleTest, AChosenRowOfAListIsGrey)
     EXPECT_EQ(picture.pixelColor(row.right() - 8, row.center().y()), lightTheme().down);
     EXPECT_EQ(picture.pixelColor(row.left() + 1, row.center().y()), lightTheme().text);
     EXPECT_EQ(shown.widget->palette().color(QPalette::HighlightedText), lightTheme().text);
+    QLineEdit editor(shown.widget->viewport());
+    editor.ensurePolished();
+    EXPECT_EQ(editor.palette().color(QPalette::Highlight), lightTheme().accent);
 }
 
 TEST_F(PanelStyleTest, AScrollBarLiesOnTheGroundOfItsList)

@@ -51,7 +51,10 @@ private:
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const QPalette palette = _ground ? _ground->palette() : QApplication::palette();
-        return palette.color(group, QPalette::ButtonText);
+        // On a selected row.
+        const auto role =
+            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+        return palette.color(group, role);
     }
 
     QByteArray _svg;

@@ -158,9 +158,13 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
         case CE_TabBarTabLabel:
             return paintTabLabel(*painter, optionAs<QStyleOptionTab>(option), *proxy());
         case CE_MenuItem:
+            // A combo box fills its rows with the window's colour before.
+            if (qobject_cast<const QMenu*>(widget) == nullptr) paintMenuGround(*painter, *option);
             return paintMenuRow(*painter, optionAs<QStyleOptionMenuItem>(option), *proxy());
         case CE_MenuEmptyArea:
-            return;  // The ground is painted.
+            // Menus have painted theirs.
+            if (qobject_cast<const QMenu*>(widget) == nullptr) paintMenuGround(*painter, *option);
+            return;
         case CE_MenuScroller:
             return paintMenuScroller(*painter, *option);
         case CE_ItemViewItem: {

@@ -13,6 +13,8 @@ namespace vantorel {
 namespace {
 
 constexpr const char* listClass = "QAbstractItemView";
+/// A field in a list has the colours of other fields.
+constexpr const char* fieldClass = "QLineEdit";
 
 bool hasOwnStyle()
 {
@@ -28,7 +30,8 @@ public:
     {
         if (hasOwnStyle()) QApplication::setStyle(_style);
         QApplication::setPalette(QPalette());
-        QApplication::setPalette(QApplication::palette(), listClass);
+        for (const char* name : {listClass, fieldClass})
+            QApplication::setPalette(QApplication::palette(), name);
     }
 
     [[nodiscard]] static bool isDark()
@@ -61,6 +64,7 @@ void setOwnLook(const ThemeColors& theme)
     if (!hasOwnStyle()) QApplication::setStyle(new PanelStyle);
     QApplication::setPalette(paletteOf(theme));
     QApplication::setPalette(paletteOfLists(theme), listClass);
+    QApplication::setPalette(paletteOf(theme), fieldClass);
 }
 
 void followDesktop()

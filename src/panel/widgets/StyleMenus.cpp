@@ -19,6 +19,7 @@ namespace {
 constexpr int rowPadding = 8;
 /// The column of ticks and icons.
 constexpr int markColumn = 20;
+constexpr int iconHeight = 16;
 /// Between a text and its shortcut or the arrow of a submenu.
 constexpr int behindText = 24;
 constexpr int separatorHeight = 9;
@@ -75,15 +76,22 @@ void paintSeparator(QPainter& painter, const QStyleOptionMenuItem& option, const
         colors.line);
 }
 
+/// The size of a row's icon. Pictures that are drawn for every size are square.
+QSize markSize(const QStyleOptionMenuItem& option)
+{
+    if (option.icon.availableSizes().isEmpty()) return {iconHeight, iconHeight};
+    return option.icon.actualSize({std::max(iconHeight, option.maxIconWidth), iconHeight});
+}
+
 void paintMark(QPainter& painter, const QStyleOptionMenuItem& option, const QRect& room,
                const QColor& color)
 {
     if (!option.icon.isNull()) {
-        const auto mode = isOff(option) ? QIcon::Disabled : QIcon::Normal;
-        const int size = std::min(room.width(), room.height());
+        const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+        const auto mode =
+            isOff(option) ? QIcon::Disabled : (isSelected ? QIcon::Selected : QIcon::Normal);
         const QRect icon = QStyle::alignedRect(
-            option.direction, Qt::AlignLeading | Qt::AlignVCenter,
-            option.icon.actualSize(QSize(std::max(size, option.maxIconWidth), size)), room);
+            option.direction, Qt::AlignLeading | Qt::AlignVCenter, markSize(option), room);
         option.icon.paint(&painter, icon, Qt::AlignCenter, mode);
         if (option.checked)
             paintRounded(painter, icon.adjusted(-2, -2, 2, 2), rowRadius, {}, color);
@@ -107,6 +115,11 @@ void paintMenu(QPainter& painter, const QStyleOption& option, const QWidget* wid
     const ThemeColors colors = themeColors(option);
     const bool isRound = widget == nullptr || widget->testAttribute(Qt::WA_TranslucentBackground);
     paintRounded(painter, option.rect, isRound ? menuRadius : 0, colors.base, colors.edge);
+}
+
+void paintMenuGround(QPainter& painter, const QStyleOption& option)
+{
+    painter.fillRect(option.rect, themeColors(option).base);
 }
 
 void paintMenuRow(QPainter& painter, const QStyleOptionMenuItem& option, const QStyle& style)
@@ -168,13 +181,14 @@ QSize menuRowSize(const QStyleOptionMenuItem& option, const QSize& contents)
 {
     const bool isSeparator = option.menuItemType == QStyleOptionMenuItem::Separator;
     if (isSeparator && option.text.isEmpty()) return {contents.width(), separatorHeight};
+    // Lists of combo boxes give the size of the list, not of the text.
     constexpr int aroundText = 12;
     const int height = std::max(controlHeight, option.fontMetrics.height() + aroundText);
     int width = contents.width() + 2 * rowPadding + widthOfMarks(option);
     const bool hasMore = option.menuItemType == QStyleOptionMenuItem::SubMenu ||
                          option.text.contains(QLatin1Char('\t'));
     if (hasMore) width += behindText;
-    return {width, std::max(height, contents.height())};
+    return {width, height};
 }
 
 void paintToolTip(QPainter& painter, const QStyleOption& option)
