@@ -210,11 +210,6 @@ std::string lineOf(const ByteColor& color, const ReportForm& form)
     return line;
 }
 
-bool hasPlainLines(const ReportForm& form)
-{
-    return form.namer == nullptr && !form.swatches;
-}
-
 char* writePlainLine(char* place, const ByteColor& color, EntryForm entryForm, bool poundSign)
 {
     const auto& hex = hexTexts(entryForm);

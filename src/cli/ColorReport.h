@@ -36,7 +36,10 @@ void appendJsonName(std::string& json, const ColorNamer& namer, const ColorNameM
 [[nodiscard]] std::string lineOf(const ByteColor& color, const ReportForm& form);
 
 /// Whether `writePlainLine` can write the lines of a form.
-[[nodiscard]] bool hasPlainLines(const ReportForm& form);
+[[nodiscard]] inline bool hasPlainLines(const ReportForm& form)
+{
+    return form.namer == nullptr && !form.swatches;
+}
 /// Writes the line of an opaque colour, including its line feed, to `place`, which must have room
 /// for `Output::mostReserved` bytes. Returns the end of the line.
 [[nodiscard]] char* writePlainLine(char* place, const ByteColor& color, EntryForm entryForm,

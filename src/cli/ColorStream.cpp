@@ -124,10 +124,17 @@ bool useStandardInput(ColorTextUser& user, Output& output)
 
 Status ColorWriter::use(Output& output, std::string_view text, bool isLine)
 {
+    // Separate from the other forms: what these keep on the stack would take longer to set up than
+    // a plain hex code takes to read.
     if (const auto plain = readPlainHex(text)) {
         write(output, *plain, isLine);
         return {};
     }
+    return useOther(output, text, isLine);
+}
+
+Status ColorWriter::useOther(Output& output, std::string_view text, bool isLine)
+{
     Result<ByteColor> color = _reader.read(text);
     if (!color) return std::move(color).error();
     write(output, *color, isLine);

@@ -35,6 +35,9 @@ protected:
     virtual void write(Output& output, const ByteColor& color, bool isLine) = 0;
 
 private:
+    /// Uses a text that is not a plain hex code.
+    [[nodiscard]] Status useOther(Output& output, std::string_view text, bool isLine);
+
     ColorTextReader& _reader;
 };
 

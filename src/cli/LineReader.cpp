@@ -11,35 +11,11 @@ namespace {
 
 constexpr std::size_t chunk = std::size_t{256} << 10;
 
-std::string_view withoutCarriageReturn(std::string_view line)
-{
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
-}
-
 }  // namespace
 
 /// The buffer has room for an incomplete line followed by the next chunk.
 LineReader::LineReader(int descriptor) : _descriptor(descriptor), _buffer(longestLine + 1 + chunk)
 {
-}
-
-const char* LineReader::lineEnd() const
-{
-    return static_cast<const char*>(std::memchr(_buffer.data() + _begin, '\n', _end - _begin));
-}
-
-LineReader::Result LineReader::takeUntil(const char* end, std::string_view& line)
-{
-    const char* begin = _buffer.data() + _begin;
-    const auto length = static_cast<std::size_t>(end - begin);
-    const bool isTooLong = _isTooLong || length > longestLine;
-    _isTooLong = false;
-    _begin += length + 1;
-    ++_number;
-    if (isTooLong) return Result::tooLong;
-    line = withoutCarriageReturn({begin, length});
-    return Result::line;
 }
 
 void LineReader::dropLongBeginning()

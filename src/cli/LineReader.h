@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -37,8 +38,30 @@ public:
     [[nodiscard]] std::uint64_t number() const { return _number; }
 
 private:
-    [[nodiscard]] const char* lineEnd() const;
-    Result takeUntil(const char* end, std::string_view& line);
+    // Inline, because a line of a plain hex code takes no longer to read than a few calls.
+
+    [[nodiscard]] const char* lineEnd() const
+    {
+        return static_cast<const char*>(std::memchr(_buffer.data() + _begin, '\n', _end - _begin));
+    }
+    [[nodiscard]] static std::string_view withoutCarriageReturn(std::string_view line)
+    {
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        return line;
+    }
+    Result takeUntil(const char* end, std::string_view& line)
+    {
+        const char* begin = _buffer.data() + _begin;
+        const auto length = static_cast<std::size_t>(end - begin);
+        const bool isTooLong = _isTooLong || length > longestLine;
+        _isTooLong = false;
+        _begin += length + 1;
+        ++_number;
+        if (isTooLong) return Result::tooLong;
+        line = withoutCarriageReturn({begin, length});
+        return Result::line;
+    }
+
     void dropLongBeginning();
     Result takeRest(std::string_view& line);
     bool readMore();

@@ -2,10 +2,12 @@
 
 #include "color/ColorTexts.h"
 #include "color/RgbTriple.h"
+#include "csscolor/CSSNamedColors.h"
 #include "text/Trimming.h"
 #include "text/Unicode.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vantorel {
 namespace {
@@ -17,11 +19,34 @@ std::u16string_view withoutSurroundings(std::u16string_view text)
     return trimmed(text, [](char16_t c) { return isBlank(c) || c == u'\r'; });
 }
 
+/// Returns the colour of a text that is nothing but one of the 148 names of CSS. No such name
+/// consists of hex digits only, so it cannot be a code without "#".
+std::optional<ByteColor> colorOfCSSName(std::string_view text)
+{
+    const auto value = cssNamedColor(text);
+    if (!value) return std::nullopt;
+    const auto byte = [&](unsigned shift) { return static_cast<std::uint8_t>(*value >> shift); };
+    return ByteColor{byte(16), byte(8), byte(0)};
+}
+
 }  // namespace
+
+std::optional<ByteColor> readShortHex(std::string_view digits)
+{
+    if (digits.size() != 3) return std::nullopt;
+    const std::array values{hexDigitValue(digits[0]), hexDigitValue(digits[1]),
+                            hexDigitValue(digits[2])};
+    if ((values[0] | values[1] | values[2]) > 15) return std::nullopt;
+    const auto doubled = [&](std::size_t place) {
+        return static_cast<std::uint8_t>(values[place] * 17);
+    };
+    return ByteColor{doubled(0), doubled(1), doubled(2)};
+}
 
 Result<ByteColor> ColorTextReader::read(std::string_view utf8)
 {
     if (const auto plain = readPlainHex(utf8)) return *plain;
+    if (const auto named = colorOfCSSName(utf8)) return *named;
     Result<CSSColor> css = readUnrounded(utf8);
     if (!css) return std::move(css).error();
     ByteColor color = byteColorOf(css->color);

@@ -45,25 +45,22 @@ private:
     std::shared_ptr<HostColorList> _list;
 };
 
+/// Reads three hex digits, as `readPlainHex` does.
+[[nodiscard]] std::optional<ByteColor> readShortHex(std::string_view digits);
+
 /// Reads six or three hex digits, with or without "#". The result is that of `ColorTextReader`, but
 /// faster. Returns `std::nullopt` for any other text, even if it is a colour.
 [[nodiscard]] inline std::optional<ByteColor> readPlainHex(std::string_view text)
 {
     if (text.starts_with('#')) text.remove_prefix(1);
+    if (text.size() != 6) return readShortHex(text);
     const auto digit = [text](std::size_t place) { return hexDigitValue(text[place]); };
-    if (text.size() == 6) {
-        const std::uint8_t all = digit(0) | digit(1) | digit(2) | digit(3) | digit(4) | digit(5);
-        if (all > 15) return std::nullopt;
-        const auto byte = [&](std::size_t place) {
-            return static_cast<std::uint8_t>(digit(place) << 4 | digit(place + 1));
-        };
-        return ByteColor{byte(0), byte(2), byte(4)};
-    }
-    if (text.size() != 3 || (digit(0) | digit(1) | digit(2)) > 15) return std::nullopt;
-    const auto doubled = [&](std::size_t place) {
-        return static_cast<std::uint8_t>(digit(place) * 17);
+    const std::uint8_t all = digit(0) | digit(1) | digit(2) | digit(3) | digit(4) | digit(5);
+    if (all > 15) return std::nullopt;
+    const auto byte = [&](std::size_t place) {
+        return static_cast<std::uint8_t>(digit(place) << 4 | digit(place + 1));
     };
-    return ByteColor{doubled(0), doubled(1), doubled(2)};
+    return ByteColor{byte(0), byte(2), byte(4)};
 }
 
 }  // namespace vantorel

@@ -85,7 +85,7 @@ std::optional<CSSColorReading> FunctionReader::read()
         values[i] = *value;
     }
     const auto alpha = readAlpha();
-    if (!alpha || !_parser.readClosing(name(), _function.example)) return std::nullopt;
+    if (!alpha || !_parser.readClosing(_function.name, _function.example)) return std::nullopt;
     if (_hasCommas && !checkCommaForm(values)) return std::nullopt;
 
     CSSColorReading reading;

@@ -149,7 +149,7 @@ std::optional<CSSColorReading> readColorMix(CSSParser& parser, CSSTheme theme)
     const auto first = readMixedColor(parser, theme);
     if (!first || !readComma(parser, mixExample)) return std::nullopt;
     const auto second = readMixedColor(parser, theme);
-    if (!second || !parser.readClosing(u"color-mix()", mixExample)) return std::nullopt;
+    if (!second || !parser.readClosing(u"color-mix", mixExample)) return std::nullopt;
     const auto shares = sharesOf(*first, *second);
     if (!shares) {
         return parser.fail(phrase("color-mix() mixes 0% of both colours"), writeAs(mixExample));
@@ -171,7 +171,7 @@ std::optional<CSSColorReading> readLightDark(CSSParser& parser, CSSTheme theme)
     auto light = readColor(parser, theme);
     if (!light || !readComma(parser, lightDarkExample)) return std::nullopt;
     auto dark = readColor(parser, theme);
-    if (!dark || !parser.readClosing(u"light-dark()", lightDarkExample)) return std::nullopt;
+    if (!dark || !parser.readClosing(u"light-dark", lightDarkExample)) return std::nullopt;
     switch (theme) {
         case CSSTheme::light:
             return light;

@@ -190,9 +190,9 @@ std::optional<CSSColorReading> readColor(CSSParser& parser, CSSTheme theme)
 {
     switch (parser.token().kind) {
         case CSSTokenKind::hash: {
-            const std::u16string digits = parser.token().name;
+            const auto reading = readDigits(parser, parser.token().name);
             parser.advance();
-            return readDigits(parser, digits);
+            return reading;
         }
         case CSSTokenKind::name:
             return readName(parser);
@@ -228,7 +228,8 @@ Result<CSSColor> readCSSColor(std::string_view utf8, CSSTheme theme)
 
 bool startsCSSColorFunction(std::u16string_view text)
 {
-    const CSSToken token = CSSTokenizer(withoutSurroundings(text)).next();
+    CSSToken token;
+    CSSTokenizer(withoutSurroundings(text)).readNext(token);
     return token.kind == CSSTokenKind::function && isColorFunction(token.name);
 }
 

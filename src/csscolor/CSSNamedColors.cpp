@@ -1,5 +1,7 @@
 #include "csscolor/CSSNamedColors.h"
 
+#include "text/ASCII.h"
+
 #include <algorithm>
 #include <array>
 
@@ -177,6 +179,60 @@ static_assert(namedColors.size() == 148);
 static_assert(std::ranges::is_sorted(namedColors, {}, &CSSNamedColor::name));
 static_assert(std::ranges::is_sorted(contextualColors));
 
+constexpr std::size_t longestName =
+    std::ranges::max(namedColors, {}, [](const CSSNamedColor& color) {
+        return color.name.size();
+    }).name.size();
+
+/// The indices of `namedColors` at the hashes of their names, or at the next free places after
+/// them. A lookup compares one name, or few; a binary search compares seven, and the processor
+/// predicts none of its branches.
+using NameTable = std::array<std::uint8_t, 512>;
+constexpr std::uint8_t noName = 0xFF;
+
+/// Returns `std::nullopt` at the first character that is not a letter: no name has one, but what
+/// begins a function soon has.
+template <TextUnit Unit>
+constexpr std::optional<std::size_t> placeOfName(std::basic_string_view<Unit> name)
+{
+    std::size_t hash = 0;
+    for (const Unit unit : name) {
+        if (!isLetter(unit)) return std::nullopt;
+        hash = hash * 31 + static_cast<std::size_t>(lowerCase(unit));
+    }
+    return hash % NameTable{}.size();
+}
+
+constexpr std::size_t placeAfter(std::size_t place)
+{
+    return (place + 1) % NameTable{}.size();
+}
+
+constexpr NameTable nameTable = [] {
+    NameTable table{};
+    table.fill(noName);
+    for (std::size_t i = 0; i < namedColors.size(); ++i) {
+        std::size_t place = placeOfName(namedColors[i].name).value();
+        while (table[place] != noName)
+            place = placeAfter(place);
+        table[place] = static_cast<std::uint8_t>(i);
+    }
+    return table;
+}();
+
+template <TextUnit Unit>
+std::optional<std::uint32_t> valueOfName(std::basic_string_view<Unit> name)
+{
+    if (name.size() > longestName) return std::nullopt;
+    const auto first = placeOfName(name);
+    if (!first) return std::nullopt;
+    for (std::size_t place = *first; nameTable[place] != noName; place = placeAfter(place)) {
+        const CSSNamedColor& color = namedColors[nameTable[place]];
+        if (std::ranges::equal(color.name, name, {}, {}, lowerCase<Unit>)) return color.value;
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::span<const CSSNamedColor> cssNamedColors()
@@ -193,9 +249,12 @@ std::optional<std::u16string_view> cssNameOfColor(std::uint64_t value)
 
 std::optional<std::uint32_t> cssNamedColor(std::u16string_view name)
 {
-    const auto found = std::ranges::lower_bound(namedColors, name, {}, &CSSNamedColor::name);
-    if (found == namedColors.end() || found->name != name) return std::nullopt;
-    return found->value;
+    return valueOfName(name);
+}
+
+std::optional<std::uint32_t> cssNamedColor(std::string_view name)
+{
+    return valueOfName(name);
 }
 
 bool isContextualCSSColor(std::u16string_view keyword)

@@ -41,10 +41,12 @@ bool CSSParser::isCharacter(char16_t character) const
 bool CSSParser::readClosing(std::u16string_view function, std::u16string_view example)
 {
     if (skip(CSSTokenKind::closeParenthesis)) return true;
+    // Only now is the name put together, because nearly all functions are closed.
+    const std::u16string name = std::u16string(function) + u"()";
     if (is(CSSTokenKind::end)) {
-        failUnclosed(function);
+        failUnclosed(name);
     } else {
-        failAtToken(phrase("Instead of the \")\" of %1 there is \"%2\"", function, quoted()),
+        failAtToken(phrase("Instead of the \")\" of %1 there is \"%2\"", name, quoted()),
                     writeAs(example));
     }
     return false;
@@ -83,7 +85,7 @@ std::u16string CSSParser::quotedRest() const
 
 std::nullopt_t CSSParser::fail(Phrase what, Phrase remedy)
 {
-    _error = {std::move(what), std::move(remedy)};
+    _error = Message{std::move(what), std::move(remedy)};
     return std::nullopt;
 }
 

@@ -25,7 +25,7 @@ public:
     void advance()
     {
         _previousEnd = _token.end;
-        _token = _tokens.next();
+        _tokens.readNext(_token);
     }
     /// Skips a token of a kind. Returns false if the token is another one.
     bool skip(CSSTokenKind kind)
@@ -34,8 +34,8 @@ public:
         advance();
         return true;
     }
-    /// Skips the ")" of a function, which has a name such as "rgb()" in messages. Returns false,
-    /// with an error, if there is another token.
+    /// Skips the ")" of a function, which has a name such as "rgb". Returns false, with an error,
+    /// if there is another token.
     bool readClosing(std::u16string_view function, std::u16string_view example);
     /// Whether there is white space on both sides of the token.
     [[nodiscard]] bool isSpacedApart() const;
@@ -54,8 +54,9 @@ public:
     std::nullopt_t failAtToken(Phrase what, Phrase remedy = {});
     /// Fails because the text ends before the ")" of a function.
     std::nullopt_t failUnclosed(std::u16string_view function);
-    [[nodiscard]] bool hasFailed() const { return !_error.what.isEmpty(); }
-    [[nodiscard]] Message takeError() { return std::move(_error); }
+    [[nodiscard]] bool hasFailed() const { return _error.has_value(); }
+    /// Returns the error, which must have been set.
+    [[nodiscard]] Message takeError() { return *std::move(_error); }
 
     /// Counts how deep functions and parentheses are nested while it exists. If that is too deep
     /// for the stack, it is false and the parser has failed.
@@ -83,7 +84,7 @@ private:
     CSSToken _token;
     std::size_t _previousEnd = 0;
     int _depth = 0;
-    Message _error;
+    std::optional<Message> _error;
 };
 
 /// Returns "write "EXAMPLE"".

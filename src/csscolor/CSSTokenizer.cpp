@@ -8,18 +8,28 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <optional>
 
 namespace vantorel {
 namespace {
 
-bool isNameStart(char16_t c)
+constexpr bool isNameStart(char16_t c)
 {
     return isLetter(c) || c == u'_' || c >= 0x80;
 }
 
+/// Which characters of ASCII can be part of a name. A table, because names are read by the
+/// character.
+constexpr auto nameCharacters = [] {
+    std::array<bool, 0x80> table{};
+    for (char16_t c = 0; c < table.size(); ++c)
+        table[c] = isNameStart(c) || isDigit(c) || c == u'-';
+    return table;
+}();
+
 bool isNameCharacter(char16_t c)
 {
-    return isNameStart(c) || isDigit(c) || c == u'-';
+    return c >= nameCharacters.size() || nameCharacters[c];
 }
 
 bool isSign(char16_t c)
@@ -40,11 +50,40 @@ std::int64_t exponentOf(std::u16string_view text)
     return negative ? -value : value;
 }
 
+/// Returns the value of a number of few digits without an exponent, as nearly all are;
+/// `std::nullopt` for others. The digits and the power of ten are both exact in double precision,
+/// so their quotient is the double nearest to the number, as it is with std::from_chars.
+std::optional<double> valueOfFewDigits(std::u16string_view text)
+{
+    // Below 2^53 with any digits.
+    constexpr std::size_t mostDigits = 15;
+    static constexpr std::array<double, mostDigits + 1> powersOfTen{
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool negative = text.front() == u'-';
+    if (isSign(text.front())) text.remove_prefix(1);
+    if (text.size() > mostDigits) return std::nullopt;
+    std::int64_t digits = 0;
+    std::size_t fraction = 0;
+    bool afterPoint = false;
+    for (const char16_t c : text) {
+        if (isDigit(c)) {
+            digits = digits * 10 + (c - u'0');
+            if (afterPoint) ++fraction;
+        } else if (c == u'.') {
+            afterPoint = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return static_cast<double>(negative ? -digits : digits) / powersOfTen[fraction];
+}
+
 /// Returns the value of a CSS number (CSS Syntax 3, section 4.3.13). For values out of range,
 /// std::from_chars does not report whether they are too large or too small, and a text may have
 /// millions of digits. So it gets only the significant digits, in a form that is always in range.
 double numberValue(std::u16string_view text)
 {
+    if (const auto value = valueOfFewDigits(text)) return *value;
     constexpr std::size_t mostDigits = 40;
     constexpr std::int64_t pastLargest = 40;
     constexpr std::int64_t pastSmallest = -300;
@@ -83,6 +122,29 @@ double numberValue(std::u16string_view text)
     return negative ? -value : value;
 }
 
+/// Returns the kind of a token by its first character, if this cannot begin a number or a name.
+std::optional<CSSTokenKind> kindOfPunctuation(char16_t c)
+{
+    switch (c) {
+        case u'#':
+            return CSSTokenKind::hash;
+        case u',':
+            return CSSTokenKind::comma;
+        case u'/':
+            return CSSTokenKind::slash;
+        case u':':
+            return CSSTokenKind::colon;
+        case u';':
+            return CSSTokenKind::semicolon;
+        case u'(':
+            return CSSTokenKind::openParenthesis;
+        case u')':
+            return CSSTokenKind::closeParenthesis;
+        default:
+            return std::nullopt;
+    }
+}
+
 }  // namespace
 
 bool isCSSWhiteSpace(char16_t character)
@@ -91,9 +153,10 @@ bool isCSSWhiteSpace(char16_t character)
            character == u'\f';
 }
 
-CSSToken CSSTokenizer::next()
+void CSSTokenizer::readNext(CSSToken& token)
 {
-    CSSToken token;
+    token.number = 0;
+    token.name.clear();
     const bool blanksEnd = skipBlanks();
     token.begin = _place;
     if (!blanksEnd) {
@@ -101,6 +164,10 @@ CSSToken CSSTokenizer::next()
         _place = _text.size();
     } else if (_place == _text.size()) {
         token.kind = CSSTokenKind::end;
+    } else if (const auto kind = kindOfPunctuation(at(_place))) {
+        token.kind = *kind;
+        ++_place;
+        if (kind == CSSTokenKind::hash) readName(token.name);
     } else if (startsNumber(_place)) {
         skipNumber();
         token.number = numberValue(_text.substr(token.begin, _place - token.begin));
@@ -110,47 +177,20 @@ CSSToken CSSTokenizer::next()
             ++_place;
         } else if (startsName(_place)) {
             token.kind = CSSTokenKind::dimension;
-            token.name = readName();
+            readName(token.name);
         }
     } else if (startsName(_place)) {
         token.kind = CSSTokenKind::name;
-        token.name = readName();
+        readName(token.name);
         if (at(_place) == u'(') {
             token.kind = CSSTokenKind::function;
             ++_place;
         }
     } else {
-        const char16_t c = at(_place);
+        token.kind = CSSTokenKind::other;
         ++_place;
-        switch (c) {
-            case u'#':
-                token.kind = CSSTokenKind::hash;
-                token.name = readName();
-                break;
-            case u',':
-                token.kind = CSSTokenKind::comma;
-                break;
-            case u'/':
-                token.kind = CSSTokenKind::slash;
-                break;
-            case u':':
-                token.kind = CSSTokenKind::colon;
-                break;
-            case u';':
-                token.kind = CSSTokenKind::semicolon;
-                break;
-            case u'(':
-                token.kind = CSSTokenKind::openParenthesis;
-                break;
-            case u')':
-                token.kind = CSSTokenKind::closeParenthesis;
-                break;
-            default:
-                token.kind = CSSTokenKind::other;
-        }
     }
     token.end = _place;
-    return token;
 }
 
 bool CSSTokenizer::skipBlanks()
@@ -191,19 +231,18 @@ bool CSSTokenizer::startsNumber(std::size_t index) const
     return isDigit(at(index));
 }
 
-std::u16string CSSTokenizer::readName()
+/// `name` must be empty.
+void CSSTokenizer::readName(std::u16string& name)
 {
-    std::u16string name;
     for (;;) {
-        if (isNameCharacter(at(_place))) {
-            name += lowerCase(at(_place));
+        const std::size_t begin = _place;
+        while (isNameCharacter(at(_place)))
             ++_place;
-        } else if (startsEscape(_place)) {
-            appendEscaped(name);
-        } else {
-            return name;
-        }
+        name += _text.substr(begin, _place - begin);
+        if (!startsEscape(_place)) break;
+        appendEscaped(name);
     }
+    std::ranges::transform(name, name.begin(), lowerCase<char16_t>);
 }
 
 void CSSTokenizer::appendEscaped(std::u16string& name)
@@ -211,7 +250,7 @@ void CSSTokenizer::appendEscaped(std::u16string& name)
     constexpr std::size_t mostHexDigits = 6;
     ++_place;
     if (!isHexDigit(at(_place))) {
-        name += lowerCase(at(_place));
+        name += at(_place);
         ++_place;
         return;
     }
@@ -220,7 +259,7 @@ void CSSTokenizer::appendEscaped(std::u16string& name)
         character = character * 16 + hexDigitValue(at(_place));
         ++_place;
     }
-    appendUtf16(name, character == 0 ? char32_t{replacementCharacter} : lowerCase(character));
+    appendUtf16(name, character == 0 ? char32_t{replacementCharacter} : character);
     if (at(_place) == u'\r' && at(_place + 1) == u'\n') ++_place;
     if (isCSSWhiteSpace(at(_place))) ++_place;
 }

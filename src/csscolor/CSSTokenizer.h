@@ -55,7 +55,8 @@ public:
     /// `text` must outlive the tokenizer.
     explicit CSSTokenizer(std::u16string_view text) : _text(text) {}
 
-    [[nodiscard]] CSSToken next();
+    /// Reads the next token into `token`, whose name keeps its memory.
+    void readNext(CSSToken& token);
 
     /// Skips white space and comments. Returns false at a comment that is not closed.
     bool skipBlanks();
@@ -67,7 +68,7 @@ private:
     [[nodiscard]] bool startsEscape(std::size_t index) const;
     [[nodiscard]] bool startsName(std::size_t index) const;
     [[nodiscard]] bool startsNumber(std::size_t index) const;
-    [[nodiscard]] std::u16string readName();
+    void readName(std::u16string& name);
     void appendEscaped(std::u16string& name);
     void skipNumber();
 

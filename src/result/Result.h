@@ -59,8 +59,9 @@ private:
 /// Success, or a message that explains the failure.
 class [[nodiscard]] Status {
 public:
-    /// Success.
-    Status() = default;
+    /// Success. Not defaulted, because `return {}` would then also clear the room for a message,
+    /// for each line of a stream.
+    Status() {}
     // NOLINTNEXTLINE(google-explicit-constructor): so that a function can return the message.
     Status(Message message) : _error(std::move(message)) {}
 

@@ -1,5 +1,8 @@
 #include "colortext/ColorTextReader.h"
 
+#include "csscolor/CSSNamedColors.h"
+#include "text/ASCII.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -34,6 +37,22 @@ TEST(ColorTextReaderTest, TheFastPathAgreesWithTheSlowOneOrDefersToIt)
     for (const char* text : {"", "#", "#1", "12", "1234", "#12345", "#1234567", "12345678",
                              "#12345g", "##1234", "#12 456", "ggg", "\xFF\xFF\xFF"})
         EXPECT_FALSE(readPlainHex(text)) << text;
+}
+
+TEST(ColorTextReaderTest, ANameOfCSSIsTheSameWithABlankBeforeIt)
+{
+    // The name alone takes a shorter way.
+    ColorTextReader reader([] { return nullptr; });
+    for (const CSSNamedColor& color : cssNamedColors()) {
+        const std::string name(color.name.begin(), color.name.end());
+        for (const std::string& text : {name, upperCased(name)}) {
+            const auto read = reader.read(text);
+            ASSERT_TRUE(read) << text;
+            EXPECT_EQ(codeOf(read), codeOf(reader.read(' ' + text))) << text;
+            EXPECT_EQ(read->alpha, 1) << text;
+            EXPECT_FALSE(read->wasOutsideSRGB) << text;
+        }
+    }
 }
 
 TEST(ColorTextReaderTest, ChannelsAreRoundedAsInBrowsers)

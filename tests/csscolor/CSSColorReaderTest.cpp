@@ -1,12 +1,15 @@
 #include "csscolor/CSSColorReader.h"
 
 #include "csscolor/CSSNamedColors.h"
+#include "text/ASCII.h"
 #include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <ostream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -317,6 +320,43 @@ TEST(CSSColorReaderTest, NamedColoursHaveTheirValues)
     }
     EXPECT_FALSE(cssNamedColor(u"zinc"));
     EXPECT_FALSE(cssNamedColor(u""));
+}
+
+TEST(CSSColorReaderTest, EveryNameIsFoundInAnyCaseAndNothingLikeIt)
+{
+    for (const CSSNamedColor& color : cssNamedColors()) {
+        const std::u16string name(color.name);
+        const std::string ascii(name.begin(), name.end());
+        EXPECT_EQ(cssNamedColor(name), color.value) << ascii;
+        EXPECT_EQ(cssNamedColor(ascii), color.value) << ascii;
+        EXPECT_EQ(cssNamedColor(upperCased(name)), color.value) << ascii;
+        EXPECT_EQ(cssNamedColor(upperCased(ascii)), color.value) << ascii;
+        for (const std::string& other :
+             {ascii + 'x', ascii + ' ', ' ' + ascii, ascii + '1', ascii + '\0', "\xE9" + ascii,
+              ascii.substr(1) + '\xE9', ascii + std::string(1 << 16, 'x')}) {
+            EXPECT_FALSE(cssNamedColor(other)) << ascii;
+        }
+        EXPECT_FALSE(cssNamedColor(name + u'\u0130')) << ascii;
+    }
+}
+
+TEST(CSSColorReaderTest, NumbersAreReadAsTheNearestDouble)
+{
+    std::mt19937 random(13);
+    const auto below = [&random](std::size_t limit) { return random() % limit; };
+    for (int i = 0; i < 20'000; ++i) {
+        std::string number = below(2) == 0 ? "" : "-";
+        for (std::size_t digits = below(18); digits > 0; --digits)
+            number += static_cast<char>('0' + below(10));
+        number += '.';
+        for (std::size_t digits = 1 + below(18); digits > 0; --digits)
+            number += static_cast<char>('0' + below(10));
+        const auto color = readCSSColor("color(srgb " + number + " 0 0)");
+        ASSERT_TRUE(color) << number;
+        EXPECT_EQ(color->value.components[0], std::strtod(number.c_str(), nullptr)) << number;
+    }
+    // A zero has no sign.
+    EXPECT_FALSE(std::signbit(readCSSColor("color(srgb -0.0 0 0)")->value.components[0]));
 }
 
 TEST(CSSColorReaderTest, BothSpellingsOfGreyNameOneColour)
