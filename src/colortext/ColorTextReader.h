@@ -45,7 +45,8 @@ private:
     std::shared_ptr<HostColorList> _list;
 };
 
-/// Reads three hex digits, as `readPlainHex` does.
+/// Reads three hex digits, as `readPlainHex` does. A function of its own, so that the compiler
+/// inlines the other, which reads each line of a long stream.
 [[nodiscard]] std::optional<ByteColor> readShortHex(std::string_view digits);
 
 /// Reads six or three hex digits, with or without "#". The result is that of `ColorTextReader`, but

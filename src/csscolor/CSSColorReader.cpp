@@ -190,7 +190,7 @@ std::optional<CSSColorReading> readColor(CSSParser& parser, CSSTheme theme)
 {
     switch (parser.token().kind) {
         case CSSTokenKind::hash: {
-            const auto reading = readDigits(parser, parser.token().name);
+            auto reading = readDigits(parser, parser.token().name);
             parser.advance();
             return reading;
         }
