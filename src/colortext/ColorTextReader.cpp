@@ -60,7 +60,7 @@ Result<CSSColor> ColorTextReader::readUnrounded(std::string_view utf8)
     Result<CSSColor> css = readCSSColor(std::u16string_view(text), _theme);
     if (css) return css;
     const auto other = readOtherForm(text);
-    if (!other) return css;
+    if (!other) return std::move(css).error();
     CSSColor color;
     color.color = *other;
     if (const auto rgb = other->calibratedRGB()) {

@@ -208,7 +208,8 @@ constexpr std::size_t placeAfter(std::size_t place)
     return (place + 1) % NameTable{}.size();
 }
 
-constexpr NameTable nameTable = [] {
+constexpr NameTable tableOfNames()
+{
     NameTable table{};
     table.fill(noName);
     for (std::size_t i = 0; i < namedColors.size(); ++i) {
@@ -218,7 +219,9 @@ constexpr NameTable nameTable = [] {
         table[place] = static_cast<std::uint8_t>(i);
     }
     return table;
-}();
+}
+
+constexpr NameTable nameTable = tableOfNames();
 
 template <TextUnit Unit>
 std::optional<std::uint32_t> valueOfName(std::basic_string_view<Unit> name)

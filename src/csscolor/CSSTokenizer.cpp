@@ -18,14 +18,18 @@ constexpr bool isNameStart(char16_t c)
     return isLetter(c) || c == u'_' || c >= 0x80;
 }
 
-/// Which characters of ASCII can be part of a name. A table, because names are read by the
-/// character.
-constexpr auto nameCharacters = [] {
-    std::array<bool, 0x80> table{};
+using CharacterTable = std::array<bool, 0x80>;
+
+constexpr CharacterTable charactersOfNames()
+{
+    CharacterTable table{};
     for (char16_t c = 0; c < table.size(); ++c)
         table[c] = isNameStart(c) || isDigit(c) || c == u'-';
     return table;
-}();
+}
+
+/// Which characters of ASCII can be part of a name.
+constexpr CharacterTable nameCharacters = charactersOfNames();
 
 bool isNameCharacter(char16_t c)
 {

@@ -4,7 +4,7 @@
 
 namespace vantorel {
 
-void PaletteRecord::readIfChanged(HostFiles& files)
+void PaletteRecord::readIfChanged(const HostFiles& files)
 {
     // Read the version first, so that a later change is noticed the next time.
     const std::uint64_t versionNow = files.versionAtPath(path);
@@ -24,7 +24,7 @@ void PaletteRecord::setContents(std::optional<EntriesReader::File> file)
 }
 
 void PaletteRecord::setWritten(const PaletteState& written, const std::string& text,
-                               HostFiles& files)
+                               const HostFiles& files)
 {
     version = files.versionAtPath(path);
     state = written;
@@ -34,7 +34,7 @@ void PaletteRecord::setWritten(const PaletteState& written, const std::string& t
     if (files.contentsAtPath(path) != text) version = 0;
 }
 
-bool PaletteRecord::isUnreadable(HostFiles& files) const
+bool PaletteRecord::isUnreadable(const HostFiles& files) const
 {
     return version == 0 && files.kindAtPath(path) != HostFileKind::none;
 }

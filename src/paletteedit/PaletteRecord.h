@@ -24,14 +24,14 @@ struct PaletteRecord {
     [[nodiscard]] bool isOwn() const { return program.empty(); }
     /// Reads the file, unless it has not changed since it was last read. Afterwards the version is
     /// 0 if there is no file that can be read.
-    void readIfChanged(HostFiles& files);
+    void readIfChanged(const HostFiles& files);
     /// Takes in what a reader has found in the file; `std::nullopt` if it is not a palette.
     void setContents(std::optional<EntriesReader::File> file);
     /// Takes in that `written` has just been written to the file as `text`.
-    void setWritten(const PaletteState& written, const std::string& text, HostFiles& files);
+    void setWritten(const PaletteState& written, const std::string& text, const HostFiles& files);
     /// Returns whether something that cannot be read exists at the path. Such a list must not be
     /// treated as removed.
-    [[nodiscard]] bool isUnreadable(HostFiles& files) const;
+    [[nodiscard]] bool isUnreadable(const HostFiles& files) const;
 };
 
 }  // namespace vantorel
