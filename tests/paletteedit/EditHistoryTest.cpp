@@ -55,6 +55,40 @@ TEST(EditHistoryTest, StepsOfHugeListsDoNotFillTheMemory)
     EXPECT_EQ(count, 10U);
 }
 
+TEST(EditHistoryTest, TheLastStepIsKeptHoweverHugeItIs)
+{
+    EditHistory history;
+    history.record(stepWithEntries(1, EditHistory::mostEntries + 1));
+    ASSERT_TRUE(history.canUndo());
+    history.record(stepWithEntries(2, 1));
+    ASSERT_TRUE(history.canUndo());
+    EXPECT_EQ(history.lastDone().list, 2U);
+    history.moveToUndone();
+    EXPECT_FALSE(history.canUndo());
+}
+
+TEST(EditHistoryTest, StepsThatCannotBeRedoneAreForgotten)
+{
+    EditHistory history;
+    const EditStep tenth = stepWithEntries(1, EditHistory::mostEntries / 10);
+    for (int round = 0; round < 3; ++round) {
+        for (int i = 0; i < 10; ++i)
+            history.record(tenth);
+        int count = 0;
+        for (; history.canUndo(); ++count)
+            history.moveToUndone();
+        EXPECT_EQ(count, 10) << "round " << round;
+    }
+    // A step that removes a list counts with the list as it was.
+    const EditStep removal{1, tenth.after, std::nullopt};
+    for (int i = 0; i < 11; ++i)
+        history.record(removal);
+    int count = 0;
+    for (; history.canUndo(); ++count)
+        history.moveToUndone();
+    EXPECT_EQ(count, 10);
+}
+
 TEST(EditHistoryTest, ThirtyThousandEntriesCanBeChangedTwoHundredTimes)
 {
     EditHistory history;

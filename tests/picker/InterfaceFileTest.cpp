@@ -119,6 +119,7 @@ TEST(InterfaceFileTest, FramesAndFontSizesHaveLimits)
     EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}", "0"));
     EXPECT_FALSE(isRead("{{0, 0}, {1, 1}}", "12pt"));
     EXPECT_TRUE(isRead("{{0, 0}, {1, 1}}", "0.5"));
+    EXPECT_TRUE(isRead("{{0, 0}, {0, 0}}", "12"));
 }
 
 TEST(InterfaceFileTest, DamagedFilesAreReadWithoutCrashing)
