@@ -1962,6 +1962,104 @@ hex, rgb, hsl und hwb fassen nur sRGB; andere Farben werden abgebildet, wie CSS 
         <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
         <translation>Die Einstellungen des Fensters. Ist die Variable nicht gesetzt, ist der Ordner ~/.config/Vantorel/.</translation>
     </message>
+    <message>
+        <source>The form to write, as for &quot;convert&quot;. The default is hex.</source>
+        <translation>Die Form, die geschrieben wird, wie bei „convert“. Voreingestellt ist hex.</translation>
+    </message>
+    <message>
+        <source>The colour space to mix in, by its name in color-mix(). The default is oklab.</source>
+        <translation>Der Farbraum, in dem gemischt wird, mit seinem Namen in color-mix(). Voreingestellt ist oklab.</translation>
+    </message>
+    <message>
+        <source>Which way around the circle hues are mixed: shorter (the default), longer, increasing or decreasing.</source>
+        <translation>In welcher Richtung Farbtöne um den Kreis gemischt werden: shorter (voreingestellt), longer, increasing oder decreasing.</translation>
+    </message>
+    <message>
+        <source>The colour to mix in.</source>
+        <translation>Die Farbe, die beigemischt wird.</translation>
+    </message>
+    <message>
+        <source>The colours to mix it with; read as for &quot;show&quot;.</source>
+        <translation>Die Farben, mit denen sie gemischt wird; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>The share of BASE, from 0 to 1, or as a percentage. The default is 0.5.</source>
+        <translation>Der Anteil von BASE, von 0 bis 1 oder in Prozent. Voreingestellt ist 0.5.</translation>
+    </message>
+    <message>
+        <source>The colours of the gradient, at least two; read as for &quot;show&quot;.</source>
+        <translation>Die Farben des Verlaufs, mindestens zwei; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>How many colours to write, with the first and the last. The default is 10.</source>
+        <translation>Wie viele Farben geschrieben werden, mit der ersten und der letzten. Voreingestellt ist 10.</translation>
+    </message>
+    <message>
+        <source>How much, from 0 to 1, or as a percentage.</source>
+        <translation>Wie viel, von 0 bis 1 oder in Prozent.</translation>
+    </message>
+    <message>
+        <source>The colours to change; read as for &quot;show&quot;.</source>
+        <translation>Die Farben, die geändert werden; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>The angle in degrees; negative ones turn back.</source>
+        <translation>Der Winkel in Grad; negative drehen zurück.</translation>
+    </message>
+    <message>
+        <source>The colour space to compute in: hsl (the default), oklch or lch. In oklch, equal amounts look equal, and colours outside sRGB are kept.</source>
+        <translation>Der Farbraum, in dem gerechnet wird: hsl (voreingestellt), oklch oder lch. In oklch wirken gleiche Schritte gleich groß, und Farben außerhalb von sRGB bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Mix a colour with others, and write each result on a line of its own.</source>
+        <translation>Mischt eine Farbe mit anderen und schreibt jedes Ergebnis in eine eigene Zeile.</translation>
+    </message>
+    <message>
+        <source>Write the colours of an even gradient through the given colours, one per line.</source>
+        <translation>Schreibt die Farben eines gleichmäßigen Verlaufs durch die Farben, eine je Zeile.</translation>
+    </message>
+    <message>
+        <source>Add to the lightness of each colour.</source>
+        <translation>Erhöht die Helligkeit jeder Farbe.</translation>
+    </message>
+    <message>
+        <source>Subtract from the lightness of each colour.</source>
+        <translation>Verringert die Helligkeit jeder Farbe.</translation>
+    </message>
+    <message>
+        <source>Add to the saturation of each colour.
+A grey has no hue to saturate, and stays grey.</source>
+        <translation>Erhöht die Sättigung jeder Farbe.
+Ein Grau hat keinen Farbton, der sich sättigen ließe, und bleibt grau.</translation>
+    </message>
+    <message>
+        <source>Subtract from the saturation of each colour.</source>
+        <translation>Verringert die Sättigung jeder Farbe.</translation>
+    </message>
+    <message>
+        <source>Turn the hue of each colour.</source>
+        <translation>Dreht den Farbton jeder Farbe.</translation>
+    </message>
+    <message>
+        <source>Write the complement of each colour, whose hue is turned by 180 degrees.</source>
+        <translation>Schreibt die Komplementärfarbe jeder Farbe; ihr Farbton ist um 180 Grad gedreht.</translation>
+    </message>
+    <message>
+        <source>a gradient needs at least two colours</source>
+        <translation>ein Verlauf braucht mindestens zwei Farben</translation>
+    </message>
+    <message>
+        <source>give its first and its last colour</source>
+        <translation>geben Sie die erste und die letzte an</translation>
+    </message>
+    <message>
+        <source>use a number from 0 to 1, or a percentage such as 20%</source>
+        <translation>verwenden Sie eine Zahl von 0 bis 1 oder einen Prozentwert wie 20%</translation>
+    </message>
+    <message>
+        <source>use a number of degrees, such as 90 or -22.5</source>
+        <translation>verwenden Sie eine Zahl von Grad wie 90 oder -22.5</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -1962,6 +1962,104 @@ hex, rgb, hsl y hwb solo admiten sRGB, así que los demás colores se ajustan co
         <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
         <translation>Las preferencias del panel. Si la variable no está definida, la carpeta es ~/.config/Vantorel/.</translation>
     </message>
+    <message>
+        <source>The form to write, as for &quot;convert&quot;. The default is hex.</source>
+        <translation>La forma que se escribe, como en «convert». Por omisión, hex.</translation>
+    </message>
+    <message>
+        <source>The colour space to mix in, by its name in color-mix(). The default is oklab.</source>
+        <translation>El espacio de color en que se mezcla, por su nombre en color-mix(). Por omisión, oklab.</translation>
+    </message>
+    <message>
+        <source>Which way around the circle hues are mixed: shorter (the default), longer, increasing or decreasing.</source>
+        <translation>El sentido en que se mezclan los tonos en el círculo: shorter (por omisión), longer, increasing o decreasing.</translation>
+    </message>
+    <message>
+        <source>The colour to mix in.</source>
+        <translation>El color que se añade.</translation>
+    </message>
+    <message>
+        <source>The colours to mix it with; read as for &quot;show&quot;.</source>
+        <translation>Los colores con los que se mezcla; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>The share of BASE, from 0 to 1, or as a percentage. The default is 0.5.</source>
+        <translation>La parte de BASE, de 0 a 1 o en porcentaje. Por omisión, 0.5.</translation>
+    </message>
+    <message>
+        <source>The colours of the gradient, at least two; read as for &quot;show&quot;.</source>
+        <translation>Los colores del degradado, dos como mínimo; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>How many colours to write, with the first and the last. The default is 10.</source>
+        <translation>Cuántos colores se escriben, con el primero y el último. Por omisión, 10.</translation>
+    </message>
+    <message>
+        <source>How much, from 0 to 1, or as a percentage.</source>
+        <translation>Cuánto, de 0 a 1 o en porcentaje.</translation>
+    </message>
+    <message>
+        <source>The colours to change; read as for &quot;show&quot;.</source>
+        <translation>Los colores que se cambian; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>The angle in degrees; negative ones turn back.</source>
+        <translation>El ángulo en grados; si es negativo, gira hacia atrás.</translation>
+    </message>
+    <message>
+        <source>The colour space to compute in: hsl (the default), oklch or lch. In oklch, equal amounts look equal, and colours outside sRGB are kept.</source>
+        <translation>El espacio de color en que se calcula: hsl (por omisión), oklch o lch. En oklch, los pasos iguales parecen iguales y los colores fuera de sRGB se conservan.</translation>
+    </message>
+    <message>
+        <source>Mix a colour with others, and write each result on a line of its own.</source>
+        <translation>Mezcla un color con otros y escribe cada resultado en una línea propia.</translation>
+    </message>
+    <message>
+        <source>Write the colours of an even gradient through the given colours, one per line.</source>
+        <translation>Escribe los colores de un degradado uniforme entre los colores dados, uno por línea.</translation>
+    </message>
+    <message>
+        <source>Add to the lightness of each colour.</source>
+        <translation>Aumenta la luminosidad de cada color.</translation>
+    </message>
+    <message>
+        <source>Subtract from the lightness of each colour.</source>
+        <translation>Reduce la luminosidad de cada color.</translation>
+    </message>
+    <message>
+        <source>Add to the saturation of each colour.
+A grey has no hue to saturate, and stays grey.</source>
+        <translation>Aumenta la saturación de cada color.
+Un gris no tiene tono que saturar y sigue siendo gris.</translation>
+    </message>
+    <message>
+        <source>Subtract from the saturation of each colour.</source>
+        <translation>Reduce la saturación de cada color.</translation>
+    </message>
+    <message>
+        <source>Turn the hue of each colour.</source>
+        <translation>Gira el tono de cada color.</translation>
+    </message>
+    <message>
+        <source>Write the complement of each colour, whose hue is turned by 180 degrees.</source>
+        <translation>Escribe el complementario de cada color, cuyo tono está girado 180 grados.</translation>
+    </message>
+    <message>
+        <source>a gradient needs at least two colours</source>
+        <translation>un degradado necesita dos colores como mínimo</translation>
+    </message>
+    <message>
+        <source>give its first and its last colour</source>
+        <translation>indique el primero y el último</translation>
+    </message>
+    <message>
+        <source>use a number from 0 to 1, or a percentage such as 20%</source>
+        <translation>use un número de 0 a 1 o un porcentaje como 20%</translation>
+    </message>
+    <message>
+        <source>use a number of degrees, such as 90 or -22.5</source>
+        <translation>use un número de grados como 90 o -22.5</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

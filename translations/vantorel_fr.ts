@@ -1962,6 +1962,104 @@ hex, rgb, hsl et hwb ne contiennent que du sRGB ; les autres couleurs sont ramen
         <source>The preferences of the panel. If the variable is not set, the folder is ~/.config/Vantorel/.</source>
         <translation>Les préférences du panneau. Si la variable n’est pas définie, le dossier est ~/.config/Vantorel/.</translation>
     </message>
+    <message>
+        <source>The form to write, as for &quot;convert&quot;. The default is hex.</source>
+        <translation>La forme à écrire, comme pour « convert ». Par défaut : hex.</translation>
+    </message>
+    <message>
+        <source>The colour space to mix in, by its name in color-mix(). The default is oklab.</source>
+        <translation>L&apos;espace de couleurs du mélange, par son nom dans color-mix(). Par défaut : oklab.</translation>
+    </message>
+    <message>
+        <source>Which way around the circle hues are mixed: shorter (the default), longer, increasing or decreasing.</source>
+        <translation>Le sens dans lequel les teintes sont mélangées sur le cercle : shorter (par défaut), longer, increasing ou decreasing.</translation>
+    </message>
+    <message>
+        <source>The colour to mix in.</source>
+        <translation>La couleur à ajouter.</translation>
+    </message>
+    <message>
+        <source>The colours to mix it with; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs avec lesquelles la mélanger ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>The share of BASE, from 0 to 1, or as a percentage. The default is 0.5.</source>
+        <translation>La part de BASE, de 0 à 1 ou en pourcentage. Par défaut : 0.5.</translation>
+    </message>
+    <message>
+        <source>The colours of the gradient, at least two; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs du dégradé, deux au moins ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>How many colours to write, with the first and the last. The default is 10.</source>
+        <translation>Le nombre de couleurs à écrire, la première et la dernière comprises. Par défaut : 10.</translation>
+    </message>
+    <message>
+        <source>How much, from 0 to 1, or as a percentage.</source>
+        <translation>La quantité, de 0 à 1 ou en pourcentage.</translation>
+    </message>
+    <message>
+        <source>The colours to change; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs à modifier ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>The angle in degrees; negative ones turn back.</source>
+        <translation>L&apos;angle en degrés ; un angle négatif tourne en arrière.</translation>
+    </message>
+    <message>
+        <source>The colour space to compute in: hsl (the default), oklch or lch. In oklch, equal amounts look equal, and colours outside sRGB are kept.</source>
+        <translation>L&apos;espace de couleurs du calcul : hsl (par défaut), oklch ou lch. En oklch, des pas égaux paraissent égaux et les couleurs hors de sRGB sont conservées.</translation>
+    </message>
+    <message>
+        <source>Mix a colour with others, and write each result on a line of its own.</source>
+        <translation>Mélange une couleur avec d&apos;autres et écrit chaque résultat sur sa propre ligne.</translation>
+    </message>
+    <message>
+        <source>Write the colours of an even gradient through the given colours, one per line.</source>
+        <translation>Écrit les couleurs d&apos;un dégradé régulier passant par les couleurs données, une par ligne.</translation>
+    </message>
+    <message>
+        <source>Add to the lightness of each colour.</source>
+        <translation>Augmente la clarté de chaque couleur.</translation>
+    </message>
+    <message>
+        <source>Subtract from the lightness of each colour.</source>
+        <translation>Diminue la clarté de chaque couleur.</translation>
+    </message>
+    <message>
+        <source>Add to the saturation of each colour.
+A grey has no hue to saturate, and stays grey.</source>
+        <translation>Augmente la saturation de chaque couleur.
+Un gris n&apos;a pas de teinte à saturer et reste gris.</translation>
+    </message>
+    <message>
+        <source>Subtract from the saturation of each colour.</source>
+        <translation>Diminue la saturation de chaque couleur.</translation>
+    </message>
+    <message>
+        <source>Turn the hue of each colour.</source>
+        <translation>Fait tourner la teinte de chaque couleur.</translation>
+    </message>
+    <message>
+        <source>Write the complement of each colour, whose hue is turned by 180 degrees.</source>
+        <translation>Écrit la couleur complémentaire de chaque couleur, dont la teinte est tournée de 180 degrés.</translation>
+    </message>
+    <message>
+        <source>a gradient needs at least two colours</source>
+        <translation>un dégradé demande au moins deux couleurs</translation>
+    </message>
+    <message>
+        <source>give its first and its last colour</source>
+        <translation>donnez la première et la dernière</translation>
+    </message>
+    <message>
+        <source>use a number from 0 to 1, or a percentage such as 20%</source>
+        <translation>utilisez un nombre de 0 à 1 ou un pourcentage comme 20%</translation>
+    </message>
+    <message>
+        <source>use a number of degrees, such as 90 or -22.5</source>
+        <translation>utilisez un nombre de degrés comme 90 ou -22.5</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -25,6 +25,10 @@ struct CommandLine {
     std::optional<std::string> size;
     std::optional<std::string> rings;
     std::optional<std::string> theme;
+    std::optional<std::string> space;
+    std::optional<std::string> hueArc;
+    std::optional<std::string> fraction;
+    std::optional<std::string> number;
     std::optional<bool> lowercase;
     std::optional<bool> poundSign;
     bool json = false;

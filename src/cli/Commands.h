@@ -54,6 +54,14 @@ private:
 
 int showColors(Session& session, const CommandLine& commandLine);
 int convertColors(Session& session, const CommandLine& commandLine);
+int mixColors(Session& session, const CommandLine& commandLine);
+int printGradient(Session& session, const CommandLine& commandLine);
+int lightenColors(Session& session, const CommandLine& commandLine);
+int darkenColors(Session& session, const CommandLine& commandLine);
+int saturateColors(Session& session, const CommandLine& commandLine);
+int desaturateColors(Session& session, const CommandLine& commandLine);
+int rotateColors(Session& session, const CommandLine& commandLine);
+int complementColors(Session& session, const CommandLine& commandLine);
 int nameColors(Session& session, const CommandLine& commandLine);
 int printSnippets(Session& session, const CommandLine& commandLine);
 int printContrast(Session& session, const CommandLine& commandLine);

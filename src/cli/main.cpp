@@ -35,6 +35,10 @@ using Function = int (*)(Session& session, const CommandLine& commandLine);
 /// Each command of `vantorelProgram`.
 constexpr std::pair<std::string_view, Function> functions[] = {
     {"show", showColors},         {"convert", convertColors},
+    {"mix", mixColors},           {"gradient", printGradient},
+    {"lighten", lightenColors},   {"darken", darkenColors},
+    {"saturate", saturateColors}, {"desaturate", desaturateColors},
+    {"rotate", rotateColors},     {"complement", complementColors},
     {"name", nameColors},         {"lists", printLists},
     {"list", printList},          {"list import", importLists},
     {"list export", exportList},  {"list publish", publishList},

@@ -2,6 +2,7 @@
 
 #include "commandline/Descriptions.h"
 #include "result/HarmlessLine.h"
+#include "text/ASCII.h"
 
 #include <algorithm>
 
@@ -9,6 +10,14 @@ namespace vantorel {
 namespace {
 
 constexpr std::string_view versionOption = "--version";
+
+/// No option begins with a digit, so "-30" is an operand.
+bool isNegativeNumber(std::string_view argument)
+{
+    if (!argument.starts_with('-')) return false;
+    argument.remove_prefix(argument.starts_with("-.") ? 2 : 1);
+    return !argument.empty() && isDigit(argument.front());
+}
 
 /// Parses the arguments one by one. The first error is returned, unless help or the version is
 /// requested.
@@ -49,7 +58,8 @@ private:
 
     void take(const std::string& argument)
     {
-        if (argument.starts_with('-') && argument != "-") return takeOption(argument);
+        if (argument.starts_with('-') && argument != "-" && !isNegativeNumber(argument))
+            return takeOption(argument);
         const auto inner =
             std::find_if(_command->commands.begin(), _command->commands.end(),
                          [&](const CommandRow& command) { return command.name == argument; });
@@ -79,12 +89,13 @@ private:
     {
         const std::size_t equals = argument.find('=');
         const std::string_view name = std::string_view(argument).substr(0, equals);
-        if (argument == "-h" || argument == helpOption.name) {
+        if (argument == helpOption.shortName || argument == helpOption.name) {
             _wantsHelp = true;
             return;
         }
-        const auto option = std::find_if(_command->options.begin(), _command->options.end(),
-                                         [&](const OptionRow& row) { return row.name == name; });
+        const auto option = std::find_if(
+            _command->options.begin(), _command->options.end(),
+            [&](const OptionRow& row) { return row.name == name || row.shortName == name; });
         if (option == _command->options.end())
             return fail(phrase("\"%1\" has no option \"%2\"", _names, excerpt(argument)));
         const std::string named(name);
@@ -98,7 +109,7 @@ private:
         } else {
             return fail(phrase("%1 requires a value", named));
         }
-        if (!option->value.empty() && !option->isRepeatable && _given.has(name))
+        if (!option->value.empty() && !option->isRepeatable && _given.has(option->name))
             return fail(phrase("%1 is given twice", named));
         _given.options.emplace_back(option->name, std::move(value));
     }

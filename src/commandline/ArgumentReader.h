@@ -35,7 +35,7 @@ struct ArgumentReading {
 
 /// Parses the arguments after the program's name. The value of an option is the text after "=", or
 /// the whole next argument, even if that starts with "-". Every argument after "--" is an operand,
-/// and so is "-".
+/// and so are "-" and a negative number.
 [[nodiscard]] Result<ArgumentReading> readArguments(const ProgramRow& program,
                                                     const std::vector<std::string>& arguments);
 

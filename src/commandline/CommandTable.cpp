@@ -17,7 +17,8 @@ std::vector<std::string_view> paragraphsOf(std::string_view text)
 
 std::string formOf(const OptionRow& option)
 {
-    std::string form(&option == &helpOption ? "-h, " : "");
+    std::string form(option.shortName);
+    if (!form.empty()) form += ", ";
     form += option.name;
     if (!option.value.empty()) form.append(" ").append(option.value);
     return form;

@@ -37,6 +37,8 @@ struct OptionRow {
     /// The arguments with which the program prints the values there are, one per line, for
     /// completions: "lists --names". Empty if it cannot.
     std::string_view valuesFrom = {};
+    /// A second name, such as "-n"; empty for none.
+    std::string_view shortName = {};
 };
 
 /// Arguments that do not belong to an option.
@@ -96,7 +98,8 @@ struct ProgramRow {
 };
 
 /// The option "-h" or "--help", for generators of texts about options.
-inline constexpr OptionRow helpOption{"--help", {}, "Show this help."};
+inline constexpr OptionRow helpOption{
+    .name = "--help", .text = "Show this help.", .shortName = "-h"};
 
 /// Splits a text at its line feeds.
 [[nodiscard]] std::vector<std::string_view> paragraphsOf(std::string_view text);

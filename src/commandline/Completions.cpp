@@ -65,11 +65,10 @@ std::vector<const OptionRow*> allOptions(const CommandRow& command)
     return options;
 }
 
-/// The names of an option; --help also has a short one.
 Words namesOf(const OptionRow& option)
 {
     Words names;
-    if (&option == &helpOption) names.emplace_back("-h");
+    if (!option.shortName.empty()) names.emplace_back(option.shortName);
     names.emplace_back(option.name);
     return names;
 }
@@ -135,9 +134,11 @@ std::string bashScript(const CommandRow& program)
             const Words names = namesOf(*option);
             words.insert(words.end(), names.begin(), names.end());
             if (option->value.empty()) continue;
-            valueCases += "        " + shellQuoted(path + " " + std::string(option->name)) + ") " +
-                          bashValues(option->value, option->choices, option->valuesFrom) +
-                          "return ;;\n";
+            for (const std::string& name : names) {
+                valueCases += "        " + shellQuoted(path + " " + name) + ") " +
+                              bashValues(option->value, option->choices, option->valuesFrom) +
+                              "return ;;\n";
+            }
         }
         bool takesFiles = false;
         std::string valuesFrom;

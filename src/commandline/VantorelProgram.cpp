@@ -1,3 +1,4 @@
+#include "commandline/ColorCommands.h"
 #include "commandline/Programs.h"
 #include "listformats/ListFormats.h"
 
@@ -15,14 +16,6 @@ std::vector<Choice> exportFormats()
     for (const ListFormat& format : listFormats())
         choices.push_back({format.name, format.description});
     return choices;
-}
-
-constexpr std::string_view themeText =
-    "Which of its two colours light-dark() stands for: \"light\" or \"dark\".";
-
-std::vector<Choice> themesOfPages()
-{
-    return {{"light", {}}, {"dark", {}}};
 }
 
 constexpr std::string_view jsonLines = "Write JSON, one object per line.";
@@ -63,27 +56,7 @@ constexpr OptionRow showOptions[] = {
      .text = "Write hex codes with \"#\". Without --pound-sign or --no-pound-sign, the settings "
              "decide.",
      .excludes = "--no-pound-sign"},
-    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themesOfPages},
-};
-
-std::vector<Choice> colorForms()
-{
-    return {{"hex", {}},     {"rgb", {}},          {"hsl", {}},        {"hwb", {}},
-            {"lab", {}},     {"lch", {}},          {"oklab", {}},      {"oklch", {}},
-            {"srgb", {}},    {"srgb-linear", {}},  {"display-p3", {}}, {"display-p3-linear", {}},
-            {"a98-rgb", {}}, {"prophoto-rgb", {}}, {"rec2020", {}},    {"xyz", {}},
-            {"xyz-d50", {}}};
-}
-constexpr OperandRow convertOperands[] = {
-    {"COLOR", "The colour to convert; read as for \"show\"."}};
-constexpr OptionRow convertOptions[] = {
-    {.name = "--to",
-     .value = "FORM",
-     .text = "The form to write: \"hex\", the name of a function such as \"oklch\", or a colour "
-             "space of color() such as \"display-p3\".",
-     .isRequired = true,
-     .choices = colorForms},
-    {.name = "--theme", .value = "THEME", .text = themeText, .choices = themesOfPages},
+    themeOption,
 };
 
 constexpr OperandRow nameOperands[] = {{"COLOR", "The colour to name; read as for \"show\"."}};
@@ -202,6 +175,20 @@ constexpr CommandRow vantorelCommands[] = {
      "other "
      "forms keep colours as they are.",
      convertOperands, convertOptions},
+    {"mix", "Mix a colour with others, and write each result on a line of its own.", mixOperands,
+     mixOptions},
+    {"gradient", "Write the colours of an even gradient through the given colours, one per line.",
+     gradientOperands, gradientOptions},
+    {"lighten", "Add to the lightness of each colour.", adjustOperands, adjustOptions},
+    {"darken", "Subtract from the lightness of each colour.", adjustOperands, adjustOptions},
+    {"saturate",
+     "Add to the saturation of each colour.\n"
+     "A grey has no hue to saturate, and stays grey.",
+     adjustOperands, adjustOptions},
+    {"desaturate", "Subtract from the saturation of each colour.", adjustOperands, adjustOptions},
+    {"rotate", "Turn the hue of each colour.", rotateOperands, adjustOptions},
+    {"complement", "Write the complement of each colour, whose hue is turned by 180 degrees.",
+     complementOperands, adjustOptions},
     {"name",
      "Print the name of each colour on a line of its own.\n"
      "If the list has no exact name but CSS Color 4 has one, that name is printed, followed by "

@@ -46,20 +46,11 @@ std::optional<ColorSpace> readMixingSpace(CSSParser& parser)
     return space;
 }
 
-std::optional<HueArc> arcNamed(std::u16string_view name)
-{
-    if (name == u"shorter") return HueArc::shorter;
-    if (name == u"longer") return HueArc::longer;
-    if (name == u"increasing") return HueArc::increasing;
-    if (name == u"decreasing") return HueArc::decreasing;
-    return std::nullopt;
-}
-
 /// Reads "longer hue" and the like. Without it, the arc is the shorter one.
 std::optional<HueArc> readArc(CSSParser& parser, ColorSpace space)
 {
     if (!parser.is(CSSTokenKind::name)) return HueArc::shorter;
-    const auto arc = arcNamed(parser.token().name);
+    const auto arc = hueArcNamed(parser.token().name);
     if (!arc) {
         return parser.fail(phrase("\"%1\" is not a way around the circle of hues", parser.quoted()),
                            phrase("write shorter, longer, increasing or decreasing hue"));

@@ -88,6 +88,15 @@ CSSColorValue converted(const CSSColorValue& color, ColorSpace space)
     return result;
 }
 
+std::optional<HueArc> hueArcNamed(std::u16string_view name)
+{
+    if (name == u"shorter") return HueArc::shorter;
+    if (name == u"longer") return HueArc::longer;
+    if (name == u"increasing") return HueArc::increasing;
+    if (name == u"decreasing") return HueArc::decreasing;
+    return std::nullopt;
+}
+
 CSSColorValue mixed(const CSSColorValue& first, const CSSColorValue& second, double share,
                     ColorSpace space, HueArc arc)
 {

@@ -3,6 +3,8 @@
 #include "csscolor/ColorSpaces.h"
 
 #include <array>
+#include <optional>
+#include <string_view>
 
 namespace vantorel {
 
@@ -25,6 +27,9 @@ struct CSSColorValue {
 
 /// Which way round the circle hues are mixed (CSS Color 4, section 12.4).
 enum class HueArc { shorter, longer, increasing, decreasing };
+
+/// Returns an arc by its name in `color-mix()`, which must be in lower case.
+[[nodiscard]] std::optional<HueArc> hueArcNamed(std::u16string_view name);
 
 /// Mixes two colours in a space (CSS Color 4, section 12): `share` of the second, 0..1, and the
 /// rest of the first. Components are weighted by the alpha. A component that is missing in one

@@ -91,4 +91,19 @@ ColorTriple srgbByReducedChroma(const ColorTriple& oklab)
     return clippedToSRGB(srgbFromLinear(linear));
 }
 
+CSSColorValue mappedIntoSRGB(const CSSColorValue& color)
+{
+    CSSColorValue mapped;
+    mapped.alpha = color.alpha;
+    const ColorTriple srgb = srgbFrom(color.space, color.components);
+    if (!isOutsideSRGB(srgb)) {
+        mapped.components = clippedToSRGB(srgb);
+    } else {
+        // Not by way of sRGB, which would lose the lightness of huge chromas.
+        mapped.components =
+            srgbByReducedChroma(convertedColor(color.components, color.space, ColorSpace::oklab));
+    }
+    return mapped;
+}
+
 }  // namespace vantorel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "csscolor/CSSColorValue.h"
 #include "csscolor/ColorConversions.h"
 
 namespace vantorel {
@@ -21,5 +22,9 @@ namespace vantorel {
 /// channels makes a difference that is just not noticeable. A lightness of 1 or more results in
 /// white, one of 0 or less in black. The colour must be outside sRGB and finite.
 [[nodiscard]] ColorTriple srgbByReducedChroma(const ColorTriple& oklab);
+
+/// Maps a colour of any space into sRGB by `srgbByReducedChroma`, if it is outside. Its alpha
+/// stays, and no component of the result is missing.
+[[nodiscard]] CSSColorValue mappedIntoSRGB(const CSSColorValue& color);
 
 }  // namespace vantorel

@@ -7,6 +7,7 @@ import json
 import re
 import unittest
 
+from computing_examples import COMPUTING_ERRORS, COMPUTING_EXAMPLES
 from program import PROGRAM, ProgramTest, os, shutil, subprocess, sys
 
 SETTINGS = """{
@@ -85,6 +86,7 @@ EXAMPLES = [
     (["--version"], "", re.compile(r"\Avantorel \d+\.\d+\.\d+\n\Z")),
     (["--help"], "", re.compile(r"\AUsage: vantorel COMMAND")),
     (["-h"], "", re.compile(r"\AUsage: vantorel COMMAND")),
+    *COMPUTING_EXAMPLES,
 ]
 
 # Options that other tests cover.
@@ -133,6 +135,7 @@ USAGE_ERRORS = [
     (["completions"], "SHELL is missing"),
     (["manpage", "x"], '"x" is one argument too many'),
     (["pick", "x"], '"x" is one argument too many'),
+    *COMPUTING_ERRORS,
 ]
 
 ERRORS = [
@@ -244,14 +247,14 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 15)
+        self.assertEqual(len(commands), 23)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue
             text = self.output_of(*command.split(), "--help")
             self.assertTrue(text.startswith(f"Usage: vantorel {command}"), text)
             self.assertLessEqual(max(map(len, text.splitlines())), 79)
-            options = set(re.findall(r"^  (?:-h, )?(--[a-z-]+)", text, re.M)) - {"--help"}
+            options = set(re.findall(r"^  (?:-[a-z], )?(--[a-z-]+)", text, re.M)) - {"--help"}
             tried = {argument.split("=")[0] for arguments, _, _ in EXAMPLES
                      if arguments[:len(command.split())] == command.split() for argument in arguments}
             self.assertEqual(options - tried - TRIED_ELSEWHERE.get(command, set()), set(), command)

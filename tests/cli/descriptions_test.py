@@ -31,8 +31,8 @@ class Descriptions(ProgramTest):
             self.assertIsNotNone(section, command)
             if command == "panel":
                 continue
-            for option in re.findall(r"^  (?:-h, )?(--[a-z-]+)", self.output_of(*command.split(), "--help"), re.M):
-                if option != "--help":
+            for option in re.findall(r"^  ((?:-[a-z], )?--[a-z-]+)", self.output_of(*command.split(), "--help"), re.M):
+                if option != "-h, --help":
                     self.assertIn(".B " + option, section.group(0), command)
 
     def page_in(self, language, *options):
@@ -106,7 +106,8 @@ class Descriptions(ProgramTest):
             (("palette", "CSS\\ K"), {"CSS Keyword"}), (("list", "export", '"CSS K'), {"CSS Keyword"}),
             (("list", "S"), {"SVG Keyword"}), (("show", "--snippet", "VB"), {"VBasic"}),
             (("panel", "--screen"), {"--screenshot"}), (("panel", "--mode", ""), {"slider", "palette", "wheel"}),
-            (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}),
+            (("list", "publish", "--u"), {"--undo"}), (("--v",), {"--version"}), (("mix", "--in", "ok"), {"oklab", "oklch"}),
+            (("gradient", "--h"), {"--help", "--hue"}), (("gradient", "-n", ""), set()),
         ]:
             with self.subTest(words=words):
                 self.assertEqual(self.complete_in_bash(*words), completions)

@@ -39,6 +39,8 @@ class Terminal(ProgramTest):
             self.assertNotIn("\x1b", self.at_terminal("show", "#ff8000", **variables)[1], variables)
         # Set but empty counts as not set.
         self.assertIn("\x1b", self.at_terminal("show", "red", COLORTERM="truecolor", NO_COLOR="")[1])
+        for command in (["convert", "--to", "rgb"], ["lighten", "0"], ["gradient", "red"]):
+            self.assertIn("\x1b[48;2;255;128;0m      \x1b[0m ", self.at_terminal(*command, "#ff8000", "#ff8000", COLORTERM="truecolor")[1])
         self.assertIn("\x1b[48;2;255;0;0m", self.at_terminal("list", "CSS Keyword", COLORTERM="truecolor")[1])
 
     def test_a_pipe_gets_plain_text(self):

@@ -21,6 +21,7 @@ constexpr OptionRow keepOptions[] = {
     {.name = "--tag", .value = "TAG", .isRepeatable = true},
     {.name = "--dry", .excludes = "--wet"},
     {.name = "--wet"},
+    {.name = "--count", .value = "N", .shortName = "-c"},
 };
 constexpr OperandRow findOperands[] = {{"THING", "What to find."}};
 constexpr CommandRow findCommands[] = {{.name = "again", .operands = findOperands}};
@@ -47,6 +48,30 @@ TEST(ArgumentReaderTest, OptionsAndOperandsMayComeInAnyOrder)
               (Options{{"--place", "x=y"}, {"--tag", "--dry"}, {"--dry", ""}, {"--tag", "2"}}));
     EXPECT_THAT(reading->arguments->values("--tag"), ElementsAre("--dry", "2"));
     EXPECT_EQ(reading->arguments->value("--size"), std::nullopt);
+}
+
+TEST(ArgumentReaderTest, AnOptionMayHaveAShortName)
+{
+    for (const std::vector<std::string>& count :
+         {std::vector<std::string>{"-c", "2"}, {"-c=2"}, {"--count", "2"}}) {
+        std::vector<std::string> arguments{"keep", "--place=x", "a"};
+        arguments.insert(arguments.end(), count.begin(), count.end());
+        const auto reading = readArguments(program, arguments);
+        ASSERT_TRUE(reading) << english(reading.error());
+        EXPECT_EQ(reading->arguments->value("--count"), "2");
+    }
+    EXPECT_FALSE(readArguments(program, {"keep", "--place=x", "a", "-c=1", "--count=1"}));
+    EXPECT_THAT(readArguments(program, {"keep", "--help"})->text,
+                testing::HasSubstr("\n  -c, --count N"));
+}
+
+TEST(ArgumentReaderTest, NegativeNumbersAreOperands)
+{
+    const auto reading = readArguments(program, {"find", "-30", "-.5"});
+    ASSERT_TRUE(reading) << english(reading.error());
+    EXPECT_THAT(reading->arguments->operands, ElementsAre("-30", "-.5"));
+    EXPECT_FALSE(readArguments(program, {"find", "-."}));
+    EXPECT_FALSE(readArguments(program, {"find", "-x3"}));
 }
 
 TEST(ArgumentReaderTest, EverythingAfterTheDoubleDashIsAnOperand)

@@ -55,7 +55,7 @@ TEST_P(ProgramsTest, EveryOptionIsInTheManualAndTheCompletions)
                 EXPECT_THAT(completionScript(*GetParam(), shell), testing::HasSubstr(name))
                     << shell;
             }
-            std::string inPage = "\n.B \\-\\-";
+            std::string inPage = option.shortName.empty() ? "\n.B \\-\\-" : ", \\-\\-";
             for (const char c : name)
                 inPage += c == '-' ? std::string("\\-") : std::string(1, c);
             EXPECT_THAT(page, testing::HasSubstr(inPage));
