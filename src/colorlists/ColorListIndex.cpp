@@ -45,7 +45,7 @@ std::optional<Steps> stepsOf(const HostColor::Components& rgb)
 /// Returns a component; of those to which no colour in the cube is close, the smallest.
 int limited(std::uint64_t component)
 {
-    constexpr std::uint64_t pastLastClose = (cellsAcross + 1) * closeness;
+    constexpr auto pastLastClose = std::uint64_t{cellsAcross + 1} * closeness;
     return static_cast<int>(std::min(component, pastLastClose));
 }
 

@@ -23,8 +23,10 @@ using CharacterTable = std::array<bool, 0x80>;
 constexpr CharacterTable charactersOfNames()
 {
     CharacterTable table{};
-    for (char16_t c = 0; c < table.size(); ++c)
-        table[c] = isNameStart(c) || isDigit(c) || c == u'-';
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const auto c = static_cast<char16_t>(i);
+        table[i] = isNameStart(c) || isDigit(c) || c == u'-';
+    }
     return table;
 }
 

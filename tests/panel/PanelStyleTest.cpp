@@ -62,6 +62,8 @@ public:
         window.setFocus();
         window.setAttribute(Qt::WA_KeyboardFocusChange, false);
     }
+    Shown(const Shown&) = delete;
+    Shown& operator=(const Shown&) = delete;
 
     void pressTab()
     {

@@ -97,15 +97,16 @@ bool has(GtkWidget* widget, GType type)
 bool choosesColors(GtkWidget* window)
 {
     // Programs still use the older ones.
-    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
     return GTK_IS_COLOR_CHOOSER_DIALOG(window) || has(window, GTK_TYPE_COLOR_SELECTION) ||
            has(window, GTK_TYPE_COLOR_BUTTON);
-    G_GNUC_END_IGNORE_DEPRECATIONS
+#pragma GCC diagnostic pop
 }
 
 /// Whether a window waits for a dialog that it has opened. Two reports in one file would take
 /// turns.
-bool hasDialog(GtkWidget* window, const GList* windows)
+bool hasDialog(const GtkWidget* window, const GList* windows)
 {
     for (const GList* other = windows; other != nullptr; other = other->next) {
         auto* dialog = GTK_WIDGET(other->data);
