@@ -113,6 +113,20 @@ TEST_F(PanelStyleTest, TheFocusOfAButtonIsSeenAfterAKeyOnly)
         EXPECT_EQ(picture.pixelColor(x, 24), lightTheme().accent) << x;
 }
 
+TEST_F(PanelStyleTest, AClickAfterAKeyHidesTheFocus)
+{
+    Shown<QPushButton> shown({10, 10, 90, 28});
+    shown.pressTab();
+    ASSERT_TRUE(hasColor(styledPicture(shown.window, 1), lightTheme().accent));
+    QTest::mouseClick(shown.widget, Qt::LeftButton);
+    EXPECT_TRUE(shown.widget->hasFocus());
+    EXPECT_FALSE(hasColor(styledPicture(shown.window, 1), lightTheme().accent));
+    QTest::keyClick(shown.widget, Qt::Key_Shift);
+    EXPECT_FALSE(hasColor(styledPicture(shown.window, 1), lightTheme().accent));
+    QTest::keyClick(shown.widget, Qt::Key_Space);
+    EXPECT_TRUE(hasColor(styledPicture(shown.window, 1), lightTheme().accent));
+}
+
 TEST_F(PanelStyleTest, TheFocusOfAHostsToolButtonIsSeenAfterAKeyOnly)
 {
     Shown<QtToolButton> shown({10, 10, 22, 20});

@@ -9,6 +9,7 @@
 #include "panel/widgets/StyleTabs.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QTabBar>
@@ -48,6 +49,22 @@ void PanelStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (auto* menu = qobject_cast<QMenu*>(widget)) prepareMenu(*menu);
     if (qobject_cast<QTabBar*>(widget) != nullptr) widget->setAttribute(Qt::WA_Hover);
+}
+
+void PanelStyle::unpolish(QWidget* widget)
+{
+    if (qobject_cast<QMenu*>(widget) != nullptr) {
+        widget->setAttribute(Qt::WA_TranslucentBackground, false);
+        widget->setAttribute(Qt::WA_NoSystemBackground, false);
+    }
+    QProxyStyle::unpolish(widget);
+}
+
+void PanelStyle::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    // It goes with the style.
+    application->installEventFilter(&_focusWatch);
 }
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "panel/widgets/KeyboardFocusWatch.h"
+
 #include <QProxyStyle>
+#include <QStyleOptionButton>
+#include <QStyleOptionToolButton>
 
 namespace vantorel {
 
@@ -13,7 +17,10 @@ public:
     PanelStyle();
 
     void polish(QWidget* widget) override;
+    void polish(QApplication* application) override;
     using QProxyStyle::polish;
+    void unpolish(QWidget* widget) override;
+    using QProxyStyle::unpolish;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
@@ -39,6 +46,8 @@ private:
                        const QWidget* widget) const;
     void drawToolButton(const QStyleOptionToolButton& option, QPainter& painter,
                         const QWidget* widget) const;
+
+    KeyboardFocusWatch _focusWatch;
 };
 
 }  // namespace vantorel

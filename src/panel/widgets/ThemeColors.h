@@ -41,7 +41,8 @@ struct ThemeColors {
     QColor plane;
     QColor hatch;
     bool isDark = false;
-    /// High contrast has wider focus rings and borders in the colour of the text.
+    /// In high contrast, borders and rules have the colour of the text, and there is no second text
+    /// colour.
     bool isHighContrast = false;
 };
 
