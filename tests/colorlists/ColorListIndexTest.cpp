@@ -119,9 +119,9 @@ TEST(ColorListIndexTest, FindsWhatIsCloseToComponentsBeyondTheCube)
     for (const std::uint64_t beyond : {239ULL, 240ULL, 255ULL, 256ULL, 257ULL, 266ULL, 270ULL,
                                        271ULL, 272ULL, 287ULL, 510ULL, ~0ULL}) {
         for (const std::uint64_t other : {std::uint64_t{0}, std::uint64_t{255}, beyond}) {
-            for (const int component : {0, 1, 2}) {
+            for (const int place : {0, 1, 2}) {
                 color.setHexRed(other, other, other);
-                color.setComponent(beyond, component);
+                color.setComponent(beyond, place);
                 EXPECT_EQ(index.placesNear(color), placesNearByWalking(color, *list))
                     << utf8FromUtf16(color.description());
             }

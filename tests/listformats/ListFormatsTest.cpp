@@ -69,6 +69,22 @@ TEST(ListFormatsTest, ADeclarationBeginsWithItsName)
     }
 }
 
+TEST(ListFormatsTest, LinesAreColoursWithNames)
+{
+    const auto list = readColorList(
+        "#ff0000\n\n #ff0000 one \nred\ttwo words\nno colour\n\tred\n#12 x\nblue\t\r\n"
+        "rgb(1 2 3)\t\tthree",
+        "x.txt");
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->skipped, 2U);
+    EXPECT_EQ(list->list->colorAtIndex(1), HostColor::colorWithCalibratedRed(1, 0, 0, 1));
+    const auto& keys = list->list->allKeys();
+    ASSERT_EQ(keys.size(), 6U);
+    EXPECT_EQ(keys[1], u"one");
+    EXPECT_EQ(keys[2], u"two words");
+    EXPECT_EQ(keys[5], u"three");
+}
+
 TEST(ListFormatsTest, TheFormatsSayWhatTheyAre)
 {
     const auto list = listWithName(u"name");

@@ -186,6 +186,18 @@ TEST(SettingsFileTest, AFileIsKeptBesideTheNewOne)
     EXPECT_TRUE(keepDefaultsFile(none));
 }
 
+TEST(SettingsFileTest, OnlyADictionaryInUTF8OfABoundedSizeIsRead)
+{
+    const std::string dictionary = "{ a = \"\u00e9\"; }";
+    const std::string padding(largestSettingsFile - dictionary.size(), ' ');
+    EXPECT_TRUE(settingsDictionary(dictionary));
+    EXPECT_TRUE(settingsDictionary(dictionary + padding));
+    EXPECT_FALSE(settingsDictionary(dictionary + padding + " "));
+    EXPECT_FALSE(settingsDictionary("{ a = \"\xE9\"; }"));
+    EXPECT_FALSE(settingsDictionary("(a)"));
+    EXPECT_FALSE(settingsDictionary(""));
+}
+
 class DamagedSettingsTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(DamagedSettingsTest, AreReadAsAnEmptyDictionary)
