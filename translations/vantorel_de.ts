@@ -2060,6 +2060,98 @@ Ein Grau hat keinen Farbton, der sich sättigen ließe, und bleibt grau.</transl
         <source>use a number of degrees, such as 90 or -22.5</source>
         <translation>verwenden Sie eine Zahl von Grad wie 90 oder -22.5</translation>
     </message>
+    <message>
+        <source>The colours to make scales of; read as for &quot;show&quot;.</source>
+        <translation>Die Farben, von denen Reihen gebildet werden; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>What to write: steps (the default), tints towards white, shades towards black, or tones towards grey.</source>
+        <translation>Was geschrieben wird: steps (Stufen, voreingestellt), tints (zu Weiß hin), shades (zu Schwarz hin) oder tones (zu Grau hin).</translation>
+    </message>
+    <message>
+        <source>How many tints, shades or tones to write, the colour first. The default is 10.</source>
+        <translation>Wie viele davon bei tints, shades oder tones geschrieben werden, die Farbe zuerst. Voreingestellt ist 10.</translation>
+    </message>
+    <message>
+        <source>How many colours to write, 1 to 1000.</source>
+        <translation>Wie viele Farben geschrieben werden, 1 bis 1000.</translation>
+    </message>
+    <message>
+        <source>Colours to begin with, which count and are written first. With &quot;-&quot;, they are read from standard input.</source>
+        <translation>Farben, mit denen begonnen wird; sie zählen mit und werden zuerst geschrieben. Mit „-“ werden sie von der Standardeingabe gelesen.</translation>
+    </message>
+    <message>
+        <source>The colours to sort; read as for &quot;show&quot;.</source>
+        <translation>Die Farben, die sortiert werden; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>What to sort by: hue (the default), lightness or chroma in OkLCh, luminance, contrast with white, or the name of the nearest colour of the list.</source>
+        <translation>Wonach sortiert wird: hue (Farbton, voreingestellt), lightness (Helligkeit) oder chroma (Buntheit) in OkLCh, luminance (Leuchtdichte), contrast (Kontrast zu Weiß) oder name (Name der nächsten Farbe der Liste).</translation>
+    </message>
+    <message>
+        <source>Write the largest first.</source>
+        <translation>Schreibt die größten zuerst.</translation>
+    </message>
+    <message>
+        <source>The colour to look for; read as for &quot;show&quot;.</source>
+        <translation>Die Farbe, die gesucht wird; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>Look in this list instead of the list in the settings.</source>
+        <translation>Sucht in dieser Liste statt in der Liste der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>deuteranopia (no green cones), protanopia (no red ones), tritanopia (no blue ones) or grey (luminance only).</source>
+        <translation>deuteranopia (ohne grüne Zapfen), protanopia (ohne rote), tritanopia (ohne blaue) oder grey (nur Leuchtdichte).</translation>
+    </message>
+    <message>
+        <source>The colours to look at; read as for &quot;show&quot;.</source>
+        <translation>Die Farben, die betrachtet werden; gelesen wie bei „show“.</translation>
+    </message>
+    <message>
+        <source>Write the scale of each colour, from nearly white to nearly black.
+Its eleven steps are known as 50, 100, 200 to 900, and 950. Their lightness in OkLCh is evenly spaced on both sides of the colour, which is one of them.</source>
+        <translation>Schreibt die Reihe jeder Farbe, von fast weiß bis fast schwarz.
+Ihre elf Stufen heißen 50, 100, 200 bis 900 und 950. Ihre Helligkeit in OkLCh ist beiderseits der Farbe, die eine davon ist, gleichmäßig verteilt.</translation>
+    </message>
+    <message>
+        <source>Write colours that differ as much as possible.
+They can be seen on black and on white, and are the same each time.</source>
+        <translation>Schreibt Farben, die sich möglichst stark unterscheiden.
+Sie sind auf Schwarz und auf Weiß zu sehen und jedes Mal dieselben.</translation>
+    </message>
+    <message>
+        <source>Sort colours.
+Colours with equal keys stay in order. Greys have no hue, and precede all others.</source>
+        <translation>Sortiert Farben.
+Gleichrangige Farben behalten ihre Reihenfolge. Grautöne haben keinen Farbton und kommen vor allen anderen.</translation>
+    </message>
+    <message>
+        <source>Write the nearest colour of a list and its name, separated by a tab.
+The difference is deltaE OK of CSS Color 4, the distance in Oklab.</source>
+        <translation>Schreibt die nächste Farbe einer Liste und ihren Namen, getrennt durch einen Tabulator.
+Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translation>
+    </message>
+    <message>
+        <source>Write how each colour looks to people who do not see all colours.</source>
+        <translation>Schreibt, wie jede Farbe für Menschen aussieht, die nicht alle Farben sehen.</translation>
+    </message>
+    <message>
+        <source>a scale always has %1 colours</source>
+        <translation>eine Reihe hat immer %1 Farben</translation>
+    </message>
+    <message>
+        <source>leave out --number, or add --kind tints, shades or tones</source>
+        <translation>lassen Sie --number weg, oder fügen Sie --kind tints, shades oder tones hinzu</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has no colours</source>
+        <translation>die Liste „%1“ hat keine Farben</translation>
+    </message>
+    <message>
+        <source>choose another one with &quot;--list NAME&quot;</source>
+        <translation>wählen Sie mit „--list NAME“ eine andere</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -2060,6 +2060,98 @@ Un gris no tiene tono que saturar y sigue siendo gris.</translation>
         <source>use a number of degrees, such as 90 or -22.5</source>
         <translation>use un número de grados como 90 o -22.5</translation>
     </message>
+    <message>
+        <source>The colours to make scales of; read as for &quot;show&quot;.</source>
+        <translation>Los colores de los que se hacen escalas; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>What to write: steps (the default), tints towards white, shades towards black, or tones towards grey.</source>
+        <translation>Qué se escribe: steps (pasos, por omisión), tints (hacia el blanco), shades (hacia el negro) o tones (hacia el gris).</translation>
+    </message>
+    <message>
+        <source>How many tints, shades or tones to write, the colour first. The default is 10.</source>
+        <translation>Cuántos colores se escriben con tints, shades o tones, primero el color dado. Por omisión, 10.</translation>
+    </message>
+    <message>
+        <source>How many colours to write, 1 to 1000.</source>
+        <translation>Cuántos colores se escriben, de 1 a 1000.</translation>
+    </message>
+    <message>
+        <source>Colours to begin with, which count and are written first. With &quot;-&quot;, they are read from standard input.</source>
+        <translation>Colores con los que se empieza; cuentan y se escriben primero. Con «-», se leen de la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>The colours to sort; read as for &quot;show&quot;.</source>
+        <translation>Los colores que se ordenan; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>What to sort by: hue (the default), lightness or chroma in OkLCh, luminance, contrast with white, or the name of the nearest colour of the list.</source>
+        <translation>Según qué se ordena: hue (tono, por omisión), lightness (luminosidad) o chroma (croma) en OkLCh, luminance (luminancia), contrast (contraste con el blanco) o name (nombre del color más cercano de la lista).</translation>
+    </message>
+    <message>
+        <source>Write the largest first.</source>
+        <translation>Escribe primero los mayores.</translation>
+    </message>
+    <message>
+        <source>The colour to look for; read as for &quot;show&quot;.</source>
+        <translation>El color que se busca; se lee como en «show».</translation>
+    </message>
+    <message>
+        <source>Look in this list instead of the list in the settings.</source>
+        <translation>Busca en esta lista en lugar de la lista de los ajustes.</translation>
+    </message>
+    <message>
+        <source>deuteranopia (no green cones), protanopia (no red ones), tritanopia (no blue ones) or grey (luminance only).</source>
+        <translation>deuteranopia (sin conos verdes), protanopia (sin rojos), tritanopia (sin azules) o grey (solo luminancia).</translation>
+    </message>
+    <message>
+        <source>The colours to look at; read as for &quot;show&quot;.</source>
+        <translation>Los colores que se miran; se leen como en «show».</translation>
+    </message>
+    <message>
+        <source>Write the scale of each colour, from nearly white to nearly black.
+Its eleven steps are known as 50, 100, 200 to 900, and 950. Their lightness in OkLCh is evenly spaced on both sides of the colour, which is one of them.</source>
+        <translation>Escribe la escala de cada color, de casi blanco a casi negro.
+Sus once pasos se llaman 50, 100, 200 a 900 y 950. Su luminosidad en OkLCh se reparte de modo uniforme a ambos lados del color, que es uno de ellos.</translation>
+    </message>
+    <message>
+        <source>Write colours that differ as much as possible.
+They can be seen on black and on white, and are the same each time.</source>
+        <translation>Escribe colores tan distintos como sea posible.
+Se ven sobre negro y sobre blanco, y son siempre los mismos.</translation>
+    </message>
+    <message>
+        <source>Sort colours.
+Colours with equal keys stay in order. Greys have no hue, and precede all others.</source>
+        <translation>Ordena colores.
+Los colores iguales según la clave conservan su orden. Los grises no tienen tono y preceden a los demás.</translation>
+    </message>
+    <message>
+        <source>Write the nearest colour of a list and its name, separated by a tab.
+The difference is deltaE OK of CSS Color 4, the distance in Oklab.</source>
+        <translation>Escribe el color más cercano de una lista y su nombre, separados por un tabulador.
+La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
+    </message>
+    <message>
+        <source>Write how each colour looks to people who do not see all colours.</source>
+        <translation>Escribe cómo ven cada color las personas que no distinguen todos los colores.</translation>
+    </message>
+    <message>
+        <source>a scale always has %1 colours</source>
+        <translation>una escala tiene siempre %1 colores</translation>
+    </message>
+    <message>
+        <source>leave out --number, or add --kind tints, shades or tones</source>
+        <translation>omita --number o añada --kind tints, shades o tones</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has no colours</source>
+        <translation>la lista «%1» no tiene colores</translation>
+    </message>
+    <message>
+        <source>choose another one with &quot;--list NAME&quot;</source>
+        <translation>elija otra con «--list NAME»</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -2060,6 +2060,98 @@ Un gris n&apos;a pas de teinte à saturer et reste gris.</translation>
         <source>use a number of degrees, such as 90 or -22.5</source>
         <translation>utilisez un nombre de degrés comme 90 ou -22.5</translation>
     </message>
+    <message>
+        <source>The colours to make scales of; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs dont on fait des gammes ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>What to write: steps (the default), tints towards white, shades towards black, or tones towards grey.</source>
+        <translation>Ce qui est écrit : steps (degrés, par défaut), tints (vers le blanc), shades (vers le noir) ou tones (vers le gris).</translation>
+    </message>
+    <message>
+        <source>How many tints, shades or tones to write, the colour first. The default is 10.</source>
+        <translation>Le nombre de couleurs à écrire pour tints, shades ou tones, la couleur d&apos;abord. Par défaut : 10.</translation>
+    </message>
+    <message>
+        <source>How many colours to write, 1 to 1000.</source>
+        <translation>Le nombre de couleurs à écrire, de 1 à 1000.</translation>
+    </message>
+    <message>
+        <source>Colours to begin with, which count and are written first. With &quot;-&quot;, they are read from standard input.</source>
+        <translation>Les couleurs de départ, comptées et écrites en premier. Avec « - », elles sont lues sur l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>The colours to sort; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs à trier ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>What to sort by: hue (the default), lightness or chroma in OkLCh, luminance, contrast with white, or the name of the nearest colour of the list.</source>
+        <translation>Le critère de tri : hue (teinte, par défaut), lightness (clarté) ou chroma dans OkLCh, luminance, contrast (contraste avec le blanc) ou name (nom de la couleur la plus proche dans la liste).</translation>
+    </message>
+    <message>
+        <source>Write the largest first.</source>
+        <translation>Écrit les plus grandes d&apos;abord.</translation>
+    </message>
+    <message>
+        <source>The colour to look for; read as for &quot;show&quot;.</source>
+        <translation>La couleur à chercher ; lue comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>Look in this list instead of the list in the settings.</source>
+        <translation>Cherche dans cette liste au lieu de celle des réglages.</translation>
+    </message>
+    <message>
+        <source>deuteranopia (no green cones), protanopia (no red ones), tritanopia (no blue ones) or grey (luminance only).</source>
+        <translation>deuteranopia (sans cônes verts), protanopia (sans rouges), tritanopia (sans bleus) ou grey (luminance seule).</translation>
+    </message>
+    <message>
+        <source>The colours to look at; read as for &quot;show&quot;.</source>
+        <translation>Les couleurs à regarder ; lues comme pour « show ».</translation>
+    </message>
+    <message>
+        <source>Write the scale of each colour, from nearly white to nearly black.
+Its eleven steps are known as 50, 100, 200 to 900, and 950. Their lightness in OkLCh is evenly spaced on both sides of the colour, which is one of them.</source>
+        <translation>Écrit la gamme de chaque couleur, du presque blanc au presque noir.
+Ses onze degrés se nomment 50, 100, 200 à 900, et 950. Leur clarté dans OkLCh est répartie régulièrement de part et d&apos;autre de la couleur, qui est l&apos;un d&apos;eux.</translation>
+    </message>
+    <message>
+        <source>Write colours that differ as much as possible.
+They can be seen on black and on white, and are the same each time.</source>
+        <translation>Écrit des couleurs aussi différentes que possible.
+Elles se voient sur le noir comme sur le blanc et sont chaque fois les mêmes.</translation>
+    </message>
+    <message>
+        <source>Sort colours.
+Colours with equal keys stay in order. Greys have no hue, and precede all others.</source>
+        <translation>Trie des couleurs.
+Les couleurs équivalentes restent dans l&apos;ordre. Les gris n&apos;ont pas de teinte et précèdent toutes les autres.</translation>
+    </message>
+    <message>
+        <source>Write the nearest colour of a list and its name, separated by a tab.
+The difference is deltaE OK of CSS Color 4, the distance in Oklab.</source>
+        <translation>Écrit la couleur la plus proche dans une liste et son nom, séparés par une tabulation.
+La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</translation>
+    </message>
+    <message>
+        <source>Write how each colour looks to people who do not see all colours.</source>
+        <translation>Écrit l&apos;aspect de chaque couleur pour qui ne voit pas toutes les couleurs.</translation>
+    </message>
+    <message>
+        <source>a scale always has %1 colours</source>
+        <translation>une gamme a toujours %1 couleurs</translation>
+    </message>
+    <message>
+        <source>leave out --number, or add --kind tints, shades or tones</source>
+        <translation>omettez --number ou ajoutez --kind tints, shades ou tones</translation>
+    </message>
+    <message>
+        <source>the list &quot;%1&quot; has no colours</source>
+        <translation>la liste « %1 » n&apos;a pas de couleurs</translation>
+    </message>
+    <message>
+        <source>choose another one with &quot;--list NAME&quot;</source>
+        <translation>choisissez-en une autre avec « --list NAME »</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -33,15 +33,16 @@ ColorFormWriter::ColorFormWriter(const std::optional<std::string>& form)
 {
 }
 
-void ColorFormWriter::write(Output& output, const CSSColor& color) const
+void ColorFormWriter::write(Output& output, const CSSColor& color, std::string_view end) const
 {
     if (_showsSwatches) output.write(swatchOf(byteColorOf(color.color)));
     output.write(
         utf8FromUtf16(_wideSpace ? cssTextIn(*_wideSpace, color.value) : mappedText(_form, color)));
+    output.write(end);
     output.write('\n');
 }
 
-void ColorFormWriter::write(Output& output, const CSSColorValue& color) const
+void ColorFormWriter::write(Output& output, const CSSColorValue& color, std::string_view end) const
 {
     CSSColor mapped;
     mapped.value = color;
@@ -49,7 +50,7 @@ void ColorFormWriter::write(Output& output, const CSSColorValue& color) const
         const auto [red, green, blue] = mappedIntoSRGB(color).components;
         mapped.color = HostColor::colorWithCalibratedRed(red, green, blue, color.alpha);
     }
-    write(output, mapped);
+    write(output, mapped, end);
 }
 
 }  // namespace vantorel

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace vantorel {
 
@@ -15,10 +16,10 @@ public:
     /// Without a form, hex codes are written.
     explicit ColorFormWriter(const std::optional<std::string>& form);
 
-    /// Writes a colour as it was read.
-    void write(Output& output, const CSSColor& color) const;
+    /// Writes a colour as it was read. `end` is written before the line feed.
+    void write(Output& output, const CSSColor& color, std::string_view end = {}) const;
     /// Writes a computed colour.
-    void write(Output& output, const CSSColorValue& color) const;
+    void write(Output& output, const CSSColorValue& color, std::string_view end = {}) const;
 
 private:
     std::string _form;

@@ -29,8 +29,11 @@ struct CommandLine {
     std::optional<std::string> hueArc;
     std::optional<std::string> fraction;
     std::optional<std::string> number;
+    std::optional<std::string> kind;
+    std::optional<std::string> sortedBy;
     std::optional<bool> lowercase;
     std::optional<bool> poundSign;
+    bool reversed = false;
     bool json = false;
     bool names = false;
     bool yes = false;

@@ -45,6 +45,9 @@ inline std::vector<Choice> hueArcs()
     return {{"shorter", {}}, {"longer", {}}, {"increasing", {}}, {"decreasing", {}}};
 }
 
+/// The arguments that print the names of the colour lists.
+inline constexpr std::string_view listNames = "lists --names";
+
 inline constexpr OptionRow themeOption{
     .name = "--theme", .value = "THEME", .text = themeText, .choices = themesOfPages};
 
@@ -125,5 +128,80 @@ inline constexpr OptionRow adjustOptions[] = {
     toOption,
     themeOption,
 };
+
+inline std::vector<Choice> kindsOfScales()
+{
+    return {{"steps", {}}, {"tints", {}}, {"shades", {}}, {"tones", {}}};
+}
+inline constexpr OperandRow scaleOperands[] = {
+    {"COLOR", "The colours to make scales of; read as for \"show\"."}};
+inline constexpr OptionRow scaleOptions[] = {
+    {.name = "--kind",
+     .value = "KIND",
+     .text = "What to write: steps (the default), tints towards white, shades towards black, or "
+             "tones towards grey.",
+     .choices = kindsOfScales},
+    {.name = "--number",
+     .value = "N",
+     .text = "How many tints, shades or tones to write, the colour first. The default is 10.",
+     .shortName = "-n"},
+    toOption,
+    themeOption,
+};
+
+inline constexpr OperandRow distinctOperands[] = {
+    {"N", "How many colours to write, 1 to 1000.", 1, 1},
+    {"COLOR",
+     "Colours to begin with, which count and are written first. With \"-\", they are read from "
+     "standard input."},
+};
+inline constexpr OptionRow distinctOptions[] = {toOption, themeOption};
+
+inline std::vector<Choice> sortKeys()
+{
+    return {{"hue", {}},       {"lightness", {}}, {"chroma", {}},
+            {"luminance", {}}, {"contrast", {}},  {"name", {}}};
+}
+inline constexpr OperandRow sortOperands[] = {
+    {"COLOR", "The colours to sort; read as for \"show\"."}};
+inline constexpr OptionRow sortOptions[] = {
+    {.name = "--by",
+     .value = "KEY",
+     .text =
+         "What to sort by: hue (the default), lightness or chroma in OkLCh, luminance, contrast "
+         "with white, or the name of the nearest colour of the list.",
+     .choices = sortKeys},
+    {"--reverse", {}, "Write the largest first."},
+    {.name = "--list",
+     .value = "NAME",
+     .text = "Take the names from this list instead of the list in the settings.",
+     .valuesFrom = listNames},
+    toOption,
+    themeOption,
+};
+
+inline constexpr OperandRow nearestOperands[] = {
+    {"COLOR", "The colour to look for; read as for \"show\"."}};
+inline constexpr OptionRow nearestOptions[] = {
+    {.name = "--list",
+     .value = "NAME",
+     .text = "Look in this list instead of the list in the settings.",
+     .valuesFrom = listNames},
+    toOption,
+    themeOption,
+};
+
+inline std::vector<Choice> colorVisions()
+{
+    return {{"deuteranopia", {}}, {"protanopia", {}}, {"tritanopia", {}}, {"grey", {}}};
+}
+inline constexpr OperandRow simulateOperands[] = {
+    {"VISION",
+     "deuteranopia (no green cones), protanopia (no red ones), tritanopia (no blue ones) or grey "
+     "(luminance only).",
+     1, 1, colorVisions},
+    {"COLOR", "The colours to look at; read as for \"show\"."},
+};
+inline constexpr OptionRow simulateOptions[] = {toOption, themeOption};
 
 }  // namespace vantorel

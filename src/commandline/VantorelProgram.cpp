@@ -23,7 +23,6 @@ constexpr std::string_view jsonLines = "Write JSON, one object per line.";
 constexpr OptionRow sizeOption{
     "--size", "WxH", "Width and height in points, or in pixels for PNG. The default is 640x480."};
 
-constexpr std::string_view listNames = "lists --names";
 constexpr std::string_view snippetNames = "snippets --names";
 
 constexpr OperandRow listName{.value = "NAME",
@@ -189,6 +188,26 @@ constexpr CommandRow vantorelCommands[] = {
     {"rotate", "Turn the hue of each colour.", rotateOperands, adjustOptions},
     {"complement", "Write the complement of each colour, whose hue is turned by 180 degrees.",
      complementOperands, adjustOptions},
+    {"scale",
+     "Write the scale of each colour, from nearly white to nearly black.\n"
+     "Its eleven steps are known as 50, 100, 200 to 900, and 950. Their lightness in OkLCh is "
+     "evenly "
+     "spaced on both sides of the colour, which is one of them.",
+     scaleOperands, scaleOptions},
+    {"distinct",
+     "Write colours that differ as much as possible.\n"
+     "They can be seen on black and on white, and are the same each time.",
+     distinctOperands, distinctOptions},
+    {"sort",
+     "Sort colours.\n"
+     "Colours with equal keys stay in order. Greys have no hue, and precede all others.",
+     sortOperands, sortOptions},
+    {"nearest",
+     "Write the nearest colour of a list and its name, separated by a tab.\n"
+     "The difference is deltaE OK of CSS Color 4, the distance in Oklab.",
+     nearestOperands, nearestOptions},
+    {"simulate", "Write how each colour looks to people who do not see all colours.",
+     simulateOperands, simulateOptions},
     {"name",
      "Print the name of each colour on a line of its own.\n"
      "If the list has no exact name but CSS Color 4 has one, that name is printed, followed by "

@@ -247,7 +247,7 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 23)
+        self.assertEqual(len(commands), 28)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue
@@ -262,7 +262,7 @@ class Commands(ProgramTest):
     def test_names_cannot_control_a_terminal(self):
         self.write_list("Evil\x1b[2J", ["255 0 0\tred\x1b]0;x\x07\u009b1m"], "evil.gpl")
         for arguments in (["lists"], ["list", "Evil\x1b[2J"], ["name", "red", "--list", "Evil\x1b[2J"],
-                          ["show", "red", "--list", "Evil\x1b[2J"]):
+                          ["show", "red", "--list", "Evil\x1b[2J"], ["nearest", "red", "--list", "Evil\x1b[2J"]):
             printed = self.output_of(*arguments)
             self.assertNotRegex(printed, "[\x00-\x08\x0b-\x1f\x7f-\x9f]", arguments)
         self.assertNotIn("\x1b", self.error_of("list", "\x1b[2J"))

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "csscolor/CSSColorValue.h"
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+/// Differences of colours as CSS Color 4 measures them: deltaE OK, the distance in Oklab. The alpha
+/// is ignored.
+namespace vantorel {
+
+/// Finds the nearest of many colours. Takes linear time.
+class NearestColor {
+public:
+    explicit NearestColor(std::span<const CSSColorValue> colors);
+
+    /// Returns the place of the nearest colour, the first of equals. There must be a colour.
+    [[nodiscard]] std::size_t placeFor(const CSSColorValue& color) const;
+
+private:
+    std::vector<ColorTriple> _oklab;
+};
+
+/// Adds colours to a list until it has `count`: each time the one whose nearest neighbour in the
+/// list is farthest away. The first colour of an empty list is the most colourful one. They are
+/// taken from the 4,096 colours with hex codes such as "#f80", without those that are hard to see
+/// on black or on white. Always returns the same colours for the same list.
+[[nodiscard]] std::vector<CSSColorValue> withDistinctColors(std::vector<CSSColorValue> colors,
+                                                            std::size_t count);
+
+}  // namespace vantorel
