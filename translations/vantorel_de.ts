@@ -1055,10 +1055,6 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
         <translation>verwenden Sie eine Größe von 8x8 bis 16384x16384, etwa 640x480</translation>
     </message>
     <message>
-        <source>--rings cannot be &quot;%1&quot;</source>
-        <translation>--rings kann nicht „%1“ sein</translation>
-    </message>
-    <message>
         <source>use a whole number from %1 to %2</source>
         <translation>verwenden Sie eine ganze Zahl von %1 bis %2</translation>
     </message>

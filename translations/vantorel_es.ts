@@ -1039,10 +1039,6 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <translation>use un tamaño de 8x8 a 16384x16384, por ejemplo 640x480</translation>
     </message>
     <message>
-        <source>--rings cannot be &quot;%1&quot;</source>
-        <translation>--rings no puede ser «%1»</translation>
-    </message>
-    <message>
         <source>use a whole number from %1 to %2</source>
         <translation>use un número entero de %1 a %2</translation>
     </message>

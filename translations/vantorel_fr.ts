@@ -1039,10 +1039,6 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <translation>utilisez une taille de 8x8 à 16384x16384, par exemple 640x480</translation>
     </message>
     <message>
-        <source>--rings cannot be &quot;%1&quot;</source>
-        <translation>--rings ne peut pas être « %1 »</translation>
-    </message>
-    <message>
         <source>use a whole number from %1 to %2</source>
         <translation>utilisez un nombre entier de %1 à %2</translation>
     </message>

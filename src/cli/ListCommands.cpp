@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Failure.h"
+#include "cli/NumberArguments.h"
 #include "cli/Pictures.h"
 #include "cli/Terminal.h"
 #include "colorlists/PaletteFile.h"
@@ -48,13 +49,7 @@ HostSize pictureSize(const CommandLine& commandLine)
 int ringCount(Session& session, const CommandLine& commandLine)
 {
     if (!commandLine.rings) return drawnRingCount(session.settings().nColorCubeRings());
-    const auto rings = wholeNumber<int>(*commandLine.rings);
-    if (!rings || drawnRingCount(*rings) != *rings) {
-        throw Failure{
-            {phrase("--rings cannot be \"%1\"", excerpt(*commandLine.rings)),
-             phrase("use a whole number from %1 to %2", fewestDrawnRings, mostDrawnRings)}};
-    }
-    return *rings;
+    return requiredCount("--rings", *commandLine.rings, fewestDrawnRings, mostDrawnRings);
 }
 
 /// Throws a `Failure` instead of sending binary data to a terminal, which could interpret them as

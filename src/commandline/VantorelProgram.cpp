@@ -283,6 +283,7 @@ constexpr std::string_view examples[] = {
     "grep -oi '#[0-9a-f]\\{6\\}' style.css | vantorel name",
     "vantorel list export \"CSS Keyword\" --format scss --output colors.scss",
     "vantorel contrast white '#767676'",
+    "vantorel gradient red blue -n 9 --in oklch | vantorel simulate deuteranopia",
 };
 constexpr SectionRow vantorelSections[] = {
     {.title = phraseText("EXIT STATUS"),

@@ -178,6 +178,19 @@ class Hostile(ProgramTest):
         self.assertNotIn("\x1b", printed)
         self.assertIn("  y: ??\n", printed)
 
+    def test_colours_far_outside_are_computed_with(self):
+        colors = ["color(xyz 1e300 -1e300 5)", "oklch(100% 1e308 3e300)", "lab(50 calc(infinity) calc(-infinity))",
+                  "rgb(calc(NaN) 1 2)", "color(srgb 1e40 1e40 1e40)", "color(srgb -1e40 -1e40 -1e40)",
+                  "color(prophoto-rgb -1e9 1e9 0)", "hsl(1e308 1e308% 50%)", "oklch(none none none / none)"]
+        for command in ("lighten 0.5", "darken 1 --in lch", "saturate 1 --in oklch", "desaturate 1", "rotate 1e308", "complement",
+                        "mix red", "mix red --in lch", "gradient -n 3 --in xyz", "scale", "scale --kind tones", "distinct 12 -",
+                        "sort", "sort --by luminance", "nearest", "simulate grey", "simulate tritanopia"):
+            for form in ("hex", "oklch", "xyz"):
+                printed = self.output_of(*command.split(), "--to", form, stdin="\n".join(colors))
+                self.assertNotRegex(printed, "nan|inf", command)
+                if form == "hex":
+                    self.assertRegex(printed, r"\A(#[0-9a-f]{6}([0-9a-f]{2})?(\t[a-z]+)?\n)+\Z", command)
+
 
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])
