@@ -95,6 +95,15 @@ TEST_F(ColorNamesPopUpTest, AKeyNamedNoMatchSelectsTheFirstItemWithThatTitle)
     EXPECT_EQ(_popUp.titleOfSelectedItem(), u"b");
 }
 
+TEST_F(ColorNamesPopUpTest, NothingMovesIfTheFirstKeyIsTheTitleAboveTheKeys)
+{
+    const auto list = listWithKeys({u"* b", u"a", u"b"});
+    _filler.fill(_popUp, list);
+    _popUp.setTitleOfItem(0, u"* b");
+    _filler.moveCloseEntriesUp(_popUp, *list, {u"b"});
+    EXPECT_EQ(titlesOf(_popUp), (Titles{u"* b", u"-", u"* b", u"a", u"b"}));
+}
+
 TEST(MatchColorNameTest, ReturnsTheFirstEqualEntryOrElseAllCloseOnes)
 {
     const auto list = std::make_shared<HostColorList>(u"list");
