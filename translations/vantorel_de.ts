@@ -2148,6 +2148,18 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>choose another one with &quot;--list NAME&quot;</source>
         <translation>wählen Sie mit „--list NAME“ eine andere</translation>
     </message>
+    <message>
+        <source>The lightness, from 0 to 1, or as a percentage.</source>
+        <translation>Die Helligkeit, von 0 bis 1 oder in Prozent.</translation>
+    </message>
+    <message>
+        <source>The colour space of the lightness: hsl (the default), oklch or lch.</source>
+        <translation>Der Farbraum der Helligkeit: hsl (voreingestellt), oklch oder lch.</translation>
+    </message>
+    <message>
+        <source>Write the grey of a lightness.</source>
+        <translation>Schreibt das Grau einer Helligkeit.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -2148,6 +2148,18 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>choose another one with &quot;--list NAME&quot;</source>
         <translation>elija otra con «--list NAME»</translation>
     </message>
+    <message>
+        <source>The lightness, from 0 to 1, or as a percentage.</source>
+        <translation>La luminosidad, de 0 a 1 o en porcentaje.</translation>
+    </message>
+    <message>
+        <source>The colour space of the lightness: hsl (the default), oklch or lch.</source>
+        <translation>El espacio de color de la luminosidad: hsl (por omisión), oklch o lch.</translation>
+    </message>
+    <message>
+        <source>Write the grey of a lightness.</source>
+        <translation>Escribe el gris de una luminosidad.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

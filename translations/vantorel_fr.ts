@@ -2148,6 +2148,18 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>choose another one with &quot;--list NAME&quot;</source>
         <translation>choisissez-en une autre avec « --list NAME »</translation>
     </message>
+    <message>
+        <source>The lightness, from 0 to 1, or as a percentage.</source>
+        <translation>La clarté, de 0 à 1 ou en pourcentage.</translation>
+    </message>
+    <message>
+        <source>The colour space of the lightness: hsl (the default), oklch or lch.</source>
+        <translation>L&apos;espace de couleurs de la clarté : hsl (par défaut), oklch ou lch.</translation>
+    </message>
+    <message>
+        <source>Write the grey of a lightness.</source>
+        <translation>Écrit le gris d&apos;une clarté.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

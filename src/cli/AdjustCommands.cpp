@@ -8,11 +8,15 @@ namespace {
 
 using Adjustment = CSSColorValue (*)(const CSSColorValue& color, double amount, ColorSpace space);
 
+ColorSpace adjustingSpace(const CommandLine& commandLine)
+{
+    return colorSpaceNamed(utf16FromUtf8(commandLine.space.value_or("hsl"))).value();
+}
+
 int adjustColors(Session& session, const CommandLine& commandLine,
                  const std::vector<std::string>& operands, Adjustment adjustment, double amount)
 {
-    const ColorSpace space =
-        colorSpaceNamed(utf16FromUtf8(commandLine.space.value_or("hsl"))).value();
+    const ColorSpace space = adjustingSpace(commandLine);
     ColorTextReader reader = colorTextReader(session, commandLine);
     return computeColors(session, commandLine, reader, operands, [&](const CSSColorValue& color) {
         return std::vector{adjustment(color, amount, space)};
@@ -59,6 +63,15 @@ int rotateColors(Session& session, const CommandLine& commandLine)
 int complementColors(Session& session, const CommandLine& commandLine)
 {
     return adjustColors(session, commandLine, commandLine.operands, rotated, 180);
+}
+
+int printGray(Session& session, const CommandLine& commandLine)
+{
+    const double lightness = requiredFraction("LIGHTNESS", commandLine.operands.front());
+    const CSSColorValue black;
+    const ColorFormWriter writer(commandLine.form);
+    writer.write(session.output(), lightened(black, lightness, adjustingSpace(commandLine)));
+    return 0;
 }
 
 }  // namespace vantorel

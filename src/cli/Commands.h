@@ -62,6 +62,7 @@ int saturateColors(Session& session, const CommandLine& commandLine);
 int desaturateColors(Session& session, const CommandLine& commandLine);
 int rotateColors(Session& session, const CommandLine& commandLine);
 int complementColors(Session& session, const CommandLine& commandLine);
+int printGray(Session& session, const CommandLine& commandLine);
 int printScales(Session& session, const CommandLine& commandLine);
 int printDistinctColors(Session& session, const CommandLine& commandLine);
 int sortColors(Session& session, const CommandLine& commandLine);

@@ -44,6 +44,7 @@ constexpr std::pair<std::string_view, Function> functions[] = {
     {"desaturate", desaturateColors},
     {"rotate", rotateColors},
     {"complement", complementColors},
+    {"gray", printGray},
     {"scale", printScales},
     {"distinct", printDistinctColors},
     {"sort", sortColors},

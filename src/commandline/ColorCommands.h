@@ -129,6 +129,16 @@ inline constexpr OptionRow adjustOptions[] = {
     themeOption,
 };
 
+inline constexpr OperandRow grayOperands[] = {
+    {"LIGHTNESS", "The lightness, from 0 to 1, or as a percentage.", 1, 1}};
+inline constexpr OptionRow grayOptions[] = {
+    {.name = "--in",
+     .value = "SPACE",
+     .text = "The colour space of the lightness: hsl (the default), oklch or lch.",
+     .choices = polarSpaces},
+    toOption,
+};
+
 inline std::vector<Choice> kindsOfScales()
 {
     return {{"steps", {}}, {"tints", {}}, {"shades", {}}, {"tones", {}}};

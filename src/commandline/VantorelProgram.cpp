@@ -188,6 +188,7 @@ constexpr CommandRow vantorelCommands[] = {
     {"rotate", "Turn the hue of each colour.", rotateOperands, adjustOptions},
     {"complement", "Write the complement of each colour, whose hue is turned by 180 degrees.",
      complementOperands, adjustOptions},
+    {"gray", "Write the grey of a lightness.", grayOperands, grayOptions},
     {"scale",
      "Write the scale of each colour, from nearly white to nearly black.\n"
      "Its eleven steps are known as 50, 100, 200 to 900, and 950. Their lightness in OkLCh is "

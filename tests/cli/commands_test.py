@@ -247,7 +247,7 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 28)
+        self.assertEqual(len(commands), 29)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue

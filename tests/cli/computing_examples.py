@@ -37,6 +37,9 @@ COMPUTING_EXAMPLES = [
     (["complement", *ADJUSTED, LIGHT_DARK], "", "oklch(50% 0.1 210)\n"),
     (["lighten", "0", "--to", "display-p3", "--in", "lch", "color(display-p3 0 1 0)"], "", "color(display-p3 0 1 0)\n"),
     (["lighten", "0", "--in", "lch", "color(display-p3 0 1 0)"], "", "#00fb29\n"),
+    (["gray", "0.5"], "", "#808080\n"),
+    (["gray", "--in", "oklch", "--to", "oklch", "25%"], "", "oklch(25% 0 0)\n"),
+    (["gray", "1", "--in", "lch"], "", "#ffffff\n"),
     (["scale", "#7a8b99"], "", "#f3f5f8\n#d7e0e7\n#becad5\n#a6b5c2\n#8fa0ae\n#7a8b99\n#647582\n#505f6b\n#3d4a55\n"
      "#2b363f\n#1a232a\n"),
     (["scale", "--kind", "tints", "-n", "4"], "#7a8b99\n", "#7a8b99\n#9aa7b2\n#bbc3cb\n#dce1e5\n"),
@@ -88,6 +91,8 @@ COMPUTING_ERRORS = [
     (["lighten", "0.1", "red", "--in", "srgb"], '--in cannot be "srgb": use hsl, oklch or lch'),
     (["rotate", "red", "90"], 'DEGREES cannot be "red": use a number of degrees, such as 90 or -22.5'),
     (["rotate", "inf", "red"], "DEGREES"),
+    (["gray"], "LIGHTNESS is missing"),
+    (["gray", "2"], 'LIGHTNESS cannot be "2": ' + FRACTIONS),
     (["scale", "red", "-n", "5"], "a scale always has 11 colours: leave out --number, or add --kind"),
     (["scale", "red", "--kind", "tints", "-n", "0"], '--number cannot be "0": use a whole number from 1 to 10000'),
     (["scale", "red", "--kind", "hues"], '--kind cannot be "hues": use steps, tints, shades or tones'),
