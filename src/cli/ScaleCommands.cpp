@@ -69,9 +69,9 @@ int printDistinctColors(Session& session, const CommandLine& commandLine)
     if (!operands.empty() && !collectColors(session, reader, operands, given)) return failureStatus;
     std::vector<CSSColorValue> colors(given.size());
     std::ranges::transform(given, colors.begin(), &CSSColor::value);
+    colors = withDistinctColors(std::move(colors), static_cast<std::size_t>(count));
     const ColorFormWriter writer(commandLine.form);
-    for (const CSSColorValue& color :
-         withDistinctColors(std::move(colors), static_cast<std::size_t>(count)))
+    for (const CSSColorValue& color : colors)
         writer.write(session.output(), color);
     return 0;
 }
