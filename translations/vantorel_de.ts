@@ -751,8 +751,8 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Wie --pick, und kopiert die Farbe in die Zwischenablage.</translation>
     </message>
     <message>
-        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
-        <translation>Kopiert die Farbe des Fensters mit ihrer Deckkraft in die Zwischenablage, in der Form, die ein Ziehen aus dem Fenster hätte, gibt den Text aus und endet.</translation>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that the panel&apos;s field shows, print the text, and exit.</source>
+        <translation>Kopiert die Farbe des Fensters mit ihrer Deckkraft in die Zwischenablage, in der Form, die das Feld des Fensters zeigt, gibt den Text aus und endet.</translation>
     </message>
     <message>
         <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
@@ -2388,6 +2388,17 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     </message>
 </context>
 <context>
+    <name>vantorel::AboutDialog</name>
+    <message>
+        <source>About Vantorel</source>
+        <translation>Über Vantorel</translation>
+    </message>
+    <message>
+        <source>A colour picker for people who write CSS and code.</source>
+        <translation>Ein Farbwähler für alle, die CSS und Code schreiben.</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ChoiceBar</name>
     <message>
         <source>Choose</source>
@@ -2414,6 +2425,47 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Choose a colour</source>
         <translation>Eine Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorEntry</name>
+    <message>
+        <source>Nearest: %1</source>
+        <translation>Ähnlichster: %1</translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation>Hintergrund: %1</translation>
+    </message>
+    <message>
+        <source>As in the settings of the page</source>
+        <translation>Wie in den Einstellungen der Seite</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorFacts</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorField</name>
+    <message>
+        <source>Form of the text, and of copies</source>
+        <translation>Form des Textes und der Kopien</translation>
+    </message>
+    <message>
+        <source>Type or paste a colour in any form</source>
+        <translation>Eine Farbe in beliebiger Form eintippen oder einfügen</translation>
+    </message>
+    <message>
+        <source>Colour as a text</source>
+        <translation>Farbe als Text</translation>
+    </message>
+    <message>
+        <source>Copy as</source>
+        <translation>Kopieren als</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2500,20 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programme mit GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormList</name>
+    <message>
+        <source>Forms of the colour</source>
+        <translation>Formen der Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormRow</name>
+    <message>
+        <source>Copy %1</source>
+        <translation>%1 kopieren</translation>
     </message>
 </context>
 <context>
@@ -2518,6 +2584,20 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>pinned</source>
         <translation>angeheftet</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageBar</name>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageTabs</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
 </context>
 <context>
@@ -2807,31 +2887,17 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>Dialogs of other programs...</source>
         <translation>Dialoge anderer Programme …</translation>
     </message>
-</context>
-<context>
-    <name>vantorel::PanelTools</name>
     <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
+        <source>Preferences...</source>
+        <translation>Einstellungen …</translation>
     </message>
     <message>
-        <source>Background</source>
-        <translation>Hintergrund</translation>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
     </message>
     <message>
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::PanelTopBar</name>
-    <message>
-        <source>Current page</source>
-        <translation>Aktuelle Seite</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Befehle</translation>
+        <source>About Vantorel</source>
+        <translation>Über Vantorel</translation>
     </message>
 </context>
 <context>
@@ -2843,6 +2909,14 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>%1 plug-ins were left out</source>
         <translation>%1 Plug-ins wurden ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 picks from the screen</source>
+        <translation>%1 nimmt vom Bildschirm auf</translation>
+    </message>
+    <message>
+        <source>Last colours</source>
+        <translation>Letzte Farben</translation>
     </message>
 </context>
 <context>
@@ -2893,13 +2967,6 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::RecentColors</name>
-    <message>
-        <source>Last colours</source>
-        <translation>Letzte Farben</translation>
     </message>
 </context>
 <context>

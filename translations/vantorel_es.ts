@@ -735,8 +735,8 @@ Controles y gráficos: AA %6</translation>
         <translation>Como --pick, y copia el color en el portapapeles.</translation>
     </message>
     <message>
-        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
-        <translation>Copia el color del panel con su opacidad en el portapapeles, en la forma que llevaría un arrastre desde el panel, muestra el texto y termina.</translation>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that the panel&apos;s field shows, print the text, and exit.</source>
+        <translation>Copia el color del panel con su opacidad en el portapapeles, en la forma que muestra el campo del panel, muestra el texto y termina.</translation>
     </message>
     <message>
         <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
@@ -2388,6 +2388,17 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     </message>
 </context>
 <context>
+    <name>vantorel::AboutDialog</name>
+    <message>
+        <source>About Vantorel</source>
+        <translation>Acerca de Vantorel</translation>
+    </message>
+    <message>
+        <source>A colour picker for people who write CSS and code.</source>
+        <translation>Un selector de color para quienes escriben CSS y código.</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ChoiceBar</name>
     <message>
         <source>Choose</source>
@@ -2414,6 +2425,47 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Choose a colour</source>
         <translation>Elegir un color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorEntry</name>
+    <message>
+        <source>Nearest: %1</source>
+        <translation>Más cercano: %1</translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation>Fondo: %1</translation>
+    </message>
+    <message>
+        <source>As in the settings of the page</source>
+        <translation>Como en los ajustes de la página</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorFacts</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorField</name>
+    <message>
+        <source>Form of the text, and of copies</source>
+        <translation>Forma del texto y de las copias</translation>
+    </message>
+    <message>
+        <source>Type or paste a colour in any form</source>
+        <translation>Escriba o pegue un color en cualquier forma</translation>
+    </message>
+    <message>
+        <source>Colour as a text</source>
+        <translation>Color como texto</translation>
+    </message>
+    <message>
+        <source>Copy as</source>
+        <translation>Copiar como</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2500,20 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programas hechos con GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormList</name>
+    <message>
+        <source>Forms of the colour</source>
+        <translation>Formas del color</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormRow</name>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar %1</translation>
     </message>
 </context>
 <context>
@@ -2518,6 +2584,20 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>pinned</source>
         <translation>fijado</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageBar</name>
+    <message>
+        <source>Commands</source>
+        <translation>Órdenes</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageTabs</name>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
@@ -2807,31 +2887,17 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>Dialogs of other programs...</source>
         <translation>Diálogos de otros programas...</translation>
     </message>
-</context>
-<context>
-    <name>vantorel::PanelTools</name>
     <message>
-        <source>Colour</source>
-        <translation>Color</translation>
+        <source>Preferences...</source>
+        <translation>Preferencias...</translation>
     </message>
     <message>
-        <source>Background</source>
-        <translation>Fondo</translation>
+        <source>Manual</source>
+        <translation>Manual</translation>
     </message>
     <message>
-        <source>Opacity</source>
-        <translation>Opacidad</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::PanelTopBar</name>
-    <message>
-        <source>Current page</source>
-        <translation>Página actual</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Órdenes</translation>
+        <source>About Vantorel</source>
+        <translation>Acerca de Vantorel</translation>
     </message>
 </context>
 <context>
@@ -2843,6 +2909,14 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>%1 plug-ins were left out</source>
         <translation>Se omitieron %1 complementos</translation>
+    </message>
+    <message>
+        <source>%1 picks from the screen</source>
+        <translation>%1 toma de la pantalla</translation>
+    </message>
+    <message>
+        <source>Last colours</source>
+        <translation>Últimos colores</translation>
     </message>
 </context>
 <context>
@@ -2893,13 +2967,6 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::RecentColors</name>
-    <message>
-        <source>Last colours</source>
-        <translation>Últimos colores</translation>
     </message>
 </context>
 <context>

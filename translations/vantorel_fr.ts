@@ -735,8 +735,8 @@ Commandes et graphismes : AA %6</translation>
         <translation>Comme --pick, et copie la couleur dans le presse-papiers.</translation>
     </message>
     <message>
-        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that a drag out of the panel would carry, print the text, and exit.</source>
-        <translation>Copie la couleur du panneau avec son opacité dans le presse-papiers, sous la forme qu’emporterait un glisser hors du panneau, affiche le texte et se termine.</translation>
+        <source>Copy the panel&apos;s colour with its opacity to the clipboard, in the form that the panel&apos;s field shows, print the text, and exit.</source>
+        <translation>Copie la couleur du panneau avec son opacité dans le presse-papiers, sous la forme que montre le champ du panneau, affiche le texte et se termine.</translation>
     </message>
     <message>
         <source>Like --copy, in the form with this name in the panel&apos;s menu.</source>
@@ -2388,6 +2388,17 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     </message>
 </context>
 <context>
+    <name>vantorel::AboutDialog</name>
+    <message>
+        <source>About Vantorel</source>
+        <translation>À propos de Vantorel</translation>
+    </message>
+    <message>
+        <source>A colour picker for people who write CSS and code.</source>
+        <translation>Un sélecteur de couleurs pour celles et ceux qui écrivent du CSS et du code.</translation>
+    </message>
+</context>
+<context>
     <name>vantorel::ChoiceBar</name>
     <message>
         <source>Choose</source>
@@ -2414,6 +2425,47 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Choose a colour</source>
         <translation>Choisir une couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorEntry</name>
+    <message>
+        <source>Nearest: %1</source>
+        <translation>Le plus proche : %1</translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation>Fond : %1</translation>
+    </message>
+    <message>
+        <source>As in the settings of the page</source>
+        <translation>Comme dans les réglages de la page</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorFacts</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::ColorField</name>
+    <message>
+        <source>Form of the text, and of copies</source>
+        <translation>Forme du texte et des copies</translation>
+    </message>
+    <message>
+        <source>Type or paste a colour in any form</source>
+        <translation>Tapez ou collez une couleur sous n'importe quelle forme</translation>
+    </message>
+    <message>
+        <source>Colour as a text</source>
+        <translation>Couleur en toutes lettres</translation>
+    </message>
+    <message>
+        <source>Copy as</source>
+        <translation>Copier en</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2500,20 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Programs made with GTK 3</source>
         <translation>Programmes faits avec GTK 3</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormList</name>
+    <message>
+        <source>Forms of the colour</source>
+        <translation>Formes de la couleur</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::FormRow</name>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copier %1</translation>
     </message>
 </context>
 <context>
@@ -2518,6 +2584,20 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>pinned</source>
         <translation>épinglée</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageBar</name>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PageTabs</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
@@ -2807,31 +2887,17 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>Dialogs of other programs...</source>
         <translation>Dialogues d&apos;autres programmes...</translation>
     </message>
-</context>
-<context>
-    <name>vantorel::PanelTools</name>
     <message>
-        <source>Colour</source>
-        <translation>Couleur</translation>
+        <source>Preferences...</source>
+        <translation>Préférences...</translation>
     </message>
     <message>
-        <source>Background</source>
-        <translation>Fond</translation>
+        <source>Manual</source>
+        <translation>Manuel</translation>
     </message>
     <message>
-        <source>Opacity</source>
-        <translation>Opacité</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::PanelTopBar</name>
-    <message>
-        <source>Current page</source>
-        <translation>Page actuelle</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Commandes</translation>
+        <source>About Vantorel</source>
+        <translation>À propos de Vantorel</translation>
     </message>
 </context>
 <context>
@@ -2843,6 +2909,14 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>%1 plug-ins were left out</source>
         <translation>%1 greffons ont été ignorés</translation>
+    </message>
+    <message>
+        <source>%1 picks from the screen</source>
+        <translation>%1 prélève à l'écran</translation>
+    </message>
+    <message>
+        <source>Last colours</source>
+        <translation>Dernières couleurs</translation>
     </message>
 </context>
 <context>
@@ -2893,13 +2967,6 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::RecentColors</name>
-    <message>
-        <source>Last colours</source>
-        <translation>Dernières couleurs</translation>
     </message>
 </context>
 <context>

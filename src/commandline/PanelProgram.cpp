@@ -58,9 +58,9 @@ constexpr OptionRow panelOptions[] = {
     {"--pick-and-copy", {}, "Like --pick, and copy the colour to the clipboard."},
     {"--copy",
      {},
-     "Copy the panel's colour with its opacity to the clipboard, in the form that a drag out of "
-     "the "
-     "panel would carry, print the text, and exit."},
+     "Copy the panel's colour with its opacity to the clipboard, in the form that the panel's "
+     "field "
+     "shows, print the text, and exit."},
     {"--copy-as", "FORM", "Like --copy, in the form with this name in the panel's menu."},
     {"--choose",
      {},

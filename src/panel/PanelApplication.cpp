@@ -1,5 +1,6 @@
 #include "panel/PanelApplication.h"
 
+#include "commandline/Programs.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/PanelTranslations.h"
 #include "panel/SessionManagerLoss.h"
@@ -22,6 +23,7 @@ PanelApplication::PanelApplication(const char* program, const PanelOptions& opti
     outliveSessionManager();
     installTranslations(_application);
     QApplication::setApplicationName(QStringLiteral("vantorel-panel"));
+    QApplication::setApplicationVersion(QString::fromUtf8(vantorelPanelProgram.version));
     QApplication::setDesktopFileName(QStringLiteral("org.vantorel.ColorPanel"));
     // Closing the panel's window quits explicitly. In a panel without a window, closing the
     // magnifier would quit.

@@ -34,8 +34,8 @@ VOID = {"meta", "img", "br", "hr"}
 EXAMPLE_COLOR = [1, 127 / 255, 80 / 255, 1]
 EXAMPLE_COMPONENTS = [255, 127, 80]
 OPEN = {"op": "open", "panel": [0, 0, 320, 372], "color": EXAMPLE_COLOR}
-# Height of the bar above the page in points, and the size of the window.
-TOP_BAR, WINDOW = 32, (320, 426)
+# The size of the picker's page in pictures, in points: that of the panel without its bar.
+PICTURED = (320, 340)
 LARGEST_PICTURE = 60_000
 
 
@@ -257,9 +257,9 @@ class Names(unittest.TestCase):
                 self.assertEqual(mark.text(), str(number))
                 self.assertEqual(by_id(mark.attributes["href"][1:]).text(), str(number))
                 place = re.fullmatch(r"left:([\d.]+)%;top:([\d.]+)%", mark.attributes["style"])
-                x, y = (float(place[i + 1]) / 100 * WINDOW[i] for i in (0, 1))
+                x, y = (float(place[i + 1]) / 100 * PICTURED[i] for i in (0, 1))
                 left, bottom, width, height = controls[mark.attributes["data-marks"]]
-                top = OPEN["panel"][3] - bottom - height
+                top = PICTURED[1] - bottom - height
                 near = 16
                 self.assertTrue(left - near <= x <= left + width + near and top - near <= y <= top + height + near, mark.attributes["data-marks"])
 

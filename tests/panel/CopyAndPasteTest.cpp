@@ -183,10 +183,9 @@ TEST_F(CopyAndPasteTest, AFailureIsShownWholeUntilTheNextSuccess)
     const int minimum = _window->minimumHeight();
     type(QKeySequence("Ctrl+V"));
     ASSERT_TRUE(messageLabel().isVisible());
-    EXPECT_GE(messageLabel().height(), messageLabel().heightForWidth(_window->width()));
-    EXPECT_GE(messageLabel().y(), child<QWidget>("_fullHexText")->height());
-    EXPECT_LE(messageLabel().geometry().bottom(),
-              child<QWidget>("colorWell")->mapTo(_window.get(), QPoint()).y());
+    EXPECT_GE(messageLabel().height(), messageLabel().heightForWidth(messageLabel().width()));
+    EXPECT_GT(messageLabel().y(), child<QWidget>("colorField")->geometry().bottom());
+    EXPECT_LT(messageLabel().geometry().bottom(), child<QWidget>("pageBar")->y());
     EXPECT_GT(_window->minimumHeight(), minimum) << "the page keeps its least height";
 
     QApplication::clipboard()->setText("navy");
@@ -198,8 +197,7 @@ TEST_F(CopyAndPasteTest, AFailureIsShownWholeUntilTheNextSuccess)
     type(QKeySequence("Ctrl+V"));
     ASSERT_TRUE(messageLabel().isVisible());
     type(QKeySequence("Ctrl+C"));
-    EXPECT_FALSE(messageLabel().isVisible());
-    EXPECT_EQ(messageInBar(), "\"#000080\" copied.");
+    EXPECT_EQ(message(), "\"#000080\" copied.");
 
     type(QKeySequence("Ctrl+V"));
     EXPECT_EQ(message(), QString()) << "a success without a message takes the last one away";

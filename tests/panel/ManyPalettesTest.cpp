@@ -99,6 +99,7 @@ TEST_F(FirstStartTest, TheBuiltInListsBecomeFilesWhileTheWindowIsUsed)
 {
     start();
     EXPECT_TRUE(isSearching());
+    _window->colors().setColor(HostColor::whiteColor());
     EXPECT_EQ(name(), "white");
     EXPECT_EQ(rowsAt(builtIn), "none");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !isSearching(); }));
@@ -111,6 +112,7 @@ TEST_F(FirstStartTest, TheUsersListIsShownWhenItIsFound)
     put("data/Vantorel/Palettes/Zebra.gpl",
         "GIMP Palette\nName: CSS Keyword\n255 255 255\tstripe\n");
     start();
+    _window->colors().setColor(HostColor::whiteColor());
     ASSERT_TRUE(QTest::qWaitFor([&] { return !isSearching(); }));
     EXPECT_EQ(name(), "stripe");
     EXPECT_EQ(rowsAt(builtIn), "none");

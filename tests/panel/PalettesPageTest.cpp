@@ -130,7 +130,7 @@ TEST_F(PalettesPageTest, KeysOfThePageWorkWhileItShows)
     EXPECT_EQ(field->selectedText(), "New list") << "typing replaces it";
     press(Qt::Key_Return);
 
-    child<QWidget>("recentColors")->setFocus();
+    child<QWidget>("lastColors")->setFocus();
     press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(QApplication::focusWidget(), child<QWidget>("paletteFilter"));
 

@@ -38,19 +38,14 @@ protected:
         return std::make_unique<ScriptedScreenPicker>(_pick);
     }
     static const QMimeData& clipboard() { return *QApplication::clipboard()->mimeData(); }
-    /// The message in the bar, which is also its tool tip; empty if the bar shows the page's name.
-    [[nodiscard]] QString messageInBar() const
-    {
-        return child<QWidget>("topBar")->findChild<QLabel*>()->toolTip();
-    }
     [[nodiscard]] MessageLabel& messageLabel() const
     {
         return *_window->findChild<MessageLabel*>();
     }
-    /// The message, wherever it is shown.
+    /// The message; empty if there is none.
     [[nodiscard]] QString message() const
     {
-        return messageLabel().isVisible() ? messageLabel().text() : messageInBar();
+        return messageLabel().isVisible() ? messageLabel().text() : QString();
     }
     [[nodiscard]] QAction* command(const QString& text) const
     {

@@ -1,5 +1,6 @@
 #include "PanelCommandsFixture.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/preferences/PreferencesDialog.h"
 #include "panel/window/ShortcutOverlay.h"
 
 #include <QMenu>
@@ -42,53 +43,56 @@ TEST_F(PanelCommandsTest, TypingAnXInAFieldDoesNotSwap)
     EXPECT_EQ(chosenColor().rgb(), qRgb(255, 128, 0));
 }
 
-TEST_F(PanelCommandsTest, TheContrastIsUpdatedLive)
-{
-    _window->colors().setBackground(rgb(255, 255, 255));
-    struct Row {
-        HostColor color;
-        const char* text;
-    };
-    for (const auto& [color, shown] :
-         {Row{rgb(0, 0, 0), "21.0 AAA"}, Row{rgb(0x76, 0x76, 0x76), "4.54 AA"},
-          Row{rgb(0x77, 0x77, 0x77), "4.47 AA+"}, Row{rgb(255, 255, 0), "1.07 \u2013"}}) {
-        _window->colors().setColor(color);
-        EXPECT_EQ(child<QLabel>("contrast")->text(), QString::fromUtf8(shown));
-    }
-}
-
-TEST_F(PanelCommandsTest, ARecentColourIsSelectedByMouseAndKeyboard)
+TEST_F(PanelCommandsTest, ALastColourIsSelectedByMouseAndKeyboard)
 {
     PanelMemory memory;
     memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(3, 3, 3)};
+    memory.pinned = {rgb(9, 9, 9)};
     _window->recall(memory);
-    auto* row = child<RecentColors>("recentColors");
-    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(5, row->height() / 2));
-    EXPECT_EQ(chosenColor().rgb(), qRgb(1, 1, 1));
-    row->setFocus();
-    QTest::keyClick(row, Qt::Key_End);
-    QTest::keyClick(row, Qt::Key_Return);
-    EXPECT_EQ(chosenColor().rgb(), qRgb(3, 3, 3));
-}
-
-TEST_F(PanelCommandsTest, RecentColoursShowTheirOpacity)
-{
-    PanelMemory memory;
-    memory.recent = {rgb(255, 0, 0, 0.2), rgb(255, 0, 0)};
-    _window->recall(memory);
-    auto* row = child<RecentColors>("recentColors");
-    const QImage picture = row->grab().toImage();
-    const auto colorsOf = [&](int left) {
-        std::set<QRgb> colors;
-        for (int x = left + 2; x < left + 12; ++x)
-            colors.insert(picture.pixel(x, row->height() / 2));
-        return colors.size();
-    };
-    EXPECT_EQ(colorsOf(0), 2U) << "the squares shine through";
-    EXPECT_EQ(colorsOf(17), 1U);
+    auto* row = child<QWidget>("lastColors");
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(10, row->height() / 2));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(9, 9, 9)) << "pinned ones first";
     row->setFocus();
     QTest::keyClick(row, Qt::Key_Home);
-    EXPECT_EQ(row->accessibleDescription(), "#FF0000, 20 %");
+    QTest::keyClick(row, Qt::Key_Right);
+    QTest::keyClick(row, Qt::Key_Return);
+    EXPECT_EQ(chosenColor().rgb(), qRgb(1, 1, 1));
+}
+
+TEST_F(PanelCommandsTest, TheLastColoursAreKeptAsAListOrCleared)
+{
+    PanelMemory memory;
+    memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(2, 2, 2, 0.5)};
+    memory.pinned = {rgb(9, 9, 9)};
+    _window->recall(memory);
+    auto* row = child<LastColors>("lastColors");
+    emit row->keepAsListRequested();
+    EXPECT_EQ(_window->pages().current()->key(), "palettes");
+    const auto list = _desktop.paletteFiles().colorListNamed(u"Last colours");
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->allKeys(), (std::vector<std::u16string>{u"#090909", u"#010101", u"#020202"}));
+
+    emit row->clearRequested();
+    EXPECT_TRUE(_window->colors().recent().empty());
+    EXPECT_EQ(_window->colors().pinned(), memory.pinned);
+}
+
+TEST_F(PanelCommandsTest, ThePreferencesAreADialogOfTheWindow)
+{
+    type(QKeySequence("Ctrl+,"));
+    auto* dialog = _window->findChild<PreferencesDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->close();
+}
+
+TEST_F(PanelCommandsTest, TheFirstColourIsNotRecent)
+{
+    PanelWindow fresh(_desktop, _search.plugins, _problems);
+    fresh.recall(PanelMemory());
+    EXPECT_EQ(fresh.colors().color(), PanelColors::firstColor());
+    fresh.colors().setColor(rgb(1, 2, 3));
+    EXPECT_TRUE(fresh.colors().recent().empty());
 }
 
 TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
@@ -184,7 +188,7 @@ TEST_F(PanelCommandsTest, ThePageIsRememberedByItsIdentifierAndByTheNameThatOlde
     }
 }
 
-TEST_F(PanelCommandsTest, TabMovesFromTheBarThroughThePageToTheTools)
+TEST_F(PanelCommandsTest, TabMovesFromThePageToTheColoursAndTheirTextsAndTheBar)
 {
     QWidget* first = child<QLineEdit>("_fullHexText");
     first->setFocus();
@@ -198,11 +202,22 @@ TEST_F(PanelCommandsTest, TabMovesFromTheBarThroughThePageToTheTools)
     }
     EXPECT_EQ(names.front(), "Hex code");
     const auto place = [&](const char* name) { return names.indexOf(QLatin1String(name)); };
-    EXPECT_LT(place("Colour name"), place("Swap colour and background"));
-    EXPECT_LT(place("Colour"), place("Swap colour and background"));
-    EXPECT_LT(place("Swap colour and background"), place("Background")) << "as one reads";
-    EXPECT_LT(place("Background"), place("Copy"));
-    EXPECT_LT(place("Copy"), place("Commands")) << names.join(", ").toStdString();
+    const QStringList wanted{"Colour name",
+                             "Colour",
+                             "Swap colour and background",
+                             "Background",
+                             "Form of the text, and of copies",
+                             "Colour as a text",
+                             "Copy",
+                             "Copy as",
+                             "Pick from the screen",
+                             "Opacity",
+                             "Pages",
+                             "Commands"};
+    for (qsizetype i = 1; i < wanted.size(); ++i)
+        EXPECT_LT(names.indexOf(wanted[i - 1]), names.indexOf(wanted[i]))
+            << wanted[i].toStdString() << " in " << names.join(", ").toStdString();
+    EXPECT_NE(place("Commands"), -1);
     EXPECT_EQ(place("More rings"), -1) << "not what is out of sight";
     EXPECT_EQ(place("Last colours"), -1) << "nor what is empty";
 }
@@ -217,7 +232,8 @@ TEST_F(PanelCommandsTest, BarAndToolsAreMirroredRightToLeft)
         return widget->mapTo(_window.get(), widget->rect().topRight()).x();
     };
     EXPECT_GT(right("colorWell"), right("backgroundWell"));
-    auto* row = child<RecentColors>("recentColors");
+    EXPECT_GT(right("colorText"), right("pick"));
+    auto* row = child<QWidget>("lastColors");
     PanelMemory memory;
     memory.recent = {rgb(1, 1, 1), rgb(2, 2, 2)};
     _window->recall(memory);

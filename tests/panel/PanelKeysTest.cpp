@@ -137,24 +137,15 @@ TEST_F(PanelKeysTest, BothWellsTakeTheFocus)
 {
     for (const char* name : {"colorWell", "backgroundWell"}) {
         auto* well = child<QWidget>(name);
-        const QImage plain = well->grab().toImage();
-        EXPECT_NE(well->focusPolicy() & Qt::TabFocus, 0) << name;
-        well->setFocus(Qt::TabFocusReason);
-        EXPECT_NE(well->grab().toImage(), plain) << name;
+        _window->setFocus();
+        // The band paints its halves.
+        const auto picture = [well] { return well->parentWidget()->grab().toImage(); };
+        const QImage plain = picture();
+        for (int i = 0; i < 40 && QApplication::focusWidget() != well; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(well->hasFocus()) << name;
+        EXPECT_NE(picture(), plain) << name;
     }
-}
-
-TEST_F(PanelKeysTest, TheFocusIsSeenOnAWellOfItsColour)
-{
-    const QColor focus = _window->palette().color(QPalette::Highlight);
-    _window->colors().setColor(hostColorFrom(focus));
-    auto* well = child<QWidget>("colorWell");
-    well->setFocus(Qt::TabFocusReason);
-    const QImage picture = well->grab().toImage();
-    const int middle = picture.height() / 2;
-    EXPECT_EQ(picture.pixelColor(0, middle), focus);
-    EXPECT_EQ(picture.pixelColor(2, middle), _window->palette().color(QPalette::Base));
-    EXPECT_EQ(picture.pixelColor(4, middle), focus);
 }
 
 }  // namespace

@@ -19,8 +19,9 @@ NO_ROLES = {"unknown", "invalid", "redundant object", "extended"}
 
 BOTH_FACES = [
     ("frame", "Vantorel"),
-    ("check box", "Hex"),
-    ("check box", "Colour dialog"),
+    ("page tab", "Hex"),
+    ("page tab", "Colour dialog"),
+    ("text", "Colour as a text"),
     ("image", "Colour"),
     ("slider", "Opacity"),
     ("panel", "Hex colour"),
@@ -131,9 +132,11 @@ def do(role, name, action):
 
 
 def check_pages():
-    do("check box", "Colour dialog", "Toggle")
-    eventually(lambda: find("label", "Colour dialog"), "the other page is on show")
-    do("check box", "Hex", "Toggle")
+    do("page tab", "Colour dialog", "Press")
+    # The other page is wide.
+    width = lambda: find("frame", "Vantorel").queryComponent().getExtents(pyatspi.DESKTOP_COORDS).width
+    eventually(lambda: width() > 500, "the other page is on show")
+    do("page tab", "Hex", "Press")
     check_face("colours, after another page", COLORS_FACE)
 
 

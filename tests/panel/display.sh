@@ -27,6 +27,10 @@ start_panel() {
 color_is() { [ "$(tail -n 1 "$scratch/colors")" = "$1" ]; }
 expect_color() { eventually color_is "$1" || fail "$2: $(tail -n 1 "$scratch/colors"), not $1"; }
 
-# Prints the centre of column c and row r of the digit matrix. The page is below a bar of 32 points; the
-# colours view is 240 by 226 at (10, 54) of the page. Columns 0, 2, 4 and so on are the gaps.
-cell() { echo "$((10 + 1 + (238 * (2 * $1 + 1)) / 30)) $((32 + 54 + 226 - 6 - (214 * (2 * $2 + 1)) / 32))"; }
+# Prints the place in the window of a place on the page, which is below the colour, its texts and the names of
+# the pages.
+on_page() { echo "$((2 + $1)) $((188 + $2))"; }
+
+# Prints the centre of column c and row r of the digit matrix. The colours view is 240 by 226 at (10, 54) of
+# the page. Columns 0, 2, 4 and so on are the gaps.
+cell() { on_page $((10 + 1 + (238 * (2 * $1 + 1)) / 30)) $((54 + 226 - 6 - (214 * (2 * $2 + 1)) / 32)); }

@@ -20,9 +20,9 @@ DATA_CONTROL = {"ext_data_control_manager_v1", "zwlr_data_control_manager_v1"}
 TEXT_FIELD_OF_TARGET = (150, 24)
 WIDTH, HEIGHT = 1000, 800
 # Positions in the panel's window, whose page is 260 x 340.
-CELL_A0_OF_RED = (34, 166)
-NAMES_POP_UP = (176, 352)
-BETWEEN_COLUMNS = (50, 192)
+CELL_A0_OF_RED = (36, 322)
+NAMES_POP_UP = (178, 508)
+BETWEEN_COLUMNS = (52, 348)
 
 
 def sway(*arguments):
@@ -170,7 +170,7 @@ class WindowTest(WaylandTest):
         seat = WaylandSeat(COMPOSITOR, WIDTH * 4 // 5, HEIGHT * 4 // 5)
         self.addCleanup(seat.close)
         self.open_panel("#000000")
-        self.assertEqual(self.window["rect"]["width"], 260)
+        self.assertEqual(self.window["rect"]["width"], 264)
         seat.click(*self.at(CELL_A0_OF_RED))
         self.expect_color("#a00000")
 

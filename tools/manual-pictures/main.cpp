@@ -25,7 +25,6 @@ using namespace vantorel;
 /// Twice as many pixels as points: sharp on the screens of today, and in print.
 constexpr const char* scale = "2";
 constexpr QSize page{320, 340};
-constexpr int topBar = 32;
 
 template <class Widget>
 Widget& child(PanelWindow& window, const char* name)
@@ -43,11 +42,19 @@ QImage wholeWindow(PanelWindow& window)
     return window.grab().toImage();
 }
 
+/// A strip of the page, in points from its top.
 QImage part(PanelWindow& window, int top, int height)
 {
     const QImage whole = wholeWindow(window);
     const int ratio = static_cast<int>(whole.devicePixelRatio());
-    return whole.copy(0, top * ratio, whole.width(), height * ratio);
+    const QRect place = window.pages().place().geometry();
+    return whole.copy(place.x() * ratio, (place.y() + top) * ratio, place.width() * ratio,
+                      height * ratio);
+}
+
+QImage wholePage(PanelWindow& window)
+{
+    return part(window, 0, window.pages().place().height());
 }
 
 void typeInto(PanelWindow& window, const char* field, const QString& text)
@@ -90,30 +97,39 @@ constexpr const char* svgList = R"({ HexColorLlst = "SVG Keyword"; })";
 const std::vector<Picture>& pictures()
 {
     static const std::vector<Picture> all{
-        {"colors", "#ff7f50", svgList, wholeWindow},
+        {"panel", "#ff7f50", svgList,
+         [](PanelWindow& window) {
+             PanelMemory memory = window.memory();
+             for (const char* color : {"#3b82f6", "#f59e0b", "#10b981", "#ef4444", "#84a98c"})
+                 memory.recent.push_back(hostColorFrom(QColor(color)));
+             memory.pinned = {hostColorFrom(QColor("#0f172a"))};
+             window.recall(memory);
+             return wholeWindow(window);
+         }},
+        {"colors", "#ff7f50", svgList, wholePage},
         {"settings", "#ff7f50", cssList,
          [](PanelWindow& window) {
              window.pages().currentPicker()->performAction("settingsButtonAction", nullptr);
-             return wholeWindow(window);
+             return wholePage(window);
          }},
         {"palette", "#ff7f50", R"({ HexColorLlst = "SVG Keyword"; PickModeColorLists = Palette; })",
-         wholeWindow},
-        {"wheel", "#ff9900", R"({ PickModeColorLists = Wheel; })", wholeWindow},
+         wholePage},
+        {"wheel", "#ff9900", R"({ PickModeColorLists = Wheel; })", wholePage},
         {"typing-hex", "#ff7f50", cssList,
          [](PanelWindow& window) {
              typeInto(window, "_fullHexText", "#3c6");
-             return part(window, topBar, 33);
+             return part(window, 0, 33);
          }},
         {"typing-names", "#ff7f50", svgList,
          [](PanelWindow& window) {
              typeInto(window, "_rgbDecimalText", "lights");
-             return part(window, topBar, 150);
+             return part(window, 0, 150);
          }},
         {"input-error", "#ff7f50", svgList,
          [](PanelWindow& window) {
              typeInto(window, "_fullHexText", "12345");
              QTest::keyClick(&child<QLineEdit>(window, "_fullHexText"), Qt::Key_Return);
-             return part(window, topBar, 100);
+             return part(window, 0, 100);
          }},
         {"close-names", "#0a0a88", cssList,
          [](PanelWindow& window) { return openedMenu(window, "hexColorNamePopUp"); }},
@@ -121,7 +137,7 @@ const std::vector<Picture>& pictures()
          [](PanelWindow& window) { return openedMenu(window, "hexColorsListPopUp"); }},
         {"code-line", "#ff7f50",
          R"({ ComponentDisplay = "Code Snippet"; CodeSnippetName = "Java NSInteger 3"; })",
-         [](PanelWindow& window) { return part(window, topBar + 255, 85); }},
+         [](PanelWindow& window) { return part(window, 255, 85); }},
     };
     return all;
 }

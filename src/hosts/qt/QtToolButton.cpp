@@ -2,7 +2,8 @@
 
 #include "hosts/qt/StyleHints.h"
 
-#include <QPainter>
+#include <QStyleOption>
+#include <QStylePainter>
 
 namespace vantorel {
 
@@ -12,12 +13,16 @@ QtToolButton::QtToolButton(QWidget* parent) : QToolButton(parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void QtToolButton::paintEvent(QPaintEvent* event)
+void QtToolButton::paintEvent(QPaintEvent*)
 {
-    QToolButton::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    // The picture of a button that only opens a menu says so itself.
+    if (popupMode() == InstantPopup) option.features &= ~QStyleOptionToolButton::HasMenu;
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
     if (!hasFocus() || style()->styleHint(stylePaintsHostControls) != 0) return;
     constexpr qreal width = 2;
-    QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), width));
     painter.drawRoundedRect(QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2),

@@ -96,6 +96,7 @@ void PanelPages::setColor(const HostColor& color)
 {
     _color = color;
     if (PanelPage* page = current()) page->setColor(color);
+    emit colorShown();
 }
 
 void PanelPages::setVisible(bool isVisible)

@@ -54,6 +54,8 @@ public slots:
     void setColor(const HostColor& color);
 
 signals:
+    /// The page that is shown has got the panel's colour.
+    void colorShown();
     /// Another page is shown. It has its place and the colour.
     void pageShown(int index);
 

@@ -2,6 +2,8 @@
 
 #include "panel/widgets/PanelIcons.h"
 
+#include <algorithm>
+
 namespace vantorel {
 
 PalettesPage::PalettesPage(HostFiles& files, PaletteFileStore& store) : _files(files), _store(store)
@@ -64,6 +66,19 @@ void PalettesPage::finishEditing()
 bool PalettesPage::performKey(const QKeyEvent& event)
 {
     return _widget && _widget->performKey(event);
+}
+
+void PalettesPage::keepAsList(const QString& name, const std::vector<HostColor>& colors)
+{
+    if (!_widget) return;
+    PaletteEntries entries;
+    for (const HostColor& color : colors) {
+        const PaletteEntry entry(hexCodeOf(color), color);
+        // Colours that differ in their opacity are one in a list.
+        if (std::find(entries.begin(), entries.end(), entry) == entries.end())
+            entries.push_back(entry);
+    }
+    _widget->startList(name, entries);
 }
 
 std::vector<ShortcutRow> PalettesPage::shortcuts() const

@@ -27,6 +27,10 @@ public:
     bool performKey(const QKeyEvent& event) override;
     [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
 
+    /// Makes a new list of these colours and lets the user name it. Has no effect unless the page
+    /// is shown.
+    void keepAsList(const QString& name, const std::vector<HostColor>& colors);
+
 protected:
     [[nodiscard]] QWidget* makeWidget() override;
 

@@ -35,6 +35,8 @@ public:
     void finishEditing() { _lists->finishEditing(); }
     /// Carries out the command for a key, if there is one.
     bool performKey(const QKeyEvent& event) { return _keys->perform(event); }
+    /// Adds a list, and lets the user name it.
+    void startList(const QString& name, const PaletteEntries& entries);
 
 signals:
     /// The user has chosen a colour. Its opacity is not part of the list and should be ignored.
@@ -64,8 +66,6 @@ private:
     /// Shows the outcome of a step and selects `places`.
     void showStep(const EditOutcome& outcome, const std::vector<std::size_t>& places);
 
-    /// Adds a list, and lets the user name it.
-    void startList(const QString& name, const PaletteEntries& entries);
     void removeList();
 
     PaletteSession _session;

@@ -3,36 +3,38 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
+#include "panel/widgets/PanelIcons.h"
+#include "panel/widgets/ThemeColors.h"
 
 #include <QAccessible>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 
 #include <chrono>
 
 namespace vantorel {
 namespace {
 
-constexpr std::chrono::milliseconds newsTime{12000};
+/// News is read in this time: some to notice it, some for each character.
+constexpr std::chrono::milliseconds noticingTime{2000};
+constexpr std::chrono::milliseconds characterTime{50};
 
-QColor mixed(const QColor& ground, const QColor& color, double share)
-{
-    const auto channel = [share](int from, int to) { return qRound(from + (to - from) * share); };
-    return {channel(ground.red(), color.red()), channel(ground.green(), color.green()),
-            channel(ground.blue(), color.blue())};
-}
+// In points.
+constexpr int textSize = 12;
+constexpr int iconPoints = 16;
+constexpr int gap = 4;
 
 }  // namespace
 
 MessageLabel::MessageLabel(QWidget* parent) : PlainLabel(parent)
 {
-    setFont(fontOfSize(10));
+    setFont(fontOfSize(textSize));
     setWordWrap(true);
+    setAlignment(Qt::AlignLeading | Qt::AlignTop);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setMargin(scaled(4));
-    setAutoFillBackground(true);
     hide();
     _timer.setSingleShot(true);
-    _timer.setInterval(newsTime);
     connect(&_timer, &QTimer::timeout, this, [this] { showMessages({}, Kind::news); });
 }
 
@@ -55,15 +57,41 @@ void MessageLabel::showMessages(const std::vector<Message>& messages, Kind kind)
     _timer.stop();
     emit messageChanged();
     if (text.isEmpty()) return;
-    QPalette colors = parentWidget()->palette();
-    const QColor ground = colors.color(QPalette::Window);
-    colors.setColor(QPalette::Window, kind == Kind::failure
-                                          ? mixed(ground, QColor(220, 50, 30), 0.25)
-                                          : mixed(ground, colors.color(QPalette::Highlight), 0.15));
-    setPalette(colors);
-    if (kind == Kind::news) _timer.start();
+    _kind = kind;
+    applyTheme();
+    if (kind == Kind::news) _timer.start(noticingTime + text.size() * characterTime);
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+}
+
+void MessageLabel::applyTheme()
+{
+    const ThemeColors theme = themeColors(parentWidget()->palette());
+    QPalette colors = parentWidget()->palette();
+    const QColor color = _kind == Kind::failure ? theme.error : theme.text;
+    colors.setColor(QPalette::WindowText, color);
+    // That of icons.
+    colors.setColor(QPalette::ButtonText, color);
+    if (colors != palette()) setPalette(colors);
+    const int icon = scaled(iconPoints) + scaled(gap);
+    const bool isMirrored = isRightToLeft();
+    setContentsMargins(isMirrored ? 0 : icon, 0, isMirrored ? icon : 0, 0);
+}
+
+void MessageLabel::changeEvent(QEvent* event)
+{
+    PlainLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) applyTheme();
+}
+
+/// Not by its colour alone is a failure told from news.
+void MessageLabel::paintEvent(QPaintEvent* event)
+{
+    PlainLabel::paintEvent(event);
+    QPainter painter(this);
+    const int size = scaled(iconPoints);
+    const QIcon icon = _kind == Kind::failure ? warnIcon(this) : tickIcon(this);
+    icon.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, size, size)));
 }
 
 void MessageLabel::mouseReleaseEvent(QMouseEvent* event)

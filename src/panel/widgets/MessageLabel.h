@@ -10,8 +10,9 @@ namespace vantorel {
 
 struct Message;
 
-/// Reports the outcome of a step, in as many lines as the message needs. News disappears after a
-/// while; a failure is shown until the next step or until it is clicked.
+/// Reports the outcome of a step, in as many lines as the message needs, with an icon. News
+/// disappears as soon as it can have been read; a failure is shown until the next step or until it
+/// is clicked.
 class MessageLabel final : public PlainLabel {
     Q_OBJECT
 
@@ -30,9 +31,14 @@ signals:
     void messageChanged();
 
 protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void applyTheme();
+
+    Kind _kind = Kind::news;
     QTimer _timer;
 };
 

@@ -6,13 +6,14 @@ namespace vantorel {
 namespace {
 
 /// The pictures have 16 by 16 units.
-QIcon iconFromStrokes(const char* shapes)
+QIcon iconFromStrokes(const char* shapes, const QWidget* ground = nullptr)
 {
     return iconFromSvg(
         std::string("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 16 16\" fill=\"none\" "
                     "stroke=\"currentColor\" stroke-width=\"1.4\" stroke-linecap=\"round\" "
                     "stroke-linejoin=\"round\">") +
-        shapes + "</svg>");
+            shapes + "</svg>",
+        ground);
 }
 
 }  // namespace
@@ -63,14 +64,14 @@ QIcon settingsIcon()
                            R"(<path d="M2.5 5.5h6M12.5 5.5h1M2.5 10.5h1M7.5 10.5h6"/>)");
 }
 
-QIcon tickIcon()
+QIcon tickIcon(const QWidget* ground)
 {
-    return iconFromStrokes(R"(<path d="M3.5 8.5l3 3 6-7"/>)");
+    return iconFromStrokes(R"(<path d="M3.5 8.5l3 3 6-7"/>)", ground);
 }
 
-QIcon warnIcon()
+QIcon warnIcon(const QWidget* ground)
 {
-    return iconFromStrokes(R"(<path d="M8 2.5l6 11H2zM8 6.5v3M8 11.5h.01"/>)");
+    return iconFromStrokes(R"(<path d="M8 2.5l6 11H2zM8 6.5v3M8 11.5h.01"/>)", ground);
 }
 
 QIcon pinIcon()

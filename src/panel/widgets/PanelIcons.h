@@ -14,8 +14,9 @@ namespace vantorel {
 [[nodiscard]] QIcon downIcon();
 [[nodiscard]] QIcon rightIcon();
 [[nodiscard]] QIcon settingsIcon();
-[[nodiscard]] QIcon tickIcon();
-[[nodiscard]] QIcon warnIcon();
+/// These two in the text colour of buttons on `ground`.
+[[nodiscard]] QIcon tickIcon(const QWidget* ground = nullptr);
+[[nodiscard]] QIcon warnIcon(const QWidget* ground = nullptr);
 [[nodiscard]] QIcon pinIcon();
 [[nodiscard]] QIcon gripIcon();
 [[nodiscard]] QIcon closeIcon();

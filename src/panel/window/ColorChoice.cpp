@@ -29,6 +29,8 @@ void ColorChoice::choose()
     _window.pages().current()->finishEditing();
     // The panel's own pages do not have the settings, and the window is about to close.
     if (_window.pages().currentPicker() == nullptr) _window.pages().showPage(0);
+    // The background was only edited beside it.
+    _window.colors().edit(EditedColor::color);
     _window.colors().rememberColor();
     _text = _window.exchange().draggedText();
     _window.close();

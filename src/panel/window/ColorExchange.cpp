@@ -61,8 +61,25 @@ QString ColorExchange::draggedText() const
     return texts.empty() ? QString() : qStringFrom(texts.front().text);
 }
 
+void ColorExchange::setForm(const QString& name)
+{
+    if (name == _form) return;
+    _form = name;
+    emit formChanged();
+}
+
+std::optional<HostColorText> ColorExchange::chosenForm() const
+{
+    if (_form.isEmpty()) return std::nullopt;
+    for (HostColorText& text : colorTexts()) {
+        if (qStringFrom(text.name) == _form) return std::move(text);
+    }
+    return std::nullopt;
+}
+
 QString ColorExchange::copiedText() const
 {
+    if (const auto chosen = chosenForm()) return qStringFrom(chosen->text);
     if (const HostColorPicker* picker = _pages.currentPicker()) {
         if (const auto text = picker->copyText()) return qStringFrom(*text);
     }
@@ -107,13 +124,12 @@ void ColorExchange::paste()
 
 void ColorExchange::takeColor(const ColorOffer& offer)
 {
-    if (offer.color) _colors.setColor(*offer.color);
-    emit reported(offer.message, kindOf(offer));
+    takeOneColor(_colors.edited(), offer);
 }
 
-void ColorExchange::takeBackground(const ColorOffer& offer)
+void ColorExchange::takeOneColor(EditedColor which, const ColorOffer& offer)
 {
-    if (offer.color) _colors.setBackground(*offer.color);
+    if (offer.color) _colors.set(which, *offer.color);
     emit reported(offer.message, kindOf(offer));
 }
 

@@ -30,8 +30,16 @@ public:
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
     /// The text that a drag out of the panel carries: in the form of the settings, or the hex code.
     [[nodiscard]] QString draggedText() const;
-    /// The text that `copy` copies: like that of a drag, with the opacity.
+    /// The text that `copy` copies: in the chosen form, otherwise like that of a drag, with the
+    /// opacity.
     [[nodiscard]] QString copiedText() const;
+
+    /// The name of the form of copies, as in `colorTexts`; empty for that of the page's settings.
+    [[nodiscard]] const QString& form() const { return _form; }
+    void setForm(const QString& name);
+    /// The colour in the chosen form; `std::nullopt` if none is chosen, or if it is not among those
+    /// of the page that is shown.
+    [[nodiscard]] std::optional<HostColorText> chosenForm() const;
 
     /// Remembers the colour, and tells the user that this text of it has been copied.
     void noteCopied(const QString& text);
@@ -51,10 +59,14 @@ public slots:
     void paste();
     void pick() { pickFromScreen(false, {}); }
     void pickAndCopy() { pickFromScreen(true, {}); }
+    /// Makes a colour that was brought from elsewhere the panel's colour, or reports why there is
+    /// none.
     void takeColor(const ColorOffer& offer);
-    void takeBackground(const ColorOffer& offer);
+    /// The same for one of the panel's two colours.
+    void takeOneColor(vantorel::EditedColor which, const ColorOffer& offer);
 
 signals:
+    void formChanged();
     /// A text was copied.
     void copied(const QString& text);
     /// Something the user should know, such as why there is no colour to paste. Empty if something
@@ -66,6 +78,7 @@ private:
     PanelPages& _pages;
     QWidget& _window;
     std::unique_ptr<ScreenPicker> _screenPicker;
+    QString _form;
 };
 
 }  // namespace vantorel

@@ -4,26 +4,36 @@
 
 namespace vantorel {
 
-void ColorHistory::record(const HostColor& color, double now)
+void ColorHistory::record(const ColorPair& colors, double now)
 {
-    _before = State{_steps, _index, _recent, _lastChange, _settled};
-    if (color == current()) return;
+    _before = State{_steps, _index, _recent, _lastChange, _settled, _lastChanged};
+    if (colors == current()) return;
     const bool isSoon = _isInStep || now - _lastChange < settlingSeconds;
-    const bool sameStep = !_settled && isSoon && _index > 0;
+    const Changed changed{colors.color != current().color,
+                          colors.background != current().background};
+    const bool sameStep = !_settled && isSoon && _index > 0 && changed == _lastChanged;
     _lastChange = now;
+    _lastChanged = changed;
     _settled = false;
-    _steps.resize(_index + 1, color);
+    _steps.resize(_index + 1, colors);
     if (sameStep) {
-        _steps.back() = color;
+        _steps.back() = colors;
         return;
     }
-    if (_index > 0 || _firstIsChosen) remember(current());
-    _steps.push_back(color);
+    rememberReplaced(colors);
+    _steps.push_back(colors);
     if (_steps.size() > mostSteps) {
         _steps.erase(_steps.begin());
         _firstIsChosen = true;
     }
     _index = _steps.size() - 1;
+}
+
+void ColorHistory::rememberReplaced(const ColorPair& next)
+{
+    // The first background is the window's white, or was remembered by an earlier start.
+    if (next.background != current().background && _index > 0) remember(current().background);
+    if (next.color != current().color && (_index > 0 || _firstIsChosen)) remember(current().color);
 }
 
 void ColorHistory::beginStep()
@@ -46,10 +56,11 @@ void ColorHistory::forgetLast()
     _recent = std::move(_before->recent);
     _lastChange = _before->lastChange;
     _settled = _before->settled;
+    _lastChanged = _before->changed;
     _before.reset();
 }
 
-std::optional<HostColor> ColorHistory::undo()
+std::optional<ColorPair> ColorHistory::undo()
 {
     if (!canUndo()) return std::nullopt;
     _before.reset();
@@ -57,7 +68,7 @@ std::optional<HostColor> ColorHistory::undo()
     return _steps[--_index];
 }
 
-std::optional<HostColor> ColorHistory::redo()
+std::optional<ColorPair> ColorHistory::redo()
 {
     if (!canRedo()) return std::nullopt;
     _before.reset();

@@ -5,7 +5,9 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "hosts/qt/WaylandSession.h"
+#include "panel/preferences/PreferencesDialog.h"
 #include "panel/widgets/PanelIcons.h"
+#include "panel/window/AboutDialog.h"
 #include "panel/window/DialogSwitchesWindow.h"
 #include "panel/window/ShortcutOverlay.h"
 
@@ -77,6 +79,10 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     connect(_stayOnTop, &QAction::toggled, this, &PanelCommands::setStaysOnTop);
     QAction* showDialogSwitches =
         add(tr("Dialogs of other programs..."), {}, *this, &PanelCommands::showDialogSwitches);
+    QAction* showPreferences = add(tr("Preferences..."), {Qt::CTRL | Qt::Key_Comma}, *this,
+                                   &PanelCommands::showPreferences);
+    QAction* showManual = add(tr("Manual"), {}, *this, &PanelCommands::showManual);
+    QAction* showAbout = add(tr("About Vantorel"), {}, *this, &PanelCommands::showAbout);
     QAction* showShortcuts =
         add(tr("Keyboard shortcuts"), {Qt::Key_F1}, *this, &PanelCommands::showShortcuts);
     QAction* quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, window, &QWidget::close);
@@ -101,8 +107,13 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(previousPage);
     _menu->addAction(_stayOnTop);
     _menu->addSeparator();
+    _menu->addAction(showPreferences);
     _menu->addAction(showDialogSwitches);
+    _menu->addSeparator();
+    _menu->addAction(showManual);
     _menu->addAction(showShortcuts);
+    _menu->addAction(showAbout);
+    _menu->addSeparator();
     _menu->addAction(quit);
 }
 
@@ -149,6 +160,26 @@ void PanelCommands::setStaysOnTop(bool flag)
 void PanelCommands::showDialogSwitches()
 {
     (new DialogSwitchesWindow(_window))->open();
+}
+
+void PanelCommands::showPreferences()
+{
+    if (_preferences == nullptr) _preferences = new PanelPreferences(this);
+    (new PreferencesDialog(*_preferences, &_window))->show();
+}
+
+/// The pages know where their manual is.
+void PanelCommands::showManual()
+{
+    for (int i = 0; i < _pages.count(); ++i) {
+        HostColorPicker* picker = _pages.page(i).picker();
+        if (picker != nullptr && picker->performAction("helpHexColorAction", nullptr)) return;
+    }
+}
+
+void PanelCommands::showAbout()
+{
+    (new AboutDialog(_window))->open();
 }
 
 void PanelCommands::showShortcuts()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "panel/preferences/PanelPreferences.h"
 #include "panel/window/ColorExchange.h"
 
 #include <QAction>
@@ -42,9 +43,14 @@ private:
     void updateHistory();
     void setStaysOnTop(bool flag);
     void showDialogSwitches();
+    void showPreferences();
+    void showManual();
     void showShortcuts();
+    void showAbout();
 
     QWidget& _window;
+    /// Read when they are first shown.
+    PanelPreferences* _preferences = nullptr;
     PanelColors& _colors;
     PanelPages& _pages;
     ColorExchange& _exchange;

@@ -37,9 +37,8 @@ HostSize PanelHost::growPage(HostSize growth)
     const double scale = textScale();
     const QSize before = _pages.place().size();
     // Rounded up, because a page that asks needs all of it.
-    _window.resizeAtOnce(_window.size() +
-                         QSize(static_cast<int>(std::ceil(growth.width * scale)),
-                               static_cast<int>(std::ceil(growth.height * scale))));
+    _window.growPage({static_cast<int>(std::ceil(growth.width * scale)),
+                      static_cast<int>(std::ceil(growth.height * scale))});
     return pointsOf(_pages.place().size() - before);
 }
 

@@ -27,6 +27,8 @@ constexpr const char16_t* colorKey = u"Color";
 constexpr const char16_t* geometryKey = u"Geometry";
 constexpr const char16_t* pageKey = u"Page";
 constexpr const char16_t* recentKey = u"RecentColors";
+constexpr const char16_t* pinnedKey = u"PinnedColors";
+constexpr const char16_t* formKey = u"CopyForm";
 constexpr const char16_t* onTopKey = u"StaysOnTop";
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
@@ -63,7 +65,7 @@ void readColor(const QString& text, HostColor& color)
     if (read.isValid()) color = hostColorFrom(read);
 }
 
-void readRecentColors(const QStringList& texts, std::vector<HostColor>& colors)
+void readColors(const QStringList& texts, std::vector<HostColor>& colors)
 {
     for (const QString& text : texts) {
         const QColor color(text);
@@ -79,8 +81,18 @@ PanelMemory memoryFrom(const QSettings& settings)
     memory.onTop = settings.value(QStringLiteral("onTop")).toBool();
     readColor(settings.value(QStringLiteral("color")).toString(), memory.color);
     readColor(settings.value(QStringLiteral("background")).toString(), memory.background);
-    readRecentColors(settings.value(QStringLiteral("recent")).toStringList(), memory.recent);
+    readColors(settings.value(QStringLiteral("recent")).toStringList(), memory.recent);
     return memory;
+}
+
+QStringList textsOf(const PropertyList* array)
+{
+    QStringList texts;
+    if (array == nullptr || array->array() == nullptr) return texts;
+    for (const PropertyList& text : *array->array()) {
+        if (text.string() != nullptr) texts.append(qStringFrom(*text.string()));
+    }
+    return texts;
 }
 
 PanelMemory memoryFrom(const PropertyList& list)
@@ -97,28 +109,30 @@ PanelMemory memoryFrom(const PropertyList& list)
     memory.onTop = text(onTopKey) == QStringView(yes);
     readColor(text(colorKey), memory.color);
     readColor(text(backgroundKey), memory.background);
-    QStringList recent;
-    const PropertyList* colors = list.valueForKey(recentKey);
-    if (colors != nullptr && colors->array() != nullptr) {
-        for (const PropertyList& color : *colors->array()) {
-            if (color.string() != nullptr) recent.append(qStringFrom(*color.string()));
-        }
-    }
-    readRecentColors(recent, memory.recent);
+    memory.form = text(formKey);
+    readColors(textsOf(list.valueForKey(recentKey)), memory.recent);
+    readColors(textsOf(list.valueForKey(pinnedKey)), memory.pinned);
     return memory;
+}
+
+PropertyList listOf(const std::vector<HostColor>& colors)
+{
+    PropertyList::Array texts(colors.size());
+    std::transform(colors.begin(), colors.end(), texts.begin(),
+                   [](const HostColor& color) { return u16From(textOf(color)); });
+    return texts;
 }
 
 PropertyList propertyListFrom(const PanelMemory& memory)
 {
-    PropertyList::Array recent(memory.recent.size());
-    std::transform(memory.recent.begin(), memory.recent.end(), recent.begin(),
-                   [](const HostColor& color) { return u16From(textOf(color)); });
     return PropertyList::Dictionary{
         {backgroundKey, u16From(textOf(memory.background))},
         {colorKey, u16From(textOf(memory.color))},
         {geometryKey, PropertyList::data(memory.geometry.toStdString())},
+        {formKey, u16From(memory.form)},
         {pageKey, u16From(memory.page)},
-        {recentKey, std::move(recent)},
+        {pinnedKey, listOf(memory.pinned)},
+        {recentKey, listOf(memory.recent)},
         {onTopKey, memory.onTop ? yes : no},
     };
 }
@@ -213,8 +227,10 @@ PanelMemory merged(const PanelMemory& base, const PanelMemory& mine, const Panel
     result.geometry = mergedValue(base.geometry, mine.geometry, theirs.geometry);
     result.page = mergedValue(base.page, mine.page, theirs.page);
     result.onTop = mergedValue(base.onTop, mine.onTop, theirs.onTop);
+    result.form = mergedValue(base.form, mine.form, theirs.form);
     result.color = mergedValue(base.color, mine.color, theirs.color);
     result.background = mergedValue(base.background, mine.background, theirs.background);
+    result.pinned = mergedValue(base.pinned, mine.pinned, theirs.pinned);
     result.recent = mergedRecent(base.recent, mine.recent, theirs.recent);
     return result;
 }

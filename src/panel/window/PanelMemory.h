@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HostColor.h"
+#include "panel/window/PanelColors.h"
 
 #include <QByteArray>
 #include <QString>
@@ -16,9 +16,13 @@ struct PanelMemory {
     /// The identifier of a page. From an older panel it is the page's name in the language of then.
     QString page;
     bool onTop = false;
-    HostColor color = HostColor::whiteColor();
+    /// The form of the field and of copies, as `ColorExchange::form`.
+    QString form;
+    HostColor color = PanelColors::firstColor();
     HostColor background = HostColor::whiteColor();
     std::vector<HostColor> recent;
+    /// In the user's order.
+    std::vector<HostColor> pinned;
 
     bool operator==(const PanelMemory&) const = default;
 };

@@ -36,9 +36,9 @@ PanelMemoryKeeper::~PanelMemoryKeeper()
 void PanelMemoryKeeper::keep()
 {
     const PanelColors& colors = _window.colors();
-    connect(&colors, &PanelColors::colorChanged, this, &PanelMemoryKeeper::saveSoon);
-    connect(&colors, &PanelColors::backgroundChanged, this, &PanelMemoryKeeper::saveSoon);
+    connect(&colors, &PanelColors::colorsChanged, this, &PanelMemoryKeeper::saveSoon);
     connect(&colors, &PanelColors::historyChanged, this, &PanelMemoryKeeper::saveSoon);
+    connect(&_window.exchange(), &ColorExchange::formChanged, this, &PanelMemoryKeeper::saveSoon);
     connect(&_window.pages(), &PanelPages::pageShown, this, &PanelMemoryKeeper::saveSoon);
     connect(&_window.commands().stayOnTop(), &QAction::toggled, this, &PanelMemoryKeeper::saveSoon);
     _window.installEventFilter(this);

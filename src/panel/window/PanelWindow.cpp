@@ -4,13 +4,15 @@
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtMessages.h"
+#include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/pages/DialogPage.h"
 #include "panel/pages/PluginPage.h"
 #include "panel/palettes/PalettesPage.h"
+#include "panel/window/TabOrder.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -20,33 +22,11 @@ namespace vantorel {
 namespace {
 
 // In points, like the sizes of pages.
-constexpr int topBarPoints = 32;
-constexpr int toolsPoints = 54;
 constexpr int problemsPoints = 20;
 constexpr int footPoints = 42;
-constexpr QSize firstPageSize{260, 340};
-
-/// Sorts widgets by rows from the top, and in each row in the direction of reading.
-void sortAsRead(std::vector<QWidget*>& widgets, const QWidget& window)
-{
-    const auto place = [&](const QWidget* widget) {
-        return QRect(widget->mapTo(&window, QPoint()), widget->size());
-    };
-    const auto isAbove = [&](const QWidget* a, const QWidget* b) {
-        return place(a).center().y() < place(b).center().y();
-    };
-    std::stable_sort(widgets.begin(), widgets.end(), isAbove);
-    for (auto row = widgets.begin(); row != widgets.end();) {
-        const auto end = std::find_if(row, widgets.end(), [&](const QWidget* widget) {
-            return place(widget).center().y() > place(*row).bottom();
-        });
-        std::stable_sort(row, end, [&](const QWidget* a, const QWidget* b) {
-            const int ahead = place(a).left() - place(b).left();
-            return window.isRightToLeft() ? ahead > 0 : ahead < 0;
-        });
-        row = end;
-    }
-}
+constexpr int pickIconPoints = 16;
+/// The window is 300 points wide then.
+constexpr QSize firstPageSize{296, 292};
 
 QSize scaledSize(QSize points)
 {
@@ -57,22 +37,37 @@ QSize scaledSize(QSize points)
 
 PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
                          std::vector<Message>& problems, std::unique_ptr<ScreenPicker> screenPicker)
-    : _topBar(new PanelTopBar(this)),
-      _problems(new PlainLabel(this)),
-      _pages(*this),
+    : _band(new ColorBand(this)),
+      _field(new ColorField(this)),
+      _pick(new QtToolButton(this)),
+      _facts(new ColorFacts(this)),
       _message(new MessageLabel(this)),
-      _tools(new PanelTools(this)),
+      _forms(new FormList(this)),
+      _pageBar(new PageBar(this)),
+      _pages(*this),
+      _lastColors(new LastColors(this)),
+      _problems(new PlainLabel(this)),
       _host(desktop, *this, _colors, _pages),
       _exchange(_colors, _pages, *this, std::move(screenPicker)),
-      _commands(*this, _colors, _pages, _exchange)
+      _commands(*this, _colors, _pages, _exchange),
+      _entry(*_field, *_facts, *_forms, _colors, _pages, _exchange)
 {
     setWindowTitle(QStringLiteral("Vantorel"));
     setAccessibleRole(*this, QAccessible::Window);
     _problems->setVisible(false);
     _problems->setFont(fontOfSize(10));
     _problems->setMargin(4);
-    _topBar->setMenu(_commands.menu());
-    _tools->setActions(_commands.swap(), _commands.pick(), _commands.copy(), _commands.copyMenu());
+    _pick->setObjectName(QStringLiteral("pick"));
+    _pick->setAutoRaise(false);
+    _pick->setIconSize(QSize(scaled(pickIconPoints), scaled(pickIconPoints)));
+    _pick->setDefaultAction(&_commands.pick());
+    _pick->setAccessibleName(_commands.pick().text());
+    _field->setCopyActions(_commands.copy(), _commands.copyMenu());
+    _band->setSwapAction(_commands.swap());
+    _lastColors->setObjectName(QStringLiteral("lastColors"));
+    _lastColors->setEmptyHint(
+        tr("%1 picks from the screen").arg(shownKeys(_commands.pick().shortcuts())));
+    _pageBar->setMenu(_commands.menu());
     connectParts();
 
     addPages(plugins, problems);
@@ -92,26 +87,40 @@ PanelWindow::~PanelWindow()
 
 void PanelWindow::connectParts()
 {
-    connect(&_colors, &PanelColors::colorSet, _tools, &PanelTools::setColor);
+    const auto showColors = [this] {
+        _band->setColor(_colors.foreground());
+        _band->setBackground(_colors.background());
+        _band->setEdited(_colors.edited());
+    };
+    const auto showHistory = [this] { _lastColors->setColors(_colors.pinned(), _colors.recent()); };
+    connect(&_colors, &PanelColors::colorsChanged, this, showColors);
     connect(&_colors, &PanelColors::colorSet, &_pages, &PanelPages::setColor);
-    connect(&_colors, &PanelColors::backgroundChanged, _tools, &PanelTools::setBackground);
-    connect(&_colors, &PanelColors::historyChanged, this, &PanelWindow::showHistory);
-    connect(_tools, &PanelTools::opacityChosen, &_colors, &PanelColors::setOpacity);
-    connect(_tools, &PanelTools::recentColorChosen, &_colors, &PanelColors::setColor);
-    connect(_tools, &PanelTools::colorDropped, &_exchange, &ColorExchange::takeColor);
-    connect(_tools, &PanelTools::backgroundDropped, &_exchange, &ColorExchange::takeBackground);
+    connect(&_colors, &PanelColors::historyChanged, this, showHistory);
+    connect(_band, &ColorBand::editRequested, &_colors, &PanelColors::edit);
+    connect(_band, &ColorBand::dropped, &_exchange, &ColorExchange::takeOneColor);
+    connect(_band, &ColorBand::copyRequested, this, [this](EditedColor which) {
+        _colors.edit(which);
+        _exchange.copy();
+    });
+    connect(_lastColors, &LastColors::chosen, &_colors, &PanelColors::setColor);
+    connect(_lastColors, &LastColors::pinRequested, &_colors, &PanelColors::pin);
+    connect(_lastColors, &LastColors::pinnedReordered, &_colors, &PanelColors::setPinned);
+    connect(_lastColors, &LastColors::clearRequested, &_colors, &PanelColors::clearRecent);
     connect(&_exchange, &ColorExchange::reported, this, &PanelWindow::showMessage);
     connect(&_exchange, &ColorExchange::copied, this, [this](const QString& text) {
-        _message->showMessage({}, {});
-        _topBar->showMessage(translatedSentence({phrase("\"%1\" copied", text.toStdString())}));
+        showMessage({phrase("\"%1\" copied", text.toStdString())});
     });
     // What has failed before has succeeded now.
-    connect(&_colors, &PanelColors::colorSet, this, [this] { _message->showMessage({}, {}); });
-    connect(_message, &MessageLabel::messageChanged, this, &PanelWindow::makeRoomForMessage);
-    connect(_topBar, &PanelTopBar::pageChosen, &_pages, &PanelPages::showPage);
+    connect(&_colors, &PanelColors::colorSet, this, [this] { showMessage({}); });
+    connect(&_entry, &ColorEntry::mended, this, [this] { showMessage({}); });
+    connect(_message, &MessageLabel::messageChanged, this, &PanelWindow::adaptToMessage);
+    connect(_pageBar, &PageBar::pageChosen, &_pages, &PanelPages::showPage);
     connect(&_pages, &PanelPages::pageShown, this, &PanelWindow::adaptToPage);
     // A page looks its lists up again when it gets a colour.
     _host.desktop().colorLists().setReaction([this] { _pages.setColor(_colors.color()); });
+    showColors();
+    showHistory();
+    _pages.setColor(_colors.color());
 }
 
 void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems)
@@ -126,80 +135,40 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
     }
     addPage(std::make_unique<DialogPage>());
     QtDesktop& desktop = _host.desktop();
-    addPage(std::make_unique<PalettesPage>(desktop.files(), desktop.paletteFiles()));
+    auto palettes = std::make_unique<PalettesPage>(desktop.files(), desktop.paletteFiles());
+    connect(_lastColors, &LastColors::keepAsListRequested, palettes.get(),
+            [this, page = palettes.get()] {
+                _pages.showPageWithKey(page->key());
+                std::vector<HostColor> colors = _colors.pinned();
+                colors.insert(colors.end(), _colors.recent().begin(), _colors.recent().end());
+                page->keepAsList(tr("Last colours"), colors);
+            });
+    addPage(std::move(palettes));
 }
 
 void PanelWindow::addPage(std::unique_ptr<PanelPage> page)
 {
-    _topBar->addPage(page->icon(), page->name(), page->toolTip());
+    _pageBar->addPage(page->icon(), page->name(), page->toolTip());
     connect(page.get(), &PanelPage::colorChosen, &_colors, &PanelColors::setColor);
     _pages.add(std::move(page));
 }
 
 void PanelWindow::adaptToPage(int index)
 {
-    const PanelPage& page = _pages.page(index);
     showMessage({});
-    _topBar->showPage(index, page.name());
+    _pageBar->showPage(index);
     _host.pageDidAppear();
-    const QSize least = scaledSize(page.minimumSize() + barsPoints());
-    growTo(least);
-}
-
-void PanelWindow::growTo(QSize least)
-{
-    // If the user has resized the window since, that is the size to keep.
-    const bool isStillGrown = _growth && size() == _growth->to;
-    const QSize own = isStillGrown ? _growth->from : size();
-    const QSize wanted = own.expandedTo(least);
-    _growth.reset();
-    setMinimumSize(least);
-    resizeAtOnce(wanted);
-    if (wanted != own) _growth = {own, wanted};
+    resizeAtOnce(_growth.sizeFor(size(), leastWindow(roomIn(size()))));
 }
 
 bool PanelWindow::focusNextPrevChild(bool next)
 {
     // At each step, because pages move their controls and swap their faces.
-    orderTabs();
-    return QWidget::focusNextPrevChild(next);
-}
-
-/// Orders Tab as one reads: the bar, the page, the tools below. By default it follows the order of
-/// creation, and pages are created when they are first shown. The controls of a picker's page are
-/// ordered by their places.
-void PanelWindow::orderTabs()
-{
-    std::vector<const QWidget*> groups{_topBar, &_pages.place(), _tools};
+    std::vector<const QWidget*> groups{_band,  _field,   _pick,           _facts,
+                                       _forms, _pageBar, &_pages.place(), _lastColors};
     if (_foot != nullptr) groups.push_back(_foot);
-    std::vector<std::vector<QWidget*>> members(groups.size());
-    for (QWidget* widget = nextInFocusChain(); widget != this;
-         widget = widget->nextInFocusChain()) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-        for (std::size_t i = 0; i < groups.size(); ++i) {
-            if (groups[i]->isAncestorOf(widget)) members[i].push_back(widget);
-        }
-    }
-    // The menu button was created before those of the pages.
-    std::stable_partition(members[0].begin(), members[0].end(), [](const QWidget* widget) {
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        return button != nullptr && button->isCheckable();
-    });
-    if (const PanelPage* page = _pages.current(); page != nullptr && page->view() != nullptr) {
-        sortAsRead(members[1], *this);
-    }
-    QWidget* last = nullptr;
-    for (const auto& group : members) {
-        for (QWidget* widget : group) {
-            if (last != nullptr) setTabOrder(last, widget);
-            last = widget;
-        }
-    }
-}
-
-void PanelWindow::showHistory()
-{
-    _tools->setRecentColors(_colors.recent());
+    orderTabs(*this, groups);
+    return QWidget::focusNextPrevChild(next);
 }
 
 void PanelWindow::showProblems(const std::vector<Message>& problems)
@@ -218,25 +187,19 @@ void PanelWindow::showProblems(const std::vector<Message>& problems)
 
 void PanelWindow::showMessage(const Message& message, MessageLabel::Kind kind)
 {
-    const QString sentence = translatedSentence(message);
-    const bool isShort = kind == MessageLabel::Kind::news && _topBar->hasRoomFor(sentence);
-    _topBar->showMessage(isShort ? sentence : QString());
-    _message->showMessage(isShort ? Message() : message, kind);
+    _message->showMessage(message, kind);
 }
 
-/// The page gives up the room; a page that already has its minimum height makes the window higher.
-void PanelWindow::makeRoomForMessage()
+/// The page gives up the room for a long message; a page that already has its least height makes
+/// the window higher.
+void PanelWindow::adaptToMessage()
 {
-    const int wanted = _message->isVisibleTo(this) ? _message->heightForWidth(width()) : 0;
-    setMinimumHeight(minimumHeight() - _messageHeight + wanted);
-    _messageHeight = wanted;
-    resizeAtOnce(size().expandedTo(minimumSize()));
+    resizeAtOnce(size());
 }
 
 void PanelWindow::setFoot(QWidget& foot)
 {
     _foot = &foot;
-    setMinimumHeight(minimumHeight() + scaled(footPoints));
     resizeAtOnce({width(), height() + scaled(footPoints)});
 }
 
@@ -248,44 +211,65 @@ void PanelWindow::loadIcon()
     setWindowIcon(QIcon::fromTheme(QStringLiteral("org.vantorel.ColorPanel"), standIn));
 }
 
-void PanelWindow::paintEvent(QPaintEvent* event)
-{
-    QWidget::paintEvent(event);
-    if (!std::exchange(_isPainted, true)) QTimer::singleShot(0, this, &PanelWindow::loadIcon);
-}
-
-QSize PanelWindow::barsPoints() const
-{
-    return {0, topBarPoints + toolsPoints + (_foot != nullptr ? footPoints : 0)};
-}
-
 void PanelWindow::resizeToPage(QSize points)
 {
-    resizeAtOnce(scaledSize(points + barsPoints()));
+    resizeAtOnce(windowForPage(roomIn(size()), scaledSize(points)));
+}
+
+void PanelWindow::growPage(QSize growth)
+{
+    resizeAtOnce(windowForPage(roomIn(size()), _pages.place().size() + growth));
 }
 
 void PanelWindow::resizeAtOnce(QSize size)
 {
-    resize(size);
+    // The least height depends on the number of columns, and so on the new width.
+    const QSize least = leastWindow(roomIn(size));
+    setMinimumSize(least);
+    resize(size.expandedTo(least));
     layOut();
+}
+
+PanelRoom PanelWindow::roomIn(QSize window) const
+{
+    PanelRoom room;
+    room.window = window;
+    if (const PanelPage* page = _pages.current()) room.leastPage = scaledSize(page->minimumSize());
+    if (_message->isVisibleTo(this)) {
+        const int width = panelPlaces(room).lines.width();
+        room.message = _message->heightForWidth(width);
+    }
+    if (_foot != nullptr) room.foot = scaled(footPoints);
+    if (_problems->isVisibleTo(this)) room.problems = scaled(problemsPoints);
+    return room;
 }
 
 void PanelWindow::layOut()
 {
-    const int topBarHeight = scaled(topBarPoints);
-    const int toolsHeight = scaled(toolsPoints);
-    const int problems = _problems->isVisibleTo(this) ? scaled(problemsPoints) : 0;
-    const int foot = _foot != nullptr ? scaled(footPoints) : 0;
-    const int message = _message->isVisibleTo(this) ? _message->heightForWidth(width()) : 0;
-    const int pageHeight =
-        std::max(0, height() - topBarHeight - message - toolsHeight - foot - problems);
-    const int toolsTop = topBarHeight + pageHeight + message;
-    _topBar->setGeometry(0, 0, width(), topBarHeight);
-    _message->setGeometry(0, topBarHeight + pageHeight, width(), message);
-    _tools->setGeometry(0, toolsTop, width(), toolsHeight);
-    if (_foot != nullptr) _foot->setGeometry(0, toolsTop + toolsHeight, width(), foot);
-    _problems->setGeometry(0, height() - problems, width(), problems);
-    _pages.setGeometry({0, topBarHeight, width(), pageHeight});
+    const PanelRoom room = roomIn(size());
+    setMinimumSize(leastWindow(room));
+    const PanelPlaces places = panelPlaces(room);
+    const auto mirrored = [this](const QRect& place) {
+        return QStyle::visualRect(layoutDirection(), rect(), place);
+    };
+    const auto put = [&](QWidget& widget, const QRect& place) {
+        widget.setGeometry(mirrored(place));
+        widget.setVisible(!place.isEmpty());
+    };
+    const bool hasMessage = _message->isVisibleTo(this);
+    put(*_band, places.band);
+    put(*_field, places.field);
+    put(*_pick, places.pick);
+    // The slider needs a little more than its line.
+    const QRect lines = places.lines.adjusted(0, 0, 0, scaled(2));
+    put(*_facts, hasMessage ? QRect() : lines);
+    if (hasMessage) _message->setGeometry(mirrored(places.lines));
+    put(*_forms, places.forms);
+    put(*_pageBar, places.pages.adjusted(-PageBar::bleed(), 0, PageBar::bleed(), 0));
+    put(*_lastColors, places.lastColors);
+    if (_foot != nullptr) put(*_foot, places.foot);
+    if (!places.problems.isEmpty()) _problems->setGeometry(places.problems);
+    _pages.setGeometry(mirrored(places.page));
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent* event)
@@ -294,45 +278,40 @@ void PanelWindow::keyPressEvent(QKeyEvent* event)
     if (page == nullptr || !page->performKey(*event)) QWidget::keyPressEvent(event);
 }
 
-void PanelWindow::resizeEvent(QResizeEvent* event)
+bool PanelWindow::event(QEvent* event)
 {
-    QWidget::resizeEvent(event);
-    layOut();
-}
-
-void PanelWindow::closeEvent(QCloseEvent* event)
-{
-    QWidget::closeEvent(event);
-    // This also ends loops that wait for the mouse.
-    QApplication::quit();
-}
-
-void PanelWindow::showEvent(QShowEvent* event)
-{
-    QWidget::showEvent(event);
-    _pages.setVisible(!isMinimized());
-}
-
-void PanelWindow::hideEvent(QHideEvent* event)
-{
-    QWidget::hideEvent(event);
-    _pages.setVisible(false);
-}
-
-void PanelWindow::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    // A window that is minimised is not hidden.
-    if (event->type() == QEvent::WindowStateChange)
-        _pages.setVisible(isVisible() && !isMinimized());
+    const bool isDone = QWidget::event(event);
+    switch (event->type()) {
+        case QEvent::Resize:
+        case QEvent::LayoutDirectionChange:
+            layOut();
+            break;
+        case QEvent::Paint:
+            if (!std::exchange(_isPainted, true))
+                QTimer::singleShot(0, this, &PanelWindow::loadIcon);
+            break;
+        case QEvent::Close:
+            // This also ends loops that wait for the mouse.
+            QApplication::quit();
+            break;
+        case QEvent::Show:
+        case QEvent::Hide:
+        case QEvent::WindowStateChange:
+            // A window that is minimised is not hidden.
+            _pages.setVisible(isVisible() && !isMinimized());
+            break;
+        default:
+            break;
+    }
+    return isDone;
 }
 
 void PanelWindow::recall(const PanelMemory& memory)
 {
     if (!memory.geometry.isEmpty()) restoreGeometry(memory.geometry);
     _pages.showRemembered(memory.page);
-    _colors.setBackground(memory.background);
-    _colors.startWith(memory.color, memory.recent);
+    _exchange.setForm(memory.form);
+    _colors.startWith({memory.color, memory.background}, memory.recent, memory.pinned);
     _commands.stayOnTop().setChecked(memory.onTop);
     layOut();
 }
@@ -344,10 +323,12 @@ PanelMemory PanelWindow::memory(Place place) const
     if (place == Place::included && testAttribute(Qt::WA_WState_Created))
         memory.geometry = saveGeometry();
     if (const PanelPage* page = _pages.current()) memory.page = page->identifier();
+    memory.form = _exchange.form();
     memory.onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-    memory.color = _colors.color();
+    memory.color = _colors.foreground();
     memory.background = _colors.background();
     memory.recent = _colors.recent();
+    memory.pinned = _colors.pinned();
     return memory;
 }
 

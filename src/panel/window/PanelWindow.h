@@ -1,11 +1,15 @@
 #pragma once
 
+#include "panel/widgets/ColorBand.h"
+#include "panel/widgets/LastColors.h"
 #include "panel/widgets/MessageLabel.h"
+#include "panel/window/ColorEntry.h"
+#include "panel/window/PageBar.h"
 #include "panel/window/PanelCommands.h"
 #include "panel/window/PanelHost.h"
+#include "panel/window/PanelLayout.h"
 #include "panel/window/PanelMemory.h"
-#include "panel/window/PanelTools.h"
-#include "panel/window/PanelTopBar.h"
+#include "panel/window/WindowGrowth.h"
 #include "plugins/PluginLoader.h"
 #include "result/Message.h"
 
@@ -17,8 +21,8 @@
 
 namespace vantorel {
 
-/// The window of the colour panel: a bar of pages and commands, the page, and the tools that every
-/// page shares.
+/// The window of the colour panel: the colours and their texts, the pages, of which one is shown,
+/// and the last colours.
 class PanelWindow final : public QWidget {
     Q_OBJECT
 
@@ -37,8 +41,8 @@ public:
 
     /// Shows the problems with plug-ins, one per line.
     void showProblems(const std::vector<Message>& problems);
-    /// Shows a message in place of the last one: in the bar if it is short news, otherwise in full
-    /// below the page. An empty message only ends the one that is shown.
+    /// Shows a message in place of the last one, and of the lines below the field. An empty message
+    /// only ends the one that is shown.
     void showMessage(const Message& message, MessageLabel::Kind kind = MessageLabel::Kind::news);
     /// Puts a bar below everything else. Call it at most once, before the window is shown.
     void setFoot(QWidget& foot);
@@ -48,6 +52,8 @@ public:
     /// Resizes the window and its contents, in pixels. Also works for a hidden window, which Qt
     /// would lay out only when it is shown.
     void resizeAtOnce(QSize size);
+    /// Resizes the window so that the page grows by this much, in pixels, where there is room.
+    void growPage(QSize growth);
 
     // The state that is kept between starts.
 
@@ -59,49 +65,38 @@ public:
 protected:
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void connectParts();
     void addPages(const std::vector<LoadedPlugin>& plugins, std::vector<Message>& problems);
     void addPage(std::unique_ptr<PanelPage> page);
     void adaptToPage(int index);
-    /// Sets the window's minimum size. What it grew for a page before, it loses again.
-    void growTo(QSize least);
-    void showHistory();
-    void makeRoomForMessage();
+    void adaptToMessage();
     void loadIcon();
-    void orderTabs();
     void layOut();
-    /// The size of everything but the page, in points.
-    [[nodiscard]] QSize barsPoints() const;
+    [[nodiscard]] PanelRoom roomIn(QSize window) const;
 
     PanelColors _colors;
     // In the order in which assistive technology finds them.
-    PanelTopBar* _topBar;
-    QLabel* _problems;
-    PanelPages _pages;
+    ColorBand* _band;
+    ColorField* _field;
+    QToolButton* _pick;
+    ColorFacts* _facts;
     MessageLabel* _message;
-    PanelTools* _tools;
+    FormList* _forms;
+    PageBar* _pageBar;
+    PanelPages _pages;
+    LastColors* _lastColors;
+    QLabel* _problems;
+    /// Null if there is none.
+    QWidget* _foot = nullptr;
     PanelHost _host;
     ColorExchange _exchange;
     PanelCommands _commands;
-    /// Null if there is none.
-    QWidget* _foot = nullptr;
-    /// By how much the window's minimum height has grown for the message, in pixels.
-    int _messageHeight = 0;
+    ColorEntry _entry;
+    WindowGrowth _growth;
     bool _isPainted = false;
-    /// Set while the window is wider or higher than the user left it, for the sake of a page.
-    struct Growth {
-        QSize from;
-        QSize to;
-    };
-    std::optional<Growth> _growth;
 };
 
 }  // namespace vantorel
