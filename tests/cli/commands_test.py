@@ -216,6 +216,15 @@ class Commands(ProgramTest):
                                                 "Fraction": ["0.000", "0.984", "0.161"]})
         self.assertEqual([snippet["name"] for snippet in report["snippets"]][-1], "VBasic")
 
+    def test_results_are_written_before_the_next_line_is_awaited(self):
+        for command, results in ((["lighten", "0"], 1), (["simulate", "grey"], 1), (["nearest"], 1), (["scale"], 11)):
+            with subprocess.Popen([PROGRAM, *command], stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=self.environment) as run:
+                for _ in range(2):
+                    run.stdin.write(b"#808080\n")
+                    run.stdin.flush()
+                    for _ in range(results):
+                        self.assertRegex(run.stdout.readline(), rb"\A#[0-9a-f]{6}", command)
+
     def test_settings_are_applied(self):
         self.write_settings(SETTINGS)
         self.assertEqual(self.output_of("show", "#FFA500"), "hex: ffa500\nrgb: rgb(255, 165, 0)\nhsl: hsl(38.82 100% 50%)\n"
