@@ -56,6 +56,28 @@ TEST_F(ChoiceTest, TextNotYetEnteredCounts)
     EXPECT_EQ(_choice->text(), "#FF8800");
 }
 
+TEST_F(ChoiceTest, TextOfTheFieldCountsUnlessItIsNotAColour)
+{
+    auto* field = child<QLineEdit>("colorText");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "nonsense");
+    QTest::keyClick(field, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(_window->isVisible()) << "the colour before was not chosen";
+    EXPECT_EQ(_choice->text(), std::nullopt);
+    field->selectAll();
+    QTest::keyClicks(field, "navy");
+    QTest::keyClick(field, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(_choice->text(), "#000080");
+}
+
+TEST_F(ChoiceTest, TheBackgroundIsNotChosen)
+{
+    _window->colors().edit(EditedColor::background);
+    QTest::mouseClick(button(QDialogButtonBox::AcceptRole), Qt::LeftButton);
+    EXPECT_EQ(_choice->text(), "#102030");
+}
+
 TEST_F(ChoiceTest, TheOtherButtonCancels)
 {
     QTest::mouseClick(button(QDialogButtonBox::RejectRole), Qt::LeftButton);

@@ -16,15 +16,15 @@ namespace vantorel {
 namespace {
 
 // In points.
-constexpr int nameSize = 12;
-constexpr int smallSize = 11;
-constexpr int linePoints = 16;
-constexpr int gap = 8;
+constexpr int factsNameSize = 12;
+constexpr int factsSmallSize = 11;
+constexpr int factsLinePoints = 16;
+constexpr int factsGap = 8;
 constexpr int leastSlider = 40;
 constexpr int widestSlider = 72;
 constexpr int sliderPoints = 20;
 
-int advance(const QLabel& label, const QString& text)
+int textAdvance(const QLabel& label, const QString& text)
 {
     return QFontMetrics(label.font()).horizontalAdvance(text);
 }
@@ -41,17 +41,17 @@ ColorFacts::ColorFacts(QWidget* parent)
 {
     setObjectName(QStringLiteral("colorFacts"));
     _name->setObjectName(QStringLiteral("colorName"));
-    _name->setFont(fontOfSize(nameSize));
-    _list->setFont(fontOfSize(smallSize));
+    _name->setFont(fontOfSize(factsNameSize));
+    _list->setFont(fontOfSize(factsSmallSize));
     _list->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPixelSize(scaled(smallSize));
+    fixed.setPixelSize(scaled(factsSmallSize));
     _otherForm->setFont(fixed);
     _otherForm->setTextInteractionFlags(Qt::TextSelectableByMouse);
     _opacity->setRange(0, 100);
     _opacity->setToolTip(tr("Opacity"));
     _opacity->setAccessibleName(tr("Opacity"));
-    _percent->setFont(fontOfSize(smallSize));
+    _percent->setFont(fontOfSize(factsSmallSize));
     _percent->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     applyTheme();
     connect(_opacity, &QSlider::valueChanged, this, &ColorFacts::opacityChosen);
@@ -59,7 +59,7 @@ ColorFacts::ColorFacts(QWidget* parent)
 
 int ColorFacts::lineHeight()
 {
-    return std::max(scaled(linePoints), QFontMetrics(fontOfSize(nameSize)).height());
+    return std::max(scaled(factsLinePoints), QFontMetrics(fontOfSize(factsNameSize)).height());
 }
 
 void ColorFacts::setName(const QString& name, const QString& list)
@@ -104,10 +104,10 @@ void ColorFacts::layOut()
             QStyle::visualRect(layoutDirection(), rect(), QRect(left, top, wide, line)));
     };
     // The name of the list goes first, then the end of the name.
-    const int space = scaled(gap);
-    const int listWidth = advance(*_list, _list->text());
+    const int space = scaled(factsGap);
+    const int listWidth = textAdvance(*_list, _list->text());
     const bool hasList =
-        !_list->text().isEmpty() && advance(*_name, _fullName) + space + listWidth <= width();
+        !_list->text().isEmpty() && textAdvance(*_name, _fullName) + space + listWidth <= width();
     const int nameWidth = hasList ? width() - listWidth - space : width();
     _list->setVisible(hasList);
     place(*_list, width() - listWidth, 0, listWidth);
@@ -118,8 +118,8 @@ void ColorFacts::layOut()
     _name->setToolTip(shown == _fullName ? QString() : plainToolTip(_fullName));
 
     const bool hasSecond = height() >= 2 * line;
-    const int percentWidth = advance(*_percent, QStringLiteral("100 %"));
-    const int formWidth = advance(*_otherForm, _otherForm->text());
+    const int percentWidth = textAdvance(*_percent, QStringLiteral("100 %"));
+    const int formWidth = textAdvance(*_otherForm, _otherForm->text());
     const int sliderWidth = std::clamp(width() - formWidth - percentWidth - 2 * space,
                                        scaled(leastSlider), scaled(widestSlider));
     const int sliderLeft = width() - percentWidth - sliderWidth;

@@ -70,7 +70,7 @@ ColorField::ColorField(QWidget* parent)
     _copyMenu->setPopupMode(QToolButton::InstantPopup);
     _copyMenu->setToolTip(tr("Copy as"));
     _copyMenu->setAccessibleName(tr("Copy as"));
-    connect(_edit, &QLineEdit::returnPressed, this, &ColorField::enter);
+    connect(_edit, &QLineEdit::returnPressed, this, &ColorField::finishEditing);
     connect(_edit, &QLineEdit::textEdited, this, [this](const QString& text) {
         layOut();
         emit edited(text);
@@ -116,7 +116,7 @@ void ColorField::setHasError(bool hasError)
     update();
 }
 
-void ColorField::enter()
+void ColorField::finishEditing()
 {
     // An error stays reported until the text is another one.
     if (!_edit->isModified()) return;
@@ -133,7 +133,7 @@ bool ColorField::eventFilter(QObject* watched, QEvent* event)
         case QEvent::FocusOut:
             update();
             // A menu of the field itself does not leave it.
-            if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) enter();
+            if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) finishEditing();
             break;
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress: {

@@ -29,6 +29,8 @@ public:
     /// Marks a text that could not be read.
     void setHasError(bool hasError);
     [[nodiscard]] bool hasError() const { return _hasError; }
+    /// Enters a text that was typed but not entered yet.
+    void finishEditing();
 
 signals:
     /// The user has entered a text, by Return or by leaving the field.
@@ -47,7 +49,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void enter();
     /// Gives the text the largest size in which the whole of it is visible.
     void layOut();
 

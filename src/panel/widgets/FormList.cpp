@@ -14,12 +14,12 @@ namespace vantorel {
 namespace {
 
 // In points.
-constexpr int rowPoints = 28;
-constexpr int nameWidth = 48;
-constexpr int nameSize = 11;
-constexpr int textSize = 11;
-constexpr int iconPoints = 16;
-constexpr int inset = 6;
+constexpr int formRowPoints = 28;
+constexpr int formNameWidth = 48;
+constexpr int formNameSize = 11;
+constexpr int formTextSize = 11;
+constexpr int formIconPoints = 16;
+constexpr int formInset = 6;
 
 class FormRow final : public QAbstractButton {
 public:
@@ -50,10 +50,10 @@ protected:
             paintRounded(painter, rect(), rowRadius, isDown() ? colors.down : colors.hover, ring,
                          ringWidth);
         }
-        const QRect inside = rect().adjusted(scaled(inset), 0, -scaled(inset), 0);
-        const int names = scaled(nameWidth);
-        const int icon = scaled(iconPoints);
-        painter.setFont(fontOfSize(nameSize));
+        const QRect inside = rect().adjusted(scaled(formInset), 0, -scaled(formInset), 0);
+        const int names = scaled(formNameWidth);
+        const int icon = scaled(formIconPoints);
+        painter.setFont(fontOfSize(formNameSize));
         painter.setPen(colors.text2);
         const auto place = [&](int left, int wide) {
             return QStyle::visualRect(layoutDirection(), inside,
@@ -63,7 +63,7 @@ protected:
             place(0, names), Qt::AlignLeading | Qt::AlignVCenter,
             painter.fontMetrics().elidedText(_row.shortName, Qt::ElideRight, names - scaled(4)));
         QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        fixed.setPixelSize(scaled(textSize));
+        fixed.setPixelSize(scaled(formTextSize));
         painter.setFont(fixed);
         painter.setPen(colors.text);
         const int room = inside.width() - names - (isActive ? icon + scaled(4) : 0);
@@ -91,7 +91,7 @@ FormList::FormList(QWidget* parent) : QWidget(parent)
 
 int FormList::rowHeight()
 {
-    return scaled(rowPoints);
+    return scaled(formRowPoints);
 }
 
 void FormList::setRows(const std::vector<Row>& rows)

@@ -21,15 +21,15 @@ constexpr std::chrono::milliseconds noticingTime{2000};
 constexpr std::chrono::milliseconds characterTime{50};
 
 // In points.
-constexpr int textSize = 12;
-constexpr int iconPoints = 16;
-constexpr int gap = 4;
+constexpr int messageTextSize = 12;
+constexpr int messageIconPoints = 16;
+constexpr int messageGap = 4;
 
 }  // namespace
 
 MessageLabel::MessageLabel(QWidget* parent) : PlainLabel(parent)
 {
-    setFont(fontOfSize(textSize));
+    setFont(fontOfSize(messageTextSize));
     setWordWrap(true);
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -73,7 +73,7 @@ void MessageLabel::applyTheme()
     // That of icons.
     colors.setColor(QPalette::ButtonText, color);
     if (colors != palette()) setPalette(colors);
-    const int icon = scaled(iconPoints) + scaled(gap);
+    const int icon = scaled(messageIconPoints) + scaled(messageGap);
     const bool isMirrored = isRightToLeft();
     setContentsMargins(isMirrored ? 0 : icon, 0, isMirrored ? icon : 0, 0);
 }
@@ -89,7 +89,7 @@ void MessageLabel::paintEvent(QPaintEvent* event)
 {
     PlainLabel::paintEvent(event);
     QPainter painter(this);
-    const int size = scaled(iconPoints);
+    const int size = scaled(messageIconPoints);
     const QIcon icon = _kind == Kind::failure ? warnIcon(this) : tickIcon(this);
     icon.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, size, size)));
 }

@@ -25,8 +25,9 @@ ColorChoice::ColorChoice(PanelWindow& window) : _window(window)
 
 void ColorChoice::choose()
 {
-    // Text that was typed but not yet entered counts.
-    _window.pages().current()->finishEditing();
+    // Text that was typed but not yet entered counts. What is not a colour must not be taken for
+    // the one before.
+    if (!_window.finishEditing()) return;
     // The panel's own pages do not have the settings, and the window is about to close.
     if (_window.pages().currentPicker() == nullptr) _window.pages().showPage(0);
     // The background was only edited beside it.

@@ -15,7 +15,7 @@ namespace {
 // In points.
 constexpr int wordSize = 12;
 constexpr int tabHeight = 30;
-constexpr int iconPoints = 16;
+constexpr int tabIconPoints = 16;
 constexpr int underline = 2;
 
 QFont wordFont(bool isBold)
@@ -32,7 +32,7 @@ PageTabs::PageTabs(QWidget* parent) : QTabBar(parent)
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(false);
-    setIconSize(QSize(scaled(iconPoints), scaled(iconPoints)));
+    setIconSize(QSize(scaled(tabIconPoints), scaled(tabIconPoints)));
     setMouseTracking(true);
     setAccessibleName(tr("Pages"));
 }
@@ -65,7 +65,7 @@ bool PageTabs::showsWord(int index) const
 QSize PageTabs::tabSizeHint(int index) const
 {
     const int height = scaled(tabHeight);
-    if (!showsWord(index)) return {scaled(iconPoints) + 2 * padding(), height};
+    if (!showsWord(index)) return {scaled(tabIconPoints) + 2 * padding(), height};
     const QFontMetrics metrics(wordFont(_form < Form::regular));
     return {metrics.horizontalAdvance(tabData(index).toString()) + 2 * padding(), height};
 }
@@ -117,7 +117,7 @@ void PageTabs::paintTab(QPainter& painter, int index) const
         painter.drawText(inside, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextDontClip,
                          tabData(index).toString());
     } else {
-        const int size = scaled(iconPoints);
+        const int size = scaled(tabIconPoints);
         tabIcon(index).paint(&painter, QRect(inside.left(), (height() - size) / 2, size, size));
     }
     if (isCurrent) {

@@ -306,6 +306,13 @@ bool PanelWindow::event(QEvent* event)
     return isDone;
 }
 
+bool PanelWindow::finishEditing()
+{
+    _pages.current()->finishEditing();
+    _field->finishEditing();
+    return !_field->hasError();
+}
+
 void PanelWindow::recall(const PanelMemory& memory)
 {
     if (!memory.geometry.isEmpty()) restoreGeometry(memory.geometry);
