@@ -11,87 +11,87 @@ HostColor grey(double value)
 }
 
 /// A step in which the background stays white.
-ColorPair step(double value)
+ColorPair greyStep(double value)
 {
     return {grey(value)};
 }
 
 class ColorHistoryTest : public testing::Test {
 protected:
-    ColorHistory _history{step(0)};
+    ColorHistory _history{greyStep(0)};
 };
 
 TEST_F(ColorHistoryTest, ChangesFarApartAreSeparateSteps)
 {
     EXPECT_FALSE(_history.canUndo());
-    _history.record(step(0.1), 10);
-    _history.record(step(0.2), 20);
-    EXPECT_EQ(_history.undo(), step(0.1));
-    EXPECT_EQ(_history.undo(), step(0));
+    _history.record(greyStep(0.1), 10);
+    _history.record(greyStep(0.2), 20);
+    EXPECT_EQ(_history.undo(), greyStep(0.1));
+    EXPECT_EQ(_history.undo(), greyStep(0));
     EXPECT_EQ(_history.undo(), std::nullopt);
-    EXPECT_EQ(_history.redo(), step(0.1));
-    EXPECT_EQ(_history.redo(), step(0.2));
+    EXPECT_EQ(_history.redo(), greyStep(0.1));
+    EXPECT_EQ(_history.redo(), greyStep(0.2));
     EXPECT_EQ(_history.redo(), std::nullopt);
 }
 
 TEST_F(ColorHistoryTest, ADragIsOneStep)
 {
     for (int i = 1; i <= 100; ++i)
-        _history.record(step(i / 100.0), 10 + i * 0.05);
-    EXPECT_EQ(_history.current(), step(1));
-    EXPECT_EQ(_history.undo(), step(0));
+        _history.record(greyStep(i / 100.0), 10 + i * 0.05);
+    EXPECT_EQ(_history.current(), greyStep(1));
+    EXPECT_EQ(_history.undo(), greyStep(0));
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)}) << "none of what it passed over";
 }
 
 TEST_F(ColorHistoryTest, AStepLastsAsLongAsItsDrag)
 {
-    _history.record(step(0.1), 0);
+    _history.record(greyStep(0.1), 0);
     _history.beginStep();
-    _history.record(step(0.2), 0.1);
-    _history.record(step(0.3), 10);
+    _history.record(greyStep(0.2), 0.1);
+    _history.record(greyStep(0.3), 10);
     _history.endStep();
-    _history.record(step(0.4), 10.1);
-    EXPECT_EQ(_history.undo(), step(0.3));
-    EXPECT_EQ(_history.undo(), step(0.1));
+    _history.record(greyStep(0.4), 10.1);
+    EXPECT_EQ(_history.undo(), greyStep(0.3));
+    EXPECT_EQ(_history.undo(), greyStep(0.1));
 }
 
 TEST_F(ColorHistoryTest, AFirstColourThatNobodyHasChosenIsNotRecent)
 {
-    ColorHistory history(step(1), ColorHistory::First::given);
-    history.record(step(0.1), 10);
+    ColorHistory history(greyStep(1), ColorHistory::First::given);
+    history.record(greyStep(0.1), 10);
     EXPECT_TRUE(history.recent().empty());
-    history.record(step(0.2), 20);
+    history.record(greyStep(0.2), 20);
     EXPECT_EQ(history.recent(), std::vector<HostColor>{grey(0.1)});
     history.undo();
-    EXPECT_EQ(history.undo(), step(1)) << "it can be restored all the same";
+    EXPECT_EQ(history.undo(), greyStep(1)) << "it can be restored all the same";
 }
 
 TEST_F(ColorHistoryTest, AChangeAfterAnUndoClearsTheRedoSteps)
 {
-    _history.record(step(0.1), 10);
-    _history.record(step(0.2), 20);
+    _history.record(greyStep(0.1), 10);
+    _history.record(greyStep(0.2), 20);
     _history.undo();
-    _history.record(step(0.3), 20.1);
+    _history.record(greyStep(0.3), 20.1);
     EXPECT_FALSE(_history.canRedo());
-    EXPECT_EQ(_history.undo(), step(0.1)) << "the change is a step, however soon it came";
+    EXPECT_EQ(_history.undo(), greyStep(0.1)) << "the change is a step, however soon it came";
 }
 
 TEST_F(ColorHistoryTest, TheSameColourIsNotAChange)
 {
-    _history.record(step(0), 10);
+    _history.record(greyStep(0), 10);
     EXPECT_FALSE(_history.canUndo());
     EXPECT_TRUE(_history.recent().empty());
 }
 
 TEST_F(ColorHistoryTest, AForgottenChangeCannotBeUndone)
 {
-    _history.record(step(0.5), 10);
-    _history.record(step(0.9), 20);
+    _history.record(greyStep(0.5), 10);
+    _history.record(greyStep(0.9), 20);
     _history.forgetLast();
-    _history.record(step(0.5), 21);
-    EXPECT_EQ(_history.current(), step(0.5));
-    EXPECT_EQ(_history.undo(), step(0));
-    EXPECT_EQ(_history.redo(), step(0.5));
+    _history.record(greyStep(0.5), 21);
+    EXPECT_EQ(_history.current(), greyStep(0.5));
+    EXPECT_EQ(_history.undo(), greyStep(0));
+    EXPECT_EQ(_history.redo(), greyStep(0.5));
     EXPECT_FALSE(_history.canRedo());
     EXPECT_EQ(_history.recent(), std::vector<HostColor>{grey(0)});
 }
@@ -108,7 +108,7 @@ TEST_F(ColorHistoryTest, ChangesOfBothColoursAreOneSequenceOfSteps)
         << "the backgrounds that were replaced, but not the first one";
     EXPECT_EQ(_history.undo(), second) << "a swap is one step";
     EXPECT_EQ(_history.undo(), first);
-    EXPECT_EQ(_history.undo(), step(0));
+    EXPECT_EQ(_history.undo(), greyStep(0));
 }
 
 TEST_F(ColorHistoryTest, ChangesOfDifferentColoursAreStepsHoweverSoonTheyCome)
@@ -117,7 +117,7 @@ TEST_F(ColorHistoryTest, ChangesOfDifferentColoursAreStepsHoweverSoonTheyCome)
     _history.record({grey(0.1), grey(0.5)}, 10.1);
     _history.record({grey(0.1), grey(0.6)}, 10.2);
     EXPECT_EQ(_history.undo(), (ColorPair{grey(0.1), grey(1)}));
-    EXPECT_EQ(_history.undo(), step(0));
+    EXPECT_EQ(_history.undo(), greyStep(0));
 }
 
 TEST_F(ColorHistoryTest, RecentColoursAreDistinctAndLimited)
@@ -133,7 +133,7 @@ TEST_F(ColorHistoryTest, RecentColoursAreDistinctAndLimited)
 TEST_F(ColorHistoryTest, TheOldestOfManyStepsAreDropped)
 {
     for (int i = 1; i <= 1000; ++i)
-        _history.record(step(i / 1000.0), i * 10);
+        _history.record(greyStep(i / 1000.0), i * 10);
     std::size_t steps = 0;
     while (_history.undo())
         ++steps;
