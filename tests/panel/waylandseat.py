@@ -71,7 +71,8 @@ class WaylandSeat:
         self.press()
         self.release()
 
-    def drag(self, start, end):
+    def drag(self, start, end, pause=0.02):
+        """Drags with a pause, in seconds, after each movement."""
         self.move(*start)
         self.press()
         x, y = start
@@ -82,7 +83,7 @@ class WaylandSeat:
                                   for step in range(1, steps + 1)]:
             self.move(*place)
             # Programs handle the start of a drag before the next movement.
-            time.sleep(0.02)
+            time.sleep(pause)
         self.release()
 
     # The keyboard.
