@@ -43,8 +43,7 @@ TEST(NearestNamedColorTest, ColoursOutsideTheRangeCountAsTheNearestInside)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
-    const auto found =
-        nearestNamedColor(HostColor::colorWithCalibratedRed(infinite, nan, -7, 1));
+    const auto found = nearestNamedColor(HostColor::colorWithCalibratedRed(infinite, nan, -7, 1));
     ASSERT_TRUE(found);
     EXPECT_EQ(found->color.name, u"red");
     EXPECT_FALSE(nearestNamedColor(HostColor::patternColor()));

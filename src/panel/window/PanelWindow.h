@@ -55,8 +55,8 @@ public:
     /// Resizes the window so that the page grows by this much, in pixels, where there is room.
     void growPage(QSize growth);
 
-    /// Enters texts that were typed but not entered yet, on the page and in the field. Returns false
-    /// if the field's text is not a colour, which is then reported.
+    /// Enters texts that were typed but not entered yet, on the page and in the field. Returns
+    /// false if the field's text is not a colour, which is then reported.
     [[nodiscard]] bool finishEditing();
 
     // The state that is kept between starts.
