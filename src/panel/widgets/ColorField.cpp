@@ -179,6 +179,9 @@ void ColorField::changeEvent(QEvent* event)
 
 void ColorField::layOut()
 {
+    // Until it has its place, no text fits, and every size would be tried; opening a font takes
+    // time.
+    if (!testAttribute(Qt::WA_Resized)) return;
     const int edge = scaled(3);
     const int arrow = scaled(arrowWidth);
     const int copy = scaled(buttonWidth);
