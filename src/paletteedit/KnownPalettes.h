@@ -23,8 +23,8 @@ struct EditablePalette {
 };
 
 /// The lists as they were last seen on disk: which there are, and what their files contain. A file
-/// is read when its contents are first requested. An id is kept as long as this object lives, even
-/// while there is no list with it.
+/// is read when its contents are first requested. This object keeps an id as long as it lives, even
+/// while the list is missing.
 class KnownPalettes {
 public:
     /// `files` and `store` must outlive this object. There are no lists before the first refresh.

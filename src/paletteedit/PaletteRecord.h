@@ -22,8 +22,8 @@ struct PaletteRecord {
     bool hasOtherLines = false;
 
     [[nodiscard]] bool isOwn() const { return program.empty(); }
-    /// Reads the file, unless it has not changed since it was last read. Afterwards the version is
-    /// 0 if there is no file that can be read.
+    /// Reads the file, unless it has not changed since it was last read. Sets the version to 0
+    /// if the file cannot be read.
     void readIfChanged(const HostFiles& files);
     /// Takes in what a reader has found in the file; `std::nullopt` if it is not a palette.
     void setContents(std::optional<EntriesReader::File> file);

@@ -2,7 +2,7 @@
 
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
-#include "panel/widgets/Checkers.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/ThemeTables.h"
 
 #include <gtest/gtest.h>

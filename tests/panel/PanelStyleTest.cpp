@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
-#include <QTabBar>
 #include <QTest>
 
 namespace vantorel {
@@ -199,27 +198,6 @@ TEST_F(PanelStyleTest, RowsOfAnOpenComboBoxAreAsInMenus)
     EXPECT_GE(row, 24);
     EXPECT_LT(row, 2 * 28);
     shown.widget->hidePopup();
-}
-
-TEST_F(PanelStyleTest, TheRowOfTabsDoesNotMove)
-{
-    QTabBar tabs;
-    tabs.setExpanding(false);
-    tabs.setDrawBase(false);
-    for (const char* word : {"Hex", "Mix", "Scales", "Palettes"})
-        tabs.addTab(QString::fromLatin1(word));
-    tabs.resize(tabs.sizeHint());
-    QList<QRect> places;
-    for (int i = 0; i < tabs.count(); ++i)
-        places.append(tabs.tabRect(i));
-    for (int current = 0; current < tabs.count(); ++current) {
-        tabs.setCurrentIndex(current);
-        for (int i = 0; i < tabs.count(); ++i)
-            EXPECT_EQ(tabs.tabRect(i), places[i]) << current << ' ' << i;
-    }
-    QFont bold = tabs.font();
-    bold.setBold(true);
-    EXPECT_GE(places[2].width(), QFontMetrics(bold).horizontalAdvance(QStringLiteral("Scales")));
 }
 
 TEST_F(PanelStyleTest, TheMenuRowUnderThePointerHasTheAccent)

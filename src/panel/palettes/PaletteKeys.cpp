@@ -40,7 +40,7 @@ bool PaletteKeys::editsText(const QObject* control) const
 {
     const auto* field = qobject_cast<const QLineEdit*>(control);
     if (field == nullptr) return false;
-    // If there is no typing to undo in the filter, the key undoes a step of the page.
+    // In a filter without typed text, the key undoes a step of the page.
     return field != &_filter || field->isUndoAvailable() || field->isRedoAvailable() ||
            !field->text().isEmpty();
 }

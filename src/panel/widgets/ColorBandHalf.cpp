@@ -1,7 +1,7 @@
 #include "panel/widgets/ColorBandHalf.h"
 
 #include "hosts/qt/PlainText.h"
-#include "panel/widgets/Checkers.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/Swatch.h"
 
 #include <QAccessibleWidget>

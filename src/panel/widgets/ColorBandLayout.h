@@ -18,7 +18,7 @@ struct ColorBandLayout {
     /// "Aa" in the colour, on the background.
     QFont sampleFont;
     QRectF sample;
-    /// Empty where there is no room.
+    /// Empty if it does not fit.
     ContrastChip chip;
     QPointF chipTopLeft;
 };

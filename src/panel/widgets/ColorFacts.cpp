@@ -2,7 +2,6 @@
 
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
-#include "panel/widgets/ThemeColors.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -34,10 +33,10 @@ int textAdvance(const QLabel& label, const QString& text)
 ColorFacts::ColorFacts(QWidget* parent)
     : QWidget(parent),
       _name(new PlainLabel(this)),
-      _list(new PlainLabel(this)),
-      _otherForm(new PlainLabel(this)),
+      _list(new QuietLabel({}, this)),
+      _otherForm(new QuietLabel({}, this)),
       _opacity(new QSlider(Qt::Horizontal, this)),
-      _percent(new PlainLabel(this))
+      _percent(new QuietLabel({}, this))
 {
     setObjectName(QStringLiteral("colorFacts"));
     _name->setObjectName(QStringLiteral("colorName"));
@@ -53,7 +52,6 @@ ColorFacts::ColorFacts(QWidget* parent)
     _opacity->setAccessibleName(tr("Opacity"));
     _percent->setFont(fontOfSize(factsSmallSize));
     _percent->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    applyTheme();
     connect(_opacity, &QSlider::valueChanged, this, &ColorFacts::opacityChosen);
 }
 
@@ -83,17 +81,6 @@ void ColorFacts::setOpacity(int percent)
     const QSignalBlocker blocker(_opacity);
     _opacity->setValue(percent);
     _percent->setText(QStringLiteral("%1 %").arg(percent));
-}
-
-void ColorFacts::applyTheme()
-{
-    const QColor color = themeColors(parentWidget()->palette()).text2;
-    for (PlainLabel* label : {_list, _otherForm, _percent}) {
-        QPalette colors = label->palette();
-        if (colors.color(QPalette::WindowText) == color) continue;
-        colors.setColor(QPalette::WindowText, color);
-        label->setPalette(colors);
-    }
 }
 
 void ColorFacts::layOut()
@@ -145,7 +132,6 @@ void ColorFacts::resizeEvent(QResizeEvent* event)
 void ColorFacts::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) applyTheme();
     if (event->type() == QEvent::LayoutDirectionChange) layOut();
 }
 

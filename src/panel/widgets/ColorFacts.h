@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/HostColor.h"
-#include "hosts/qt/PlainText.h"
+#include "panel/widgets/QuietLabel.h"
 
 #include <QSlider>
 
@@ -33,13 +33,12 @@ protected:
 
 private:
     void layOut();
-    void applyTheme();
 
     PlainLabel* _name;
-    PlainLabel* _list;
-    PlainLabel* _otherForm;
+    QuietLabel* _list;
+    QuietLabel* _otherForm;
     QSlider* _opacity;
-    PlainLabel* _percent;
+    QuietLabel* _percent;
     QString _fullName;
 };
 

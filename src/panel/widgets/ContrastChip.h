@@ -8,8 +8,8 @@
 
 namespace vantorel {
 
-/// A contrast that is understood at once, such as "4.54 AA", on a round ground of its own. Only the
-/// ratio is shown where there is no room for both.
+/// A contrast that is understood at once, such as "4.54 AA", on a round ground of its own. Shows
+/// only the ratio if both do not fit.
 class ContrastChip {
 public:
     ContrastChip() = default;

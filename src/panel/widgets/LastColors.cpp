@@ -4,7 +4,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
-#include "panel/widgets/Checkers.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/LastColorsAccessibility.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/PixelGrid.h"

@@ -1,6 +1,6 @@
 #include "panel/widgets/LastColorsAccessibility.h"
 
-#include "panel/widgets/Checkers.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/LastColors.h"
 
 #include <QAccessibleActionInterface>

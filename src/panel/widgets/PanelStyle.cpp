@@ -5,14 +5,13 @@
 #include "panel/widgets/StyleFields.h"
 #include "panel/widgets/StyleMenus.h"
 #include "panel/widgets/StylePainting.h"
+#include "panel/widgets/StyleRows.h"
 #include "panel/widgets/StyleSliders.h"
-#include "panel/widgets/StyleTabs.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QTabBar>
 
 #include <algorithm>
 
@@ -48,7 +47,6 @@ void PanelStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     if (auto* menu = qobject_cast<QMenu*>(widget)) prepareMenu(*menu);
-    if (qobject_cast<QTabBar*>(widget) != nullptr) widget->setAttribute(Qt::WA_Hover);
 }
 
 void PanelStyle::unpolish(QWidget* widget)
@@ -114,14 +112,6 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             return paintToolTip(*painter, *option);
         case PE_PanelItemViewItem:
             return paintRow(*painter, optionAs<QStyleOptionViewItem>(option));
-        case PE_FrameTabBarBase: {
-            const QRectF rect(option->rect);
-            const qreal line = lineOnDevicePixels(*painter, 1);
-            painter->fillRect(
-                onDevicePixels(*painter, {rect.left(), rect.bottom() - line, rect.width(), line}),
-                themeColors(*option).line);
-            return;
-        }
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -170,10 +160,6 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
                                       widget);
         case CE_ShapedFrame:
             return paintFrameWidget(*painter, optionAs<QStyleOptionFrame>(option), widget);
-        case CE_TabBarTabShape:
-            return paintTab(*painter, optionAs<QStyleOptionTab>(option));
-        case CE_TabBarTabLabel:
-            return paintTabLabel(*painter, optionAs<QStyleOptionTab>(option), *proxy());
         case CE_MenuItem:
             // A combo box fills its rows with the window's colour before.
             if (qobject_cast<const QMenu*>(widget) == nullptr) paintMenuGround(*painter, *option);
@@ -300,8 +286,6 @@ QSize PanelStyle::sizeFromContents(ContentsType type, const QStyleOption* option
             constexpr int leastTarget = 24;
             return size.expandedTo({0, leastTarget});
         }
-        case CT_TabBarTab:
-            return tabSize(optionAs<QStyleOptionTab>(option), size);
         default:
             return size;
     }
@@ -341,16 +325,11 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_ButtonShiftHorizontal:
         case PM_ButtonShiftVertical:
         case PM_ButtonDefaultIndicator:
-        case PM_TabBarTabShiftHorizontal:
-        case PM_TabBarTabShiftVertical:
-        case PM_TabBarTabOverlap:
             return 0;
         case PM_MenuHMargin:
         case PM_MenuVMargin:
         case PM_ToolTipLabelFrameWidth:
             return menuMargin;
-        case PM_TabBarTabHSpace:
-            return 2 * tabPadding;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }

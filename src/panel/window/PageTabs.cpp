@@ -33,7 +33,7 @@ PageTabs::PageTabs(QWidget* parent) : QTabBar(parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setIconSize(QSize(scaled(tabIconPoints), scaled(tabIconPoints)));
-    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
     setAccessibleName(tr("Pages"));
 }
 

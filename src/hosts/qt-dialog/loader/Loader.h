@@ -13,7 +13,7 @@ class LoaderPlugin final : public QGenericPlugin {
 public:
     /// Returns an object that waits for colour dialogs, or one that does nothing if there is one
     /// already. Qt owns it.
-    QObject* create(const QString& name, const QString& specification) override;
+    QObject* create(const QString& name, const QString& parameters) override;
 };
 
 }  // namespace vantorel
