@@ -186,12 +186,7 @@ int showColors(Session& session, const CommandLine& commandLine)
 
 int nameColors(Session& session, const CommandLine& commandLine)
 {
-    auto list = session.namingList(commandLine);
-    if (!list) {
-        throw Failure{
-            {phrase("there is no colour list to name colours by"),
-             phrase("choose one with \"--list NAME\"; run \"vantorel lists\" to list them")}};
-    }
+    auto list = session.requiredNamingList(commandLine);
     ColorTextReader reader([&] { return list; });
     const ColorNamer namer(list);
     NameWriter writer(namer, commandLine.json, reader);

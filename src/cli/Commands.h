@@ -35,6 +35,8 @@ public:
     /// Returns the list that `--list` names, which must exist. Without that option, returns the
     /// list in the settings, or null if there is none.
     [[nodiscard]] std::shared_ptr<HostColorList> namingList(const CommandLine& commandLine);
+    /// The same, but throws a `Failure` if there is none.
+    [[nodiscard]] std::shared_ptr<HostColorList> requiredNamingList(const CommandLine& commandLine);
 
 private:
     PosixFiles _files;

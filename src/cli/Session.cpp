@@ -39,6 +39,17 @@ std::shared_ptr<HostColorList> Session::namingList(const CommandLine& commandLin
     return name ? _lists.listNamed(*name) : nullptr;
 }
 
+std::shared_ptr<HostColorList> Session::requiredNamingList(const CommandLine& commandLine)
+{
+    auto list = namingList(commandLine);
+    if (!list) {
+        throw Failure{
+            {phrase("there is no colour list to name colours by"),
+             phrase("choose one with \"--list NAME\"; run \"vantorel lists\" to list them")}};
+    }
+    return list;
+}
+
 ColorTextReader colorTextReader(Session& session, const CommandLine& commandLine)
 {
     auto theme = CSSTheme::unknown;

@@ -15,13 +15,8 @@ namespace {
 class ListedColors {
 public:
     ListedColors(Session& session, const CommandLine& commandLine)
-        : _list(session.namingList(commandLine))
+        : _list(session.requiredNamingList(commandLine))
     {
-        if (!_list) {
-            throw Failure{
-                {phrase("there is no colour list to name colours by"),
-                 phrase("choose one with \"--list NAME\"; run \"vantorel lists\" to list them")}};
-        }
         for (std::size_t place = 0; place < _list->allKeys().size(); ++place) {
             // Keys without a colour, and patterns, cannot be near a colour.
             const auto rgb = _list->colorAtIndex(place).calibratedRGB();

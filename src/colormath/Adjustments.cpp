@@ -21,7 +21,7 @@ public:
     }
 
     [[nodiscard]] bool hasHue() const { return _hasHue; }
-    /// A component that is changed is no longer missing.
+    /// Gives access to a component for a change, after which it counts as present.
     double& component(ColorComponent component)
     {
         const std::size_t place = placeOf(component);

@@ -1,8 +1,7 @@
 #include "panel/PanelEnvironment.h"
 
 #include "hosts/posix/PosixFiles.h"
-#include "panel/preferences/PanelPreferences.h"
-#include "panel/window/PanelMemory.h"
+#include "panel/preferences/ConfigurationFile.h"
 
 #include <QFile>
 
@@ -14,8 +13,7 @@ PanelEnvironment::PanelEnvironment(const PanelOptions& options)
         qputenv("XDG_DATA_HOME", QFile::encodeName(*options.dataFolder));
         // The configuration folder is not replaced: it also leads to the palettes of other
         // programs.
-        setPanelMemoryFolder(*options.dataFolder);
-        PanelPreferences::setFolder(*options.dataFolder);
+        setConfigurationFolder(*options.dataFolder);
     }
     _userData = PosixFiles().applicationSupportDirectory().value_or("");
     if (options.screenshot) hideUser(options);

@@ -1,5 +1,5 @@
+#include "panel/preferences/ConfigurationFile.h"
 #include "panel/preferences/PanelPreferences.h"
-#include "panel/preferences/PreferencesFile.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@ namespace {
 
 class PanelPreferencesTest : public testing::Test {
 protected:
-    PanelPreferencesTest() { PanelPreferences::setFolder(_folder.path()); }
-    ~PanelPreferencesTest() override { PanelPreferences::setFolder({}); }
+    PanelPreferencesTest() { setConfigurationFolder(_folder.path()); }
+    ~PanelPreferencesTest() override { setConfigurationFolder({}); }
 
     [[nodiscard]] QString path() const
     {
@@ -92,7 +92,8 @@ TEST_F(PanelPreferencesTest, WhatALaterVersionHasWrittenIsKept)
     PanelPreferences preferences;
     EXPECT_EQ(preferences.theme(), "auto");
     preferences.setTextSize(200);
-    const PropertyList list = readPreferencesFile();
+    const PropertyList list =
+        ConfigurationFile("Preferences.plist").contents().value_or(PropertyList());
     ASSERT_NE(list.valueForKey(u"Future"), nullptr);
     EXPECT_NE(list.valueForKey(u"Future")->array(), nullptr);
     ASSERT_NE(list.stringForKey(u"Theme"), nullptr);
@@ -118,7 +119,7 @@ TEST_F(PanelPreferencesTest, WhatCannotBeWrittenHoldsUntilTheEnd)
 {
     QFile file(_folder.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    PanelPreferences::setFolder(file.fileName());
+    setConfigurationFolder(file.fileName());
     PanelPreferences preferences;
     const QSignalSpy changes(&preferences, &PanelPreferences::changed);
     testing::internal::CaptureStderr();

@@ -1,3 +1,4 @@
+#include "panel/preferences/ConfigurationFile.h"
 #include "panel/preferences/GeneralPreferences.h"
 #include "panel/preferences/PanelPreferences.h"
 #include "panel/preferences/PreferencesDialog.h"
@@ -25,7 +26,7 @@ protected:
     PreferencesDialogTest()
     {
         applyTheme(QStringLiteral("light"));
-        PanelPreferences::setFolder(_folder.path());
+        setConfigurationFolder(_folder.path());
         _preferences.emplace();
         _dialog = new PreferencesDialog(*_preferences, nullptr);
         _dialog->show();
@@ -35,7 +36,7 @@ protected:
     ~PreferencesDialogTest() override
     {
         delete _dialog;
-        PanelPreferences::setFolder({});
+        setConfigurationFolder({});
         applyTheme(QStringLiteral("desktop"));
     }
 

@@ -1,13 +1,15 @@
 #include "panel/preferences/PanelPreferences.h"
 
 #include "hosts/qt/QtColors.h"
-#include "panel/preferences/PreferencesFile.h"
+#include "panel/preferences/ConfigurationFile.h"
 
 #include <algorithm>
 #include <array>
 
 namespace vantorel {
 namespace {
+
+constexpr ConfigurationFile preferencesFile("Preferences.plist");
 
 constexpr std::u16string_view desktopStyleKey = u"UsesDesktopStyle";
 constexpr std::u16string_view textSizeKey = u"TextSize";
@@ -31,13 +33,8 @@ bool isTextSize(int percent)
 }  // namespace
 
 PanelPreferences::PanelPreferences(QObject* parent)
-    : QObject(parent), _values(valuesFrom(readPreferencesFile()))
+    : QObject(parent), _values(valuesFrom(preferencesFile.contents().value_or(PropertyList())))
 {
-}
-
-void PanelPreferences::setFolder(const QString& path)
-{
-    setPreferencesFolder(path);
 }
 
 QString PanelPreferences::themeInForce() const
@@ -78,17 +75,20 @@ void PanelPreferences::setTextSize(int percent)
 
 void PanelPreferences::write(std::u16string_view key, const QString& value)
 {
-    const auto set = [&](PropertyList& list) { list.setValue(u16From(value), key); };
-    if (const auto written = changePreferencesFile(set)) {
+    const auto set = [&](const std::optional<PropertyList>& contents) {
+        PropertyList list = contents.value_or(PropertyList());
+        list.setValue(u16From(value), key);
+        return list;
+    };
+    if (const auto written = preferencesFile.change(set)) {
         _values = valuesFrom(*written);
     } else {
-        PropertyList mine = PropertyList::Dictionary{
+        const PropertyList mine = PropertyList::Dictionary{
             {std::u16string(themeKey), u16From(_values.theme)},
             {std::u16string(desktopStyleKey), _values.usesDesktopStyle ? yesText : noText},
             {std::u16string(textSizeKey), u16From(QString::number(_values.textSize))},
         };
-        set(mine);
-        _values = valuesFrom(mine);
+        _values = valuesFrom(set(mine));
     }
     emit changed();
 }

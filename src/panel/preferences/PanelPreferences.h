@@ -23,9 +23,6 @@ public:
     /// be read is as none.
     explicit PanelPreferences(QObject* parent = nullptr);
 
-    /// Sets the folder that takes the place of the user's configuration.
-    static void setFolder(const QString& path);
-
     /// "auto", "light", "dark" or "contrast".
     [[nodiscard]] const QString& theme() const { return _values.theme; }
     /// Whether the controls are the desktop's, in its colours, whatever the theme is.

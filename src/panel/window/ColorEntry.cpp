@@ -1,7 +1,7 @@
 #include "panel/window/ColorEntry.h"
 
+#include "colormath/NearestNamedColor.h"
 #include "csscolor/CSSColorWriter.h"
-#include "csscolor/NearestNamedColor.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"

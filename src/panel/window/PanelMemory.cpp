@@ -2,25 +2,19 @@
 
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtColors.h"
-#include "hosts/qt/QtMessages.h"
+#include "panel/preferences/ConfigurationFile.h"
 #include "panel/window/ColorHistory.h"
-#include "plist/PropertyListReader.h"
-#include "plist/PropertyListWriter.h"
-#include "result/Message.h"
-#include "text/Unicode.h"
+#include "plist/PropertyList.h"
 
 #include <QFile>
 #include <QSettings>
-#include <QStandardPaths>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace vantorel {
 namespace {
 
-/// Larger files are rejected unread; we never write files that big.
-constexpr std::size_t largestMemory = std::size_t{1} << 20;
+constexpr ConfigurationFile memoryFile("Panel.plist");
 
 constexpr const char16_t* backgroundKey = u"Background";
 constexpr const char16_t* colorKey = u"Color";
@@ -32,26 +26,6 @@ constexpr const char16_t* formKey = u"CopyForm";
 constexpr const char16_t* onTopKey = u"StaysOnTop";
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
-
-QString& configurationFolder()
-{
-    static QString folder;
-    return folder;
-}
-
-std::string memoryFolder()
-{
-    const QString folder =
-        configurationFolder().isEmpty()
-            ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-            : configurationFolder();
-    return QFile::encodeName(folder + QStringLiteral("/Vantorel")).toStdString();
-}
-
-std::string memoryPath(const std::string& folder)
-{
-    return folder + "/Panel.plist";
-}
 
 QString textOf(const HostColor& color)
 {
@@ -139,50 +113,21 @@ PropertyList propertyListFrom(const PanelMemory& memory)
 
 /// Reads the settings that older panels wrote. They are never written: QSettings leaves a file
 /// behind when the panel is killed while it writes, and lets everybody read what it makes.
-PanelMemory readOlderMemory(const PosixFiles& files, const std::string& folder)
+PanelMemory readOlderMemory()
 {
+    const std::string folder = ConfigurationFile::folder();
     const std::string path = folder + "/panel.ini";
+    PosixFiles files(folder);
+    files.setFailureHandler(
+        [](auto, const Message& failure) { ConfigurationFile::report(failure); });
     // QSettings would wait for a pipe.
     if (!files.contentsAtPath(path)) return {};
     return memoryFrom(QSettings(QFile::decodeName(path.c_str()), QSettings::IniFormat));
 }
 
-PanelMemory readMemory(const PosixFiles& files, const std::string& folder)
+PanelMemory memoryIn(const std::optional<PropertyList>& contents)
 {
-    const std::string path = memoryPath(folder);
-    if (files.kindAtPath(path) == HostFileKind::none) return readOlderMemory(files, folder);
-    const auto bytes = files.contentsAtPath(path);
-    if (!bytes || bytes->size() > largestMemory || !isWellFormedUtf8(*bytes)) return {};
-    return memoryFrom(parsePropertyList(utf16FromUtf8(*bytes)).value_or(PropertyList()));
-}
-
-bool writeMemory(PosixFiles& files, const std::string& folder, const PanelMemory& memory)
-{
-    return files.writeAtomically(memoryPath(folder),
-                                 utf8FromUtf16(propertyListText(propertyListFrom(memory))));
-}
-
-void printFailure(const Message& message)
-{
-    static_cast<void>(
-        std::fprintf(stderr, "vantorel-panel: %s\n", qPrintable(translated(message))));
-}
-
-/// Calls `write` while no other panel can write. Returns its result, or false if the lock cannot be
-/// had.
-template <class Write>
-bool underLock(Write&& write)
-{
-    const std::string folder = memoryFolder();
-    PosixFiles files(folder);
-    files.setFailureHandler([](auto access, const Message& message) {
-        // It was reported when it was read at the start.
-        if (access == PosixFiles::Access::writing) printFailure(message);
-    });
-    // Makes it, for the user alone.
-    static_cast<void>(files.applicationSupportDirectory());
-    const auto lock = files.lockFolder(folder);
-    return lock && write(files, folder);
+    return contents ? memoryFrom(*contents) : readOlderMemory();
 }
 
 template <class Value>
@@ -237,32 +182,23 @@ PanelMemory merged(const PanelMemory& base, const PanelMemory& mine, const Panel
 
 }  // namespace
 
-void setPanelMemoryFolder(const QString& path)
-{
-    configurationFolder() = path;
-}
-
 PanelMemory readPanelMemory()
 {
-    const std::string folder = memoryFolder();
-    PosixFiles files(folder);
-    files.setFailureHandler([](auto, const Message& message) { printFailure(message); });
-    return readMemory(files, folder);
+    return memoryIn(memoryFile.contents());
 }
 
 bool writePanelMemory(const PanelMemory& memory)
 {
-    return underLock([&](PosixFiles& files, const std::string& folder) {
-        return writeMemory(files, folder, memory);
-    });
+    const auto replace = [&](const auto&) { return propertyListFrom(memory); };
+    return memoryFile.change(replace).has_value();
 }
 
 bool changePanelMemory(const PanelMemory& base, const PanelMemory& memory)
 {
-    return underLock([&](PosixFiles& files, const std::string& folder) {
-        return writeMemory(files, folder,
-                           merged(asStored(base), asStored(memory), readMemory(files, folder)));
-    });
+    const auto merge = [&](const std::optional<PropertyList>& contents) {
+        return propertyListFrom(merged(asStored(base), asStored(memory), memoryIn(contents)));
+    };
+    return memoryFile.change(merge).has_value();
 }
 
 }  // namespace vantorel

@@ -27,9 +27,6 @@ struct PanelMemory {
     bool operator==(const PanelMemory&) const = default;
 };
 
-/// Sets the folder that takes the place of the user's configuration for the memory.
-void setPanelMemoryFolder(const QString& path);
-
 /// Reads `Vantorel/Panel.plist` in the folder of the user's configuration, or `Vantorel/panel.ini`,
 /// in which older panels kept the same, if there is no such file. What is missing or damaged there
 /// has the values above.

@@ -1,4 +1,4 @@
-#include "csscolor/NearestNamedColor.h"
+#include "colormath/NearestNamedColor.h"
 
 #include <gtest/gtest.h>
 
