@@ -711,8 +711,8 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Beginnt mit dieser Farbe: jede Form von CSS Color 5, etwa „#ff8000“ oder „hsl(30 100% 50%)“, oder ein Text, den die Hex-Seite annimmt.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
-        <translation>Beginnt mit dieser Seite: hex, dialog, palettes oder der Seite eines anderen Plug-ins.</translation>
+        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
+        <translation>Beginnt mit dieser Seite: hex, mix, palettes oder der Seite eines anderen Plug-ins.</translation>
     </message>
     <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
@@ -915,12 +915,6 @@ Eine Palettendatei wird in Ihren Palettenordner jeder Version von GIMP, von Inks
         <translation>Gibt die Handbuchseite von vantorel-panel aus.</translation>
     </message>
     <message>
-        <source>Show a colour in every form, with its name and snippets.
-Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
-        <translation>Zeigt eine Farbe in jeder Form, mit Namen und Codezeilen.
-Farben auf der Standardeingabe werden zeilenweise gelesen. Für jede wird eine Zeile geschrieben: der Hex-Code, ein Tabulator und der rgb()-Text; --list fügt einen Tabulator und den Namen an. Leere Zeilen werden übergangen. Eine Zeile, die keine Farbe ist, wird auf der Standardfehlerausgabe gemeldet, und die folgenden werden noch gelesen.</translation>
-    </message>
-    <message>
         <source>Print the name of each colour on a line of its own.
 If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
         <translation>Gibt den Namen jeder Farbe auf einer eigenen Zeile aus.
@@ -933,10 +927,6 @@ Hat die Liste keinen genauen Namen, wohl aber CSS Color 4, wird dieser ausgegebe
     <message>
         <source>List the colours of a list, or import, export or publish a list.</source>
         <translation>Listet die Farben einer Liste auf, oder übernimmt, exportiert oder veröffentlicht eine Liste.</translation>
-    </message>
-    <message>
-        <source>List the snippets in the settings with their formats.</source>
-        <translation>Listet die Codezeilen der Einstellungen mit ihren Formaten auf.</translation>
     </message>
     <message>
         <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
@@ -977,14 +967,6 @@ Für bash: source &lt;(vantorel completions bash)</translation>
     <message>
         <source>Show the version.</source>
         <translation>Zeigt die Version.</translation>
-    </message>
-    <message>
-        <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
-Settings, snippets and colour lists are shared with the colour picker.</source>
-        <translation>Farben für Menschen, die CSS und Code schreiben.
-Eine COLOR ist jede Form von CSS Color 5 („#ff8000“, „rgb(255 128 0)“, „oklch(70% 0.1 50)“, „orange“), ein Text, den der Farbwähler annimmt („ff8000“, „RGB(255, 128, 0);“), oder ein Name der Farbliste.
-Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</translation>
     </message>
     <message>
         <source>palette of graphics programs</source>
@@ -1565,10 +1547,6 @@ Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</tra
     <message>
         <source>The user&apos;s settings, colour lists and plug-ins. If the variable is not set, the folder is ~/.local/share/Vantorel/.</source>
         <translation>Einstellungen, Farblisten und Plug-ins des Benutzers. Ist die Variable nicht gesetzt, ist der Ordner ~/.local/share/Vantorel/.</translation>
-    </message>
-    <message>
-        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
-        <translation>Der Benutzer hat „choose“ oder „pick“ ohne Farbe verlassen.</translation>
     </message>
     <message>
         <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
@@ -2160,6 +2138,214 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>Write the grey of a lightness.</source>
         <translation>Schreibt das Grau einer Helligkeit.</translation>
     </message>
+    <message>
+        <source>Show a colour in every form, with its name and your snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Zeigt eine Farbe in jeder Form, mit Namen und Ihren Codezeilen.
+Farben auf der Standardeingabe werden zeilenweise gelesen. Für jede wird eine Zeile geschrieben: der Hex-Code, ein Tabulator und der rgb()-Text; --list fügt einen Tabulator und den Namen an. Leere Zeilen werden übergangen. Eine Zeile, die keine Farbe ist, wird auf der Standardfehlerausgabe gemeldet, und die folgenden werden noch gelesen.</translation>
+    </message>
+    <message>
+        <source>List the snippets with their formats.
+Those of the settings come first, then those of your own file, then those that ship with the program. A line that a snippet writes is read as a colour. If some lines of a snippet cannot be read as the colour that was written, the last column says why.</source>
+        <translation>Listet die Codezeilen mit ihren Formaten auf.
+Zuerst kommen die der Einstellungen, dann die Ihrer eigenen Datei, dann die mitgelieferten. Eine Zeile, die so geschrieben wurde, wird als Farbe gelesen. Wenn manche Zeilen nicht als die Farbe gelesen werden können, die geschrieben wurde, sagt die letzte Spalte, warum.</translation>
+    </message>
+    <message>
+        <source>Your own snippets, in the form of those in the settings.</source>
+        <translation>Ihre eigenen Codezeilen, in der Form der Codezeilen in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), a line of code that a snippet writes (&quot;Color(0xffff8000)&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Farben für Menschen, die CSS und Code schreiben.
+Eine COLOR ist jede Form von CSS Color 5 („#ff8000“, „rgb(255 128 0)“, „oklch(70% 0.1 50)“, „orange“), ein Text, den der Farbwähler annimmt („ff8000“, „RGB(255, 128, 0);“), eine der Codezeilen („Color(0xffff8000)“) oder ein Name der Farbliste.
+Einstellungen, Codezeilen und Farblisten sind dieselben wie im Farbwähler.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is already a snippet &quot;%2&quot; in the settings</source>
+        <translation>„%1“: In den Einstellungen gibt es schon eine Codezeile „%2“</translation>
+    </message>
+    <message>
+        <source>give it another name</source>
+        <translation>geben Sie ihr einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>write it as { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</source>
+        <translation>schreiben Sie { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, has no %3</source>
+        <translation>„%1“, Eintrag %2: %3 fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is no variable form &quot;%3&quot;</source>
+        <translation>„%1“, Eintrag %2: Es gibt keine Variablenform „%3“</translation>
+    </message>
+    <message>
+        <source>use rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt or rgbaPackedInt</source>
+        <translation>verwenden Sie rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt oder rgbaPackedInt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is already a snippet &quot;%3&quot;</source>
+        <translation>„%1“, Eintrag %2: Es gibt schon eine Codezeile „%3“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2: this is not a property list</source>
+        <translation>„%1“, Zeile %2: Das ist keine Property-Liste</translation>
+    </message>
+    <message>
+        <source>compare this line and the one before it with the examples in the manual</source>
+        <translation>vergleichen Sie diese Zeile und die davor mit den Beispielen im Handbuch</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no list of snippets</source>
+        <translation>„%1“ hat keine Liste von Codezeilen</translation>
+    </message>
+    <message>
+        <source>put the snippets into round brackets, separated by commas</source>
+        <translation>setzen Sie die Codezeilen in runde Klammern, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, is not a snippet</source>
+        <translation>„%1“, Eintrag %2: Das ist keine Codezeile</translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>the colour</source>
+        <translation>die Farbe</translation>
+    </message>
+    <message>
+        <source>the format is longer than %1 characters</source>
+        <translation>das Format ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>there is no variable form &quot;%1&quot;</source>
+        <translation>es gibt keine Variablenform „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is not in the format</source>
+        <translation>im Format fehlt: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written as a character</source>
+        <translation>als Zeichen geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without decimals</source>
+        <translation>ohne Nachkommastellen geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>%1 is cut off</source>
+        <translation>abgeschnitten: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without its highest bits</source>
+        <translation>ohne die höchsten Bits geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not separated from what follows, so that some lines have two meanings</source>
+        <translation>nicht vom Folgenden getrennt, sodass manche Zeilen zwei Bedeutungen haben: %1</translation>
+    </message>
+    <message>
+        <source>%1 has too few digits to tell neighbouring values apart</source>
+        <translation>zu wenige Stellen, um benachbarte Werte zu unterscheiden: %1</translation>
+    </message>
+    <message>
+        <source>an opacity of 0 is lost with the leading zeros, which are not written</source>
+        <translation>eine Deckkraft von 0 geht mit den führenden Nullen verloren, die nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the line has no text of its own, so it is read only where it is alone</source>
+        <translation>die Zeile hat keinen eigenen Text und wird daher nur gelesen, wo sie allein steht</translation>
+    </message>
+    <message>
+        <source>a line can be one of &quot;%1&quot; with another colour</source>
+        <translation>eine Zeile kann auch eine von „%1“ mit einer anderen Farbe sein</translation>
+    </message>
+    <message>
+        <source>A style sheet, or another document with colours; &quot;-&quot; is standard input.</source>
+        <translation>Ein Stylesheet oder ein anderes Dokument mit Farben; „-“ ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>When to exit with status 1: contrast, for a contrast below AA; doubles, for near doubles; any of them (the default); or never.</source>
+        <translation>Wann der Exit-Status 1 ist: contrast, bei einem Kontrast unter AA; doubles, bei fast gleichen Farben; any, bei beidem (Vorgabe); oder never, nie.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Die Farben auch als SVG nach FILE zeichnen; „-“ ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Die Farben auch als PNG nach FILE zeichnen; „-“ ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>List the colours of style sheets, and what may be wrong with them.
+Each colour is written with its number and names: the variables that hold it, and its exact name. Near doubles are colours that differ by less than 2 (CIEDE2000). A contrast is reported if the color and the background of one rule fail AA of WCAG 2.2 for text of normal size. If something is found, the exit status is 1.</source>
+        <translation>Listet die Farben von Stylesheets auf, und was an ihnen falsch sein kann.
+Zu jeder Farbe werden ihre Anzahl und ihre Namen geschrieben: die Variablen, die sie enthalten, und ihr genauer Name. Fast gleich sind Farben, die sich um weniger als 2 unterscheiden (CIEDE2000). Ein Kontrast wird gemeldet, wenn color und Hintergrund einer Regel AA von WCAG 2.2 für Text normaler Größe nicht erfüllen. Wenn etwas gefunden wird, ist der Exit-Status 1.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour, or &quot;sheet&quot; has found something.</source>
+        <translation>„choose“ oder „pick“ wurde ohne Farbe verlassen, oder „sheet“ hat etwas gefunden.</translation>
+    </message>
+    <message>
+        <source>If it contains &quot;256color&quot;, a terminal shows a patch of the nearest of its 256 colours.</source>
+        <translation>Wenn sie „256color“ enthält, zeigt ein Terminal ein Feld in der nächsten seiner 256 Farben.</translation>
+    </message>
+    <message>
+        <source>Has no effect: some editors add it.</source>
+        <translation>Ohne Wirkung: Manche Editoren fügen die Option hinzu.</translation>
+    </message>
+    <message>
+        <source>Serve an editor by the Language Server Protocol, on standard input and output.
+The editor shows the colours of style sheets, markup and code, writes them in other forms, completes the names of your lists, and opens the colour panel. Editors start the command themselves; docs/editors.md describes how to set them up.</source>
+        <translation>Einem Editor mit dem Language Server Protocol dienen, über Standardein- und -ausgabe.
+Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in anderen Formen, vervollständigt die Namen Ihrer Listen und öffnet das Farbfenster. Editoren starten den Befehl selbst; docs/editors.md beschreibt, wie sie eingerichtet werden.</translation>
+    </message>
+    <message>
+        <source>Choose in the panel</source>
+        <translation>Im Farbfenster wählen</translation>
+    </message>
+    <message>
+        <source>Change the text colour to %1: a contrast of %2 with the background</source>
+        <translation>Textfarbe in %1 ändern: Kontrast von %2 zum Hintergrund</translation>
+    </message>
+    <message>
+        <source>Replace with &quot;%1&quot;, the closest in %2</source>
+        <translation>Durch „%1“ ersetzen, die nächste Farbe in %2</translation>
+    </message>
+    <message>
+        <source>Name it as the custom property %1</source>
+        <translation>Als CSS-Variable %1 benennen</translation>
+    </message>
+    <message>
+        <source>Convert to %1</source>
+        <translation>In %1 umwandeln</translation>
+    </message>
+    <message>
+        <source>The colour panel cannot be started</source>
+        <translation>Das Farbfenster kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>Closest name: %1 (%2)</source>
+        <translation>Nächster Name: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the colour is outside sRGB; this page shows the nearest colour inside</source>
+        <translation>die Farbe liegt außerhalb von sRGB; diese Seite zeigt die nächste innerhalb</translation>
+    </message>
+    <message>
+        <source>Contrast with white %1, with black %2</source>
+        <translation>Kontrast zu Weiß %1, zu Schwarz %2</translation>
+    </message>
+    <message>
+        <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
+        <translation>ein einzelner Pixel wurde aufgenommen: die Pipette der Arbeitsumgebung bildet keinen Durchschnitt</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2379,6 +2565,102 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Blue to yellow</source>
+        <translation>Blau nach Gelb</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Buntheit</translation>
+    </message>
+    <message>
+        <source>Green to red</source>
+        <translation>Grün nach Rot</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mischen</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hellwert</translation>
+    </message>
+    <message>
+        <source>change a colour in OKLCH, HSL, HSV and Lab</source>
+        <translation>eine Farbe in OKLCH, HSL, HSV und Lab ändern</translation>
+    </message>
+    <message>
+        <source>outside sRGB</source>
+        <translation>außerhalb von sRGB</translation>
+    </message>
+    <message>
+        <source>within sRGB</source>
+        <translation>innerhalb von sRGB</translation>
+    </message>
+    <message>
+        <source>Colour space</source>
+        <translation>Farbraum</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>nimmt auf</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>several</source>
+        <translation>mehrere</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>averages</source>
+        <translation>Durchschnitt</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>zooms</source>
+        <translation>vergrößert</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>leaves</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>%1 picked</source>
+        <translation>%1 aufgenommen</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -2441,6 +2723,14 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>As in the settings of the page</source>
         <translation>Wie in den Einstellungen der Seite</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Weitere Codezeilen</translation>
+    </message>
+    <message>
+        <source>Outside sRGB, nearest: %1</source>
+        <translation>Außerhalb von sRGB, am nächsten: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::ColorFacts</name>
@@ -2466,21 +2756,6 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Copy as</source>
         <translation>Kopieren als</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::DialogPage</name>
-    <message>
-        <source>Colour dialog</source>
-        <translation>Farbdialog</translation>
-    </message>
-    <message>
-        <source>Move in the colours</source>
-        <translation>In den Farben bewegen</translation>
-    </message>
-    <message>
-        <source>Take the colour</source>
-        <translation>Farbe nehmen</translation>
     </message>
 </context>
 <context>
@@ -2553,6 +2828,38 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Takes effect at the next start of the panel</source>
         <translation>Wirkt beim nächsten Start</translation>
+    </message>
+    <message>
+        <source>Show the colour</source>
+        <translation>Farbe zeigen</translation>
+    </message>
+    <message>
+        <source>Copy the colour and stay</source>
+        <translation>Farbe kopieren und bleiben</translation>
+    </message>
+    <message>
+        <source>Copy the colour and minimise the panel</source>
+        <translation>Farbe kopieren und Fenster minimieren</translation>
+    </message>
+    <message>
+        <source>After picking</source>
+        <translation>Nach dem Aufnehmen</translation>
+    </message>
+    <message>
+        <source>%1×%1</source>
+        <translation>%1×%1</translation>
+    </message>
+    <message>
+        <source>Pick the average of</source>
+        <translation>Durchschnitt von</translation>
+    </message>
+    <message>
+        <source>Pixels of the screen. Where only the desktop can pick, it picks one pixel.</source>
+        <translation>Pixel des Bildschirms. Wo nur die Arbeitsumgebung aufnehmen kann, ist es ein einzelner.</translation>
+    </message>
+    <message>
+        <source>Stay resident, with a tray icon</source>
+        <translation>Weiterlaufen, mit Symbol in der Ablage</translation>
     </message>
 </context>
 <context>
@@ -2899,6 +3206,14 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <source>About Vantorel</source>
         <translation>Über Vantorel</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Weitere Codezeilen</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -2938,10 +3253,6 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
         <translation>Anteil ändern</translation>
     </message>
     <message>
-        <source>Change a component by 16</source>
-        <translation>Anteil um 16 ändern</translation>
-    </message>
-    <message>
         <source>Move in the colours</source>
         <translation>In den Farben bewegen</translation>
     </message>
@@ -2952,6 +3263,10 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Take the colour</source>
         <translation>Farbe nehmen</translation>
+    </message>
+    <message>
+        <source>Change a component in large steps</source>
+        <translation>Anteil in großen Schritten ändern</translation>
     </message>
 </context>
 <context>
@@ -2967,6 +3282,13 @@ Der Unterschied ist deltaE OK aus CSS Color 4, der Abstand in Oklab.</translatio
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::Residence</name>
+    <message>
+        <source>Show the panel</source>
+        <translation>Panel zeigen</translation>
     </message>
 </context>
 <context>

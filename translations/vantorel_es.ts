@@ -695,8 +695,8 @@ Controles y gráficos: AA %6</translation>
         <translation>Empieza con este color: cualquier forma de CSS Color 5, como «#ff8000» o «hsl(30 100% 50%)», o un texto que la página Hex acepta.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
-        <translation>Empieza con esta página: hex, dialog, palettes o la página de otro complemento.</translation>
+        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
+        <translation>Empieza con esta página: hex, mix, palettes o la página de otro complemento.</translation>
     </message>
     <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
@@ -899,12 +899,6 @@ Se escribe un archivo de paleta en su carpeta de paletas de cada versión de GIM
         <translation>Muestra la página de manual de vantorel-panel.</translation>
     </message>
     <message>
-        <source>Show a colour in every form, with its name and snippets.
-Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
-        <translation>Muestra un color en todas sus formas, con su nombre y sus líneas de código.
-Los colores de la entrada estándar se leen uno por línea. Por cada uno se escribe una línea: el código hexadecimal, un tabulador y el texto rgb(); --list añade un tabulador y el nombre. Se omiten las líneas vacías. Una línea que no es un color se comunica por el error estándar, y se siguen leyendo las siguientes.</translation>
-    </message>
-    <message>
         <source>Print the name of each colour on a line of its own.
 If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
         <translation>Muestra el nombre de cada color en una línea propia.
@@ -917,10 +911,6 @@ Si la lista no tiene un nombre exacto pero CSS Color 4 sí, se muestra ese nombr
     <message>
         <source>List the colours of a list, or import, export or publish a list.</source>
         <translation>Muestra los colores de una lista, o importa, exporta o publica una lista.</translation>
-    </message>
-    <message>
-        <source>List the snippets in the settings with their formats.</source>
-        <translation>Muestra las líneas de código de los ajustes con sus formatos.</translation>
     </message>
     <message>
         <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
@@ -961,14 +951,6 @@ Para bash: source &lt;(vantorel completions bash)</translation>
     <message>
         <source>Show the version.</source>
         <translation>Muestra la versión.</translation>
-    </message>
-    <message>
-        <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
-Settings, snippets and colour lists are shared with the colour picker.</source>
-        <translation>Colores para quienes escriben CSS y código.
-Un COLOR es cualquier forma de CSS Color 5 («#ff8000», «rgb(255 128 0)», «oklch(70% 0.1 50)», «orange»), un texto que el selector acepta («ff8000», «RGB(255, 128, 0);») o un nombre de la lista de colores.
-Los ajustes, líneas de código y listas de colores son los del selector.</translation>
     </message>
     <message>
         <source>palette of graphics programs</source>
@@ -1567,10 +1549,6 @@ Los ajustes, líneas de código y listas de colores son los del selector.</trans
         <translation>Los ajustes, las listas de colores y los complementos del usuario. Si la variable no está definida, la carpeta es ~/.local/share/Vantorel/.</translation>
     </message>
     <message>
-        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
-        <translation>El usuario ha salido de «choose» o «pick» sin un color.</translation>
-    </message>
-    <message>
         <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
         <translation>Un error, como una opción incorrecta, un texto que no es un color o un archivo que no se puede leer. Se comunica por el error estándar.</translation>
     </message>
@@ -2160,6 +2138,214 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>Write the grey of a lightness.</source>
         <translation>Escribe el gris de una luminosidad.</translation>
     </message>
+    <message>
+        <source>Show a colour in every form, with its name and your snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Muestra un color en todas sus formas, con su nombre y sus propias líneas de código.
+Los colores de la entrada estándar se leen uno por línea. Por cada uno se escribe una línea: el código hexadecimal, un tabulador y el texto rgb(); --list añade un tabulador y el nombre. Se omiten las líneas vacías. Una línea que no es un color se comunica por el error estándar, y se siguen leyendo las siguientes.</translation>
+    </message>
+    <message>
+        <source>List the snippets with their formats.
+Those of the settings come first, then those of your own file, then those that ship with the program. A line that a snippet writes is read as a colour. If some lines of a snippet cannot be read as the colour that was written, the last column says why.</source>
+        <translation>Muestra las líneas de código con sus formatos.
+Primero las de los ajustes, después las de su propio archivo y después las que se incluyen con el programa. Una línea escrita así se lee como un color. Si algunas líneas no se pueden leer como el color que se escribió, la última columna dice por qué.</translation>
+    </message>
+    <message>
+        <source>Your own snippets, in the form of those in the settings.</source>
+        <translation>Sus propias líneas de código, en la forma de las de los ajustes.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), a line of code that a snippet writes (&quot;Color(0xffff8000)&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Colores para quienes escriben CSS y código.
+Un COLOR es cualquier forma de CSS Color 5 («#ff8000», «rgb(255 128 0)», «oklch(70% 0.1 50)», «orange»), un texto que el selector acepta («ff8000», «RGB(255, 128, 0);»), una de las líneas de código («Color(0xffff8000)») o un nombre de la lista de colores.
+Los ajustes, líneas de código y listas de colores son los del selector.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is already a snippet &quot;%2&quot; in the settings</source>
+        <translation>«%1»: en los ajustes ya hay una línea de código «%2»</translation>
+    </message>
+    <message>
+        <source>give it another name</source>
+        <translation>póngale otro nombre</translation>
+    </message>
+    <message>
+        <source>write it as { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</source>
+        <translation>escriba { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, has no %3</source>
+        <translation>«%1», entrada %2: falta %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is no variable form &quot;%3&quot;</source>
+        <translation>«%1», entrada %2: no existe la forma de variables «%3»</translation>
+    </message>
+    <message>
+        <source>use rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt or rgbaPackedInt</source>
+        <translation>use rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt o rgbaPackedInt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is already a snippet &quot;%3&quot;</source>
+        <translation>«%1», entrada %2: ya hay una línea de código «%3»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2: this is not a property list</source>
+        <translation>«%1», línea %2: esto no es una lista de propiedades</translation>
+    </message>
+    <message>
+        <source>compare this line and the one before it with the examples in the manual</source>
+        <translation>compare esta línea y la anterior con los ejemplos del manual</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no list of snippets</source>
+        <translation>«%1» no tiene una lista de líneas de código</translation>
+    </message>
+    <message>
+        <source>put the snippets into round brackets, separated by commas</source>
+        <translation>ponga las líneas de código entre paréntesis, separadas por comas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, is not a snippet</source>
+        <translation>«%1», entrada %2: esto no es una línea de código</translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation>opacidad</translation>
+    </message>
+    <message>
+        <source>the colour</source>
+        <translation>el color</translation>
+    </message>
+    <message>
+        <source>the format is longer than %1 characters</source>
+        <translation>el formato tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>there is no variable form &quot;%1&quot;</source>
+        <translation>no existe la forma de variables «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is not in the format</source>
+        <translation>falta en el formato: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written as a character</source>
+        <translation>se escribe como carácter: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without decimals</source>
+        <translation>se escribe sin decimales: %1</translation>
+    </message>
+    <message>
+        <source>%1 is cut off</source>
+        <translation>se recorta: %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without its highest bits</source>
+        <translation>se escribe sin los bits más altos: %1</translation>
+    </message>
+    <message>
+        <source>%1 is not separated from what follows, so that some lines have two meanings</source>
+        <translation>no se separa de lo que sigue, así que algunas líneas tienen dos significados: %1</translation>
+    </message>
+    <message>
+        <source>%1 has too few digits to tell neighbouring values apart</source>
+        <translation>pocas cifras para distinguir valores vecinos: %1</translation>
+    </message>
+    <message>
+        <source>an opacity of 0 is lost with the leading zeros, which are not written</source>
+        <translation>una opacidad de 0 se pierde con los ceros iniciales, que no se escriben</translation>
+    </message>
+    <message>
+        <source>the line has no text of its own, so it is read only where it is alone</source>
+        <translation>la línea no tiene texto propio, así que solo se lee cuando está sola</translation>
+    </message>
+    <message>
+        <source>a line can be one of &quot;%1&quot; with another colour</source>
+        <translation>una línea también puede ser una de «%1» con otro color</translation>
+    </message>
+    <message>
+        <source>A style sheet, or another document with colours; &quot;-&quot; is standard input.</source>
+        <translation>Una hoja de estilo u otro documento con colores; «-» es la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>When to exit with status 1: contrast, for a contrast below AA; doubles, for near doubles; any of them (the default); or never.</source>
+        <translation>Cuándo el estado de salida es 1: contrast, con un contraste por debajo de AA; doubles, con colores casi iguales; any, con cualquiera de los dos (predeterminado); o never, nunca.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Dibujar también los colores como SVG en FILE; «-» es la salida estándar.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Dibujar también los colores como PNG en FILE; «-» es la salida estándar.</translation>
+    </message>
+    <message>
+        <source>List the colours of style sheets, and what may be wrong with them.
+Each colour is written with its number and names: the variables that hold it, and its exact name. Near doubles are colours that differ by less than 2 (CIEDE2000). A contrast is reported if the color and the background of one rule fail AA of WCAG 2.2 for text of normal size. If something is found, the exit status is 1.</source>
+        <translation>Muestra los colores de hojas de estilo y lo que puede estar mal en ellos.
+Cada color se escribe con su número y sus nombres: las variables que lo contienen y su nombre exacto. Son casi iguales los colores que difieren en menos de 2 (CIEDE2000). Se comunica un contraste si color y el fondo de una regla no cumplen AA de las WCAG 2.2 para texto de tamaño normal. Si se encuentra algo, el estado de salida es 1.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour, or &quot;sheet&quot; has found something.</source>
+        <translation>Se salió de «choose» o «pick» sin color, o «sheet» ha encontrado algo.</translation>
+    </message>
+    <message>
+        <source>If it contains &quot;256color&quot;, a terminal shows a patch of the nearest of its 256 colours.</source>
+        <translation>Si contiene «256color», un terminal muestra una muestra del más cercano de sus 256 colores.</translation>
+    </message>
+    <message>
+        <source>Has no effect: some editors add it.</source>
+        <translation>Sin efecto: algunos editores la añaden.</translation>
+    </message>
+    <message>
+        <source>Serve an editor by the Language Server Protocol, on standard input and output.
+The editor shows the colours of style sheets, markup and code, writes them in other forms, completes the names of your lists, and opens the colour panel. Editors start the command themselves; docs/editors.md describes how to set them up.</source>
+        <translation>Servir a un editor con el Language Server Protocol, por la entrada y la salida estándar.
+El editor muestra los colores de hojas de estilo, marcado y código, los escribe en otras formas, completa los nombres de sus listas y abre el panel de color. Los editores inician la orden por sí mismos; docs/editors.md describe cómo configurarlos.</translation>
+    </message>
+    <message>
+        <source>Choose in the panel</source>
+        <translation>Elegir en el panel</translation>
+    </message>
+    <message>
+        <source>Change the text colour to %1: a contrast of %2 with the background</source>
+        <translation>Cambiar el color del texto a %1: contraste de %2 con el fondo</translation>
+    </message>
+    <message>
+        <source>Replace with &quot;%1&quot;, the closest in %2</source>
+        <translation>Sustituir por «%1», el color más cercano de %2</translation>
+    </message>
+    <message>
+        <source>Name it as the custom property %1</source>
+        <translation>Darle nombre como propiedad personalizada %1</translation>
+    </message>
+    <message>
+        <source>Convert to %1</source>
+        <translation>Convertir a %1</translation>
+    </message>
+    <message>
+        <source>The colour panel cannot be started</source>
+        <translation>No se puede iniciar el panel de color</translation>
+    </message>
+    <message>
+        <source>Closest name: %1 (%2)</source>
+        <translation>Nombre más cercano: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the colour is outside sRGB; this page shows the nearest colour inside</source>
+        <translation>el color está fuera de sRGB; esta página muestra el más próximo dentro</translation>
+    </message>
+    <message>
+        <source>Contrast with white %1, with black %2</source>
+        <translation>Contraste con blanco %1, con negro %2</translation>
+    </message>
+    <message>
+        <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
+        <translation>se tomó un solo píxel: el selector del escritorio no calcula promedios</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2379,6 +2565,102 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>Error</source>
         <translation>Error</translation>
     </message>
+    <message>
+        <source>Blue to yellow</source>
+        <translation>Azul a amarillo</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Croma</translation>
+    </message>
+    <message>
+        <source>Green to red</source>
+        <translation>Verde a rojo</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Luminosidad</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mezclar</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>change a colour in OKLCH, HSL, HSV and Lab</source>
+        <translation>cambiar un color en OKLCH, HSL, HSV y Lab</translation>
+    </message>
+    <message>
+        <source>outside sRGB</source>
+        <translation>fuera de sRGB</translation>
+    </message>
+    <message>
+        <source>within sRGB</source>
+        <translation>dentro de sRGB</translation>
+    </message>
+    <message>
+        <source>Colour space</source>
+        <translation>Espacio de color</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>toma</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>several</source>
+        <translation>varios</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>averages</source>
+        <translation>promedio</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Rueda</translation>
+    </message>
+    <message>
+        <source>zooms</source>
+        <translation>amplía</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>leaves</source>
+        <translation>sale</translation>
+    </message>
+    <message>
+        <source>%1 picked</source>
+        <translation>%1 tomados</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -2441,6 +2723,14 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>As in the settings of the page</source>
         <translation>Como en los ajustes de la página</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Más líneas de código</translation>
+    </message>
+    <message>
+        <source>Outside sRGB, nearest: %1</source>
+        <translation>Fuera de sRGB, el más próximo: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::ColorFacts</name>
@@ -2466,21 +2756,6 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Copy as</source>
         <translation>Copiar como</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::DialogPage</name>
-    <message>
-        <source>Colour dialog</source>
-        <translation>Diálogo de color</translation>
-    </message>
-    <message>
-        <source>Move in the colours</source>
-        <translation>Moverse por los colores</translation>
-    </message>
-    <message>
-        <source>Take the colour</source>
-        <translation>Tomar el color</translation>
     </message>
 </context>
 <context>
@@ -2553,6 +2828,38 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Takes effect at the next start of the panel</source>
         <translation>Tiene efecto en el próximo inicio del panel</translation>
+    </message>
+    <message>
+        <source>Show the colour</source>
+        <translation>Mostrar el color</translation>
+    </message>
+    <message>
+        <source>Copy the colour and stay</source>
+        <translation>Copiar el color y quedarse</translation>
+    </message>
+    <message>
+        <source>Copy the colour and minimise the panel</source>
+        <translation>Copiar el color y minimizar el panel</translation>
+    </message>
+    <message>
+        <source>After picking</source>
+        <translation>Después de tomar</translation>
+    </message>
+    <message>
+        <source>%1×%1</source>
+        <translation>%1×%1</translation>
+    </message>
+    <message>
+        <source>Pick the average of</source>
+        <translation>Promedio de</translation>
+    </message>
+    <message>
+        <source>Pixels of the screen. Where only the desktop can pick, it picks one pixel.</source>
+        <translation>Píxeles de la pantalla. Donde solo el escritorio puede tomar colores, toma un píxel.</translation>
+    </message>
+    <message>
+        <source>Stay resident, with a tray icon</source>
+        <translation>Quedarse en segundo plano, con icono en la bandeja</translation>
     </message>
 </context>
 <context>
@@ -2899,6 +3206,14 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <source>About Vantorel</source>
         <translation>Acerca de Vantorel</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Más líneas de código</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -2938,10 +3253,6 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
         <translation>Cambiar un componente</translation>
     </message>
     <message>
-        <source>Change a component by 16</source>
-        <translation>Cambiar un componente en 16</translation>
-    </message>
-    <message>
         <source>Move in the colours</source>
         <translation>Moverse por los colores</translation>
     </message>
@@ -2952,6 +3263,10 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Take the colour</source>
         <translation>Tomar el color</translation>
+    </message>
+    <message>
+        <source>Change a component in large steps</source>
+        <translation>Cambiar un componente en pasos grandes</translation>
     </message>
 </context>
 <context>
@@ -2967,6 +3282,13 @@ La diferencia es deltaE OK de CSS Color 4, la distancia en Oklab.</translation>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::Residence</name>
+    <message>
+        <source>Show the panel</source>
+        <translation>Mostrar el panel</translation>
     </message>
 </context>
 <context>

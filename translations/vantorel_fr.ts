@@ -695,8 +695,8 @@ Commandes et graphismes : AA %6</translation>
         <translation>Commence par cette couleur : toute forme de CSS Color 5, comme « #ff8000 » ou « hsl(30 100% 50%) », ou un texte que la page Hex accepte.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, dialog, palettes, or the page of another plug-in.</source>
-        <translation>Commence par cette page : hex, dialog, palettes, ou la page d’un autre greffon.</translation>
+        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
+        <translation>Commence par cette page : hex, mix, palettes, ou la page d’un autre greffon.</translation>
     </message>
     <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
@@ -899,12 +899,6 @@ Un fichier de palette est écrit dans votre dossier de palettes de chaque versio
         <translation>Affiche la page de manuel de vantorel-panel.</translation>
     </message>
     <message>
-        <source>Show a colour in every form, with its name and snippets.
-Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
-        <translation>Montre une couleur sous toutes ses formes, avec son nom et ses lignes de code.
-Les couleurs de l’entrée standard sont lues une par ligne. Pour chacune, une ligne est écrite : le code hexadécimal, une tabulation et le texte rgb() ; --list ajoute une tabulation et le nom. Les lignes vides sont ignorées. Une ligne qui n’est pas une couleur est signalée sur l’erreur standard, et les suivantes sont encore lues.</translation>
-    </message>
-    <message>
         <source>Print the name of each colour on a line of its own.
 If the list has no exact name but CSS Color 4 has one, that name is printed, followed by &quot;(CSS Color 4)&quot;. If neither has, the names of close colours follow a &quot;*&quot;; if no colour is close, the line is &quot;No Match&quot;.</source>
         <translation>Affiche le nom de chaque couleur sur sa propre ligne.
@@ -917,10 +911,6 @@ Si la liste n’a pas de nom exact mais que CSS Color 4 en a un, ce nom est affi
     <message>
         <source>List the colours of a list, or import, export or publish a list.</source>
         <translation>Affiche les couleurs d’une liste, ou importe, exporte ou publie une liste.</translation>
-    </message>
-    <message>
-        <source>List the snippets in the settings with their formats.</source>
-        <translation>Affiche les lignes de code des réglages avec leurs formats.</translation>
     </message>
     <message>
         <source>Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.
@@ -961,14 +951,6 @@ Pour bash : source &lt;(vantorel completions bash)</translation>
     <message>
         <source>Show the version.</source>
         <translation>Affiche la version.</translation>
-    </message>
-    <message>
-        <source>Colours for people who write CSS and code.
-A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), or a name of the colour list.
-Settings, snippets and colour lists are shared with the colour picker.</source>
-        <translation>Des couleurs pour celles et ceux qui écrivent du CSS et du code.
-Une COLOR est toute forme de CSS Color 5 (« #ff8000 », « rgb(255 128 0) », « oklch(70% 0.1 50) », « orange »), un texte que le sélecteur accepte (« ff8000 », « RGB(255, 128, 0); ») ou un nom de la liste de couleurs.
-Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</translation>
     </message>
     <message>
         <source>palette of graphics programs</source>
@@ -1567,10 +1549,6 @@ Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</tr
         <translation>Les réglages, listes de couleurs et greffons de l’utilisateur. Si la variable n’est pas définie, le dossier est ~/.local/share/Vantorel/.</translation>
     </message>
     <message>
-        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour.</source>
-        <translation>L’utilisateur a quitté « choose » ou « pick » sans couleur.</translation>
-    </message>
-    <message>
         <source>An error, such as a wrong option, a text that is not a colour, or a file that cannot be read. It is reported on standard error.</source>
         <translation>Une erreur, comme une option incorrecte, un texte qui n’est pas une couleur ou un fichier illisible. Elle est signalée sur l’erreur standard.</translation>
     </message>
@@ -2160,6 +2138,214 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>Write the grey of a lightness.</source>
         <translation>Écrit le gris d&apos;une clarté.</translation>
     </message>
+    <message>
+        <source>Show a colour in every form, with its name and your snippets.
+Colours on standard input are read one per line. For each, one line is written: the hex code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A line that is not a colour is reported on standard error, and the following lines are still read.</source>
+        <translation>Montre une couleur sous toutes ses formes, avec son nom et vos lignes de code.
+Les couleurs de l’entrée standard sont lues une par ligne. Pour chacune, une ligne est écrite : le code hexadécimal, une tabulation et le texte rgb() ; --list ajoute une tabulation et le nom. Les lignes vides sont ignorées. Une ligne qui n’est pas une couleur est signalée sur l’erreur standard, et les suivantes sont encore lues.</translation>
+    </message>
+    <message>
+        <source>List the snippets with their formats.
+Those of the settings come first, then those of your own file, then those that ship with the program. A line that a snippet writes is read as a colour. If some lines of a snippet cannot be read as the colour that was written, the last column says why.</source>
+        <translation>Affiche les lignes de code avec leurs formats.
+D’abord celles des réglages, puis celles de votre propre fichier, puis celles fournies avec le programme. Une ligne ainsi écrite est lue comme une couleur. Si certaines lignes ne peuvent être lues comme la couleur écrite, la dernière colonne dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>Your own snippets, in the form of those in the settings.</source>
+        <translation>Vos propres lignes de code, sous la forme de celles des réglages.</translation>
+    </message>
+    <message>
+        <source>Colours for people who write CSS and code.
+A COLOR is any form of CSS Color 5 (&quot;#ff8000&quot;, &quot;rgb(255 128 0)&quot;, &quot;oklch(70% 0.1 50)&quot;, &quot;orange&quot;), a text that the colour picker accepts (&quot;ff8000&quot;, &quot;RGB(255, 128, 0);&quot;), a line of code that a snippet writes (&quot;Color(0xffff8000)&quot;), or a name of the colour list.
+Settings, snippets and colour lists are shared with the colour picker.</source>
+        <translation>Des couleurs pour celles et ceux qui écrivent du CSS et du code.
+Une COLOR est toute forme de CSS Color 5 (« #ff8000 », « rgb(255 128 0) », « oklch(70% 0.1 50) », « orange »), un texte que le sélecteur accepte (« ff8000 », « RGB(255, 128, 0); »), une des lignes de code (« Color(0xffff8000) ») ou un nom de la liste de couleurs.
+Les réglages, lignes de code et listes de couleurs sont ceux du sélecteur.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: there is already a snippet &quot;%2&quot; in the settings</source>
+        <translation>« %1 » : il y a déjà une ligne de code « %2 » dans les réglages</translation>
+    </message>
+    <message>
+        <source>give it another name</source>
+        <translation>donnez-lui un autre nom</translation>
+    </message>
+    <message>
+        <source>write it as { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</source>
+        <translation>écrivez { NameSnippet = &quot;...&quot;; FormatSnippet = &quot;...&quot;; VarsSnippet = ...; }</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, has no %3</source>
+        <translation>« %1 », entrée %2 : %3 manque</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is no variable form &quot;%3&quot;</source>
+        <translation>« %1 », entrée %2 : il n’y a pas de forme de variables « %3 »</translation>
+    </message>
+    <message>
+        <source>use rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt or rgbaPackedInt</source>
+        <translation>utilisez rgbaFloats, rgbFloats, rgbFixedAlphaFloat, rgbFixed, rgbaFixed, rgbPackedInt ou rgbaPackedInt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2: there is already a snippet &quot;%3&quot;</source>
+        <translation>« %1 », entrée %2 : il y a déjà une ligne de code « %3 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, line %2: this is not a property list</source>
+        <translation>« %1 », ligne %2 : ce n’est pas une liste de propriétés</translation>
+    </message>
+    <message>
+        <source>compare this line and the one before it with the examples in the manual</source>
+        <translation>comparez cette ligne et la précédente avec les exemples du manuel</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no list of snippets</source>
+        <translation>« %1 » n’a pas de liste de lignes de code</translation>
+    </message>
+    <message>
+        <source>put the snippets into round brackets, separated by commas</source>
+        <translation>mettez les lignes de code entre parenthèses, séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, entry %2, is not a snippet</source>
+        <translation>« %1 », entrée %2 : ce n’est pas une ligne de code</translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation>opacité</translation>
+    </message>
+    <message>
+        <source>the colour</source>
+        <translation>la couleur</translation>
+    </message>
+    <message>
+        <source>the format is longer than %1 characters</source>
+        <translation>le format dépasse %1 caractères</translation>
+    </message>
+    <message>
+        <source>there is no variable form &quot;%1&quot;</source>
+        <translation>il n’y a pas de forme de variables « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 is not in the format</source>
+        <translation>absent du format : %1</translation>
+    </message>
+    <message>
+        <source>%1 is written as a character</source>
+        <translation>écrit comme un caractère : %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without decimals</source>
+        <translation>écrit sans décimales : %1</translation>
+    </message>
+    <message>
+        <source>%1 is cut off</source>
+        <translation>tronqué : %1</translation>
+    </message>
+    <message>
+        <source>%1 is written without its highest bits</source>
+        <translation>écrit sans les bits de poids fort : %1</translation>
+    </message>
+    <message>
+        <source>%1 is not separated from what follows, so that some lines have two meanings</source>
+        <translation>non séparé de la suite, si bien que certaines lignes ont deux sens : %1</translation>
+    </message>
+    <message>
+        <source>%1 has too few digits to tell neighbouring values apart</source>
+        <translation>trop peu de chiffres pour distinguer des valeurs voisines : %1</translation>
+    </message>
+    <message>
+        <source>an opacity of 0 is lost with the leading zeros, which are not written</source>
+        <translation>une opacité de 0 se perd avec les zéros de tête, qui ne sont pas écrits</translation>
+    </message>
+    <message>
+        <source>the line has no text of its own, so it is read only where it is alone</source>
+        <translation>la ligne n’a pas de texte propre et n’est donc lue que si elle est seule</translation>
+    </message>
+    <message>
+        <source>a line can be one of &quot;%1&quot; with another colour</source>
+        <translation>une ligne peut aussi être une de « %1 » avec une autre couleur</translation>
+    </message>
+    <message>
+        <source>A style sheet, or another document with colours; &quot;-&quot; is standard input.</source>
+        <translation>Une feuille de style, ou un autre document avec des couleurs ; « - » est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>When to exit with status 1: contrast, for a contrast below AA; doubles, for near doubles; any of them (the default); or never.</source>
+        <translation>Quand l’état de sortie est 1 : contrast, pour un contraste sous AA ; doubles, pour des couleurs presque égales ; any, pour les deux (par défaut) ; ou never, jamais.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as SVG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Dessiner aussi les couleurs en SVG dans FILE ; « - » est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Also draw the colours as PNG to FILE; &quot;-&quot; is standard output.</source>
+        <translation>Dessiner aussi les couleurs en PNG dans FILE ; « - » est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>List the colours of style sheets, and what may be wrong with them.
+Each colour is written with its number and names: the variables that hold it, and its exact name. Near doubles are colours that differ by less than 2 (CIEDE2000). A contrast is reported if the color and the background of one rule fail AA of WCAG 2.2 for text of normal size. If something is found, the exit status is 1.</source>
+        <translation>Affiche les couleurs de feuilles de style, et ce qui peut y être faux.
+Chaque couleur est écrite avec son nombre et ses noms : les variables qui la contiennent et son nom exact. Sont presque égales les couleurs qui diffèrent de moins de 2 (CIEDE2000). Un contraste est signalé si la color et le fond d’une règle n’atteignent pas le niveau AA des WCAG 2.2 pour un texte de taille normale. Si quelque chose est trouvé, l’état de sortie est 1.</translation>
+    </message>
+    <message>
+        <source>The user left &quot;choose&quot; or &quot;pick&quot; without a colour, or &quot;sheet&quot; has found something.</source>
+        <translation>« choose » ou « pick » a été quitté sans couleur, ou « sheet » a trouvé quelque chose.</translation>
+    </message>
+    <message>
+        <source>If it contains &quot;256color&quot;, a terminal shows a patch of the nearest of its 256 colours.</source>
+        <translation>Si elle contient « 256color », un terminal montre un échantillon de la plus proche de ses 256 couleurs.</translation>
+    </message>
+    <message>
+        <source>Has no effect: some editors add it.</source>
+        <translation>Sans effet : certains éditeurs l’ajoutent.</translation>
+    </message>
+    <message>
+        <source>Serve an editor by the Language Server Protocol, on standard input and output.
+The editor shows the colours of style sheets, markup and code, writes them in other forms, completes the names of your lists, and opens the colour panel. Editors start the command themselves; docs/editors.md describes how to set them up.</source>
+        <translation>Servir un éditeur par le Language Server Protocol, sur l’entrée et la sortie standard.
+L’éditeur montre les couleurs des feuilles de style, du balisage et du code, les écrit sous d’autres formes, complète les noms de vos listes et ouvre le panneau de couleurs. Les éditeurs lancent eux-mêmes la commande ; docs/editors.md décrit leur configuration.</translation>
+    </message>
+    <message>
+        <source>Choose in the panel</source>
+        <translation>Choisir dans le panneau</translation>
+    </message>
+    <message>
+        <source>Change the text colour to %1: a contrast of %2 with the background</source>
+        <translation>Changer la couleur du texte en %1 : contraste de %2 avec le fond</translation>
+    </message>
+    <message>
+        <source>Replace with &quot;%1&quot;, the closest in %2</source>
+        <translation>Remplacer par « %1 », la couleur la plus proche dans %2</translation>
+    </message>
+    <message>
+        <source>Name it as the custom property %1</source>
+        <translation>La nommer en propriété personnalisée %1</translation>
+    </message>
+    <message>
+        <source>Convert to %1</source>
+        <translation>Convertir en %1</translation>
+    </message>
+    <message>
+        <source>The colour panel cannot be started</source>
+        <translation>Le panneau de couleurs ne peut pas être lancé</translation>
+    </message>
+    <message>
+        <source>Closest name: %1 (%2)</source>
+        <translation>Nom le plus proche : %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the colour is outside sRGB; this page shows the nearest colour inside</source>
+        <translation>la couleur est hors de sRGB ; cette page montre la plus proche à l’intérieur</translation>
+    </message>
+    <message>
+        <source>Contrast with white %1, with black %2</source>
+        <translation>Contraste avec le blanc %1, avec le noir %2</translation>
+    </message>
+    <message>
+        <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
+        <translation>un seul pixel a été prélevé : la pipette du bureau ne calcule pas de moyenne</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2379,6 +2565,102 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>Error</source>
         <translation>Erreur</translation>
     </message>
+    <message>
+        <source>Blue to yellow</source>
+        <translation>Du bleu au jaune</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Chroma</translation>
+    </message>
+    <message>
+        <source>Green to red</source>
+        <translation>Du vert au rouge</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Clarté</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mélange</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>change a colour in OKLCH, HSL, HSV and Lab</source>
+        <translation>modifier une couleur en OKLCH, HSL, HSV et Lab</translation>
+    </message>
+    <message>
+        <source>outside sRGB</source>
+        <translation>hors de sRGB</translation>
+    </message>
+    <message>
+        <source>within sRGB</source>
+        <translation>dans sRGB</translation>
+    </message>
+    <message>
+        <source>Colour space</source>
+        <translation>Espace de couleurs</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>prélève</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>several</source>
+        <translation>plusieurs</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>averages</source>
+        <translation>moyenne</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Molette</translation>
+    </message>
+    <message>
+        <source>zooms</source>
+        <translation>agrandit</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>leaves</source>
+        <translation>quitte</translation>
+    </message>
+    <message>
+        <source>%1 picked</source>
+        <translation>%1 prélevées</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -2441,6 +2723,14 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>As in the settings of the page</source>
         <translation>Comme dans les réglages de la page</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Autres lignes de code</translation>
+    </message>
+    <message>
+        <source>Outside sRGB, nearest: %1</source>
+        <translation>Hors de sRGB, la plus proche : %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::ColorFacts</name>
@@ -2457,7 +2747,7 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     </message>
     <message>
         <source>Type or paste a colour in any form</source>
-        <translation>Tapez ou collez une couleur sous n'importe quelle forme</translation>
+        <translation>Tapez ou collez une couleur sous n&apos;importe quelle forme</translation>
     </message>
     <message>
         <source>Colour as a text</source>
@@ -2466,21 +2756,6 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Copy as</source>
         <translation>Copier en</translation>
-    </message>
-</context>
-<context>
-    <name>vantorel::DialogPage</name>
-    <message>
-        <source>Colour dialog</source>
-        <translation>Boîte de couleurs</translation>
-    </message>
-    <message>
-        <source>Move in the colours</source>
-        <translation>Se déplacer dans les couleurs</translation>
-    </message>
-    <message>
-        <source>Take the colour</source>
-        <translation>Prendre la couleur</translation>
     </message>
 </context>
 <context>
@@ -2553,6 +2828,38 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Takes effect at the next start of the panel</source>
         <translation>Prend effet au prochain démarrage du panneau</translation>
+    </message>
+    <message>
+        <source>Show the colour</source>
+        <translation>Afficher la couleur</translation>
+    </message>
+    <message>
+        <source>Copy the colour and stay</source>
+        <translation>Copier la couleur et rester</translation>
+    </message>
+    <message>
+        <source>Copy the colour and minimise the panel</source>
+        <translation>Copier la couleur et réduire le panneau</translation>
+    </message>
+    <message>
+        <source>After picking</source>
+        <translation>Après le prélèvement</translation>
+    </message>
+    <message>
+        <source>%1×%1</source>
+        <translation>%1×%1</translation>
+    </message>
+    <message>
+        <source>Pick the average of</source>
+        <translation>Moyenne de</translation>
+    </message>
+    <message>
+        <source>Pixels of the screen. Where only the desktop can pick, it picks one pixel.</source>
+        <translation>Pixels de l&apos;écran. Là où seul le bureau peut prélever, il prend un pixel.</translation>
+    </message>
+    <message>
+        <source>Stay resident, with a tray icon</source>
+        <translation>Rester en arrière-plan, avec une icône dans la zone de notification</translation>
     </message>
 </context>
 <context>
@@ -2899,6 +3206,14 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <source>About Vantorel</source>
         <translation>À propos de Vantorel</translation>
     </message>
+    <message>
+        <source>More code snippets</source>
+        <translation>Autres lignes de code</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -2912,7 +3227,7 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     </message>
     <message>
         <source>%1 picks from the screen</source>
-        <translation>%1 prélève à l'écran</translation>
+        <translation>%1 prélève à l&apos;écran</translation>
     </message>
     <message>
         <source>Last colours</source>
@@ -2938,10 +3253,6 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
         <translation>Modifier une composante</translation>
     </message>
     <message>
-        <source>Change a component by 16</source>
-        <translation>Modifier une composante de 16</translation>
-    </message>
-    <message>
         <source>Move in the colours</source>
         <translation>Se déplacer dans les couleurs</translation>
     </message>
@@ -2952,6 +3263,10 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Take the colour</source>
         <translation>Prendre la couleur</translation>
+    </message>
+    <message>
+        <source>Change a component in large steps</source>
+        <translation>Modifier une composante par grands pas</translation>
     </message>
 </context>
 <context>
@@ -2967,6 +3282,13 @@ La différence est le deltaE OK de CSS Color 4, la distance dans Oklab.</transla
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::Residence</name>
+    <message>
+        <source>Show the panel</source>
+        <translation>Afficher le panneau</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 #include "cli/Commands.h"
 #include "cli/Failure.h"
 #include "cli/PanelProgram.h"
+#include "cli/RunningPanel.h"
+#include "cli/Snippets.h"
 #include "cli/Terminal.h"
 #include "csscolor/CSSNamedColors.h"
 #include "csscolor/Contrast.h"
@@ -10,25 +12,10 @@
 #include "result/HarmlessLine.h"
 #include "text/Unicode.h"
 
-#include <algorithm>
-#include <cmath>
+#include <functional>
 
 namespace vantorel {
 namespace {
-
-QTXCodeSnippet requiredSnippet(const QTXHexSettings& settings, const std::string& utf8Name)
-{
-    const std::u16string name = utf16FromUtf8(utf8Name);
-    const auto& snippets = settings.codeSnippets();
-    const auto found =
-        std::find_if(snippets.begin(), snippets.end(),
-                     [&](const QTXCodeSnippet& snippet) { return snippet.nameSnippet() == name; });
-    if (found == snippets.end()) {
-        throw Failure{{phrase("there is no snippet \"%1\"", excerpt(utf8Name)),
-                       phrase("run \"vantorel snippets\" to list them")}};
-    }
-    return *found;
-}
 
 /// Creates the namer when the first colour is named, because a stream may not need one.
 class LazyNamer {
@@ -57,7 +44,10 @@ private:
 class ShowWriter final : public ColorWriter {
 public:
     ShowWriter(Session& session, const CommandLine& commandLine, ColorTextReader& reader)
-        : ColorWriter(reader), _commandLine(commandLine), _namer(session, commandLine)
+        : ColorWriter(reader),
+          _session(session),
+          _commandLine(commandLine),
+          _namer(session, commandLine)
     {
         const QTXHexSettings& settings = session.settings();
         _form.entryForm = settings.entryForm();
@@ -66,9 +56,7 @@ public:
         _form.poundSign = commandLine.poundSign.value_or(settings.usePoundSign());
         _form.swatches = showsSwatches();
         if (commandLine.snippetName) {
-            _snippet = requiredSnippet(settings, *commandLine.snippetName);
-        } else {
-            _form.snippets = settings.codeSnippets();
+            _snippet = requiredSnippet(session.snippets(), *commandLine.snippetName);
         }
         // Report a missing list before anything is written.
         if (commandLine.listName) _form.namer = _namer.get();
@@ -80,13 +68,13 @@ public:
             output.write(utf8FromUtf16(_snippet->codeSnippetWithColorSpec(color.spec())));
             output.write('\n');
         } else if (_commandLine.json) {
-            _form.namer = _namer.get();
+            completeForm();
             output.write(jsonReportOf(color, _form));
             output.write('\n');
         } else if (isLine) {
             writeLine(output, color);
         } else {
-            _form.namer = _namer.get();
+            completeForm();
             if (_hasWritten) output.write('\n');
             output.write(reportOf(color, _form));
         }
@@ -94,6 +82,12 @@ public:
     }
 
 private:
+    /// Adds to the form what a report has and a line need not have.
+    void completeForm()
+    {
+        _form.namer = _namer.get();
+        _form.snippets = _session.snippets().users();
+    }
     void writeLine(Output& output, const ByteColor& color)
     {
         if (!_commandLine.listName) _form.namer = nullptr;
@@ -106,6 +100,7 @@ private:
         output.write('\n');
     }
 
+    Session& _session;
     const CommandLine& _commandLine;
     LazyNamer _namer;
     ReportForm _form;
@@ -113,65 +108,77 @@ private:
     bool _hasWritten = false;
 };
 
+using FindNames = std::function<PaletteNameMatch(const QTXHexColorSpec&)>;
+
 class NameWriter final : public ColorWriter {
 public:
-    NameWriter(const ColorNamer& namer, bool json, ColorTextReader& reader)
-        : ColorWriter(reader), _namer(namer), _json(json)
+    NameWriter(std::u16string listName, FindNames findNames, bool json, ColorTextReader& reader)
+        : ColorWriter(reader),
+          _listName(std::move(listName)),
+          _findNames(std::move(findNames)),
+          _json(json)
     {
     }
 
     void write(Output& output, const ByteColor& color, bool) override
     {
-        const ColorNameMatch match = _namer.match(color.spec());
-        const auto cssName =
-            match.exactPlace ? std::nullopt : cssNameOfColor(color.spec().javaRGBInt());
+        const QTXHexColorSpec spec = color.spec();
+        const PaletteNameMatch match = _findNames(spec);
+        const auto cssName = match.exact ? std::nullopt : cssNameOfColor(spec.javaRGBInt());
         std::string line;
-        if (cssName) {
-            writeCSSName(line, utf8FromUtf16(*cssName));
-        } else if (_json) {
-            appendJsonName(line, _namer, match);
+        if (_json) {
+            if (cssName) {
+                appendJsonName(line, std::u16string(cssColor4ListName),
+                               {std::u16string(*cssName), {}});
+            } else {
+                appendJsonName(line, _listName, match);
+            }
+        } else if (cssName) {
+            line = utf8FromUtf16(*cssName) + " (" + utf8FromUtf16(cssColor4ListName) + ")";
         } else {
-            line = harmlessLine(utf8FromUtf16(_namer.title(match)));
+            line = harmlessLine(utf8FromUtf16(titleOf(match)));
         }
         output.write(line);
         output.write('\n');
     }
 
 private:
-    void writeCSSName(std::string& line, const std::string& name) const
-    {
-        const std::string list = utf8FromUtf16(cssColor4ListName);
-        if (!_json) {
-            line = name + " (" + list + ")";
-            return;
-        }
-        line = "{";
-        appendJsonKey(line, "list");
-        appendJson(line, std::string_view(list));
-        appendJsonKey(line, "exact");
-        appendJson(line, std::string_view(name));
-        appendJsonKey(line, "close");
-        line += "[]}";
-    }
-
-    const ColorNamer& _namer;
+    std::u16string _listName;
+    FindNames _findNames;
     bool _json;
 };
+
+/// Names a few colours of the arguments by the file of the list, without making a list of it.
+/// Returns `std::nullopt`, without any effect, if that is not possible.
+std::optional<int> nameByFile(Session& session, const CommandLine& commandLine)
+{
+    constexpr std::size_t few = 3;
+    const auto& texts = commandLine.operands;
+    const auto name = commandLine.listName ? std::optional(utf16FromUtf8(*commandLine.listName))
+                                           : session.settings().hexColorList();
+    if (!name || texts.empty() || texts.size() > few) return std::nullopt;
+    std::optional<std::string> file;
+    std::vector<PaletteNameMatch> matches;
+    for (const std::string& text : texts) {
+        const auto color = readPlainHex(text);
+        if (!color) return std::nullopt;
+        if (!file) file = session.lists().fileOfList(*name);
+        auto match = file ? namesInPalette(*file, color->spec()) : std::nullopt;
+        if (!match) return std::nullopt;
+        matches.push_back(std::move(*match));
+    }
+    ColorTextReader reader([] { return nullptr; });
+    auto next = matches.begin();
+    const auto findNames = [&](const QTXHexColorSpec&) { return std::move(*next++); };
+    NameWriter writer(*name, findNames, commandLine.json, reader);
+    return useColorTexts(texts, writer, session.output()) ? 0 : failureStatus;
+}
 
 ByteColor requiredColor(ColorTextReader& reader, const std::string& text)
 {
     const Result<ByteColor> color = reader.read(text);
     if (!color) throw Failure{color.error()};
     return *color;
-}
-
-/// Formats a ratio with two decimals, truncated, because a ratio that only rounds to a limit does
-/// not reach it.
-std::string ratioText(double ratio)
-{
-    const auto hundredths = static_cast<int>(std::floor(ratio * 100 + 1e-9));
-    const std::string digits = std::to_string(hundredths % 100);
-    return std::to_string(hundredths / 100) + "." + (digits.size() < 2 ? "0" : "") + digits;
 }
 
 }  // namespace
@@ -186,38 +193,16 @@ int showColors(Session& session, const CommandLine& commandLine)
 
 int nameColors(Session& session, const CommandLine& commandLine)
 {
+    if (const auto status = nameByFile(session, commandLine)) return *status;
     auto list = session.requiredNamingList(commandLine);
-    ColorTextReader reader([&] { return list; });
+    ColorTextReader reader([&] { return list; }, CSSTheme::unknown,
+                           [&] { return &session.snippetReaders(); });
     const ColorNamer namer(list);
-    NameWriter writer(namer, commandLine.json, reader);
+    NameWriter writer(
+        list->name(), [&](const QTXHexColorSpec& color) { return namer.names(color); },
+        commandLine.json, reader);
     const bool areAllColors = useColorTexts(commandLine.operands, writer, session.output());
     return areAllColors ? 0 : failureStatus;
-}
-
-int printSnippets(Session& session, const CommandLine& commandLine)
-{
-    for (const QTXCodeSnippet& snippet : session.settings().codeSnippets()) {
-        const std::string name = utf8FromUtf16(snippet.nameSnippet().value_or(u""));
-        const std::string format = utf8FromUtf16(snippet.formatStringSnippet().value_or(u""));
-        const std::string variables = utf8FromUtf16(snippet.varFormSnippet().value_or(u""));
-        std::string line;
-        if (commandLine.names) {
-            line = harmlessLine(name);
-        } else if (commandLine.json) {
-            line = "{";
-            for (const auto& [key, value] :
-                 {std::pair{"name", name}, {"format", format}, {"variables", variables}}) {
-                appendJsonKey(line, key);
-                appendJson(line, std::string_view(value));
-            }
-            line += '}';
-        } else {
-            line =
-                harmlessLine(name) + '\t' + harmlessLine(variables) + '\t' + harmlessLine(format);
-        }
-        session.output().write(line + '\n');
-    }
-    return 0;
 }
 
 int printContrast(Session& session, const CommandLine& commandLine)
@@ -249,8 +234,10 @@ int printContrast(Session& session, const CommandLine& commandLine)
     return 0;
 }
 
-int pickColor(Session&, const CommandLine& commandLine)
+int pickColor(Session& session, const CommandLine& commandLine)
 {
+    if (const auto status = pickWithRunningPanel(session.output(), commandLine.copy))
+        return *status;
     becomePanel({commandLine.copy ? "--pick-and-copy" : "--pick"});
 }
 
@@ -266,6 +253,7 @@ int chooseColor(Session& session, const CommandLine& commandLine)
 
 int startPanel(Session&, const CommandLine& commandLine)
 {
+    if (showRunningPanel(commandLine.operands)) return 0;
     becomePanel(commandLine.operands);
 }
 

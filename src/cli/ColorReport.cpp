@@ -106,6 +106,13 @@ std::string hexTextOf(const ByteColor& color, const ReportForm& form)
     return text;
 }
 
+std::string ratioText(double ratio)
+{
+    const auto hundredths = static_cast<int>(std::floor(ratio * 100 + 1e-9));
+    const std::string digits = std::to_string(hundredths % 100);
+    return std::to_string(hundredths / 100) + "." + (digits.size() < 2 ? "0" : "") + digits;
+}
+
 std::string reportOf(const ByteColor& color, const ReportForm& form)
 {
     const QTXHexColorSpec spec = color.spec();
@@ -134,23 +141,23 @@ std::string reportOf(const ByteColor& color, const ReportForm& form)
     return report;
 }
 
-void appendJsonName(std::string& json, const ColorNamer& namer, const ColorNameMatch& match)
+void appendJsonName(std::string& json, const std::u16string& listName,
+                    const PaletteNameMatch& match)
 {
-    const auto& keys = namer.list().allKeys();
     json += '{';
     appendJsonKey(json, "list");
-    appendJson(json, namer.list().name());
+    appendJson(json, listName);
     appendJsonKey(json, "exact");
-    if (match.exactPlace) {
-        appendJson(json, keys[*match.exactPlace]);
+    if (match.exact) {
+        appendJson(json, *match.exact);
     } else {
         json += "null";
     }
     appendJsonKey(json, "close");
     json += '[';
-    for (const std::size_t place : match.closePlaces) {
+    for (const std::u16string& name : match.close) {
         if (!json.ends_with('[')) json += ',';
-        appendJson(json, keys[place]);
+        appendJson(json, name);
     }
     json += "]}";
 }
@@ -188,7 +195,8 @@ std::string jsonReportOf(const ByteColor& color, const ReportForm& form)
     }
     json += '}';
     raw("name", form.namer == nullptr ? "null" : "");
-    if (form.namer != nullptr) appendJsonName(json, *form.namer, form.namer->match(spec));
+    if (form.namer != nullptr)
+        appendJsonName(json, form.namer->list().name(), form.namer->names(spec));
     raw("snippets", "[");
     for (const QTXCodeSnippet& snippet : form.snippets) {
         json += json.ends_with('[') ? "{" : ",{";

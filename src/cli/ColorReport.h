@@ -5,8 +5,8 @@
 #include "colortext/ByteColor.h"
 #include "snippets/QTXCodeSnippet.h"
 
+#include <span>
 #include <string>
-#include <vector>
 
 namespace vantorel {
 
@@ -16,12 +16,17 @@ struct ReportForm {
     bool poundSign = true;
     /// Names the colour; null for a report without a name. Not owned.
     const ColorNamer* namer = nullptr;
-    std::vector<QTXCodeSnippet> snippets;
+    /// Not owned.
+    std::span<const QTXCodeSnippet> snippets;
     bool swatches = false;
 };
 
 /// Returns a hex code such as "#FF8000", with two more digits if the alpha is not opaque in 8 bits.
 [[nodiscard]] std::string hexTextOf(const ByteColor& color, const ReportForm& form);
+
+/// Formats a contrast ratio with two decimals, truncated, because a ratio that only rounds to a
+/// limit does not reach it.
+[[nodiscard]] std::string ratioText(double ratio);
 
 /// Returns the report of a colour as several lines of text.
 [[nodiscard]] std::string reportOf(const ByteColor& color, const ReportForm& form);
@@ -29,7 +34,8 @@ struct ReportForm {
 [[nodiscard]] std::string jsonReportOf(const ByteColor& color, const ReportForm& form);
 
 /// Appends the name of a colour as a JSON object.
-void appendJsonName(std::string& json, const ColorNamer& namer, const ColorNameMatch& match);
+void appendJsonName(std::string& json, const std::u16string& listName,
+                    const PaletteNameMatch& match);
 
 /// Returns the line for a colour of a stream: the hex code, a tab and the rgb() text, followed by a
 /// tab and the name if the form has a namer. The line feed is not included.

@@ -32,6 +32,7 @@ CommandLine::CommandLine(GivenArguments given)
       number(given.value("--number")),
       kind(given.value("--kind")),
       sortedBy(given.value("--by")),
+      failOn(given.value("--fail-on")),
       lowercase(eitherOf(given, "--lowercase", "--uppercase")),
       poundSign(eitherOf(given, "--pound-sign", "--no-pound-sign")),
       reversed(given.has("--reverse")),

@@ -31,6 +31,7 @@ struct CommandLine {
     std::optional<std::string> number;
     std::optional<std::string> kind;
     std::optional<std::string> sortedBy;
+    std::optional<std::string> failOn;
     std::optional<bool> lowercase;
     std::optional<bool> poundSign;
     bool reversed = false;

@@ -6,6 +6,7 @@
 #include "cli/UserLists.h"
 #include "colortext/ColorTextReader.h"
 #include "hosts/posix/PosixFiles.h"
+#include "settings/KnownSnippets.h"
 #include "settings/QTXHexSettings.h"
 
 #include <memory>
@@ -31,6 +32,9 @@ public:
     [[nodiscard]] PosixFiles& files() { return _files; }
     /// Returns the user's settings, or the default ones if there are none.
     [[nodiscard]] const QTXHexSettings& settings();
+    /// Returns all snippets. What is wrong in the user's file is reported when they are first read.
+    [[nodiscard]] KnownSnippets& snippets();
+    [[nodiscard]] const SnippetReaders& snippetReaders();
     [[nodiscard]] UserLists& lists() { return _lists; }
     /// Returns the list that `--list` names, which must exist. Without that option, returns the
     /// list in the settings, or null if there is none.
@@ -43,13 +47,15 @@ private:
     ReadOnlyFiles _readOnlyFiles{_files};
     UserLists _lists{_readOnlyFiles};
     std::optional<QTXHexSettings> _settings;
+    std::optional<KnownSnippets> _snippets;
+    std::optional<SnippetReaders> _snippetReaders;
     Output _output;
     bool _reportsUnreadable = false;
     bool _hasReportedUnreadable = false;
 };
 
-/// Returns a reader of colours, which may be names of the naming list. It may use both arguments
-/// later.
+/// Returns a reader of colours, which may be names of the naming list and lines of snippets. It may
+/// use both arguments later.
 [[nodiscard]] ColorTextReader colorTextReader(Session& session, const CommandLine& commandLine);
 
 // Each carries out a command and returns the exit status, or throws a `Failure`.
@@ -73,6 +79,7 @@ int simulateVision(Session& session, const CommandLine& commandLine);
 int nameColors(Session& session, const CommandLine& commandLine);
 int printSnippets(Session& session, const CommandLine& commandLine);
 int printContrast(Session& session, const CommandLine& commandLine);
+int checkStyleSheets(Session& session, const CommandLine& commandLine);
 
 int printLists(Session& session, const CommandLine& commandLine);
 int printList(Session& session, const CommandLine& commandLine);
@@ -80,14 +87,17 @@ int importLists(Session& session, const CommandLine& commandLine);
 int exportList(Session& session, const CommandLine& commandLine);
 int publishList(Session& session, const CommandLine& commandLine);
 
+int serveEditor(Session& session, const CommandLine& commandLine);
+
 int switchDialogs(Session& session, const CommandLine& commandLine);
 
 int drawWheel(Session& session, const CommandLine& commandLine);
 int drawPalette(Session& session, const CommandLine& commandLine);
 
-// These replace the process by the panel. They do not return, and throw a `Failure` if that fails.
-[[noreturn]] int pickColor(Session& session, const CommandLine& commandLine);
+// These operate the running panel, or replace the process by the panel's program; they throw a
+// `Failure` if that fails.
+int pickColor(Session& session, const CommandLine& commandLine);
 [[noreturn]] int chooseColor(Session& session, const CommandLine& commandLine);
-[[noreturn]] int startPanel(Session& session, const CommandLine& commandLine);
+int startPanel(Session& session, const CommandLine& commandLine);
 
 }  // namespace vantorel

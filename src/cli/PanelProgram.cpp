@@ -1,8 +1,11 @@
 #include "cli/PanelProgram.h"
 
 #include "cli/Failure.h"
+#include "hosts/posix/SystemCalls.h"
 #include "result/HarmlessLine.h"
 
+#include <fcntl.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -53,6 +56,26 @@ std::string pathOfPanel()
     return {};
 }
 
+/// The arguments of a program as the system takes them. The first is its path.
+class ProgramArguments {
+public:
+    ProgramArguments(const std::string& path, const std::vector<std::string>& arguments)
+        : _words{path}
+    {
+        _words.insert(_words.end(), arguments.begin(), arguments.end());
+        _pointers.reserve(_words.size() + 1);
+        for (std::string& word : _words)
+            _pointers.push_back(word.data());
+        _pointers.push_back(nullptr);
+    }
+
+    [[nodiscard]] char* const* pointers() const { return _pointers.data(); }
+
+private:
+    std::vector<std::string> _words;
+    std::vector<char*> _pointers;
+};
+
 }  // namespace
 
 void becomePanel(const std::vector<std::string>& arguments)
@@ -62,16 +85,31 @@ void becomePanel(const std::vector<std::string>& arguments)
         throw Failure{{phrase("the program vantorel-panel is missing"),
                        phrase("install it beside vantorel or in a folder of PATH")}};
     }
-    std::vector<std::string> words{path};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers;
-    pointers.reserve(words.size() + 1);
-    for (std::string& word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    ::execv(path.c_str(), pointers.data());
+    ProgramArguments words(path, arguments);
+    ::execv(path.c_str(), words.pointers());
     throw Failure{{phrase("\"%1\" cannot be run (%2)", excerpt(path), std::strerror(errno)),
                    phrase("reinstall vantorel-panel")}};
+}
+
+std::optional<PanelProcess> startPanelProgram(const std::vector<std::string>& arguments)
+{
+    const std::string path = pathOfPanel();
+    std::array<int, 2> ends{};
+    if (path.empty() || ::pipe2(ends.data(), O_CLOEXEC) != 0) return std::nullopt;
+    const Descriptor writing(ends[1]);
+    const ProgramArguments words(path, arguments);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    // Our own input and output belong to somebody else.
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, writing.value(), STDOUT_FILENO);
+    PanelProcess panel{0, ends[0]};
+    const int error =
+        posix_spawn(&panel.process, path.c_str(), &actions, nullptr, words.pointers(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error == 0) return panel;
+    ::close(ends[0]);
+    return std::nullopt;
 }
 
 }  // namespace vantorel

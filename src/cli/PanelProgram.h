@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,5 +10,14 @@ namespace vantorel {
 /// status go to the caller. The program is searched for in this program's folder, then in PATH.
 /// Does not return. Throws a `Failure` if the program is missing or cannot be run.
 [[noreturn]] void becomePanel(const std::vector<std::string>& arguments);
+
+/// Starts `vantorel-panel` with the given arguments as a child. Returns its process and the
+/// descriptor of its standard output; `std::nullopt` if the program is missing or cannot be run.
+struct PanelProcess {
+    int process = 0;
+    int output = -1;
+};
+[[nodiscard]] std::optional<PanelProcess> startPanelProgram(
+    const std::vector<std::string>& arguments);
 
 }  // namespace vantorel

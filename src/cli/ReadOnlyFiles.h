@@ -53,6 +53,11 @@ public:
     {
         return _files.contentsAtPath(path);
     }
+    [[nodiscard]] std::optional<HostFileHead> headAtPath(const std::string& path,
+                                                         std::size_t count) const override
+    {
+        return _files.headAtPath(path, count);
+    }
     bool writeAtomically(const std::string&, const std::string&) override { return false; }
     HostFileCreation createAtomically(const std::string&, const std::string&) override
     {

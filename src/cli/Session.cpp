@@ -32,6 +32,23 @@ const QTXHexSettings& Session::settings()
     return *_settings;
 }
 
+KnownSnippets& Session::snippets()
+{
+    if (!_snippets) {
+        _snippets.emplace(_readOnlyFiles, settings().codeSnippets());
+        if (!_snippets->problems().empty()) _output.flush();
+        for (const Message& problem : _snippets->problems())
+            reportError(problem);
+    }
+    return *_snippets;
+}
+
+const SnippetReaders& Session::snippetReaders()
+{
+    if (!_snippetReaders) _snippetReaders.emplace(snippets().all());
+    return *_snippetReaders;
+}
+
 std::shared_ptr<HostColorList> Session::namingList(const CommandLine& commandLine)
 {
     if (commandLine.listName) return _lists.requiredList(*commandLine.listName);
@@ -54,7 +71,8 @@ ColorTextReader colorTextReader(Session& session, const CommandLine& commandLine
 {
     auto theme = CSSTheme::unknown;
     if (commandLine.theme) theme = commandLine.theme == "dark" ? CSSTheme::dark : CSSTheme::light;
-    return ColorTextReader([&] { return session.namingList(commandLine); }, theme);
+    return ColorTextReader([&] { return session.namingList(commandLine); }, theme,
+                           [&] { return &session.snippetReaders(); });
 }
 
 }  // namespace vantorel

@@ -9,12 +9,13 @@ namespace vantorel {
 
 [[nodiscard]] bool isTerminal(int descriptor);
 
-/// Whether standard output is a terminal that supports true colour, according to COLORTERM, and the
-/// user has not turned colours off by NO_COLOR (https://no-color.org).
+/// Whether standard output is a terminal that shows true colour, according to COLORTERM, or 256
+/// colours, according to TERM, and the user has not turned colours off by NO_COLOR
+/// (https://no-color.org).
 [[nodiscard]] bool showsSwatches();
 
-/// Returns a patch of a colour, followed by a space, as escape sequences for a true-colour
-/// terminal. A translucent colour is composed over white.
+/// Returns a patch of a colour, followed by a space, as escape sequences: in true colour, or with
+/// the nearest of 256 colours. A translucent colour is composed over white.
 [[nodiscard]] std::string swatchOf(const ByteColor& color);
 
 /// Asks a question on the terminal. Returns true only for the answers "y", "Y" and "yes" and for

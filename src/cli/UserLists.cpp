@@ -109,14 +109,31 @@ std::vector<UserLists::Entry> UserLists::all()
     return lists;
 }
 
-std::u16string ColorNamer::title(const ColorNameMatch& match) const
+std::optional<std::string> UserLists::fileOfList(const std::u16string& name)
 {
-    if (match.exactPlace) return _list->allKeys()[*match.exactPlace];
-    std::vector<std::u16string> keys;
-    keys.reserve(match.closePlaces.size());
+    const auto path = _store.pathOfOwnList(name);
+    return path ? _files.contentsAtPath(*path) : std::nullopt;
+}
+
+std::u16string titleOf(const PaletteNameMatch& match)
+{
+    return match.exact ? *match.exact : closeTitle(match.close);
+}
+
+PaletteNameMatch ColorNamer::names(const ColorNameMatch& match) const
+{
+    const auto& keys = _list->allKeys();
+    PaletteNameMatch names;
+    if (match.exactPlace) names.exact = keys[*match.exactPlace];
+    names.close.reserve(match.closePlaces.size());
     for (const std::size_t place : match.closePlaces)
-        keys.push_back(_list->allKeys()[place]);
-    return closeTitle(keys);
+        names.close.push_back(keys[place]);
+    return names;
+}
+
+PaletteNameMatch ColorNamer::names(const QTXHexColorSpec& color) const
+{
+    return names(match(color));
 }
 
 }  // namespace vantorel

@@ -58,6 +58,8 @@ constexpr std::pair<std::string_view, Function> functions[] = {
     {"list publish", publishList},
     {"snippets", printSnippets},
     {"contrast", printContrast},
+    {"sheet", checkStyleSheets},
+    {"lsp", serveEditor},
     {"wheel", drawWheel},
     {"palette", drawPalette},
     {"pick", pickColor},

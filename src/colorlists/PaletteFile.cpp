@@ -91,6 +91,27 @@ std::u16string rowName(std::string_view rest)
     return decoded(trimmed(rest));
 }
 
+/// Reads the head of a file whose lines are complete.
+PaletteHead headIn(std::string_view bytes, const std::u16string& fallbackName)
+{
+    Lines lines(bytes);
+    if (!readHead(lines)) return {true, std::nullopt};
+    std::string_view line;
+    while (lines.next(line)) {
+        const std::string_view content = trimmed(line);
+        if (content.starts_with(nameField)) {
+            // One space after the colon belongs to the field. The rest is the name, taken
+            // literally.
+            std::string_view name = line.substr(line.find(nameField) + nameField.size());
+            if (name.starts_with(' ')) name.remove_prefix(1);
+            if (!trimmed(name).empty()) return {true, decoded(name)};
+        }
+        // The head ends at the first row.
+        if (!content.empty() && isDigit(content.front())) return {true, fallbackName};
+    }
+    return {false, fallbackName};
+}
+
 std::string harmless(const std::u16string& name)
 {
     return utf8FromUtf16(withoutControls(name));
@@ -178,22 +199,15 @@ std::optional<PaletteReading> readPalette(std::string_view bytes,
 std::optional<std::u16string> paletteName(std::string_view bytes,
                                           const std::u16string& fallbackName)
 {
-    Lines lines(bytes);
-    if (!readHead(lines)) return std::nullopt;
-    std::string_view line;
-    while (lines.next(line)) {
-        const std::string_view content = trimmed(line);
-        if (content.starts_with(nameField)) {
-            // One space after the colon belongs to the field. The rest is the name, taken
-            // literally.
-            std::string_view name = line.substr(line.find(nameField) + nameField.size());
-            if (name.starts_with(' ')) name.remove_prefix(1);
-            if (!trimmed(name).empty()) return decoded(name);
-        }
-        // The head ends at the first row.
-        if (!content.empty() && isDigit(content.front())) break;
-    }
-    return fallbackName;
+    return headIn(bytes, fallbackName).name;
+}
+
+PaletteHead paletteHead(std::string_view beginning, const std::u16string& fallbackName)
+{
+    // The last line may be incomplete.
+    const std::size_t end = beginning.find_last_of("\r\n");
+    if (end == std::string_view::npos) return {};
+    return headIn(beginning.substr(0, end), fallbackName);
 }
 
 std::string paletteText(const HostColorList& list)

@@ -60,6 +60,16 @@ private:
 [[nodiscard]] std::optional<std::u16string> paletteName(std::string_view bytes,
                                                         const std::u16string& fallbackName);
 
+struct PaletteHead {
+    /// False if the name can depend on what follows.
+    bool isDecided = false;
+    /// As `paletteName` returns it.
+    std::optional<std::u16string> name = {};
+};
+/// Returns the name in the beginning of a file.
+[[nodiscard]] PaletteHead paletteHead(std::string_view beginning,
+                                      const std::u16string& fallbackName);
+
 /// Writes a list in the strict form of the GIMP format, in UTF-8, which every program can read.
 /// Channels are rounded to bytes, alpha is dropped, patterns become black, and control characters
 /// in names become spaces.

@@ -12,6 +12,8 @@ namespace vantorel {
 namespace {
 
 constexpr std::string_view gplEnding = ".gpl";
+/// Names are in the first lines, unless a comment precedes them.
+constexpr std::size_t usualHead = 512;
 constexpr std::array endings{gplEnding, std::string_view(".colors")};
 
 bool endsIn(std::string_view fileName, std::string_view ending)
@@ -48,32 +50,38 @@ bool PaletteFolder::hasChanged() const
     return _hostFiles.versionAtPath(_path) != _version;
 }
 
-std::optional<std::u16string> PaletteFolder::listNameIn(const std::string& bytes,
-                                                        const std::string& fileName) const
+std::optional<std::u16string> PaletteFolder::listName(std::optional<std::u16string> nameInFile,
+                                                      const std::string& fileName) const
 {
-    const std::u16string fallback = fallbackListName(fileName);
-    auto name = paletteName(bytes, fallback);
-    if (!name || _owner == Owner::ourselves) return name;
-    name = tidied(*name);
-    return name->empty() ? fallback : name;
+    if (!nameInFile || _owner == Owner::ourselves) return nameInFile;
+    std::u16string name = tidied(std::move(*nameInFile));
+    return name.empty() ? fallbackListName(fileName) : name;
 }
 
 void PaletteFolder::refresh(const std::string& fileName, File& file)
 {
     const std::string path = pathOfFile(fileName);
-    const std::uint64_t version = _hostFiles.versionAtPath(path);
-    if (version == file.version) return;
+    if (file.version != 0 && _hostFiles.versionAtPath(path) == file.version) return;
     file = {};
-    file.version = version;
-    const auto bytes = _hostFiles.contentsAtPath(path);
+    const auto head = _hostFiles.headAtPath(path, usualHead);
     // Version 0 makes the next refresh try again: a read error may go away without any change on
     // the disk.
-    if (!bytes) file.version = 0;
-    auto name = bytes ? listNameIn(*bytes, fileName) : std::nullopt;
+    if (!head) return;
+    file.version = head->version;
+    const std::u16string fallback = fallbackListName(fileName);
+    PaletteHead found = head->isWholeFile ? PaletteHead{} : paletteHead(head->bytes, fallback);
+    if (head->isWholeFile) {
+        found.name = paletteName(head->bytes, fallback);
+    } else if (!found.isDecided) {
+        const auto bytes = _hostFiles.contentsAtPath(path);
+        found.name = bytes ? paletteName(*bytes, fallback) : std::nullopt;
+        if (!bytes) file.version = 0;
+    }
+    auto name = listName(std::move(found.name), fileName);
     if (!name) return;
     file.isPalette = true;
     file.listName = std::move(*name);
-    file.identity = _hostFiles.identityAtPath(path);
+    file.identity = head->identity;
 }
 
 void PaletteFolder::lookAgain()
@@ -128,7 +136,7 @@ void PaletteFolder::load(const std::string& fileName, File& file)
     const auto bytes = _hostFiles.contentsAtPath(pathOfFile(fileName));
     auto reading = bytes ? readPalette(*bytes, fallbackListName(fileName)) : std::nullopt;
     // The file has changed since it was refreshed. The next refresh will notice.
-    if (!reading || listNameIn(*bytes, fileName) != file.listName) return;
+    if (!reading || listName(reading->list->name(), fileName) != file.listName) return;
     file.list = reading->list;
     if (!_log) return;
     const std::string prefix =

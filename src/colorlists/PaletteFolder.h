@@ -73,8 +73,9 @@ public:
     [[nodiscard]] static std::u16string fallbackListName(const std::string& fileName);
 
 private:
-    [[nodiscard]] std::optional<std::u16string> listNameIn(const std::string& bytes,
-                                                           const std::string& fileName) const;
+    /// Returns the name that the list of a file gets.
+    [[nodiscard]] std::optional<std::u16string> listName(std::optional<std::u16string> nameInFile,
+                                                         const std::string& fileName) const;
     void refresh(const std::string& fileName, File& file);
     void load(const std::string& fileName, File& file);
 

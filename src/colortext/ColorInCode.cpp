@@ -117,6 +117,17 @@ std::optional<HostColor> colorOfOneNumber(const Number& number)
 
 }  // namespace
 
+CSSColor cssColorOf(const HostColor& color)
+{
+    CSSColor result;
+    result.color = color;
+    if (const auto rgb = color.calibratedRGB()) {
+        result.value.components = {rgb->red, rgb->green, rgb->blue};
+        result.value.alpha = rgb->alpha;
+    }
+    return result;
+}
+
 std::optional<HostColor> colorInCode(std::u16string_view line)
 {
     if (line.find_first_of(u"([{") == std::u16string_view::npos) return std::nullopt;
@@ -150,12 +161,31 @@ std::u16string_view declaredValue(std::u16string_view text)
     return isName ? text.substr(colon + 1) : text;
 }
 
-Result<CSSColor> colorInText(std::u16string_view text)
+std::optional<HostColor> colorInSnippets(std::u16string_view text, const SnippetReaders& snippets)
+{
+    if (const auto line = snippets.matchOf(text)) return line->color;
+    if (startsCSSColorFunction(text)) return std::nullopt;
+    std::optional<HostColor> color;
+    for (const SnippetMatch& match : snippets.matchesIn(text)) {
+        if (color && *color != match.color) return std::nullopt;
+        color = match.color;
+    }
+    return color;
+}
+
+const SnippetReaders& builtInSnippetReaders()
+{
+    static const SnippetReaders readers(QTXCodeSnippet::buildDefaultCodeSnippets());
+    return readers;
+}
+
+Result<CSSColor> colorInText(std::u16string_view text, const SnippetReaders& snippets)
 {
     Result<CSSColor> css = readCSSColor(text);
     if (css) return css;
     if (auto declared = readCSSColor(declaredValue(text))) return declared;
-    if (const auto color = colorInCode(text)) return CSSColor{.color = *color};
+    if (const auto color = colorInSnippets(text, snippets)) return cssColorOf(*color);
+    if (const auto color = colorInCode(text)) return cssColorOf(*color);
     return css.error();
 }
 

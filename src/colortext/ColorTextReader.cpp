@@ -2,6 +2,7 @@
 
 #include "color/ColorTexts.h"
 #include "color/RgbTriple.h"
+#include "colortext/ColorInCode.h"
 #include "csscolor/CSSNamedColors.h"
 #include "text/Trimming.h"
 #include "text/Unicode.h"
@@ -34,13 +35,13 @@ std::optional<ByteColor> colorOfCSSName(std::string_view text)
 std::optional<ByteColor> readShortHex(std::string_view digits)
 {
     if (digits.size() != 3) return std::nullopt;
-    const std::array values{hexDigitValue(digits[0]), hexDigitValue(digits[1]),
-                            hexDigitValue(digits[2])};
-    if ((values[0] | values[1] | values[2]) > 15) return std::nullopt;
-    const auto doubled = [&](std::size_t place) {
-        return static_cast<std::uint8_t>(values[place] * 17);
-    };
-    return ByteColor{doubled(0), doubled(1), doubled(2)};
+    std::array<std::uint8_t, 3> doubled{};
+    for (std::size_t i = 0; i < doubled.size(); ++i) {
+        const auto value = hexDigitValue(digits[i]);
+        if (value > 15) return std::nullopt;
+        doubled[i] = static_cast<std::uint8_t>(value * 17);
+    }
+    return ByteColor{doubled[0], doubled[1], doubled[2]};
 }
 
 Result<ByteColor> ColorTextReader::read(std::string_view utf8)
@@ -61,13 +62,7 @@ Result<CSSColor> ColorTextReader::readUnrounded(std::string_view utf8)
     if (css) return css;
     const auto other = readOtherForm(text);
     if (!other) return std::move(css).error();
-    CSSColor color;
-    color.color = *other;
-    if (const auto rgb = other->calibratedRGB()) {
-        color.value.components = {rgb->red, rgb->green, rgb->blue};
-        color.value.alpha = rgb->alpha;
-    }
-    return color;
+    return cssColorOf(*other);
 }
 
 std::optional<HostColor> ColorTextReader::readOtherForm(std::u16string_view text)
@@ -80,6 +75,9 @@ std::optional<HostColor> ColorTextReader::readOtherForm(std::u16string_view text
     }
     // Names are looked up before triples, because a name can contain anything.
     if (auto named = colorInList(name)) return named;
+    if (const SnippetReaders* snippets = _findSnippets ? _findSnippets() : nullptr) {
+        if (const auto color = colorInSnippets(text, *snippets)) return color;
+    }
     if (startsCSSColorFunction(name)) return std::nullopt;
     const auto triple = readRgbTriple(text);
     if (!triple.components) return std::nullopt;

@@ -4,6 +4,7 @@
 #include "csscolor/CSSColorReader.h"
 #include "host/HostColorList.h"
 #include "result/Result.h"
+#include "snippets/SnippetReaders.h"
 #include "text/HexDigits.h"
 
 #include <cstdint>
@@ -16,16 +17,21 @@
 namespace vantorel {
 
 /// Reads colours that a user types: hex codes, all forms of CSS, the texts that the picker's fields
-/// accept, and names of a colour list. What begins as a function of CSS must be whole and right:
-/// the picker's fields guess what "rgb(1 2 3 4)" means, but a program must be told.
+/// accept, names of a colour list, and lines of snippets. What begins as a function of CSS must be
+/// whole and right: the picker's fields guess what "rgb(1 2 3 4)" means, but a program must be
+/// told.
 class ColorTextReader {
 public:
     using FindList = std::function<std::shared_ptr<HostColorList>()>;
 
+    using FindSnippets = std::function<const SnippetReaders*()>;
+
     /// `findList` returns the list whose names are accepted, or null. It is called at most once,
-    /// when a text has none of the other forms.
-    explicit ColorTextReader(FindList findList, CSSTheme theme = CSSTheme::unknown)
-        : _findList(std::move(findList)), _theme(theme)
+    /// when a text has none of the other forms. `findSnippets` returns the snippets whose lines are
+    /// accepted, or null; it is called for each text that is not CSS, a hex code or a name.
+    explicit ColorTextReader(FindList findList, CSSTheme theme = CSSTheme::unknown,
+                             FindSnippets findSnippets = {})
+        : _findList(std::move(findList)), _theme(theme), _findSnippets(std::move(findSnippets))
     {
     }
 
@@ -41,6 +47,7 @@ private:
 
     FindList _findList;
     CSSTheme _theme;
+    FindSnippets _findSnippets;
     bool _hasList = false;
     std::shared_ptr<HostColorList> _list;
 };

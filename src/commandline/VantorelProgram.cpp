@@ -118,6 +118,33 @@ constexpr CommandRow listCommands[] = {
 constexpr OperandRow contrastOperands[] = {
     {"COLOR", "The foreground colour, then the background colour.", 2, 2}};
 
+std::vector<Choice> findings()
+{
+    return {{"any", {}}, {"contrast", {}}, {"doubles", {}}, {"never", {}}};
+}
+constexpr OperandRow sheetOperands[] = {
+    {"FILE", "A style sheet, or another document with colours; \"-\" is standard input.", 1}};
+constexpr OptionRow sheetOptions[] = {
+    {"--json", {}, "Write JSON."},
+    {.name = "--fail-on",
+     .value = "WHAT",
+     .text = "When to exit with status 1: contrast, for a contrast below AA; doubles, for near "
+             "doubles; any of them (the default); or never.",
+     .choices = findings},
+    {.name = "--list",
+     .value = "NAME",
+     .text = "Take the names from this list instead of the list in the settings.",
+     .valuesFrom = listNames},
+    {.name = "--svg",
+     .value = "FILE",
+     .text = "Also draw the colours as SVG to FILE; \"-\" is standard output.",
+     .excludes = "--png"},
+    {"--png", "FILE", "Also draw the colours as PNG to FILE; \"-\" is standard output."},
+    sizeOption,
+};
+
+constexpr OptionRow lspOptions[] = {{"--stdio", {}, "Has no effect: some editors add it."}};
+
 constexpr OptionRow wheelOptions[] = {
     {"--rings", "N", "Number of rings, 2 to 128. The default is the number in the settings."},
     {"--svg", "FILE", "Write SVG to FILE; \"-\" is standard output.", true},
@@ -162,7 +189,7 @@ constexpr OptionRow manualOptions[] = {{"--panel", {}, "Print the manual page of
 
 constexpr CommandRow vantorelCommands[] = {
     {"show",
-     "Show a colour in every form, with its name and snippets.\n"
+     "Show a colour in every form, with its name and your snippets.\n"
      "Colours on standard input are read one per line. For each, one line is written: the hex "
      "code, a tab and the rgb() text; --list adds a tab and the name. Empty lines are skipped. A "
      "line that is not a colour is reported on standard error, and the following lines are still "
@@ -222,11 +249,31 @@ constexpr CommandRow vantorelCommands[] = {
      namesOptions},
     {"list", "List the colours of a list, or import, export or publish a list.", listOperands,
      jsonOption, listCommands},
-    {"snippets", "List the snippets in the settings with their formats.", {}, namesOptions},
+    {"snippets",
+     "List the snippets with their formats.\n"
+     "Those of the settings come first, then those of your own file, then those that ship with "
+     "the program. A line that a snippet writes is read as a colour. If some lines of a snippet "
+     "cannot be read as the colour that was written, the last column says why.",
+     {},
+     namesOptions},
     {"contrast",
      "Print the contrast ratio of two colours and the criteria of WCAG 2.2 that it meets.\n"
      "The ratio is truncated to two decimals, not rounded.",
      contrastOperands, jsonOption},
+    {"sheet",
+     "List the colours of style sheets, and what may be wrong with them.\n"
+     "Each colour is written with its number and names: the variables that hold it, and its exact "
+     "name. Near doubles are colours that differ by less than 2 (CIEDE2000). A contrast is "
+     "reported if the color and the background of one rule fail AA of WCAG 2.2 for text of normal "
+     "size. If something is found, the exit status is 1.",
+     sheetOperands, sheetOptions},
+    {"lsp",
+     "Serve an editor by the Language Server Protocol, on standard input and output.\n"
+     "The editor shows the colours of style sheets, markup and code, writes them in other forms, "
+     "completes the names of your lists, and opens the colour panel. Editors start the command "
+     "themselves; docs/editors.md describes how to set them up.",
+     {},
+     lspOptions},
     {"wheel", "Draw the colour wheel.", {}, wheelOptions},
     {"palette", "Draw the palette of a colour list.", paletteOperands, paletteOptions},
     {"pick", "Pick a colour from the screen and print it (vantorel-panel).", {}, pickOptions},
@@ -250,7 +297,8 @@ constexpr OptionRow vantorelOptions[] = {{"--version", {}, "Show the version."}}
 
 constexpr TermRow exitStatuses[] = {
     {"0", "The command succeeded."},
-    {"1", "The user left \"choose\" or \"pick\" without a colour."},
+    {"1",
+     "The user left \"choose\" or \"pick\" without a colour, or \"sheet\" has found something."},
     {"2",
      "An error, such as a wrong option, a text that is not a colour, or a file that cannot be "
      "read. It is reported on standard error."},
@@ -258,6 +306,8 @@ constexpr TermRow exitStatuses[] = {
 };
 constexpr TermRow variables[] = {
     {"COLORTERM", "If it is \"truecolor\" or \"24bit\", a terminal shows a patch of each colour."},
+    {"TERM",
+     "If it contains \"256color\", a terminal shows a patch of the nearest of its 256 colours."},
     {"NO_COLOR", "If it is set and not empty, no patches are shown."},
     {"XDG_DATA_HOME",
      "The folder that contains settings and colour lists, instead of ~/.local/share."},
@@ -267,6 +317,8 @@ constexpr TermRow variables[] = {
 constexpr TermRow files[] = {
     {"$XDG_DATA_HOME/Vantorel/Settings.plist",
      "The settings of the colour picker. They are never changed."},
+    {"$XDG_DATA_HOME/Vantorel/Snippets.plist",
+     "Your own snippets, in the form of those in the settings."},
     {"$XDG_DATA_HOME/Vantorel/Palettes/*.gpl", "Your colour lists."},
     {"$XDG_DATA_HOME/Vantorel/Dialogs",
      "The plug-ins of \"dialogs --on\", and what its option --off restores."},
@@ -302,7 +354,8 @@ constinit const ProgramRow vantorelProgram{
                 .text = "Colours for people who write CSS and code.\n"
                         "A COLOR is any form of CSS Color 5 (\"#ff8000\", \"rgb(255 128 0)\", "
                         "\"oklch(70% 0.1 50)\", \"orange\"), a text that the colour picker accepts "
-                        "(\"ff8000\", \"RGB(255, 128, 0);\"), or a name of the colour list.\n"
+                        "(\"ff8000\", \"RGB(255, 128, 0);\"), a line of code that a snippet "
+                        "writes (\"Color(0xffff8000)\"), or a name of the colour list.\n"
                         "Settings, snippets and colour lists are shared with the colour picker.",
                 .options = vantorelOptions,
                 .commands = vantorelCommands},

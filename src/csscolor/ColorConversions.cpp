@@ -56,6 +56,18 @@ constexpr double labKappa = 24389.0 / 27;
 constexpr double labEpsilon = 216.0 / 24389;
 constexpr double fullTurn = 360;
 
+constexpr ColorMatrix product(const ColorMatrix& a, const ColorMatrix& b)
+{
+    ColorMatrix result{};
+    for (std::size_t row = 0; row < 3; ++row)
+        for (std::size_t column = 0; column < 3; ++column)
+            for (std::size_t i = 0; i < 3; ++i)
+                result[row][column] += a[row][i] * b[i][column];
+    return result;
+}
+
+constexpr ColorMatrix lmsToLinearSRGB = product(xyzToLinearSRGB, lmsToXYZ);
+
 template <typename Function>
 ColorTriple each(const ColorTriple& triple, Function function)
 {
@@ -169,6 +181,16 @@ ColorTriple oklabFromSRGB(const ColorTriple& srgb)
 ColorTriple srgbFromOklab(const ColorTriple& oklab)
 {
     return srgbFromLinear(linearSRGBFromXYZ(xyzFromOklab(oklab)));
+}
+
+const ColorMatrix& coneRootsFromOklab()
+{
+    return oklabToLMS;
+}
+
+const ColorMatrix& linearSRGBFromCones()
+{
+    return lmsToLinearSRGB;
 }
 
 ColorTriple polarFromRectangular(const ColorTriple& rectangular)

@@ -40,6 +40,12 @@ using ColorMatrix = std::array<std::array<double, 3>, 3>;
 [[nodiscard]] ColorTriple oklabFromSRGB(const ColorTriple& srgb);
 [[nodiscard]] ColorTriple srgbFromOklab(const ColorTriple& oklab);
 
+/// The two steps from Oklab to linear sRGB, for code that converts many colours at a time: the
+/// first matrix times Oklab gives the cube roots of what the cones of the eye see, and the second
+/// one times their cubes gives linear sRGB.
+[[nodiscard]] const ColorMatrix& coneRootsFromOklab();
+[[nodiscard]] const ColorMatrix& linearSRGBFromCones();
+
 /// Converts lightness, a and b to lightness, chroma and hue in degrees: Lab to LCH and Oklab to
 /// OkLCh. The hue of a grey is meaningless.
 [[nodiscard]] ColorTriple polarFromRectangular(const ColorTriple& rectangular);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace vantorel {
 namespace {
@@ -89,6 +90,41 @@ ColorTriple srgbByReducedChroma(const ColorTriple& oklab)
         }
     }
     return clippedToSRGB(srgbFromLinear(linear));
+}
+
+namespace {
+
+/// `std::nullopt` for a pattern, or if a channel is not finite.
+std::optional<ColorTriple> finiteChannels(const HostColor& color)
+{
+    const auto rgb = color.calibratedRGB();
+    if (!rgb) return std::nullopt;
+    const ColorTriple srgb{rgb->red, rgb->green, rgb->blue};
+    const auto isFinite = [](double channel) { return std::isfinite(channel); };
+    return std::ranges::all_of(srgb, isFinite) ? std::optional(srgb) : std::nullopt;
+}
+
+}  // namespace
+
+bool isOutsideSRGB(const HostColor& color)
+{
+    const auto srgb = finiteChannels(color);
+    return srgb && isOutsideSRGB(*srgb);
+}
+
+bool isOutsideDisplayP3(const HostColor& color)
+{
+    const auto srgb = finiteChannels(color);
+    // The same tolerance as for sRGB.
+    return srgb && isOutsideSRGB(convertedColor(*srgb, ColorSpace::srgb, ColorSpace::displayP3));
+}
+
+HostColor mappedIntoSRGB(const HostColor& color)
+{
+    const auto srgb = finiteChannels(color);
+    if (!srgb) return color;
+    const auto [red, green, blue] = mappedIntoSRGB(*srgb);
+    return HostColor::colorWithCalibratedRed(red, green, blue, color.alphaComponent());
 }
 
 CSSColorValue mappedIntoSRGB(const CSSColorValue& color)

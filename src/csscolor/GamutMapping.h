@@ -2,6 +2,7 @@
 
 #include "csscolor/CSSColorValue.h"
 #include "csscolor/ColorConversions.h"
+#include "host/HostColor.h"
 
 namespace vantorel {
 
@@ -26,5 +27,12 @@ namespace vantorel {
 /// Maps a colour of any space into sRGB by `srgbByReducedChroma`, if it is outside. Its alpha
 /// stays, and no component of the result is missing.
 [[nodiscard]] CSSColorValue mappedIntoSRGB(const CSSColorValue& color);
+
+/// The same for colours of the desktop. A pattern, and a colour with a channel that is not finite,
+/// are not outside and stay as they are.
+[[nodiscard]] bool isOutsideSRGB(const HostColor& color);
+[[nodiscard]] HostColor mappedIntoSRGB(const HostColor& color);
+/// Whether a colour is outside Display P3, too.
+[[nodiscard]] bool isOutsideDisplayP3(const HostColor& color);
 
 }  // namespace vantorel

@@ -2,37 +2,12 @@
 
 #include "hosts/common/PageSize.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace vantorel {
-namespace {
-
-bool isWithin(double distance, double a, double b)
-{
-    // Differences of a few units in the last place are no differences.
-    constexpr double tolerance = 1e-9;
-    return std::abs(a - b) <= distance + tolerance;
-}
-
-/// Whether a dialog that changes channels by up to `rounding` can have made `b` from `a`.
-bool isSameColor(const HostColor& a, const HostColor& b, double rounding)
-{
-    const auto first = a.calibratedRGB();
-    const auto second = b.calibratedRGB();
-    if (!first || !second) return first.has_value() == second.has_value();
-    const auto stored = [](double channel) { return std::clamp(channel, 0.0, 1.0); };
-    return isWithin(rounding, stored(first->red), stored(second->red)) &&
-           isWithin(rounding, stored(first->green), stored(second->green)) &&
-           isWithin(rounding, stored(first->blue), stored(second->blue)) &&
-           isWithin(rounding, stored(first->alpha), stored(second->alpha));
-}
-
-}  // namespace
 
 EmbeddedPage::EmbeddedPage(EmbeddingDialog& dialog, HostDesktop& desktop, EmbeddingTraits traits)
-    : _dialog(&dialog), _desktop(desktop), _traits(traits)
+    : _dialog(&dialog), _desktop(desktop), _color(traits.rounding)
 {
 }
 
@@ -45,14 +20,14 @@ void EmbeddedPage::close()
 {
     if (_view != nullptr) _view->removeFromSuperview();
     _view = nullptr;
-    _isPending = false;
+    _color.keepFromDialog();
     _picker.reset();
 }
 
 bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostView& holder,
                         const HostColor& color)
 {
-    _color = _dialogsColor = color;
+    _color.beginWith(color);
     _holder = &holder;
     guarded([&] {
         auto picker = plugin.makePicker(panel);
@@ -65,7 +40,7 @@ bool EmbeddedPage::show(const LoadedPlugin& plugin, HostColorPanel& panel, HostV
         _view->setFrame({0, 0, holder.frame().width, holder.frame().height});
         holder.addSubview(*_view);
         reportPageSize(*_picker, *_view);
-        _picker->setColor(_color);
+        _picker->setColor(this->color());
     });
     // The caller learns it from the result.
     _failureTimer.reset();
@@ -103,29 +78,22 @@ HostSize EmbeddedPage::grow(HostSize growth)
 
 void EmbeddedPage::dialogColorDidChange(const HostColor& color)
 {
-    if (isSameColor(color, _dialogsColor, _traits.rounding)) return;
-    // What happened last counts: a colour of the page that the dialog has not got yet is older.
-    _isPending = false;
-    _color = _dialogsColor = color;
-    _isFinal = true;
+    if (!_color.setByDialog(color)) return;
     // `send` passes it to the page when the dialog has returned.
     if (_isSending || _picker == nullptr) return;
-    guarded([this] { _picker->setColor(_color); });
+    guarded([this] { _picker->setColor(this->color()); });
 }
 
 void EmbeddedPage::setColor(const std::optional<HostColor>& color)
 {
-    const auto components = color ? color->calibratedRGB() : std::nullopt;
-    if (!components) return;
-    _color = _takesOpacity ? *color : color->colorWithAlphaComponent(_color.alphaComponent());
-    _isPending = true;
-    if (_picker != nullptr) _picker->setColor(_color);
+    if (!_color.setByPage(color)) return;
+    if (_picker != nullptr) _picker->setColor(this->color());
     sendLater();
 }
 
 void EmbeddedPage::sendLater()
 {
-    _sendTimer = _desktop.scheduleTimer(0, [this] { send(!_isTracking); });
+    _sendTimer = _desktop.scheduleTimer(0, [this] { send(!_color.isInSteps()); });
 }
 
 void EmbeddedPage::sendPendingColor()
@@ -135,62 +103,39 @@ void EmbeddedPage::sendPendingColor()
 
 void EmbeddedPage::send(bool isFinal)
 {
-    if (!std::exchange(_isPending, false) || _dialog == nullptr || _hasFailed) return;
-    const bool isKnown = _dialogsColor == _color && (_isFinal || !isFinal);
-    if (isKnown) return;
-    _dialogsColor = _color;
-    _isFinal = isFinal;
+    if (_dialog == nullptr || _hasFailed) return;
+    const auto sent = _color.takeForDialog(isFinal);
+    if (!sent) return;
     const std::weak_ptr<const bool> life = _life;
     const bool wasSending = std::exchange(_isSending, true);
-    const HostColor sent = _color;
     try {
-        _dialog->colorChosen(sent, isFinal);
+        _dialog->colorChosen(*sent, isFinal);
     } catch (...) {
         if (!life.expired()) fail();
     }
     if (life.expired()) return;
     _isSending = wasSending;
-    if (_color != sent && !_isSending && _picker != nullptr) {
-        guarded([this] { _picker->setColor(_color); });
+    if (color() != *sent && !_isSending && _picker != nullptr) {
+        guarded([this] { _picker->setColor(color()); });
     }
-}
-
-void EmbeddedPage::willWait()
-{
-    _isTracking = true;
-    send(false);
-}
-
-void EmbeddedPage::didGet(const HostEvent& event)
-{
-    if (event.type == HostEventType::leftMouseUp) changeDidEnd();
 }
 
 void EmbeddedPage::changeDidEnd()
 {
-    _isTracking = false;
-    // The end of the drag is reported even if the colour does not change any more.
-    _isPending = true;
+    _color.stepsEnd();
     sendLater();
-}
-
-void EmbeddedPage::willDragOut()
-{
-    // What the page has set now, it shows only during the drag: it is black while a text is
-    // dragged.
-    _isPending = false;
 }
 
 void EmbeddedPage::forgetDialog()
 {
     _dialog = nullptr;
-    _isPending = false;
+    _color.keepFromDialog();
 }
 
 void EmbeddedPage::fail() noexcept
 {
     if (std::exchange(_hasFailed, true)) return;
-    _isPending = false;
+    _color.keepFromDialog();
     try {
         if (_view != nullptr) _view->removeFromSuperview();
         _failureTimer = _desktop.scheduleTimer(0, [this] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "embedding/PageColor.h"
 #include "host/HostColorPicker.h"
 #include "plugins/PluginLoader.h"
 
@@ -85,7 +86,7 @@ public:
     /// chosen exactly.
     void dialogColorDidChange(const HostColor& color);
     /// If false, as at first, the page's colours get the opacity of the dialog's colour.
-    void setTakesOpacity(bool flag) { _takesOpacity = flag; }
+    void setTakesOpacity(bool flag) { _color.setTakesOpacity(flag); }
 
     /// Passes on a colour that the dialog does not have yet. Call this before the dialog uses
     /// its colour: when the user presses OK.
@@ -122,10 +123,10 @@ public:
 
     // The panel's side.
 
-    [[nodiscard]] const HostColor& color() const { return _color; }
+    [[nodiscard]] const HostColor& color() const { return _color.color(); }
     void setColor(const std::optional<HostColor>& color);
     /// The page changes its colour in steps between these two.
-    void changeDidBegin() { _isTracking = true; }
+    void changeDidBegin() { _color.stepsBegin(); }
     void changeDidEnd();
     /// The size of the holder.
     [[nodiscard]] HostSize room() const;
@@ -135,9 +136,10 @@ public:
     HostEvent waitForEvent(const Next& next)
     {
         const Call call(*this);
-        willWait();
+        _color.stepsBegin();
+        send(false);
         const HostEvent event = next();
-        didGet(event);
+        if (event.type == HostEventType::leftMouseUp) changeDidEnd();
         return event;
     }
     /// Runs `drag`, which drags a colour or text out of the page.
@@ -145,7 +147,9 @@ public:
     void dragOut(const Drag& drag)
     {
         const Call call(*this);
-        willDragOut();
+        // What the page has set now, it shows only during the drag: it is black while a text is
+        // dragged.
+        _color.keepFromDialog();
         drag();
     }
 
@@ -161,30 +165,17 @@ private:
         EmbeddedPage& _page;
     };
 
-    void willWait();
-    void didGet(const HostEvent& event);
-    void willDragOut();
     void sendLater();
     void send(bool isFinal);
     void fail() noexcept;
 
     EmbeddingDialog* _dialog;
     HostDesktop& _desktop;
-    EmbeddingTraits _traits;
     LoadedPlugin::Picker _picker;
     HostView* _holder = nullptr;
     HostView* _view = nullptr;
-
-    HostColor _color = HostColor::whiteColor();
-    /// The colour that the dialog has, before it rounded it.
-    HostColor _dialogsColor = HostColor::whiteColor();
-    /// Whether `_dialogsColor` was more than a step of a drag.
-    bool _isFinal = true;
-    /// Whether `_color` still has to be passed to the dialog.
-    bool _isPending = false;
+    PageColor _color;
     bool _isSending = false;
-    bool _isTracking = false;
-    bool _takesOpacity = false;
     bool _hasFailed = false;
     int _calls = 0;
     std::unique_ptr<HostTimer> _sendTimer;

@@ -53,6 +53,11 @@ public:
     /// page begin with it.
     [[nodiscard]] virtual HostSize preferredContentSize() const { return minContentSize(); }
 
+    /// Whether `setColor` takes colours outside sRGB, whose components are below 0 or above 1. The
+    /// same for the page's whole life. A panel gives other pages the nearest colour of sRGB, as CSS
+    /// Color 4 maps it.
+    [[nodiscard]] virtual bool takesWideGamut() const { return false; }
+
     /// Called when the panel's colour has changed, including changes made by the picker itself.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
     /// Called when the page has a new size. `sender` is the view that changed, or null.

@@ -83,14 +83,41 @@ public:
         if (_step) _step(steps, modifierFlags);
     }
 
+    /// A part of a drag across the field.
+    struct Scrub {
+        enum class Phase { begin, move, end } phase = Phase::move;
+        /// How far the pointer has moved to the right since the last part, in points.
+        double distance = 0;
+        std::uint64_t modifierFlags = 0;
+    };
+    using ScrubFunction = std::function<void(const Scrub&)>;
+    /// Sets the function that changes the field's value while the pointer is dragged across it.
+    /// Desktops call it for a field that the user is not editing; in one that is edited, a drag
+    /// selects. A click without a drag begins the editing and selects the whole text.
+    void setScrub(ScrubFunction function)
+    {
+        _scrub = std::move(function);
+        scrubDidChange();
+    }
+    [[nodiscard]] bool canScrub() const { return _scrub != nullptr; }
+    void sendScrub(const Scrub& scrub)
+    {
+        // The reaction may replace itself while it runs.
+        const auto reaction = _scrub;
+        if (reaction) reaction(scrub);
+    }
+
 protected:
     /// Called when the field can step, or no longer can.
     virtual void stepDidChange() {}
+    /// Called when the field can be scrubbed, or no longer can.
+    virtual void scrubDidChange() {}
 
 private:
     std::function<void()> _textDidChange;
     FitFunction _entryFit;
     StepFunction _step;
+    ScrubFunction _scrub;
 };
 
 /// The insertion point or selection of the text field that is being edited, in UTF-16 units.
@@ -213,6 +240,9 @@ public:
     /// Returns whether the view takes the keyboard focus. The same for the content's whole life;
     /// the functions below are called only if it is true.
     [[nodiscard]] virtual bool takesKeys() const { return false; }
+    /// Returns whether keys with Ctrl are for the content, too. Others are shortcuts of the panel.
+    /// The same for the content's whole life.
+    [[nodiscard]] virtual bool takesControlKeys() const { return false; }
     virtual void keyFocusDidChange(bool) {}
     /// Returns whether the content has used the key.
     virtual bool keyDown(const HostKeyEvent&) { return false; }
@@ -233,6 +263,22 @@ public:
     /// crossings are reported.
     virtual std::intptr_t addTrackingRect(HostRect rect, bool assumeInside) = 0;
     virtual void removeTrackingRect(std::intptr_t tag) = 0;
+
+    using AccessibleDescription = std::function<std::u16string()>;
+    /// Sets the function that returns the description of the view's content which assistive
+    /// technology announces after the view's name. It is called on demand. When the description
+    /// changes, redraw the view, so that the change is announced.
+    void setAccessibleDescription(AccessibleDescription description)
+    {
+        _accessibleDescription = std::move(description);
+    }
+    [[nodiscard]] std::optional<std::u16string> accessibleDescription() const
+    {
+        return _accessibleDescription ? std::optional(_accessibleDescription()) : std::nullopt;
+    }
+
+private:
+    AccessibleDescription _accessibleDescription;
 };
 
 }  // namespace vantorel

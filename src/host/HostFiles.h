@@ -23,6 +23,16 @@ enum class HostFileKind { none, file, folder };
 
 enum class HostFileCreation { made, pathIsTaken, failed };
 
+/// The beginning of a file.
+struct HostFileHead {
+    std::string bytes;
+    bool isWholeFile = false;
+    /// Of the file before it was read, as `HostFiles::versionAtPath` and `identityAtPath` return
+    /// them.
+    std::uint64_t version = 0;
+    std::string identity;
+};
+
 /// Keeps other programs of ours out of a folder, until it is destroyed.
 class HostFolderLock {
 public:
@@ -64,6 +74,21 @@ public:
     /// Returns the bytes of a file, or `std::nullopt` if it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> contentsAtPath(
         const std::string& path) const = 0;
+    /// Returns the beginning of a file, usually at most `count` bytes, or `std::nullopt` if it
+    /// cannot be read. For programs that look at many files.
+    [[nodiscard]] virtual std::optional<HostFileHead> headAtPath(const std::string& path,
+                                                                 std::size_t count) const
+    {
+        static_cast<void>(count);
+        HostFileHead head;
+        head.version = versionAtPath(path);
+        head.identity = identityAtPath(path);
+        auto bytes = contentsAtPath(path);
+        if (!bytes) return std::nullopt;
+        head.bytes = std::move(*bytes);
+        head.isWholeFile = true;
+        return head;
+    }
     /// Replaces the whole file atomically: readers see, and a crash leaves, either the old bytes or
     /// the new ones. A new file is readable by the user only; an existing one keeps its
     /// permissions.

@@ -9,9 +9,11 @@ namespace vantorel {
 
 class HostButton;
 class HostCustomView;
+class HostNumberField;
 class HostPopUpButton;
 class HostTextField;
 class HostViewContent;
+struct HostNumberFormat;
 
 /// The properties of a control in an interface file, from which a desktop creates the control.
 struct HostControlDescription {
@@ -53,6 +55,13 @@ public:
     virtual std::unique_ptr<HostTextField> makeTextField(const HostControlDescription&) = 0;
     virtual std::unique_ptr<HostButton> makeButton(const HostControlDescription&) = 0;
     virtual std::unique_ptr<HostPopUpButton> makePopUpButton(const HostControlDescription&) = 0;
+
+    /// Creates a field for a number: one of `makeTextField` with the rules of `HostNumberField`.
+    /// The description's title is ignored.
+    [[nodiscard]] std::unique_ptr<HostNumberField> makeNumberField(const HostControlDescription&,
+                                                                   const HostNumberFormat&);
+    /// Returns what the desktop writes before decimals, e.g. "." or ",".
+    [[nodiscard]] virtual std::u16string decimalSeparator() const = 0;
 };
 
 }  // namespace vantorel

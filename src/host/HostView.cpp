@@ -1,36 +1,8 @@
 #include "host/HostView.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vantorel {
-namespace {
-
-HostRect withoutNegativeSize(HostRect rect)
-{
-    rect.width = std::max(0.0, rect.width);
-    rect.height = std::max(0.0, rect.height);
-    return rect;
-}
-
-/// Distributes a superview's growth along one axis among the stretching parts of a view.
-void stretch(double growth, bool before, bool itself, bool after, double& position, double& length)
-{
-    const int parts = int{before} + int{itself} + int{after};
-    if (parts == 0) return;
-    const double share = growth / parts;
-    if (before) position += share;
-    if (itself) length += share;
-}
-
-}  // namespace
-
-HostView::HostView(HostRect frame)
-    : _frame(withoutNegativeSize(frame)),
-      _askedFrame(frame),
-      _bounds{0, 0, _frame.width, _frame.height}
-{
-}
 
 HostView::~HostView()
 {
@@ -42,24 +14,22 @@ HostView::~HostView()
 
 void HostView::setFrame(HostRect frame)
 {
-    const HostSize oldSize = _askedFrame.size();
-    _askedFrame = frame;
-    frame = withoutNegativeSize(frame);
-    if (frame != _frame) {
-        _frame = frame;
-        _bounds.width = frame.width;
-        _bounds.height = frame.height;
-        frameDidChange();
-    }
-    if (oldSize != _askedFrame.size()) resizeSubviews(oldSize);
+    const HostRect shownBefore = _frame.shown();
+    const HostSize before = _frame.asked().size();
+    _frame.set(frame);
+    if (_frame.shown() != shownBefore) frameDidChange();
+    const HostSize now = _frame.asked().size();
+    if (now == before) return;
+    const HostSize growth{now.width - before.width, now.height - before.height};
+    // Iterate over a copy of the list, because a subview's hook may change the tree.
+    for (HostView* view : std::vector<HostView*>(_subviews))
+        view->setFrame(view->_frame.afterGrowth(growth));
 }
 
 void HostView::setBounds(HostRect bounds)
 {
-    bounds.width = _frame.width;
-    bounds.height = _frame.height;
-    if (bounds == _bounds) return;
-    _bounds = bounds;
+    if (bounds.origin() == _boundsOrigin) return;
+    _boundsOrigin = bounds.origin();
     boundsDidChange();
 }
 
@@ -113,7 +83,7 @@ void HostView::setToolTip(std::optional<std::u16string> text)
 void HostView::setNeedsDisplay(bool flag)
 {
     _needsDisplay = flag;
-    if (flag) displayDidBecomeNeeded(_bounds);
+    if (flag) displayDidBecomeNeeded(bounds());
 }
 
 void HostView::setNeedsDisplayInRect(HostRect rect)
@@ -123,19 +93,5 @@ void HostView::setNeedsDisplayInRect(HostRect rect)
 }
 
 void HostView::displayDidBecomeNeeded(HostRect) {}
-
-void HostView::resizeSubviews(HostSize oldSize)
-{
-    const double wider = _askedFrame.width - oldSize.width;
-    const double higher = _askedFrame.height - oldSize.height;
-    // Iterate over a copy of the list, because a subview's hook may change the tree.
-    for (HostView* view : std::vector<HostView*>(_subviews)) {
-        const HostResizing& rule = view->_resizing;
-        HostRect frame = view->_askedFrame;
-        stretch(wider, rule.leftMargin, rule.width, rule.rightMargin, frame.x, frame.width);
-        stretch(higher, rule.bottomMargin, rule.height, rule.topMargin, frame.y, frame.height);
-        view->setFrame(frame);
-    }
-}
 
 }  // namespace vantorel

@@ -2,28 +2,13 @@
 
 #include "host/HostColor.h"
 #include "host/HostGeometry.h"
+#include "host/HostViewFrame.h"
 
-#include <functional>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace vantorel {
-
-/// How a view is resized with its superview. The change of size is shared equally between the parts
-/// that are set to true. If none is set, the view keeps its size and its distance from the lower
-/// left corner.
-struct HostResizing {
-    bool leftMargin = false;
-    bool width = false;
-    bool rightMargin = false;
-    bool bottomMargin = false;
-    bool height = false;
-    bool topMargin = false;
-
-    bool operator==(const HostResizing&) const = default;
-};
 
 /// A rectangle of the interface, one node of a tree of views. A desktop derives its own views from
 /// this class and mirrors the state below in its widgets through the hooks at the end.
@@ -35,26 +20,29 @@ struct HostResizing {
 /// when it is destroyed.
 class HostView {
 public:
-    explicit HostView(HostRect frame);
+    explicit HostView(HostRect frame) : _frame(frame) {}
     HostView(const HostView&) = delete;
     HostView& operator=(const HostView&) = delete;
     virtual ~HostView();
 
-    [[nodiscard]] HostRect frame() const { return _frame; }
+    [[nodiscard]] HostRect frame() const { return _frame.shown(); }
     /// Sets the frame and resizes the subviews by their resizing rules. Negative widths and heights
     /// are treated as 0.
     void setFrame(HostRect frame);
     /// Sets the frame of this view to that of another view, including its size before it was
     /// clamped to 0. If their superview is too small now and grows again, this view grows as the
     /// other one would have.
-    void setFrameOf(const HostView& view) { setFrame(view._askedFrame); }
+    void setFrameOf(const HostView& view) { setFrame(view._frame.asked()); }
     /// Moves the view without changing its size.
     void setFrameOrigin(HostPoint origin)
     {
-        setFrame({origin.x, origin.y, _frame.width, _frame.height});
+        setFrame({origin.x, origin.y, frame().width, frame().height});
     }
 
-    [[nodiscard]] HostRect bounds() const { return _bounds; }
+    [[nodiscard]] HostRect bounds() const
+    {
+        return {_boundsOrigin.x, _boundsOrigin.y, frame().width, frame().height};
+    }
     /// Sets the origin of the view's own coordinates. The size of `bounds` is ignored; the frame's
     /// size is used.
     void setBounds(HostRect bounds);
@@ -66,8 +54,7 @@ public:
     void addSubview(HostView& view);
     void removeFromSuperview();
 
-    [[nodiscard]] HostResizing resizing() const { return _resizing; }
-    void setResizing(HostResizing resizing) { _resizing = resizing; }
+    void setResizing(HostResizing resizing) { _frame.setResizing(resizing); }
 
     /// Parks the view or brings it back. A page that has no use for a control just now moves it far
     /// away. Where "far away" ends up depends on the size of the page: what lies outside a small
@@ -89,18 +76,9 @@ public:
     void setToolTip(std::optional<std::u16string> text);
     [[nodiscard]] const std::optional<std::u16string>& toolTip() const { return _toolTip; }
 
-    using AccessibleDescription = std::function<std::u16string()>;
-    /// Sets the function that returns the description of the view's content which assistive
-    /// technology announces after the view's name. It is called on demand. When the description
-    /// changes, redraw the view, so that the change is announced.
-    void setAccessibleDescription(AccessibleDescription description)
-    {
-        _accessibleDescription = std::move(description);
-    }
-    [[nodiscard]] std::optional<std::u16string> accessibleDescription() const
-    {
-        return _accessibleDescription ? std::optional(_accessibleDescription()) : std::nullopt;
-    }
+    /// Gives the view another name for assistive technology than that of its description. Desktops
+    /// override it.
+    virtual void setAccessibleName(const std::u16string& name) { static_cast<void>(name); }
 
     /// Marks the whole view for redrawing, or removes the mark.
     void setNeedsDisplay(bool flag);
@@ -121,18 +99,11 @@ protected:
     virtual void displayDidBecomeNeeded(HostRect rect);
 
 private:
-    void resizeSubviews(HostSize oldSize);
-
-    HostRect _frame;
-    /// The frame before negative sizes were clamped to 0. When a superview becomes too small and
-    /// grows again, its subviews recover their sizes from it.
-    HostRect _askedFrame;
-    HostRect _bounds;
+    HostViewFrame _frame;
+    HostPoint _boundsOrigin;
     HostView* _superview = nullptr;
     std::vector<HostView*> _subviews;
-    HostResizing _resizing;
     std::optional<std::u16string> _toolTip;
-    AccessibleDescription _accessibleDescription;
     std::optional<HostColor> _groundColor;
     bool _isParked = false;
     bool _needsDisplay = true;

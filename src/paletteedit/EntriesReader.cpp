@@ -47,17 +47,16 @@ bool EntriesReader::readLines(std::size_t count)
     return isAtEnd;
 }
 
-std::optional<EntriesReader::File> EntriesReader::takeFile()
+std::optional<PaletteState> EntriesReader::takeState()
 {
     const PaletteReading* reading = _reader.reading();
     if (reading == nullptr) return std::nullopt;
-    File file;
-    file.hasOtherLines = holdsOtherLines(_bytes, *reading);
-    file.state.name = reading->list->name();
-    file.state.entries = std::make_shared<const PaletteEntries>(std::move(_entries));
-    if (file.hasOtherLines)
-        file.state.bytes = std::make_shared<const std::string>(std::move(_bytes));
-    return file;
+    PaletteState state;
+    state.name = reading->list->name();
+    state.entries = std::make_shared<const PaletteEntries>(std::move(_entries));
+    if (holdsOtherLines(_bytes, *reading))
+        state.bytes = std::make_shared<const std::string>(std::move(_bytes));
+    return state;
 }
 
 }  // namespace vantorel

@@ -19,13 +19,8 @@ public:
     [[nodiscard]] std::size_t bytesRead() const { return _reader.bytesRead(); }
     [[nodiscard]] std::size_t allBytes() const { return _bytes.size(); }
 
-    struct File {
-        PaletteState state;
-        /// Whether the file has lines that saving would drop.
-        bool hasOtherLines = false;
-    };
-    /// Returns the file once the end has been reached; `std::nullopt` if it is not a palette.
-    [[nodiscard]] std::optional<File> takeFile();
+    /// Returns the list once the end has been reached; `std::nullopt` if the file is not a palette.
+    [[nodiscard]] std::optional<PaletteState> takeState();
 
     [[nodiscard]] static std::u16string fallbackName(const std::string& path);
 

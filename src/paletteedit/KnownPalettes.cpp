@@ -87,13 +87,13 @@ bool KnownPalettes::continueReading(PaletteId id, std::size_t lines)
     const std::uint64_t version = _files.versionAtPath(record->path);
     if (!_reading || _reading->list != id || _reading->version != version) {
         _reading.reset();
-        auto bytes = version != 0 ? _files.contentsAtPath(record->path) : std::nullopt;
+        auto bytes = _files.contentsAtPath(record->path);
         if (!bytes) return true;
         _reading = std::make_unique<StepwiseReading>(id, version, *std::move(bytes), record->path);
     }
     if (!_reading->reader.readLines(lines)) return false;
     record->version = version;
-    record->setContents(_reading->reader.takeFile());
+    record->state = _reading->reader.takeState();
     _reading.reset();
     return true;
 }

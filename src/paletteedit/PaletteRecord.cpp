@@ -1,7 +1,5 @@
 #include "paletteedit/PaletteRecord.h"
 
-#include <utility>
-
 namespace vantorel {
 
 void PaletteRecord::readIfChanged(const HostFiles& files)
@@ -10,17 +8,9 @@ void PaletteRecord::readIfChanged(const HostFiles& files)
     const std::uint64_t versionNow = files.versionAtPath(path);
     if (versionNow != 0 && versionNow == version) return;
     version = versionNow;
-    auto bytes = version != 0 ? files.contentsAtPath(path) : std::nullopt;
-    EntriesReader reader(std::move(bytes).value_or(std::string()), path);
+    EntriesReader reader(files.contentsAtPath(path).value_or(std::string()), path);
     reader.readLines(reader.allBytes());
-    setContents(reader.takeFile());
-}
-
-void PaletteRecord::setContents(std::optional<EntriesReader::File> file)
-{
-    state.reset();
-    hasOtherLines = file && file->hasOtherLines;
-    if (file) state = std::move(file->state);
+    state = reader.takeState();
 }
 
 void PaletteRecord::setWritten(const PaletteState& written, const std::string& text,
@@ -29,7 +19,6 @@ void PaletteRecord::setWritten(const PaletteState& written, const std::string& t
     version = files.versionAtPath(path);
     state = written;
     if (state->bytes != nullptr && *state->bytes != text) state->bytes = nullptr;
-    hasOtherLines = state->bytes != nullptr;
     // If the file has already been changed again, it is read at the next request.
     if (files.contentsAtPath(path) != text) version = 0;
 }

@@ -18,15 +18,11 @@ struct PaletteRecord {
     std::uint64_t version = 0;
     /// Empty until it is requested, and if the file is not a palette.
     std::optional<PaletteState> state = {};
-    /// Whether the file has lines that saving would drop.
-    bool hasOtherLines = false;
 
     [[nodiscard]] bool isOwn() const { return program.empty(); }
     /// Reads the file, unless it has not changed since it was last read. Sets the version to 0
     /// if the file cannot be read.
     void readIfChanged(const HostFiles& files);
-    /// Takes in what a reader has found in the file; `std::nullopt` if it is not a palette.
-    void setContents(std::optional<EntriesReader::File> file);
     /// Takes in that `written` has just been written to the file as `text`.
     void setWritten(const PaletteState& written, const std::string& text, const HostFiles& files);
     /// Returns whether something that cannot be read exists at the path. Such a list must not be

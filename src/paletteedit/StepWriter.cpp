@@ -160,10 +160,11 @@ bool StepWriter::save(PaletteId id, const PaletteRecord& record, const PaletteSt
 
 bool StepWriter::keepOriginal(const PaletteRecord& record, EditOutcome& outcome)
 {
+    const auto& bytes = record.state->bytes;
+    if (bytes == nullptr) return true;
     const std::string path = record.path + "~";
-    if (!record.hasOtherLines || !record.state || record.state->bytes == nullptr) return true;
-    if (_files.contentsAtPath(path) == *record.state->bytes) return true;
-    if (!_files.writeAtomically(path, *record.state->bytes)) return false;
+    if (_files.contentsAtPath(path) == *bytes) return true;
+    if (!_files.writeAtomically(path, *bytes)) return false;
     outcome.messages.push_back(editmessages::keptOriginal(record.state->name));
     return true;
 }

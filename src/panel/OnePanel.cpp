@@ -4,7 +4,9 @@
 #include "panel/Output.h"
 #include "panel/TerminationSignals.h"
 #include "panel/bus/ServiceLifetime.h"
+#include "panel/preferences/PanelPreferences.h"
 #include "panel/window/PanelMemoryKeeper.h"
+#include "panel/window/Residence.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -98,8 +100,8 @@ int OnePanel::run()
     if (const Status status = RunningPanel::statusAfter(_contact); !status) warn(status.error());
 
     const int status = _order.step != PanelOrder::Step::show ? runForOrder(requests)
-                       : _options.service                    ? runForCalls(service, requests)
-                                                             : runForUser(window);
+                       : _options.service ? runForCalls(service, requests, window)
+                                          : runForUser(window);
     memory.save();
     return status;
 }
@@ -119,10 +121,15 @@ int OnePanel::runForOrder(PanelRequests& requests)
     return status;
 }
 
-int OnePanel::runForCalls(PanelService& service, const PanelRequests& requests)
+int OnePanel::runForCalls(PanelService& service, PanelRequests& requests, PanelWindow& window)
 {
-    const ServiceLifetime lifetime(service, requests);
-    QObject::connect(&lifetime, &ServiceLifetime::ended, &QApplication::quit);
+    const PanelPreferences& preferences = window.commands().preferences();
+    const Residence residence(window, preferences);
+    std::optional<ServiceLifetime> lifetime;
+    if (!preferences.staysResident()) {
+        lifetime.emplace(service, requests);
+        QObject::connect(&*lifetime, &ServiceLifetime::ended, &QApplication::quit);
+    }
     QApplication::exec();
     return succeeded;
 }
@@ -130,6 +137,10 @@ int OnePanel::runForCalls(PanelService& service, const PanelRequests& requests)
 int OnePanel::runForUser(PanelWindow& window)
 {
     window.show();
+    // Later, because a tray takes time to find.
+    std::optional<Residence> residence;
+    QTimer::singleShot(0, &window,
+                       [&] { residence.emplace(window, window.commands().preferences()); });
     QApplication::exec();
     return succeeded;
 }

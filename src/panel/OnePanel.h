@@ -42,7 +42,8 @@ private:
     // Each of these runs the panel and returns its exit status.
 
     [[nodiscard]] int runForOrder(PanelRequests& requests);
-    [[nodiscard]] static int runForCalls(PanelService& service, const PanelRequests& requests);
+    [[nodiscard]] static int runForCalls(PanelService& service, PanelRequests& requests,
+                                         PanelWindow& window);
     [[nodiscard]] static int runForUser(PanelWindow& window);
 
     const PanelOptions& _options;

@@ -1,5 +1,6 @@
 #include "panel/Panel.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/Output.h"
 #include "result/Message.h"
@@ -44,7 +45,7 @@ bool Panel::apply(const PanelOptions& options)
 {
     if (options.printColor) {
         QObject::connect(&_window.colors(), &PanelColors::colorChanged, [](const HostColor& color) {
-            print(stdout, cssNameOf(qColorFrom(color)) + u'\n');
+            print(stdout, cssNameOf(qColorFrom(mappedIntoSRGB(color))) + u'\n');
         });
     }
     const bool hasPage = !options.page || _window.pages().showPageWithKey(*options.page);

@@ -14,9 +14,9 @@ namespace {
 /// The page size at which every row of the settings face fits.
 constexpr HostSize roomySettingsSize{240, 300};
 
-bool isShown(const HostView* view)
+bool isShown(const HostView& view)
 {
-    return view != nullptr && view->superview() != nullptr;
+    return view.superview() != nullptr;
 }
 
 bool isSmaller(HostSize size, HostSize limit)
@@ -74,36 +74,36 @@ void QTXHexColorPicker::makeRoomForSettings()
 
 void QTXHexColorPicker::toggleSettingsView()
 {
-    HostCustomView* settings = _hexSettingsViewOutlet;
-    HostCustomView* colors = _hexColorsViewOutlet;
-    if (!isShown(settings) && isShown(colors)) {
+    if (_hexPickerView == nullptr) return;
+    HostCustomView& settings = *_hexSettingsViewOutlet;
+    HostCustomView& colors = *_hexColorsViewOutlet;
+    if (isShown(settings)) {
+        const HostRect frame = settings.frame();
+        HostView* place = settings.superview();
+        settings.removeFromSuperview();
+        colors.setFrameOf(settings);
+        colors.setBounds({0, 0, frame.width, frame.height});
+        place->addSubview(colors);
+        checkTrackingStatus();
+    } else {
         _hexColorsView.stopTracking();
         makeRoomForSettings();
-        const HostRect frame = colors->frame();
-        HostView* place = colors->superview();
-        colors->removeFromSuperview();
-        settings->setFrameOf(*colors);
+        const HostRect frame = colors.frame();
+        HostView* place = colors.superview();
+        colors.removeFromSuperview();
+        settings.setFrameOf(colors);
         // The settings face is laid out in its superview's coordinates, so its bounds start at the
         // frame's origin.
-        settings->setBounds(frame);
-        place->addSubview(*settings);
+        settings.setBounds(frame);
+        place->addSubview(settings);
         fixSettingsView();
-    } else if (isShown(settings) && !isShown(colors) && colors != nullptr) {
-        const HostRect frame = settings->frame();
-        HostView* place = settings->superview();
-        settings->removeFromSuperview();
-        colors->setFrameOf(*settings);
-        colors->setBounds({0, 0, frame.width, frame.height});
-        place->addSubview(*colors);
-        checkTrackingStatus();
     }
 }
 
 void QTXHexColorPicker::viewSizeChanged(HostView*)
 {
     if (_hexPickerView == nullptr) return;
-    const bool settingsShown = isShown(_hexSettingsViewOutlet);
-    const bool colorsShown = isShown(_hexColorsViewOutlet);
+    const bool settingsShown = isShown(*_hexSettingsViewOutlet);
     MainFaceInput input{
         .current = {_redHexText->frame(), _greenHexText->frame(), _blueHexText->frame(),
                     _objCCodeText->frame(), hexColorNamePopUp->frame(), _rgbDecimalText->frame()},
@@ -114,11 +114,10 @@ void QTXHexColorPicker::viewSizeChanged(HostView*)
         .panelHeight = colorPanel().size().height,
         .showsCodeSnippet = _hexSettings.componentDisplay() == ComponentDisplay::codeSnippet,
     };
-    if (settingsShown && !colorsShown &&
-        isSmaller(_hexPickerView->frame().size(), _leastSettingsPage)) {
+    if (settingsShown && isSmaller(_hexPickerView->frame().size(), _leastSettingsPage)) {
         toggleSettingsView();
     }
-    if (!isShown(_hexColorsViewOutlet)) {
+    if (isShown(*_hexSettingsViewOutlet)) {
         const HostRect settings = _hexSettingsViewOutlet->frame();
         input.reference.x = settings.x;
         input.reference.y = settings.y;
@@ -139,7 +138,7 @@ void QTXHexColorPicker::viewSizeChanged(HostView*)
     hexColorNamePopUp->setParked(frames.colorNameParked);
     _rgbDecimalText->setParked(frames.rgbDecimalParked);
 
-    if (colorsShown && !settingsShown) {
+    if (!settingsShown) {
         _hexColorsView.stopTracking();
         checkTrackingStatus();
     }
@@ -165,8 +164,8 @@ void QTXHexColorPicker::fixSettingsView()
     SettingsFaceFrames frames;
     for (const auto& [view, frame] : controls)
         frames.*frame = view->frame();
-    const HostRect bounds = isShown(_hexColorsViewOutlet) ? _hexColorsViewOutlet->bounds()
-                                                          : _hexSettingsViewOutlet->bounds();
+    const HostRect bounds = isShown(*_hexColorsViewOutlet) ? _hexColorsViewOutlet->bounds()
+                                                           : _hexSettingsViewOutlet->bounds();
     frames = settingsFaceLayout(frames, bounds);
     for (const auto& [view, frame] : controls)
         view->setFrame(frames.*frame);

@@ -3,6 +3,7 @@
 #include "text/ASCII.h"
 #include "text/HexDigits.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <unordered_map>
 
@@ -49,6 +50,9 @@ public:
         if (!result || !skipSpace() || !atEnd()) return std::nullopt;
         return result;
     }
+
+    /// Where the parser is. After a syntax error, this is where it was found.
+    [[nodiscard]] std::size_t place() const { return _place; }
 
 private:
     [[nodiscard]] bool atEnd() const { return _place >= _text.size(); }
@@ -221,6 +225,14 @@ private:
 std::optional<PropertyList> parsePropertyList(std::u16string_view text)
 {
     return Parser(text).whole();
+}
+
+std::size_t lineOfPropertyListError(std::u16string_view text)
+{
+    Parser parser(text);
+    if (parser.whole()) return 0;
+    const auto before = text.substr(0, parser.place());
+    return 1 + static_cast<std::size_t>(std::ranges::count(before, u'\n'));
 }
 
 }  // namespace vantorel

@@ -26,4 +26,8 @@ inline constexpr std::size_t deepestPropertyList = 512;
 /// memory are linear in the length of the text.
 [[nodiscard]] std::optional<PropertyList> parsePropertyList(std::u16string_view text);
 
+/// Returns the number, from 1, of the line on which a text is found not to be a property list; 0 if
+/// it is one. That line or one before it has the error.
+[[nodiscard]] std::size_t lineOfPropertyListError(std::u16string_view text);
+
 }  // namespace vantorel

@@ -46,7 +46,7 @@ uint PortalBackend::PickColor(const QDBusObjectPath& handle, const QString&, con
     _idle.stop();
     _pick = std::make_unique<PortalPick>(_bus, message(), handle.path());
     connect(_pick.get(), &PortalPick::closed, this, [this] { _picker->cancel(); });
-    _picker->start(nullptr, [this](const ScreenPickResult& result) { take(result); });
+    _picker->start(nullptr, {}, [this](const ScreenPickResult& result) { take(result); });
     return 0;
 }
 

@@ -25,10 +25,9 @@ std::string Phrase::inWords(Translate translate) const
     std::string words;
     // In a single pass, because an argument can contain text that looks like a placeholder.
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isPlace =
-            text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9';
+        const bool isPlace = text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1';
         const auto index = isPlace ? static_cast<std::size_t>(text[i + 1] - '1') : std::size_t{0};
-        // A faulty translation can have more placeholders than arguments.
+        // There are at most nine arguments, and a faulty translation can have more placeholders.
         if (!isPlace || index >= _arguments.size()) {
             words += text[i];
             continue;

@@ -36,6 +36,9 @@ public:
     [[nodiscard]] std::vector<QRect> frames() const;
     /// Returns `std::nullopt` if there is no screen at this position.
     [[nodiscard]] std::optional<QColor> colorAt(QPoint pixel) const;
+    /// Returns the average light of the pixels that are on a screen, with 8 bits a channel, or
+    /// `std::nullopt` if none is.
+    [[nodiscard]] std::optional<QColor> averageOf(const QRect& pixels) const;
 
 private:
     std::vector<Screen> _screens;

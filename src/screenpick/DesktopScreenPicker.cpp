@@ -1,5 +1,6 @@
 #include "screenpick/DesktopScreenPicker.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantorel {
@@ -18,16 +19,28 @@ Message messageOf(const std::vector<PickMethod::Failure>& failures)
 
 DesktopScreenPicker::DesktopScreenPicker(Methods methods) : _methods(std::move(methods))
 {
-    for (const auto& method : _methods)
+    for (const auto& method : _methods) {
         connect(method.get(), &PickMethod::finished, this, &DesktopScreenPicker::take);
+        connect(method.get(), &PickMethod::pickedOnTheWay, this, [this](const HostColor& color) {
+            if (_options.pickedOnTheWay) _options.pickedOnTheWay(color);
+        });
+    }
 }
 
-void DesktopScreenPicker::start(QWidget* parent, Callback done)
+void DesktopScreenPicker::start(QWidget* parent, const PickOptions& options, Callback done)
 {
     cancel();
     _parent = parent;
+    _options = options;
     _done = std::move(done);
-    _tried = 0;
+    _tried = nullptr;
+    _untried.clear();
+    for (auto method = _methods.rbegin(); method != _methods.rend(); ++method)
+        _untried.push_back(method->get());
+    if (options.averagedSide > 1) {
+        std::stable_partition(_untried.begin(), _untried.end(),
+                              [](const PickMethod* method) { return !method->canAverage(); });
+    }
     _failures.clear();
     _picking = true;
     tryNextMethod();
@@ -36,24 +49,27 @@ void DesktopScreenPicker::start(QWidget* parent, Callback done)
 void DesktopScreenPicker::cancel()
 {
     if (!_picking) return;
-    if (_tried > 0) _methods[_tried - 1]->cancel();
+    if (_tried != nullptr) _tried->cancel();
     finish({});
 }
 
 void DesktopScreenPicker::tryNextMethod()
 {
-    if (_tried == _methods.size()) {
-        finish({ScreenPickResult::Outcome::notPossible, HostColor::blackColor(),
-                messageOf(_failures)});
+    if (_untried.empty()) {
+        finish({.outcome = ScreenPickResult::Outcome::notPossible, .reason = messageOf(_failures)});
         return;
     }
-    _methods[_tried++]->start(_parent);
+    _tried = _untried.back();
+    _untried.pop_back();
+    _tried->start(_parent, _options);
 }
 
 void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
 {
     if (const auto* color = std::get_if<HostColor>(&outcome)) {
-        finish({ScreenPickResult::Outcome::picked, *color, {}});
+        finish({.outcome = ScreenPickResult::Outcome::picked,
+                .color = *color,
+                .lacksAverage = _options.averagedSide > 1 && !_tried->canAverage()});
     } else if (const auto* failure = std::get_if<PickMethod::Failure>(&outcome)) {
         _failures.push_back(*failure);
         tryNextMethod();

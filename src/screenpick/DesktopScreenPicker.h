@@ -20,7 +20,7 @@ public:
 
     explicit DesktopScreenPicker(Methods methods);
 
-    void start(QWidget* parent, Callback done) override;
+    void start(QWidget* parent, const PickOptions& options, Callback done) override;
     void cancel() override;
     [[nodiscard]] bool isPicking() const override { return _picking; }
 
@@ -30,7 +30,10 @@ private:
     void finish(ScreenPickResult result);
 
     Methods _methods;
-    std::size_t _tried = 0;
+    PickOptions _options;
+    /// The methods for the options, the next one last.
+    std::vector<PickMethod*> _untried;
+    PickMethod* _tried = nullptr;
     std::vector<PickMethod::Failure> _failures;
     QPointer<QWidget> _parent;
     Callback _done;

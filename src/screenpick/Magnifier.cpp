@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace vantorel {
@@ -15,11 +16,21 @@ namespace {
 
 constexpr int grabInterval = 50;  // ms
 
+/// How far a pressed mouse must move, in pixels, to drag a box: a hand that clicks trembles.
+constexpr int leastBox = 8;
+constexpr int boxLineWidth = 1;
+
+QRect squareAround(QPoint middle, int side)
+{
+    return {middle - QPoint(side / 2, side / 2), QSize(side, side)};
+}
+
 }  // namespace
 
-Magnifier::Magnifier(DesktopPicture picture, QPoint mouse)
-    : _picture(std::move(picture)), _cursor(_picture.frames(), mouse)
+Magnifier::Magnifier(DesktopPicture picture, QPoint mouse, const PickOptions& options)
+    : _picture(std::move(picture)), _cursor(_picture.frames(), mouse), _options(options)
 {
+    _shown.showsHints = options.showsHints;
     _grabAgain.setInterval(grabInterval);
     connect(&_grabAgain, &QTimer::timeout, this, &Magnifier::grabInput);
     show();
@@ -47,7 +58,7 @@ void Magnifier::show()
         if (!first) overlay->setWindowModality(Qt::ApplicationModal);
         _overlays.push_back(std::move(overlay));
     }
-    describe();
+    look();
     for (const auto& overlay : _overlays) {
         overlay->show();
         overlay->raise();
@@ -79,7 +90,13 @@ void Magnifier::grabInput()
 
 void Magnifier::mouseMovedTo(QPoint pixel)
 {
-    change([&] { _cursor.mouseMovedTo(pixel); });
+    change([&] {
+        _cursor.mouseMovedTo(pixel);
+        const QPoint moved = _cursor.position() - _pressedAt;
+        if (_pressed == Qt::LeftButton &&
+            std::max(std::abs(moved.x()), std::abs(moved.y())) >= leastBox)
+            _isBox = true;
+    });
 }
 
 void Magnifier::step(QPoint by)
@@ -92,49 +109,101 @@ void Magnifier::zoom(int steps)
     if (steps != 0) change([&] { _lens.zoom(steps); });
 }
 
-/// Repaints the areas that the lens leaves and enters.
-void Magnifier::change(const std::function<void()>& change)
+void Magnifier::changeAverage()
 {
-    const auto updateLens = [this] {
-        for (const auto& overlay : _overlays) {
-            const DesktopPicture::Screen& screen = overlay->picture();
-            if (!screen.frame().contains(_cursor.position())) continue;
-            overlay->updatePixels(
-                _lens.bounds(screen, _cursor.position(), overlay->devicePixelRatioF()));
-        }
-    };
-    if (_finished) return;
-    const QPoint before = _cursor.position();
-    updateLens();
-    change();
-    updateLens();
-    if (_cursor.position() != before) describe();
+    const auto* side = std::ranges::find(averagedSides, _options.averagedSide);
+    const bool isLast = side == averagedSides.end() || side + 1 == averagedSides.end();
+    change([&] { _options.averagedSide = isLast ? averagedSides.front() : *(side + 1); });
 }
 
-void Magnifier::describe()
+std::optional<QRect> Magnifier::box() const
 {
-    const auto color = _picture.colorAt(_cursor.position());
-    if (color) _overlays.front()->setAccessibleDescription(hexCodeOf(*color));
+    if (!_isBox) return std::nullopt;
+    const QPoint end = _cursor.position();
+    return QRect(QPoint(std::min(_pressedAt.x(), end.x()), std::min(_pressedAt.y(), end.y())),
+                 QPoint(std::max(_pressedAt.x(), end.x()), std::max(_pressedAt.y(), end.y())));
+}
+
+void Magnifier::updateShown()
+{
+    for (const auto& overlay : _overlays) {
+        const DesktopPicture::Screen& screen = overlay->picture();
+        if (const auto dragged = box()) {
+            const int reach = 2 * boxLineWidth;
+            overlay->updatePixels(
+                dragged->translated(-screen.origin).adjusted(-reach, -reach, reach, reach));
+        }
+        if (!screen.frame().contains(_shown.pixel)) continue;
+        overlay->updatePixels(_lens.bounds(screen, _shown, overlay->devicePixelRatioF()));
+    }
+}
+
+/// Repaints the areas that the lens and the box leave and enter.
+void Magnifier::change(const std::function<void()>& change)
+{
+    if (_finished) return;
+    updateShown();
+    change();
+    look();
+    updateShown();
+}
+
+/// Takes up the colour below the cursor.
+void Magnifier::look()
+{
+    _shown.pixel = _cursor.position();
+    _shown.averaged = box().value_or(squareAround(_shown.pixel, _options.averagedSide));
+    const QColor before = std::exchange(
+        _shown.color, _picture.averageOf(_shown.averaged).value_or(QColor(Qt::black)));
+    if (_shown.color != before)
+        _overlays.front()->setAccessibleDescription(hexCodeOf(_shown.color));
 }
 
 void Magnifier::paintLens(QPainter& painter, const MagnifierOverlay& overlay) const
 {
     const DesktopPicture::Screen& screen = overlay.picture();
-    if (!screen.frame().contains(_cursor.position())) return;
-    _lens.paint(painter, _picture, screen, _cursor.position(), overlay.devicePixelRatioF(),
-                overlay.palette());
+    if (const auto dragged = box()) {
+        const QRect frame = dragged->translated(-screen.origin);
+        painter.setBrush(Qt::NoBrush);
+        for (const auto& [color, distance] : {std::pair(Qt::white, 0), std::pair(Qt::black, 1)}) {
+            painter.setPen(QPen(color, boxLineWidth));
+            painter.drawRect(frame.adjusted(-1 - distance, -1 - distance, distance, distance));
+        }
+    }
+    if (!screen.frame().contains(_shown.pixel)) return;
+    _lens.paint(painter, _picture, screen, _shown, overlay.devicePixelRatioF(), overlay.palette());
 }
 
-void Magnifier::buttonReleased(Qt::MouseButton button)
+void Magnifier::buttonPressed(Qt::MouseButton button)
+{
+    _pressed = button;
+    _pressedAt = _cursor.position();
+    _isBox = false;
+}
+
+void Magnifier::buttonReleased(Qt::MouseButton button, Next next)
 {
     if (button != std::exchange(_pressed, Qt::NoButton)) return;
-    if (button == Qt::LeftButton) pick();
+    if (button == Qt::LeftButton) pick(next);
     if (button == Qt::RightButton) leave();
 }
 
-void Magnifier::pick()
+void Magnifier::pick(Next next)
 {
-    finish(_picture.colorAt(_cursor.position()));
+    const QColor color = _shown.color;
+    if (next == Next::closes || !_options.pickedOnTheWay) {
+        finish(color);
+        return;
+    }
+    if (_finished) return;
+    updateShown();
+    _isBox = false;
+    _shown.picked.push_back(color);
+    look();
+    updateShown();
+    // Later, because the receiver may destroy the magnifier.
+    QMetaObject::invokeMethod(
+        this, [this, color] { emit pickedOnTheWay(color); }, Qt::QueuedConnection);
 }
 
 void Magnifier::leave()

@@ -1,5 +1,8 @@
 #include "screenpick/MagnifierLens.h"
 
+#include "screenpick/MagnifierNotes.h"
+#include "screenpick/MagnifierPainting.h"
+
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPainter>
@@ -20,8 +23,10 @@ constexpr double shadowWidth = 10;
 constexpr double labelGap = 8;
 constexpr double labelHeight = 28;
 constexpr double labelPadding = 10;
+constexpr double averageGap = 8;
 constexpr double swatchSize = 14;
 constexpr double textSize = 14;
+constexpr double averageTextSize = 11;
 constexpr double markRadius = 6;
 
 constexpr int smallestCellWithGrid = 7;
@@ -33,12 +38,19 @@ QFont labelFont(double ratio)
     return font;
 }
 
-/// Palettes derived from two colours have no mid tone that is visible on a dark background.
-QColor faintTextOf(const QPalette& palette)
+QFont averageFont(double ratio)
 {
-    QColor color = palette.color(QPalette::WindowText);
-    color.setAlpha(90);
-    return color;
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(static_cast<int>(std::lround(averageTextSize * ratio)));
+    return font;
+}
+
+/// The size of what is averaged; empty for a single pixel.
+QString averageText(const Magnified& magnified)
+{
+    if (!magnified.isAverage()) return {};
+    const QSize size = magnified.averaged.size();
+    return QStringLiteral("%1\u00d7%2").arg(size.width()).arg(size.height());
 }
 
 /// Returns the offset that moves `rect` into 0..`size`. If it is too large, its top left corner is
@@ -73,14 +85,14 @@ void strokeCircle(QPainter& painter, QPointF center, double radius, double width
 }
 
 /// A frame that is visible on every colour, because it is both black and white.
-void frameMiddle(QPainter& painter, const QRect& cell, int width)
+void frameCells(QPainter& painter, const QRect& cells, int width)
 {
-    const QRect white = cell.adjusted(-width, -width, width, width);
+    const QRect white = cells.adjusted(-width, -width, width, width);
     const QRect black = white.adjusted(-width, -width, width, width);
-    const QRegion around = QRegion(black).subtracted(cell);
+    const QRegion around = QRegion(black).subtracted(cells);
     for (const QRect& rect : around)
         painter.fillRect(rect, Qt::black);
-    for (const QRect& rect : QRegion(white).subtracted(cell))
+    for (const QRect& rect : QRegion(white).subtracted(cells))
         painter.fillRect(rect, Qt::white);
 }
 
@@ -90,6 +102,10 @@ struct MagnifierLens::Layout {
     QRect middleCell;
     QPointF center;
     QRectF label;
+    /// Where the size of the average begins in the label.
+    double averageLeft = 0;
+    /// Empty if there are none.
+    QRectF notes;
     QPointF mark;
     /// Whether the lens has been moved away from the pixel.
     bool displaced = false;
@@ -105,14 +121,22 @@ void MagnifierLens::zoom(int steps)
     _zoom = std::clamp(_zoom + steps, 0, static_cast<int>(cellSizes.size()) - 1);
 }
 
-MagnifierLens::Layout MagnifierLens::layOut(QSize screen, QPoint pixel, double ratio) const
+MagnifierLens::Layout MagnifierLens::layOut(const DesktopPicture::Screen& picture,
+                                            const Magnified& magnified, double ratio) const
 {
+    const QSize screen = picture.image.size();
+    const QPoint pixel = magnified.pixel - picture.origin;
     const int cell =
         static_cast<int>(std::lround(cellSizes[static_cast<std::size_t>(_zoom)] * ratio));
     const double radius = (lensRadius + ringWidth) * ratio;
     const QFontMetrics metrics(labelFont(ratio));
-    const double labelWidth = (3 * labelPadding + swatchSize) * ratio +
-                              metrics.horizontalAdvance(QStringLiteral("#000000"));
+    const double codeEnd = (2 * labelPadding + swatchSize) * ratio +
+                           metrics.horizontalAdvance(QStringLiteral("#000000"));
+    double labelWidth = codeEnd + labelPadding * ratio;
+    if (const QString average = averageText(magnified); !average.isEmpty()) {
+        labelWidth +=
+            averageGap * ratio + QFontMetrics(averageFont(ratio)).horizontalAdvance(average);
+    }
 
     Layout layout;
     layout.middleCell = QRect(pixel.x() - cell / 2, pixel.y() - cell / 2, cell, cell);
@@ -129,15 +153,28 @@ MagnifierLens::Layout MagnifierLens::layOut(QSize screen, QPoint pixel, double r
     layout.label.translate(way);
     layout.mark = QPointF(pixel) + QPointF(0.5, 0.5);
     layout.displaced = !way.isNull();
+    layout.averageLeft = layout.label.left() + codeEnd + averageGap * ratio;
+
+    const QSizeF notes = sizeOfNotes(magnified, ratio);
+    if (notes.isEmpty()) return layout;
+    const double gap = labelGap * ratio;
+    layout.notes = QRectF(
+        QPointF(std::round(layout.center.x() - notes.width() / 2), layout.label.bottom() + gap),
+        notes);
+    if (layout.notes.bottom() + margin > screen.height())
+        layout.notes.moveBottom(std::floor(layout.center.y() - radius - gap));
+    layout.notes.translate(wayInto(layout.notes.adjusted(-margin, 0, margin, 0), screen).x(), 0);
     return layout;
 }
 
-QRect MagnifierLens::bounds(const DesktopPicture::Screen& screen, QPoint pixel, double ratio) const
+QRect MagnifierLens::bounds(const DesktopPicture::Screen& screen, const Magnified& magnified,
+                            double ratio) const
 {
-    const Layout layout = layOut(screen.image.size(), pixel - screen.origin, ratio);
+    const Layout layout = layOut(screen, magnified, ratio);
     const double reach = (lensRadius + ringWidth + shadowWidth) * ratio;
     QRectF all(layout.center - QPointF(reach, reach), QSizeF(2 * reach, 2 * reach));
     all |= layout.label;
+    if (!layout.notes.isEmpty()) all |= layout.notes;
     if (layout.displaced) {
         const double markReach = 2 * markRadius * ratio;
         all |= QRectF(layout.mark - QPointF(markReach, markReach),
@@ -175,14 +212,13 @@ QImage MagnifierLens::enlarged(const DesktopPicture& picture, QPoint middle, Cel
 }
 
 void MagnifierLens::paint(QPainter& painter, const DesktopPicture& picture,
-                          const DesktopPicture::Screen& screen, QPoint pixel, double ratio,
-                          const QPalette& palette) const
+                          const DesktopPicture::Screen& screen, const Magnified& magnified,
+                          double ratio, const QPalette& palette) const
 {
-    const Layout layout = layOut(screen.image.size(), pixel - screen.origin, ratio);
+    const Layout layout = layOut(screen, magnified, ratio);
     const int cell = layout.middleCell.width();
     const double radius = lensRadius * ratio;
     const int line = std::max(1, static_cast<int>(ratio));
-    const QColor color = picture.colorAt(pixel).value_or(Qt::black);
     const QColor ground = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
 
@@ -197,12 +233,20 @@ void MagnifierLens::paint(QPainter& painter, const DesktopPicture& picture,
     // An odd number, so that there is a middle.
     const int cells = static_cast<int>(std::ceil(radius / cell - 0.5)) * 2 + 1;
     const bool hasGrid = cellSizes[static_cast<std::size_t>(_zoom)] >= smallestCellWithGrid;
-    QImage pixels = enlarged(picture, pixel, {cell, cells, hasGrid ? line : 0}, palette);
+    QImage pixels = enlarged(picture, magnified.pixel, {cell, cells, hasGrid ? line : 0}, palette);
     {
         QPainter onPixels(&pixels);
-        const QRect middle(cells / 2 * cell, cells / 2 * cell, cell, cell);
-        onPixels.fillRect(middle, color);
-        frameMiddle(onPixels, middle, line);
+        if (!magnified.isAverage()) {
+            // Without the lines of the grid.
+            const QRect middle(cells / 2 * cell, cells / 2 * cell, cell, cell);
+            onPixels.fillRect(middle, magnified.color);
+        }
+        const QPoint first = magnified.pixel - QPoint(cells / 2, cells / 2);
+        const QRect averaged = magnified.averaged.translated(-first);
+        frameCells(onPixels,
+                   {averaged.x() * cell, averaged.y() * cell, averaged.width() * cell,
+                    averaged.height() * cell},
+                   line);
     }
     QBrush brush(pixels);
     const QPoint origin = layout.middleCell.topLeft() - QPoint(cells / 2, cells / 2) * cell;
@@ -211,30 +255,29 @@ void MagnifierLens::paint(QPainter& painter, const DesktopPicture& picture,
     painter.setBrush(brush);
     painter.drawEllipse(layout.center, radius, radius);
 
-    // A thin line on both sides keeps the ring apart from a picture of its own colour.
-    constexpr int darkGround = 128;
-    const QColor edge = ground.lightness() < darkGround ? QColor(255, 255, 255, 90)  //
-                                                        : QColor(0, 0, 0, 110);
     strokeCircle(painter, layout.center, radius + ringWidth * ratio / 2, (ringWidth + 2) * ratio,
-                 edge);
+                 magnifierEdge(palette));
     strokeCircle(painter, layout.center, radius + ringWidth * ratio / 2, ringWidth * ratio, ground);
 
-    const double corner = layout.label.height() / 2;
-    painter.setPen(QPen(edge, ratio));
-    painter.setBrush(ground);
-    const double half = ratio / 2;
-    painter.drawRoundedRect(layout.label.adjusted(-half, -half, half, half), corner, corner);
+    paintPill(painter, layout.label, ratio, palette);
     const QRectF swatch(layout.label.left() + labelPadding * ratio,
                         layout.label.center().y() - swatchSize * ratio / 2, swatchSize * ratio,
                         swatchSize * ratio);
     painter.setPen(QPen(faintTextOf(palette), ratio));
-    painter.setBrush(color);
+    painter.setBrush(magnified.color);
     painter.drawEllipse(swatch);
     painter.setPen(text);
     painter.setFont(labelFont(ratio));
     const QRectF textRect(QPointF(swatch.right() + labelPadding * ratio, layout.label.top()),
                           layout.label.bottomRight());
-    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, hexCodeOf(color));
+    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, hexCodeOf(magnified.color));
+    if (const QString average = averageText(magnified); !average.isEmpty()) {
+        painter.setFont(averageFont(ratio));
+        const QRectF rest(QPointF(layout.averageLeft, layout.label.top()),
+                          layout.label.bottomRight());
+        painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft, average);
+    }
+    paintNotes(painter, layout.notes, magnified, ratio, palette);
     painter.restore();
 }
 

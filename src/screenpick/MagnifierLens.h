@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screenpick/DesktopPicture.h"
+#include "screenpick/Magnified.h"
 
 #include <QPalette>
 
@@ -8,23 +9,24 @@ class QPainter;
 
 namespace vantorel {
 
-/// Paints the magnifier: a round lens of enlarged pixels, the middle one framed, and a label below
-/// with its hex code. Lens and label are always entirely on the screen. Near an edge they move away
-/// from the pixel, which is then marked separately.
+/// Paints the magnifier: a round lens of enlarged pixels, those framed that are averaged, a label
+/// below with the hex code, and below that the notes. Lens and label are always entirely on the
+/// screen. Near an edge they move away from the pixel, which is then marked separately. Notes
+/// without room below the label are above the lens.
 class MagnifierLens {
 public:
     /// Changes the magnification, within its limits. Positive steps enlarge the pixels.
     void zoom(int steps);
 
     /// The area that `paint` touches, in pixels of the screen.
-    [[nodiscard]] QRect bounds(const DesktopPicture::Screen& screen, QPoint pixel,
+    [[nodiscard]] QRect bounds(const DesktopPicture::Screen& screen, const Magnified& magnified,
                                double ratio) const;
 
-    /// `painter` paints on `screen` in its pixels. `pixel` is a pixel of the desktop on that
-    /// screen, `ratio` the pixels of the screen in a device-independent one. The label has the
+    /// `painter` paints on `screen` in its pixels. The magnified pixel is on that screen, `ratio`
+    /// is the pixels of the screen in a device-independent one. The label has the
     /// palette's background and text colours.
     void paint(QPainter& painter, const DesktopPicture& picture,
-               const DesktopPicture::Screen& screen, QPoint pixel, double ratio,
+               const DesktopPicture::Screen& screen, const Magnified& magnified, double ratio,
                const QPalette& palette) const;
 
 private:
@@ -35,7 +37,8 @@ private:
         int gridWidth;  ///< of the lines between them; 0 for none
     };
 
-    [[nodiscard]] Layout layOut(QSize screen, QPoint pixel, double ratio) const;
+    [[nodiscard]] Layout layOut(const DesktopPicture::Screen& screen, const Magnified& magnified,
+                                double ratio) const;
     [[nodiscard]] static QImage enlarged(const DesktopPicture& picture, QPoint middle, Cells size,
                                          const QPalette& palette);
 

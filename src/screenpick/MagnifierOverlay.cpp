@@ -18,6 +18,13 @@ namespace {
 constexpr int farStep = 10;
 constexpr int wheelNotch = 120;  // Qt's eighths of a degree
 
+/// Several colours can be picked while Shift is held.
+Magnifier::Next nextAfter(const QInputEvent& event)
+{
+    return event.modifiers().testFlag(Qt::ShiftModifier) ? Magnifier::Next::goesOn
+                                                         : Magnifier::Next::closes;
+}
+
 }  // namespace
 
 MagnifierOverlay::MagnifierOverlay(Magnifier& magnifier, const DesktopPicture::Screen& screen,
@@ -95,7 +102,7 @@ void MagnifierOverlay::mousePressEvent(QMouseEvent* event)
 void MagnifierOverlay::mouseReleaseEvent(QMouseEvent* event)
 {
     _magnifier.mouseMovedTo(desktopPixelOf(*event));
-    _magnifier.buttonReleased(event->button());
+    _magnifier.buttonReleased(event->button(), nextAfter(*event));
 }
 
 void MagnifierOverlay::wheelEvent(QWheelEvent* event)
@@ -132,7 +139,10 @@ void MagnifierOverlay::keyPressEvent(QKeyEvent* event)
         case Qt::Key_Enter:
         case Qt::Key_Space:
             // The key that started the magnifier may still be held down.
-            if (!event->isAutoRepeat()) _magnifier.pick();
+            if (!event->isAutoRepeat()) _magnifier.pick(nextAfter(*event));
+            break;
+        case Qt::Key_A:
+            _magnifier.changeAverage();
             break;
         case Qt::Key_Escape:
             _magnifier.leave();

@@ -61,8 +61,9 @@ MagnifierPickMethod::MagnifierPickMethod()
     connect(&_settling, &QTimer::timeout, this, &MagnifierPickMethod::begin);
 }
 
-void MagnifierPickMethod::start(QWidget*)
+void MagnifierPickMethod::start(QWidget*, const PickOptions& options)
 {
+    _options = options;
     if (!obstacle().isEmpty()) {
         _settling.start(0);
         return;
@@ -89,9 +90,11 @@ void MagnifierPickMethod::begin()
         return;
     }
     _activeBefore = QApplication::activeWindow();
-    _magnifier = std::make_unique<Magnifier>(std::move(*picture), mousePixel());
+    _magnifier = std::make_unique<Magnifier>(std::move(*picture), mousePixel(), _options);
     connect(_magnifier.get(), &Magnifier::picked, this,
             [this](const QColor& color) { finish(hostColorFrom(color)); });
+    connect(_magnifier.get(), &Magnifier::pickedOnTheWay, this,
+            [this](const QColor& color) { emit pickedOnTheWay(hostColorFrom(color)); });
     connect(_magnifier.get(), &Magnifier::left, this, [this] { finish(CancelledByUser{}); });
 }
 

@@ -20,7 +20,8 @@ class MagnifierPickMethod final : public PickMethod {
 public:
     MagnifierPickMethod();
 
-    void start(QWidget* parent) override;
+    [[nodiscard]] bool canAverage() const override { return true; }
+    void start(QWidget* parent, const PickOptions& options) override;
     void cancel() override;
 
     /// The visible magnifier; null if there is none.
@@ -31,6 +32,7 @@ private:
     void end();
     void finish(const Outcome& outcome);
 
+    PickOptions _options;
     QPointer<QWidget> _activeBefore;
     std::unique_ptr<Magnifier> _magnifier;
     QTimer _settling;

@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "result/Message.h"
+#include "screenpick/PickOptions.h"
 
 #include <QObject>
 
@@ -27,13 +28,18 @@ public:
     };
     using Outcome = std::variant<HostColor, CancelledByUser, Failure>;
 
-    /// Begins a pick. None may be in progress. `parent` is the requesting window; may be null.
-    virtual void start(QWidget* parent) = 0;
+    /// Whether the method can pick averages.
+    [[nodiscard]] virtual bool canAverage() const = 0;
+    /// Begins a pick. None may be in progress. `parent` is the requesting window; may be null. A
+    /// method heeds as many of the options as it can.
+    virtual void start(QWidget* parent, const PickOptions& options) = 0;
     /// Abandons the pick in progress, if any; `finished` is not emitted. Destroying the method does
     /// the same.
     virtual void cancel() = 0;
 
 signals:
+    /// The user has picked a colour and goes on picking.
+    void pickedOnTheWay(const vantorel::HostColor& color);
     /// Emitted from the event loop, once for each start that is not cancelled. A slot may start or
     /// cancel the method again, but not destroy it.
     void finished(const vantorel::PickMethod::Outcome& outcome);

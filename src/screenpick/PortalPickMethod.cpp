@@ -28,7 +28,7 @@ PortalPickMethod::~PortalPickMethod()
     cancel();
 }
 
-void PortalPickMethod::start(QWidget* parent)
+void PortalPickMethod::start(QWidget* parent, const PickOptions&)
 {
     _request = new PortalRequest(_bus());
     connect(_request, &PortalRequest::finished, this, &PickMethod::finished);

@@ -21,7 +21,9 @@ public:
     explicit PortalPickMethod(std::function<QDBusConnection()> bus);
     ~PortalPickMethod() override;
 
-    void start(QWidget* parent) override;
+    /// The desktop's picker picks single pixels.
+    [[nodiscard]] bool canAverage() const override { return false; }
+    void start(QWidget* parent, const PickOptions& options) override;
     void cancel() override;
 
 private:

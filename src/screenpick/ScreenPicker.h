@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "result/Message.h"
+#include "screenpick/PickOptions.h"
 
 #include <functional>
 #include <memory>
@@ -17,8 +18,10 @@ struct ScreenPickResult {
     Outcome outcome = Outcome::cancelled;
     /// If picked: opaque, each channel 0..1.
     HostColor color = HostColor::blackColor();
+    /// If picked: whether an average was asked for, and the desktop picked a single pixel.
+    bool lacksAverage = false;
     /// If not possible: what is missing.
-    Message reason;
+    Message reason = {};
 
     bool operator==(const ScreenPickResult&) const = default;
 };
@@ -38,7 +41,7 @@ public:
     /// event loop, never inside `start` or `cancel`. It may call both, or destroy the picker.
     /// `parent` is the requesting window, over which a desktop shows its own dialogue; it may be
     /// null, and may be destroyed during the pick.
-    virtual void start(QWidget* parent, Callback done) = 0;
+    virtual void start(QWidget* parent, const PickOptions& options, Callback done) = 0;
     /// Cancels the pick in progress, if any.
     virtual void cancel() = 0;
     /// True from `start` until the result is determined.
@@ -46,8 +49,8 @@ public:
 };
 
 /// Returns a picker that uses the desktop portal if it can pick, else a magnifier if an X11 display
-/// shows the whole screen, else reports what is missing. It checks at each start, because portals
-/// come and go. Creating the picker is cheap.
+/// shows the whole screen, else reports what is missing. For an average the magnifier comes first.
+/// It checks at each start, because portals come and go. Creating the picker is cheap.
 [[nodiscard]] std::unique_ptr<ScreenPicker> makeScreenPicker();
 
 }  // namespace vantorel

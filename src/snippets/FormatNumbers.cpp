@@ -6,13 +6,14 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <string_view>
 
 namespace vantorel {
 namespace {
 
 /// Room for the longest double in %f, 309 digits, plus the largest precision.
-constexpr std::size_t longestReal = 1024;
+constexpr std::size_t longestReal = std::numeric_limits<double>::max_exponent;
 constexpr int defaultPrecision = 6;
 
 /// Pads a number to the field's width: spaces on the left or right, or zeros between the prefix
@@ -40,7 +41,7 @@ std::u16string wholeDigits(std::uint64_t value, int base, const FormatField& fie
 {
     std::u16string digits;
     if (value != 0 || field.precision.value_or(1) != 0) {
-        std::array<char, 64> buffer{};
+        std::array<char, std::numeric_limits<std::uint64_t>::digits> buffer{};
         const auto [end, error] =
             std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, base);
         digits = widened({buffer.data(), static_cast<std::size_t>(end - buffer.data())});

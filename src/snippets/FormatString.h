@@ -11,9 +11,6 @@ namespace vantorel {
 /// An argument for one conversion of a format.
 using FormatArgument = std::variant<std::uint64_t, double, std::u16string>;
 
-/// The largest width and precision. Larger values are reduced to these.
-inline constexpr std::size_t widestFormatField = 1000;
-inline constexpr std::size_t finestFormatPrecision = 300;
 /// The maximum length of a result, in UTF-16 units. Longer results are cut.
 inline constexpr std::size_t longestFormatResult = 1 << 20;
 

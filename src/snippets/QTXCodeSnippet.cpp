@@ -1,7 +1,7 @@
 #include "snippets/QTXCodeSnippet.h"
 
-#include "color/ChannelConversion.h"
 #include "snippets/FormatString.h"
+#include "snippets/SnippetValues.h"
 
 #include <array>
 
@@ -35,39 +35,17 @@ constexpr std::array builtInSnippets{
 };
 // clang-format on
 
-/// Returns the arguments of the format for a variable form, or `std::nullopt` if the form is
-/// unknown.
-std::optional<std::vector<FormatArgument>> argumentsOfForm(std::u16string_view form,
-                                                           const QTXHexColorSpec& spec)
-{
-    const std::vector<FormatArgument> fractions{static_cast<double>(spec.redHexComp()) / 255,
-                                                static_cast<double>(spec.greenHexComp()) / 255,
-                                                static_cast<double>(spec.blueHexComp()) / 255};
-    const std::vector<FormatArgument> integers{spec.redHexComp(), spec.greenHexComp(),
-                                               spec.blueHexComp()};
-    // A negative alpha keeps its sign, in two's complement like every integer argument.
-    const auto alphaByte = static_cast<std::uint64_t>(truncatedSigned(spec.alphaComp() * 255));
-    const auto with = [](std::vector<FormatArgument> arguments, FormatArgument alpha) {
-        arguments.push_back(std::move(alpha));
-        return arguments;
-    };
-    if (form == u"rgbaFloats") return with(fractions, spec.alphaComp());
-    if (form == u"rgbFloats") return fractions;
-    if (form == u"rgbFixedAlphaFloat") return with(integers, spec.alphaComp());
-    if (form == u"rgbFixed") return integers;
-    if (form == u"rgbaFixed") return with(integers, alphaByte);
-    if (form == u"rgbPackedInt") return {{spec.javaRGBInt()}};
-    if (form == u"rgbaPackedInt") return {{spec.javaRGBAInt()}};
-    return std::nullopt;
-}
-
 }  // namespace
 
 std::u16string QTXCodeSnippet::codeSnippetWithColorSpec(const QTXHexColorSpec& colorSpec) const
 {
-    const auto arguments = argumentsOfForm(_varFormSnippet.value_or(u""), colorSpec);
-    if (!arguments) return u"??";
-    return formatted(_formatStringSnippet.value_or(u""), *arguments);
+    const auto values = valuesOfVarForm(_varFormSnippet.value_or(u""));
+    if (!values) return u"??";
+    std::vector<FormatArgument> arguments;
+    arguments.reserve(values->size());
+    for (const SnippetValue& value : *values)
+        arguments.push_back(value.of(colorSpec));
+    return formatted(_formatStringSnippet.value_or(u""), arguments);
 }
 
 PropertyList QTXCodeSnippet::propertyListRepresentation() const

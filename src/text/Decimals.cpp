@@ -1,13 +1,15 @@
 #include "text/Decimals.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace vantorel {
 
 std::string fixedText(double number, int decimals)
 {
-    // Room for a sign, the 309 digits of the largest number, the decimal point and the decimals.
-    std::array<char, 1 + 309 + 1 + 100> buffer{};
+    // Numbers have far fewer digits than bits, so there is room for a sign, the decimal point and
+    // the decimals.
+    std::array<char, std::numeric_limits<double>::max_exponent> buffer{};
     const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                             std::chars_format::fixed, std::clamp(decimals, 0, 100));
     return {buffer.data(), end};

@@ -1,54 +1,55 @@
 #include "text/Unicode.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <type_traits>
 
 namespace vantorel {
 namespace {
 
-constexpr bool isSurrogate(char32_t character)
+constexpr bool isHighSurrogate(char32_t character)
 {
-    return character >= 0xD800 && character <= 0xDFFF;
+    return character >= 0xD800 && character < 0xDC00;
 }
 
-/// Decodes the sequence at `position`. Returns its length in bytes, or 0 if it is ill-formed.
-std::size_t decodeSequence(std::string_view text, std::size_t position, char32_t& character)
+constexpr bool isLowSurrogate(char32_t character)
 {
-    const auto byteAt = [&](std::size_t i) {
-        return i < text.size() ? static_cast<std::uint8_t>(text[i]) : std::uint8_t{0};
-    };
-    const std::uint8_t lead = byteAt(position);
-    if (lead < 0x80) {
-        character = lead;
-        return 1;
-    }
-    std::size_t length = 0;
-    char32_t smallest = 0;
-    if ((lead & 0xE0) == 0xC0) {
-        length = 2;
-        smallest = 0x80;
-        character = lead & 0x1F;
-    } else if ((lead & 0xF0) == 0xE0) {
-        length = 3;
-        smallest = 0x800;
-        character = lead & 0x0F;
-    } else if ((lead & 0xF8) == 0xF0) {
-        length = 4;
-        smallest = 0x10000;
-        character = lead & 0x07;
-    } else {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        const std::uint8_t next = byteAt(position + i);
-        if ((next & 0xC0) != 0x80) return 0;
+    return character >= 0xDC00 && character < 0xE000;
+}
+
+constexpr bool isSurrogate(char32_t character)
+{
+    return isHighSurrogate(character) || isLowSurrogate(character);
+}
+
+struct Sequence {
+    char32_t character;
+    std::size_t length;  ///< in bytes
+};
+
+/// Decodes the sequence at the start of a text, which must not be empty. Returns `std::nullopt` if
+/// it is ill-formed.
+std::optional<Sequence> firstSequence(std::string_view text)
+{
+    const auto lead = static_cast<std::uint8_t>(text.front());
+    if (lead < 0x80) return Sequence{lead, 1};
+    // Smaller characters must have shorter sequences.
+    constexpr std::array<char32_t, 3> smallest{0x80, 0x800, 0x10000};
+    const auto length = static_cast<std::size_t>(std::countl_one(lead));
+    if (length < 2 || length > 4 || length > text.size()) return std::nullopt;
+    char32_t character = lead & (0x7FU >> length);
+    for (const char byte : text.substr(1, length - 1)) {
+        const auto next = static_cast<std::uint8_t>(byte);
+        if ((next & 0xC0) != 0x80) return std::nullopt;
         character = (character << 6) | (next & 0x3F);
     }
     const bool isCharacter =
-        character >= smallest && character <= 0x10FFFF && !isSurrogate(character);
-    return isCharacter ? length : 0;
+        character >= smallest[length - 2] && character <= 0x10FFFF && !isSurrogate(character);
+    return isCharacter ? std::optional(Sequence{character, length}) : std::nullopt;
 }
 
 void appendUtf8(std::string& text, char32_t character)
@@ -87,15 +88,10 @@ std::u16string utf16FromUtf8(std::string_view utf8)
     if (isASCII(utf8)) return {utf8.begin(), utf8.end()};
     std::u16string result;
     result.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size();) {
-        char32_t character = 0;
-        std::size_t length = decodeSequence(utf8, i, character);
-        if (length == 0) {
-            character = replacementCharacter;
-            length = 1;
-        }
-        i += length;
-        appendUtf16(result, character);
+    while (!utf8.empty()) {
+        const auto sequence = firstSequence(utf8);
+        appendUtf16(result, sequence ? sequence->character : replacementCharacter);
+        utf8.remove_prefix(sequence ? sequence->length : 1);
     }
     return result;
 }
@@ -103,11 +99,10 @@ std::u16string utf16FromUtf8(std::string_view utf8)
 bool isWellFormedUtf8(std::string_view utf8)
 {
     if (isASCII(utf8)) return true;
-    for (std::size_t i = 0; i < utf8.size();) {
-        char32_t character = 0;
-        const std::size_t length = decodeSequence(utf8, i, character);
-        if (length == 0) return false;
-        i += length;
+    while (!utf8.empty()) {
+        const auto sequence = firstSequence(utf8);
+        if (!sequence) return false;
+        utf8.remove_prefix(sequence->length);
     }
     return true;
 }
@@ -120,10 +115,10 @@ std::string utf8FromUtf16(std::u16string_view utf16)
     for (std::size_t i = 0; i < utf16.size(); ++i) {
         char32_t character = utf16[i];
         if (isSurrogate(character)) {
-            const char32_t low = i + 1 < utf16.size() ? utf16[i + 1] : char16_t{0};
-            if (character < 0xDC00 && low >= 0xDC00 && low <= 0xDFFF) {
-                character = 0x10000 + ((character - 0xD800) << 10) + (low - 0xDC00);
+            const bool isFollowed = i + 1 < utf16.size() && isLowSurrogate(utf16[i + 1]);
+            if (isHighSurrogate(character) && isFollowed) {
                 ++i;
+                character = 0x10000 + ((character & 0x3FF) << 10) + (utf16[i] & 0x3FF);
             } else {
                 character = replacementCharacter;
             }

@@ -81,9 +81,8 @@ void QTXHexColorsView::paletteMouseDownWithEvent(const HostEvent& event)
 void QTXHexColorsView::pickColor(const std::optional<HostColor>& color)
 {
     if (!color) return;
-    QTXHexColorSpec& spec = _hostHexColorPicker.hexColorSpec();
+    QTXHexColorSpec spec;
     spec.setColorHexColorSpec(color);
-    spec.clearRemainders();
     const HostColor picked = spec.colorHexColorSpec();
     _hostHexColorPicker.setColor(picked);
     panel().setColor(picked);

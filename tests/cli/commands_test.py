@@ -25,6 +25,9 @@ EXAMPLES = [
     (["show", "red"], "", re.compile(r"components:\n  Hex: FF 00 00\n  Integer: 255 0 0\n  Fraction: 1.000 0.000 0.000\n")),
     (["show", "red"], "", re.compile(r"name \(CSS Keyword\): red\n")),
     (["show", "red"], "", re.compile(r"\nsnippets:\n  ObjC fraction: .*\n(  .*\n){10}  VBasic: RGB\(255, 0, 0\)\n\Z")),
+    (["show", "--snippet", "TikZ", "Color( 0xFFFF8000 )"], "", "{rgb,255:red,255; green,128; blue,0}\n"),
+    (["convert", "--to", "hex"], "[NSColor colorWithCalibratedRed:1.00000 green:0.50196 blue:0.00000 alpha:0.50196]\n"
+                                 "    background = QColor(1, 2, 3, 255);\n", "#ff800080\n#010203\n"),
     (["show", "#0008"], "", re.compile(r"\Ahex: #00000088\nrgb: rgba\(0, 0, 0, 0.533\)\n")),
     (["show", "red", "blue"], "", re.compile(r"VBasic: RGB\(255, 0, 0\)\n\nhex: #0000FF\n")),
     (["show", "--list", "SVG Keyword", "salmon"], "", re.compile(r"name \(SVG Keyword\): salmon\n")),
@@ -58,7 +61,7 @@ EXAMPLES = [
     (["lists"], "", "216\tBrowser Safe\t(built in)\n148\tCSS Color 4\t(built in)\n17\tCSS Keyword\t(built in)\n"
      "146\tSVG Keyword\t(built in)\n"),
     (["lists", "--names"], "", "Browser Safe\nCSS Color 4\nCSS Keyword\nSVG Keyword\n"),
-    (["snippets", "--names"], "", re.compile(r"\AObjC fraction\n(.*\n){11}\Z")),
+    (["snippets", "--names"], "", re.compile(r"\AObjC fraction\n(.*\n){10}VBasic\nSwiftUI\n(.*\n){14}ANSI 24 bit\n\Z")),
     (["name", "#663399", "#008080", "#008081"], "", "rebeccapurple (CSS Color 4)\nteal\n* teal\n"),
     (["name", "#663399", "--json"], "", '{"list":"CSS Color 4","exact":"rebeccapurple","close":[]}\n'),
     (["name", "#7fff00", "--list", "SVG Keyword"], "", re.compile(r"\Achartreuse")),
@@ -68,8 +71,10 @@ EXAMPLES = [
     (["list", "--json", "CSS Keyword"], "", re.compile(r'\A\{\n  "name": "CSS Keyword",\n')),
     (["list", "export", "--format", "txt", "CSS Keyword"], "", re.compile(r"\A#800000\tmaroon\n")),
     (["list", "export", "CSS Keyword", "--format", "css", "--output", "-"], "", re.compile(r":root \{\n  --maroon: #800000; /\* maroon \*/\n")),
-    (["snippets"], "", re.compile(r"\AObjC fraction\trgbaFloats\t\[NSColor (.*\n){12}\Z")),
-    (["snippets", "--json"], "", re.compile(r'\{"name":"VBasic","format":"RGB\(%d, %d, %d\)","variables":"rgbFixed"\}\n\Z')),
+    (["snippets"], "", re.compile(r"\AObjC fraction\trgbaFloats\t\[NSColor (.*\n){28}\Z")),
+    (["snippets"], "", re.compile(r"\nJava NSInteger A\trgbaPackedInt\tColor\(0x%x\)\tan opacity of 0 is lost .*\n")),
+    (["snippets", "--json"], "", re.compile(r'\n\{"name":"VBasic","format":"RGB\(%d, %d, %d\)","variables":"rgbFixed",'
+                                            r'"from":"settings","limits":\[\]\}\n')),
     (["contrast", "white", "#767676"], "", "ratio: 4.54\nnormal text AA: passes\nnormal text AAA: fails\n"
      "large text AA: passes\nlarge text AAA: passes\ncomponents AA: passes\n"),
     (["contrast", "white", "#777777"], "", re.compile(r"\Aratio: 4.47\nnormal text AA: fails\n")),
@@ -90,7 +95,9 @@ EXAMPLES = [
 ]
 
 # Options that other tests cover.
-TRIED_ELSEWHERE = {"list import": {"--name", "--yes"}, "list publish": {"--yes", "--undo"},
+TRIED_ELSEWHERE = {"lsp": {"--stdio"},
+                   "sheet": {"--fail-on", "--json", "--list", "--svg", "--png", "--size"},
+                   "list import": {"--name", "--yes"}, "list publish": {"--yes", "--undo"},
                    "palette": {"--png", "--size"}, "pick": {"--copy"}, "list export": {"--output"},
                    "dialogs": {"--status", "--on", "--off"}}
 
@@ -231,10 +238,79 @@ class Commands(ProgramTest):
                          "oklch: oklch(79.269% 0.17103 70.67)\ncomponents:\n  Hex: ff a5 00\n  Integer: 255 165 0\n"
                          "  Fraction: 1.000 0.647 0.000\nname (SVG Keyword): orange\nsnippets:\n  Mine: mine(255, 165, 0)\n")
         self.assertEqual(self.output_of("name", "orange"), "orange\n")
-        self.assertEqual(self.output_of("snippets"), "Mine\trgbFixed\tmine(%d, %d, %d)\n")
+        self.assertTrue(self.output_of("snippets").startswith("Mine\trgbFixed\tmine(%d, %d, %d)\nSwiftUI\t"))
         self.assertEqual(self.output_of("show", stdin="#FFA500\n"), "ffa500\trgb(255, 165, 0)\n")
         self.assertEqual(self.output_of("show", "--uppercase", "--pound-sign", stdin="#ffa500\n"), "#FFA500\trgb(255, 165, 0)\n")
         self.assertEqual(self.output_of("wheel", "--svg", "-").count("<path"), 6 * 9)
+
+    def test_the_users_own_snippets_come_before_those_of_the_program(self):
+        own = self.write(self.path(".local/share/Vantorel/Snippets.plist"),
+                         '({NameSnippet = "UIKit"; FormatSnippet = "UIColor(hex: 0x%06x)"; VarsSnippet = rgbPackedInt;},'
+                         ' {NameSnippet = Odd; FormatSnippet = "odd(%d%d, %d)"; VarsSnippet = rgbFixed;},'
+                         ' {NameSnippet = GLSL; FormatSnippet = "vec3(%.3f, %.3f, %.3f)"; VarsSnippet = rgbFloats;})')
+        content = self.read(own)
+        names = self.output_of("snippets", "--names").splitlines()
+        self.assertEqual(names[11:16], ["VBasic", "UIKit", "Odd", "GLSL", "SwiftUI"])
+        self.assertEqual(names.count("GLSL"), 1)
+        self.assertEqual(self.output_of("show", "--snippet", "UIKit", "vec3(1.0, 0.502, 0)"), "UIColor(hex: 0xff8000)\n")
+        self.assertTrue(self.output_of("show", "UIColor( hex:0xFF8000 )").endswith(
+            "  VBasic: RGB(255, 128, 0)\n  UIKit: UIColor(hex: 0xff8000)\n  Odd: odd(255128, 0)\n"
+            "  GLSL: vec3(1.000, 0.502, 0.000)\n"))
+        rows = {row["name"]: row for row in map(json.loads, self.output_of("snippets", "--json").splitlines())}
+        self.assertEqual([rows[name]["from"] for name in ("VBasic", "UIKit", "SwiftUI")], ["settings", "own", "program"])
+        self.assertEqual(rows["Odd"]["limits"], ["red is not separated from what follows, so that some lines have two meanings"])
+        self.assertEqual(self.read(own), content)
+
+    def test_errors_in_the_users_snippets_are_reported_and_the_others_are_there(self):
+        own = self.write(self.path(".local/share/Vantorel/Snippets.plist"),
+                         '({NameSnippet = Mine; FormatSnippet = "mine(%d)"; VarsSnippet = rgbPackedInt;}, {NameSnippet = Half;})')
+        error = self.error_of("snippets", "--names")
+        self.assertEqual(error, f'vantorel: "{own}", entry 2, has no FormatSnippet: write it as {{ NameSnippet = "..."; '
+                         'FormatSnippet = "..."; VarsSnippet = ...; }\n')
+        run = self.run_program("show", "--snippet", "Mine", "mine(255)")
+        self.assertEqual((run.returncode, run.stdout, run.stderr.decode()), (0, b"mine(255)\n", error))
+        self.write(own, "(\n{NameSnippet = a b;}\n)")
+        self.assertIn(", line 2: this is not a property list: ", self.error_of("snippets"))
+        self.assertEqual(self.output_of("show", stdin="#ff8000\n"), "#FF8000\trgb(255, 128, 0)\n", "they are not needed")
+
+    def test_a_style_sheet_is_checked(self):
+        self.write(self.path("a.css"), ":root { --sun: #ff8000 }\na { color: var(--sun); background: white }\n")
+        self.write(self.path("b.scss"), "$near: #ff8103;\nb { color: #000; background: $near; border-color: rgb(255 128 0 / 50%) }\n")
+        self.write(self.path("clean.css"), "a { color: black; background: white }")
+
+        def sheet(*arguments, stdin=b""):
+            run = self.run_program("sheet", *arguments, cwd=self.home, stdin=stdin)
+            return run.returncode, run.stdout.decode(), run.stderr.decode()
+
+        self.assertEqual(sheet("a.css", "b.scss"), (1, "colours: 5\n  2\t#ff8000\t--sun\n  2\t#ff8103\t$near\n  1\t#ffffff\twhite\n"
+                                                    "  1\t#000000\tblack\n  1\t#ff800080\nnear doubles: 1\n"
+                                                    "  #ff8000\t#ff8103\t0.22\tb.scss:1\ncontrast below AA: 1\n"
+                                                    "  #ff8000\t#ffffff\t2.51\ta.css:2\n", ""))
+        for what, status in (("any", 1), ("contrast", 0), ("doubles", 1), ("never", 0)):
+            self.assertEqual(sheet("b.scss", "-", "--fail-on", what, stdin=b"p { color: #ff8000 }")[0], status, what)
+        self.assertEqual(sheet("clean.css"), (0, "colours: 2\n  1\t#000000\tblack\n  1\t#ffffff\twhite\nnear doubles: 0\n"
+                                              "contrast below AA: 0\n", ""))
+        found = json.loads(sheet("a.css", "b.scss", "--json")[1])
+        self.assertEqual(found["colors"][0], {"hex": "#ff8000", "count": 2, "variables": ["--sun"], "name": None, "file": "a.css", "line": 1})
+        self.assertEqual(found["nearDoubles"], [{"first": "#ff8000", "second": "#ff8103", "difference": 0.22, "file": "b.scss", "line": 1}])
+        self.assertEqual(found["lowContrasts"], [{"foreground": "#ff8000", "background": "#ffffff", "ratio": 2.51, "file": "a.css", "line": 2}])
+        self.write(self.path("Sun.swift"), "let sun = Color(red: 1.000, green: 0.502, blue: 0.000, opacity: 1.000)")
+        self.assertIn("  1\t#ff8000\n", sheet("Sun.swift")[1])
+        self.write_list("Mine", ["255 128 0 Sun", "0 0 0 Ink"])
+        self.assertIn("  2\t#ff8000\t--sun, Sun\n", sheet("a.css", "--list", "Mine")[1])
+
+    def test_pictures_of_style_sheets_have_every_colour(self):
+        self.write(self.path("a.css"), "a { color: #ff8000; background: rgb(0 0 255 / 50%) }")
+        picture = self.output_of("sheet", "a.css", "--fail-on", "never", "--svg", "-", "--size", "200x100", cwd=self.home)
+        self.assertTrue(picture.startswith("<?xml"), picture)
+        self.assertIn('width="200" height="100"', picture)
+        self.assertIn("#ff8000 x 1", picture)
+        self.assertIn('fill="#7f7fff"', picture)
+        self.assertNotIn("colours: 2", picture)
+        self.assertTrue(self.output_of("sheet", "a.css", "--fail-on", "never", "--png", "a.png", cwd=self.home).startswith("colours: 2"))
+        self.assertTrue(self.read(self.path("a.png")).startswith(b"\x89PNG"))
+        error = self.error_of("sheet", "a.css", "none.css", cwd=self.home)
+        self.assertIn('"none.css" cannot be read', error)
 
     def test_damaged_settings_count_as_defaults_and_are_kept(self):
         for damage in (b"{ EntryForm = ", b"\xff\x00\xfe", b""):
@@ -256,7 +332,7 @@ class Commands(ProgramTest):
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)
-        self.assertEqual(len(commands), 29)
+        self.assertEqual(len(commands), 31)
         for command in commands + ["list import", "list export", "list publish"]:
             if command == "panel":
                 continue

@@ -99,7 +99,7 @@ class Descriptions(ProgramTest):
         self.need("bash")
         self.write(os.path.join(self.root, "palette.gpl"), "x")
         for words, completions in [
-            (("sh",), {"show"}), (("simulate", "d"), {"deuteranopia"}), (("sort", "--by", "c"), {"chroma", "contrast"}),
+            (("she",), {"sheet"}), (("sh",), {"show", "sheet"}), (("sheet", "--fail-on", "d"), {"doubles"}), (("simulate", "d"), {"deuteranopia"}), (("sort", "--by", "c"), {"chroma", "contrast"}),
             (("nearest", "--list", "C"), {"CSS Color 4", "CSS Keyword"}), (("show", "--l"), {"--lowercase", "--list"}), (("list", "p"), {"publish", "palette.gpl"} - {"palette.gpl"}),
             (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help", "--panel"}),
             (("list", "import", "pal"), {"palette.gpl"}), (("palette", "x", "--svg", "pal"), {"palette.gpl"}),

@@ -34,6 +34,7 @@ class Document(ProgramTest):
         bin_folder = os.path.join(self.root, "bin")
         os.mkdir(bin_folder)
         shutil.copy(PROGRAM, os.path.join(bin_folder, "vantorel"))
+        shutil.copytree(os.path.join(os.path.dirname(PROGRAM), "../share"), os.path.join(self.root, "share"))
         user = "#!/bin/sh\n# Picks #ff8000, and chooses what is offered.\n[ \"$1\" = --choose ] && echo \"$3\" || echo '#ff8000'\n"
         os.chmod(self.write(os.path.join(bin_folder, "vantorel-panel"), user), 0o755)
         self.environment["PATH"] = bin_folder + ":" + self.environment["PATH"]

@@ -39,6 +39,11 @@ class Terminal(ProgramTest):
             self.assertNotIn("\x1b", self.at_terminal("show", "#ff8000", **variables)[1], variables)
         # Set but empty counts as not set.
         self.assertIn("\x1b", self.at_terminal("show", "red", COLORTERM="truecolor", NO_COLOR="")[1])
+        for color, number in (("#ff8700", 208), ("#ff8000", 208), ("black", 16), ("white", 231), ("#808080", 244), ("#5f87af", 67)):
+            seen = self.at_terminal("convert", "--to", "hex", color, TERM="screen-256color", COLORTERM="")[1]
+            self.assertIn(f"\x1b[48;5;{number}m      \x1b[0m #", seen, color)
+        self.assertNotIn("\x1b", self.at_terminal("show", "red", TERM="xterm-256color", NO_COLOR="1")[1])
+        self.assertIn("\x1b[48;2;", self.at_terminal("show", "red", TERM="xterm-256color", COLORTERM="24bit")[1])
         for command in (["convert", "--to", "rgb"], ["lighten", "0"], ["gradient", "red"]):
             self.assertIn("\x1b[48;2;255;128;0m      \x1b[0m ", self.at_terminal(*command, "#ff8000", "#ff8000", COLORTERM="truecolor")[1])
         self.assertIn("\x1b[48;2;255;0;0m", self.at_terminal("list", "CSS Keyword", COLORTERM="truecolor")[1])

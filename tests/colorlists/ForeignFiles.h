@@ -44,6 +44,8 @@ public:
     }
     /// Makes a file or folder unreadable from now on; it still exists.
     void makeUnreadable(const std::string& path) { _unreadable.insert(path); }
+    /// Makes a file unreadable after it has been read once more.
+    void letReadOnce(const std::string& path) { _readableOnce.insert(path); }
 
     [[nodiscard]] std::optional<std::string> applicationSupportDirectory() const override
     {
@@ -71,6 +73,7 @@ public:
     {
         readPaths.push_back(path);
         if (_unreadable.contains(path)) return std::nullopt;
+        if (_readableOnce.erase(path) > 0) _unreadable.insert(path);
         return MemoryFiles::contentsAtPath(path);
     }
 
@@ -86,7 +89,9 @@ public:
 
 private:
     Home _home;
-    std::set<std::string> _unreadable;
+    // Mutable, because reading is const.
+    mutable std::set<std::string> _unreadable;
+    mutable std::set<std::string> _readableOnce;
 };
 
 }  // namespace vantorel

@@ -54,6 +54,37 @@ TEST_F(ForeignPalettesTest, OurInstalledListsAreOfferedAndReadOnly)
     EXPECT_EQ(_store.pathOfOwnList(u"CSS Color 4"), std::nullopt);
 }
 
+TEST_F(ForeignPalettesTest, AListThatCannotBeComparedIsNotTakenForAnother)
+{
+    for (const std::string& unreadable : {gimp + "x.gpl", userGimp + "x.gpl"}) {
+        ForeignFiles files;
+        files.putPalette(gimp + "x.gpl", "Shades", 3);
+        files.putPalette(userGimp + "x.gpl", "Shades", 3);
+        files.letReadOnce(unreadable);
+        PaletteFileStore store(files);
+        EXPECT_THAT(store.availableColorLists(), ElementsAre(u"Shades", u"Shades (GIMP)"));
+    }
+}
+
+TEST_F(ForeignPalettesTest, ListsThatDifferInOneColourAreBothListed)
+{
+    const std::string head = "GIMP Palette\nName: Shades\n";
+    for (const char* other : {"9 2 3\ta\n4 5 6\tb\n", "1 2 3\ta\n4 5 9\tb\n"}) {
+        ForeignFiles files;
+        files.put(gimp + "x.gpl", head + other);
+        files.put(userGimp + "x.gpl", head + "1 2 3\ta\n4 5 6\tb\n");
+        PaletteFileStore store(files);
+        EXPECT_THAT(store.availableColorLists(), ElementsAre(u"Shades", u"Shades (GIMP)"));
+    }
+}
+
+TEST_F(ForeignPalettesTest, HiddenFoldersAreNotVersions)
+{
+    _files.putPalette("/home/user/.config/GIMP/.trash/palettes/x.gpl", "Hidden", 3);
+    _files.putPalette("/home/user/.config/GIMP/other/palettes/x.gpl", "Shown", 3);
+    EXPECT_THAT(_store.availableColorLists(), ElementsAre(u"Shown"));
+}
+
 TEST_F(ForeignPalettesTest, BlanksAroundForeignNamesAreTrimmed)
 {
     _files.put(gimp + "a.gpl", "GIMP Palette\nName:\t Oxygen\t\n1 2 3\tx\n");

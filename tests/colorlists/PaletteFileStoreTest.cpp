@@ -213,6 +213,20 @@ TEST_F(PaletteFileStoreTest, AListIsSavedToTheFileItCameFrom)
     EXPECT_EQ(_files.contentsOfDirectory(folder), std::vector<std::string>{"other.gpl"});
 }
 
+TEST_F(PaletteFileStoreTest, AListThatWasWrittenIsNotReadBack)
+{
+    const auto first = listNamed(u"Mine");
+    const auto path = _store.writeNewFile(first, paletteText(*first));
+    ASSERT_TRUE(path);
+    EXPECT_EQ(_store.colorListNamed(u"Mine"), first);
+    const auto second = listNamed(u"Mine");
+    ASSERT_TRUE(_store.replaceFile(*path, second, paletteText(*second)));
+    EXPECT_EQ(_store.colorListNamed(u"Mine"), second);
+    const auto third = listNamed(u"Mine");
+    ASSERT_TRUE(_store.writeColorList(third));
+    EXPECT_EQ(_store.colorListNamed(u"Mine"), third);
+}
+
 TEST_F(PaletteFileStoreTest, SavingAgainInAnotherProcessCreatesNoSecondFile)
 {
     for (const std::u16string& name : {std::u16string(u"a\tb"), std::u16string(),
@@ -233,6 +247,14 @@ TEST_F(PaletteFileStoreTest, OnlyTheFirstOfManyBadLinesAreLogged)
     ASSERT_NE(_store.colorListNamed(u"a"), nullptr);
     EXPECT_LT(_log.size(), 200U);
     EXPECT_NE(_log.back().find(u"4900 more"), std::u16string::npos);
+
+    // The first that is counted and not logged.
+    text = "GIMP Palette\n1 2 3 x\n";
+    for (std::size_t i = 0; i <= PaletteReading::mostSkippedLines; ++i)
+        text += "bad\n";
+    put("b.gpl", text);
+    ASSERT_NE(_store.colorListNamed(u"b"), nullptr);
+    EXPECT_NE(_log.back().find(u"1 more"), std::u16string::npos);
 }
 
 /// On the real disk, where another program may also overwrite a file in place.

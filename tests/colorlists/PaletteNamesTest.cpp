@@ -170,6 +170,9 @@ TEST(PaletteVersionsTest, TheNewestVersionComesFirst)
     std::sort(versions.begin(), versions.end(), isNewerVersion);
     EXPECT_THAT(versions, ElementsAre("18446744073709551616", "10.0", "3.0", "3", "2.99.16", "2.99",
                                       "2.10", "2.010", "2.9", "2.8", "2", "backup", "3.0-old", ""));
+    EXPECT_TRUE(isNewerVersion("3.0.1", "3.00"));
+    EXPECT_FALSE(isNewerVersion("3.00", "3.0.1"));
+    EXPECT_FALSE(isNewerVersion("2.10", "2.10"));
 }
 
 }  // namespace

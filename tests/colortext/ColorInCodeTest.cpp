@@ -42,6 +42,11 @@ TEST(ColorInCodeTest, TheAlphaIsRead)
     EXPECT_EQ(bytesOf(u"Color(1, 2, 3, 4)"), (std::vector{1, 2, 3, 4}));
 }
 
+TEST(ColorInCodeTest, QuotientsAreFractions)
+{
+    EXPECT_EQ(bytesOf(u"Color(1 / 1, 0.5 / 1, 1 / 5)"), (std::vector{255, 128, 51, 255}));
+}
+
 TEST(ColorInCodeTest, OtherLinesAreNoColours)
 {
     for (const char16_t* line :
@@ -72,6 +77,31 @@ TEST(ColorInTextTest, ColorsOfCSSDeclarationsAndCodeAreRead)
         EXPECT_EQ(read->color, orange);
     }
     EXPECT_FALSE(colorInText(u"teapot"));
+}
+
+TEST(ColorInSnippetsTest, ALineIsFoundInAText)
+{
+    const SnippetReaders readers({QTXCodeSnippet(u"mine", u"UIColor(hex: 0x%06x)", u"rgbPackedInt"),
+                                  QTXCodeSnippet(u"vb", u"RGB(%d, %d, %d)", u"rgbFixed")});
+    const HostColor orange = HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 1);
+    for (const char16_t* text :
+         {u"UIColor( hex: 0xFF8000 )\n", u"let c = UIColor(hex: 0xff8000) // mine",
+          u"a = RGB(255, 128, 0); b = UIColor(hex: 0xff8000)"}) {
+        EXPECT_EQ(colorInSnippets(text, readers), orange);
+        EXPECT_EQ(colorInText(text, readers)->color, orange);
+    }
+    for (const char16_t* text : {u"a = RGB(1, 2, 3); b = RGB(1, 2, 4)",
+                                 u"rgb(1 2 3 4) RGB(1, 2, 3)", u"UIColor(hex: 0xff80)", u""}) {
+        EXPECT_FALSE(colorInSnippets(text, readers));
+    }
+}
+
+TEST(ColorInTextTest, TheLineOfASnippetIsReadExactly)
+{
+    const auto read = colorInText(u"Color(1.00000, 0.50196, 0.00000)");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->color, HostColor::colorWithCalibratedRed(1, 128 / 255.0, 0, 1));
+    EXPECT_EQ(read->value.components[1], 128 / 255.0);
 }
 
 }  // namespace

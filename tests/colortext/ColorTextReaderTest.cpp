@@ -39,6 +39,13 @@ TEST(ColorTextReaderTest, TheFastPathAgreesWithTheSlowOneOrDefersToIt)
         EXPECT_FALSE(readPlainHex(text)) << text;
 }
 
+TEST(ColorTextReaderTest, ShortCodesHaveThreeDigits)
+{
+    EXPECT_EQ(codeOf(readShortHex("1aF")), "11aaff");
+    for (const char* text : {"", "12", "1234", "g12", "1g2", "12g"})
+        EXPECT_FALSE(readShortHex(text)) << text;
+}
+
 TEST(ColorTextReaderTest, ANameOfCSSIsTheSameWithABlankBeforeIt)
 {
     // The name alone takes a shorter way.
@@ -113,6 +120,21 @@ TEST(ColorTextReaderTest, AListIsLoadedOnceAndOnlyToLookUpNames)
     EXPECT_EQ(codeOf(reader.read("moss RGB(1,2,3)")), "00ff00");
     EXPECT_EQ(codeOf(reader.read("nothing")), "none");
     EXPECT_EQ(asked, 1);
+}
+
+TEST(ColorTextReaderTest, LinesOfSnippetsAreReadAfterNames)
+{
+    const SnippetReaders snippets(QTXCodeSnippet::buildDefaultCodeSnippets());
+    auto list = std::make_shared<HostColorList>(u"mine");
+    list->setColor(HostColor::whiteColor(), u"Color(0xff0000)");
+    ColorTextReader reader([&] { return list; }, CSSTheme::unknown, [&] { return &snippets; });
+    EXPECT_EQ(reader.read("Color(0xff0000)")->green, 255);
+    const auto translucent = reader.read("Color(0x80ff0000)");
+    ASSERT_TRUE(translucent);
+    EXPECT_EQ(translucent->red, 255);
+    EXPECT_EQ(translucent->alpha, 128 / 255.0);
+    EXPECT_TRUE(reader.read("c = RGB(1, 2, 3)"));
+    EXPECT_FALSE(reader.read("rgb(1 2 3 4) = RGB(1, 2, 3)"));
 }
 
 }  // namespace

@@ -47,6 +47,13 @@ TEST(CSSCalculationTest, NumbersOfAnySizeAreRead)
     EXPECT_DOUBLE_EQ(redOf("calc(100" + std::string(100, '0') + "e-101)"), 10);
     EXPECT_DOUBLE_EQ(redOf("calc(0." + std::string(400, '0') + "1e402)"), 10);
     EXPECT_DOUBLE_EQ(redOf("calc(1" + std::string(50, '3') + "e-49)"), 13 + 1.0 / 3);
+    // Halfway between two doubles, the next digit decides, up to the 40th digit.
+    const auto afterHalfway = [](std::size_t zeros) {
+        const std::string number = "9007199254740993." + std::string(zeros, '0') + "1";
+        return redOf("calc(" + number + " - 9007199254740992)");
+    };
+    EXPECT_EQ(afterHalfway(23), 2);
+    EXPECT_EQ(afterHalfway(24), 0);
     // Numbers that are closer to 0 count as 0.
     const std::string factor = " * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e38 * 1e37)";
     EXPECT_NEAR(redOf("calc(1e-301" + factor), 100, 1e-9);

@@ -69,7 +69,7 @@ TEST(CSSColorErrorsTest, HexColours)
          R"~("g" is not a hex digit; use digits 0 to 9 and letters a to f after the "#".)~"},
         {"#ff80x0",
          R"~("x" is not a hex digit; use digits 0 to 9 and letters a to f after the "#".)~"},
-        {"#ff\xF0\x9F\x8E\xA8",
+        {"#ff\xF0\x9F\x8E\xA8g",
          "\"\xF0\x9F\x8E\xA8\" is not a hex digit; use digits 0 to 9 and letters a to f after the "
          "\"#\"."},
         {"12", R"~(A hex colour without "#" has 3 or 6 digits, not 2.)~"},

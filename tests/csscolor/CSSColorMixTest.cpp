@@ -86,6 +86,28 @@ TEST(CSSColorMixTest, AnArcLeadsFromHueToHue)
     }
 }
 
+TEST(CSSColorMixTest, BetweenEqualHuesTheLongerArcIsAWholeTurnUp)
+{
+    const auto reading =
+        readCSSColor("color-mix(in lch longer hue, lch(50 20 40), lch(50 20 40) 25%)");
+    EXPECT_NEAR(reading->value.components[2], 130, 1e-9);
+}
+
+TEST(CSSColorMixTest, AMixtureOutsideSRGBIsMappedLikeAnyOtherColour)
+{
+    const std::string green = "color(display-p3 0 1 0)";
+    EXPECT_EQ(outcomeOf("color-mix(in display-p3, " + green + ", " + green + ")"),
+              outcomeOf(green));
+}
+
+TEST(CSSColorMixTest, CalculatedSharesAreLimitedTo100Percent)
+{
+    EXPECT_EQ(outcomeOf("color-mix(in srgb, red calc(100.9%), blue 1%)"),
+              outcomeOf("color-mix(in srgb, red 100%, blue 1%)"));
+    EXPECT_EQ(readCSSColor("color-mix(in srgb, red calc(101%), blue 100%)")->value.components[0],
+              0.5);
+}
+
 TEST(CSSColorMixTest, AMixtureCanBeMixedAgain)
 {
     EXPECT_EQ(outcomeOf("color-mix(in srgb, color-mix(in srgb, red, blue), white)"), "bf80bf");
@@ -167,6 +189,8 @@ TEST(NestedColorTest, WrongColoursAreExplained)
          R"~(A comma is missing before "blue"; write "color-mix(in oklab, red 30%, blue)")~"},
         {R"~(color-mix(in oklab, red -1%, blue))~",
          R"~(The share of a colour must be from 0% to 100%, not "-1%")~"},
+        {R"~(color-mix(in oklab, red 100.5%, blue))~",
+         R"~(The share of a colour must be from 0% to 100%, not "100.5%")~"},
         {R"~(color-mix(in oklab, red calc(1), blue))~",
          R"~(The share of a colour must be a percentage; write "color-mix(in oklab, red 30%, blue)")~"},
         {R"~(color-mix(in oklab, red 0%, blue 0%))~",

@@ -359,6 +359,16 @@ TEST(CSSColorReaderTest, NumbersAreReadAsTheNearestDouble)
     EXPECT_FALSE(std::signbit(readCSSColor("color(srgb -0.0 0 0)")->value.components[0]));
 }
 
+TEST(CSSColorReaderTest, ATextStartsAsAColourFunctionByItsFirstWord)
+{
+    for (const char16_t* text :
+         {u"rgb(", u" OKLCH(1 2", u"color-mix(in", u"light-dark(a", u"hwb()x"})
+        EXPECT_TRUE(startsCSSColorFunction(text)) << utf8FromUtf16(text);
+    for (const char16_t* text :
+         {u"", u"rgb", u"rgb (", u"calc(1)", u"var(--a)", u"red", u"a rgb(1"})
+        EXPECT_FALSE(startsCSSColorFunction(text)) << utf8FromUtf16(text);
+}
+
 TEST(CSSColorReaderTest, BothSpellingsOfGreyNameOneColour)
 {
     for (const std::string prefix :

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace vantorel {
 namespace {
@@ -85,6 +86,32 @@ TEST(GamutMappingTest, MappingDoesNotNoticeablyChangeHueOrLightness)
         }
     }
     EXPECT_GT(outside, 5000);
+}
+
+TEST(GamutMappingTest, ColoursOfTheDesktopAreMappedLikeOthers)
+{
+    const ColorTriple wide = convertedColor({0, 1, 0}, ColorSpace::displayP3, ColorSpace::srgb);
+    const auto colorOf = [](const ColorTriple& srgb) {
+        return HostColor::colorWithCalibratedRed(srgb[0], srgb[1], srgb[2], 0.5);
+    };
+    EXPECT_TRUE(isOutsideSRGB(colorOf(wide)));
+    EXPECT_FALSE(isOutsideDisplayP3(colorOf(wide)));
+    EXPECT_EQ(mappedIntoSRGB(colorOf(wide)), colorOf(mappedIntoSRGB(wide)));
+    const ColorTriple wider = convertedColor({0, 1, 0}, ColorSpace::rec2020, ColorSpace::srgb);
+    EXPECT_TRUE(isOutsideDisplayP3(colorOf(wider)));
+}
+
+TEST(GamutMappingTest, OtherColoursOfTheDesktopStayAsTheyAre)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const HostColor& color :
+         {HostColor::colorWithCalibratedRed(0.1, 0.2, 0.7, 0.3), HostColor::patternColor(),
+          HostColor::colorWithCalibratedRed(infinity, 0, 0, 1)}) {
+        EXPECT_FALSE(isOutsideSRGB(color));
+        EXPECT_FALSE(isOutsideDisplayP3(color));
+        EXPECT_EQ(mappedIntoSRGB(color), color);
+    }
+    EXPECT_FALSE(isOutsideSRGB(HostColor::colorWithCalibratedRed(std::nan(""), 2, 0, 1)));
 }
 
 }  // namespace

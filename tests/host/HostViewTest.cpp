@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <functional>
+#include <iterator>
 #include <memory>
+#include <string>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -101,6 +106,80 @@ TEST(HostViewTest, BoundsHaveTheFramesSizeAndAnOriginOfTheirOwn)
     EXPECT_EQ(view.bounds(), (HostRect{10, 20, 30, 40}));
     view.setFrame({0, 0, 50, -3});
     EXPECT_EQ(view.bounds(), (HostRect{10, 20, 50, 0}));
+}
+
+/// Writes down which hooks are called.
+class HookedView final : public HostView {
+public:
+    using HostView::HostView;
+
+    [[nodiscard]] std::string takeCalls() { return std::exchange(_calls, {}); }
+
+protected:
+    void frameDidChange() override { _calls += "frame "; }
+    void boundsDidChange() override { _calls += "bounds "; }
+    void hierarchyDidChange() override { _calls += "hierarchy "; }
+    void parkedDidChange() override { _calls += "parked "; }
+    void groundColorDidChange() override { _calls += "ground "; }
+    void toolTipDidChange() override { _calls += "tip "; }
+    void displayDidBecomeNeeded(HostRect rect) override
+    {
+        _calls += "display " + std::to_string(std::lround(rect.width)) + " ";
+    }
+
+private:
+    std::string _calls;
+};
+
+TEST(HostViewTest, DesktopsLearnOfEachChangeOnce)
+{
+    HostView superview({});
+    HookedView view({0, 0, 10, 10});
+    struct Row {
+        std::function<void()> change;
+        const char* calls;
+    };
+    const Row rows[] = {
+        {[&] {
+             view.setFrame({0, 0, 20, 10});
+         },
+         "frame "},
+        {[&] {
+             view.setFrameOrigin({1, 1});
+         },
+         "frame "},
+        {[&] {
+             view.setBounds({1, 0, 0, 0});
+         },
+         "bounds "},
+        {[&] { superview.addSubview(view); }, "hierarchy display 20 "},
+        {[&] { superview.addSubview(view); }, ""},
+        {[&] { view.setParked(true); }, "parked "},
+        {[&] { view.setParked(false); }, "parked "},
+        {[&] { view.setGroundColor(HostColor::whiteColor()); }, "ground "},
+        {[&] { view.setGroundColor(std::nullopt); }, "ground "},
+        {[&] { view.setToolTip(u"Tip"); }, "tip "},
+        {[&] { view.setToolTip(std::nullopt); }, "tip "},
+        {[&] { view.setNeedsDisplay(true); }, "display 20 "},
+        {[&] { view.setNeedsDisplay(false); }, ""},
+        {[&] {
+             view.setNeedsDisplayInRect({0, 0, 5, 5});
+         },
+         "display 5 "},
+        {[&] { view.removeFromSuperview(); }, "hierarchy "},
+        {[&] { view.removeFromSuperview(); }, ""},
+    };
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        rows[i].change();
+        EXPECT_EQ(view.takeCalls(), rows[i].calls) << "row " << i;
+    }
+    // What is as it was already is not a change.
+    view.setParked(false);
+    view.setGroundColor(std::nullopt);
+    view.setToolTip(std::nullopt);
+    view.setFrame(view.frame());
+    view.setBounds(view.bounds());
+    EXPECT_EQ(view.takeCalls(), "");
 }
 
 TEST(HostViewTest, MarksViewsForRedrawing)

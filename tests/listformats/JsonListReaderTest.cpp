@@ -44,6 +44,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         JsonRow{R"({"name": "L", "colors": [{"name": "a", "hex": "red"}, {"hex": "#000"}]})",
                 "L: a=red =black"},
+        JsonRow{R"({"colors": [{"name": "a", "hex": "red"}, {"name": "b"}, {"hex": "red"}]})",
+                ": a=red =red -1"},
         JsonRow{R"({"colors": ["red", 1, null, [], ["red"], {"name": "x"}, {"hex": {}}]})",
                 ": =red -6"},
         JsonRow{R"({"colors": {"a": "red", "b": true, "c": {"hex": "red"}}, "name": "L"})",

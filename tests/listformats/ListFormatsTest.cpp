@@ -57,7 +57,7 @@ TEST(ListFormatsTest, TheFirstCommentAfterADeclarationIsTheName)
 TEST(ListFormatsTest, ADeclarationBeginsWithItsName)
 {
     for (const char* text : {"a--b: red;", "a$b: red;", "--: red;", "$: red;", "--b red;", "--b;",
-                             "-b: red;", "_--b: red;", "\u00e9--b: red;"}) {
+                             "-b: red;", "_--b: red;", "\u00e9--b: red;", "--b", "$b", "--", "$"}) {
         const auto css = readColorList(text, "x.scss");
         EXPECT_TRUE(!css || css->list->allKeys().empty()) << text;
     }

@@ -71,6 +71,8 @@ TEST(SwatchExchangeTest, EveryColourModelIsRead)
         {"RGB ", {0.5F, 0.25F, 0.75F}, "#8040bf\tx\n"},
         {"Gray", {0.2F}, "#333333\tx\n"},
         {"CMYK", {0.2F, 0.6F, 0.9F, 0.5F}, "#66330d\tx\n"},
+        // Values far outside are limited to 1000.
+        {"CMYK", {-2000, 1, 1, 0.999214903F}, "#c80000\tx\n"},
         {"LAB ", {0.5F, 40, 20}, "#b95857\tx\n"},
         {"LAB ", {1, 0, 0}, "#ffffff\tx\n"},
         {"LAB ", {0.5F, 0, -60}, "#007bde\tx\n"},
@@ -84,6 +86,31 @@ TEST(SwatchExchangeTest, EveryColourModelIsRead)
     ASSERT_TRUE(unknown);
     EXPECT_TRUE(unknown->list->allKeys().empty());
     EXPECT_EQ(unknown->skipped, 1U);
+}
+
+TEST(SwatchExchangeTest, ListsAreWrittenAsAGroupOfNormalColours)
+{
+    HostColorList one(u"L");
+    one.setColor(HostColor::colorWithCalibratedRed(1, 0, 0, 1), u"x");
+    const auto text = [](std::string_view letter) {
+        return std::string("\0\2\0", 3) + std::string(letter) + std::string("\0\0", 2);
+    };
+    std::string bytes = "ASEF";
+    appendBigEndian(bytes, 0x00010000, 4);
+    appendBigEndian(bytes, 3, 4);
+    appendBigEndian(bytes, 0xC001, 2);
+    appendBigEndian(bytes, 6, 4);
+    bytes += text("L");
+    appendBigEndian(bytes, 1, 2);
+    appendBigEndian(bytes, 24, 4);
+    bytes += text("x") + "RGB ";
+    appendBigEndian(bytes, std::bit_cast<std::uint32_t>(1.0F), 4);
+    appendBigEndian(bytes, 0, 4);
+    appendBigEndian(bytes, 0, 4);
+    appendBigEndian(bytes, 2, 2);
+    appendBigEndian(bytes, 0xC002, 2);
+    appendBigEndian(bytes, 0, 4);
+    EXPECT_EQ(swatchExchangeBytes(one), bytes);
 }
 
 TEST(SwatchExchangeTest, EveryTruncatedFileIsRejected)

@@ -117,6 +117,9 @@ class SharedDataTest(TreeTest):
         self.assertEqual(lines[:2], ["GIMP Palette", "Name: CSS Color 4"])
         self.assertEqual(len([line for line in lines if re.match(r" *\d+ +\d+ +\d+\t[a-z]+$", line)]), 148)
 
+    def test_the_snippets_of_the_program_are_found(self):
+        self.assertIn("\nSwiftUI\n", self.passes(f"{TREE}/bin/vantorel", "snippets", "--names"))
+
     def test_the_command_line_speaks_the_users_language(self):
         for language, usage in (("de", "Aufruf"), ("es", "Uso"), ("fr", "Utilisation")):
             for program in ("vantorel", "vantorel-panel"):

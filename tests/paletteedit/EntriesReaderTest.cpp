@@ -31,14 +31,13 @@ TEST(EntriesReaderTest, StepsReadWhatOneStepReads)
 
         EntriesReader other(palette(10, last), path);
         EXPECT_TRUE(other.readLines(100));
-        const auto file = reader.takeFile();
-        const auto otherFile = other.takeFile();
-        ASSERT_TRUE(file && otherFile);
-        EXPECT_EQ(file->state.name, u"Long");
-        EXPECT_EQ(*file->state.entries, *otherFile->state.entries);
-        EXPECT_EQ(file->hasOtherLines, *last != '\0');
-        EXPECT_EQ(otherFile->hasOtherLines, *last != '\0');
-        EXPECT_EQ(file->state.bytes != nullptr, *last != '\0');
+        const auto state = reader.takeState();
+        const auto otherState = other.takeState();
+        ASSERT_TRUE(state && otherState);
+        EXPECT_EQ(state->name, u"Long");
+        EXPECT_EQ(*state->entries, *otherState->entries);
+        EXPECT_EQ(state->bytes != nullptr, *last != '\0');
+        EXPECT_EQ(otherState->bytes != nullptr, *last != '\0');
     }
 }
 
@@ -55,9 +54,9 @@ TEST(EntriesReaderTest, OnlyCommentsWithATextAreOtherLines)
           Row{"#\r\n#\r\n1 2 3 a", false}, Row{"#\r# text\r", true}, Row{"no colour\n", true}}) {
         EntriesReader reader("GIMP Palette\nName: A # b\n" + std::string(row.lines), "/x.gpl");
         EXPECT_TRUE(reader.readLines(100));
-        const auto file = reader.takeFile();
-        ASSERT_TRUE(file);
-        EXPECT_EQ(file->hasOtherLines, row.isOther) << row.lines;
+        const auto state = reader.takeState();
+        ASSERT_TRUE(state);
+        EXPECT_EQ(state->bytes != nullptr, row.isOther) << row.lines;
     }
 }
 
@@ -65,7 +64,8 @@ TEST(EntriesReaderTest, OtherFilesAreNotPalettes)
 {
     EntriesReader reader("a text\nof two lines\n", "/x.gpl");
     EXPECT_TRUE(reader.readLines(1));
-    EXPECT_FALSE(reader.takeFile());
+    EXPECT_FALSE(reader.takeState());
+    EXPECT_EQ(reader.bytesRead(), 0U);
     EXPECT_TRUE(reader.entries().empty());
 }
 

@@ -116,9 +116,9 @@ TEST_F(ChoiceTest, TheFirstEscapeInAFieldDiscardsTheTextAndTheNextCancels)
     EXPECT_EQ(_choice->text(), std::nullopt);
 }
 
-TEST_F(ChoiceTest, ThePanelsOwnPagesChooseInTheSameFormat)
+TEST_F(ChoiceTest, PagesWithoutAFormOfTheirOwnChooseInTheSameFormat)
 {
-    ASSERT_TRUE(_window->pages().showPageWithKey("dialog"));
+    ASSERT_TRUE(_window->pages().showPageWithKey("mix"));
     QTest::keyClick(_window.get(), Qt::Key_Return);
     EXPECT_EQ(_choice->text(), "#102030");
 }

@@ -191,7 +191,7 @@ TEST_F(ColorBandTest, AssistiveTechnologyPressesTheHalves)
 TEST_F(ColorBandTest, TheBackgroundNarrowsWithTheBand)
 {
     for (const auto& [width, expected] :
-         {std::pair{496, 116}, std::pair{276, 116}, std::pair{236, 108}, std::pair{180, 64}}) {
+         {std::pair{496, 116}, std::pair{276, 116}, std::pair{236, 112}, std::pair{180, 64}}) {
         resizeTo(width, 64);
         EXPECT_EQ(background().width(), scaled(expected)) << width;
         EXPECT_EQ(color().width() + background().width(), _band->width());

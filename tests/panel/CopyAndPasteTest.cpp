@@ -76,11 +76,29 @@ TEST_F(CopyAndPasteTest, TheMenuOffersEverySnippet)
 
     QMenu* menu = &_window->commands().copyMenu();
     emit menu->aboutToShow();
-    ASSERT_EQ(menu->actions().size(), static_cast<qsizetype>(texts.size()));
+    ASSERT_EQ(menu->actions().size(), static_cast<qsizetype>(texts.size() + 1));
     menu->actions().at(15)->trigger();
     EXPECT_EQ(clipboard().text(), "RGB(255, 128, 0)");
     menu->actions().at(3)->trigger();
     EXPECT_TRUE(clipboard().text().startsWith("oklch(")) << clipboard().text().toStdString();
+}
+
+TEST_F(CopyAndPasteTest, SnippetsOfTheProgramAreOfferedBesideThoseOfThePage)
+{
+    _window->colors().setColor(rgb(255, 128, 0, 0.5));
+    QMenu& menu = _window->commands().copyMenu();
+    emit menu.aboutToShow();
+    const QAction* last = menu.actions().constLast();
+    ASSERT_NE(last->menu(), nullptr);
+    const auto actions = last->menu()->actions();
+    ASSERT_EQ(actions.size(), 16);
+    EXPECT_TRUE(actions[0]->text().startsWith("SwiftUI\t")) << actions[0]->text().toStdString();
+    EXPECT_LE(last->menu()->sizeHint().width(), 360);
+    actions[0]->trigger();
+    EXPECT_EQ(clipboard().text(), "Color(red: 1.000, green: 0.502, blue: 0.000, opacity: 0.500)");
+
+    _window->exchange().setForm("Rust");
+    EXPECT_EQ(_window->exchange().copiedText(), "Rgba([255u8, 128, 0, 127])");
 }
 
 TEST_F(CopyAndPasteTest, APageWithoutSnippetsCopiesTheHexCode)
@@ -104,16 +122,18 @@ TEST_P(PasteTest, AcceptsEveryCSSColour)
     EXPECT_EQ(chosenColor().rgba(), GetParam().color.rgba()) << GetParam().text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, PasteTest,
-                         testing::Values(PasteRow{"#08f", QColor(0, 136, 255)},
-                                         PasteRow{"#08f8", QColor(0, 136, 255, 136)},
-                                         PasteRow{"0080ff", QColor(0, 128, 255)},
-                                         PasteRow{"#0080ff80", QColor(0, 128, 255, 128)},
-                                         PasteRow{"RGB(0, 128, 255);", QColor(0, 128, 255)},
-                                         PasteRow{"hsl(210 100% 50%)", QColor(0, 128, 255)},
-                                         PasteRow{"hwb(210 0% 0%)", QColor(0, 128, 255)},
-                                         PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
-                                         PasteRow{"navy", QColor(0, 0, 128)}));
+INSTANTIATE_TEST_SUITE_P(
+    Texts, PasteTest,
+    testing::Values(
+        PasteRow{"#08f", QColor(0, 136, 255)}, PasteRow{"#08f8", QColor(0, 136, 255, 136)},
+        PasteRow{"0080ff", QColor(0, 128, 255)}, PasteRow{"#0080ff80", QColor(0, 128, 255, 128)},
+        PasteRow{"RGB(0, 128, 255);", QColor(0, 128, 255)},
+        PasteRow{"hsl(210 100% 50%)", QColor(0, 128, 255)},
+        PasteRow{"hwb(210 0% 0%)", QColor(0, 128, 255)},
+        PasteRow{"color(srgb 0 0.5 1)", QColor(0, 128, 255)},
+        PasteRow{"let c = Color(red: 0.0, green: 0.502, blue: 1, opacity: 1)", QColor(0, 128, 255)},
+        PasteRow{"\\x1b[38;2;0;128;255mtext", QColor(0, 128, 255)},
+        PasteRow{"navy", QColor(0, 0, 128)}));
 
 TEST_F(CopyAndPasteTest, TheColourWellsAcceptDrops)
 {

@@ -152,11 +152,11 @@ TEST_F(LastColorsTest, PinnedColoursComeFirstAndEachOnce)
 {
     _row->setColors(pins, {others[0], pins[1], others[1]});
     ASSERT_EQ(_row->shownCount(), 5);
-    EXPECT_EQ(_row->colorAt(2), pins[2]);
-    EXPECT_EQ(_row->colorAt(3), others[0]);
-    EXPECT_EQ(_row->colorAt(4), others[1]);
-    EXPECT_TRUE(_row->isPinned(2));
-    EXPECT_FALSE(_row->isPinned(3));
+    EXPECT_EQ(_row->order().colorAt(2), pins[2]);
+    EXPECT_EQ(_row->order().colorAt(3), others[0]);
+    EXPECT_EQ(_row->order().colorAt(4), others[1]);
+    EXPECT_TRUE(_row->order().isPinned(2));
+    EXPECT_FALSE(_row->order().isPinned(3));
 }
 
 TEST_F(LastColorsTest, AClickChooses)
@@ -441,6 +441,35 @@ TEST(LastColorsPlacesTest, FewColoursKeepTheirSize)
     EXPECT_EQ(one.swatches[0], many.swatches[0]);
     EXPECT_TRUE(
         placesOfLastColors({scaled(20), scaled(28)}, 0, 5, Qt::LeftToRight).swatches.empty());
+}
+
+TEST(LastColorsOrderTest, APinnedColorIsShownOnce)
+{
+    const LastColorsOrder order(pins, {pins[1], others[0]});
+    EXPECT_EQ(order.others(), Colors{others[0]});
+    EXPECT_EQ(order.colorAt(3), others[0]);
+    EXPECT_TRUE(order.isPinned(2));
+    EXPECT_FALSE(order.isPinned(3));
+    EXPECT_FALSE(order.isPinned(-1));
+}
+
+TEST(LastColorsOrderTest, APinnedColorMovesOnlyAmongThePinned)
+{
+    const LastColorsOrder order(pins, others);
+    EXPECT_EQ(order.pinnedAfterMoving(0, 1), (Colors{pins[1], pins[0], pins[2]}));
+    EXPECT_EQ(order.pinnedAfterMoving(0, -1), pins);
+    EXPECT_EQ(order.pinnedAfterMoving(2, 1), pins);
+    EXPECT_EQ(order.pinnedAfterMoving(3, -1), pins);
+}
+
+TEST(LastColorsOrderTest, ADroppedColorLeavesItsFormerPlace)
+{
+    const LastColorsOrder order(pins, others);
+    EXPECT_EQ(order.pinnedAfterDropping(pins[0], 3), (Colors{pins[1], pins[2], pins[0]}));
+    EXPECT_EQ(order.pinnedAfterDropping(pins[2], 0), (Colors{pins[2], pins[0], pins[1]}));
+    EXPECT_EQ(order.pinnedAfterDropping(pins[1], 1), pins);
+    EXPECT_EQ(order.pinnedAfterDropping(others[0], 1),
+              (Colors{pins[0], others[0], pins[1], pins[2]}));
 }
 
 }  // namespace

@@ -13,13 +13,27 @@ namespace vantorel {
 /// Answers at once with the outcome set by the test.
 class ScriptedScreenPicker final : public ScreenPicker {
 public:
-    explicit ScriptedScreenPicker(const ScreenPickResult& result) : _result(result) {}
-    void start(QWidget*, Callback done) override { done(_result); }
+    /// What a test sets, and what the panel asked for.
+    struct Script {
+        std::vector<HostColor> onTheWay;
+        ScreenPickResult result;
+        PickOptions options;
+    };
+
+    explicit ScriptedScreenPicker(Script& script) : _script(script) {}
+    void start(QWidget*, const PickOptions& options, Callback done) override
+    {
+        _script.options = options;
+        for (const HostColor& color : _script.onTheWay) {
+            if (options.pickedOnTheWay) options.pickedOnTheWay(color);
+        }
+        done(_script.result);
+    }
     void cancel() override {}
     [[nodiscard]] bool isPicking() const override { return false; }
 
 private:
-    const ScreenPickResult& _result;
+    Script& _script;
 };
 
 /// The panel with an orange colour and a clipboard that is empty.
@@ -56,8 +70,7 @@ protected:
     }
     void type(const QKeySequence& keys) { QTest::keySequence(_window.get(), keys); }
 
-    /// How picks from the screen end.
-    ScreenPickResult _pick;
+    ScriptedScreenPicker::Script _pick;
 };
 
 }  // namespace vantorel

@@ -1,7 +1,10 @@
 #include "PanelCommandsFixture.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/preferences/PanelPreferences.h"
 #include "panel/preferences/PreferencesDialog.h"
 #include "panel/window/ShortcutOverlay.h"
+
+#include <gmock/gmock.h>
 
 #include <QMenu>
 #include <QScrollBar>
@@ -98,15 +101,76 @@ TEST_F(PanelCommandsTest, TheFirstColourIsNotRecent)
 TEST_F(PanelCommandsTest, AColourPickedFromTheScreenBecomesTheColour)
 {
     using Outcome = ScreenPickResult::Outcome;
-    _pick = {Outcome::picked, rgb(10, 20, 30), {}};
+    _pick.result = {.outcome = Outcome::picked, .color = rgb(10, 20, 30)};
     type(QKeySequence("Ctrl+Shift+P"));
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(clipboard().text(), "#0A141E") << "picked and copied in one step";
 
-    _pick = {Outcome::notPossible, HostColor::blackColor(), {phrase("there is no way to pick")}};
+    _pick.result = {.outcome = Outcome::notPossible, .reason = {phrase("there is no way to pick")}};
     type(QKeySequence("Ctrl+P"));
     EXPECT_EQ(chosenColor().rgb(), qRgb(10, 20, 30));
     EXPECT_EQ(message(), "There is no way to pick.");
+}
+
+TEST_F(PanelCommandsTest, PickingFollowsThePreferences)
+{
+    using Outcome = ScreenPickResult::Outcome;
+    PanelPreferences preferences;
+    preferences.setAveragedSide(5);
+    preferences.setAfterPicking(AfterPicking::copies);
+    _pick.result = {.outcome = Outcome::picked, .color = rgb(10, 20, 30)};
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_EQ(_pick.options.averagedSide, 5);
+    EXPECT_EQ(clipboard().text(), "#0A141E");
+    EXPECT_FALSE(_window->isMinimized());
+
+    _pick.result.color = rgb(11, 20, 30);
+    preferences.setAfterPicking(AfterPicking::copiesHides);
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_EQ(clipboard().text(), "#0B141E");
+    EXPECT_TRUE(_window->isMinimized());
+
+    // Another program decides itself.
+    _window->showNormal();
+    _pick.result.color = rgb(12, 20, 30);
+    _window->exchange().pickFromScreen(false, [](const ScreenPickResult&) {});
+    EXPECT_EQ(chosenColor().rgb(), qRgb(12, 20, 30));
+    EXPECT_EQ(clipboard().text(), "#0B141E");
+    EXPECT_FALSE(_window->isMinimized());
+}
+
+TEST_F(PanelCommandsTest, SaysThatAnAverageWasNotPossible)
+{
+    _pick.result = {.outcome = ScreenPickResult::Outcome::picked,
+                    .color = rgb(10, 20, 30),
+                    .lacksAverage = true};
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_EQ(message(), "One pixel was picked: the desktop's own picker cannot average.");
+}
+
+TEST_F(PanelCommandsTest, EachColourPickedOnTheWayIsALastColour)
+{
+    _pick.onTheWay = {rgb(1, 1, 1), rgb(2, 2, 2), rgb(3, 3, 3)};
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_EQ(chosenColor().rgb(), qRgb(3, 3, 3)) << "and was left by Escape then";
+    EXPECT_THAT(_window->colors().recent(),
+                testing::ElementsAre(rgb(3, 3, 3), rgb(2, 2, 2), rgb(1, 1, 1)));
+}
+
+TEST_F(PanelCommandsTest, TheMagnifierExplainsItselfInTheFirstThreePicks)
+{
+    _pick.result = {.outcome = ScreenPickResult::Outcome::picked};
+    for (int i = 0; i < 3; ++i) {
+        type(QKeySequence("Ctrl+P"));
+        EXPECT_TRUE(_pick.options.showsHints) << i;
+    }
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_FALSE(_pick.options.showsHints);
+    PanelWindow later(_desktop, _search.plugins, _problems,
+                      std::make_unique<ScriptedScreenPicker>(_pick));
+    later.recall(_window->memory());
+    later.exchange().pick();
+    EXPECT_FALSE(_pick.options.showsHints) << "nor after another start";
 }
 
 TEST_F(PanelCommandsTest, KeysSwitchPages)
@@ -126,7 +190,7 @@ TEST_F(PanelCommandsTest, TheShortcutsAreShownAndHidden)
     ASSERT_NE(overlay, nullptr);
     const QString text = overlay->findChild<QLabel*>()->text();
     for (const char* shown : {"Ctrl+P", "Ctrl+Q", "<b>Hex</b>", "<b>Palettes</b>", "Ctrl+N",
-                              "<b>Colour dialog</b>", "Escape or a click closes the list."})
+                              "<b>Mix</b>", "Escape or a click closes the list."})
         EXPECT_TRUE(text.contains(QLatin1String(shown))) << shown;
     EXPECT_EQ(overlay->geometry(), _window->rect());
     QTest::keyClick(overlay, Qt::Key_PageDown);
@@ -170,7 +234,7 @@ TEST_F(PanelCommandsTest, ThePageIsRememberedByItsIdentifierAndByTheNameThatOlde
     };
     for (const auto& [key, remembered, name] :
          {Row{"palettes", "palettes", "Palettes"}, Row{"hex", "org.vantorel.hex", "Hex"},
-          Row{"dialog", "dialog", "Colour dialog"}}) {
+          Row{"mix", "org.vantorel.mix", "Mix"}}) {
         SCOPED_TRACE(key);
         ASSERT_TRUE(_window->pages().showPageWithKey(key));
         const int index = _window->pages().currentIndex();

@@ -1,7 +1,6 @@
 #include "PanelWindowFixture.h"
 
 #include <QAbstractButton>
-#include <QColorDialog>
 
 namespace vantorel {
 namespace {
@@ -91,6 +90,7 @@ TEST_F(PanelFacesTest, RowsOfTheSettingsThatDoNotFitStayAway)
 
 TEST_F(PanelFacesTest, TheWindowGoesBackToItsSizeAfterAWiderPage)
 {
+    _window->resizeToPage({180, 340});
     const QSize size = _window->size();
     _window->pages().showPage(1);
     ASSERT_GT(_window->width(), size.width());

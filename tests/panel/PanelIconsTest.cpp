@@ -30,7 +30,6 @@ constexpr MakeIcon everyIcon[]{
     hexPageIcon,
     mixPageIcon,
     scalesPageIcon,
-    dialogPageIcon,
     sliderIcon,
     gridIcon,
     wheelIcon,

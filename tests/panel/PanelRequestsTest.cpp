@@ -15,7 +15,7 @@ using Outcome = ScreenPickResult::Outcome;
 /// Answers on request of the test.
 class HeldScreenPicker final : public ScreenPicker {
 public:
-    void start(QWidget*, Callback done) override
+    void start(QWidget*, const PickOptions&, Callback done) override
     {
         cancel();
         _done = std::move(done);
@@ -66,7 +66,7 @@ TEST_F(PanelRequestsTest, APickedColourIsSaidBeforeItIsCopied)
     QObject::connect(QApplication::clipboard(), &QClipboard::dataChanged, _requests.get(),
                      [&] { saidBefore = _said; });
     _requests->carryOut({PanelOrder::Step::pickAndCopy, {}, {}, {}}, sayInto(), keep());
-    _picker->answer({Outcome::picked, HostColor::blackColor(), {}});
+    _picker->answer({.outcome = Outcome::picked});
     EXPECT_EQ(saidBefore, QStringList{QStringLiteral("#000000")});
     EXPECT_EQ(_said, saidBefore);
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("#000000")});
@@ -77,7 +77,7 @@ TEST_F(PanelRequestsTest, APickReturnsThePickedColour)
 {
     _requests->pick(false, keep());
     EXPECT_TRUE(_answers.empty());
-    _picker->answer({Outcome::picked, HostColor::blackColor(), {}});
+    _picker->answer({.outcome = Outcome::picked});
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{QStringLiteral("#000000")});
     EXPECT_EQ(_requests->color(), "#000000");
 }
@@ -95,8 +95,7 @@ TEST_F(PanelRequestsTest, ASecondPickCancelsTheFirst)
 TEST_F(PanelRequestsTest, AnImpossiblePickSaysWhy)
 {
     _requests->pick(true, keep());
-    _picker->answer(
-        {Outcome::notPossible, HostColor::blackColor(), {phrase("there is no screen")}});
+    _picker->answer({.outcome = Outcome::notPossible, .reason = {phrase("there is no screen")}});
     const PanelError expected{Kind::notPossible, {phrase("there is no screen")}};
     EXPECT_EQ(_answers, std::vector<PanelAnswer>{expected});
 }

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "hosts/qt/QtColors.h"
+#include "panel/preferences/ConfigurationFile.h"
 #include "panel/window/PanelWindow.h"
 #include "plugins/PluginLoader.h"
 
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -24,6 +26,10 @@ inline HostColor rgb(int red, int green, int blue, double alpha = 1)
 /// The panel with the real picker, off screen.
 class PanelWindowFixture : public testing::Test {
 protected:
+    // Preferences are read from there.
+    PanelWindowFixture() { setConfigurationFolder(_configuration.path()); }
+    ~PanelWindowFixture() override { setConfigurationFolder({}); }
+
     void SetUp() override
     {
         _search = loadPlugins({VANTOREL_PICKERS}, {});
@@ -43,6 +49,7 @@ protected:
     }
     [[nodiscard]] QString text(const char* name) const { return child<QLineEdit>(name)->text(); }
 
+    QTemporaryDir _configuration;
     QtDesktop _desktop;
     PluginSearch _search;
     std::vector<Message> _problems;

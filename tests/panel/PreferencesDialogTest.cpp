@@ -90,6 +90,32 @@ TEST_F(PreferencesDialogTest, ATextSizeIsKept)
     EXPECT_EQ(PanelPreferences().textSize(), 125);
 }
 
+TEST_F(PreferencesDialogTest, ResidenceIsKept)
+{
+    EXPECT_FALSE(_preferences->staysResident());
+    _dialog->general().addResidence();
+    child<QCheckBox>("residence").click();
+    EXPECT_TRUE(PanelPreferences().staysResident());
+    _preferences->setStaysResident(false);
+    EXPECT_FALSE(child<QCheckBox>("residence").isChecked());
+}
+
+TEST_F(PreferencesDialogTest, WhatPickingDoesIsKept)
+{
+    auto& after = child<QComboBox>("afterPicking");
+    after.setFocus();
+    QTest::keyClick(&after, Qt::Key_Down);
+    EXPECT_EQ(PanelPreferences().afterPicking(), AfterPicking::copies);
+    QTest::keyClick(&after, Qt::Key_Down);
+    EXPECT_EQ(PanelPreferences().afterPicking(), AfterPicking::copiesHides);
+    EXPECT_EQ(PanelPreferences().averagedSide(), 1);
+    auto& average = child<SegmentedChoice>("average");
+    QTest::mouseClick(average.findChild<QRadioButton*>(QStringLiteral("5")), Qt::LeftButton);
+    EXPECT_EQ(PanelPreferences().averagedSide(), 5);
+    _preferences->setAveragedSide(4);
+    EXPECT_EQ(PanelPreferences().averagedSide(), 5) << "no square has that side";
+}
+
 TEST_F(PreferencesDialogTest, ShowsWhatIsSetElsewhere)
 {
     _preferences->setTheme(QStringLiteral("light"));

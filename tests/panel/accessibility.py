@@ -20,7 +20,7 @@ NO_ROLES = {"unknown", "invalid", "redundant object", "extended"}
 BOTH_FACES = [
     ("frame", "Vantorel"),
     ("page tab", "Hex"),
-    ("page tab", "Colour dialog"),
+    ("page tab", "Mix"),
     ("text", "Colour as a text"),
     ("image", "Colour"),
     ("slider", "Opacity"),
@@ -36,6 +36,18 @@ BOTH_FACES = [
     ("text", "Blue"),
     ("combo box", "Colour list"),
     ("combo box", "Colour name"),
+]
+MIX_PAGE = [
+    ("frame", "Vantorel"),
+    ("panel", "Mix"),
+    ("panel", "Colour space"),
+    ("check box", "OKLCH"),
+    ("check box", "Lab"),
+    ("color chooser", "Chroma, Lightness"),
+    ("color chooser", "Hue"),
+    ("color chooser", "Opacity"),
+    ("text", "Lightness"),
+    ("text", "Opacity"),
 ]
 COLORS_FACE = BOTH_FACES + [("color chooser", "Colours")]
 WHEEL_FACE = COLORS_FACE + [("button", "More rings"), ("button", "Fewer rings")]
@@ -132,10 +144,8 @@ def do(role, name, action):
 
 
 def check_pages():
-    do("page tab", "Colour dialog", "Press")
-    # The other page is wide.
-    width = lambda: find("frame", "Vantorel").queryComponent().getExtents(pyatspi.DESKTOP_COORDS).width
-    eventually(lambda: width() > 500, "the other page is on show")
+    do("page tab", "Mix", "Press")
+    check_face("mix", MIX_PAGE)
     do("page tab", "Hex", "Press")
     check_face("colours, after another page", COLORS_FACE)
 

@@ -60,6 +60,44 @@ TEST(InterfaceFileTest, FieldsForEntriesAreEditable)
                                                "_greenHexText", "_blueHexText", "_objCCodeText"}));
 }
 
+TEST(InterfaceFileTest, EachKeyAndClassHasItsEffect)
+{
+    const auto items = parseInterfaceFile(
+        "{Version = 1; Views = ("
+        "{Name = a; Class = TextField; Frame = \"{{1, 2}, {3, 4}}\"; ReadOnly = YES; "
+        "Title = t; ToolTip = tip; AccessibleName = n; Action = act; Alignment = Right; },"
+        "{Name = b; Class = Label; Frame = \"{{0, 0}, {0, 0}}\"; Monospaced = YES; "
+        "FontSize = 9; Resizing = (Width, TopMargin); },"
+        "{Name = c; Class = CheckBox; Frame = \"{{0, 0}, {1, 1}}\"; Image = i; Title = (a); },"
+        "{Name = d; Class = ToggleButton; Frame = \"{{0, 0}, {1, 1}}\"; },"
+        "{Name = e; Class = Button; Frame = \"{{0, 0}, {1, 1}}\"; ReadOnly = NO; })}");
+    ASSERT_TRUE(items.has_value());
+    ASSERT_EQ(items->size(), 5U);
+    const auto described = [&](std::size_t i) { return (*items)[i].description; };
+    using Description = HostControlDescription;
+    EXPECT_EQ(described(0).frame, (HostRect{1, 2, 3, 4}));
+    EXPECT_TRUE(described(0).readOnly);
+    EXPECT_TRUE(described(0).editable);
+    EXPECT_FALSE(described(0).monospaced);
+    EXPECT_EQ(described(0).title, u"t");
+    EXPECT_EQ(described(0).toolTip, u"tip");
+    EXPECT_EQ(described(0).accessibleName, u"n");
+    EXPECT_EQ(described(0).alignment, Description::Alignment::right);
+    EXPECT_EQ((*items)[0].action, "act");
+    EXPECT_FALSE(described(1).readOnly);
+    EXPECT_FALSE(described(1).editable);
+    EXPECT_TRUE(described(1).monospaced);
+    EXPECT_EQ(described(1).pointSize, 9);
+    EXPECT_EQ(described(1).resizing, (HostResizing{.width = true, .topMargin = true}));
+    EXPECT_EQ(described(2).buttonKind, Description::ButtonKind::checkBox);
+    EXPECT_EQ((*items)[2].image, "i");
+    EXPECT_EQ(described(2).title, u"") << "an array is not a text";
+    EXPECT_EQ(described(3).buttonKind, Description::ButtonKind::toggle);
+    EXPECT_EQ(described(4).buttonKind, Description::ButtonKind::push);
+    EXPECT_FALSE(described(4).readOnly);
+    EXPECT_EQ(described(4).resizing, HostResizing{});
+}
+
 struct BrokenRow {
     const char* name;
     const char* text;
@@ -83,7 +121,12 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenRow{"empty", ""}, BrokenRow{"not a dictionary", "(a)"},
         BrokenRow{"no version", "{Views=();}"},
         BrokenRow{"another version", "{Version=2;Views=();}"},
-        BrokenRow{"no views", "{Version=1;}"},
+        BrokenRow{"no views", "{Version=1;}"}, BrokenRow{"views as text", "{Version=1;Views=a;}"},
+        BrokenRow{"a view as text", "{Version=1;Views=(a);}"},
+        BrokenRow{"subviews as text",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Subviews=b;});}"},
+        BrokenRow{"a subview as text",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Subviews=(b);});}"},
         BrokenRow{"no name", "{Version=1;Views=({Class=View;Frame=\"{{0,0},{1,1}}\";});}"},
         BrokenRow{"unknown class",
                   "{Version=1;Views=({Name=a;Class=Knob;Frame=\"{{0,0},{1,1}}\";});}"},
@@ -99,6 +142,17 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenRow{"bad rule",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Resizing=(Sideways)"
                   ";});}"},
+        BrokenRow{"a rule as text",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Resizing=Width;});"
+                  "}"},
+        BrokenRow{"a rule in parentheses",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Resizing=((Width))"
+                  ";});}"},
+        BrokenRow{"bad alignment",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";Alignment=Middle;}"
+                  ");}"},
+        BrokenRow{"font size with a unit",
+                  "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=9pt;});}"},
         BrokenRow{"bad font size",
                   "{Version=1;Views=({Name=a;Class=View;Frame=\"{{0,0},{1,1}}\";FontSize=big;});}"},
         BrokenRow{"not UTF-8", "{Version=1;Views=();}\xFF"}));

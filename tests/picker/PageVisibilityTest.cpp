@@ -18,6 +18,23 @@ protected:
     }
 };
 
+TEST_F(PageVisibilityTest, ThePageIsMadeOnceAndAtTheFirstRequest)
+{
+    EXPECT_EQ(_picker.provideNewView(true), _page);
+    EXPECT_EQ(_picker.provideNewView(false), _page);
+    QTXHexColorPicker other(0, _panel, _bundle);
+    EXPECT_EQ(other.provideNewView(false), nullptr);
+}
+
+TEST_F(PageVisibilityTest, APageShowsWhatWasChosenWithoutAnEchoOfThePanel)
+{
+    _panel.changeColor(HostColor::blackColor());
+    _panel.echoes = false;
+    dynamic_cast<HostTextField&>(control("_redHexText")).sendStep(1, 0);
+    EXPECT_EQ(_panel.log, "set ");
+    EXPECT_EQ(hexCode(), u"#010000");
+}
+
 TEST_F(PageVisibilityTest, AHiddenPageCatchesUpWhenItAppears)
 {
     _panel.changeColor(HostColor::blackColor());

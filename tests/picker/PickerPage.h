@@ -26,7 +26,7 @@ public:
     void setColor(const std::optional<HostColor>& color) override
     {
         log += "set ";
-        HeadlessColorPanel::setColor(color);
+        if (echoes) HeadlessColorPanel::setColor(color);
     }
     void continuousChangeDidBegin() override { log += "begin "; }
     void continuousChangeDidEnd() override { log += "end "; }
@@ -37,7 +37,16 @@ public:
         HeadlessColorPanel::dragImage(image, item, event, source);
     }
 
+    HostFieldEditor* fieldEditor(HostTextField& field) override
+    {
+        return editor != nullptr ? editor : HeadlessColorPanel::fieldEditor(field);
+    }
+
     std::string log;
+    /// Whether the panel takes the page's colours and passes them to the page.
+    bool echoes = true;
+    /// Edits all fields, unless null.
+    HostFieldEditor* editor = nullptr;
     std::function<void()> whenAsked;
 };
 

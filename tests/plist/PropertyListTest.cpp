@@ -80,6 +80,14 @@ TEST(PropertyListReaderTest, DepthIsBounded)
     EXPECT_TRUE(nested(deepestPropertyList + 1).has_value());
     EXPECT_FALSE(nested(deepestPropertyList + 2).has_value());
     EXPECT_FALSE(nested(1000000).has_value());
+    const auto dictionaries = [](std::size_t depth) {
+        std::u16string text;
+        for (std::size_t i = 0; i < depth; ++i)
+            text += u"{a=";
+        return parsePropertyList(text + u"b" + std::u16string(depth, u'}'));
+    };
+    EXPECT_TRUE(dictionaries(deepestPropertyList).has_value());
+    EXPECT_FALSE(dictionaries(deepestPropertyList + 1).has_value());
     EXPECT_FALSE(parsePropertyList(std::u16string(1000000, u'{')).has_value());
 }
 
@@ -170,6 +178,14 @@ TEST(PropertyListTest, OnlyDictionariesHaveKeys)
 {
     EXPECT_EQ(PropertyList(u"text").valueForKey(u"a"), nullptr);
     EXPECT_EQ(PropertyList(Dictionary{{u"a", Array{}}}).stringForKey(u"a"), nullptr);
+}
+
+TEST(PropertyListTest, TheLineOfAnErrorIsKnown)
+{
+    EXPECT_EQ(lineOfPropertyListError(u"(a, b)"), 0U);
+    EXPECT_EQ(lineOfPropertyListError(u""), 1U);
+    EXPECT_EQ(lineOfPropertyListError(u"{\n a = b c;\n}\n"), 2U);
+    EXPECT_EQ(lineOfPropertyListError(u"(a,\n b)\nc"), 3U);
 }
 
 }  // namespace

@@ -113,7 +113,7 @@ TEST(PluginLoaderTest, TheFirstOfTwoIdenticalPluginsIsUsed)
 
 TEST(PluginLoaderTest, ResourcesAreInTheFolderBesideTheLibrary)
 {
-    const auto search = loadPlugins({VANTOREL_PICKERS}, {});
+    const auto search = loadPlugins({}, {VANTOREL_PICKERS "/QTXHexColorPicker.so"});
     ASSERT_EQ(search.plugins.size(), 1U);
     const HostBundle& bundle = search.plugins.front().bundle();
     EXPECT_TRUE(bundle.resource("QTXHexPick").has_value());

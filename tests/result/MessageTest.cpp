@@ -22,8 +22,8 @@ TEST(MessageTest, ArgumentsReplaceTheirPlaceholders)
     EXPECT_EQ(english(phrase("%2 after %1, %2", "a", "b")), "b after a, b");
     EXPECT_EQ(english(phrase("%1 %2 %3 %4", 1, std::size_t{2}, std::string("3"), u"4\u00E4")),
               "1 2 3 4\u00E4");
-    EXPECT_EQ(english(phrase("100% and %0 are not placeholders, %1 is", "this")),
-              "100% and %0 are not placeholders, this is");
+    EXPECT_EQ(english(phrase("100%, %0 and %A1 are not placeholders, %1 is", "this")),
+              "100%, %0 and %A1 are not placeholders, this is");
 }
 
 TEST(MessageTest, PlaceholdersInArgumentsAreNotReplaced)
@@ -34,6 +34,7 @@ TEST(MessageTest, PlaceholdersInArgumentsAreNotReplaced)
 TEST(MessageTest, ArgumentsCannotControlATerminal)
 {
     EXPECT_EQ(english(phrase("%1", "a\x1B[2J\nb\xC2\x9B")), "a [2J b ");
+    EXPECT_EQ(english(phrase("%1", "a\x7F\x1F\u009F\u00A0!~")), "a   \u00A0!~");
     EXPECT_EQ(english(phrase("%1", "\xFF")), "\uFFFD");
     EXPECT_EQ(english(phrase("%1", std::u16string{u'a', char16_t{0xD800}})), "a\uFFFD");
 }

@@ -14,9 +14,14 @@ using testing::ResultOf;
 /// Answers on request of the test.
 class FakeMethod final : public PickMethod {
 public:
-    explicit FakeMethod(FakeMethod** self) { *self = this; }
-    void start(QWidget*) override
+    explicit FakeMethod(FakeMethod** self, bool canAverage) : _canAverage(canAverage)
     {
+        *self = this;
+    }
+    [[nodiscard]] bool canAverage() const override { return _canAverage; }
+    void start(QWidget*, const PickOptions& given) override
+    {
+        options = given;
         ++starts;
         _isWaiting = true;
     }
@@ -31,16 +36,18 @@ public:
     }
     [[nodiscard]] bool isWaiting() const { return _isWaiting; }
 
+    PickOptions options;
     int starts = 0;
     int cancels = 0;
 
 private:
+    bool _canAverage;
     bool _isWaiting = false;
 };
 
 ScreenPickResult picked(const HostColor& color)
 {
-    return {ScreenPickResult::Outcome::picked, color, {}};
+    return {.outcome = ScreenPickResult::Outcome::picked, .color = color};
 }
 
 /// What a result says where nothing can be picked, in English.
@@ -54,14 +61,14 @@ protected:
     DesktopScreenPickerTest()
     {
         DesktopScreenPicker::Methods methods;
-        methods.push_back(std::make_unique<FakeMethod>(&_portal));
-        methods.push_back(std::make_unique<FakeMethod>(&_magnifier));
+        methods.push_back(std::make_unique<FakeMethod>(&_portal, false));
+        methods.push_back(std::make_unique<FakeMethod>(&_magnifier, true));
         _picker = std::make_unique<DesktopScreenPicker>(std::move(methods));
     }
 
     void start()
     {
-        _picker->start(nullptr, [this](const ScreenPickResult& r) { _results.push_back(r); });
+        _picker->start(nullptr, {}, [this](const ScreenPickResult& r) { _results.push_back(r); });
     }
     const std::vector<ScreenPickResult>& results()
     {
@@ -150,7 +157,7 @@ TEST_F(DesktopScreenPickerTest, aSecondStartCancelsTheFirstAndRestartsWithTheFir
 
 TEST_F(DesktopScreenPickerTest, canBeRestartedFromItsCallback)
 {
-    _picker->start(nullptr, [this](const ScreenPickResult&) { start(); });
+    _picker->start(nullptr, {}, [this](const ScreenPickResult&) { start(); });
     _portal->answer(PickMethod::CancelledByUser{});
     EXPECT_THAT(results(), ElementsAre());
     EXPECT_TRUE(_picker->isPicking());
@@ -160,7 +167,7 @@ TEST_F(DesktopScreenPickerTest, canBeRestartedFromItsCallback)
 
 TEST_F(DesktopScreenPickerTest, canBeDestroyedFromItsCallback)
 {
-    _picker->start(nullptr, [this](const ScreenPickResult&) { _picker.reset(); });
+    _picker->start(nullptr, {}, [this](const ScreenPickResult&) { _picker.reset(); });
     _portal->answer(orange);
     QCoreApplication::processEvents();
     EXPECT_EQ(_picker, nullptr);
@@ -174,12 +181,49 @@ TEST_F(DesktopScreenPickerTest, reportsNoResultOnceDestroyed)
     EXPECT_THAT(results(), ElementsAre());
 }
 
+TEST_F(DesktopScreenPickerTest, AnAverageIsLeftToAMethodThatCanTakeIt)
+{
+    _picker->start(nullptr, {.averagedSide = 5},
+                   [this](const ScreenPickResult& r) { _results.push_back(r); });
+    EXPECT_EQ(_portal->starts, 0);
+    EXPECT_EQ(_magnifier->options.averagedSide, 5);
+    _magnifier->answer(HostColor::whiteColor());
+    EXPECT_THAT(results(), ElementsAre(picked(HostColor::whiteColor())));
+}
+
+TEST_F(DesktopScreenPickerTest, ReportsThatAnAverageWasNotPossible)
+{
+    _picker->start(nullptr, {.averagedSide = 3},
+                   [this](const ScreenPickResult& r) { _results.push_back(r); });
+    _magnifier->answer(PickMethod::Failure{phrase("there is no X11 display")});
+    _portal->answer(HostColor::whiteColor());
+    EXPECT_THAT(results(),
+                ElementsAre(ScreenPickResult{.outcome = ScreenPickResult::Outcome::picked,
+                                             .color = HostColor::whiteColor(),
+                                             .lacksAverage = true}));
+}
+
+TEST_F(DesktopScreenPickerTest, PassesOnWhatIsPickedOnTheWay)
+{
+    std::vector<HostColor> colors;
+    PickOptions options;
+    options.pickedOnTheWay = [&](const HostColor& color) { colors.push_back(color); };
+    _picker->start(nullptr, options, [this](const ScreenPickResult& r) { _results.push_back(r); });
+    emit _portal->pickedOnTheWay(HostColor::whiteColor());
+    EXPECT_THAT(colors, ElementsAre(HostColor::whiteColor()));
+    EXPECT_THAT(results(), ElementsAre());
+    // A pick without a receiver.
+    start();
+    emit _portal->pickedOnTheWay(HostColor::blackColor());
+    EXPECT_EQ(colors.size(), 1U);
+}
+
 TEST(makeScreenPicker, reportsWhatIsMissingWithoutBusAndScreen)
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     const auto picker = makeScreenPicker();
     std::vector<ScreenPickResult> results;
-    picker->start(nullptr, [&](const ScreenPickResult& result) { results.push_back(result); });
+    picker->start(nullptr, {}, [&](const ScreenPickResult& result) { results.push_back(result); });
     for (int i = 0; i < 1000 && results.empty(); ++i)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     EXPECT_THAT(results, ElementsAre(ResultOf(reasonOf,

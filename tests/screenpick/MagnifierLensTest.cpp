@@ -31,18 +31,34 @@ struct View {
     QRect bounds;
 };
 
-/// The lens on a red background.
-View lensAt(QPoint pixel, double ratio = 1, int zoom = 0, const QPalette& palette = QPalette())
+Magnified magnifiedAt(const DesktopPicture& picture, QPoint pixel)
+{
+    Magnified magnified;
+    magnified.pixel = pixel;
+    magnified.averaged = {pixel, QSize(1, 1)};
+    magnified.color = picture.colorAt(pixel).value_or(Qt::black);
+    return magnified;
+}
+
+View viewOf(const MagnifierLens& lens, const Magnified& magnified, double ratio,
+            const QPalette& palette = QPalette())
 {
     const DesktopPicture picture = desktop();
-    MagnifierLens lens;
-    lens.zoom(zoom);
+    const DesktopPicture::Screen& screen = picture.screens().front();
     View view{QImage(screenSize, QImage::Format_RGB32), {}};
     view.image.fill(Qt::red);
     QPainter painter(&view.image);
-    lens.paint(painter, picture, picture.screens().front(), pixel, ratio, palette);
-    view.bounds = lens.bounds(picture.screens().front(), pixel, ratio);
+    lens.paint(painter, picture, screen, magnified, ratio, palette);
+    view.bounds = lens.bounds(screen, magnified, ratio);
     return view;
+}
+
+/// The lens on a red background.
+View lensAt(QPoint pixel, double ratio = 1, int zoom = 0, const QPalette& palette = QPalette())
+{
+    MagnifierLens lens;
+    lens.zoom(zoom);
+    return viewOf(lens, magnifiedAt(desktop(), pixel), ratio, palette);
 }
 
 /// The number of pixels to the right of `from` with its colour.
@@ -110,6 +126,59 @@ TEST(MagnifierLens, paintsOnlyWithinItsBounds)
     }
 }
 
+TEST(MagnifierLens, framesWhatIsAveraged)
+{
+    Magnified magnified = magnifiedAt(desktop(), {300, 200});
+    magnified.averaged = {299, 199, 3, 3};
+    const QImage image = viewOf(MagnifierLens(), magnified, 1).image;
+    // A cell of 10 to each side of the middle one.
+    EXPECT_EQ(image.pixelColor(284, 200), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(283, 200), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(315, 200), QColor(Qt::white));
+    EXPECT_NE(image.pixelColor(294, 200), QColor(Qt::white));
+}
+
+TEST(MagnifierLens, theLabelHasRoomForTheSizeOfTheAverage)
+{
+    const DesktopPicture picture = desktop();
+    const DesktopPicture::Screen& screen = picture.screens().front();
+    Magnified single = magnifiedAt(picture, {300, 200});
+    Magnified average = single;
+    average.averaged = {200, 150, 300, 100};
+    const QImage without = viewOf(MagnifierLens(), single, 1).image;
+    const QImage with = viewOf(MagnifierLens(), average, 1).image;
+    // In the middle of the label's height, at its left end, which has moved.
+    const int y = 200 + 88 + 8 + 14;
+    const auto firstOfLabel = [y](const QImage& image) {
+        int x = 0;
+        while (image.pixelColor(x, y) == QColor(Qt::red))
+            ++x;
+        return x;
+    };
+    EXPECT_LT(firstOfLabel(with), firstOfLabel(without) - 20);
+    EXPECT_TRUE(MagnifierLens().bounds(screen, average, 1).contains(firstOfLabel(with), y));
+}
+
+TEST(MagnifierLens, notesAreOnTheScreenAndWithinTheBounds)
+{
+    for (const QPoint pixel : {QPoint(300, 200), QPoint(0, 0), QPoint(599, 499), QPoint(0, 499)}) {
+        for (const bool hasPicked : {false, true}) {
+            Magnified magnified = magnifiedAt(desktop(), pixel);
+            const View without = viewOf(MagnifierLens(), magnified, 1);
+            magnified.showsHints = true;
+            if (hasPicked) magnified.picked.assign(20, QColor(Qt::green));
+            View with = viewOf(MagnifierLens(), magnified, 1);
+            EXPECT_TRUE(
+                QRect(QPoint(), screenSize).contains(with.bounds.adjusted(14, 14, -14, -14)));
+            EXPECT_FALSE(with.image == without.image);
+            QPainter(&with.image).fillRect(with.bounds, Qt::red);
+            QImage red = with.image;
+            red.fill(Qt::red);
+            EXPECT_TRUE(with.image == red) << pixel.x() << ", " << pixel.y();
+        }
+    }
+}
+
 TEST(MagnifierLens, isEntirelyOnTheScreenAtEveryCorner)
 {
     // With its label: 84 + 4 to each side, 8 + 28 below, and a margin of 4.
@@ -139,7 +208,8 @@ TEST(MagnifierLens, showsTheNextScreenBesideTheEdge)
     const DesktopPicture picture({{nullptr, {0, 0}, pattern()}, {nullptr, {600, 0}, green}});
     QImage image(screenSize, QImage::Format_RGB32);
     QPainter painter(&image);
-    MagnifierLens().paint(painter, picture, picture.screens().front(), {598, 200}, 1, QPalette());
+    MagnifierLens().paint(painter, picture, picture.screens().front(),
+                          magnifiedAt(picture, {598, 200}), 1, QPalette());
     // The middle is at (508, 200); two cells on, the other screen begins.
     EXPECT_EQ(image.pixel(518, 200), pattern().pixel(599, 200));
     EXPECT_EQ(image.pixelColor(529, 200), QColor(Qt::green));
@@ -170,6 +240,19 @@ TEST(DesktopPicture, findsPixelsOnEachScreenAndNoneBetween)
     EXPECT_EQ(picture.colorAt({-1, 7}), QColor(Qt::blue));
     EXPECT_EQ(picture.colorAt({-1, 8}), std::nullopt);
     EXPECT_EQ(picture.colorAt({600, 0}), std::nullopt);
+}
+
+TEST(DesktopPicture, averagesLightOnAllScreens)
+{
+    QImage black(2, 1, QImage::Format_RGB32);
+    black.fill(Qt::black);
+    QImage white(2, 1, QImage::Format_ARGB32_Premultiplied);
+    white.fill(Qt::white);
+    const DesktopPicture picture({{nullptr, {0, 0}, black}, {nullptr, {2, 0}, white}});
+    EXPECT_EQ(picture.averageOf({0, 0, 4, 1}), QColor(188, 188, 188)) << "half the light";
+    EXPECT_EQ(picture.averageOf({2, -5, 100, 100}), QColor(Qt::white));
+    EXPECT_EQ(picture.averageOf({10, 10, 3, 3}), std::nullopt);
+    EXPECT_EQ(picture.averageOf({3, 0, 1, 1}), QColor(Qt::white));
 }
 
 TEST(DesktopPicture, showsNoTransparency)

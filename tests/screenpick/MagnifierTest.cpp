@@ -28,20 +28,33 @@ class MagnifierTest : public testing::Test {
 protected:
     MagnifierTest()
     {
+        const QImage image = picture();
+        // The platform reports its own mouse position to the overlay sooner or later.
+        QCursor::setPos(50, 60);
+        _magnifier = std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}),
+                                                 QPoint(50, 60), options());
+        QObject::connect(_magnifier.get(), &Magnifier::picked,
+                         [this](const QColor& color) { take(color); });
+        QObject::connect(_magnifier.get(), &Magnifier::pickedOnTheWay,
+                         [this](const QColor& color) { _onTheWay.push_back(color); });
+        QObject::connect(_magnifier.get(), &Magnifier::left, [this] { take(std::nullopt); });
+    }
+
+    static QImage picture()
+    {
         QImage image(200, 150, QImage::Format_RGB32);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)
                 image.setPixelColor(x, y, colorOf(x, y));
         }
-        // The platform reports its own mouse position to the overlay sooner or later.
-        QCursor::setPos(50, 60);
-        _magnifier =
-            std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, image}}), QPoint(50, 60));
-        QObject::connect(_magnifier.get(), &Magnifier::picked,
-                         [this](const QColor& color) { take(color); });
-        QObject::connect(_magnifier.get(), &Magnifier::left, [this] { take(std::nullopt); });
+        return image;
     }
-
+    static PickOptions options()
+    {
+        PickOptions options;
+        options.pickedOnTheWay = [](const HostColor&) {};
+        return options;
+    }
     void take(const std::optional<QColor>& answer)
     {
         _answers.push_back(answer);
@@ -60,15 +73,17 @@ protected:
         QKeyEvent event(QEvent::KeyPress, code, modifiers, QString(), repeats);
         QApplication::sendEvent(&overlay(), &event);
     }
-    void mouse(QEvent::Type type, QPointF position, Qt::MouseButton button = Qt::NoButton)
+    void mouse(QEvent::Type type, QPointF position, Qt::MouseButton button = Qt::NoButton,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QMouseEvent event(type, position, position, button, button, Qt::NoModifier);
+        QMouseEvent event(type, position, position, button, button, modifiers);
         QApplication::sendEvent(&overlay(), &event);
     }
-    void click(QPointF position, Qt::MouseButton button = Qt::LeftButton)
+    void click(QPointF position, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        mouse(QEvent::MouseButtonPress, position, button);
-        mouse(QEvent::MouseButtonRelease, position, button);
+        mouse(QEvent::MouseButtonPress, position, button, modifiers);
+        mouse(QEvent::MouseButtonRelease, position, button, modifiers);
     }
     void wheel(int angle)
     {
@@ -88,6 +103,7 @@ protected:
 
     std::unique_ptr<Magnifier> _magnifier;
     std::vector<std::optional<QColor>> _answers;
+    std::vector<QColor> _onTheWay;
 };
 
 TEST_F(MagnifierTest, picksAtTheMousePositionAndCloses)
@@ -175,7 +191,7 @@ TEST_F(MagnifierTest, reportsOnlyOneResult)
 TEST_F(MagnifierTest, picksWithNoOtherButtonOrKey)
 {
     click({80, 90}, Qt::MiddleButton);
-    for (const int code : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Shift, Qt::Key_F1})
+    for (const int code : {Qt::Key_B, Qt::Key_Tab, Qt::Key_Shift, Qt::Key_F1})
         key(code);
     EXPECT_THAT(answers(), ElementsAre());
 }
@@ -213,6 +229,60 @@ TEST_F(MagnifierTest, exposesItsNameAndTheHexCodeToAssistivePrograms)
     EXPECT_EQ(spokenDescription(), QStringLiteral("#333c07"));
     mouse(QEvent::MouseMove, {1, 1});
     EXPECT_EQ(spokenDescription(), QStringLiteral("#020107")) << "with the key's step";
+}
+
+TEST_F(MagnifierTest, averagesSquares)
+{
+    const DesktopPicture desktop({{nullptr, {}, picture()}});
+    // In a corner, where a larger square is lighter.
+    mouse(QEvent::MouseMove, {0, 0});
+    for (const int side : {3, 5, 11}) {
+        key(Qt::Key_A);
+        const QRect square(-(side / 2), -(side / 2), side, side);
+        EXPECT_EQ(spokenDescription(), hexCodeOf(*desktop.averageOf(square))) << side;
+    }
+    EXPECT_NE(spokenDescription(), QStringLiteral("#000007"));
+    key(Qt::Key_A);
+    EXPECT_EQ(spokenDescription(), QStringLiteral("#000007")) << "a single pixel again";
+}
+
+TEST_F(MagnifierTest, averagesABoxThatIsDragged)
+{
+    mouse(QEvent::MouseButtonPress, {100, 90}, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {60, 20}, Qt::LeftButton);
+    const QColor average =
+        *DesktopPicture({{nullptr, {}, picture()}}).averageOf({QPoint(60, 20), QPoint(100, 90)});
+    EXPECT_EQ(spokenDescription(), hexCodeOf(average));
+    mouse(QEvent::MouseButtonRelease, {60, 20}, Qt::LeftButton);
+    EXPECT_THAT(answers(), ElementsAre(average));
+}
+
+TEST_F(MagnifierTest, paintsTheBoxAndRepaintsWhereItWas)
+{
+    overlay().resize(200, 150);
+    const QImage before = overlay().grab().toImage();
+    mouse(QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {195, 5}, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {195, 140}, Qt::LeftButton);
+    const QImage box = overlay().grab().toImage();
+    EXPECT_EQ(box.pixelColor(4, 140), QColor(Qt::white));
+    EXPECT_EQ(box.pixelColor(3, 140), QColor(Qt::black));
+    mouse(QEvent::MouseButtonRelease, {195, 140}, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_NE(overlay().grab().toImage().pixelColor(4, 140), QColor(Qt::white));
+    EXPECT_THAT(answers(), ElementsAre());
+}
+
+TEST_F(MagnifierTest, picksSeveralWhileShiftIsHeld)
+{
+    click({80, 90}, Qt::LeftButton, Qt::ShiftModifier);
+    key(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_THAT(_onTheWay, ElementsAre()) << "they come from the event loop";
+    EXPECT_THAT(answers(), ElementsAre());
+    EXPECT_THAT(_onTheWay, ElementsAre(colorOf(80, 90), colorOf(80, 90)));
+    EXPECT_TRUE(overlay().isVisible());
+    click({81, 92});
+    EXPECT_THAT(answers(), ElementsAre(colorOf(81, 92)));
+    EXPECT_EQ(_onTheWay.size(), 2U);
 }
 
 TEST_F(MagnifierTest, reportsNoResultOnceDestroyed)

@@ -16,7 +16,6 @@
 namespace vantorel {
 namespace {
 
-using Outcome = PickMethod::Outcome;
 using Failure = PickMethod::Failure;
 
 const Phrase noPickColor = phrase("the desktop portal has no PickColor");
@@ -32,10 +31,11 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(_bus.isRunning()) << "is dbus-daemon installed?";
-        QObject::connect(_method.get(), &PickMethod::finished, [this](const Outcome& outcome) {
-            _outcome = outcome;
-            ++_answers;
-        });
+        QObject::connect(_method.get(), &PickMethod::finished,
+                         [this](const PickMethod::Outcome& outcome) {
+                             _outcome = outcome;
+                             ++_answers;
+                         });
     }
 
     void startPortal() { _portal.emplace(_bus.connect(portalConnection)); }
@@ -45,7 +45,7 @@ protected:
         _bus.disconnect(portalConnection);
     }
 
-    void pick(QWidget* parent = nullptr) { _method->start(parent); }
+    void pick(QWidget* parent = nullptr) { _method->start(parent, {}); }
     [[nodiscard]] bool portalIsPicking()
     {
         return QTest::qWaitFor([this] { return _portal->calls == 1; });
@@ -72,7 +72,7 @@ protected:
     QDBusConnection _client = _bus.connect(QStringLiteral("client"));
     std::unique_ptr<PortalPickMethod> _method =
         std::make_unique<PortalPickMethod>([this] { return _client; });
-    std::optional<Outcome> _outcome;
+    std::optional<PickMethod::Outcome> _outcome;
     int _answers = 0;
 };
 
@@ -84,7 +84,7 @@ TEST_F(PortalPickMethodTest, takesTheColourFromEveryVersionSince2)
         _portal->calls = 0;
         _answers = 0;
         pickWithAnswer({0U, PortalStandIn::color(0.25, 1.0 / 3, 1)});
-        EXPECT_EQ(_outcome, Outcome(opaque(0.25, 1.0 / 3, 1))) << version;
+        EXPECT_EQ(_outcome, PickMethod::Outcome(opaque(0.25, 1.0 / 3, 1))) << version;
         EXPECT_EQ(_answers, 1);
     }
 }
@@ -93,7 +93,7 @@ TEST_F(PortalPickMethodTest, reportsThatTheUserCancelled)
 {
     startPortal();
     pickWithAnswer({1U, QVariantMap{}});
-    EXPECT_EQ(_outcome, Outcome(PickMethod::CancelledByUser{}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(PickMethod::CancelledByUser{}));
 }
 
 TEST_F(PortalPickMethodTest, clampsChannelsOutsideTheRange)
@@ -101,7 +101,7 @@ TEST_F(PortalPickMethodTest, clampsChannelsOutsideTheRange)
     startPortal();
     constexpr double infinity = std::numeric_limits<double>::infinity();
     pickWithAnswer({0U, PortalStandIn::color(-0.5, 1.0001, infinity)});
-    EXPECT_EQ(_outcome, Outcome(opaque(0, 1, 1)));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(opaque(0, 1, 1)));
 }
 
 TEST_F(PortalPickMethodTest, rejectsAnAnswerThatIsNotAColour)
@@ -130,7 +130,8 @@ TEST_F(PortalPickMethodTest, rejectsAnAnswerThatIsNotAColour)
         _outcome.reset();
         _answers = 0;
         pickWithAnswer(answer);
-        EXPECT_EQ(_outcome, Outcome(Failure{couldNot})) << testing::PrintToString(answer.size());
+        EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{couldNot}))
+            << testing::PrintToString(answer.size());
     }
 }
 
@@ -143,7 +144,7 @@ TEST_F(PortalPickMethodTest, reportsAPortalThatCannotPick)
         _answers = 0;
         pick();
         waitForAnswer();
-        EXPECT_EQ(_outcome, Outcome(Failure{noPickColor}));
+        EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{noPickColor}));
     }
     EXPECT_EQ(_portal->calls, 0);
 }
@@ -164,7 +165,7 @@ TEST_F(PortalPickMethodTest, reportsWhyTheCallFailed)
         _answers = 0;
         pick();
         waitForAnswer();
-        EXPECT_EQ(_outcome, Outcome(Failure{row.clause})) << row.error.toStdString();
+        EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{row.clause})) << row.error.toStdString();
     }
 }
 
@@ -172,7 +173,7 @@ TEST_F(PortalPickMethodTest, reportsThatThereIsNoPortal)
 {
     pick();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{phrase("there is no desktop portal")}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{phrase("there is no desktop portal")}));
 }
 
 TEST_F(PortalPickMethodTest, reportsThatThereIsNoBus)
@@ -181,7 +182,7 @@ TEST_F(PortalPickMethodTest, reportsThatThereIsNoBus)
     pick();
     EXPECT_EQ(_answers, 0) << "answers come from the event loop";
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{phrase("there is no session bus")}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{phrase("there is no session bus")}));
 }
 
 TEST_F(PortalPickMethodTest, timesOutOnAPortalThatHangs)
@@ -190,7 +191,7 @@ TEST_F(PortalPickMethodTest, timesOutOnAPortalThatHangs)
     _portal->isSilent = true;
     pick();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the desktop portal does not answer")}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{phrase("the desktop portal does not answer")}));
 }
 
 TEST_F(PortalPickMethodTest, acceptsAnAnswerBeforeTheCallReturns)
@@ -199,7 +200,7 @@ TEST_F(PortalPickMethodTest, acceptsAnAnswerBeforeTheCallReturns)
     _portal->answersBeforeItReturns = true;
     pick();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(opaque(0, 1, 0)));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(opaque(0, 1, 0)));
 }
 
 TEST_F(PortalPickMethodTest, acceptsAPortalThatChoosesItsOwnHandles)
@@ -211,7 +212,7 @@ TEST_F(PortalPickMethodTest, acceptsAPortalThatChoosesItsOwnHandles)
     QTest::qWait(50);
     _portal->respond(0, PortalStandIn::color(1, 0, 0));
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(opaque(1, 0, 0)));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(opaque(1, 0, 0)));
 }
 
 TEST_F(PortalPickMethodTest, noticesThatThePortalExitsDuringAPick)
@@ -221,7 +222,7 @@ TEST_F(PortalPickMethodTest, noticesThatThePortalExitsDuringAPick)
     ASSERT_TRUE(portalIsPicking());
     killPortal();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the desktop portal has gone")}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{phrase("the desktop portal has gone")}));
     waitInVain();
     EXPECT_EQ(_answers, 1);
 }
@@ -234,7 +235,7 @@ TEST_F(PortalPickMethodTest, noticesThatTheBusExitsDuringAPick)
     waitInVain();
     _bus.stop();
     waitForAnswer();
-    EXPECT_EQ(_outcome, Outcome(Failure{phrase("the session bus has gone")}));
+    EXPECT_EQ(_outcome, PickMethod::Outcome(Failure{phrase("the session bus has gone")}));
 }
 
 TEST_F(PortalPickMethodTest, closesTheRequestOfACancelledPick)
@@ -295,20 +296,19 @@ TEST_F(PortalPickMethodTest, aSecondPickCancelsTheFirstAndGetsItsOwnAnswer)
     DesktopScreenPicker picker(std::move(methods));
     std::vector<ScreenPickResult> first;
     std::vector<ScreenPickResult> second;
-    picker.start(nullptr, [&](const ScreenPickResult& result) { first.push_back(result); });
+    picker.start(nullptr, {}, [&](const ScreenPickResult& result) { first.push_back(result); });
     ASSERT_TRUE(portalIsPicking());
     QTest::qWait(50);
     const QString firstHandle = _portal->handle;
-    picker.start(nullptr, [&](const ScreenPickResult& result) { second.push_back(result); });
+    picker.start(nullptr, {}, [&](const ScreenPickResult& result) { second.push_back(result); });
     ASSERT_TRUE(QTest::qWaitFor([this] { return _portal->calls == 2; }));
     EXPECT_EQ(_portal->closedHandles, QStringList{firstHandle});
     EXPECT_NE(_portal->handle, firstHandle);
     _portal->respond(0, PortalStandIn::color(0, 0, 1));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !second.empty(); }));
     EXPECT_EQ(first, std::vector{ScreenPickResult{}});
-    EXPECT_EQ(
-        second,
-        (std::vector{ScreenPickResult{ScreenPickResult::Outcome::picked, opaque(0, 0, 1), {}}}));
+    EXPECT_EQ(second, (std::vector{ScreenPickResult{.outcome = ScreenPickResult::Outcome::picked,
+                                                    .color = opaque(0, 0, 1)}}));
 }
 
 TEST_F(PortalPickMethodTest, namesTheParentWindowWhereItHasAName)

@@ -74,7 +74,7 @@ public:
         layout->addWidget(button);
         layout->addWidget(label);
         connect(button, &QPushButton::clicked, this, [this, label, &picker] {
-            picker.start(this, [this, label](const ScreenPickResult& result) {
+            picker.start(this, {}, [this, label](const ScreenPickResult& result) {
                 label->setText(textOf(result));
                 print(textOf(result));
                 if (result.outcome != ScreenPickResult::Outcome::picked) return;
@@ -102,6 +102,7 @@ int main(int argc, char** argv)
     const auto pattern = flag("pattern", "Fill the screens with a known picture.");
     const auto pick = flag("pick", "Pick at once, print the result and end.");
     const auto again = flag("again", "With --pick: start a second time while the first is on.");
+    const auto several = flag("several", "With --pick: several colours can be picked.");
     const auto dialog = flag("dialog", "With --pick: pick while a modal dialogue is open.");
     const auto portalOnly = flag("portal", "Pick through the desktop portal or not at all.");
     const auto magnifierOnly = flag("magnifier", "Pick with the magnifier or not at all.");
@@ -137,6 +138,13 @@ int main(int argc, char** argv)
     QDialog modalDialog;
     modalDialog.setModal(true);
     if (parser.isSet(dialog)) modalDialog.show();
+    PickOptions options;
+    options.showsHints = true;
+    if (parser.isSet(several)) {
+        options.pickedOnTheWay = [](const HostColor& color) {
+            print(QStringLiteral("on the way: picked ") + qColorFrom(color).name());
+        };
+    }
     const auto end = [](const ScreenPickResult& result) {
         print(textOf(result));
         QApplication::quit();
@@ -147,7 +155,7 @@ int main(int argc, char** argv)
         if (!magnifier || !magnifier->magnifier() || !magnifier->magnifier()->hasInput()) return;
         if (toStartAgain) {
             toStartAgain = false;
-            picker.start(nullptr, end);
+            picker.start(nullptr, options, end);
         } else {
             print(QStringLiteral("ready"));
             look.stop();
@@ -156,11 +164,11 @@ int main(int argc, char** argv)
     constexpr int lookInterval = 20;  // ms
     look.start(lookInterval);
     if (toStartAgain) {
-        picker.start(nullptr, [](const ScreenPickResult& result) {
+        picker.start(nullptr, {}, [](const ScreenPickResult& result) {
             print(QStringLiteral("first: ") + textOf(result));
         });
     } else {
-        picker.start(nullptr, end);
+        picker.start(nullptr, options, end);
     }
     return QApplication::exec();
 }

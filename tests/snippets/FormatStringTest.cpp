@@ -1,3 +1,4 @@
+#include "snippets/FormatParts.h"
 #include "snippets/FormatString.h"
 
 #include "text/Unicode.h"

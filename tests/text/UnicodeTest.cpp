@@ -37,6 +37,24 @@ TEST(UnicodeTest, IllFormedBytesBecomeReplacements)
               "a\xEF\xBF\xBD");
 }
 
+TEST(UnicodeTest, OnlyAHighSurrogateBeforeALowOneIsAPair)
+{
+    const std::string lone = "\xEF\xBF\xBD";
+    struct Row {
+        char16_t first, second;
+        std::string utf8;
+    };
+    for (const auto& [first, second, utf8] :
+         {Row{0xDBFF, 0xDFFF, "\xF4\x8F\xBF\xBF"}, Row{0xD800, 0xDC00, "\xF0\x90\x80\x80"},
+          Row{0xDC00, 0xDC00, lone + lone}, Row{0xD800, 0xD800, lone + lone},
+          Row{0xD800, 0xDBFF, lone + lone}, Row{0xD800, 0xE000, lone + "\xEE\x80\x80"},
+          Row{0xD7FF, 0xDC00, "\xED\x9F\xBF" + lone}}) {
+        const char16_t units[] = {first, second};
+        EXPECT_EQ(utf8FromUtf16({units, 2}), utf8)
+            << std::hex << unsigned{first} << " " << unsigned{second};
+    }
+}
+
 struct Encoded {
     char32_t character;
     std::u16string_view utf16;

@@ -106,6 +106,12 @@ const std::vector<Picture>& pictures()
              window.recall(memory);
              return wholeWindow(window);
          }},
+        {"mix", "#3b82f6", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("mix"));
+             window.resizeToPage({232, 246});
+             return wholePage(window);
+         }},
         {"colors", "#ff7f50", svgList, wholePage},
         {"settings", "#ff7f50", cssList,
          [](PanelWindow& window) {

@@ -102,6 +102,12 @@ std::optional<std::string> HeldFiles::contentsAtPath(const std::string& path) co
     return held != nullptr ? held->bytes : _files.contentsAtPath(path);
 }
 
+std::optional<HostFileHead> HeldFiles::headAtPath(const std::string& path, std::size_t count) const
+{
+    return heldAt(path) != nullptr ? HostFiles::headAtPath(path, count)
+                                   : _files.headAtPath(path, count);
+}
+
 bool HeldFiles::writeAtomically(const std::string& path, const std::string& bytes)
 {
     // A file that exists on the disk is not one of the first use.

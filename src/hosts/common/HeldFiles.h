@@ -38,6 +38,8 @@ public:
     [[nodiscard]] std::vector<std::string> contentsOfDirectory(
         const std::string& path) const override;
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
+    [[nodiscard]] std::optional<HostFileHead> headAtPath(const std::string& path,
+                                                         std::size_t count) const override;
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
     HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
     bool writeForOthers(const std::string& path, const std::string& bytes) override;

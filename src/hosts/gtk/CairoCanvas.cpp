@@ -27,8 +27,13 @@ Layout layoutOf(const Layout& layout, const HostText& text)
 
 }  // namespace
 
-CairoCanvas::CairoCanvas(cairo_t* cairo, HostRect bounds, double devicePixels)
-    : _cairo(cairo), _bounds(bounds), _scale(gtkTextScale()), _devicePixels(devicePixels)
+CairoCanvas::CairoCanvas(cairo_t* cairo, HostRect bounds, double devicePixels,
+                         const ThemeBasis& theme)
+    : _cairo(cairo),
+      _bounds(bounds),
+      _scale(gtkTextScale()),
+      _devicePixels(devicePixels),
+      _theme(theme)
 {
     cairo_clip_extents(cairo, &_dirty.left, &_dirty.top, &_dirty.right, &_dirty.bottom);
     cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
@@ -77,16 +82,19 @@ PaintedBar CairoCanvas::placed(HostRect rect) const
     return {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
 }
 
+PaintedBar CairoCanvas::onPixels(HostRect rect) const
+{
+    const PaintedBar bar = placed(rect);
+    const auto edge = [this](double x) { return std::round(x * _devicePixels) / _devicePixels; };
+    return {edge(bar.left), edge(bar.top), edge(bar.right), edge(bar.bottom)};
+}
+
 void CairoCanvas::fill(const HostBezierPath& path, const HostColor& color)
 {
     if (path.isEmpty() || !setCairoColor(_cairo, color)) return;
     cairo_set_antialias(_cairo, CAIRO_ANTIALIAS_NONE);
     if (const auto rect = uprightRect(path)) {
-        const PaintedBar bar = placed(*rect);
-        const auto edge = [this](double x) {
-            return std::round(x * _devicePixels) / _devicePixels;
-        };
-        fillBar({edge(bar.left), edge(bar.top), edge(bar.right), edge(bar.bottom)});
+        fillBar(onPixels(*rect));
         return;
     }
     tracePath(path);
@@ -152,6 +160,39 @@ void CairoCanvas::drawText(const HostText& text, HostPoint at)
     const PixelPoint lowerLeft = placed(at);
     cairo_move_to(_cairo, lowerLeft.x, lowerLeft.y - height);
     pango_cairo_show_layout(_cairo, layout.get());
+}
+
+HostPixelSize CairoCanvas::pixelSizeOf(HostRect rect) const
+{
+    const PaintedBar place = onPixels(rect);
+    const auto pixels = [this](double length) {
+        return std::max(0, static_cast<int>(std::lround(length * _devicePixels)));
+    };
+    return {pixels(place.width()), pixels(place.height())};
+}
+
+void CairoCanvas::drawPixels(const HostPixels& pixels, HostRect rect)
+{
+    const PaintedBar place = onPixels(rect);
+    if (pixels.isEmpty() || place.width() <= 0 || place.height() <= 0) return;
+    // Cairo only reads what is painted.
+    auto* bytes = reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(pixels.row(0)));
+    const CairoSurface picture(cairo_image_surface_create_for_data(
+        bytes, CAIRO_FORMAT_ARGB32, pixels.width(), pixels.height(),
+        cairo_format_stride_for_width(CAIRO_FORMAT_ARGB32, pixels.width())));
+    cairo_save(_cairo);
+    cairo_set_antialias(_cairo, CAIRO_ANTIALIAS_NONE);
+    cairo_rectangle(_cairo, place.left, place.top, place.width(), place.height());
+    cairo_clip(_cairo);
+    cairo_translate(_cairo, place.left, place.top);
+    cairo_scale(_cairo, place.width() / pixels.width(), place.height() / pixels.height());
+    cairo_set_source_surface(_cairo, picture.get(), 0, 0);
+    cairo_pattern_set_filter(cairo_get_source(_cairo), CAIRO_FILTER_NEAREST);
+    cairo_pattern_set_extend(cairo_get_source(_cairo), CAIRO_EXTEND_PAD);
+    cairo_paint(_cairo);
+    cairo_restore(_cairo);
+    // Whatever still refers to the picture gets a copy.
+    cairo_surface_finish(picture.get());
 }
 
 HostSize sizeInPixels(const HostImage& image)

@@ -3,6 +3,7 @@
 #include "host/HostCanvas.h"
 #include "hosts/common/PaintedLines.h"
 #include "hosts/common/PixelFrames.h"
+#include "hosts/common/ThemeMixtures.h"
 #include "hosts/gtk/GtkReferences.h"
 
 namespace vantorel {
@@ -12,16 +13,25 @@ namespace vantorel {
 class CairoCanvas final : public HostCanvas {
 public:
     /// The context shows `bounds`, and its origin is their upper left corner; it must outlive the
-    /// canvas. `devicePixels`: how many pixels of the device are in one of GTK.
-    CairoCanvas(cairo_t* cairo, HostRect bounds, double devicePixels);
+    /// canvas. `devicePixels`: how many pixels of the device are in one of GTK. `theme` is that of
+    /// the ground.
+    CairoCanvas(cairo_t* cairo, HostRect bounds, double devicePixels, const ThemeBasis& theme = {});
 
     void fill(const HostBezierPath& path, const HostColor& color) override;
     void stroke(const HostBezierPath& path, const HostColor& color) override;
     void drawText(const HostText& text, HostPoint at) override;
+    void drawPixels(const HostPixels& pixels, HostRect rect) override;
+    [[nodiscard]] HostPixelSize pixelSizeOf(HostRect rect) const override;
+    [[nodiscard]] HostColor themeColor(HostThemeColor kind) const override
+    {
+        return themeColorOf(_theme, kind);
+    }
 
 private:
     [[nodiscard]] PixelPoint placed(HostPoint point) const;
     [[nodiscard]] PaintedBar placed(HostRect rect) const;
+    /// With its edges on whole pixels of the device.
+    [[nodiscard]] PaintedBar onPixels(HostRect rect) const;
     void tracePath(const HostBezierPath& path);
     void fillBar(const PaintedBar& bar);
     void strokeOpenLine(const HostBezierPath& path);
@@ -30,6 +40,7 @@ private:
     HostRect _bounds;
     double _scale;
     double _devicePixels;
+    ThemeBasis _theme;
     /// Anything outside need not be painted.
     PaintedBar _dirty;
 };

@@ -118,7 +118,7 @@ void GtkHostCustomView::focusCame()
 
 bool GtkHostCustomView::takeKey(const GdkEventKey& event)
 {
-    const auto key = hostKeyEventOf(event);
+    const auto key = hostKeyEventOf(event, _content.takesControlKeys());
     if (!key || !_marks.offers(*key) || !_content.takesKeys() || !_content.keyDown(*key))
         return false;
     _marks.keyWasUsed();
@@ -168,7 +168,7 @@ void GtkHostCustomView::paint(cairo_t* cairo)
 
 void GtkHostCustomView::paintContent(cairo_t* cairo, bool showsFocus)
 {
-    CairoCanvas canvas(cairo, bounds(), scaleFactorOf(_area.get()));
+    CairoCanvas canvas(cairo, bounds(), scaleFactorOf(_area.get()), themeBasisOf(_area.get()));
     _content.drawRect(canvas);
     if (showsFocus) strokeOnAnyColor(canvas, _content.keyOutline());
     setNeedsDisplay(false);

@@ -45,8 +45,8 @@ std::optional<HostKey> hostKeyOf(guint key)
     }
 }
 
-constexpr guint shortcutModifiers =
-    GDK_CONTROL_MASK | GDK_MOD1_MASK | GDK_SUPER_MASK | GDK_META_MASK;
+constexpr guint controlAside = GDK_MOD1_MASK | GDK_SUPER_MASK | GDK_META_MASK;
+constexpr guint shortcutModifiers = GDK_CONTROL_MASK | controlAside;
 
 }  // namespace
 
@@ -60,10 +60,11 @@ std::uint64_t modifierFlagsOf(guint state)
     return flags;
 }
 
-std::optional<HostKeyEvent> hostKeyEventOf(const GdkEventKey& event)
+std::optional<HostKeyEvent> hostKeyEventOf(const GdkEventKey& event, bool withControl)
 {
     const auto key = hostKeyOf(event.keyval);
-    if (!key || (event.state & shortcutModifiers) != 0) return std::nullopt;
+    const guint ofShortcuts = withControl ? controlAside : shortcutModifiers;
+    if (!key || (event.state & ofShortcuts) != 0) return std::nullopt;
     return HostKeyEvent{*key, modifierFlagsOf(event.state)};
 }
 

@@ -13,9 +13,10 @@ namespace vantorel {
 
 [[nodiscard]] std::uint64_t modifierFlagsOf(guint state);
 
-/// Returns `std::nullopt` for keys that views do not know, and with Ctrl, Alt or Super, which
-/// belong to shortcuts.
-[[nodiscard]] std::optional<HostKeyEvent> hostKeyEventOf(const GdkEventKey& event);
+/// Returns `std::nullopt` for keys that views do not know, and with Alt, Super or, unless
+/// `withControl`, Ctrl, which belong to shortcuts.
+[[nodiscard]] std::optional<HostKeyEvent> hostKeyEventOf(const GdkEventKey& event,
+                                                         bool withControl);
 
 /// The turn of a wheel in steps; positive when turned away from the user.
 [[nodiscard]] double turnOf(const GdkEventScroll& event);

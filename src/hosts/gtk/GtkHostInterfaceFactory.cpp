@@ -5,8 +5,11 @@
 #include "hosts/gtk/GtkHostCustomView.h"
 #include "hosts/gtk/GtkHostPopUpButton.h"
 #include "hosts/gtk/GtkHostTextField.h"
+#include "hosts/gtk/GtkTexts.h"
 
 #include <atk/atk.h>
+
+#include <clocale>
 
 namespace vantorel {
 
@@ -42,6 +45,13 @@ std::unique_ptr<HostPopUpButton> GtkHostInterfaceFactory::makePopUpButton(
     const HostControlDescription& description)
 {
     return std::make_unique<GtkHostPopUpButton>(description);
+}
+
+std::u16string GtkHostInterfaceFactory::decimalSeparator() const
+{
+    // The program has set its locale, as GTK does when it starts.
+    const std::u16string separator = coreText(std::localeconv()->decimal_point);
+    return separator.empty() ? u"." : separator;
 }
 
 }  // namespace vantorel

@@ -322,7 +322,7 @@ private:
 
     void takeKey(const GdkEventKey& event)
     {
-        const auto key = hostKeyEventOf(event);
+        const auto key = hostKeyEventOf(event, false);
         const std::u16string typed = typedTextOf(event);
         if (event.keyval == GDK_KEY_Escape) {
             close();

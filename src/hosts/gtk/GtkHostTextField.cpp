@@ -29,7 +29,8 @@ float alignmentOf(const HostControlDescription& description)
 GtkHostTextField::GtkHostTextField(const HostControlDescription& description)
     : GtkMirrored(description.frame, gtk_entry_new()),
       _entry(*this, *this),
-      _style(widget(), description),
+      _scrub(*this),
+      _look(widget(), description),
       _isReadOnly(description.readOnly)
 {
     nameGtkWidget(widget(), description.identifier, description.accessibleName);
@@ -39,7 +40,10 @@ GtkHostTextField::GtkHostTextField(const HostControlDescription& description)
     gtk_editable_set_editable(editable(), !_isReadOnly);
     connectEdits();
     connectKeys();
-    connectLook();
+    connectScrub();
+    connectFocus();
+    signals().connect<void, GtkAllocation*>(widget(), "size-allocate",
+                                            [this](GtkAllocation*) { fit(); });
 }
 
 GtkEntry* GtkHostTextField::entry() const
@@ -100,7 +104,44 @@ void GtkHostTextField::connectKeys()
                                              });
 }
 
-void GtkHostTextField::connectLook()
+void GtkHostTextField::connectScrub()
+{
+    GtkWidget* field = widget();
+    const auto pointsOf = [](double pixels) { return pixels / gtkTextScale(); };
+    signals().connect<bool, GdkEventButton*>(
+        field, "button-press-event", [this, pointsOf](GdkEventButton* event) {
+            return event->button == 1 && event->type == GDK_BUTTON_PRESS && !hasFocus() &&
+                   _scrub.press(pointsOf(event->x));
+        });
+    signals().connect<bool, GdkEventMotion*>(
+        field, "motion-notify-event", [this, pointsOf](GdkEventMotion* event) {
+            if (!_scrub.isUnderWay()) return false;
+            if ((event->state & GDK_BUTTON1_MASK) == 0) {
+                // The release has gone elsewhere.
+                _scrub.breakOff();
+            } else {
+                _scrub.move(pointsOf(event->x), modifierFlagsOf(event->state));
+            }
+            return true;
+        });
+    signals().connect<bool, GdkEventButton*>(field, "button-release-event",
+                                             [this](GdkEventButton* event) {
+                                                 if (event->button != 1 || !_scrub.isUnderWay())
+                                                     return false;
+                                                 // GTK selects the whole text of what gets the
+                                                 // focus.
+                                                 if (_scrub.release())
+                                                     gtk_widget_grab_focus(widget());
+                                                 return true;
+                                             });
+    signals().connect<bool, GdkEvent*>(field, "grab-broken-event", [this](GdkEvent*) {
+        _scrub.breakOff();
+        return false;
+    });
+    signals().connect<void>(field, "unmap", [this] { _scrub.breakOff(); });
+}
+
+void GtkHostTextField::connectFocus()
 {
     GtkWidget* field = widget();
     signals().connect<bool, GdkEvent*>(
@@ -114,16 +155,6 @@ void GtkHostTextField::connectLook()
         focusDidChange(false);
         return false;
     });
-    signals().connect<void, GtkAllocation*>(field, "size-allocate",
-                                            [this](GtkAllocation*) { fit(); });
-    // The theme's colours may have changed. It is too early to change any while GTK says so.
-    const auto styleDidChange = [this] { _colorReaction.callSoon([this] { showColor(); }); };
-#if GTK_MAJOR_VERSION >= 3
-    signals().connect<void>(field, "style-updated", styleDidChange);
-#else
-    signals().connect<void, GtkStyle*>(field, "style-set",
-                                       [styleDidChange](GtkStyle*) { styleDidChange(); });
-#endif
 }
 
 bool GtkHostTextField::takeKey(const GdkEventKey& event)
@@ -246,30 +277,6 @@ bool GtkHostTextField::offerText(const std::u16string& text)
 void GtkHostTextField::entryGivenUp()
 {
     if (_panel.restore) _panel.restore();
-}
-
-void GtkHostTextField::setTextColor(const HostColor& color)
-{
-    if (color == _color) return;
-    _color = color;
-    showColor();
-}
-
-void GtkHostTextField::showColor()
-{
-    if (widget() != nullptr) _style.setTextColor(_color);
-}
-
-/// Chooses the font size, which does not change while the user types.
-void GtkHostTextField::fit()
-{
-    constexpr double besideText = 10;
-    if (widget() == nullptr) return;
-    if (hasFocus()) {
-        _style.useWholeFont();
-    } else {
-        _style.fitFont(gtk_entry_get_text(entry()), frame().width * gtkTextScale() - besideText);
-    }
 }
 
 GtkHostLabel::GtkHostLabel(const HostControlDescription& description)

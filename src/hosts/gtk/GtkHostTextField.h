@@ -3,9 +3,10 @@
 #include "host/HostControls.h"
 #include "host/HostInterfaceFactory.h"
 #include "hosts/common/FieldEntry.h"
+#include "hosts/common/ScrubGesture.h"
 #include "hosts/common/WheelSteps.h"
+#include "hosts/gtk/GtkFieldLook.h"
 #include "hosts/gtk/GtkHostView.h"
-#include "hosts/gtk/GtkStyles.h"
 
 namespace vantorel {
 
@@ -31,7 +32,7 @@ public:
 
     [[nodiscard]] std::u16string stringValue() const override { return text(); }
     void setStringValue(const std::u16string& text) override;
-    void setTextColor(const HostColor& color) override;
+    void setTextColor(const HostColor& color) override { _look.setTextColor(color); }
 
     [[nodiscard]] HostSelection selectedRange() const override { return _entry.selectedRange(); }
     void setSelectedRange(HostSelection range) override { _entry.setSelectedRange(range); }
@@ -57,22 +58,21 @@ private:
 
     void connectEdits();
     void connectKeys();
-    void connectLook();
+    void connectScrub();
+    void connectFocus();
     [[nodiscard]] GtkEntry* entry() const;
     [[nodiscard]] GtkEditable* editable() const;
     bool takeKey(const GdkEventKey& event);
     void focusDidChange(bool hasFocus);
     void paste(GdkAtom selection);
     void takeDrop(GdkDragContext* context, GtkSelectionData* data, guint time);
-    void fit();
-    void showColor();
+    void fit() { _look.fit(frame().width); }
 
     GtkFieldPanel _panel;
     FieldEntry _entry;
-    GtkControlStyle _style;
-    HostColor _color = HostColor::blackColor();
+    ScrubGesture _scrub;
+    GtkFieldLook _look;
     GtkDeferral _reaction;
-    GtkDeferral _colorReaction;
     WheelSteps _wheelSteps;
     bool _isReadOnly;
     /// Whether the change that GTK is about to report has inserted anything.

@@ -129,8 +129,12 @@ void nameGtkWidget(GtkWidget* widget, const std::string& identifier,
                    const std::u16string& accessibleName)
 {
     gtk_widget_set_name(widget, identifier.c_str());
-    if (accessibleName.empty()) return;
-    atk_object_set_name(gtk_widget_get_accessible(widget), gtkText(accessibleName).c_str());
+    if (!accessibleName.empty()) speakGtkWidget(widget, accessibleName);
+}
+
+void speakGtkWidget(GtkWidget* widget, const std::u16string& name)
+{
+    atk_object_set_name(gtk_widget_get_accessible(widget), gtkText(name).c_str());
 }
 
 }  // namespace vantorel

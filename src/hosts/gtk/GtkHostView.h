@@ -59,6 +59,8 @@ void showToolTip(GtkWidget* widget, const std::optional<std::u16string>& text);
 void nameGtkWidget(GtkWidget* widget, const std::string& identifier,
                    const std::u16string& accessibleName);
 
+void speakGtkWidget(GtkWidget* widget, const std::u16string& name);
+
 /// Mirrors a view in a widget.
 template <class Base>
 class GtkMirrored : public Base, public GtkPeer {
@@ -66,6 +68,12 @@ public:
     GtkMirrored(HostRect frame, GtkWidget* widget) : Base(frame), GtkPeer(widget) {}
     // Here, because the view's own functions must not be called any more.
     ~GtkMirrored() override { closeWidget(); }
+
+    void setAccessibleName(const std::u16string& name) override
+    {
+        for (GtkWidget* spoken : {widget(), activeWidget()})
+            if (spoken != nullptr) speakGtkWidget(spoken, name);
+    }
 
 protected:
     void frameDidChange() override { placeGtkWidgets(*this); }

@@ -266,6 +266,31 @@ HostColor themeSelectionColor(GtkWidget* widget)
 #endif
 }
 
+ThemeBasis themeBasisOf(GtkWidget* widget)
+{
+    ThemeBasis basis;
+    basis.text = themeTextColor(widget);
+    basis.accent = themeSelectionColor(widget);
+#if GTK_MAJOR_VERSION >= 3
+    const bool isLightText = !isDarkGround(basis.text);
+    basis.window = isLightText ? HostColor::blackColor() : HostColor::whiteColor();
+    basis.base = basis.window;
+    GtkStyleContext* context = gtk_widget_get_style_context(widget);
+    const auto look = [context](const char* name, HostColor& found) {
+        GdkRGBA color;
+        if (!gtk_style_context_lookup_color(context, name, &color)) return;
+        found = HostColor::colorWithCalibratedRed(color.red, color.green, color.blue, 1);
+    };
+    look("theme_bg_color", basis.window);
+    look("theme_base_color", basis.base);
+#else
+    const GtkStyle* style = gtk_widget_get_style(widget);
+    basis.window = coreColor(style->bg[GTK_STATE_NORMAL]);
+    basis.base = coreColor(style->base[GTK_STATE_NORMAL]);
+#endif
+    return basis;
+}
+
 void drawPopUpArrow(cairo_t* cairo, const HostColor& color, double centerX, double centerY)
 {
     constexpr double half = 3.5;

@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "host/HostInterfaceFactory.h"
+#include "hosts/common/ThemeMixtures.h"
 #include "hosts/gtk/GtkReferences.h"
 
 #include <optional>
@@ -57,6 +58,9 @@ void styleForLightGround(GtkWidget* widget);
 [[nodiscard]] HostColor themeTextColor(GtkWidget* widget);
 /// The theme's colour for what is selected.
 [[nodiscard]] HostColor themeSelectionColor(GtkWidget* widget);
+
+/// The theme's colours for a widget that paints itself.
+[[nodiscard]] ThemeBasis themeBasisOf(GtkWidget* widget);
 
 /// The arrow of a pop-up, in the middle of a rectangle.
 void drawPopUpArrow(cairo_t* cairo, const HostColor& color, double centerX, double centerY);

@@ -54,7 +54,32 @@ bool isMissing(int error)
     return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
 }
 
+std::uint64_t versionOf(const struct stat& status)
+{
+    std::uint64_t version = 0xcbf29ce484222325U;
+    for (const auto part :
+         {static_cast<std::uint64_t>(status.st_mtim.tv_sec),
+          static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
+          // Detects new permissions, and replacement by an older file.
+          static_cast<std::uint64_t>(status.st_ctim.tv_sec),
+          static_cast<std::uint64_t>(status.st_ctim.tv_nsec),
+          static_cast<std::uint64_t>(status.st_ino), static_cast<std::uint64_t>(status.st_size)}) {
+        version = (version ^ part) * 0x100000001b3U;
+    }
+    return version != 0 ? version : 1;
+}
+
+std::string identityOf(const struct stat& status)
+{
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+}
+
 }  // namespace
+
+struct PosixFiles::OpenFile {
+    Descriptor descriptor;
+    struct stat status;
+};
 
 PosixFiles::PosixFiles()
     : _baseDirectories(userBaseDirectories()),
@@ -93,24 +118,14 @@ std::uint64_t PosixFiles::versionAtPath(const std::string& path) const
 {
     struct stat status {};
     if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) return 0;
-    std::uint64_t version = 0xcbf29ce484222325U;
-    for (const auto part :
-         {static_cast<std::uint64_t>(status.st_mtim.tv_sec),
-          static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
-          // Detects new permissions, and replacement by an older file.
-          static_cast<std::uint64_t>(status.st_ctim.tv_sec),
-          static_cast<std::uint64_t>(status.st_ctim.tv_nsec),
-          static_cast<std::uint64_t>(status.st_ino), static_cast<std::uint64_t>(status.st_size)}) {
-        version = (version ^ part) * 0x100000001b3U;
-    }
-    return version != 0 ? version : 1;
+    return versionOf(status);
 }
 
 std::string PosixFiles::identityAtPath(const std::string& path) const
 {
     struct stat status {};
     if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) return {};
-    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+    return identityOf(status);
 }
 
 bool PosixFiles::createDirectory(const std::string& path)
@@ -139,39 +154,68 @@ std::vector<std::string> PosixFiles::contentsOfDirectory(const std::string& path
     return names;
 }
 
-std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) const
+std::optional<PosixFiles::OpenFile> PosixFiles::openToRead(const std::string& path) const
 {
-    const Descriptor file(
-        uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
-    struct stat status {};
-    if (!file || uninterrupted([&] { return ::fstat(file.value(), &status); }) != 0) {
+    OpenFile file{Descriptor(uninterrupted(
+                      [&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); })),
+                  {}};
+    if (!file.descriptor ||
+        uninterrupted([&] { return ::fstat(file.descriptor.value(), &file.status); }) != 0) {
         if (!isMissing(errno)) reportFailure(path, Access::reading, errno);
         return std::nullopt;
     }
-    if (!S_ISREG(status.st_mode)) {
+    if (!S_ISREG(file.status.st_mode)) {
         // Reading a pipe or a device may never end. Folders are no surprise beside palettes.
-        if (!S_ISDIR(status.st_mode)) reportSpecialFile(path);
+        if (!S_ISDIR(file.status.st_mode)) reportSpecialFile(path);
         return std::nullopt;
     }
-    if (static_cast<std::uint64_t>(status.st_size) > largestFile) {
+    if (static_cast<std::uint64_t>(file.status.st_size) > largestFile) {
         reportFailure(path, Access::reading, EFBIG);
         return std::nullopt;
     }
+    return file;
+}
+
+bool PosixFiles::readSome(const OpenFile& file, const std::string& path, std::string& bytes,
+                          std::size_t most) const
+{
+    const std::size_t before = bytes.size();
+    bytes.resize(before + most);
+    const ssize_t count =
+        uninterrupted([&] { return ::read(file.descriptor.value(), bytes.data() + before, most); });
+    bytes.resize(before + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    if (count < 0) reportFailure(path, Access::reading, errno);
+    return count >= 0;
+}
+
+std::optional<std::string> PosixFiles::contentsAtPath(const std::string& path) const
+{
+    const auto file = openToRead(path);
+    if (!file) return std::nullopt;
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(status.st_size));
-    std::array<char, 65536> buffer{};
-    while (true) {
-        const ssize_t count =
-            uninterrupted([&] { return ::read(file.value(), buffer.data(), buffer.size()); });
-        if (count < 0) {
-            reportFailure(path, Access::reading, errno);
-            return std::nullopt;
-        }
-        if (count == 0) return bytes;
-        bytes.append(buffer.data(), static_cast<std::size_t>(count));
-        // The file can grow while it is being read.
+    if (!readSome(*file, path, bytes, static_cast<std::size_t>(file->status.st_size))) {
+        return std::nullopt;
+    }
+    // The file can change while it is being read, and some have no size.
+    for (std::string more;; more.clear()) {
+        if (!readSome(*file, path, more, 4096)) return std::nullopt;
+        if (more.empty()) return bytes;
+        bytes += more;
         if (bytes.size() > largestFile) return std::nullopt;
     }
+}
+
+std::optional<HostFileHead> PosixFiles::headAtPath(const std::string& path, std::size_t count) const
+{
+    const auto file = openToRead(path);
+    if (!file) return std::nullopt;
+    HostFileHead head;
+    head.version = versionOf(file->status);
+    head.identity = identityOf(file->status);
+    if (!readSome(*file, path, head.bytes, count)) return std::nullopt;
+    head.isWholeFile = head.bytes.size() == static_cast<std::size_t>(file->status.st_size) &&
+                       head.bytes.size() < count;
+    return head;
 }
 
 bool PosixFiles::writeAtomically(const std::string& path, const std::string& bytes)

@@ -34,6 +34,8 @@ public:
         const std::string& path) const override;
     /// Reads only regular files, so that a pipe cannot block it, of at most `largestFile` bytes.
     [[nodiscard]] std::optional<std::string> contentsAtPath(const std::string& path) const override;
+    [[nodiscard]] std::optional<HostFileHead> headAtPath(const std::string& path,
+                                                         std::size_t count) const override;
     /// Uses an `AtomicWriter`, as do the two functions below.
     bool writeAtomically(const std::string& path, const std::string& bytes) override;
     HostFileCreation createAtomically(const std::string& path, const std::string& bytes) override;
@@ -49,7 +51,15 @@ public:
     void setFailureHandler(FailureHandler handler) { _handleFailure = std::move(handler); }
 
 private:
+    struct OpenFile;
+
     int write(const std::string& path, const std::string& bytes, AtomicWrite manner);
+    /// Opens a regular file that is not too large. Reports why it cannot be, unless it is missing.
+    [[nodiscard]] std::optional<OpenFile> openToRead(const std::string& path) const;
+    /// Reads at most `most` bytes of a file and appends them. Returns false, and reports it, if
+    /// that fails.
+    bool readSome(const OpenFile& file, const std::string& path, std::string& bytes,
+                  std::size_t most) const;
     /// A pipe, a socket or a device.
     void reportSpecialFile(const std::string& path) const;
     void reportFailure(const std::string& path, Access access, int error) const;

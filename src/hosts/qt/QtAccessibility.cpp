@@ -7,7 +7,7 @@
 #include <QEvent>
 #include <QVariant>
 
-Q_DECLARE_METATYPE(const vantorel::HostView*)
+Q_DECLARE_METATYPE(const vantorel::HostCustomView*)
 Q_DECLARE_METATYPE(vantorel::QtPopUpButton*)
 
 namespace vantorel {
@@ -20,7 +20,7 @@ constexpr const char* popUpProperty = "vantorelPopUpButton";
 
 class AccessibleCustomView final : public QAccessibleWidget {
 public:
-    AccessibleCustomView(QWidget* widget, const HostView& view)
+    AccessibleCustomView(QWidget* widget, const HostCustomView& view)
         : QAccessibleWidget(widget), _view(view)
     {
     }
@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    const HostView& _view;
+    const HostCustomView& _view;
 };
 
 QAccessibleInterface* interfaceOf(const QString&, QObject* object)
@@ -51,7 +51,7 @@ QAccessibleInterface* interfaceOf(const QString&, QObject* object)
     if (auto* popUp = widget->property(popUpProperty).value<QtPopUpButton*>()) {
         return new QtAccessiblePopUpButton(widget, *popUp);
     }
-    if (const auto* view = widget->property(viewProperty).value<const HostView*>()) {
+    if (const auto* view = widget->property(viewProperty).value<const HostCustomView*>()) {
         return new AccessibleCustomView(widget, *view);
     }
     if (const QVariant role = widget->property(roleProperty); role.isValid()) {
@@ -102,7 +102,8 @@ private:
 
 class DescriptionReporter final : public ChangeReporter {
 public:
-    DescriptionReporter(QWidget& widget, const HostView& view) : ChangeReporter(widget), _view(view)
+    DescriptionReporter(QWidget& widget, const HostCustomView& view)
+        : ChangeReporter(widget), _view(view)
     {
     }
 
@@ -119,7 +120,7 @@ protected:
     }
 
 private:
-    const HostView& _view;
+    const HostCustomView& _view;
 };
 
 class ShownTextReporter final : public ChangeReporter {
@@ -152,7 +153,7 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role)
     setProperty(widget, roleProperty, static_cast<int>(role));
 }
 
-void describeCustomView(QWidget& widget, const HostView& view)
+void describeCustomView(QWidget& widget, const HostCustomView& view)
 {
     setProperty(widget, viewProperty, QVariant::fromValue(&view));
     new DescriptionReporter(widget, view);

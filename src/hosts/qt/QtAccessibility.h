@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HostView.h"
+#include "host/HostControls.h"
 
 #include <QAccessible>
 #include <QWidget>
@@ -17,7 +17,7 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 /// Makes the widget of a custom view report the view's accessible description and its changes. A
 /// view with a description is a colour chooser; one without is a container of its controls. `view`
 /// must outlive `widget`.
-void describeCustomView(QWidget& widget, const HostView& view);
+void describeCustomView(QWidget& widget, const HostCustomView& view);
 
 /// Makes the widget of a pop-up a combo box whose text is the selected item's title, and which can
 /// be opened. `popUp` must outlive `widget`.

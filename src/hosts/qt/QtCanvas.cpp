@@ -7,7 +7,9 @@
 #include "hosts/qt/QtVersions.h"
 #include "hosts/qt/TextScale.h"
 
+#include <QApplication>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -42,10 +44,11 @@ QPainterPath painterPath(const HostBezierPath& path, Place place)
 
 }  // namespace
 
-QtCanvas::QtCanvas(QPainter& painter, HostRect bounds)
+QtCanvas::QtCanvas(QPainter& painter, HostRect bounds, const std::optional<QPalette>& palette)
     : _painter(painter),
       _bounds(bounds),
       _scale(textScale()),
+      _palette(palette),
       // Fills end on whole pixels, which may lie beyond their edges.
       _dirty(painter.hasClipping()
                  ? std::optional(painter.clipBoundingRect().adjusted(-1, -1, 1, 1))
@@ -167,6 +170,42 @@ void QtCanvas::drawText(const HostText& text, HostPoint at)
         _painter.drawText(QPointF(lowerLeft.x(), baseline), qStringFrom(line));
         baseline += metrics.height();
     }
+}
+
+QRect QtCanvas::pixelsOf(HostRect rect) const
+{
+    const QRectF device = _painter.deviceTransform().mapRect(placed(rect));
+    return QRect(QPoint(qRound(device.left()), qRound(device.top())),
+                 QPoint(qRound(device.right()) - 1, qRound(device.bottom()) - 1));
+}
+
+HostPixelSize QtCanvas::pixelSizeOf(HostRect rect) const
+{
+    const QRect place = pixelsOf(rect);
+    return {std::max(0, place.width()), std::max(0, place.height())};
+}
+
+void QtCanvas::drawPixels(const HostPixels& pixels, HostRect rect)
+{
+    const QRect place = pixelsOf(rect);
+    if (pixels.isEmpty() || place.isEmpty()) return;
+    constexpr int bytesPerPixel = 4;
+    const QImage picture(reinterpret_cast<const uchar*>(pixels.row(0)), pixels.width(),
+                         pixels.height(), pixels.width() * bytesPerPixel,
+                         QImage::Format_ARGB32_Premultiplied);
+    _painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    setAntialiasing(false);
+    const QTransform fromDevice = _painter.deviceTransform().inverted();
+    _painter.drawImage(fromDevice.mapRect(QRectF(place)), picture);
+}
+
+HostColor QtCanvas::themeColor(HostThemeColor kind) const
+{
+    const QPalette palette = _palette.value_or(QApplication::palette());
+    const auto color = [&](QPalette::ColorRole role) { return hostColorFrom(palette.color(role)); };
+    return themeColorOf({color(QPalette::Window), color(QPalette::Base),
+                         color(QPalette::WindowText), color(QPalette::Highlight)},
+                        kind);
 }
 
 QSizeF pictureSize(const HostImage& image)

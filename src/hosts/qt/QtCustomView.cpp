@@ -80,7 +80,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override
     {
-        const auto key = hostKeyEvent(*event);
+        const auto key = hostKeyEvent(*event, _owner->_content.takesControlKeys());
         const bool isTaken = key && _marks.offers(*key) && _owner->_content.takesKeys() &&
                              _owner->_content.keyDown(*key);
         if (!isTaken) {
@@ -177,7 +177,7 @@ QtCustomView::QtCustomView(const HostControlDescription& description, HostViewCo
 
 void QtCustomView::paint(QPainter& painter, bool showsFocus)
 {
-    QtCanvas canvas(painter, bounds());
+    QtCanvas canvas(painter, bounds(), widget()->palette());
     _content.drawRect(canvas);
     if (showsFocus) strokeOnAnyColor(canvas, _content.keyOutline());
     setNeedsDisplay(false);

@@ -49,10 +49,11 @@ int wheelSteps(WheelSteps& wheel, const QWheelEvent& event)
     return wheel.stepsOf(event.angleDelta().y() / eighthsOfADegree);
 }
 
-std::optional<HostKeyEvent> hostKeyEvent(const QKeyEvent& event)
+std::optional<HostKeyEvent> hostKeyEvent(const QKeyEvent& event, bool withControl)
 {
     const auto key = hostKey(event.key());
-    const auto ofShortcuts = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    Qt::KeyboardModifiers ofShortcuts = Qt::AltModifier | Qt::MetaModifier;
+    ofShortcuts.setFlag(Qt::ControlModifier, !withControl);
     if (!key || (event.modifiers() & ofShortcuts) != 0) return std::nullopt;
     return HostKeyEvent{*key, modifierFlags(event.modifiers())};
 }

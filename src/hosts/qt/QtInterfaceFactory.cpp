@@ -7,6 +7,8 @@
 #include "hosts/qt/QtPopUpButton.h"
 #include "hosts/qt/QtTextField.h"
 
+#include <QLocale>
+
 namespace vantorel {
 namespace {
 
@@ -57,6 +59,11 @@ std::unique_ptr<HostPopUpButton> QtInterfaceFactory::makePopUpButton(
     auto popUp = named(std::make_unique<QtPopUpButton>(description), description);
     describePopUpButton(*popUp->widget(), *popUp);
     return popUp;
+}
+
+std::u16string QtInterfaceFactory::decimalSeparator() const
+{
+    return u16From(QString(QLocale().decimalPoint()));
 }
 
 }  // namespace vantorel

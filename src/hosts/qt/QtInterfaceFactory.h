@@ -15,6 +15,7 @@ public:
     std::unique_ptr<HostButton> makeButton(const HostControlDescription& description) override;
     std::unique_ptr<HostPopUpButton> makePopUpButton(
         const HostControlDescription& description) override;
+    [[nodiscard]] std::u16string decimalSeparator() const override;
 };
 
 }  // namespace vantorel

@@ -6,11 +6,13 @@
 #include "hosts/qt/QtEvents.h"
 #include "hosts/qt/QtVersions.h"
 #include "hosts/qt/QtView.h"
+#include "hosts/qt/TextScale.h"
 
 #include <QApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 
 namespace vantorel {
 namespace {
@@ -41,9 +43,51 @@ void QtLineEdit::setHostColor(const HostColor& color)
     applyColor();
 }
 
+void QtLineEdit::setCanScrub(bool flag)
+{
+    // Qt gives the focus for a click before the widget gets the click.
+    setFocusPolicy(flag ? Qt::TabFocus : Qt::StrongFocus);
+    if (flag && !hasFocus()) setCursor(Qt::SizeHorCursor);
+    if (!flag) setCursor(Qt::IBeamCursor);
+}
+
+double QtLineEdit::pointsOf(const QMouseEvent& event)
+{
+    return positionOf(event).x() / textScale();
+}
+
+void QtLineEdit::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && !hasFocus() && _scrub->press(pointsOf(*event))) return;
+    ClipboardLineEdit::mousePressEvent(event);
+}
+
+void QtLineEdit::mouseMoveEvent(QMouseEvent* event)
+{
+    if (_scrub->isUnderWay()) {
+        _scrub->move(pointsOf(*event), modifierFlags(event->modifiers()));
+    } else {
+        ClipboardLineEdit::mouseMoveEvent(event);
+    }
+}
+
+void QtLineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !_scrub->isUnderWay()) {
+        ClipboardLineEdit::mouseReleaseEvent(event);
+    } else if (_scrub->release()) {
+        setFocus(Qt::MouseFocusReason);
+        selectAll();
+    }
+}
+
 bool QtLineEdit::event(QEvent* event)
 {
     const WidgetReaction reaction;
+    // Whoever takes the mouse, as a menu or another window does, gets the release.
+    if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide) {
+        if (_scrub != nullptr && _scrub->isUnderWay()) _scrub->breakOff();
+    }
     // Accepted ahead of shortcuts: in a field Escape only ends the entry, even in a window that
     // Escape would close.
     if (event->type() == QEvent::ShortcutOverride &&
@@ -77,12 +121,14 @@ void QtLineEdit::resizeEvent(QResizeEvent* event)
 void QtLineEdit::focusInEvent(QFocusEvent* event)
 {
     ClipboardLineEdit::focusInEvent(event);
+    if (focusPolicy() == Qt::TabFocus) setCursor(Qt::IBeamCursor);
     fit();
 }
 
 void QtLineEdit::focusOutEvent(QFocusEvent* event)
 {
     ClipboardLineEdit::focusOutEvent(event);
+    if (focusPolicy() == Qt::TabFocus) setCursor(Qt::SizeHorCursor);
     fit();
     // Qt moves the focus on, as Tab does, when it hides the widget that has it.
     if (!isVisible()) return;

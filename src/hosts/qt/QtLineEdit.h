@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "hosts/common/FieldEntry.h"
+#include "hosts/common/ScrubGesture.h"
 #include "hosts/common/WheelSteps.h"
 #include "hosts/qt/ClipboardLineEdit.h"
 
@@ -18,11 +19,17 @@ public:
     /// `font` has the full size.
     explicit QtLineEdit(const QFont& font);
 
-    /// Call this before the first event. `entry` must outlive the widget's events.
-    void setEntry(FieldEntry& entry) { _entry = &entry; }
+    /// Call this before the first event. Both must outlive the widget's events.
+    void setEntry(FieldEntry& entry, ScrubGesture& scrub)
+    {
+        _entry = &entry;
+        _scrub = &scrub;
+    }
     void setHostColor(const HostColor& color);
     /// Makes the Up and Down keys and the mouse wheel step the value.
     void setCanStep(bool flag) { _canStep = flag; }
+    /// Makes the mouse change the value instead of editing the text, until a click begins that.
+    void setCanScrub(bool flag);
     /// Whether the text is being changed by a key that writes nothing, such as Backspace.
     [[nodiscard]] bool isDeleting() const { return _isDeleting; }
 
@@ -40,6 +47,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -49,8 +59,10 @@ private:
     /// Chooses the font size, which does not change while the user types.
     void fit();
     void applyColor();
+    [[nodiscard]] static double pointsOf(const QMouseEvent& event);
 
     FieldEntry* _entry = nullptr;
+    ScrubGesture* _scrub = nullptr;
     QFont _font;  ///< in its full size
     std::optional<HostColor> _color;
     bool _applying = false;

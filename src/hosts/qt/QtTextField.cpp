@@ -40,12 +40,17 @@ QtTextField::QtTextField(const HostControlDescription& description)
         const WidgetReaction reaction;
         _entry.enter();
     });
-    edit->setEntry(_entry);
+    edit->setEntry(_entry, _scrub);
 }
 
 void QtTextField::stepDidChange()
 {
     if (QtLineEdit* edit = lineEdit()) edit->setCanStep(canStep());
+}
+
+void QtTextField::scrubDidChange()
+{
+    if (QtLineEdit* edit = lineEdit()) edit->setCanScrub(canScrub());
 }
 
 QtLineEdit* QtTextField::lineEdit() const

@@ -3,6 +3,7 @@
 #include "host/HostControls.h"
 #include "host/HostInterfaceFactory.h"
 #include "hosts/common/FieldEntry.h"
+#include "hosts/common/ScrubGesture.h"
 #include "hosts/qt/QtLineEdit.h"
 #include "hosts/qt/QtView.h"
 
@@ -32,6 +33,7 @@ public:
 
 protected:
     void stepDidChange() override;
+    void scrubDidChange() override;
 
 private:
     // The widget of the entry.
@@ -47,6 +49,7 @@ private:
     void entryGivenUp() override;
 
     FieldEntry _entry{*this, *this};
+    ScrubGesture _scrub{*this};
 };
 
 /// A read-only text. Frames have room for English titles. A title at the right of its frame, before

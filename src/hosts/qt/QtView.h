@@ -71,6 +71,11 @@ public:
 
     [[nodiscard]] QWidget* widget() const override { return _widget; }
 
+    void setAccessibleName(const std::u16string& name) override
+    {
+        if (_widget != nullptr) _widget->setAccessibleName(QString::fromStdU16String(name));
+    }
+
 protected:
     void frameDidChange() override { placeWidgets(*this); }
     void boundsDidChange() override { placeWidgets(*this); }

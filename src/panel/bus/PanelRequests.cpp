@@ -1,6 +1,7 @@
 #include "panel/bus/PanelRequests.h"
 
 #include "csscolor/CSSColorWriter.h"
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/bus/ActivationToken.h"
 #include "panel/widgets/ColorClipboard.h"
@@ -8,6 +9,7 @@
 #include "result/HarmlessLine.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vantorel {
@@ -46,7 +48,7 @@ QString PanelRequests::color() const
 
 HostColor PanelRequests::hostColor() const
 {
-    return _window.colors().color();
+    return mappedIntoSRGB(_window.colors().color());
 }
 
 void PanelRequests::pick(bool copies, Done done)
@@ -87,7 +89,8 @@ void PanelRequests::copy(const QString& form, const ActivationToken& token, Done
 void PanelRequests::putOnClipboard(const QString& form, const ActivationToken& token,
                                    const Done& done)
 {
-    const auto texts = _window.exchange().colorTexts();
+    auto texts = _window.exchange().colorTexts();
+    std::ranges::move(_window.exchange().otherSnippetTexts(), std::back_inserter(texts));
     const auto chosen = std::find_if(texts.begin(), texts.end(), [&](const HostColorText& text) {
         return qStringFrom(text.name) == form;
     });

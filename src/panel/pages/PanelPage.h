@@ -47,6 +47,8 @@ public:
     virtual void didDisappear() {}
     /// The holder has a new size.
     virtual void resize(HostSize size) = 0;
+    /// Whether `setColor` takes colours outside sRGB; others get the nearest inside.
+    [[nodiscard]] virtual bool takesWideGamut() const { return false; }
     /// Called when the panel's colour is set while the page is shown, even by the page itself.
     virtual void setColor(const HostColor& color) = 0;
     /// Enters text that the user has typed into the page's fields but not yet entered.

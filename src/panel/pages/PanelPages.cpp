@@ -1,5 +1,6 @@
 #include "panel/pages/PanelPages.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/TextScale.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ void PanelPages::showPage(int index)
     _currentIndex = index;
     current()->show(*_holder);
     if (_isVisible) current()->didAppear();
-    current()->setColor(_color);
+    passColor();
     emit pageShown(index);
 }
 
@@ -95,8 +96,19 @@ void PanelPages::step(int pages)
 void PanelPages::setColor(const HostColor& color)
 {
     _color = color;
-    if (PanelPage* page = current()) page->setColor(color);
+    passColor();
     emit colorShown();
+}
+
+bool PanelPages::takesWideGamut() const
+{
+    return current() != nullptr && current()->takesWideGamut();
+}
+
+void PanelPages::passColor()
+{
+    if (PanelPage* page = current())
+        page->setColor(page->takesWideGamut() ? _color : mappedIntoSRGB(_color));
 }
 
 void PanelPages::setVisible(bool isVisible)

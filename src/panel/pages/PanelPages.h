@@ -26,6 +26,8 @@ public:
     [[nodiscard]] int currentIndex() const { return _currentIndex; }
     /// Null until a page is shown.
     [[nodiscard]] PanelPage* current() const;
+    /// Whether the page that is shown takes colours outside sRGB as they are.
+    [[nodiscard]] bool takesWideGamut() const;
     /// The picker of the page that is shown; null for the panel's own pages.
     [[nodiscard]] HostColorPicker* currentPicker() const;
     [[nodiscard]] const PanelPage& page(int index) const;
@@ -50,7 +52,8 @@ public slots:
     void showPage(int index);
     void showNextPage() { step(1); }
     void showPreviousPage() { step(-1); }
-    /// Passes the panel's colour to the page that is shown, and to each that is shown later.
+    /// Passes the panel's colour to the page that is shown, and to each that is shown later. A page
+    /// that does not take it gets the nearest colour inside sRGB, as CSS maps it.
     void setColor(const HostColor& color);
 
 signals:
@@ -61,6 +64,7 @@ signals:
 
 private:
     void step(int pages);
+    void passColor();
 
     std::unique_ptr<QtMirrored<HostView>> _holder;
     std::vector<std::unique_ptr<PanelPage>> _pages;

@@ -6,6 +6,7 @@
 #include "hosts/qt/QtButton.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtTextField.h"
+#include "hosts/qt/QtTranslations.h"
 #include "hosts/qt/TextScale.h"
 
 namespace vantorel {
@@ -32,7 +33,7 @@ QString PluginPage::key() const
 
 QString PluginPage::name() const
 {
-    return QString::fromUtf8(_plugin.plugin().displayName);
+    return translation("Vantorel", _plugin.plugin().displayName);
 }
 
 QString PluginPage::toolTip() const
@@ -120,7 +121,7 @@ std::vector<ShortcutRow> PluginPage::shortcuts() const
         {tr("Enter what was typed"), shownKeys({Qt::Key_Return})},
         {tr("Give up what was typed"), shownKeys({Qt::Key_Escape})},
         {tr("Change a component"), shownKeys({Qt::Key_Up, Qt::Key_Down})},
-        {tr("Change a component by 16"),
+        {tr("Change a component in large steps"),
          shownKeys({Qt::SHIFT | Qt::Key_Up, Qt::SHIFT | Qt::Key_Down})},
         {tr("Move in the colours"),
          shownKeys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})},

@@ -30,6 +30,7 @@ public:
     void didAppear() override;
     void didDisappear() override;
     void resize(HostSize size) override;
+    [[nodiscard]] bool takesWideGamut() const override { return _picker->takesWideGamut(); }
     void setColor(const HostColor& color) override;
     void finishEditing() override;
     [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;

@@ -27,7 +27,9 @@ GeneralPreferences::GeneralPreferences(PanelPreferences& preferences, QWidget* p
       _rows(new QGridLayout(this)),
       _theme(new SegmentedChoice(this)),
       _desktopStyle(new QCheckBox(tr("Use the desktop's own controls and colours"), this)),
-      _textSize(new QComboBox(this))
+      _textSize(new QComboBox(this)),
+      _afterPicking(new QComboBox(this)),
+      _average(new SegmentedChoice(this))
 {
     constexpr int gap = 8;
     constexpr int besideNames = 12;
@@ -37,6 +39,8 @@ GeneralPreferences::GeneralPreferences(PanelPreferences& preferences, QWidget* p
     _rows->setColumnStretch(1, 1);
     addTheme();
     addTextSize();
+    addRule();
+    addPicking();
     showPreferences();
     connect(&_preferences, &PanelPreferences::changed, this, &GeneralPreferences::showPreferences);
 }
@@ -100,12 +104,50 @@ void GeneralPreferences::addTextSize()
             [this](int index) { _preferences.setTextSize(_textSize->itemData(index).toInt()); });
 }
 
+void GeneralPreferences::addPicking()
+{
+    _afterPicking->setObjectName(QStringLiteral("afterPicking"));
+    const auto offer = [this](const QString& text, AfterPicking after) {
+        _afterPicking->addItem(text, static_cast<int>(after));
+    };
+    offer(tr("Show the colour"), AfterPicking::shows);
+    offer(tr("Copy the colour and stay"), AfterPicking::copies);
+    offer(tr("Copy the colour and minimise the panel"), AfterPicking::copiesHides);
+    addRow(tr("After picking"), *_afterPicking);
+    _average->setObjectName(QStringLiteral("average"));
+    for (const int side : averagedSides) {
+        const QString number = QLocale().toString(side);
+        _average->addChoice(side == 1 ? number : tr("%1×%1").arg(number), QString::number(side));
+    }
+    addRow(tr("Pick the average of"), *_average);
+    addNote(tr("Pixels of the screen. Where only the desktop can pick, it picks one pixel."));
+    connect(_afterPicking, &QComboBox::activated, this, [this](int index) {
+        _preferences.setAfterPicking(
+            static_cast<AfterPicking>(_afterPicking->itemData(index).toInt()));
+    });
+    connect(_average, &SegmentedChoice::chosen, this,
+            [this](const QString& side) { _preferences.setAveragedSide(side.toInt()); });
+}
+
+void GeneralPreferences::addResidence()
+{
+    _residence = new QCheckBox(tr("Stay resident, with a tray icon"), this);
+    _residence->setObjectName(QStringLiteral("residence"));
+    _residence->setChecked(_preferences.staysResident());
+    addRow({}, *_residence);
+    connect(_residence, &QCheckBox::toggled, &_preferences, &PanelPreferences::setStaysResident);
+}
+
 void GeneralPreferences::showPreferences()
 {
     const QSignalBlocker blocker(_desktopStyle);
+    if (_residence != nullptr) _residence->setChecked(_preferences.staysResident());
     _theme->setCurrentKey(_preferences.theme());
     _theme->setEnabled(!_preferences.usesDesktopStyle());
     _desktopStyle->setChecked(_preferences.usesDesktopStyle());
+    _afterPicking->setCurrentIndex(
+        _afterPicking->findData(static_cast<int>(_preferences.afterPicking())));
+    _average->setCurrentKey(QString::number(_preferences.averagedSide()));
     _textSize->setCurrentIndex(_textSize->findData(_preferences.textSize()));
 }
 

@@ -11,7 +11,7 @@ namespace vantorel {
 class PanelPreferences;
 class SegmentedChoice;
 
-/// The first page of the preferences: theme and text size.
+/// The first page of the preferences: theme, text size and picking.
 class GeneralPreferences final : public QWidget {
     Q_OBJECT
 
@@ -23,12 +23,15 @@ public:
     void addRow(const QString& name, QWidget& control);
     /// Adds a line between groups of rows.
     void addRule();
+    /// Adds the choice to keep running when the window is closed.
+    void addResidence();
     /// Adds a sentence below a control.
     void addNote(const QString& text);
 
 private:
     void addTheme();
     void addTextSize();
+    void addPicking();
     void showPreferences();
     void changeTheme();
 
@@ -37,6 +40,10 @@ private:
     SegmentedChoice* _theme;
     QCheckBox* _desktopStyle;
     QComboBox* _textSize;
+    QComboBox* _afterPicking;
+    SegmentedChoice* _average;
+    /// Null unless it was added.
+    QCheckBox* _residence = nullptr;
 };
 
 }  // namespace vantorel

@@ -11,11 +11,40 @@ namespace {
 
 constexpr ConfigurationFile preferencesFile("Preferences.plist");
 
+constexpr std::u16string_view afterPickingKey = u"AfterPicking";
+constexpr std::u16string_view averagedSideKey = u"AveragedSide";
 constexpr std::u16string_view desktopStyleKey = u"UsesDesktopStyle";
+constexpr std::u16string_view residentKey = u"StaysResident";
 constexpr std::u16string_view textSizeKey = u"TextSize";
 constexpr std::u16string_view themeKey = u"Theme";
 constexpr const char16_t* yesText = u"YES";
 constexpr const char16_t* noText = u"NO";
+
+/// In the order of `AfterPicking`.
+constexpr std::array afterPickingTexts{"show", "copy", "copy and hide"};
+
+AfterPicking afterPickingFrom(const QString& text)
+{
+    for (std::size_t i = 0; i < afterPickingTexts.size(); ++i) {
+        if (text == QLatin1String(afterPickingTexts[i])) return static_cast<AfterPicking>(i);
+    }
+    return AfterPicking::shows;
+}
+
+QString textOf(AfterPicking after)
+{
+    return QString::fromLatin1(afterPickingTexts[static_cast<std::size_t>(after)]);
+}
+
+bool isAveragedSide(int side)
+{
+    return std::find(averagedSides.begin(), averagedSides.end(), side) != averagedSides.end();
+}
+
+QString yesOrNo(bool flag)
+{
+    return QString::fromUtf16(flag ? yesText : noText);
+}
 
 bool isTheme(const QString& name)
 {
@@ -53,7 +82,26 @@ PanelPreferences::Values PanelPreferences::valuesFrom(const PropertyList& list)
     values.usesDesktopStyle = text(desktopStyleKey) == QStringView(yesText);
     if (const int percent = text(textSizeKey).toInt(); isTextSize(percent))
         values.textSize = percent;
+    values.staysResident = text(residentKey) == QStringView(yesText);
+    values.afterPicking = afterPickingFrom(text(afterPickingKey));
+    if (const int side = text(averagedSideKey).toInt(); isAveragedSide(side))
+        values.averagedSide = side;
     return values;
+}
+
+PropertyList PanelPreferences::listFrom(const Values& values)
+{
+    const auto entry = [](std::u16string_view key, const QString& value) {
+        return std::pair(std::u16string(key), PropertyList(u16From(value)));
+    };
+    return PropertyList::Dictionary{
+        entry(themeKey, values.theme),
+        entry(desktopStyleKey, yesOrNo(values.usesDesktopStyle)),
+        entry(residentKey, yesOrNo(values.staysResident)),
+        entry(textSizeKey, QString::number(values.textSize)),
+        entry(afterPickingKey, textOf(values.afterPicking)),
+        entry(averagedSideKey, QString::number(values.averagedSide)),
+    };
 }
 
 void PanelPreferences::setTheme(const QString& theme)
@@ -63,14 +111,29 @@ void PanelPreferences::setTheme(const QString& theme)
 
 void PanelPreferences::setUsesDesktopStyle(bool uses)
 {
-    if (uses != _values.usesDesktopStyle)
-        write(desktopStyleKey, QString::fromUtf16(uses ? yesText : noText));
+    if (uses != _values.usesDesktopStyle) write(desktopStyleKey, yesOrNo(uses));
 }
 
 void PanelPreferences::setTextSize(int percent)
 {
     if (isTextSize(percent) && percent != _values.textSize)
         write(textSizeKey, QString::number(percent));
+}
+
+void PanelPreferences::setStaysResident(bool stays)
+{
+    if (stays != _values.staysResident) write(residentKey, yesOrNo(stays));
+}
+
+void PanelPreferences::setAfterPicking(AfterPicking after)
+{
+    if (after != _values.afterPicking) write(afterPickingKey, textOf(after));
+}
+
+void PanelPreferences::setAveragedSide(int side)
+{
+    if (isAveragedSide(side) && side != _values.averagedSide)
+        write(averagedSideKey, QString::number(side));
 }
 
 void PanelPreferences::write(std::u16string_view key, const QString& value)
@@ -83,12 +146,7 @@ void PanelPreferences::write(std::u16string_view key, const QString& value)
     if (const auto written = preferencesFile.change(set)) {
         _values = valuesFrom(*written);
     } else {
-        const PropertyList mine = PropertyList::Dictionary{
-            {std::u16string(themeKey), u16From(_values.theme)},
-            {std::u16string(desktopStyleKey), _values.usesDesktopStyle ? yesText : noText},
-            {std::u16string(textSizeKey), u16From(QString::number(_values.textSize))},
-        };
-        _values = valuesFrom(set(mine));
+        _values = valuesFrom(set(listFrom(_values)));
     }
     emit changed();
 }

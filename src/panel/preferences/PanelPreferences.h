@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screenpick/PickOptions.h"
+
 #include <QObject>
 #include <QString>
 
@@ -8,6 +10,13 @@
 namespace vantorel {
 
 class PropertyList;
+
+/// What the panel does with a colour that its user has picked from the screen.
+enum class AfterPicking {
+    shows,        ///< only shows it
+    copies,       ///< copies it, too
+    copiesHides,  ///< copies it, and makes room for the program to paste it into
+};
 
 /// What the user has set for the panel. Kept in `Vantorel/Preferences.plist` in the folder of the
 /// user's configuration.
@@ -32,6 +41,12 @@ public:
     /// In percent. The text of a panel that runs keeps its size.
     [[nodiscard]] int textSize() const { return _values.textSize; }
 
+    /// Whether the panel keeps running when its window is closed.
+    [[nodiscard]] bool staysResident() const { return _values.staysResident; }
+    [[nodiscard]] AfterPicking afterPicking() const { return _values.afterPicking; }
+    /// The side of the square whose average is picked; one of `averagedSides`.
+    [[nodiscard]] int averagedSide() const { return _values.averagedSide; }
+
     // Each writes one value to the file at once, and leaves all others there as they are: another
     // panel may have changed them, and a later version may have more. A value that cannot be
     // written, which is reported on standard error, holds until the program ends.
@@ -39,6 +54,9 @@ public:
     void setTheme(const QString& theme);
     void setUsesDesktopStyle(bool uses);
     void setTextSize(int percent);
+    void setStaysResident(bool stays);
+    void setAfterPicking(AfterPicking after);
+    void setAveragedSide(int side);
 
 signals:
     /// A value has changed, here or, before this one was written, in another panel.
@@ -49,11 +67,15 @@ private:
         QString theme = QStringLiteral("auto");
         bool usesDesktopStyle = false;
         int textSize = usualTextSize;
+        bool staysResident = false;
+        AfterPicking afterPicking = AfterPicking::shows;
+        int averagedSide = averagedSides.front();
 
         bool operator==(const Values&) const = default;
     };
 
     [[nodiscard]] static Values valuesFrom(const PropertyList& list);
+    [[nodiscard]] static PropertyList listFrom(const Values& values);
     void write(std::u16string_view key, const QString& value);
 
     Values _values;

@@ -1,5 +1,6 @@
 #include "panel/widgets/ColorBand.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtAccessibility.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/ColorBandPainter.h"
@@ -7,6 +8,16 @@
 #include <QEvent>
 
 namespace vantorel {
+namespace {
+
+/// What a screen needs to show a colour; empty for a colour of sRGB.
+QString gamutNameOf(const HostColor& color)
+{
+    if (!isOutsideSRGB(color)) return {};
+    return isOutsideDisplayP3(color) ? QStringLiteral("> P3") : QStringLiteral("P3");
+}
+
+}  // namespace
 
 ColorBand::ColorBand(QWidget* parent)
     : QWidget(parent),
@@ -36,13 +47,15 @@ void ColorBand::connectHalf(ColorBandHalf& half, EditedColor which)
 
 void ColorBand::setColor(const HostColor& color)
 {
-    _color->setColor(color);
+    _gamutOfColor = gamutNameOf(color);
+    _color->setColor(mappedIntoSRGB(color));
     showBackground(_background->color());
 }
 
 void ColorBand::setBackground(const HostColor& color)
 {
-    showBackground(color);
+    _gamutOfBackground = gamutNameOf(color);
+    showBackground(mappedIntoSRGB(color));
 }
 
 void ColorBand::showBackground(const HostColor& background)
@@ -109,6 +122,8 @@ void ColorBand::paintEvent(QPaintEvent*)
         if (half->dropIsNear()) band.paintDropFrame(half->geometry());
         if (half->showsFocus()) band.paintFocusRing(half->geometry());
     }
+    band.paintGamutName(_gamutOfColor, _layout.color);
+    band.paintGamutName(_gamutOfBackground, _layout.background);
     band.paintEditMark(_edited == EditedColor::color ? _layout.color : _layout.background);
     _swap->paintIn(painter, theme);
 }

@@ -51,6 +51,9 @@ private:
     ColorBandHalf* _background;
     EditedColor _edited = EditedColor::color;
     std::optional<double> _contrast;
+    /// What a screen needs to show the colours; empty for sRGB.
+    QString _gamutOfColor;
+    QString _gamutOfBackground;
     ColorBandLayout _layout;
 };
 

@@ -10,16 +10,17 @@
 namespace vantorel {
 namespace {
 
-constexpr int samplePoints = 24;
+constexpr int sampleFontPoints = 12;
 constexpr int sampleLinePoints = 28;
 constexpr int sampleGapPoints = 4;
+constexpr int chipMarginPoints = 3;
 constexpr int swapRadiusPoints = 13;
 
 /// The background's width in points. The colour is the wider half.
 int backgroundPoints(double bandPoints)
 {
     if (bandPoints >= 256) return 116;
-    return bandPoints >= 200 ? 108 : 64;
+    return bandPoints >= 200 ? 112 : 64;
 }
 
 /// Puts the sample above the chip. The room that is left goes below them, where the mark of the
@@ -66,11 +67,12 @@ ColorBandLayout layoutOfBand(QSize size, std::optional<double> contrast,
     layout.color = QRect(0, 0, seam, size.height());
     layout.background = QRect(seam, 0, size.width() - seam, size.height());
 
-    layout.sampleFont = fontOfSize(samplePoints);
+    layout.sampleFont = fontOfSize(sampleFontPoints);
     layout.sampleFont.setBold(true);
     const QFontMetricsF metrics(layout.sampleFont);
+    const qreal width = metrics.horizontalAdvance(QStringLiteral("Aa"));
     const qreal sampleHeight = scaled(sampleLinePoints);
-    layout.sample.setSize({metrics.horizontalAdvance(QStringLiteral("Aa")), sampleHeight});
+    layout.sample.setSize({layout.sampleScale * width, sampleHeight});
 
     const QRectF whole(layout.background);
     const bool isLow = size.height() < sampleHeight + ContrastChip::height() + scaled(6);
@@ -80,7 +82,7 @@ ColorBandLayout layoutOfBand(QSize size, std::optional<double> contrast,
         whole.adjusted(scaled(swapRadiusPoints + sampleGapPoints), 0, -scaled(sampleGapPoints), 0);
     if (hasChip) {
         const qreal room = isLow ? beside.width() - layout.sample.width() - scaled(sampleGapPoints)
-                                 : whole.width() - 2 * scaled(sampleGapPoints);
+                                 : whole.width() - 2 * scaled(chipMarginPoints);
         layout.chip = ContrastChip(*contrast, room);
     }
     if (layout.chip.size().isEmpty() || isLow) {

@@ -17,6 +17,9 @@ struct ColorBandLayout {
     QPoint swapCenter;
     /// "Aa" in the colour, on the background.
     QFont sampleFont;
+    /// The sample is painted enlarged: loading a font of its own size would cost more at the start
+    /// than anything else in the band.
+    static constexpr qreal sampleScale = 2;
     QRectF sample;
     /// Empty if it does not fit.
     ContrastChip chip;

@@ -86,11 +86,33 @@ void ColorBandPainter::paintSample(const HostColor& color, const HostColor& back
     const auto ground = composedOver(background, HostColor::whiteColor());
     const auto shown = ground ? composedOver(color, *ground) : std::nullopt;
     if (!shown) return;
+    _painter.save();
     _painter.setFont(_layout.sampleFont);
     _painter.setPen(qColorFrom(*shown));
-    _painter.drawText(_layout.sample, Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("Aa"));
+    _painter.translate(_layout.sample.center());
+    _painter.scale(_layout.sampleScale, _layout.sampleScale);
+    _painter.drawText(QRectF(), Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("Aa"));
+    _painter.restore();
     _layout.chip.paint(_painter, _layout.chipTopLeft, _theme,
                        isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+void ColorBandPainter::paintGamutName(const QString& name, const QRect& half)
+{
+    if (name.isEmpty()) return;
+    constexpr int namePoints = 10;
+    const QFont font = fontOfSize(namePoints);
+    const QFontMetrics metrics(font);
+    const int gap = scaled(4);
+    QRect box(0, 0, metrics.horizontalAdvance(name) + 2 * gap, metrics.height());
+    box.moveBottomLeft(half.bottomLeft() + QPoint(gap, -gap));
+    if (isMirrored()) box.moveRight(half.right() - gap);
+    _painter.setPen(Qt::NoPen);
+    _painter.setBrush(_theme.base);
+    _painter.drawRoundedRect(box, gap, gap);
+    _painter.setFont(font);
+    _painter.setPen(_theme.text);
+    _painter.drawText(box, Qt::AlignCenter, name);
 }
 
 void ColorBandPainter::paintEditMark(const QRect& half)

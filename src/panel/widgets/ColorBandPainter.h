@@ -19,6 +19,9 @@ public:
     void paintColors(const HostColor& color, const HostColor& background);
     /// Paints "Aa" as the colour looks on the background, and the chip.
     void paintSample(const HostColor& color, const HostColor& background);
+    /// Marks a half whose colour is outside sRGB, in the corner below its beginning. Without a name
+    /// there is nothing to mark.
+    void paintGamutName(const QString& name, const QRect& half);
     /// Paints a triangle at the lower edge of the half that is edited.
     void paintEditMark(const QRect& half);
     void paintDropFrame(const QRect& half);

@@ -2,8 +2,9 @@
 
 #include "colortext/ColorInCode.h"
 #include "csscolor/CSSColorReader.h"
-#include "csscolor/CSSColorWriter.h"
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/widgets/PanelSnippets.h"
 #include "result/HarmlessLine.h"
 #include "result/Result.h"
 
@@ -44,10 +45,11 @@ QByteArray wordsOfColor(const QColor& color)
 ColorOffer colorFromText(const QString& text)
 {
     if (text.size() > longestColorText) return {{}, {phrase("that is a long text, not a colour")}};
-    const Result<CSSColor> css = colorInText(u16From(text));
+    const Result<CSSColor> css = colorInText(u16From(text), PanelSnippets::readersInUse());
     if (!css) return {{}, css.error()};
     if (!css->wasOutsideSRGB) return {css->color, {}};
-    return {css->color,
+    const auto [red, green, blue] = srgbFrom(css->value.space, css->value.components);
+    return {HostColor::colorWithCalibratedRed(red, green, blue, css->value.alpha),
             {phrase("\"%1\" is outside sRGB; this is the nearest colour inside",
                     excerpt(text.trimmed().toStdString(), mostShownBytes))}};
 }
@@ -55,7 +57,7 @@ ColorOffer colorFromText(const QString& text)
 std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color, const QString& text)
 {
     auto data = std::make_unique<QMimeData>();
-    const QColor shown = qColorFrom(color);
+    const QColor shown = qColorFrom(mappedIntoSRGB(color));
     if (shown.isValid()) data->setColorData(shown);
     if (!text.isEmpty()) data->setText(text);
     return data;
@@ -64,7 +66,7 @@ std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color, const QStri
 std::vector<ColorForm> formsFromColor(const HostColor& color, const QString& text)
 {
     std::vector<ColorForm> forms;
-    const QColor shown = qColorFrom(color);
+    const QColor shown = qColorFrom(mappedIntoSRGB(color));
     if (shown.isValid()) forms.push_back({colorType, wordsOfColor(shown)});
     if (text.isEmpty()) return forms;
     for (const char* type :

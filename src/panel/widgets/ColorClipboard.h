@@ -14,7 +14,8 @@
 /// Colours on the clipboard and in drops.
 namespace vantorel {
 
-/// Returns the colour as `application/x-color`, and the text as UTF-8 if one is given.
+/// Returns the colour as `application/x-color`, mapped into sRGB, and the text as UTF-8 if one is
+/// given.
 [[nodiscard]] std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color,
                                                            const QString& text = {});
 
@@ -30,16 +31,17 @@ struct ColorForm {
 
 /// The colour that the clipboard or a drop contains, if any.
 struct ColorOffer {
+    /// May be outside sRGB.
     std::optional<HostColor> color;
-    /// Why there is no colour, or how it was changed; may be empty.
+    /// Why there is no colour, or what pages that do not take it show instead; may be empty.
     Message message;
 };
 
 /// Whether the data may contain a colour. Quick enough for a drag that moves.
 [[nodiscard]] bool mayHoldColor(const QMimeData& data);
 
-/// Reads every text form of CSS Color 5, also as the value of a declaration, and lines of code with
-/// a colour.
+/// Reads every text form of CSS Color 5, also as the value of a declaration, lines of the
+/// snippets, and other lines of code with a colour.
 [[nodiscard]] ColorOffer colorFromText(const QString& text);
 /// Reads `application/x-color` (four native 16-bit words) or a text.
 [[nodiscard]] ColorOffer colorFromMimeData(const QMimeData& data);

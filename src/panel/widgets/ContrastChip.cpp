@@ -12,7 +12,8 @@
 namespace vantorel {
 namespace {
 
-constexpr int chipTextPoints = 11;
+// The size of the panel's labels: each further font costs time at the start.
+constexpr int chipTextPoints = 12;
 constexpr int chipHeightPoints = 20;
 constexpr int chipPaddingPoints = 6;
 

@@ -1,44 +1,37 @@
 #include "panel/widgets/LastColors.h"
 
 #include "hosts/qt/PlainText.h"
-#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtToolButton.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/LastColorsAccessibility.h"
+#include "panel/widgets/LastColorsPainting.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/PixelGrid.h"
 #include "panel/widgets/Swatch.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QMenu>
 #include <QPainter>
-#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace vantorel {
 namespace {
 
 constexpr int rowPoints = 28;
 constexpr int moreIconPoints = 16;
-constexpr int hintTextPoints = 11;
-constexpr int hintPaddingPoints = 8;
-constexpr int hintRadiusPoints = 6;
-constexpr int lastColorMarkPoints = 2;
-
-bool contains(const std::vector<HostColor>& colors, const HostColor& color)
-{
-    return std::find(colors.begin(), colors.end(), color) != colors.end();
-}
 
 }  // namespace
 
-LastColors::LastColors(QWidget* parent) : QWidget(parent), _button(new QtToolButton(this))
+LastColors::LastColors(QWidget* parent)
+    : QWidget(parent), _button(new QtToolButton(this)), _drags(new LastColorsDrags(*this))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    setAcceptDrops(true);
     installLastColorsInterface();
     setAccessibleName(tr("Last colours"));
     _button->setIcon(moreIcon());
@@ -53,26 +46,24 @@ LastColors::LastColors(QWidget* parent) : QWidget(parent), _button(new QtToolBut
 void LastColors::setColors(std::vector<HostColor> pinned, std::vector<HostColor> recent)
 {
     std::optional<HostColor> followed;
-    if (hasFocus() && _current < shownCount()) followed = colorAt(_current);
-    _pinned = std::move(pinned);
-    _others = std::move(recent);
-    std::erase_if(_others, [this](const HostColor& color) { return contains(_pinned, color); });
+    if (hasFocus() && _current < shownCount()) followed = _order.colorAt(_current);
+    _order = LastColorsOrder(std::move(pinned), std::move(recent));
     placeParts();
     // Who moves a colour by keyboard stays with it.
     for (int i = 0; followed && i < shownCount(); ++i) {
-        if (colorAt(i) != *followed) continue;
+        if (_order.colorAt(i) != *followed) continue;
         _current = i;
         break;
     }
     makeCurrent(_current);
-    setFocusPolicy(isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
-    setAccessibleDescription(isEmpty() ? _emptyHint : QString());
+    setFocusPolicy(_order.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+    setAccessibleDescription(_order.isEmpty() ? _emptyHint : QString());
 }
 
 void LastColors::setEmptyHint(const QString& sentence)
 {
     _emptyHint = sentence;
-    if (isEmpty()) setAccessibleDescription(sentence);
+    if (_order.isEmpty()) setAccessibleDescription(sentence);
     update();
 }
 
@@ -86,17 +77,6 @@ QSize LastColors::minimumSizeHint() const
     return {scaled(2 * rowPoints), scaled(rowPoints)};
 }
 
-const HostColor& LastColors::colorAt(int index) const
-{
-    const auto at = static_cast<std::size_t>(index);
-    return at < _pinned.size() ? _pinned[at] : _others[at - _pinned.size()];
-}
-
-bool LastColors::isPinned(int index) const
-{
-    return index >= 0 && static_cast<std::size_t>(index) < _pinned.size();
-}
-
 QRect LastColors::rectOf(int index) const
 {
     return _places.swatches[static_cast<std::size_t>(index)].toAlignedRect();
@@ -104,9 +84,10 @@ QRect LastColors::rectOf(int index) const
 
 void LastColors::placeParts()
 {
-    _places = placesOfLastColors(size(), _pinned.size(), _others.size(), layoutDirection());
+    _places = placesOfLastColors(size(), _order.pinned().size(), _order.others().size(),
+                                 layoutDirection());
     _button->setGeometry(_places.button);
-    _button->setVisible(!isEmpty());
+    _button->setVisible(!_order.isEmpty());
     update();
 }
 
@@ -124,24 +105,21 @@ void LastColors::choose(int index)
 {
     if (index < 0 || index >= shownCount()) return;
     // A copy, because the receiver of the signal sets new colours.
-    const HostColor color = colorAt(index);
+    const HostColor color = _order.colorAt(index);
     emit chosen(color);
 }
 
 void LastColors::togglePin(int index)
 {
     if (index < 0 || index >= shownCount()) return;
-    const HostColor color = colorAt(index);
-    emit pinRequested(color, !isPinned(index));
+    const HostColor color = _order.colorAt(index);
+    emit pinRequested(color, !_order.isPinned(index));
 }
 
 void LastColors::movePin(int step)
 {
-    const int target = _current + step;
-    if (!isPinned(_current) || !isPinned(target)) return;
-    std::vector<HostColor> pinned = _pinned;
-    std::swap(pinned[static_cast<std::size_t>(_current)], pinned[static_cast<std::size_t>(target)]);
-    emit pinnedReordered(pinned);
+    const std::vector<HostColor> moved = _order.pinnedAfterMoving(_current, step);
+    if (moved != _order.pinned()) emit pinnedReordered(moved);
 }
 
 void LastColors::openMenu(int index)
@@ -157,8 +135,8 @@ void LastColors::showMenu(QPoint screenAt)
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (_current < shownCount()) {
-        const HostColor color = colorAt(_current);
-        const bool pinned = isPinned(_current);
+        const HostColor color = _order.colorAt(_current);
+        const bool pinned = _order.isPinned(_current);
         const QString title = (pinned ? tr("Unpin %1") : tr("Pin %1")).arg(codeWithOpacity(color));
         QAction* pin = menu->addAction(plainTitle(title));
         pin->setShortcut(Qt::Key_P);
@@ -169,19 +147,19 @@ void LastColors::showMenu(QPoint screenAt)
     connect(menu->addAction(tr("Keep all as a list")), &QAction::triggered, this,
             &LastColors::keepAsListRequested);
     QAction* clear = menu->addAction(tr("Clear"));
-    clear->setEnabled(!_others.empty());
+    clear->setEnabled(!_order.others().empty());
     connect(clear, &QAction::triggered, this, &LastColors::clearRequested);
     menu->popup(screenAt);
 }
 
 void LastColors::showToolTip(QPoint at, QPoint screenAt)
 {
-    const int index = indexAt(at);
+    const int index = _places.swatchAt(at);
     if (index < 0) {
         QToolTip::hideText();
         return;
     }
-    QToolTip::showText(screenAt, plainToolTip(codeWithOpacity(colorAt(index))), this,
+    QToolTip::showText(screenAt, plainToolTip(codeWithOpacity(_order.colorAt(index))), this,
                        rectOf(index));
 }
 
@@ -203,13 +181,9 @@ bool LastColors::event(QEvent* event)
             return true;
         }
     }
-    return QWidget::event(event);
-}
-
-void LastColors::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
+    const bool isDone = QWidget::event(event);
     if (event->type() == QEvent::LayoutDirectionChange) placeParts();
+    return isDone;
 }
 
 void LastColors::resizeEvent(QResizeEvent* event)
@@ -219,73 +193,24 @@ void LastColors::resizeEvent(QResizeEvent* event)
     makeCurrent(_current);
 }
 
-void LastColors::paintHint(QPainter& painter) const
-{
-    const ThemeColors theme = themeColors(palette());
-    const PixelGrid grid(painter);
-    QRectF place(0, 0, width(), std::min(height(), scaled(rowPoints)));
-    place.moveBottom(height());
-    place = grid.nearest(place);
-    const qreal width = grid.lineWidth(1);
-    const qreal radius = scaled(hintRadiusPoints);
-    QPen dashes(theme.edge, width, Qt::CustomDashLine, Qt::FlatCap);
-    dashes.setDashPattern({3, 3});
-    painter.setPen(dashes);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(place.adjusted(width / 2, width / 2, -width / 2, -width / 2), radius,
-                            radius);
-    painter.setFont(fontOfSize(hintTextPoints));
-    painter.setPen(theme.text2);
-    const qreal padding = scaled(hintPaddingPoints);
-    const QRectF text = place.adjusted(padding, 0, -padding, 0);
-    const QString shown =
-        painter.fontMetrics().elidedText(_emptyHint, Qt::ElideRight, qRound(text.width()));
-    const Qt::Alignment atStart = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-    const int flags = static_cast<int>(atStart | Qt::AlignVCenter) | Qt::TextSingleLine;
-    painter.drawText(text, flags, shown);
-}
-
-void LastColors::paintDropMark(QPainter& painter, std::size_t place, const PixelGrid& grid,
-                               const ThemeColors& theme) const
-{
-    // After the colour before it: a rule may follow, which the mark must not be beyond.
-    const QRectF neighbour = _places.swatches[place == 0 ? 0 : place - 1];
-    const bool isAtRight = (place == 0) == isRightToLeft();
-    const qreal mark = grid.lineWidth(scaled(lastColorMarkPoints));
-    const qreal x = isAtRight ? neighbour.right() + mark / 2 : neighbour.left() - 1.5 * mark;
-    painter.fillRect(QRectF(grid.nearest(std::clamp(x, 0.0, width() - mark)),
-                            neighbour.top() - mark, mark, neighbour.height() + 2 * mark),
-                     theme.text);
-}
-
 void LastColors::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (isEmpty()) {
-        paintHint(painter);
+    if (_order.isEmpty()) {
+        paintLastColorsHint(painter, *this, _emptyHint);
         return;
     }
     const ThemeColors theme = themeColors(palette());
     const PixelGrid grid(painter);
     for (int i = 0; i < shownCount(); ++i) {
-        const QRectF place = grid.nearest(_places.swatches[static_cast<std::size_t>(i)]);
-        paintSwatch(painter, place, colorAt(i), theme);
-        if (i != _current || !_focus.isShown()) continue;
-        const qreal radius = swatchRadius();
-        const qreal ring = grid.lineWidth(scaled(lastColorMarkPoints));
-        // The colour may be that of the ring.
-        const qreal gap = grid.lineWidth(1);
-        paintSwatchLine(painter, place.adjusted(ring, ring, -ring, -ring), radius - ring, gap,
-                        theme.base);
-        paintSwatchLine(painter, place, radius, ring, theme.accent);
+        const QRectF swatch = grid.nearest(_places.swatches[static_cast<std::size_t>(i)]);
+        paintSwatch(painter, swatch, _order.colorAt(i), theme);
+        if (i == _current && _focus.isShown()) paintLastColorsFocus(painter, swatch, theme);
     }
-    if (_places.rule) {
-        QRectF rule = grid.nearest(*_places.rule);
-        rule.setWidth(grid.lineWidth(1));
-        painter.fillRect(rule, theme.edge);
-    }
-    if (_dropPlace) paintDropMark(painter, *_dropPlace, grid, theme);
+    paintLastColorsRule(painter, _places, theme);
+    if (const auto place = _drags->dropPlace())
+        paintLastColorsDropMark(painter, *this, _places, *place, theme);
 }
 
 void LastColors::contextMenuEvent(QContextMenuEvent* event)
@@ -294,7 +219,7 @@ void LastColors::contextMenuEvent(QContextMenuEvent* event)
         openMenu(_current);
         return;
     }
-    const int index = indexAt(event->pos());
+    const int index = _places.swatchAt(event->pos());
     if (index < 0) {
         event->ignore();
         return;

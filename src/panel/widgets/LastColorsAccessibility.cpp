@@ -46,8 +46,8 @@ public:
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
         if (!isValid()) return {};
-        if (kind == QAccessible::Name) return codeWithOpacity(_row->colorAt(_index));
-        if (kind == QAccessible::Description && _row->isPinned(_index)) {
+        if (kind == QAccessible::Name) return codeWithOpacity(_row->order().colorAt(_index));
+        if (kind == QAccessible::Description && _row->order().isPinned(_index)) {
             return LastColors::tr("pinned");
         }
         return {};
@@ -139,7 +139,7 @@ public:
     {
         const QPoint point = _row.mapFromGlobal(QPoint(x, y));
         if (_row.menuButton().geometry().contains(point)) return child(_row.shownCount());
-        return child(_row.indexAt(point));
+        return child(_row.places().swatchAt(point));
     }
     [[nodiscard]] QAccessibleInterface* focusChild() const override
     {

@@ -1,9 +1,9 @@
+#include "panel/widgets/LastColorsDrags.h"
+
 #include "panel/widgets/LastColors.h"
 #include "panel/widgets/Swatch.h"
 
 #include <QApplication>
-#include <QDragEnterEvent>
-#include <QMouseEvent>
 #include <QPointer>
 
 #include <algorithm>
@@ -11,91 +11,107 @@
 
 namespace vantorel {
 
-void LastColors::mousePressEvent(QMouseEvent* event)
+LastColorsDrags::LastColorsDrags(LastColors& row) : QObject(&row), _row(row)
 {
-    if (event->button() != Qt::LeftButton) return;
-    _pressedAt = event->position().toPoint();
-    _pressed = indexAt(_pressedAt);
-    if (_pressed >= 0) makeCurrent(_pressed);
+    row.setAcceptDrops(true);
+    row.installEventFilter(this);
 }
 
-void LastColors::mouseMoveEvent(QMouseEvent* event)
+bool LastColorsDrags::eventFilter(QObject*, QEvent* event)
 {
-    const QPoint at = event->position().toPoint();
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            press(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseMove:
+            move(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonRelease:
+            release(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::DragEnter:
+            // Accepted as a whole: where the colour can be put is seen while it moves.
+            if (_dragged && !_row.order().pinned().empty()) {
+                static_cast<QDragEnterEvent&>(*event).acceptProposedAction();
+            }
+            return true;
+        case QEvent::DragMove:
+            setDropPlace(placeAt(static_cast<QDragMoveEvent&>(*event).position()));
+            event->setAccepted(_dropPlace.has_value());
+            return true;
+        case QEvent::DragLeave:
+            setDropPlace({});
+            return true;
+        case QEvent::Drop:
+            drop(static_cast<QDropEvent&>(*event));
+            return true;
+        default:
+            return false;
+    }
+}
+
+void LastColorsDrags::press(const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton) return;
+    _pressedAt = event.position().toPoint();
+    _pressed = _row.places().swatchAt(_pressedAt);
+    if (_pressed >= 0) _row.makeCurrent(_pressed);
+}
+
+void LastColorsDrags::move(const QMouseEvent& event)
+{
+    const QPoint at = event.position().toPoint();
     if (_pressed < 0 || (at - _pressedAt).manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
-    _dragged = colorAt(std::exchange(_pressed, -1));
+    _dragged = _row.order().colorAt(std::exchange(_pressed, -1));
     // The panel may be closed while the drag runs.
-    const QPointer<LastColors> life(this);
-    dragColor(*this, HostColor(*_dragged));
+    const QPointer<LastColorsDrags> life(this);
+    dragColor(_row, HostColor(*_dragged));
     if (life == nullptr) return;
     _dragged.reset();
     setDropPlace({});
 }
 
-void LastColors::mouseReleaseEvent(QMouseEvent* event)
+void LastColorsDrags::release(const QMouseEvent& event)
 {
-    if (event->button() != Qt::LeftButton) return;
-    const int released = indexAt(event->position().toPoint());
+    if (event.button() != Qt::LeftButton) return;
+    const int released = _row.places().swatchAt(event.position().toPoint());
     const int pressed = std::exchange(_pressed, -1);
-    if (released >= 0 && released == pressed) choose(released);
+    if (released >= 0 && released == pressed) _row.choose(released);
 }
 
-std::optional<std::size_t> LastColors::pinPlaceAt(QPointF point) const
+std::optional<std::size_t> LastColorsDrags::placeAt(QPointF point) const
 {
-    if (!_dragged || _pinned.empty()) return {};
-    const std::size_t shownPins = std::min(_pinned.size(), _places.swatches.size());
+    if (!_dragged) return {};
+    const std::vector<QRectF>& swatches = _row.places().swatches;
+    const std::size_t shownPins = std::min(_row.order().pinned().size(), swatches.size());
     for (std::size_t i = 0; i < shownPins; ++i) {
-        const QRectF& place = _places.swatches[i];
+        const QRectF& place = swatches[i];
         // To the middle of a gap, so that every place within the pinned ones counts.
         if (!place.adjusted(-place.width() / 2, -2, place.width() / 2, 2).contains(point)) continue;
-        const bool isBefore = (point.x() < place.center().x()) != isRightToLeft();
+        const bool isBefore = (point.x() < place.center().x()) != _row.isRightToLeft();
         return isBefore ? i : i + 1;
     }
     return {};
 }
 
-void LastColors::setDropPlace(std::optional<std::size_t> place)
+void LastColorsDrags::setDropPlace(std::optional<std::size_t> place)
 {
-    if (std::exchange(_dropPlace, place) != place) update();
+    if (std::exchange(_dropPlace, place) != place) _row.update();
 }
 
-void LastColors::dragEnterEvent(QDragEnterEvent* event)
+void LastColorsDrags::drop(QDropEvent& event)
 {
-    // Accepted as a whole: where the colour can be put is seen while it moves.
-    if (_dragged && !_pinned.empty()) event->acceptProposedAction();
-}
-
-void LastColors::dragMoveEvent(QDragMoveEvent* event)
-{
-    setDropPlace(pinPlaceAt(event->position()));
-    event->setAccepted(_dropPlace.has_value());
-}
-
-void LastColors::dragLeaveEvent(QDragLeaveEvent*)
-{
-    setDropPlace({});
-}
-
-void LastColors::dropEvent(QDropEvent* event)
-{
-    const auto place = pinPlaceAt(event->position());
+    const auto place = placeAt(event.position());
     setDropPlace({});
     if (!place) {
-        event->ignore();
+        event.ignore();
         return;
     }
-    event->acceptProposedAction();
-    std::vector<HostColor> pinned = _pinned;
-    pinned.insert(pinned.begin() + static_cast<std::ptrdiff_t>(*place), *_dragged);
-    // Its former place, if it was pinned, has moved if it is behind.
-    for (std::size_t i = 0; i < pinned.size(); ++i) {
-        if (i == *place || pinned[i] != *_dragged) continue;
-        pinned.erase(pinned.begin() + static_cast<std::ptrdiff_t>(i));
-        break;
-    }
-    if (pinned != _pinned) emit pinnedReordered(pinned);
+    event.acceptProposedAction();
+    const auto pinned = _row.order().pinnedAfterDropping(*_dragged, *place);
+    if (pinned != _row.order().pinned()) emit _row.pinnedReordered(pinned);
 }
 
 }  // namespace vantorel

@@ -119,12 +119,6 @@ QIcon palettesPageIcon()
     return listIcon();
 }
 
-QIcon dialogPageIcon()
-{
-    return iconFromStrokes(
-        R"(<rect x="2.5" y="2.5" width="11" height="11" rx="1"/><path d="M9.5 2.5v11M9.5 8.5h4"/>)");
-}
-
 QIcon sliderIcon()
 {
     return iconFromStrokes(

@@ -29,7 +29,6 @@ namespace vantorel {
 [[nodiscard]] QIcon scalesPageIcon();
 /// A list; lists of colours have a page of their own.
 [[nodiscard]] QIcon palettesPageIcon();
-[[nodiscard]] QIcon dialogPageIcon();
 [[nodiscard]] QIcon sliderIcon();
 [[nodiscard]] QIcon gridIcon();
 [[nodiscard]] QIcon wheelIcon();

@@ -1,5 +1,6 @@
 #include "panel/widgets/Swatch.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/ColorClipboard.h"
@@ -71,7 +72,7 @@ void paintSwatch(QPainter& painter, const QRectF& place, const HostColor& color,
         painter.setBrushOrigin(place.topLeft());
         painter.drawRoundedRect(place, radius, radius);
     }
-    painter.setBrush(qColorFrom(color));
+    painter.setBrush(qColorFrom(mappedIntoSRGB(color)));
     painter.drawRoundedRect(place, radius, radius);
     paintSwatchLine(painter, place, radius, grid.lineWidth(1), theme.swatchLine);
     painter.restore();

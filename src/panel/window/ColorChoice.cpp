@@ -28,8 +28,9 @@ void ColorChoice::choose()
     // Text that was typed but not yet entered counts. What is not a colour must not be taken for
     // the one before.
     if (!_window.finishEditing()) return;
-    // The panel's own pages do not have the settings, and the window is about to close.
-    if (_window.pages().currentPicker() == nullptr) _window.pages().showPage(0);
+    // The first page has the settings of the form, and the window is about to close.
+    const HostColorPicker* picker = _window.pages().currentPicker();
+    if (picker == nullptr || !picker->dragText()) _window.pages().showPage(0);
     // The background was only edited beside it.
     _window.colors().edit(EditedColor::color);
     _window.colors().rememberColor();

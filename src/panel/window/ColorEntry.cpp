@@ -2,6 +2,7 @@
 
 #include "colormath/NearestNamedColor.h"
 #include "csscolor/CSSColorWriter.h"
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
@@ -21,7 +22,8 @@ ColorEntry::ColorEntry(ColorField& field, ColorFacts& facts, FormList& forms, Pa
       _forms(forms),
       _colors(colors),
       _exchange(exchange),
-      _formMenu(new QMenu(&field))
+      _formMenu(new QMenu(&field)),
+      _snippetMenu(new QMenu(tr("More code snippets"), _formMenu))
 {
     field.setFormMenu(*_formMenu);
     connect(_formMenu, &QMenu::aboutToShow, this, &ColorEntry::fillFormMenu);
@@ -96,17 +98,19 @@ void ColorEntry::showTexts()
 
 void ColorEntry::showFacts()
 {
-    const HostColor& color = _colors.color();
+    const HostColor color = mappedIntoSRGB(_colors.color());
     QString name;
     if (const auto nearest = nearestNamedColor(color)) {
         const QString found = qStringFrom(nearest->color.name);
-        name = nearest->isExact ? found : tr("Nearest: %1").arg(found);
+        name = isOutsideSRGB(_colors.color()) ? tr("Outside sRGB, nearest: %1").arg(found)
+               : nearest->isExact             ? found
+                                              : tr("Nearest: %1").arg(found);
     }
     const bool isBackground = _colors.edited() == EditedColor::background;
     _facts.setName(isBackground ? tr("Background: %1").arg(name) : name,
                    name.isEmpty() ? QString() : QStringLiteral("CSS Color 4"));
     const bool showsHex = _field.text().startsWith(u'#');
-    _facts.setOtherForm(showsHex ? roundedOklchText(color)
+    _facts.setOtherForm(showsHex ? roundedOklchText(_colors.color())
                                  : qStringFrom(hexText(color).value_or(std::u16string())));
     _facts.setOpacity(static_cast<int>(std::lround(qColorFrom(color).alphaF() * 100)));
 }
@@ -115,17 +119,23 @@ void ColorEntry::fillFormMenu()
 {
     _formMenu->clear();
     auto* group = new QActionGroup(_formMenu);
-    const auto add = [&](const QString& title, const QString& form) {
-        QAction* action = _formMenu->addAction(plainTitle(title));
+    const auto add = [&](QMenu& menu, const QString& title, const QString& form) {
+        QAction* action = menu.addAction(plainTitle(title));
         action->setCheckable(true);
         action->setChecked(form == _exchange.form());
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, form] { _exchange.setForm(form); });
     };
-    add(tr("As in the settings of the page"), {});
+    add(*_formMenu, tr("As in the settings of the page"), {});
     _formMenu->addSeparator();
     for (const HostColorText& form : _exchange.colorTexts())
-        add(shownName(form), qStringFrom(form.name));
+        add(*_formMenu, shownName(form), qStringFrom(form.name));
+    const auto others = _exchange.otherSnippetTexts();
+    if (others.empty()) return;
+    _snippetMenu->clear();
+    for (const HostColorText& form : others)
+        add(*_snippetMenu, shownName(form), qStringFrom(form.name));
+    _formMenu->addMenu(_snippetMenu);
 }
 
 }  // namespace vantorel

@@ -43,6 +43,8 @@ private:
     PanelColors& _colors;
     ColorExchange& _exchange;
     QMenu* _formMenu;
+    /// The snippets that pages do not offer.
+    QMenu* _snippetMenu;
     QTimer _settingsMayHaveChanged;
 };
 

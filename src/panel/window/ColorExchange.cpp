@@ -1,8 +1,11 @@
 #include "panel/window/ColorExchange.h"
 
+#include "color/QTXHexColorSpec.h"
 #include "csscolor/CSSColorWriter.h"
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/ClipboardOwner.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/preferences/PanelPreferences.h"
 #include "result/HarmlessLine.h"
 
 #include <QApplication>
@@ -14,6 +17,19 @@
 namespace vantorel {
 namespace {
 
+constexpr int picksWithHints = 3;
+
+/// Writes a colour outside sRGB as it is.
+std::u16string wideText(const HostColor& color, ColorSpace space)
+{
+    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+    CSSColorValue value;
+    value.alpha = rgb.alpha;
+    value.components = convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, space);
+    value.space = space;
+    return cssTextIn(space, value);
+}
+
 MessageLabel::Kind kindOf(const ColorOffer& offer)
 {
     return offer.color ? MessageLabel::Kind::news : MessageLabel::Kind::failure;
@@ -22,14 +38,19 @@ MessageLabel::Kind kindOf(const ColorOffer& offer)
 }  // namespace
 
 ColorExchange::ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window,
-                             std::unique_ptr<ScreenPicker> screenPicker)
-    : _colors(colors), _pages(pages), _window(window), _screenPicker(std::move(screenPicker))
+                             const HostFiles& files, std::unique_ptr<ScreenPicker> screenPicker)
+    : _colors(colors),
+      _pages(pages),
+      _window(window),
+      _snippets(files),
+      _screenPicker(std::move(screenPicker))
 {
 }
 
 std::vector<HostColorText> ColorExchange::colorTexts() const
 {
-    const HostColor& color = _colors.color();
+    const bool isWide = isOutsideSRGB(_colors.color());
+    const HostColor color = mappedIntoSRGB(_colors.color());
     std::vector<HostColorText> texts;
     if (const HostColorPicker* picker = _pages.currentPicker()) texts = picker->colorTexts();
     const auto add = [&](const char16_t* name, const std::optional<std::u16string>& text) {
@@ -42,12 +63,28 @@ std::vector<HostColorText> ColorExchange::colorTexts() const
             add(u"RGB (CSS)", rgbTextWithAlpha(*opaque, alpha));
     }
     add(u"HSL (CSS)", hslText(color));
-    add(u"OKLCH (CSS)", oklchText(color));
+    add(u"OKLCH (CSS)", isWide ? wideText(_colors.color(), ColorSpace::oklch) : oklchText(color));
+    if (isWide) add(u"Display P3 (CSS)", wideText(_colors.color(), ColorSpace::displayP3));
     // The texts for style sheets first; a page may offer many lines of code.
     if (!texts.empty()) {
         std::stable_partition(texts.begin() + 1, texts.end(), [](const HostColorText& text) {
             return text.name.ends_with(u"(CSS)");
         });
+    }
+    return texts;
+}
+
+std::vector<HostColorText> ColorExchange::otherSnippetTexts()
+{
+    for (const Message& problem : _snippets.takeProblems())
+        emit reported(problem, MessageLabel::Kind::failure);
+    QTXHexColorSpec spec;
+    spec.setColorHexColorSpec(mappedIntoSRGB(_colors.color()));
+    spec.setAlphaComp(_colors.color().alphaComponent());
+    std::vector<HostColorText> texts;
+    for (const QTXCodeSnippet& snippet : _snippets.others()) {
+        texts.push_back(
+            {snippet.nameSnippet().value_or(u""), snippet.codeSnippetWithColorSpec(spec), false});
     }
     return texts;
 }
@@ -68,21 +105,26 @@ void ColorExchange::setForm(const QString& name)
     emit formChanged();
 }
 
-std::optional<HostColorText> ColorExchange::chosenForm() const
+std::optional<HostColorText> ColorExchange::chosenForm()
 {
     if (_form.isEmpty()) return std::nullopt;
-    for (HostColorText& text : colorTexts()) {
-        if (qStringFrom(text.name) == _form) return std::move(text);
-    }
-    return std::nullopt;
+    const auto chosenOf = [this](const std::vector<HostColorText>& texts) {
+        const auto found = std::ranges::find_if(
+            texts, [this](const HostColorText& text) { return qStringFrom(text.name) == _form; });
+        return found == texts.end() ? std::nullopt : std::optional(*found);
+    };
+    const auto chosen = chosenOf(colorTexts());
+    return chosen ? chosen : chosenOf(otherSnippetTexts());
 }
 
-QString ColorExchange::copiedText() const
+QString ColorExchange::copiedText()
 {
     if (const auto chosen = chosenForm()) return qStringFrom(chosen->text);
     if (const HostColorPicker* picker = _pages.currentPicker()) {
         if (const auto text = picker->copyText()) return qStringFrom(*text);
     }
+    if (isOutsideSRGB(_colors.color()))
+        return qStringFrom(wideText(_colors.color(), ColorSpace::oklch));
     const auto texts = colorTexts();
     return texts.empty() ? QString() : qStringFrom(texts.front().text);
 }
@@ -130,22 +172,48 @@ void ColorExchange::takeColor(const ColorOffer& offer)
 void ColorExchange::takeOneColor(EditedColor which, const ColorOffer& offer)
 {
     if (offer.color) _colors.set(which, *offer.color);
-    emit reported(offer.message, kindOf(offer));
+    const bool isHeld = offer.color && _pages.takesWideGamut();
+    emit reported(isHeld ? Message() : offer.message, kindOf(offer));
 }
 
 void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
 {
-    _screenPicker->start(&_window,
-                         [this, copies, done = std::move(done)](const ScreenPickResult& result) {
-                             using Outcome = ScreenPickResult::Outcome;
-                             if (result.outcome == Outcome::picked) {
-                                 _colors.setColor(result.color);
-                                 if (copies) copy();
-                             } else if (result.outcome == Outcome::notPossible) {
-                                 emit reported(result.reason, MessageLabel::Kind::failure);
-                             }
-                             if (done) done(result);
-                         });
+    // Read each time: another panel, or the dialog, may have changed them.
+    const PanelPreferences preferences;
+    PickOptions options;
+    options.averagedSide = preferences.averagedSide();
+    options.showsHints = _picks < picksWithHints;
+    options.pickedOnTheWay = [this](const HostColor& color) {
+        _colors.setColor(color);
+        _colors.rememberColor();
+    };
+    const auto after = done == nullptr ? preferences.afterPicking() : AfterPicking::shows;
+    _screenPicker->start(
+        &_window, options,
+        [this, copies, after, done = std::move(done)](const ScreenPickResult& result) {
+            takePick(result);
+            if (result.outcome == ScreenPickResult::Outcome::picked) {
+                if (copies || after != AfterPicking::shows) copy();
+                if (after == AfterPicking::copiesHides) _window.showMinimized();
+            }
+            if (done) done(result);
+        });
+}
+
+void ColorExchange::takePick(const ScreenPickResult& result)
+{
+    using Outcome = ScreenPickResult::Outcome;
+    if (result.outcome == Outcome::notPossible) {
+        emit reported(result.reason, MessageLabel::Kind::failure);
+        return;
+    }
+    if (result.outcome != Outcome::picked) return;
+    _picks = std::min(_picks + 1, picksWithHints);
+    _colors.setColor(result.color);
+    if (result.lacksAverage) {
+        emit reported({phrase("one pixel was picked: the desktop's own picker cannot average")},
+                      MessageLabel::Kind::news);
+    }
 }
 
 void ColorExchange::cancelPick()

@@ -4,6 +4,7 @@
 #include "panel/pages/PanelPages.h"
 #include "panel/widgets/ColorClipboard.h"
 #include "panel/widgets/MessageLabel.h"
+#include "panel/widgets/PanelSnippets.h"
 #include "panel/window/PanelColors.h"
 #include "screenpick/ScreenPicker.h"
 
@@ -20,35 +21,42 @@ class ColorExchange final : public QObject {
     Q_OBJECT
 
 public:
-    /// `colors`, `pages` and `window` must outlive the object. `window` is the parent of picks from
-    /// the screen.
-    ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window,
+    /// `colors`, `pages`, `window` and `files` must outlive the object. `window` is the parent of
+    /// picks from the screen.
+    ColorExchange(PanelColors& colors, PanelPages& pages, QWidget& window, const HostFiles& files,
                   std::unique_ptr<ScreenPicker> screenPicker);
 
     /// The colour's texts with its opacity in every form, with the names of the forms: the hex
     /// code, the other forms of CSS, then lines of code.
     [[nodiscard]] std::vector<HostColorText> colorTexts() const;
+    /// The colour in lines of the snippets that pages do not offer: those of the user's file and of
+    /// the program. Reports what is wrong in the file.
+    [[nodiscard]] std::vector<HostColorText> otherSnippetTexts();
     /// The text that a drag out of the panel carries: in the form of the settings, or the hex code.
     [[nodiscard]] QString draggedText() const;
     /// The text that `copy` copies: in the chosen form, otherwise like that of a drag, with the
     /// opacity.
-    [[nodiscard]] QString copiedText() const;
+    [[nodiscard]] QString copiedText();
 
     /// The name of the form of copies, as in `colorTexts`; empty for that of the page's settings.
     [[nodiscard]] const QString& form() const { return _form; }
     void setForm(const QString& name);
     /// The colour in the chosen form; `std::nullopt` if none is chosen, or if it is not among those
     /// of the page that is shown.
-    [[nodiscard]] std::optional<HostColorText> chosenForm() const;
+    [[nodiscard]] std::optional<HostColorText> chosenForm();
 
     /// Remembers the colour, and tells the user that this text of it has been copied.
     void noteCopied(const QString& text);
 
-    /// Lets the user pick from the screen. If `copies` is true, the colour is copied at once.
-    /// `done` gets the result; it may be null.
+    /// Lets the user pick from the screen, as the preferences say. If `copies` is true, the colour
+    /// is copied at once. `done` gets the result for another program, so the preferences do not
+    /// decide what follows; it may be null.
     void pickFromScreen(bool copies, ScreenPicker::Callback done);
     /// Cancels the pick in progress, if any.
     void cancelPick();
+    /// How many picks have succeeded, up to the number from which on no hints are shown.
+    [[nodiscard]] int picks() const { return _picks; }
+    void setPicks(int count) { _picks = count; }
 
 public slots:
     /// Copies the colour in the form that drags carry, with its opacity.
@@ -74,11 +82,15 @@ signals:
     void reported(const vantorel::Message& message, vantorel::MessageLabel::Kind kind);
 
 private:
+    void takePick(const ScreenPickResult& result);
+
     PanelColors& _colors;
     PanelPages& _pages;
     QWidget& _window;
+    PanelSnippets _snippets;
     std::unique_ptr<ScreenPicker> _screenPicker;
     QString _form;
+    int _picks = 0;
 };
 
 }  // namespace vantorel

@@ -1,6 +1,6 @@
 #include "panel/window/FormNames.h"
 
-#include "csscolor/ColorConversions.h"
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
 
@@ -29,8 +29,12 @@ QString roundedOklchText(const HostColor& color)
 {
     const QColor shown = qColorFrom(color);
     if (!shown.isValid()) return {};
-    const ColorTriple oklch =
-        polarFromRectangular(oklabFromSRGB({shown.redF(), shown.greenF(), shown.blueF()}));
+    ColorTriple srgb{shown.redF(), shown.greenF(), shown.blueF()};
+    if (isOutsideSRGB(color)) {
+        const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+        srgb = {rgb.red, rgb.green, rgb.blue};
+    }
+    const ColorTriple oklch = polarFromRectangular(oklabFromSRGB(srgb));
     const auto [lightness, chroma, hue] = oklch;
     constexpr double leastChroma = 0.0005;
     const bool isGrey = chroma < leastChroma;

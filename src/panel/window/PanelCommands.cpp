@@ -5,11 +5,14 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "hosts/qt/WaylandSession.h"
+#include "panel/preferences/GeneralPreferences.h"
 #include "panel/preferences/PreferencesDialog.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/window/AboutDialog.h"
 #include "panel/window/DialogSwitchesWindow.h"
 #include "panel/window/ShortcutOverlay.h"
+
+#include <QCheckBox>
 
 #include <algorithm>
 
@@ -49,15 +52,16 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
       _pages(pages),
       _exchange(exchange),
       _menu(new QMenu(&window)),
-      _copyMenu(new QMenu(tr("Copy as"), &window))
+      _copyMenu(new QMenu(tr("Copy as"), &window)),
+      _copySnippetMenu(new QMenu(tr("More code snippets"), _copyMenu))
 {
     const auto usualKeys = [](QKeySequence::StandardKey key) {
         return QKeySequence::keyBindings(key);
     };
     _pick = add(tr("Pick from the screen"), {Qt::CTRL | Qt::Key_P}, exchange, &ColorExchange::pick);
     _pick->setIcon(pickIcon());
-    QAction* pickAndCopy = add(tr("Pick and copy"), {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, exchange,
-                               &ColorExchange::pickAndCopy);
+    _pickAndCopy = add(tr("Pick and copy"), {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, exchange,
+                       &ColorExchange::pickAndCopy);
     _copy = add(tr("Copy"), usualKeys(QKeySequence::Copy), exchange, &ColorExchange::copy);
     _copy->setIcon(copyIcon());
     QAction* copyHex = add(tr("Copy the hex code"), {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, exchange,
@@ -85,14 +89,14 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     QAction* showAbout = add(tr("About Vantorel"), {}, *this, &PanelCommands::showAbout);
     QAction* showShortcuts =
         add(tr("Keyboard shortcuts"), {Qt::Key_F1}, *this, &PanelCommands::showShortcuts);
-    QAction* quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q}, window, &QWidget::close);
+    _quit = add(tr("Quit"), {Qt::CTRL | Qt::Key_Q});
 
     connect(_copyMenu, &QMenu::aboutToShow, this, &PanelCommands::fillCopyMenu);
     connect(&colors, &PanelColors::historyChanged, this, &PanelCommands::updateHistory);
     updateHistory();
 
     _menu->addAction(_pick);
-    _menu->addAction(pickAndCopy);
+    _menu->addAction(_pickAndCopy);
     _menu->addSeparator();
     _menu->addAction(_copy);
     _menu->addAction(copyHex);
@@ -114,19 +118,28 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(showShortcuts);
     _menu->addAction(showAbout);
     _menu->addSeparator();
-    _menu->addAction(quit);
+    _menu->addAction(_quit);
 }
 
 void PanelCommands::fillCopyMenu()
 {
-    _copyMenu->clear();
-    const QFontMetrics metrics = _copyMenu->fontMetrics();
+    offerCopies(*_copyMenu, _exchange.colorTexts());
+    const auto others = _exchange.otherSnippetTexts();
+    if (others.empty()) return;
+    offerCopies(*_copySnippetMenu, others);
+    _copyMenu->addMenu(_copySnippetMenu);
+}
+
+void PanelCommands::offerCopies(QMenu& menu, const std::vector<HostColorText>& forms)
+{
+    menu.clear();
+    const QFontMetrics metrics = menu.fontMetrics();
     std::vector<std::pair<QAction*, QString>> rows;
-    for (const HostColorText& form : _exchange.colorTexts()) {
+    for (const HostColorText& form : forms) {
         const QString value = qStringFrom(form.text);
         const QString shown =
             metrics.elidedText(shownName(form), Qt::ElideRight, scaled(widestCopyMenu) / 2);
-        QAction* action = _copyMenu->addAction(plainTitle(shown));
+        QAction* action = menu.addAction(plainTitle(shown));
         connect(action, &QAction::triggered, this, [this, value] { _exchange.copyText(value); });
         rows.emplace_back(action, value);
     }
@@ -139,7 +152,7 @@ void PanelCommands::fillCopyMenu()
             action->setText(name + u'\t' +
                             plainTitle(metrics.elidedText(value, Qt::ElideMiddle, room)));
         }
-        excess = std::max(_copyMenu->sizeHint().width() - widest, 0);
+        excess = std::max(menu.sizeHint().width() - widest, 0);
     }
 }
 
@@ -162,10 +175,24 @@ void PanelCommands::showDialogSwitches()
     (new DialogSwitchesWindow(_window))->open();
 }
 
-void PanelCommands::showPreferences()
+PanelPreferences& PanelCommands::preferences()
 {
     if (_preferences == nullptr) _preferences = new PanelPreferences(this);
-    (new PreferencesDialog(*_preferences, &_window))->show();
+    return *_preferences;
+}
+
+void PanelCommands::showPreferences()
+{
+    auto* dialog = new PreferencesDialog(preferences(), &_window);
+    auto* onTop = new QCheckBox(tr("Always on top"), dialog);
+    onTop->setObjectName(QStringLiteral("onTop"));
+    onTop->setChecked(_stayOnTop->isChecked());
+    onTop->setEnabled(_stayOnTop->isEnabled());
+    connect(onTop, &QCheckBox::toggled, _stayOnTop, &QAction::setChecked);
+    connect(_stayOnTop, &QAction::toggled, onTop, &QCheckBox::setChecked);
+    dialog->general().addRow(tr("Window"), *onTop);
+    dialog->general().addResidence();
+    dialog->show();
 }
 
 /// The pages know where their manual is.

@@ -23,11 +23,15 @@ public:
 
     [[nodiscard]] QAction& copy() const { return *_copy; }
     [[nodiscard]] QAction& pick() const { return *_pick; }
+    [[nodiscard]] QAction& pickAndCopy() const { return *_pickAndCopy; }
+    [[nodiscard]] QAction& quit() const { return *_quit; }
     [[nodiscard]] QAction& swap() const { return *_swap; }
     [[nodiscard]] QAction& stayOnTop() const { return *_stayOnTop; }
     [[nodiscard]] QMenu& menu() const { return *_menu; }
     /// Offers every form in which the colour can be copied.
     [[nodiscard]] QMenu& copyMenu() const { return *_copyMenu; }
+    /// Read when they are first asked for.
+    [[nodiscard]] PanelPreferences& preferences();
 
 private:
     QAction* add(const QString& text, const QList<QKeySequence>& keys);
@@ -40,6 +44,7 @@ private:
         return action;
     }
     void fillCopyMenu();
+    void offerCopies(QMenu& menu, const std::vector<HostColorText>& forms);
     void updateHistory();
     void setStaysOnTop(bool flag);
     void showDialogSwitches();
@@ -49,7 +54,7 @@ private:
     void showAbout();
 
     QWidget& _window;
-    /// Read when they are first shown.
+    /// Null until then.
     PanelPreferences* _preferences = nullptr;
     PanelColors& _colors;
     PanelPages& _pages;
@@ -59,10 +64,14 @@ private:
     QAction* _undo = nullptr;
     QAction* _redo = nullptr;
     QAction* _pick = nullptr;
+    QAction* _pickAndCopy = nullptr;
+    QAction* _quit = nullptr;
     QAction* _swap = nullptr;
     QAction* _stayOnTop = nullptr;
     QMenu* _menu;
     QMenu* _copyMenu;
+    /// The snippets that pages do not offer.
+    QMenu* _copySnippetMenu;
 };
 
 }  // namespace vantorel

@@ -1,5 +1,6 @@
 #include "panel/window/PanelHost.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelWindow.h"
@@ -20,6 +21,11 @@ PanelHost::PanelHost(QtDesktop& desktop, PanelWindow& window, PanelColors& color
                      PanelPages& pages)
     : QtColorPanel(desktop), _window(window), _colors(colors), _pages(pages)
 {
+}
+
+std::optional<HostColor> PanelHost::color() const
+{
+    return _pages.takesWideGamut() ? _colors.color() : mappedIntoSRGB(_colors.color());
 }
 
 void PanelHost::setColor(const std::optional<HostColor>& color)
@@ -47,7 +53,7 @@ bool PanelHost::takeText(const QString& text)
     const ColorOffer offer = colorFromText(text);
     if (!offer.color) return false;
     _colors.setColor(*offer.color);
-    if (!offer.message.isEmpty()) _window.showMessage(offer.message);
+    if (!offer.message.isEmpty() && !_pages.takesWideGamut()) _window.showMessage(offer.message);
     return true;
 }
 

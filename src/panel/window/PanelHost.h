@@ -16,7 +16,8 @@ public:
 
     using QtColorPanel::pageDidAppear;
 
-    [[nodiscard]] std::optional<HostColor> color() const override { return _colors.color(); }
+    /// As the page that is shown has got it.
+    [[nodiscard]] std::optional<HostColor> color() const override;
     void setColor(const std::optional<HostColor>& color) override;
     void continuousChangeDidBegin() override { _colors.beginStep(); }
     void continuousChangeDidEnd() override { _colors.endStep(); }

@@ -1,5 +1,6 @@
 #include "panel/window/PanelMemory.h"
 
+#include "csscolor/GamutMapping.h"
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/preferences/ConfigurationFile.h"
@@ -23,13 +24,14 @@ constexpr const char16_t* pageKey = u"Page";
 constexpr const char16_t* recentKey = u"RecentColors";
 constexpr const char16_t* pinnedKey = u"PinnedColors";
 constexpr const char16_t* formKey = u"CopyForm";
+constexpr const char16_t* picksKey = u"Picks";
 constexpr const char16_t* onTopKey = u"StaysOnTop";
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
 
 QString textOf(const HostColor& color)
 {
-    return qColorFrom(color).name(QColor::HexArgb);
+    return qColorFrom(mappedIntoSRGB(color)).name(QColor::HexArgb);
 }
 
 /// Leaves `color` unchanged if the text is not a colour.
@@ -86,6 +88,7 @@ PanelMemory memoryFrom(const PropertyList& list)
     memory.form = text(formKey);
     readColors(textsOf(list.valueForKey(recentKey)), memory.recent);
     readColors(textsOf(list.valueForKey(pinnedKey)), memory.pinned);
+    memory.picks = std::max(0, text(picksKey).toInt());
     return memory;
 }
 
@@ -105,6 +108,7 @@ PropertyList propertyListFrom(const PanelMemory& memory)
         {geometryKey, PropertyList::data(memory.geometry.toStdString())},
         {formKey, u16From(memory.form)},
         {pageKey, u16From(memory.page)},
+        {picksKey, u16From(QString::number(memory.picks))},
         {pinnedKey, listOf(memory.pinned)},
         {recentKey, listOf(memory.recent)},
         {onTopKey, memory.onTop ? yes : no},
@@ -176,6 +180,7 @@ PanelMemory merged(const PanelMemory& base, const PanelMemory& mine, const Panel
     result.color = mergedValue(base.color, mine.color, theirs.color);
     result.background = mergedValue(base.background, mine.background, theirs.background);
     result.pinned = mergedValue(base.pinned, mine.pinned, theirs.pinned);
+    result.picks = std::max(mine.picks, theirs.picks);
     result.recent = mergedRecent(base.recent, mine.recent, theirs.recent);
     return result;
 }

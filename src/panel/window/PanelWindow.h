@@ -1,19 +1,15 @@
 #pragma once
 
-#include "panel/widgets/ColorBand.h"
-#include "panel/widgets/LastColors.h"
 #include "panel/widgets/MessageLabel.h"
 #include "panel/window/ColorEntry.h"
-#include "panel/window/PageBar.h"
 #include "panel/window/PanelCommands.h"
 #include "panel/window/PanelHost.h"
-#include "panel/window/PanelLayout.h"
 #include "panel/window/PanelMemory.h"
+#include "panel/window/PanelParts.h"
 #include "panel/window/WindowGrowth.h"
 #include "plugins/PluginLoader.h"
 #include "result/Message.h"
 
-#include <QLabel>
 #include <QWidget>
 
 #include <memory>
@@ -35,7 +31,7 @@ public:
     ~PanelWindow() override;
 
     [[nodiscard]] PanelColors& colors() { return _colors; }
-    [[nodiscard]] PanelPages& pages() { return _pages; }
+    [[nodiscard]] PanelPages& pages() { return _parts.pages; }
     [[nodiscard]] ColorExchange& exchange() { return _exchange; }
     [[nodiscard]] PanelCommands& commands() { return _commands; }
 
@@ -46,6 +42,13 @@ public:
     void showMessage(const Message& message, MessageLabel::Kind kind = MessageLabel::Kind::news);
     /// Puts a bar below everything else. Call it at most once, before the window is shown.
     void setFoot(QWidget& foot);
+
+    /// Sets whether closing the window only hides it. At first it ends the program.
+    void setStaysResident(bool stays) { _staysResident = stays; }
+    /// Closes the window and ends the program.
+    void quit();
+    /// Returns the icon of the program.
+    [[nodiscard]] QIcon icon() const;
 
     /// Resizes the window so that the page has this size, in points.
     void resizeToPage(QSize points);
@@ -77,30 +80,16 @@ private:
     void addPage(std::unique_ptr<PanelPage> page);
     void adaptToPage(int index);
     void adaptToMessage();
-    void loadIcon();
-    void layOut();
-    [[nodiscard]] PanelRoom roomIn(QSize window) const;
 
     PanelColors _colors;
-    // In the order in which assistive technology finds them.
-    ColorBand* _band;
-    ColorField* _field;
-    QToolButton* _pick;
-    ColorFacts* _facts;
-    MessageLabel* _message;
-    FormList* _forms;
-    PageBar* _pageBar;
-    PanelPages _pages;
-    LastColors* _lastColors;
-    QLabel* _problems;
-    /// Null if there is none.
-    QWidget* _foot = nullptr;
+    PanelParts _parts;
     PanelHost _host;
     ColorExchange _exchange;
     PanelCommands _commands;
     ColorEntry _entry;
     WindowGrowth _growth;
     bool _isPainted = false;
+    bool _staysResident = false;
 };
 
 }  // namespace vantorel

@@ -48,6 +48,13 @@ struct OperationWriter {
                   {"color", jsonFromColor(text.color)},
                   {"at", jsonFromPoint(operation.at)}}}};
     }
+    Json operator()(const PixelsOperation& operation) const
+    {
+        const HostPixelSize size = operation.pixels.size();
+        return {{"pixels",
+                 {{"size", Json::array({size.width, size.height})},
+                  {"rect", jsonFromRect(operation.rect)}}}};
+    }
 };
 
 struct JournalWriter {

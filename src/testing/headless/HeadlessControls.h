@@ -137,6 +137,7 @@ public:
     std::unique_ptr<HostButton> makeButton(const HostControlDescription& description) override;
     std::unique_ptr<HostPopUpButton> makePopUpButton(
         const HostControlDescription& description) override;
+    [[nodiscard]] std::u16string decimalSeparator() const override { return u"."; }
 
     [[nodiscard]] const ControlRegister& controls() const { return *_controls; }
     /// Returns the control of a name, or null if there is none or it is not a `Control`.

@@ -170,7 +170,9 @@ TEST_F(EntryConformance, KeysChooseInAClosedPopUp)
 class KeyedContent final : public HostViewContent {
 public:
     void drawRect(HostCanvas&) override {}
+    explicit KeyedContent(bool withControl = false) : _withControl(withControl) {}
     [[nodiscard]] bool takesKeys() const override { return true; }
+    [[nodiscard]] bool takesControlKeys() const override { return _withControl; }
     bool keyDown(const HostKeyEvent& event) override
     {
         keys.push_back(event.key);
@@ -180,6 +182,9 @@ public:
 
     std::vector<HostKey> keys;
     std::vector<std::uint64_t> flags;
+
+private:
+    bool _withControl;
 };
 
 TEST_F(EntryConformance, KeysGoToTheContentExceptThoseOfShortcuts)
@@ -196,6 +201,17 @@ TEST_F(EntryConformance, KeysGoToTheContentExceptThoseOfShortcuts)
     EXPECT_EQ(content.flags.back(), shiftModifierFlag);
     host->turnMouse(*view, {pressAt({20, 20}), releaseAt({20, 20})});
     EXPECT_FALSE(host->pressKey(*view, HandKey::enter)) << "after a click it is for the dialog";
+}
+
+TEST_F(EntryConformance, KeysWithCtrlGoToAContentThatWantsThem)
+{
+    KeyedContent content(true);
+    const auto view = factory.makeCustomView(described({200, 20, 80, 80}), content);
+    root.addSubview(*view);
+    host->handleEvents();
+    EXPECT_TRUE(host->pressKey(*view, HandKey::left, controlModifierFlag));
+    EXPECT_FALSE(host->pressKey(*view, HandKey::left, alternateModifierFlag));
+    EXPECT_THAT(content.flags, ElementsAre(controlModifierFlag));
 }
 
 }  // namespace

@@ -166,6 +166,15 @@ public:
         handleEvents();
         return isUsed;
     }
+    void clickAcross(HostTextField& field, const std::vector<HostEvent>& events) override
+    {
+        const GtkWeakWidget entry(gtkWidgetOf(&field));
+        const HostRect bounds = field.bounds();
+        for (const HostEvent& event : events) {
+            if (entry.get() != nullptr) sendTurn(entry.get(), bounds, event);
+            handleEvents();
+        }
+    }
     void click(HostButton& button) override
     {
         gtk_button_clicked(GTK_BUTTON(gtkWidgetOf(&button)));
@@ -211,7 +220,7 @@ public:
             } else if (_drag != nullptr) {
                 drop(area.get(), std::get<HostEvent>(step));
             } else if (area.get() != nullptr && gtk_widget_get_mapped(area.get())) {
-                sendTurn(custom, std::get<HostEvent>(step));
+                sendTurn(custom.activeWidget(), custom.bounds(), std::get<HostEvent>(step));
             }
         });
         handleEvents();
@@ -343,18 +352,20 @@ private:
 #endif
     }
 
-    static void sendTurn(const GtkHostCustomView& view, const HostEvent& event)
+    static void sendTurn(GtkWidget* widget, HostRect bounds, const HostEvent& event)
     {
         const guint state = stateOf(event.modifierFlags);
         switch (event.type) {
             case HostEventType::leftMouseDown:
-                sendMouse(view, GDK_BUTTON_PRESS, event.location, state);
+                sendMouse(widget, bounds, GDK_BUTTON_PRESS, event.location, state);
                 break;
             case HostEventType::leftMouseUp:
-                sendMouse(view, GDK_BUTTON_RELEASE, event.location, state | GDK_BUTTON1_MASK);
+                sendMouse(widget, bounds, GDK_BUTTON_RELEASE, event.location,
+                          state | GDK_BUTTON1_MASK);
                 break;
             default:
-                sendMouse(view, GDK_MOTION_NOTIFY, event.location, state | GDK_BUTTON1_MASK);
+                sendMouse(widget, bounds, GDK_MOTION_NOTIFY, event.location,
+                          state | GDK_BUTTON1_MASK);
                 break;
         }
     }

@@ -1,9 +1,11 @@
 #include "HostUnderTest.h"
 #include "hosts/common/PopUpChoice.h"
+#include "hosts/common/ScrubGesture.h"
 #include "hosts/posix/PosixFiles.h"
 #include "testing/headless/HeadlessColorPanel.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vantorel {
@@ -109,6 +111,22 @@ public:
         }
         handleEvents();
         return true;
+    }
+    void clickAcross(HostTextField& field, const std::vector<HostEvent>& events) override
+    {
+        auto* edited = &static_cast<HeadlessTextField&>(field);
+        ScrubGesture gesture(field);
+        for (const HostEvent& event : events) {
+            if (!isAlive(edited)) return;
+            if (event.type == HostEventType::leftMouseDown) {
+                static_cast<void>(gesture.press(event.location.x));
+            } else if (event.type == HostEventType::leftMouseDragged) {
+                gesture.move(event.location.x, event.modifierFlags);
+            } else if (gesture.release()) {
+                edited->beginEditing();
+                edited->setSelectedRange({0, edited->stringValue().size()});
+            }
+        }
     }
     void click(HostButton& button) override
     {
@@ -264,6 +282,8 @@ private:
         if (auto* custom = dynamic_cast<HeadlessCustomView*>(&view)) {
             const RecordingCanvas canvas = custom->draw();
             for (const PaintOperation& operation : canvas.operations()) {
+                if (const auto* picture = std::get_if<PixelsOperation>(&operation))
+                    paintPicture(*picture, at, pixel);
                 const auto* fill = std::get_if<FillOperation>(&operation);
                 const auto rgb = fill != nullptr ? fill->color.calibratedRGB() : std::nullopt;
                 if (!rgb || !fill->path.containsPoint(at)) continue;
@@ -278,6 +298,26 @@ private:
                    at.y - subview->frame().y + subview->bounds().y},
                   pixel);
         }
+    }
+
+    static void paintPicture(const PixelsOperation& picture, HostPoint at,
+                             std::array<int, 3>& pixel)
+    {
+        const HostPixels& pixels = picture.pixels;
+        const double left = std::round(picture.rect.x);
+        const double top = std::round(picture.rect.maxY());
+        const HostPixelSize size = RecordingCanvas().pixelSizeOf(picture.rect);
+        const double x = std::floor(at.x) + 0.5 - left;
+        const double y = top - std::floor(at.y) - 0.5;
+        if (x < 0 || x > size.width || y < 0 || y > size.height) return;
+        const std::uint32_t shown = pixels.row(static_cast<int>(
+            y * pixels.height() / size.height))[static_cast<int>(x * pixels.width() / size.width)];
+        const auto byte = [shown](unsigned shift) {
+            return static_cast<int>(shown >> shift & 255U);
+        };
+        for (std::size_t i = 0; i < pixel.size(); ++i)
+            pixel[i] =
+                byte(16U - 8U * static_cast<unsigned>(i)) + pixel[i] * (255 - byte(24)) / 255;
     }
 
     HeadlessDesktop _desktop{desktopOptions()};

@@ -83,6 +83,9 @@ public:
     /// dialog.
     virtual bool pressKey(HostView& control, HandKey key, std::uint64_t modifierFlags = 0) = 0;
     virtual void click(HostButton& button) = 0;
+    /// Moves the mouse over a field: a press, drags and the release, at places of the field. What
+    /// was to come after the field has gone is left out.
+    virtual void clickAcross(HostTextField& field, const std::vector<HostEvent>& events) = 0;
     /// Presses the mouse on a pop-up.
     virtual void open(HostPopUpButton& popUp) = 0;
     /// Chooses in the open menu: the last title of a path through submenus. Returns false if the

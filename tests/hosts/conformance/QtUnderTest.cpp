@@ -193,6 +193,15 @@ public:
         handleEvents();
         return press.isAccepted();
     }
+    void clickAcross(HostTextField& field, const std::vector<HostEvent>& events) override
+    {
+        const QPointer<QWidget> edit = widgetOf(&field);
+        const HostRect bounds = field.bounds();
+        for (const HostEvent& event : events) {
+            if (edit != nullptr && edit->isVisible()) sendTurn(*edit, bounds, event);
+            handleEvents();
+        }
+    }
     void click(HostButton& button) override
     {
         QTest::mouseClick(widgetOf(&button), Qt::LeftButton, {}, {8, 8});

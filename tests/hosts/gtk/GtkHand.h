@@ -40,13 +40,12 @@ inline void handleGtkEvents()
     return event;
 }
 
-/// A press, move or release at a place of a view, in its own coordinates.
-inline void sendMouse(const GtkHostCustomView& view, GdkEventType type, HostPoint at,
+/// A press, move or release at a place of a view with these bounds, in its own coordinates.
+inline void sendMouse(GtkWidget* widget, HostRect bounds, GdkEventType type, HostPoint at,
                       guint state = 0)
 {
-    GtkWidget* area = view.activeWidget();
-    const PixelPoint place = pixelPoint(at, view.bounds(), 1);
-    const GdkEventCopy event = newGtkEvent(area, type);
+    const PixelPoint place = pixelPoint(at, bounds, 1);
+    const GdkEventCopy event = newGtkEvent(widget, type);
     if (type == GDK_MOTION_NOTIFY) {
         event->motion.x = place.x;
         event->motion.y = place.y;
@@ -57,7 +56,12 @@ inline void sendMouse(const GtkHostCustomView& view, GdkEventType type, HostPoin
         event->button.button = 1;
         event->button.state = state;
     }
-    gtk_widget_event(area, event.get());
+    gtk_widget_event(widget, event.get());
+}
+inline void sendMouse(const GtkHostCustomView& view, GdkEventType type, HostPoint at,
+                      guint state = 0)
+{
+    sendMouse(view.activeWidget(), view.bounds(), type, at, state);
 }
 
 [[nodiscard]] inline GdkEventCopy newKeyEvent(GtkWidget* widget, guint key, guint state)

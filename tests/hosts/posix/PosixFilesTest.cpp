@@ -104,6 +104,24 @@ TEST_F(PosixFilesTest, CircularLinksAreNotReplaced)
     EXPECT_EQ(_files.contentsOfDirectory(_folder), (std::vector<std::string>{"a", "b"}));
 }
 
+TEST_F(PosixFilesTest, TheHeadOfAFileIsRead)
+{
+    const std::string path = inFolder("file");
+    _files.writeAtomically(path, "0123456789");
+    const auto head = _files.headAtPath(path, 4);
+    ASSERT_TRUE(head);
+    EXPECT_EQ(head->bytes, "0123");
+    EXPECT_FALSE(head->isWholeFile);
+    EXPECT_EQ(head->version, _files.versionAtPath(path));
+    EXPECT_EQ(head->identity, _files.identityAtPath(path));
+    const auto whole = _files.headAtPath(path, 100);
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->bytes, "0123456789");
+    EXPECT_TRUE(whole->isWholeFile);
+    EXPECT_FALSE(_files.headAtPath(inFolder("none"), 100));
+    EXPECT_FALSE(_files.headAtPath(_folder, 100));
+}
+
 TEST_F(PosixFilesTest, AFileIsReadWholeUpToTheSizeLimit)
 {
     std::ofstream(inFolder("file")) << "x";

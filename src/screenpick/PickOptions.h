@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/HostColor.h"
+
+#include <array>
+#include <functional>
+
+namespace vantorel {
+
+/// The sides of the squares whose average can be picked, in pixels of the screen.
+inline constexpr std::array averagedSides{1, 3, 5, 11};
+
+/// How to pick from the screen.
+struct PickOptions {
+    /// One of `averagedSides`. An average is that of light, not of the encoded values.
+    int averagedSide = 1;
+    /// Whether the keys of the magnifier are explained.
+    bool showsHints = false;
+    /// Called for each colour that is picked without ending the pick. Without it every pick is the
+    /// last one.
+    std::function<void(const HostColor&)> pickedOnTheWay = nullptr;
+};
+
+}  // namespace vantorel

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "result/Message.h"
+#include "snippets/SnippetReaders.h"
+
+#include <vector>
+
+namespace vantorel {
+
+/// Returns why lines of a snippet are not always read as the colour that was written, one sentence
+/// without a full stop for each reason; empty if they are. An opacity that the variable form does
+/// not contain is no reason.
+[[nodiscard]] std::vector<Phrase> snippetLimits(const SnippetReaders& readers, std::size_t snippet);
+
+}  // namespace vantorel
