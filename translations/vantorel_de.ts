@@ -997,7 +997,7 @@ Für bash: source &lt;(vantorel completions bash)</translation>
         <translation>„vantorel snippets“ listet sie auf</translation>
     </message>
     <message>
-        <source>there is no colour list to name colours by</source>
+        <source>there is no colour list with names</source>
         <translation>es gibt keine Farbliste, nach der Farben benannt werden könnten</translation>
     </message>
     <message>

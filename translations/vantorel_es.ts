@@ -981,7 +981,7 @@ Para bash: source &lt;(vantorel completions bash)</translation>
         <translation>«vantorel snippets» las muestra</translation>
     </message>
     <message>
-        <source>there is no colour list to name colours by</source>
+        <source>there is no colour list with names</source>
         <translation>no hay ninguna lista de colores con la que nombrar los colores</translation>
     </message>
     <message>

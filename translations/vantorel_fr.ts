@@ -981,7 +981,7 @@ Pour bash : source &lt;(vantorel completions bash)</translation>
         <translation>« vantorel snippets » les affiche</translation>
     </message>
     <message>
-        <source>there is no colour list to name colours by</source>
+        <source>there is no colour list with names</source>
         <translation>il n’y a pas de liste de couleurs pour nommer les couleurs</translation>
     </message>
     <message>

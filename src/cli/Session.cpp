@@ -61,7 +61,7 @@ std::shared_ptr<HostColorList> Session::requiredNamingList(const CommandLine& co
     auto list = namingList(commandLine);
     if (!list) {
         throw Failure{
-            {phrase("there is no colour list to name colours by"),
+            {phrase("there is no colour list with names"),
              phrase("choose one with \"--list NAME\"; run \"vantorel lists\" to list them")}};
     }
     return list;

@@ -12,7 +12,7 @@
 namespace vantorel {
 namespace {
 
-/// Tells whether a text has been added before. Different texts may be taken for the same.
+/// The texts that have been added. Different texts may be taken for the same.
 class TextsSeen {
 public:
     explicit TextsSeen(std::size_t mostTexts) : _slots(std::bit_ceil(mostTexts * 2 + 2)) {}

@@ -18,8 +18,8 @@ namespace vantorel {
 
 /// Reads colours that a user types: hex codes, all forms of CSS, the texts that the picker's fields
 /// accept, names of a colour list, and lines of snippets. What begins as a function of CSS must be
-/// whole and right: the picker's fields guess what "rgb(1 2 3 4)" means, but a program must be
-/// told.
+/// whole and right: the picker's fields guess what "rgb(1 2 3 4)" means; a program reports
+/// it.
 class ColorTextReader {
 public:
     using FindList = std::function<std::shared_ptr<HostColorList>()>;

@@ -70,19 +70,19 @@ void MixPicker::makePlane()
     const auto stepThird = [this, third](int steps, std::uint64_t flags) {
         stepRow(third(), steps, flags);
     };
-    MixDragListener& listener = *this;
+    MarkDragListener& listener = *this;
     _plane = std::make_unique<PlaneView>(
         desktop, listener,
         PlaneView::Actions{
             [this](HostPoint place) { choosePlace(place); },
             [this](int right, int up, std::uint64_t flags) { stepPlace(right, up, flags); },
             stepThird});
-    _plane->makeView("mixPlane", {});
+    _plane->makeView(desktop.interfaceFactory(), "mixPlane");
     _bar = std::make_unique<TrackView>(
         TrackView::Direction::upwards, listener,
         TrackView::Actions{[this, third](double fraction) { chooseFraction(third(), fraction); },
                            stepThird});
-    _bar->makeView(desktop.interfaceFactory(), "mixBar", {});
+    _bar->makeView(desktop.interfaceFactory(), "mixBar");
     // The bar is above the room for the plane's mark.
     _page->addSubview(_plane->view());
     _page->addSubview(_bar->view());
@@ -98,13 +98,13 @@ void MixPicker::makeRow(std::size_t index)
     description.editable = false;
     row.label = factory.makeTextField(description);
 
-    MixDragListener& listener = *this;
+    MarkDragListener& listener = *this;
     row.track = std::make_unique<TrackView>(
         TrackView::Direction::toRight, listener,
         TrackView::Actions{
             [this, index](double fraction) { chooseFraction(index, fraction); },
             [this, index](int steps, std::uint64_t flags) { stepRow(index, steps, flags); }});
-    row.track->makeView(factory, numbered("mixTrack", index), {});
+    row.track->makeView(factory, numbered("mixTrack", index));
 
     description.identifier = numbered("mixNumber", index);
     description.editable = true;

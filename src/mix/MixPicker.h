@@ -18,7 +18,7 @@ namespace vantorel {
 
 /// The page on which colours are mixed: a plane of a space with its third component beside it, and
 /// a slider with a number for each component and the opacity.
-class MixPicker final : public HostColorPicker, private MixDragListener {
+class MixPicker final : public HostColorPicker, private MarkDragListener {
 public:
     static constexpr int mixMode = 15;
 

@@ -27,17 +27,9 @@ HostBezierPath rectPath(HostRect rect)
 
 }  // namespace
 
-PlaneView::PlaneView(HostDesktop& desktop, MixDragListener& listener, Actions actions)
-    : _desktop(desktop), _listener(listener), _actions(std::move(actions))
+PlaneView::PlaneView(HostDesktop& desktop, MarkDragListener& listener, Actions actions)
+    : MarkView(listener), _desktop(desktop), _actions(std::move(actions))
 {
-}
-
-void PlaneView::makeView(const std::string& identifier, HostRect frame)
-{
-    HostControlDescription description;
-    description.identifier = identifier;
-    description.frame = frame;
-    _view = _desktop.interfaceFactory().makeCustomView(description, *this);
 }
 
 void PlaneView::show(MixSpace space, const ColorTriple& components, const ColorTriple& srgb)
@@ -49,12 +41,12 @@ void PlaneView::show(MixSpace space, const ColorTriple& components, const ColorT
     }
     _mark = _plane.placeOf(components);
     _srgb = srgb;
-    _view->setNeedsDisplay(true);
+    view().setNeedsDisplay(true);
 }
 
 HostRect PlaneView::planePlace() const
 {
-    HostRect place = insetRect(_view->bounds(), roomForMark, roomForMark);
+    HostRect place = insetRect(view().bounds(), roomForMark, roomForMark);
     place.width = std::max(0.0, place.width);
     place.height = std::max(0.0, place.height);
     return place;
@@ -111,7 +103,7 @@ void PlaneView::drawLegend(HostCanvas& canvas, HostRect place) const
     addText(p3, p3Size);
 }
 
-void PlaneView::moveTo(HostPoint at)
+void PlaneView::moveMarkTo(HostPoint at)
 {
     const HostRect place = planePlace();
     if (place.width <= 0 || place.height <= 0) return;
@@ -124,32 +116,15 @@ void PlaneView::moveTo(HostPoint at)
     if (HostPoint{x, y} != _mark) _actions.move({x, y});
 }
 
-void PlaneView::mouseDown(const HostEvent& event)
-{
-    _listener.dragDidBegin();
-    moveTo(event.location);
-}
-
-void PlaneView::mouseDragged(const HostEvent& event)
-{
-    moveTo(event.location);
-}
-
-void PlaneView::mouseUp(const HostEvent&)
-{
-    _listener.dragDidEnd();
-}
-
 bool PlaneView::scrollWheel(const HostScrollEvent& event)
 {
     _actions.stepThird(event.steps, event.modifierFlags);
     return true;
 }
 
-bool PlaneView::keyDown(const HostKeyEvent& event)
+bool PlaneView::moveMarkBy(const HostKeyEvent& event)
 {
     const std::uint64_t flags = event.modifierFlags;
-    if (isOfPanel(event)) return false;
     switch (event.key) {
         case HostKey::left:
             _actions.step(-1, 0, flags);

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "host/HostDesktop.h"
+#include "mix/MarkView.h"
 #include "mix/PlanePicture.h"
-#include "mix/TrackView.h"
 
-#include <memory>
+#include <functional>
 #include <optional>
 
 namespace vantorel {
 
 /// A plane of colours with a mark at one of them. The mark is dragged, and moved by arrows (Shift:
 /// coarse, Ctrl: fine), Home and End; Page Up, Page Down and the wheel change the third component.
-class PlaneView final : public HostViewContent {
+class PlaneView final : public MarkView {
 public:
     struct Actions {
         /// Chooses a place, in fractions of the plane from its lower left corner.
@@ -25,32 +25,22 @@ public:
     static constexpr double roomForMark = 8;
 
     /// Both must outlive the view.
-    PlaneView(HostDesktop& desktop, MixDragListener& listener, Actions actions);
-
-    void makeView(const std::string& identifier, HostRect frame);
-    [[nodiscard]] HostCustomView& view() const { return *_view; }
+    PlaneView(HostDesktop& desktop, MarkDragListener& listener, Actions actions);
 
     void show(MixSpace space, const ColorTriple& components, const ColorTriple& srgb);
     [[nodiscard]] const ColorPlane& plane() const { return _plane; }
 
     void drawRect(HostCanvas& canvas) override;
-    void mouseDown(const HostEvent& event) override;
-    void mouseDragged(const HostEvent& event) override;
-    void mouseUp(const HostEvent& event) override;
     bool scrollWheel(const HostScrollEvent& event) override;
-    [[nodiscard]] bool takesKeys() const override { return true; }
-    [[nodiscard]] bool takesControlKeys() const override { return true; }
-    bool keyDown(const HostKeyEvent& event) override;
 
 private:
+    void moveMarkTo(HostPoint at) override;
+    bool moveMarkBy(const HostKeyEvent& event) override;
     [[nodiscard]] HostRect planePlace() const;
     void drawLegend(HostCanvas& canvas, HostRect place) const;
-    void moveTo(HostPoint at);
 
     HostDesktop& _desktop;
-    MixDragListener& _listener;
     Actions _actions;
-    std::unique_ptr<HostCustomView> _view;
     ColorPlane _plane{MixSpace::oklch, 0};
     /// In fractions of the plane; may be outside.
     HostPoint _mark;

@@ -18,18 +18,9 @@ constexpr double beyondEnds = 4;
 
 }  // namespace
 
-TrackView::TrackView(Direction direction, MixDragListener& listener, Actions actions)
-    : _direction(direction), _listener(listener), _actions(std::move(actions))
+TrackView::TrackView(Direction direction, MarkDragListener& listener, Actions actions)
+    : MarkView(listener), _direction(direction), _actions(std::move(actions))
 {
-}
-
-void TrackView::makeView(HostInterfaceFactory& factory, const std::string& identifier,
-                         HostRect frame)
-{
-    HostControlDescription description;
-    description.identifier = identifier;
-    description.frame = frame;
-    _view = factory.makeCustomView(description, *this);
 }
 
 void TrackView::show(double fraction, const ColorTriple& fill, TrackColors colors)
@@ -38,12 +29,12 @@ void TrackView::show(double fraction, const ColorTriple& fill, TrackColors color
     _fill = fill;
     _colors = std::move(colors);
     _picture.reset();
-    _view->setNeedsDisplay(true);
+    view().setNeedsDisplay(true);
 }
 
 HostRect TrackView::trackPlace() const
 {
-    const HostRect bounds = _view->bounds();
+    const HostRect bounds = view().bounds();
     if (_direction == Direction::toRight) {
         return {bounds.x + beyondEnds, bounds.midY() - trackThickness / 2,
                 std::max(0.0, bounds.width - 2 * beyondEnds), trackThickness};
@@ -55,7 +46,7 @@ HostRect TrackView::trackPlace() const
 HostSize TrackView::markSize() const
 {
     if (_direction == Direction::toRight) return {roundMark, roundMark};
-    return {_view->bounds().width, barMarkHeight};
+    return {view().bounds().width, barMarkHeight};
 }
 
 HostRect TrackView::markPlace() const
@@ -86,7 +77,7 @@ void TrackView::drawRect(HostCanvas& canvas)
     canvas.drawPixels(markPicture(canvas.pixelSizeOf(mark), look.scale, pixelOf(_fill)), mark);
 }
 
-void TrackView::moveTo(HostPoint at)
+void TrackView::moveMarkTo(HostPoint at)
 {
     const HostRect track = trackPlace();
     const bool isUpwards = _direction == Direction::upwards;
@@ -97,38 +88,14 @@ void TrackView::moveTo(HostPoint at)
     if (fraction != _fraction) _actions.move(fraction);
 }
 
-void TrackView::mouseDown(const HostEvent& event)
-{
-    _listener.dragDidBegin();
-    moveTo(event.location);
-}
-
-void TrackView::mouseDragged(const HostEvent& event)
-{
-    moveTo(event.location);
-}
-
-void TrackView::mouseUp(const HostEvent&)
-{
-    _listener.dragDidEnd();
-}
-
 bool TrackView::scrollWheel(const HostScrollEvent& event)
 {
     _actions.step(event.steps, event.modifierFlags);
     return true;
 }
 
-bool isOfPanel(const HostKeyEvent& event)
+bool TrackView::moveMarkBy(const HostKeyEvent& event)
 {
-    const bool isArrow = event.key == HostKey::left || event.key == HostKey::right ||
-                         event.key == HostKey::up || event.key == HostKey::down;
-    return !isArrow && (event.modifierFlags & controlModifierFlag) != 0;
-}
-
-bool TrackView::keyDown(const HostKeyEvent& event)
-{
-    if (isOfPanel(event)) return false;
     switch (event.key) {
         case HostKey::left:
         case HostKey::down:

@@ -26,7 +26,7 @@ inline constexpr std::size_t longestReadableFormat = 2000;
 ///     8-bit grid is that step. In a format of fractions, one number at least must have a decimal
 ///     point, because 1, 0, 0 can be meant as bytes.
 ///   - A number outside its range, such as a red of 256, is no match.
-///   - A line whose values can be told apart in more than one way is no match.
+///   - A line in which it is not clear where a value ends and the next begins is no match.
 class SnippetReader {
 public:
     explicit SnippetReader(const QTXCodeSnippet& snippet);

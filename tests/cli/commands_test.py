@@ -328,7 +328,7 @@ class Commands(ProgramTest):
     def test_a_missing_list_of_names_is_not_an_error(self):
         self.write_settings("{HexColorLlst = Gone;}")
         self.assertNotIn("name", self.output_of("show", "red"))
-        self.assertIn("no colour list to name colours by", self.error_of("name", "red"))
+        self.assertIn("no colour list with names", self.error_of("name", "red"))
 
     def test_every_option_in_help_is_tried(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.output_of("--help"), re.M)

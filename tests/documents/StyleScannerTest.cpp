@@ -165,6 +165,22 @@ TEST(StyleScannerTest, ColoursKnowTheirRuleAndTheirProperty)
     EXPECT_EQ(found.blocks.at(inner.parent).parent, notInDocument);
 }
 
+TEST(StyleScannerTest, TheTextMayEndWithinAnInterpolation)
+{
+    for (const char* end : {"#{", "#{$c", "#{$c}", "@{", "@{c", "@{c}", "${", "${c", "${c}", "$",
+                            "@", "var(", "var(--c", "var(--c)"}) {
+        const std::string text = std::string("a { b: red; c: ") + end;
+        for (const auto language :
+             {DocumentLanguage::css, DocumentLanguage::scss, DocumentLanguage::less})
+            EXPECT_THAT(colorTexts(text, language), ElementsAre("red = #ff0000")) << text;
+        for (const char* value : {"<p style='c: red; b: ", "<style>a{c:red;b:"}) {
+            const std::string markup = std::string(value) + end;
+            EXPECT_THAT(colorTexts(markup, DocumentLanguage::html), ElementsAre("red = #ff0000"))
+                << markup;
+        }
+    }
+}
+
 TEST(StyleScannerTest, HugeTextsOfBracketsAreScanned)
 {
     constexpr std::size_t count = 1 << 17;

@@ -84,7 +84,7 @@ void MessageLabel::changeEvent(QEvent* event)
     if (event->type() == QEvent::LayoutDirectionChange) applyTheme();
 }
 
-/// Not by its colour alone is a failure told from news.
+/// Failure and news have signs, because not everybody sees the difference of their colours.
 void MessageLabel::paintEvent(QPaintEvent* event)
 {
     PlainLabel::paintEvent(event);
