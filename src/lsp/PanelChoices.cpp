@@ -73,6 +73,8 @@ std::optional<PanelChoices::Choice> PanelChoices::read(int output)
         open->choice.text.append(buffer.data(), static_cast<std::size_t>(count));
         return std::nullopt;
     }
+    // A panel that still runs writes more than a colour, or cannot be read.
+    if (count != 0) ::kill(open->panel.process, SIGTERM);
     finish(open->panel);
     Open ended = std::move(*open);
     _open.erase(open);
