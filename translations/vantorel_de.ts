@@ -3036,6 +3036,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>The shown list</source>
         <translation>Die angezeigte Liste</translation>
     </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Farben in der Liste: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteListModel</name>
@@ -3100,14 +3104,6 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <translation>%1 von %2</translation>
     </message>
     <message>
-        <source>Colours in the list</source>
-        <translation>Farben in der Liste</translation>
-    </message>
-    <message>
-        <source>Colours in the list: %1</source>
-        <translation>Farben in der Liste: %1</translation>
-    </message>
-    <message>
         <source>The list is empty. The + adds the panel&apos;s colour.</source>
         <translation>Die Liste ist leer. Das + fügt die Farbe des Fensters hinzu.</translation>
     </message>
@@ -3126,6 +3122,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>No colour name or hex code matches.</source>
         <translation>Kein Name und kein Hex-Code passt.</translation>
+    </message>
+    <message>
+        <source>As a list</source>
+        <translation>Als Liste</translation>
+    </message>
+    <message>
+        <source>As a grid</source>
+        <translation>Als Raster</translation>
     </message>
 </context>
 <context>

@@ -3036,6 +3036,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Name of the list</source>
         <translation>Nombre de la lista</translation>
     </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Colores de la lista: %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteListModel</name>
@@ -3100,14 +3104,6 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <translation>%1 de %2</translation>
     </message>
     <message>
-        <source>Colours in the list</source>
-        <translation>Colores en la lista</translation>
-    </message>
-    <message>
-        <source>Colours in the list: %1</source>
-        <translation>Colores en la lista: %1</translation>
-    </message>
-    <message>
         <source>There is no list yet. Create one, or drop a palette file here.</source>
         <translation>Aún no hay ninguna lista. Cree una o suelte aquí un archivo de paleta.</translation>
     </message>
@@ -3126,6 +3122,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>%1 copy</source>
         <translation>%1 copia</translation>
+    </message>
+    <message>
+        <source>As a list</source>
+        <translation>Como lista</translation>
+    </message>
+    <message>
+        <source>As a grid</source>
+        <translation>Como cuadrícula</translation>
     </message>
 </context>
 <context>

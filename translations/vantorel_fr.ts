@@ -3036,6 +3036,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Name of the list</source>
         <translation>Nom de la liste</translation>
     </message>
+    <message>
+        <source>Colours in the list: %1</source>
+        <translation>Couleurs dans la liste : %1</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteListModel</name>
@@ -3100,14 +3104,6 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <translation>%1 sur %2</translation>
     </message>
     <message>
-        <source>Colours in the list</source>
-        <translation>Couleurs dans la liste</translation>
-    </message>
-    <message>
-        <source>Colours in the list: %1</source>
-        <translation>Couleurs dans la liste : %1</translation>
-    </message>
-    <message>
         <source>There is no list yet. Create one, or drop a palette file here.</source>
         <translation>Il n’y a pas encore de liste. Créez-en une ou déposez ici un fichier de palette.</translation>
     </message>
@@ -3126,6 +3122,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>%1 copy</source>
         <translation>%1 copie</translation>
+    </message>
+    <message>
+        <source>As a list</source>
+        <translation>En liste</translation>
+    </message>
+    <message>
+        <source>As a grid</source>
+        <translation>En grille</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "EntryTexts.h"
 #include "colorlists/PaletteFile.h"
 #include "paletteedit/ProposedName.h"
+#include "text/Unicode.h"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +88,39 @@ TEST(ProposedNameTest, IsTheNearestColourNameOrTheHexCode)
     EXPECT_EQ(proposedName(HostColor::colorWithCalibratedRed(0, 1, 0, 1),
                            {{u"#00FF00", HostColor::blackColor()}}),
               u"#00FF00 2");
+}
+
+TEST(ProposedNameTest, CodesAndTheUntitledOfFilesAreNotNames)
+{
+    struct Row {
+        const char16_t* name;
+        bool isCode;
+    };
+    for (const Row& row :
+         {Row{u"#ff8000", true}, Row{u"#FF8000 2", true}, Row{u"#f80", true},
+          Row{u"#ff8000cc", true}, Row{u"rgb(255, 128, 0)", true},
+          Row{u"oklch(70% 0.2 50) 3", true}, Row{u"Untitled", true}, Row{u"Untitled 12", true},
+          Row{u"", true}, Row{u"  ", true}, Row{u"red", false}, Row{u"Red 2", false},
+          Row{u"#1", false}, Row{u"#ff8000 fire", false}, Row{u"#ff8000 0", false},
+          Row{u"ff8000", false}, Row{u"Untitled sketch", false}, Row{u"7", false},
+          Row{u"rgb(", false}}) {
+        EXPECT_EQ(isOnlyCode(row.name), row.isCode) << utf8FromUtf16(row.name);
+    }
+    EXPECT_FALSE(isOnlyCode(u"#" + std::u16string(100000, u'f')));
+}
+
+TEST(ProposedNameTest, WhoNamesACodeStartsFromTheNearestNameOfCSS)
+{
+    const PaletteEntries entries{
+        {u"#FE0101", HostColor::colorWithCalibratedRed(254 / 255.0, 1 / 255.0, 1 / 255.0, 1)},
+        {u"Untitled", HostColor::colorWithCalibratedRed(0, 0, 1, 1)},
+        {u"blue", HostColor::blackColor()},
+        {u"my sea", HostColor::colorWithCalibratedRed(0, 0, 1, 1)},
+    };
+    EXPECT_EQ(nameToStartFrom(entries, 0), u"red");
+    EXPECT_EQ(nameToStartFrom(entries, 1), u"blue 2") << "a name of the list is not repeated";
+    EXPECT_EQ(nameToStartFrom(entries, 2), u"blue");
+    EXPECT_EQ(nameToStartFrom(entries, 3), u"my sea");
 }
 
 }  // namespace

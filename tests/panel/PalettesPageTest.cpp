@@ -69,6 +69,7 @@ TEST_F(PalettesPageTest, UndoAndRedoBelongToThePage)
     for (QWidget* focus : {static_cast<QWidget*>(view()), static_cast<QWidget*>(lists()),
                            child<QWidget>("paletteMenuButton"), child<QWidget>("paletteFilter")}) {
         SCOPED_TRACE(focus->objectName().toStdString());
+        command("Find")->trigger();
         focus->setFocus();
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(own("Reds"), "dark=c00000 darker=800000 darkest=400000");
@@ -82,6 +83,7 @@ TEST_F(PalettesPageTest, UndoAndRedoBelongToThePage)
         EXPECT_EQ(chosenColor(), chosen);
     }
     auto* filter = child<QLineEdit>("paletteFilter");
+    command("Find")->trigger();
     QTest::keyClicks(filter, "dark");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(filter->text(), "") << "typing is undone first";
@@ -118,6 +120,25 @@ TEST_F(PalettesPageTest, ListsAreCreatedRenamedCopiedAndRemoved)
     command("Undo")->trigger();
     EXPECT_EQ(own("Blues 2"), own("Reds"));
     EXPECT_EQ(shownList(), "Blues 2");
+}
+
+TEST_F(PalettesPageTest, TheFilterIsOnlyThereWhileItIsUsed)
+{
+    const auto* filter = child<QLineEdit>("paletteFilter");
+    EXPECT_FALSE(filter->isVisible());
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(filter->isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(filter->isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), view());
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "darker");
+    press(Qt::Key_Down);
+    EXPECT_TRUE(filter->isVisible()) << "it says why colours are missing";
+    press(Qt::Key_F, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(shownNames(), "red dark darker darkest");
+    EXPECT_TRUE(filter->isVisible()) << "who clears it goes on to type";
 }
 
 TEST_F(PalettesPageTest, KeysOfThePageWorkWhileItShows)
@@ -310,6 +331,7 @@ TEST_F(PalettesPageTest, EverythingFitsAtAnySize)
     show("Web (Krita)");
     for (const QSize size : {QSize(212, 220), QSize(260, 340), QSize(900, 700)}) {
         _window->resizeToPage(size);
+        command("Find")->trigger();
         QApplication::processEvents();
         EXPECT_EQ(page()->size(), size);
         QList<QWidget*> shown;

@@ -1,9 +1,11 @@
 #include "hosts/qt/QtColors.h"
 #include "panel/PanelTranslations.h"
+#include "panel/palettes/PalettesPage.h"
 #include "panel/widgets/PanelTheme.h"
 #include "panel/window/PanelWindow.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QLocale>
@@ -110,6 +112,17 @@ const std::vector<Picture>& pictures()
          [](PanelWindow& window) {
              window.pages().showPageWithKey(QStringLiteral("mix"));
              window.resizeToPage({232, 246});
+             return wholePage(window);
+         }},
+        {"palettes", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("palettes"));
+             window.palettes().setArrangement(PaletteEntriesView::Arrangement::grid);
+             window.resizeToPage({232, 246});
+             auto& lists = child<QComboBox>(window, "paletteLists");
+             lists.setCurrentText(QStringLiteral("SVG Keyword"));
+             emit lists.activated(lists.currentIndex());
+             QTest::qWait(50);  // for the swatches to be laid out
              return wholePage(window);
          }},
         {"colors", "#ff7f50", svgList, wholePage},

@@ -6,6 +6,9 @@
 /// Labels and buttons in the style of the Palettes page.
 namespace vantorel::palettecontrols {
 
+/// At both sides of the page, in points.
+inline constexpr int pageMargin = 10;
+
 /// A label in small, faint letters. `name` is its object name.
 [[nodiscard]] QLabel* newLabel(QWidget* parent, const char* name);
 [[nodiscard]] QToolButton* newButton(QWidget* parent);

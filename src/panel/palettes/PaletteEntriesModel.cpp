@@ -2,6 +2,7 @@
 
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "paletteedit/ProposedName.h"
 #include "panel/widgets/ColorClipboard.h"
 
 #include <algorithm>
@@ -107,6 +108,8 @@ QVariant PaletteEntriesModel::data(const QModelIndex& index, int role) const
             return qColorFrom(entry.color());
         case hexRole:
             return qStringFrom(hexCodeOf(entry.color()));
+        case startNameRole:
+            return qStringFrom(nameToStartFrom(_entries, placeOfRow(index.row())));
         default:
             return {};
     }

@@ -17,7 +17,12 @@ class PaletteEntriesModel final : public QAbstractListModel {
 public:
     explicit PaletteEntriesModel(QObject* parent) : QAbstractListModel(parent) {}
 
-    enum Role { colorRole = Qt::UserRole, hexRole };
+    enum Role {
+        colorRole = Qt::UserRole,
+        hexRole,
+        /// The name from which a user who renames the entry starts.
+        startNameRole,
+    };
 
     void setEntries(const PaletteEntries& entries);
     /// Sets the entries when more of the same list has been read. The selection is kept.

@@ -1,150 +1,47 @@
 #include "panel/palettes/PaletteEntriesView.h"
 
-#include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
+#include "panel/palettes/PaletteControls.h"
+#include "panel/palettes/PaletteEntryDelegates.h"
 
 #include <QApplication>
 #include <QDragMoveEvent>
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 
 namespace vantorel {
 namespace {
 
-// In points.
-constexpr int rowHeight = 22;
-constexpr int swatchWidth = 26;
-constexpr int swatchInset = 3;
-constexpr int gap = 6;
-/// Narrower rows have no room for the hex code.
-constexpr int leastWidthWithHex = 150;
-/// The maximum length of a typed name. Files may have longer ones.
-constexpr int longestTypedName = 200;
-
-class EntryDelegate final : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
-    {
-        return {scaled(60), scaled(rowHeight)};
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& given,
-               const QModelIndex& index) const override
-    {
-        QStyleOptionViewItem option = given;
-        initStyleOption(&option, index);
-        const QWidget* view = option.widget;
-        view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, view);
-
-        const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-        const bool isActive = option.state.testFlag(QStyle::State_Active);
-        const auto group = isActive ? QPalette::Active : QPalette::Inactive;
-        const QColor text =
-            option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
-        const QColor faint =
-            isSelected ? text : option.palette.color(group, QPalette::PlaceholderText);
-
-        const QRect swatch = mirrored(option, swatchRect(option.rect));
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        QColor edge = option.palette.color(QPalette::Text);
-        edge.setAlpha(90);
-        painter->setPen(QPen(isSelected ? text : edge, 1));
-        painter->setBrush(index.data(PaletteEntriesModel::colorRole).value<QColor>());
-        painter->drawRoundedRect(QRectF(swatch).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-
-        QRect name = nameRect(option.rect);
-        const auto level = static_cast<int>(Qt::AlignVCenter);
-        if (option.rect.width() >= scaled(leastWidthWithHex)) {
-            painter->setFont(fontOfSize(10));
-            painter->setPen(faint);
-            const QString hex = index.data(PaletteEntriesModel::hexRole).toString();
-            const int width = painter->fontMetrics().horizontalAdvance(QStringLiteral("#DDDDDD"));
-            const QRect place(name.right() - width, name.top(), width, name.height());
-            painter->drawText(mirrored(option, place), level | Qt::AlignTrailing, hex);
-            name.setRight(place.left() - scaled(gap));
-        }
-        painter->setFont(option.font);
-        painter->setPen(text);
-        painter->drawText(
-            mirrored(option, name), level | Qt::AlignLeading | Qt::TextSingleLine,
-            painter->fontMetrics().elidedText(option.text, Qt::ElideRight, name.width()));
-        painter->restore();
-        if (option.state.testFlag(QStyle::State_HasFocus)) {
-            QStyleOptionFocusRect focus;
-            focus.QStyleOption::operator=(option);
-            focus.backgroundColor =
-                option.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
-            view->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, view);
-        }
-    }
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex&) const override
-    {
-        auto* field = new ClipboardLineEdit(parent);
-        field->setObjectName(QStringLiteral("paletteEntryName"));
-        field->setMaxLength(longestTypedName);
-        field->setAccessibleName(PaletteEntriesView::tr("Colour name"));
-        return field;
-    }
-
-    void setEditorData(QWidget* editor, const QModelIndex& index) const override
-    {
-        auto* field = static_cast<QLineEdit*>(editor);
-        const QString name = index.data(Qt::EditRole).toString();
-        // A name from a file may be longer than the maximum and must not be truncated.
-        if (name.size() > field->maxLength()) field->setMaxLength(static_cast<int>(name.size()));
-        field->setText(name);
-        field->selectAll();
-    }
-
-    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                              const QModelIndex&) const override
-    {
-        editor->setGeometry(mirrored(option, nameRect(option.rect)));
-    }
-
-private:
-    [[nodiscard]] static QRect swatchRect(const QRect& row)
-    {
-        return {row.left() + scaled(gap), row.top() + scaled(swatchInset), scaled(swatchWidth),
-                row.height() - 2 * scaled(swatchInset)};
-    }
-    [[nodiscard]] static QRect nameRect(const QRect& row)
-    {
-        const int left = swatchRect(row).right() + scaled(gap);
-        return {left, row.top(), row.right() - scaled(gap) - left, row.height()};
-    }
-    [[nodiscard]] static QRect mirrored(const QStyleOptionViewItem& option, const QRect& rect)
-    {
-        return QStyle::visualRect(option.direction, option.rect, rect);
-    }
-};
+/// Whether a key searches for a name.
+bool isLetter(const QKeyEvent& event)
+{
+    constexpr auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return (event.modifiers() & commands) == 0 && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
 
 }  // namespace
 
 PaletteEntriesView::PaletteEntriesView(QWidget* parent)
-    : QListView(parent), _model(*new PaletteEntriesModel(this)), _note(new PlainLabel(viewport()))
+    : QListView(parent),
+      _model(*new PaletteEntriesModel(this)),
+      _rows(new PaletteRowDelegate(this)),
+      _cells(new PaletteCellDelegate(this)),
+      _note(new PlainLabel(viewport()))
 {
     setObjectName(QStringLiteral("paletteEntries"));
     setModel(&_model);
-    setItemDelegate(new EntryDelegate(this));
-    setUniformItemSizes(true);
+    setMouseTracking(true);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(DoubleClicked | EditKeyPressed);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    verticalScrollBar()->setSingleStep(scaled(rowHeight));
     setDragEnabled(true);
     setAcceptDrops(true);
     // The base class draws its line only for moves that it does itself.
@@ -158,6 +55,132 @@ PaletteEntriesView::PaletteEntriesView(QWidget* parent)
     _note->setAlignment(Qt::AlignCenter);
     _note->setForegroundRole(QPalette::PlaceholderText);
     _note->setAttribute(Qt::WA_TransparentForMouseEvents);
+    arrange();
+    verticalScrollBar()->parentWidget()->installEventFilter(this);
+    connect(this, &QAbstractItemView::entered, this, [this](const QModelIndex& under) {
+        _hovered = under;
+        showNamed();
+    });
+    connect(this, &QAbstractItemView::viewportEntered, this, [this] {
+        _hovered = QModelIndex();
+        showNamed();
+    });
+    connect(&_model, &QAbstractItemModel::dataChanged, this, &PaletteEntriesView::showNamed);
+    connect(&_model, &QAbstractItemModel::modelReset, this, &PaletteEntriesView::showNamed);
+}
+
+void PaletteEntriesView::setArrangement(Arrangement arrangement)
+{
+    if (arrangement == _arrangement) return;
+    _arrangement = arrangement;
+    arrange();
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+    showNamed();
+}
+
+void PaletteEntriesView::arrange()
+{
+    const bool isGrid = _arrangement == Arrangement::grid;
+    // An open field belongs to the delegate that is replaced.
+    if (state() == EditingState) setFocus();
+    setItemDelegate(isGrid ? static_cast<QAbstractItemDelegate*>(_cells) : _rows);
+    setUniformItemSizes(!isGrid);
+    setFlow(isGrid ? LeftToRight : TopToBottom);
+    setWrapping(isGrid);
+    setResizeMode(isGrid ? Adjust : Fixed);
+    setFrameShape(isGrid ? NoFrame : StyledPanel);
+    viewport()->setBackgroundRole(isGrid ? QPalette::Window : QPalette::Base);
+    // The scroll bar of a grid is always there, in the margin of the page: where it came and went,
+    // rows would get higher by what it leaves, and need it again.
+    setVerticalScrollBarPolicy(isGrid ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
+    // It has room to spare at its sides, which the swatches may cover.
+    constexpr int mostOverlap = 6;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, verticalScrollBar());
+    const int beside = std::max(scaled(palettecontrols::pageMargin) - bar, -mostOverlap);
+    // Qt breaks a row that fills the width exactly.
+    setViewportMargins(0, 0, isGrid ? beside - 1 : 0, 0);
+    scheduleDelayedItemsLayout();
+    setDropRow(-1);
+}
+
+PaletteGrid PaletteEntriesView::grid() const
+{
+    return PaletteGrid(viewport()->width() - 1);
+}
+
+void PaletteEntriesView::updateGeometries()
+{
+    QListView::updateGeometries();
+    verticalScrollBar()->setSingleStep(_arrangement == Arrangement::grid
+                                           ? grid().rowHeight()
+                                           : scaled(PaletteRowDelegate::rowHeight));
+}
+
+bool PaletteEntriesView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ZOrderChange && _arrangement == Arrangement::grid)
+        viewport()->raise();
+    return QListView::eventFilter(watched, event);
+}
+
+void PaletteEntriesView::showNamed()
+{
+    const QModelIndex named = _hovered.isValid() ? QModelIndex(_hovered) : currentIndex();
+    emit namedEntryChanged(named.isValid() && _arrangement == Arrangement::grid
+                               ? named.data(Qt::AccessibleTextRole).toString()
+                               : QString());
+}
+
+void PaletteEntriesView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QListView::currentChanged(current, previous);
+    showNamed();
+}
+
+bool PaletteEntriesView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Leave) {
+        _hovered = QModelIndex();
+        showNamed();
+    }
+    return QListView::viewportEvent(event);
+}
+
+QModelIndex PaletteEntriesView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int count = _model.rowCount();
+    if (_arrangement == Arrangement::list || count == 0 || !currentIndex().isValid())
+        return QListView::moveCursor(action, modifiers);
+    const PaletteGrid places = grid();
+    const int screen = std::max(1, viewport()->height() / places.rowHeight());
+    const int row = currentIndex().row();
+    const auto beside = [&](int step) {
+        return _model.index(std::clamp(row + step, 0, count - 1));
+    };
+    const auto below = [&](int rows) { return _model.index(places.entryBelow(row, rows, count)); };
+    switch (action) {
+        case MoveLeft:
+            return beside(isRightToLeft() ? 1 : -1);
+        case MoveRight:
+            return beside(isRightToLeft() ? -1 : 1);
+        case MovePrevious:
+            return beside(-1);
+        case MoveNext:
+            return beside(1);
+        case MoveUp:
+            return below(-1);
+        case MoveDown:
+            return below(1);
+        case MovePageUp:
+            return below(-screen);
+        case MovePageDown:
+            return below(screen);
+        case MoveHome:
+            return _model.index(0);
+        case MoveEnd:
+            return _model.index(count - 1);
+    }
+    return currentIndex();
 }
 
 void PaletteEntriesView::setNote(const QString& note)
@@ -251,11 +274,34 @@ void PaletteEntriesView::mouseReleaseEvent(QMouseEvent* event)
     if (isClick) emit colorChosen(_model.placeOfRow(released.row()));
 }
 
+bool PaletteEntriesView::continuesSearch(const QKeyEvent& event) const
+{
+    return isLetter(event) && state() != EditingState && _lastLetter.isValid() &&
+           _lastLetter.elapsed() < QApplication::keyboardInputInterval();
+}
+
+bool PaletteEntriesView::event(QEvent* event)
+{
+    // A single letter may be a shortcut of the panel, but not within a word that is typed.
+    if (event->type() == QEvent::ShortcutOverride &&
+        continuesSearch(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QListView::event(event);
+}
+
 void PaletteEntriesView::keyPressEvent(QKeyEvent* event)
 {
     const bool takes = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                        event->key() == Qt::Key_Space;
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool goesOn = continuesSearch(*event);
+    if (goesOn || (isLetter(*event) && !takes)) _lastLetter.start();
+    if (goesOn && event->key() == Qt::Key_Space) {
+        keyboardSearch(event->text());
+        return;
+    }
     if (takes && isPlain && currentIndex().isValid() && state() != EditingState) {
         emit colorChosen(currentPlace());
         return;
@@ -265,6 +311,10 @@ void PaletteEntriesView::keyPressEvent(QKeyEvent* event)
 
 int PaletteEntriesView::dropRowAt(QPoint point) const
 {
+    if (_arrangement == Arrangement::grid) {
+        const int x = isRightToLeft() ? viewport()->width() - 1 - point.x() : point.x();
+        return std::min(grid().entryBefore({x, point.y() + verticalOffset()}), _model.rowCount());
+    }
     const QModelIndex under = indexAt(point);
     if (!under.isValid()) return _model.rowCount();
     const QRect row = visualRect(under);
@@ -344,12 +394,30 @@ void PaletteEntriesView::paintEvent(QPaintEvent* event)
     QListView::paintEvent(event);
     if (_dropRow < 0) return;
     QPainter painter(viewport());
+    painter.fillRect(dropLine(), palette().color(QPalette::Highlight));
+}
+
+QRect PaletteEntriesView::dropLine() const
+{
+    constexpr int thickness = 2;
     const int count = _model.rowCount();
-    const int y = count == 0         ? 0
-                  : _dropRow < count ? visualRect(_model.index(_dropRow)).top()
-                                     : visualRect(_model.index(count - 1)).bottom();
-    painter.fillRect(QRect(0, std::max(y - 1, 0), viewport()->width(), 2),
-                     palette().color(QPalette::Highlight));
+    const bool isAtEnd = _dropRow >= count;
+    if (count == 0) return {0, 0, viewport()->width(), thickness};
+    const QRect beside = visualRect(_model.index(isAtEnd ? count - 1 : _dropRow));
+    if (_arrangement == Arrangement::list) {
+        const int y = isAtEnd ? beside.bottom() : beside.top();
+        return {0, std::max(y - 1, 0), viewport()->width(), thickness};
+    }
+    const PaletteGrid places = grid();
+    const QSize size = places.swatchSize(isAtEnd ? count - 1 : _dropRow);
+    const QRect swatch =
+        QStyle::visualRect(layoutDirection(), beside, QRect(beside.topLeft(), size));
+    // In the middle of a gap; at the edges of the view, within it.
+    const int outside = (places.gap() + thickness) / 2;
+    const bool isLeft = isAtEnd == isRightToLeft();
+    const int x = isLeft ? swatch.left() - outside : swatch.right() + 1 + outside - thickness;
+    return {std::clamp(x, 0, viewport()->width() - 1 - thickness), swatch.top(), thickness,
+            swatch.height()};
 }
 
 }  // namespace vantorel

@@ -19,14 +19,36 @@ PaletteFilter::PaletteFilter(QWidget* parent, PaletteEntriesView& view)
         const auto selected = _view.selectedPlaces();
         _view.entriesModel().setFilter(text.trimmed());
         _view.selectPlaces(selected);
+        if (text.isEmpty() && !hasFocus()) hide();
         emit filtered();
     });
+    hide();
+}
+
+void PaletteFilter::open()
+{
+    show();
+    setFocus();
+    selectAll();
+}
+
+void PaletteFilter::focusOutEvent(QFocusEvent* event)
+{
+    ClipboardLineEdit::focusOutEvent(event);
+    // The window, or a menu of the field, will give the focus back.
+    const bool isForAWhile =
+        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    if (text().isEmpty() && !isForAWhile) hide();
 }
 
 bool PaletteFilter::performKey(const QKeyEvent& event)
 {
-    if (event.key() == Qt::Key_Escape && !text().isEmpty()) {
-        clear();
+    if (event.key() == Qt::Key_Escape) {
+        if (text().isEmpty()) {
+            _view.setFocus();
+        } else {
+            clear();
+        }
         return true;
     }
     if (event.key() == Qt::Key_Down && _view.entriesModel().rowCount() > 0) {

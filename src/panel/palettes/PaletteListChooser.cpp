@@ -2,16 +2,21 @@
 
 #include "hosts/qt/ClipboardLineEdit.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/widgets/QuietLabel.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStylePainter>
 
 #include <algorithm>
 
 namespace vantorel {
 
 PaletteListChooser::PaletteListChooser(QWidget* parent)
-    : QComboBox(parent), _rows(new PaletteListModel(this)), _name(new ClipboardLineEdit(this))
+    : QComboBox(parent),
+      _rows(new PaletteListModel(this)),
+      _name(new ClipboardLineEdit(this)),
+      _count(new QuietLabel({}, this))
 {
     setModel(_rows);
     setObjectName(QStringLiteral("paletteLists"));
@@ -23,6 +28,10 @@ PaletteListChooser::PaletteListChooser(QWidget* parent)
     setMinimumContentsLength(6);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(this, &QComboBox::activated, this, [this] { emit listChosen(shownList()); });
+
+    _count->setObjectName(QStringLiteral("paletteCount"));
+    _count->setFont(fontOfSize(11));
+    _count->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     _name->setObjectName(QStringLiteral("paletteListName"));
     _name->setAccessibleName(tr("Name of the list"));
@@ -49,10 +58,42 @@ PaletteId PaletteListChooser::showLists(const std::vector<EditablePalette>& pale
     return shownList();
 }
 
+void PaletteListChooser::showCount(const QString& count)
+{
+    _count->setText(count);
+    _count->setAccessibleName(tr("Colours in the list: %1").arg(count));
+    setAccessibleDescription(_count->accessibleName());
+    update();
+}
+
+void PaletteListChooser::paintEvent(QPaintEvent*)
+{
+    constexpr int gap = 6;
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .adjusted(gap, 0, -gap, 0);
+    const int countWidth = _count->sizeHint().width();
+    const int nameRoom = std::max(0, room.width() - gap - countWidth);
+    option.currentText =
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, nameRoom);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    const int nameWidth =
+        std::min(option.fontMetrics.horizontalAdvance(option.currentText), nameRoom);
+    const QRect place(room.left() + nameWidth + gap, room.top(), countWidth, room.height());
+    const QRect shown = QStyle::visualRect(layoutDirection(), room, place);
+    if (_count->geometry() != shown) _count->setGeometry(shown);
+}
+
 void PaletteListChooser::beginRename(const QString& name)
 {
     _name->setGeometry(rect());
     _name->setText(name);
+    _name->raise();
     _name->show();
     _name->setFocus();
     _name->selectAll();

@@ -4,6 +4,7 @@
 #include "panel/palettes/PaletteListModel.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 
 #include <vector>
@@ -24,6 +25,9 @@ public:
     /// The shown list; 0 if there is none.
     [[nodiscard]] PaletteId shownList() const { return _rows->listAt(currentIndex()); }
 
+    /// Shows after the name how many colours the list has.
+    void showCount(const QString& count);
+
     /// Lets the user type a name for the list; `name` is the current one.
     void beginRename(const QString& name);
     /// Applies the name that the user is typing, if any.
@@ -36,12 +40,14 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void endRename(bool takes);
 
     PaletteListModel* _rows;
     QLineEdit* _name;
+    QLabel* _count;
 };
 
 }  // namespace vantorel

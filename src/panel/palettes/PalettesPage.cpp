@@ -37,7 +37,17 @@ QWidget* PalettesPage::makeWidget()
         // The entries of a list have no opacity, so the panel's stays.
         emit colorChosen(chosen.colorWithAlphaComponent(_color.alphaComponent()));
     });
+    _widget->setArrangement(_arrangement);
+    connect(_widget, &PalettesWidget::arrangementChosen, this, &PalettesPage::setArrangement);
     return _widget;
+}
+
+void PalettesPage::setArrangement(PaletteEntriesView::Arrangement arrangement)
+{
+    if (arrangement == _arrangement) return;
+    _arrangement = arrangement;
+    if (_widget) _widget->setArrangement(arrangement);
+    emit arrangementChanged();
 }
 
 void PalettesPage::show(HostView& holder)

@@ -27,9 +27,16 @@ public:
     bool performKey(const QKeyEvent& event) override;
     [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
 
+    /// How the colours of a list are arranged, which is kept from one start to the next.
+    void setArrangement(PaletteEntriesView::Arrangement arrangement);
+    [[nodiscard]] PaletteEntriesView::Arrangement arrangement() const { return _arrangement; }
+
     /// Makes a new list of these colours and lets the user name it. Has no effect unless the page
     /// is shown.
     void keepAsList(const QString& name, const std::vector<HostColor>& colors);
+
+signals:
+    void arrangementChanged();
 
 protected:
     [[nodiscard]] QWidget* makeWidget() override;
@@ -38,6 +45,7 @@ private:
     HostFiles& _files;
     PaletteFileStore& _store;
     HostColor _color = HostColor::whiteColor();
+    PaletteEntriesView::Arrangement _arrangement = PaletteEntriesView::Arrangement::list;
     QPointer<PalettesWidget> _widget;
 };
 

@@ -1,9 +1,11 @@
 #include "panel/palettes/PalettesWidget.h"
 
+#include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/palettes/PaletteControls.h"
 #include "panel/widgets/PanelIcons.h"
+#include "panel/widgets/StyleFields.h"
 #include "result/HarmlessLine.h"
 
 #include <QDragEnterEvent>
@@ -11,9 +13,19 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <initializer_list>
 #include <unordered_set>
 
 namespace vantorel {
+namespace {
+
+constexpr QLatin1String listKey("list");
+constexpr QLatin1String gridKey("grid");
+
+/// The least height of the row of controls at the top, in points.
+constexpr int headPoints = 28;
+
+}  // namespace
 
 PalettesWidget::PalettesWidget(HostFiles& files, PaletteFileStore& store)
     : _session(files, store), _updates(files, store, _session)
@@ -36,6 +48,11 @@ void PalettesWidget::makeControls()
 {
     _commands = new PaletteCommands(*this);
     _lists = new PaletteListChooser(this);
+    _arrangements = new SegmentedChoice(this);
+    _arrangements->setObjectName(QStringLiteral("paletteArrangement"));
+    _arrangements->addChoice(listIcon(), tr("As a list"), listKey);
+    _arrangements->addChoice(gridIcon(), tr("As a grid"), gridKey);
+    _arrangements->setCurrentKey(listKey);
     _ownership = palettecontrols::newLabel(this, "paletteOwnership");
     _ownership->setWordWrap(true);
     _view = new PaletteEntriesView(this);
@@ -45,9 +62,9 @@ void PalettesWidget::makeControls()
     _progress = new PaletteProgress(this);
     _message = new MessageLabel(this);
     _message->setObjectName(QStringLiteral("paletteMessage"));
-    _count = palettecontrols::newLabel(this, "paletteCount");
-    _count->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    _count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    _named = palettecontrols::newLabel(this, "paletteNamed");
+    _named->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    _named->setAlignment(Qt::AlignCenter);
 }
 
 void PalettesWidget::layOutControls()
@@ -55,6 +72,8 @@ void PalettesWidget::layOutControls()
     QToolButton* menuButton = palettecontrols::newButton(this);
     menuButton->setObjectName(QStringLiteral("paletteMenuButton"));
     menuButton->setIcon(moreIcon());
+    menuButton->setAutoRaise(false);
+    menuButton->setFixedSize(QSize(1, 1) * std::max(scaled(headPoints), controlHeight));
     menuButton->setToolTip(tr("Commands for lists and colours"));
     menuButton->setAccessibleName(tr("Commands for lists and colours"));
     menuButton->setPopupMode(QToolButton::InstantPopup);
@@ -62,29 +81,40 @@ void PalettesWidget::layOutControls()
     menuButton->setMenu(_commands->menu());
 
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(scaled(10), scaled(4), scaled(10), scaled(2));
-    rows->setSpacing(scaled(4));
-    auto* head = new QHBoxLayout;
-    head->setSpacing(scaled(2));
+    const int margin = scaled(palettecontrols::pageMargin);
+    rows->setContentsMargins(margin, scaled(8), 0, 0);
+    rows->setSpacing(scaled(8));
+    const auto newRow = [&] {
+        auto* row = new QHBoxLayout;
+        row->setContentsMargins(0, 0, margin, 0);
+        rows->addLayout(row);
+        return row;
+    };
+    QHBoxLayout* head = newRow();
+    head->setSpacing(scaled(4));
     head->addWidget(_lists, 1);
+    head->addWidget(_arrangements);
     head->addWidget(menuButton);
-    rows->addLayout(head);
-    rows->addWidget(_ownership);
-    rows->addWidget(_filter);
-    rows->addWidget(_view, 1);
-    rows->addWidget(_progress);
-    rows->addWidget(_message);
-    auto* foot = new QHBoxLayout;
-    foot->setSpacing(0);
-    std::vector<QWidget*> tabOrder{_lists, menuButton, _filter, _view};
-    for (const Command command : {Command::addColor, Command::removeColors, Command::recolor,
-                                  Command::undo, Command::redo}) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{_ownership, _filter})
+        newRow()->addWidget(widget);
+    _viewRow = newRow();
+    _viewRow->addWidget(_view);
+    rows->setStretchFactor(_viewRow, 1);
+    for (QWidget* widget : std::initializer_list<QWidget*>{_progress, _message})
+        newRow()->addWidget(widget);
+    QHBoxLayout* foot = newRow();
+    foot->setSpacing(scaled(4));
+    std::vector<QWidget*> tabOrder{_lists, _arrangements, menuButton, _filter, _view};
+    const auto addButton = [&](Command command) {
         QToolButton* button = palettecontrols::newButton(this, _commands->action(command));
         foot->addWidget(button);
         tabOrder.push_back(button);
-    }
-    foot->addWidget(_count, 1);
-    rows->addLayout(foot);
+    };
+    for (const Command command : {Command::addColor, Command::removeColors, Command::recolor})
+        addButton(command);
+    foot->addWidget(_named, 1);
+    for (const Command command : {Command::undo, Command::redo})
+        addButton(command);
     for (std::size_t i = 1; i < tabOrder.size(); ++i)
         setTabOrder(tabOrder[i - 1], tabOrder[i]);
 }
@@ -100,6 +130,17 @@ void PalettesWidget::connectControls()
         if (name != _session.listName()) _session.renameList(u16From(name));
     });
     connect(_filter, &PaletteFilter::filtered, this, &PalettesWidget::showState);
+    connect(_arrangements, &SegmentedChoice::chosen, this, [this](const QString& key) {
+        const auto arrangement = key == gridKey ? PaletteEntriesView::Arrangement::grid
+                                                : PaletteEntriesView::Arrangement::list;
+        setArrangement(arrangement);
+        emit arrangementChosen(arrangement);
+    });
+    connect(_view, &PaletteEntriesView::namedEntryChanged, this, [this](const QString& text) {
+        _named->setText(text);
+        // The label is narrow; the text is also the tool tip of the entry.
+        _named->setToolTip(plainToolTip(text));
+    });
     connect(_view, &PaletteEntriesView::colorChosen, this, [this](std::size_t place) {
         emit colorChosen(_view->entriesModel().entries()[place].color());
     });
@@ -145,10 +186,7 @@ void PalettesWidget::connectCommands()
     on(Command::moveUp, [this] { _edits->stepSelected(-1); });
     on(Command::moveDown, [this] { _edits->stepSelected(1); });
     on(Command::removeColors, [this] { _edits->removeSelected(); });
-    on(Command::find, [this] {
-        _filter->setFocus();
-        _filter->selectAll();
-    });
+    on(Command::find, [this] { _filter->open(); });
     on(Command::undo, [this] { _session.undo(); });
     on(Command::redo, [this] { _session.redo(); });
 }
@@ -157,6 +195,16 @@ void PalettesWidget::setColor(const HostColor& color)
 {
     _edits->setColor(color);
     _commands->setPanelColor(qStringFrom(hexCodeOf(color)));
+}
+
+void PalettesWidget::setArrangement(PaletteEntriesView::Arrangement arrangement)
+{
+    _arrangements->setCurrentKey(arrangement == PaletteEntriesView::Arrangement::grid ? gridKey
+                                                                                      : listKey);
+    // The scroll bar of a grid lies in the margin.
+    const bool isGrid = arrangement == PaletteEntriesView::Arrangement::grid;
+    _viewRow->setContentsMargins(0, 0, isGrid ? 0 : scaled(palettecontrols::pageMargin), 0);
+    _view->setArrangement(arrangement);
 }
 
 void PalettesWidget::setWatching(bool flag)
@@ -223,9 +271,8 @@ void PalettesWidget::showState()
     const auto all = static_cast<qlonglong>(_view->entriesModel().entries().size());
     const QString allText =
         locale().toString(all) + (isWhole ? QString() : QStringLiteral("\u2026"));
-    _count->setText(shown == all ? allText : tr("%1 of %2").arg(locale().toString(shown), allText));
-    _count->setToolTip(tr("Colours in the list"));
-    _count->setAccessibleName(tr("Colours in the list: %1").arg(_count->text()));
+    _lists->showCount(shown == all ? allText
+                                   : tr("%1 of %2").arg(locale().toString(shown), allText));
 
     QString note;
     if (list == nullptr) {

@@ -7,7 +7,9 @@
 #include "panel/palettes/PaletteListChooser.h"
 #include "panel/palettes/PaletteProgress.h"
 #include "panel/palettes/PaletteUpdates.h"
+#include "panel/widgets/SegmentedChoice.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QWidget>
 
@@ -35,12 +37,16 @@ public:
     void finishEditing() { _lists->finishEditing(); }
     /// Carries out the command for a key, if there is one.
     bool performKey(const QKeyEvent& event) { return _keys->perform(event); }
+    /// Shows the colours of a list as rows or as a grid.
+    void setArrangement(PaletteEntriesView::Arrangement arrangement);
     /// Adds a list, and lets the user name it.
     void startList(const QString& name, const PaletteEntries& entries);
 
 signals:
     /// The user has chosen a colour. Its opacity is not part of the list and should be ignored.
     void colorChosen(const vantorel::HostColor& color);
+    /// The user has chosen how the colours are arranged.
+    void arrangementChosen(vantorel::PaletteEntriesView::Arrangement arrangement);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -73,12 +79,14 @@ private:
 
     PaletteCommands* _commands = nullptr;
     PaletteListChooser* _lists = nullptr;
+    SegmentedChoice* _arrangements = nullptr;
     QLabel* _ownership = nullptr;
     PaletteEntriesView* _view = nullptr;
+    QHBoxLayout* _viewRow = nullptr;
     PaletteFilter* _filter = nullptr;
     PaletteProgress* _progress = nullptr;
     MessageLabel* _message = nullptr;
-    QLabel* _count = nullptr;
+    QLabel* _named = nullptr;
     PaletteKeys* _keys = nullptr;
     PaletteEdits* _edits = nullptr;
     PaletteFiles* _files = nullptr;

@@ -1,10 +1,12 @@
 #include "panel/widgets/SegmentedChoice.h"
 
 #include "hosts/qt/PlainText.h"
+#include "hosts/qt/TextScale.h"
 #include "panel/widgets/StyleFields.h"
 #include "panel/widgets/StylePainting.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QRadioButton>
 #include <QStyleOptionButton>
 
@@ -24,8 +26,8 @@ QFont chosenFont(QFont font)
 class Segment final : public QRadioButton {
 public:
     /// `before` is the word on the left, or null.
-    Segment(const QString& text, const QRadioButton* before, QWidget* parent)
-        : QRadioButton(text, parent), _before(before)
+    Segment(const QString& text, const QIcon& icon, const QRadioButton* before, QWidget* parent)
+        : QRadioButton(text, parent), _icon(icon), _before(before)
     {
         setAttribute(Qt::WA_Hover);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -34,6 +36,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override
     {
         constexpr int padding = 12;
+        if (!_icon.isNull()) return {iconSide() + 2 * iconPadding, controlHeight};
         const QFontMetrics metrics(chosenFont(font()));
         constexpr int aroundText = 12;
         return {metrics.size(Qt::TextShowMnemonic, text()).width() + 2 * padding,
@@ -55,10 +58,15 @@ protected:
         const ThemeColors colors = themeColors(option);
         const QRectF row = QRectF(parentWidget()->rect()).translated(-pos());
         paintGround(painter, option, row, colors);
-        painter.setFont(isChecked() ? chosenFont(font()) : font());
-        painter.setPen(isOff(option) ? (isChecked() ? colors.window : colors.textOff)
-                                     : (isChecked() ? colors.window : colors.text2));
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+        const QColor ink = isOff(option) ? (isChecked() ? colors.window : colors.textOff)
+                                         : (isChecked() ? colors.window : colors.text2);
+        if (_icon.isNull()) {
+            painter.setFont(isChecked() ? chosenFont(font()) : font());
+            painter.setPen(ink);
+            painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+        } else {
+            paintIcon(painter, ink);
+        }
         if (!showsKeyboardFocus(option)) return;
         constexpr qreal inset = 1;
         const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
@@ -68,6 +76,21 @@ protected:
     }
 
 private:
+    static constexpr int iconPadding = 8;
+
+    [[nodiscard]] static int iconSide() { return scaled(16); }
+
+    void paintIcon(QPainter& painter, const QColor& ink) const
+    {
+        const QSize size(iconSide(), iconSide());
+        QPixmap picture = _icon.pixmap(size, devicePixelRatioF());
+        QPainter dye(&picture);
+        dye.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        dye.fillRect(QRect(QPoint(), size), ink);
+        dye.end();
+        painter.drawPixmap((width() - size.width()) / 2, (height() - size.height()) / 2, picture);
+    }
+
     /// The row is painted whole and only this part is seen, so that its ends are round.
     void paintGround(QPainter& painter, const QStyleOptionButton& option, const QRectF& row,
                      const ThemeColors& colors) const
@@ -88,6 +111,7 @@ private:
         painter.restore();
     }
 
+    QIcon _icon;
     const QRadioButton* _before;
 };
 
@@ -103,9 +127,23 @@ SegmentedChoice::SegmentedChoice(QWidget* parent) : QWidget(parent)
 
 void SegmentedChoice::addChoice(const QString& word, const QString& key)
 {
+    addSegment({}, word, key);
+}
+
+void SegmentedChoice::addChoice(const QIcon& icon, const QString& word, const QString& key)
+{
+    QRadioButton* segment = addSegment(icon, word, key);
+    segment->setToolTip(plainToolTip(word));
+    segment->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QRadioButton* SegmentedChoice::addSegment(const QIcon& icon, const QString& word,
+                                          const QString& key)
+{
     const QRadioButton* before = _words.isEmpty() ? nullptr : _words.last();
     // Radio buttons of one parent exclude each other.
-    auto* segment = new Segment(plainTitle(word), before, this);
+    auto* segment = new Segment(plainTitle(word), icon, before, this);
     segment->setObjectName(key);
     _words.append(segment);
     layout()->addWidget(segment);
@@ -115,6 +153,7 @@ void SegmentedChoice::addChoice(const QString& word, const QString& key)
             other->update();
         if (isChecked) emit chosen(key);
     });
+    return segment;
 }
 
 void SegmentedChoice::setCurrentKey(const QString& key)

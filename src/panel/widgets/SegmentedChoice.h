@@ -1,13 +1,14 @@
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
 class QRadioButton;
 
 namespace vantorel {
 
-/// Words in one frame, of which one is chosen. To assistive technology and the keyboard they are
-/// radio buttons.
+/// Words or pictures in one frame, of which one is chosen. To assistive technology and the keyboard
+/// they are radio buttons.
 class SegmentedChoice final : public QWidget {
     Q_OBJECT
 
@@ -16,6 +17,8 @@ public:
 
     /// `key` identifies the choice.
     void addChoice(const QString& word, const QString& key);
+    /// Shows a picture in place of the word, which becomes its tool tip.
+    void addChoice(const QIcon& icon, const QString& word, const QString& key);
     /// Chooses without the signal. An unknown key changes nothing.
     void setCurrentKey(const QString& key);
     [[nodiscard]] QString currentKey() const;
@@ -24,6 +27,8 @@ signals:
     void chosen(const QString& key);
 
 private:
+    QRadioButton* addSegment(const QIcon& icon, const QString& word, const QString& key);
+
     QList<QRadioButton*> _words;
 };
 

@@ -26,6 +26,7 @@ constexpr const char16_t* pinnedKey = u"PinnedColors";
 constexpr const char16_t* formKey = u"CopyForm";
 constexpr const char16_t* picksKey = u"Picks";
 constexpr const char16_t* onTopKey = u"StaysOnTop";
+constexpr const char16_t* palettesKey = u"PalettesAsGrid";
 constexpr const char16_t* yes = u"YES";
 constexpr const char16_t* no = u"NO";
 
@@ -88,6 +89,7 @@ PanelMemory memoryFrom(const PropertyList& list)
     memory.form = text(formKey);
     readColors(textsOf(list.valueForKey(recentKey)), memory.recent);
     readColors(textsOf(list.valueForKey(pinnedKey)), memory.pinned);
+    memory.showsPalettesAsGrid = text(palettesKey) == QStringView(yes);
     memory.picks = std::max(0, text(picksKey).toInt());
     return memory;
 }
@@ -108,6 +110,7 @@ PropertyList propertyListFrom(const PanelMemory& memory)
         {geometryKey, PropertyList::data(memory.geometry.toStdString())},
         {formKey, u16From(memory.form)},
         {pageKey, u16From(memory.page)},
+        {palettesKey, memory.showsPalettesAsGrid ? yes : no},
         {picksKey, u16From(QString::number(memory.picks))},
         {pinnedKey, listOf(memory.pinned)},
         {recentKey, listOf(memory.recent)},
@@ -180,6 +183,8 @@ PanelMemory merged(const PanelMemory& base, const PanelMemory& mine, const Panel
     result.color = mergedValue(base.color, mine.color, theirs.color);
     result.background = mergedValue(base.background, mine.background, theirs.background);
     result.pinned = mergedValue(base.pinned, mine.pinned, theirs.pinned);
+    result.showsPalettesAsGrid =
+        mergedValue(base.showsPalettesAsGrid, mine.showsPalettesAsGrid, theirs.showsPalettesAsGrid);
     result.picks = std::max(mine.picks, theirs.picks);
     result.recent = mergedRecent(base.recent, mine.recent, theirs.recent);
     return result;

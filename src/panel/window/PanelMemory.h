@@ -23,6 +23,8 @@ struct PanelMemory {
     std::vector<HostColor> recent;
     /// In the user's order.
     std::vector<HostColor> pinned;
+    /// Whether the Palettes page shows a list as a grid.
+    bool showsPalettesAsGrid = false;
     /// How many colours were picked from the screen, as `ColorExchange::picks`.
     int picks = 0;
 

@@ -1,5 +1,6 @@
 #include "panel/window/PanelMemoryKeeper.h"
 
+#include "panel/palettes/PalettesPage.h"
 #include "panel/window/PanelWindow.h"
 
 #include <QEvent>
@@ -40,6 +41,8 @@ void PanelMemoryKeeper::keep()
     connect(&colors, &PanelColors::historyChanged, this, &PanelMemoryKeeper::saveSoon);
     connect(&_window.exchange(), &ColorExchange::formChanged, this, &PanelMemoryKeeper::saveSoon);
     connect(&_window.pages(), &PanelPages::pageShown, this, &PanelMemoryKeeper::saveSoon);
+    connect(&_window.palettes(), &PalettesPage::arrangementChanged, this,
+            &PanelMemoryKeeper::saveSoon);
     connect(&_window.commands().stayOnTop(), &QAction::toggled, this, &PanelMemoryKeeper::saveSoon);
     _window.installEventFilter(this);
     // What the options have changed until now.

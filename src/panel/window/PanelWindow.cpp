@@ -120,6 +120,7 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
                 colors.insert(colors.end(), _colors.recent().begin(), _colors.recent().end());
                 page->keepAsList(tr("Last colours"), colors);
             });
+    _palettes = palettes.get();
     addPage(std::move(palettes));
 }
 
@@ -262,6 +263,8 @@ void PanelWindow::recall(const PanelMemory& memory)
     _exchange.setForm(memory.form);
     _exchange.setPicks(memory.picks);
     _colors.startWith({memory.color, memory.background}, memory.recent, memory.pinned);
+    _palettes->setArrangement(memory.showsPalettesAsGrid ? PaletteEntriesView::Arrangement::grid
+                                                         : PaletteEntriesView::Arrangement::list);
     _commands.stayOnTop().setChecked(memory.onTop);
     _parts.layOut();
 }
@@ -275,6 +278,7 @@ PanelMemory PanelWindow::memory(Place place) const
     if (const PanelPage* page = _parts.pages.current()) memory.page = page->identifier();
     memory.form = _exchange.form();
     memory.picks = _exchange.picks();
+    memory.showsPalettesAsGrid = _palettes->arrangement() == PaletteEntriesView::Arrangement::grid;
     memory.onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
     memory.color = _colors.foreground();
     memory.background = _colors.background();

@@ -17,6 +17,8 @@
 
 namespace vantorel {
 
+class PalettesPage;
+
 /// The window of the colour panel: the colours and their texts, the pages, of which one is shown,
 /// and the last colours.
 class PanelWindow final : public QWidget {
@@ -34,6 +36,7 @@ public:
     [[nodiscard]] PanelPages& pages() { return _parts.pages; }
     [[nodiscard]] ColorExchange& exchange() { return _exchange; }
     [[nodiscard]] PanelCommands& commands() { return _commands; }
+    [[nodiscard]] PalettesPage& palettes() { return *_palettes; }
 
     /// Shows the problems with plug-ins, one per line.
     void showProblems(const std::vector<Message>& problems);
@@ -88,6 +91,7 @@ private:
     PanelCommands _commands;
     ColorEntry _entry;
     WindowGrowth _growth;
+    PalettesPage* _palettes = nullptr;
     bool _isPainted = false;
     bool _staysResident = false;
 };
