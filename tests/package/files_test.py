@@ -117,6 +117,11 @@ class SharedDataTest(TreeTest):
         self.assertEqual(lines[:2], ["GIMP Palette", "Name: CSS Color 4"])
         self.assertEqual(len([line for line in lines if re.match(r" *\d+ +\d+ +\d+\t[a-z]+$", line)]), 148)
 
+    def test_lists_of_web_designers_are_offered(self):
+        names = self.passes(f"{TREE}/bin/vantorel", "lists", "--names").splitlines()
+        self.assertLessEqual({"Material", "Tailwind 3", "Tailwind 4"}, set(names))
+        self.assertEqual(self.passes(f"{TREE}/bin/vantorel", "name", "--list", "Tailwind 3", "#3b82f6"), "blue-500")
+
     def test_the_snippets_of_the_program_are_found(self):
         self.assertIn("\nSwiftUI\n", self.passes(f"{TREE}/bin/vantorel", "snippets", "--names"))
 
