@@ -1,7 +1,11 @@
 #include "FuzzTexts.h"
 #include "colorlists/PaletteFile.h"
+#include "listformats/ColorSwatches.h"
+#include "listformats/DesignTokens.h"
+#include "listformats/KritaPalette.h"
 #include "listformats/ListReader.h"
 #include "listformats/ListTexts.h"
+#include "listformats/OfficeColorTable.h"
 #include "listformats/SwatchExchange.h"
 
 #include <array>
@@ -14,13 +18,17 @@ struct Form {
     std::string (*write)(const HostColorList& list);
     const char* fileName;
 };
-constexpr std::array<Form, 6> forms{{
+constexpr std::array<Form, 10> forms{{
     {paletteText, "list.gpl"},
     {cssText, "list.css"},
     {scssText, "list.scss"},
     {jsonText, "list.json"},
     {plainText, "list.txt"},
     {swatchExchangeBytes, "list.ase"},
+    {colorSwatchesBytes, "list.aco"},
+    {kritaPaletteBytes, "list.kpl"},
+    {officeColorTable, "list.soc"},
+    {designTokenListText, "list.tokens.json"},
 }};
 
 /// The colours come back in their order. Names may lose what a form cannot hold.

@@ -123,6 +123,22 @@ Bedienelemente und Grafik: AA %6</translation>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>Design tokens</source>
+        <translation>Design-Tokens</translation>
+    </message>
+    <message>
+        <source>Colour swatches</source>
+        <translation>Farbfelder</translation>
+    </message>
+    <message>
+        <source>Krita palettes</source>
+        <translation>Krita-Paletten</translation>
+    </message>
+    <message>
+        <source>Colour tables of office programs</source>
+        <translation>Farbtabellen von Büroprogrammen</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -641,10 +657,6 @@ Bedienelemente und Grafik: AA %6</translation>
     <message>
         <source>&quot;%1&quot; is not a colour list that can be read</source>
         <translation>„%1“ ist keine lesbare Farbliste</translation>
-    </message>
-    <message>
-        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
-        <translation>nehmen Sie eine Palette von GIMP oder KDE, CSS, SCSS, JSON, eine Swatch-Exchange-Datei oder einen Text mit einer Farbe pro Zeile</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been imported</source>
@@ -2345,6 +2357,42 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
         <translation>ein einzelner Pixel wurde aufgenommen: die Pipette der Arbeitsumgebung bildet keinen Durchschnitt</translation>
+    </message>
+    <message>
+        <source>design tokens</source>
+        <translation>Design-Tokens</translation>
+    </message>
+    <message>
+        <source>colour swatches, binary</source>
+        <translation>Farbfelder, binär</translation>
+    </message>
+    <message>
+        <source>palette of Krita, binary</source>
+        <translation>Palette von Krita, binär</translation>
+    </message>
+    <message>
+        <source>colour table of office programs</source>
+        <translation>Farbtabelle von Büroprogrammen</translation>
+    </message>
+    <message>
+        <source>the format %1 holds at most %2 colours</source>
+        <translation>das Format %1 fasst höchstens %2 Farben</translation>
+    </message>
+    <message>
+        <source>choose another format</source>
+        <translation>wählen Sie ein anderes Format</translation>
+    </message>
+    <message>
+        <source>it is an archive without the colours of a palette, or damaged</source>
+        <translation>es ist ein Archiv ohne die Farben einer Palette oder beschädigt</translation>
+    </message>
+    <message>
+        <source>give a complete palette of Krita</source>
+        <translation>geben Sie eine vollständige Palette von Krita an</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
+        <translation>verwenden Sie eine Palette von GIMP, KDE oder Krita, CSS, SCSS, JSON, Farbfelder, die Farbtabelle eines Büroprogramms oder einen Text mit einer Farbe pro Zeile</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,22 @@ Controles y gráficos: AA %6</translation>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
     </message>
+    <message>
+        <source>Design tokens</source>
+        <translation>Tokens de diseño</translation>
+    </message>
+    <message>
+        <source>Colour swatches</source>
+        <translation>Muestras de color</translation>
+    </message>
+    <message>
+        <source>Krita palettes</source>
+        <translation>Paletas de Krita</translation>
+    </message>
+    <message>
+        <source>Colour tables of office programs</source>
+        <translation>Tablas de colores de programas de oficina</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -505,10 +521,6 @@ Controles y gráficos: AA %6</translation>
     <message>
         <source>&quot;%1&quot; is not a colour list that can be read</source>
         <translation>«%1» no es una lista de colores que se pueda leer</translation>
-    </message>
-    <message>
-        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
-        <translation>use una paleta de GIMP o KDE, CSS, SCSS, JSON, un archivo de intercambio de muestras o un texto con un color por línea</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been imported</source>
@@ -2345,6 +2357,42 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
         <translation>se tomó un solo píxel: el selector del escritorio no calcula promedios</translation>
+    </message>
+    <message>
+        <source>design tokens</source>
+        <translation>tokens de diseño</translation>
+    </message>
+    <message>
+        <source>colour swatches, binary</source>
+        <translation>muestras de color, binario</translation>
+    </message>
+    <message>
+        <source>palette of Krita, binary</source>
+        <translation>paleta de Krita, binario</translation>
+    </message>
+    <message>
+        <source>colour table of office programs</source>
+        <translation>tabla de colores de programas de oficina</translation>
+    </message>
+    <message>
+        <source>the format %1 holds at most %2 colours</source>
+        <translation>el formato %1 admite como máximo %2 colores</translation>
+    </message>
+    <message>
+        <source>choose another format</source>
+        <translation>elija otro formato</translation>
+    </message>
+    <message>
+        <source>it is an archive without the colours of a palette, or damaged</source>
+        <translation>es un archivo comprimido sin los colores de una paleta, o está dañado</translation>
+    </message>
+    <message>
+        <source>give a complete palette of Krita</source>
+        <translation>indique una paleta completa de Krita</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
+        <translation>use una paleta de GIMP, KDE o Krita, CSS, SCSS, JSON, muestras, una tabla de colores de un programa de oficina o un texto con un color por línea</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,22 @@ Commandes et graphismes : AA %6</translation>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
     </message>
+    <message>
+        <source>Design tokens</source>
+        <translation>Jetons de design</translation>
+    </message>
+    <message>
+        <source>Colour swatches</source>
+        <translation>Nuanciers</translation>
+    </message>
+    <message>
+        <source>Krita palettes</source>
+        <translation>Palettes de Krita</translation>
+    </message>
+    <message>
+        <source>Colour tables of office programs</source>
+        <translation>Tables de couleurs de suites bureautiques</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -505,10 +521,6 @@ Commandes et graphismes : AA %6</translation>
     <message>
         <source>&quot;%1&quot; is not a colour list that can be read</source>
         <translation>« %1 » n’est pas une liste de couleurs lisible</translation>
-    </message>
-    <message>
-        <source>use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or a text with one colour per line</source>
-        <translation>utilisez une palette de GIMP ou de KDE, du CSS, du SCSS, du JSON, un fichier d’échange de nuanciers ou un texte avec une couleur par ligne</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has been imported</source>
@@ -2345,6 +2357,42 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>one pixel was picked: the desktop&apos;s own picker cannot average</source>
         <translation>un seul pixel a été prélevé : la pipette du bureau ne calcule pas de moyenne</translation>
+    </message>
+    <message>
+        <source>design tokens</source>
+        <translation>jetons de design</translation>
+    </message>
+    <message>
+        <source>colour swatches, binary</source>
+        <translation>nuancier, binaire</translation>
+    </message>
+    <message>
+        <source>palette of Krita, binary</source>
+        <translation>palette de Krita, binaire</translation>
+    </message>
+    <message>
+        <source>colour table of office programs</source>
+        <translation>table de couleurs de suites bureautiques</translation>
+    </message>
+    <message>
+        <source>the format %1 holds at most %2 colours</source>
+        <translation>le format %1 contient au plus %2 couleurs</translation>
+    </message>
+    <message>
+        <source>choose another format</source>
+        <translation>choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>it is an archive without the colours of a palette, or damaged</source>
+        <translation>c’est une archive sans les couleurs d’une palette, ou elle est endommagée</translation>
+    </message>
+    <message>
+        <source>give a complete palette of Krita</source>
+        <translation>donnez une palette complète de Krita</translation>
+    </message>
+    <message>
+        <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
+        <translation>utilisez une palette de GIMP, de KDE ou de Krita, CSS, SCSS, JSON, un nuancier, une table de couleurs d’une suite bureautique ou un texte avec une couleur par ligne</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,11 @@ int exportList(Session& session, const CommandLine& commandLine)
     const auto list = session.lists().requiredList(commandLine.operands.front());
     const std::string path = commandLine.output.value_or("-");
     const ListFormat& format = *listFormatNamed(*commandLine.format);
+    if (list->allKeys().size() > format.mostColors) {
+        throw Failure{{phrase("the format %1 holds at most %2 colours", std::string(format.name),
+                              format.mostColors),
+                       phrase("choose another format")}};
+    }
     if (format.isBinary) refuseBytesOnTerminal(path);
     writeFile(session.output(), path, format.write(*list));
     return 0;

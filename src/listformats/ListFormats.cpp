@@ -1,7 +1,11 @@
 #include "listformats/ListFormats.h"
 
 #include "colorlists/PaletteFile.h"
+#include "listformats/ColorSwatches.h"
+#include "listformats/DesignTokens.h"
+#include "listformats/KritaPalette.h"
 #include "listformats/ListTexts.h"
+#include "listformats/OfficeColorTable.h"
 #include "listformats/PaletteSvg.h"
 #include "listformats/SwatchExchange.h"
 #include "text/ASCII.h"
@@ -20,7 +24,11 @@ constexpr std::string_view paletteEndings[] = {"gpl", "colors"};
 constexpr std::string_view cssEndings[] = {"css"};
 constexpr std::string_view scssEndings[] = {"scss", "sass", "less"};
 constexpr std::string_view jsonEndings[] = {"json"};
+constexpr std::string_view tokenEndings[] = {"tokens.json", "tokens"};
 constexpr std::string_view swatchEndings[] = {"ase"};
+constexpr std::string_view swatchesEndings[] = {"aco"};
+constexpr std::string_view kritaEndings[] = {"kpl"};
+constexpr std::string_view officeEndings[] = {"soc"};
 constexpr std::string_view svgEndings[] = {"svg"};
 constexpr std::string_view textEndings[] = {"txt"};
 
@@ -29,7 +37,12 @@ constexpr ListFormat formats[] = {
     {"css", "custom properties", cssEndings, false, true, cssText},
     {"scss", "variables", scssEndings, false, true, scssText},
     {"json", {}, jsonEndings, false, true, jsonText},
+    {"tokens", "design tokens", tokenEndings, false, true, designTokenListText},
     {"ase", "swatch exchange, binary", swatchEndings, true, true, swatchExchangeBytes},
+    {"aco", "colour swatches, binary", swatchesEndings, true, true, colorSwatchesBytes,
+     mostColorSwatches},
+    {"kpl", "palette of Krita, binary", kritaEndings, true, true, kritaPaletteBytes},
+    {"soc", "colour table of office programs", officeEndings, false, true, officeColorTable},
     {"svg", "a picture with names", svgEndings, false, false, pictureOf},
     {"txt", {}, textEndings, false, true, plainText},
 };
@@ -49,15 +62,34 @@ const ListFormat* listFormatNamed(std::string_view name)
 
 const ListFormat* listFormatOfFile(std::string_view fileName)
 {
-    const std::size_t dot = fileName.rfind('.');
-    if (dot == std::string_view::npos) return nullptr;
-    const std::string_view ending = fileName.substr(dot + 1);
-    const auto hasEnding = [&](const ListFormat& format) {
-        return std::ranges::any_of(
-            format.endings, [&](std::string_view each) { return equalIgnoringCase(ending, each); });
-    };
-    const auto* const found = std::ranges::find_if(formats, hasEnding);
-    return found != std::end(formats) ? found : nullptr;
+    const ListFormat* found = nullptr;
+    std::size_t longest = 0;
+    for (const ListFormat& format : formats) {
+        for (const std::string_view ending : format.endings) {
+            if (ending.size() <= longest || fileName.size() <= ending.size()) continue;
+            const std::size_t dot = fileName.size() - ending.size() - 1;
+            if (fileName[dot] != '.' || !equalIgnoringCase(fileName.substr(dot + 1), ending))
+                continue;
+            found = &format;
+            longest = ending.size();
+        }
+    }
+    return found;
+}
+
+std::string_view withoutListEnding(std::string_view fileName)
+{
+    const ListFormat* format = listFormatOfFile(fileName);
+    if (format == nullptr) return fileName;
+    std::size_t length = 0;
+    for (const std::string_view ending : format->endings) {
+        const bool fits =
+            fileName.size() > ending.size() &&
+            fileName[fileName.size() - ending.size() - 1] == '.' &&
+            equalIgnoringCase(fileName.substr(fileName.size() - ending.size()), ending);
+        if (fits) length = std::max(length, ending.size() + 1);
+    }
+    return fileName.substr(0, fileName.size() - length);
 }
 
 }  // namespace vantorel

@@ -2,6 +2,8 @@
 
 #include "host/HostColorList.h"
 
+#include <cstddef>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,6 +23,8 @@ struct ListFormat {
     /// Whether `readColorList` reads the format. Pictures can only be written.
     bool isRead;
     std::string (*write)(const HostColorList& list);
+    /// The largest number of colours that a file can hold; `write` leaves further ones out.
+    std::size_t mostColors = std::numeric_limits<std::size_t>::max();
 };
 
 /// Returns all formats. The palette format of graphics programs is the first.
@@ -29,7 +33,9 @@ struct ListFormat {
 /// Returns the format of a name, or null if there is none.
 [[nodiscard]] const ListFormat* listFormatNamed(std::string_view name);
 /// Returns the format for the extension of a file name, in any letter case, or null if it is
-/// unknown.
+/// unknown. Of several extensions that fit, such as "json" and "tokens.json", the longest counts.
 [[nodiscard]] const ListFormat* listFormatOfFile(std::string_view fileName);
+/// Removes that extension and its dot.
+[[nodiscard]] std::string_view withoutListEnding(std::string_view fileName);
 
 }  // namespace vantorel

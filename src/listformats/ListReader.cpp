@@ -3,8 +3,12 @@
 #include "colorlists/KeyedEntries.h"
 #include "colorlists/PaletteFile.h"
 #include "listformats/ColorLinesReader.h"
+#include "listformats/ColorSwatches.h"
+#include "listformats/DesignTokens.h"
 #include "listformats/JsonListReader.h"
+#include "listformats/KritaPalette.h"
 #include "listformats/ListFormats.h"
+#include "listformats/OfficeColorTable.h"
 #include "listformats/StyleSheetReader.h"
 #include "listformats/SwatchExchange.h"
 #include "text/Unicode.h"
@@ -20,6 +24,8 @@ std::string_view baseName(std::string_view path)
 std::u16string nameFromFile(std::string_view fileName)
 {
     const std::string_view base = baseName(fileName);
+    if (const std::string_view name = withoutListEnding(base); name != base && !name.empty())
+        return utf16FromUtf8(name);
     return utf16FromUtf8(
         base.substr(0, base.rfind('.') == 0 ? std::string_view::npos : base.rfind('.')));
 }
@@ -61,6 +67,19 @@ Result<ListFile> readColorList(std::string_view bytes, const std::string& fileNa
     }
     const ListFormat* formatOfName = listFormatOfFile(fileName);
     const std::string_view form = formatOfName != nullptr ? formatOfName->name : std::string_view();
+    if (startsColorSwatches(bytes)) {
+        const auto swatches = readColorSwatches(bytes);
+        // Two bytes say little: any other binary file could begin with them.
+        const bool isSure = swatches && swatches->skipped == 0;
+        if (!swatches && form == "aco")
+            return Message{phrase("it is truncated"), phrase("give the complete file")};
+        if (isSure || form == "aco") return listOf(*swatches, fileName);
+    }
+    if (startsKritaPalette(bytes)) {
+        const Result<ListContents> palette = readKritaPalette(bytes);
+        if (!palette) return palette.error();
+        return listOf(*palette, fileName);
+    }
     if (form == "svg") {
         return Message{phrase("pictures cannot be imported"),
                        phrase("give a palette, such as one exported with \"--format gpl\"")};
@@ -68,9 +87,15 @@ Result<ListFile> readColorList(std::string_view bytes, const std::string& fileNa
     const std::string_view content = withoutListBlanks(bytes);
     const bool isStyleSheet = form == "css" || form == "scss";
     if (!isStyleSheet && (content.starts_with('{') || content.starts_with('['))) {
+        if (mayHoldDesignTokens(content)) {
+            if (const auto tokens = readDesignTokens(content)) return listOf(*tokens, fileName);
+        }
         const Result<ListContents> json = readJsonList(content);
         if (!json) return json.error();
         return listOf(*json, fileName);
+    }
+    if (!isStyleSheet && content.starts_with('<')) {
+        if (const auto table = readOfficeColorTable(content)) return listOf(*table, fileName);
     }
     return listOf(isStyleSheet ? readStyleSheet(bytes) : readColorLines(bytes), fileName);
 }

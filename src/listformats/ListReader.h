@@ -18,8 +18,9 @@ struct ListFile {
 };
 
 /// Reads a colour list in any format that can be recognised by its first bytes or by the extension
-/// of the file name: palettes of GIMP and KDE, swatch exchange, JSON, CSS and SCSS, or lines with a
-/// colour and a name. If the file does not name the list, the list is named after the file.
+/// of the file name: palettes of GIMP, KDE and Krita, swatch exchange, colour swatches, colour
+/// tables of office programs, design tokens, JSON, CSS and SCSS, or lines with a colour and a name.
+/// If the file does not name the list, the list is named after the file.
 Result<ListFile> readColorList(std::string_view bytes, const std::string& fileName);
 
 }  // namespace vantorel

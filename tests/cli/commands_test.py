@@ -123,7 +123,7 @@ USAGE_ERRORS = [
     (["list", "import", "--name", "", "a"], "--name is empty"),
     (["list", "export", "x"], "--format is required"),
     (["list", "export", "--format", "css"], "NAME is missing"),
-    (["list", "export", "x", "--format", "pdf"], '--format cannot be "pdf": use gpl, css, scss, json, ase, svg or txt'),
+    (["list", "export", "x", "--format", "pdf"], '--format cannot be "pdf": use gpl, css, scss, json, tokens, ase, aco, kpl, soc, svg or txt'),
     (["list", "publish"], "NAME is missing"),
     (["contrast", "red"], "COLOR is missing"),
     (["contrast", "red", "red", "red"], '"red" is one argument too many'),

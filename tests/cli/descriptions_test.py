@@ -101,7 +101,7 @@ class Descriptions(ProgramTest):
         for words, completions in [
             (("she",), {"sheet"}), (("sh",), {"show", "sheet"}), (("sheet", "--fail-on", "d"), {"doubles"}), (("simulate", "d"), {"deuteranopia"}), (("sort", "--by", "c"), {"chroma", "contrast"}),
             (("nearest", "--list", "C"), {"CSS Color 4", "CSS Keyword"}), (("show", "--l"), {"--lowercase", "--list"}), (("list", "p"), {"publish", "palette.gpl"} - {"palette.gpl"}),
-            (("list", "export", "x", "--format", "s"), {"scss", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help", "--panel"}),
+            (("list", "export", "x", "--format", "s"), {"scss", "soc", "svg"}), (("completions", ""), {"bash", "zsh", "fish", "-h", "--help", "--panel"}),
             (("list", "import", "pal"), {"palette.gpl"}), (("palette", "x", "--svg", "pal"), {"palette.gpl"}),
             (("show", "--list", ""), {"Browser Safe", "CSS Color 4", "CSS Keyword", "SVG Keyword"}),
             (("palette", "CSS\\ K"), {"CSS Keyword"}), (("list", "export", '"CSS K'), {"CSS Keyword"}),
@@ -132,7 +132,7 @@ class Descriptions(ProgramTest):
         self.assertEqual({name for name in self.complete_in_fish("vantorel ") if not name.startswith("-")},
                          {name for name in self.commands() if " " not in name})
         self.assertEqual(self.complete_in_fish("vantorel show --lo"), {"--lowercase"})
-        self.assertEqual(self.complete_in_fish("vantorel list export --format s"), {"scss", "svg"})
+        self.assertEqual(self.complete_in_fish("vantorel list export --format s"), {"scss", "soc", "svg"})
         self.assertEqual(self.complete_in_fish("vantorel list imp"), {"import"})
         self.assertEqual(self.complete_in_fish("vantorel completions "), {"bash", "zsh", "fish"})
         self.assertEqual(self.complete_in_fish("vantorel list import pal"), {"palette.gpl"})

@@ -41,7 +41,7 @@ class Lists(ProgramTest):
     def test_exported_lists_can_be_imported(self):
         self.write_list("Mine", ROWS)
         original = rows_of(self.output_of("list", "Mine"))
-        for ending in ("gpl", "scss", "json", "ase", "txt", "css"):
+        for ending in ("gpl", "scss", "json", "tokens", "ase", "aco", "kpl", "soc", "txt", "css"):
             with self.subTest(format=ending):
                 file = os.path.join(self.root, "Some list." + ending)
                 self.output_of("list", "export", "Mine", "--format", ending, "--output", file)
@@ -50,7 +50,7 @@ class Lists(ProgramTest):
                 self.assertEqual([color for color, _ in back], [color for color, _ in original])
                 self.assertEqual([key for _, key in back], KEYS_IN_CSS if ending == "css" else KEYS)
                 known = self.output_of("list", "import", "--yes", file)
-                name = "Some list" if ending == "txt" else "Mine"
+                name = "Some list" if ending in ("aco", "soc", "txt") else "Mine"
                 self.assertIn(f'"{name}"', known)
 
     def test_exports_have_their_format(self):

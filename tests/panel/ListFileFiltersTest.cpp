@@ -25,6 +25,9 @@ TEST(ListFileFiltersTest, ChoosingAnotherFormatChangesTheExtension)
     EXPECT_EQ(ListFileFilters::withEnding("Reds.gpl", json), "Reds.json");
     EXPECT_EQ(ListFileFilters::withEnding("Reds", json), "Reds.json");
     EXPECT_EQ(ListFileFilters::withEnding("Reds 1.5", json), "Reds 1.5.json");
+    EXPECT_EQ(ListFileFilters::withEnding("Reds.tokens.json", json), "Reds.json");
+    EXPECT_EQ(ListFileFilters::withEnding("Reds.json", *listFormatNamed("tokens")),
+              "Reds.tokens.json");
 }
 
 }  // namespace

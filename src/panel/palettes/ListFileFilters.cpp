@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <array>
+#include <string>
 #include <utility>
 
 namespace vantorel {
@@ -14,7 +15,11 @@ constexpr std::array titles{
     std::pair{"css", QT_TRANSLATE_NOOP("ListFileFilters", "CSS custom properties")},
     std::pair{"scss", QT_TRANSLATE_NOOP("ListFileFilters", "SCSS variables")},
     std::pair{"json", QT_TRANSLATE_NOOP("ListFileFilters", "JSON")},
+    std::pair{"tokens", QT_TRANSLATE_NOOP("ListFileFilters", "Design tokens")},
     std::pair{"ase", QT_TRANSLATE_NOOP("ListFileFilters", "Swatch exchange files")},
+    std::pair{"aco", QT_TRANSLATE_NOOP("ListFileFilters", "Colour swatches")},
+    std::pair{"kpl", QT_TRANSLATE_NOOP("ListFileFilters", "Krita palettes")},
+    std::pair{"soc", QT_TRANSLATE_NOOP("ListFileFilters", "Colour tables of office programs")},
     std::pair{"svg", QT_TRANSLATE_NOOP("ListFileFilters", "SVG pictures")},
     std::pair{"txt", QT_TRANSLATE_NOOP("ListFileFilters", "Text files")},
 };
@@ -78,9 +83,8 @@ QString ListFileFilters::forWriting()
 
 QString ListFileFilters::withEnding(const QString& fileName, const ListFormat& format)
 {
-    QString name = fileName;
-    if (listFormatOfFile(name.toStdString()) != nullptr) name.truncate(name.lastIndexOf(u'.'));
-    return name + u'.' + latin1(format.endings.front());
+    return QString::fromStdString(std::string(withoutListEnding(fileName.toStdString()))) + u'.' +
+           latin1(format.endings.front());
 }
 
 }  // namespace vantorel

@@ -31,8 +31,9 @@ Result<ListFile> readListFile(const QFileInfo& info)
     if (!read) {
         return Message{
             phrase("\"%1\" is not a colour list that can be read", excerpt(fileName)),
-            phrase("use a palette of GIMP or KDE, CSS, SCSS, JSON, a swatch exchange file, or "
-                   "a text with one colour per line")};
+            phrase(
+                "use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of "
+                "an office program, or a text with one colour per line")};
     }
     return read;
 }
@@ -104,9 +105,11 @@ void PaletteFiles::chooseCopy()
     QFileDialog dialog(&_page, tr("Save a copy"), {}, ListFileFilters::forWriting());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     const auto useFormat = [&dialog](const ListFormat& format, const QString& name) {
-        const QString named = ListFileFilters::withEnding(name, format);
-        dialog.setDefaultSuffix(QFileInfo(named).suffix());
-        dialog.selectFile(named);
+        const std::string_view ending = format.endings.front();
+        // Not the suffix of the name, which would be "json" for "tokens.json".
+        dialog.setDefaultSuffix(
+            QString::fromLatin1(ending.data(), static_cast<qsizetype>(ending.size())));
+        dialog.selectFile(ListFileFilters::withEnding(name, format));
     };
     connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
         const ListFormat* format = ListFileFilters::formatOf(filter);
@@ -122,6 +125,13 @@ void PaletteFiles::saveCopy(const QString& path)
     const std::u16string name = u16From(_session.listName());
     const ListFormat* ofEnding = listFormatOfFile(path.toStdString());
     const ListFormat& format = ofEnding != nullptr ? *ofEnding : listFormats().front();
+    if (_session.entries().size() > format.mostColors) {
+        _message.showMessage({phrase("the format %1 holds at most %2 colours",
+                                     std::string(format.name), format.mostColors),
+                              phrase("choose another format")},
+                             MessageLabel::Kind::failure);
+        return;
+    }
     const bool saved =
         _files.writeForOthers(QFile::encodeName(path).toStdString(),
                               format.write(*listOfEntries(name, _session.entries())));
