@@ -723,10 +723,6 @@ Bedienelemente und Grafik: AA %6</translation>
         <translation>Beginnt mit dieser Farbe: jede Form von CSS Color 5, etwa „#ff8000“ oder „hsl(30 100% 50%)“, oder ein Text, den die Hex-Seite annimmt.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
-        <translation>Beginnt mit dieser Seite: hex, mix, palettes oder der Seite eines anderen Plug-ins.</translation>
-    </message>
-    <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
         <translation>Beginnt in dieser Ansicht der Hex-Seite: slider, palette oder wheel.</translation>
     </message>
@@ -2394,6 +2390,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
         <translation>verwenden Sie eine Palette von GIMP, KDE oder Krita, CSS, SCSS, JSON, Farbfelder, die Farbtabelle eines Büroprogramms oder einen Text mit einer Farbe pro Zeile</translation>
     </message>
+    <message>
+        <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
+        <translation>Beginnt mit dieser Seite: hex, mix, scales, palettes oder der Seite eines anderen Plug-ins.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2708,6 +2708,222 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>%1 picked</source>
         <translation>%1 aufgenommen</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA groß</translation>
+    </message>
+    <message>
+        <source>Analogous</source>
+        <translation>Analog</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>CSS-Variablen</translation>
+    </message>
+    <message>
+        <source>Complement</source>
+        <translation>Komplement</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale</source>
+        <translation>Kontraste der Skala</translation>
+    </message>
+    <message>
+        <source>Copy all</source>
+        <translation>Alle kopieren</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deuteranopie</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Hex codes</source>
+        <translation>Hexcodes</translation>
+    </message>
+    <message>
+        <source>JSON design tokens</source>
+        <translation>JSON-Design-Tokens</translation>
+    </message>
+    <message>
+        <source>Keep as a colour list</source>
+        <translation>Als Farbliste aufheben</translation>
+    </message>
+    <message>
+        <source>Kept as the colour list</source>
+        <translation>Aufgehoben als Farbliste</translation>
+    </message>
+    <message>
+        <source>Last colour of the gradient</source>
+        <translation>Letzte Farbe des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Lines of code</source>
+        <translation>Codezeilen</translation>
+    </message>
+    <message>
+        <source>Makes the last colour the panel&apos;s colour, and the panel&apos;s colour the last one</source>
+        <translation>Macht die letzte Farbe zur Farbe des Fensters und diese zur letzten</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Nearest colours that pass</source>
+        <translation>Nächste ausreichende Farben</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Anzahl der Farben</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopie</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>SCSS-Variablen</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Scales</source>
+        <translation>Skalen</translation>
+    </message>
+    <message>
+        <source>Schemes</source>
+        <translation>Schemata</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Abschnitt</translation>
+    </message>
+    <message>
+        <source>Shades</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Geteilt</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Stufen</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Tauschen</translation>
+    </message>
+    <message>
+        <source>Tetrad</source>
+        <translation>Tetrade</translation>
+    </message>
+    <message>
+        <source>The colour list could not be saved. Check that you can write to its folder</source>
+        <translation>Die Farbliste konnte nicht gespeichert werden. Prüfen Sie, ob Sie in ihren Ordner schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>The last colour, in any form of CSS. Leave it empty for the complement</source>
+        <translation>Die letzte Farbe, in jeder Form von CSS. Leer: das Komplement</translation>
+    </message>
+    <message>
+        <source>The scale in place of the colour</source>
+        <translation>Die Skala anstelle der Farbe</translation>
+    </message>
+    <message>
+        <source>This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)</source>
+        <translation>Das ist keine Farbe. Schreiben Sie sie wie in CSS, etwa #ff8000 oder hsl(30 100% 50%)</translation>
+    </message>
+    <message>
+        <source>Tints</source>
+        <translation>Heller</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Grauer</translation>
+    </message>
+    <message>
+        <source>Triad</source>
+        <translation>Triade</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopie</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Üblich</translation>
+    </message>
+    <message>
+        <source>Vision</source>
+        <translation>Sehen</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>copied</source>
+        <translation>kopiert</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>zu gering</translation>
+    </message>
+    <message>
+        <source>linear light</source>
+        <translation>lineares Licht</translation>
+    </message>
+    <message>
+        <source>longer hue</source>
+        <translation>langer Weg</translation>
+    </message>
+    <message>
+        <source>no lightness is enough</source>
+        <translation>keine Helligkeit reicht</translation>
+    </message>
+    <message>
+        <source>passes</source>
+        <translation>reicht</translation>
+    </message>
+    <message>
+        <source>scales, schemes, gradients and contrasts of a colour</source>
+        <translation>Skalen, Schemata, Verläufe und Kontraste einer Farbe</translation>
+    </message>
+    <message>
+        <source>shorter hue</source>
+        <translation>kurzer Weg</translation>
+    </message>
+    <message>
+        <source>the colour itself</source>
+        <translation>die Farbe selbst</translation>
     </message>
 </context>
 <context>

@@ -707,10 +707,6 @@ Controles y gráficos: AA %6</translation>
         <translation>Empieza con este color: cualquier forma de CSS Color 5, como «#ff8000» o «hsl(30 100% 50%)», o un texto que la página Hex acepta.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
-        <translation>Empieza con esta página: hex, mix, palettes o la página de otro complemento.</translation>
-    </message>
-    <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
         <translation>Empieza en este modo de la página Hex: slider, palette o wheel.</translation>
     </message>
@@ -2394,6 +2390,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
         <translation>use una paleta de GIMP, KDE o Krita, CSS, SCSS, JSON, muestras, una tabla de colores de un programa de oficina o un texto con un color por línea</translation>
     </message>
+    <message>
+        <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
+        <translation>Empieza con esta página: hex, mix, scales, palettes o la página de otro complemento.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2708,6 +2708,222 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>%1 picked</source>
         <translation>%1 tomados</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA grande</translation>
+    </message>
+    <message>
+        <source>Analogous</source>
+        <translation>Análogo</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>Propiedades personalizadas de CSS</translation>
+    </message>
+    <message>
+        <source>Complement</source>
+        <translation>Complemento</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale</source>
+        <translation>Contrastes de la escala</translation>
+    </message>
+    <message>
+        <source>Copy all</source>
+        <translation>Copiar todo</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deuteranopia</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Degradado</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Hex codes</source>
+        <translation>Códigos hexadecimales</translation>
+    </message>
+    <message>
+        <source>JSON design tokens</source>
+        <translation>Tokens de diseño JSON</translation>
+    </message>
+    <message>
+        <source>Keep as a colour list</source>
+        <translation>Guardar como lista de colores</translation>
+    </message>
+    <message>
+        <source>Kept as the colour list</source>
+        <translation>Guardado como lista de colores</translation>
+    </message>
+    <message>
+        <source>Last colour of the gradient</source>
+        <translation>Último color del degradado</translation>
+    </message>
+    <message>
+        <source>Lines of code</source>
+        <translation>Líneas de código</translation>
+    </message>
+    <message>
+        <source>Makes the last colour the panel&apos;s colour, and the panel&apos;s colour the last one</source>
+        <translation>Hace del último color el del panel, y al revés</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>Más cercano</translation>
+    </message>
+    <message>
+        <source>Nearest colours that pass</source>
+        <translation>Colores suficientes más cercanos</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Número de colores</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopia</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>Variables de SCSS</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Scales</source>
+        <translation>Escalas</translation>
+    </message>
+    <message>
+        <source>Schemes</source>
+        <translation>Esquemas</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Shades</source>
+        <translation>Más oscuro</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividido</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Pasos</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>Tetrad</source>
+        <translation>Tétrada</translation>
+    </message>
+    <message>
+        <source>The colour list could not be saved. Check that you can write to its folder</source>
+        <translation>No se pudo guardar la lista de colores. Compruebe que puede escribir en su carpeta</translation>
+    </message>
+    <message>
+        <source>The last colour, in any form of CSS. Leave it empty for the complement</source>
+        <translation>El último color, en cualquier forma de CSS. Vacío: el complemento</translation>
+    </message>
+    <message>
+        <source>The scale in place of the colour</source>
+        <translation>La escala en lugar del color</translation>
+    </message>
+    <message>
+        <source>This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)</source>
+        <translation>Esto no es un color. Escríbalo como en CSS, por ejemplo #ff8000 o hsl(30 100% 50%)</translation>
+    </message>
+    <message>
+        <source>Tints</source>
+        <translation>Más claro</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Más gris</translation>
+    </message>
+    <message>
+        <source>Triad</source>
+        <translation>Tríada</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopia</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Usual</translation>
+    </message>
+    <message>
+        <source>Vision</source>
+        <translation>Visión</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>copied</source>
+        <translation>copiado</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>falla</translation>
+    </message>
+    <message>
+        <source>linear light</source>
+        <translation>luz lineal</translation>
+    </message>
+    <message>
+        <source>longer hue</source>
+        <translation>tono más largo</translation>
+    </message>
+    <message>
+        <source>no lightness is enough</source>
+        <translation>ninguna luminosidad basta</translation>
+    </message>
+    <message>
+        <source>passes</source>
+        <translation>pasa</translation>
+    </message>
+    <message>
+        <source>scales, schemes, gradients and contrasts of a colour</source>
+        <translation>escalas, esquemas, degradados y contrastes de un color</translation>
+    </message>
+    <message>
+        <source>shorter hue</source>
+        <translation>tono más corto</translation>
+    </message>
+    <message>
+        <source>the colour itself</source>
+        <translation>el propio color</translation>
     </message>
 </context>
 <context>

@@ -707,10 +707,6 @@ Commandes et graphismes : AA %6</translation>
         <translation>Commence par cette couleur : toute forme de CSS Color 5, comme « #ff8000 » ou « hsl(30 100% 50%) », ou un texte que la page Hex accepte.</translation>
     </message>
     <message>
-        <source>Start with this page: hex, mix, palettes, or the page of another plug-in.</source>
-        <translation>Commence par cette page : hex, mix, palettes, ou la page d’un autre greffon.</translation>
-    </message>
-    <message>
         <source>Start in this mode of the hex page: slider, palette or wheel.</source>
         <translation>Commence dans ce mode de la page Hex : slider, palette ou wheel.</translation>
     </message>
@@ -2394,6 +2390,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>use a palette of GIMP, KDE or Krita, CSS, SCSS, JSON, swatches, a colour table of an office program, or a text with one colour per line</source>
         <translation>utilisez une palette de GIMP, de KDE ou de Krita, CSS, SCSS, JSON, un nuancier, une table de couleurs d’une suite bureautique ou un texte avec une couleur par ligne</translation>
     </message>
+    <message>
+        <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
+        <translation>Commence par cette page : hex, mix, scales, palettes, ou la page d’un autre greffon.</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -2708,6 +2708,222 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>%1 picked</source>
         <translation>%1 prélevées</translation>
+    </message>
+    <message>
+        <source>AA large</source>
+        <translation>AA grand</translation>
+    </message>
+    <message>
+        <source>Analogous</source>
+        <translation>Analogue</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>CSS custom properties</source>
+        <translation>Propriétés personnalisées CSS</translation>
+    </message>
+    <message>
+        <source>Complement</source>
+        <translation>Complément</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale</source>
+        <translation>Contrastes de la gamme</translation>
+    </message>
+    <message>
+        <source>Copy all</source>
+        <translation>Tout copier</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deutéranopie</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Dégradé</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Hex codes</source>
+        <translation>Codes hexadécimaux</translation>
+    </message>
+    <message>
+        <source>JSON design tokens</source>
+        <translation>Jetons de design JSON</translation>
+    </message>
+    <message>
+        <source>Keep as a colour list</source>
+        <translation>Garder comme liste de couleurs</translation>
+    </message>
+    <message>
+        <source>Kept as the colour list</source>
+        <translation>Gardé comme liste de couleurs</translation>
+    </message>
+    <message>
+        <source>Last colour of the gradient</source>
+        <translation>Dernière couleur du dégradé</translation>
+    </message>
+    <message>
+        <source>Lines of code</source>
+        <translation>Lignes de code</translation>
+    </message>
+    <message>
+        <source>Makes the last colour the panel&apos;s colour, and the panel&apos;s colour the last one</source>
+        <translation>Fait de la dernière couleur celle du panneau, et inversement</translation>
+    </message>
+    <message>
+        <source>Nearest</source>
+        <translation>Plus proche</translation>
+    </message>
+    <message>
+        <source>Nearest colours that pass</source>
+        <translation>Couleurs suffisantes les plus proches</translation>
+    </message>
+    <message>
+        <source>Number of colours</source>
+        <translation>Nombre de couleurs</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopie</translation>
+    </message>
+    <message>
+        <source>SCSS variables</source>
+        <translation>Variables SCSS</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Gamme</translation>
+    </message>
+    <message>
+        <source>Scales</source>
+        <translation>Gammes</translation>
+    </message>
+    <message>
+        <source>Schemes</source>
+        <translation>Harmonies</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Section</translation>
+    </message>
+    <message>
+        <source>Shades</source>
+        <translation>Plus foncé</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Scindé</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Échanger</translation>
+    </message>
+    <message>
+        <source>Tetrad</source>
+        <translation>Tétrade</translation>
+    </message>
+    <message>
+        <source>The colour list could not be saved. Check that you can write to its folder</source>
+        <translation>La liste de couleurs n’a pas pu être enregistrée. Vérifiez que vous pouvez écrire dans son dossier</translation>
+    </message>
+    <message>
+        <source>The last colour, in any form of CSS. Leave it empty for the complement</source>
+        <translation>La dernière couleur, sous toute forme de CSS. Vide : le complément</translation>
+    </message>
+    <message>
+        <source>The scale in place of the colour</source>
+        <translation>La gamme à la place de la couleur</translation>
+    </message>
+    <message>
+        <source>This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)</source>
+        <translation>Ce n’est pas une couleur. Écrivez-la comme en CSS, par exemple #ff8000 ou hsl(30 100% 50%)</translation>
+    </message>
+    <message>
+        <source>Tints</source>
+        <translation>Plus clair</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Plus gris</translation>
+    </message>
+    <message>
+        <source>Triad</source>
+        <translation>Triade</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopie</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Usuelle</translation>
+    </message>
+    <message>
+        <source>Vision</source>
+        <translation>Vision</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>copied</source>
+        <translation>copié</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>linear light</source>
+        <translation>lumière linéaire</translation>
+    </message>
+    <message>
+        <source>longer hue</source>
+        <translation>teinte longue</translation>
+    </message>
+    <message>
+        <source>no lightness is enough</source>
+        <translation>aucune clarté ne suffit</translation>
+    </message>
+    <message>
+        <source>passes</source>
+        <translation>suffit</translation>
+    </message>
+    <message>
+        <source>scales, schemes, gradients and contrasts of a colour</source>
+        <translation>gammes, harmonies, dégradés et contrastes d’une couleur</translation>
+    </message>
+    <message>
+        <source>shorter hue</source>
+        <translation>teinte courte</translation>
+    </message>
+    <message>
+        <source>the colour itself</source>
+        <translation>la couleur elle-même</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,8 @@ constexpr OptionRow panelOptions[] = {
     {"--color", "TEXT",
      "Start with this colour: any form of CSS Color 5, such as \"#ff8000\" or "
      "\"hsl(30 100% 50%)\", or a text that the hex page accepts."},
-    {"--page", "PAGE", "Start with this page: hex, mix, palettes, or the page of another plug-in."},
+    {"--page", "PAGE",
+     "Start with this page: hex, mix, scales, palettes, or the page of another plug-in."},
     {.name = "--mode",
      .value = "MODE",
      .text = "Start in this mode of the hex page: slider, palette or wheel.",

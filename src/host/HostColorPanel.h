@@ -12,6 +12,16 @@ namespace vantorel {
 class HostFieldEditor;
 struct HostImage;
 
+/// The two colours of a panel that shows how well one can be seen on the other.
+struct HostColorPair {
+    HostColor color = HostColor::blackColor();
+    HostColor background = HostColor::whiteColor();
+    /// Whether the panel's colour, which pages show and change, is the background.
+    bool editsBackground = false;
+
+    bool operator==(const HostColorPair&) const = default;
+};
+
 /// The colour panel, of which a picker is a page. The panel outlives its pickers.
 class HostColorPanel {
 public:
@@ -24,6 +34,10 @@ public:
     /// Sets the panel's colour and passes it to the current picker's `setColor` before returning. A
     /// panel that always has a colour ignores `std::nullopt`.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
+
+    /// Returns both colours of a panel that has two, or `std::nullopt` if it has only `color()`.
+    /// They may be outside sRGB.
+    [[nodiscard]] virtual std::optional<HostColorPair> colorPair() const { return std::nullopt; }
 
     /// The page is about to set the colour in steps while the user drags, or has set the last one.
     /// Panels with an undo history or swatches add only the colour at the end. A drag may also end
@@ -60,6 +74,12 @@ public:
     /// otherwise.
     virtual void dragImage(const HostImage& image, const HostPasteboardItem& item,
                            const HostEvent& event, HostView& source) = 0;
+
+    /// Copies a text to the clipboard, where other programs find it.
+    virtual void copyText(const std::u16string& text) = 0;
+    /// Shows the user for a short time what the page has done, in a sentence in the user's
+    /// language. A panel without a place for it shows nothing.
+    virtual void report(const std::u16string& message) { static_cast<void>(message); }
 };
 
 }  // namespace vantorel

@@ -60,6 +60,9 @@ public:
 
     /// Called when the panel's colour has changed, including changes made by the picker itself.
     virtual void setColor(const std::optional<HostColor>& color) = 0;
+    /// Called when `HostColorPanel::colorPair` has changed, after `setColor` if the panel's colour
+    /// has changed, too.
+    virtual void colorPairDidChange() {}
     /// Called when the page has a new size. `sender` is the view that changed, or null.
     virtual void viewSizeChanged(HostView* sender) = 0;
 

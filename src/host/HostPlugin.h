@@ -14,7 +14,7 @@
 /// `host/` folder. Every change to that folder increases the number.
 namespace vantorel {
 
-inline constexpr std::uint32_t hostPluginABI = 15;
+inline constexpr std::uint32_t hostPluginABI = 16;
 
 /// The description of a plug-in. It must stay valid as long as the library is loaded.
 struct HostPlugin {

@@ -15,6 +15,7 @@ struct HostText {
     HostColor color = HostColor::blackColor();
     /// As in `HostMenuItem`.
     bool isOwnWord = false;
+    bool isBold = false;
 };
 
 }  // namespace vantorel

@@ -330,6 +330,18 @@ ListContents TokenHandler::take() const
 
 }  // namespace
 
+std::string designTokenColor(const HostColor& color)
+{
+    constexpr int decimals = 4;
+    const ByteColor bytes = byteColorOf(color);
+    const auto part = [](std::uint8_t byte) { return shortFixedText(byte / 255.0, decimals); };
+    std::string json = R"({"colorSpace": "srgb", "components": [)" + part(bytes.red) + ", " +
+                       part(bytes.green) + ", " + part(bytes.blue) + "], ";
+    const double alpha = color.alphaComponent();
+    if (alpha >= 0 && alpha < 1) json += "\"alpha\": " + shortFixedText(alpha, decimals) + ", ";
+    return json + "\"hex\": \"" + opaqueHexText(color) + "\"}";
+}
+
 std::string designTokenListText(const HostColorList& list)
 {
     TokenNames groups;
@@ -346,14 +358,10 @@ std::string designTokenListText(const HostColorList& list)
     for (std::size_t i = 0; i < list.allKeys().size(); ++i) {
         const std::string wanted = utf8FromUtf16(list.allKeys()[i]);
         const std::string name = names.nameFor(wanted);
-        const HostColor& color = list.colorAtIndex(i);
-        const ByteColor bytes = byteColorOf(color);
-        const auto part = [](std::uint8_t byte) { return shortFixedText(byte / 255.0, 4); };
         json += ",\n    ";
         appendJson(json, std::string_view(name));
-        json += R"(: {"$value": {"colorSpace": "srgb", "components": [)" + part(bytes.red) + ", " +
-                part(bytes.green) + ", " + part(bytes.blue) + R"(], "hex": ")" +
-                opaqueHexText(color) + "\"}";
+        json +=
+            ": {\"$value\": " + designTokenColor(list.colorAtIndex(i).colorWithAlphaComponent(1));
         if (name != wanted || isNumber(name)) {
             json += ", ";
             appendOwnName(json, wanted);

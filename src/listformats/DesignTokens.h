@@ -12,6 +12,10 @@
 /// group for the list and a token for each colour.
 namespace vantorel {
 
+/// Returns the value of a token for a colour of sRGB, rounded to bytes, with its alpha unless it is
+/// opaque.
+[[nodiscard]] std::string designTokenColor(const HostColor& color);
+
 /// Returns the list as a group of colours in sRGB. Names that cannot be those of tokens are
 /// changed, and kept in an extension of ours.
 [[nodiscard]] std::string designTokenListText(const HostColorList& list);

@@ -1,12 +1,9 @@
 #include "lsp/ContrastRepair.h"
 
+#include "colormath/ReadableColor.h"
 #include "colortext/ByteColor.h"
 #include "csscolor/Contrast.h"
-#include "csscolor/GamutMapping.h"
 #include "documents/StyleBytes.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace vantorel {
 namespace {
@@ -16,23 +13,6 @@ constexpr double enoughContrast = 4.5;
 bool hasEnoughContrast(const HostColor& color, const HostColor& background)
 {
     return contrastRatio(color, background).value_or(0) >= enoughContrast;
-}
-
-CSSColorValue oklchOf(const HostColor& color)
-{
-    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    CSSColorValue value;
-    value.components = {rgb.red, rgb.green, rgb.blue};
-    value = converted(value, ColorSpace::oklch);
-    value.isMissing = {};
-    return value;
-}
-
-HostColor withLightness(CSSColorValue oklch, double lightness)
-{
-    oklch.components[0] = lightness;
-    const auto [red, green, blue] = mappedIntoSRGB(oklch).components;
-    return byteColorOf(HostColor::colorWithCalibratedRed(red, green, blue, 1)).hostColor();
 }
 
 /// The colours of a rule.
@@ -81,31 +61,6 @@ RuleColors colorsOfRule(const OpenDocument& document, std::size_t place)
 
 }  // namespace
 
-std::optional<HostColor> readableColor(const HostColor& color, const HostColor& background)
-{
-    if (hasEnoughContrast(color, background)) return color;
-    const CSSColorValue oklch = oklchOf(color);
-    const double lightness = std::clamp(oklch.components[0], 0.0, 1.0);
-    std::optional<HostColor> best;
-    double leastChange = 2;
-    for (const double farthest : {0.0, 1.0}) {
-        if (!hasEnoughContrast(withLightness(oklch, farthest), background)) continue;
-        // The contrast grows with the distance from the colour, except for steps of bytes.
-        double tooNear = lightness;
-        double enough = farthest;
-        constexpr int steps = 24;
-        for (int i = 0; i < steps; ++i) {
-            const double middle = (tooNear + enough) / 2;
-            (hasEnoughContrast(withLightness(oklch, middle), background) ? enough : tooNear) =
-                middle;
-        }
-        if (std::abs(enough - lightness) >= leastChange) continue;
-        leastChange = std::abs(enough - lightness);
-        best = withLightness(oklch, enough);
-    }
-    return best;
-}
-
 std::optional<ContrastRepair> contrastRepair(const OpenDocument& document, std::size_t place,
                                              const WrittenColors& writer)
 {
@@ -113,7 +68,9 @@ std::optional<ContrastRepair> contrastRepair(const OpenDocument& document, std::
     if (!rule.text || !rule.background) return std::nullopt;
     const HostColor& background = rule.background->color.color;
     if (hasEnoughContrast(rule.text->color.color, background)) return std::nullopt;
-    const auto readable = readableColor(rule.text->color.color, background);
+    const auto readable = nearestReadableColor(
+        rule.text->color.color, enoughContrast,
+        [&](const HostColor& color) { return contrastRatio(color, background).value_or(0); });
     if (!readable) return std::nullopt;
     std::string text = writer.textLike(*rule.text, *readable);
     // Forms with few digits may denote a neighbour that just misses the limit.

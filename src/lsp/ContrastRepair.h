@@ -23,9 +23,4 @@ struct ContrastRepair {
                                                            std::size_t place,
                                                            const WrittenColors& writer);
 
-/// Returns the colour of the nearest lightness that has enough contrast with a background, rounded
-/// to bytes; `std::nullopt` if there is none.
-[[nodiscard]] std::optional<HostColor> readableColor(const HostColor& color,
-                                                     const HostColor& background);
-
 }  // namespace vantorel

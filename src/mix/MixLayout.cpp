@@ -13,7 +13,6 @@ constexpr double edge = 4;
 constexpr double groupGap = 8;
 constexpr double partGap = 4;
 constexpr double controlHeight = 28;
-constexpr double segmentGap = 2;
 constexpr double barWidth = 28;
 constexpr double letterWidth = 16;
 constexpr double besideWord = 8;
@@ -37,13 +36,6 @@ MixFrames mixFrames(HostSize page, double widestWord)
     };
 
     frames.choice = {margin, takeRow(controlHeight), width - 2 * margin, controlHeight};
-    const auto count = static_cast<double>(frames.segments.size());
-    const double segment = (frames.choice.width - segmentGap * (count + 1)) / count;
-    double x = segmentGap;
-    for (HostRect& frame : frames.segments) {
-        frame = {x, segmentGap, segment, controlHeight - 2 * segmentGap};
-        x += segment + segmentGap;
-    }
 
     top -= groupGap;
     const double rows = controlHeight * 4 + partGap * 3;

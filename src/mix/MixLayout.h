@@ -15,9 +15,8 @@ struct MixRowFrames {
 
 /// The places of the page's parts. Those of the plane and the sliders include room for their marks.
 struct MixFrames {
-    /// The frame around the segments, and the segments in its coordinates.
+    /// The frame around the segments.
     HostRect choice;
-    std::array<HostRect, 4> segments;
     HostRect plane;
     HostRect bar;
     /// Whether sliders have names rather than letters.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace vantorel {
 namespace {
@@ -52,7 +53,14 @@ HostView* MixPicker::provideNewView(bool initialRequest)
     _page = colorPanel().desktop().interfaceFactory().makeView(description);
     _model.setSpace(readMixSpace(colorPanel().desktop().files()));
     _model.takeColor(colorPanel().color());
-    _segments.makeViews(colorPanel().desktop(), [this](MixSpace space) { chooseSpace(space); });
+    _segments.makeViews(colorPanel().desktop(),
+                        {.identifier = "mixSpaces",
+                         .buttonIdentifier = "mixSpace",
+                         .accessibleName = colorPanel().desktop().localizedString(u"Colour space"),
+                         .titles = {nameOf(mixSpaces[0]), nameOf(mixSpaces[1]),
+                                    nameOf(mixSpaces[2]), nameOf(mixSpaces[3])},
+                         .pointSize = mixTextSize},
+                        [this](std::size_t space) { chooseSpace(mixSpaces[space]); });
     _page->addSubview(_segments.view());
     makePlane();
     for (std::size_t i = 0; i < _rows.size(); ++i)
@@ -152,7 +160,8 @@ std::u16string MixPicker::spokenPlane() const
 void MixPicker::showSpace()
 {
     HostDesktop& desktop = colorPanel().desktop();
-    _segments.show(_model.space());
+    _segments.show(static_cast<std::size_t>(
+        std::distance(mixSpaces.begin(), std::ranges::find(mixSpaces, _model.space()))));
     for (std::size_t i = 0; i < _rows.size(); ++i) {
         Row& row = _rows[i];
         row.channel =
@@ -175,7 +184,7 @@ void MixPicker::layOut()
         widest = std::max(widest,
                           colorPanel().desktop().sizeOfText({row.channel.name, mixTextSize}).width);
     const MixFrames frames = mixFrames(_page->bounds().size(), std::ceil(widest));
-    _segments.layOut(frames);
+    _segments.layOut(frames.choice);
     _plane->view().setFrame(frames.plane);
     _bar->view().setFrame(frames.bar);
     for (std::size_t i = 0; i < _rows.size(); ++i) {

@@ -6,9 +6,9 @@
 #include "mix/MixChannels.h"
 #include "mix/MixLayout.h"
 #include "mix/MixModel.h"
-#include "mix/MixSegments.h"
 #include "mix/PlaneView.h"
 #include "mix/TrackView.h"
+#include "pageparts/Segments.h"
 
 #include <array>
 #include <memory>
@@ -78,7 +78,7 @@ private:
     MixModel _model;
     bool _isPushing = false;
     std::unique_ptr<HostView> _page;
-    MixSegments _segments;
+    Segments _segments;
     std::unique_ptr<PlaneView> _plane;
     std::unique_ptr<TrackView> _bar;
     std::array<Row, opacityRow + 1> _rows;

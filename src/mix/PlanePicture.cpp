@@ -23,7 +23,7 @@ std::pair<int, int> columnsOf(ColorPlane::Span span, int width)
     return {column(span.from), column(span.to)};
 }
 
-void markHidden(HostPixels& pixels, const ColorPlane& plane, const MixLook& look)
+void markHidden(HostPixels& pixels, const ColorPlane& plane, const PixelLook& look)
 {
     const std::uint32_t onGround = look.isDark ? whitePixel : blackPixel;
     const std::vector<std::uint8_t> hatch = hatchOf(pixels.size(), look.scale);
@@ -50,7 +50,7 @@ void markHidden(HostPixels& pixels, const ColorPlane& plane, const MixLook& look
 }
 
 void strokeBorder(HostPixels& pixels, const ColorPlane& plane, ScreenGamut gamut,
-                  const MixLook& look)
+                  const PixelLook& look)
 {
     constexpr int pixelsPerPoint = 2;
     std::vector<PixelPlace> line;
@@ -66,7 +66,7 @@ void strokeBorder(HostPixels& pixels, const ColorPlane& plane, ScreenGamut gamut
 
 }  // namespace
 
-HostPixels planePicture(const ColorPlane& plane, HostPixelSize size, const MixLook& look)
+HostPixels planePicture(const ColorPlane& plane, HostPixelSize size, const PixelLook& look)
 {
     HostPixels pixels = plane.picture(size);
     if (plane.space() == MixSpace::oklch || plane.space() == MixSpace::lab) {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "colormath/ColorPlane.h"
-#include "mix/MixPainting.h"
+#include "pageparts/PixelPainting.h"
 
 namespace vantorel {
 
 /// Returns the picture of a plane with the borders of sRGB and Display P3. Colours between them are
 /// hatched; beyond Display P3 there is only hatched ground.
 [[nodiscard]] HostPixels planePicture(const ColorPlane& plane, HostPixelSize size,
-                                      const MixLook& look);
+                                      const PixelLook& look);
 
 }  // namespace vantorel

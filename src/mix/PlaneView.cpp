@@ -57,7 +57,7 @@ void PlaneView::drawRect(HostCanvas& canvas)
     const HostRect place = planePlace();
     const HostPixelSize size = canvas.pixelSizeOf(place);
     if (size.width == 0 || size.height == 0) return;
-    const MixLook look = lookOf(canvas, place);
+    const PixelLook look = lookOf(canvas, place);
     if (!_picture || _picture->size() != size || look != _look) {
         _look = look;
         _picture = planePicture(_plane, size, look);

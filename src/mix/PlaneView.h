@@ -47,7 +47,7 @@ private:
     ColorTriple _srgb{};
     /// The picture of the plane, until the third component or its look changes.
     std::optional<HostPixels> _picture;
-    MixLook _look;
+    PixelLook _look;
 };
 
 }  // namespace vantorel

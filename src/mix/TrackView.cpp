@@ -66,7 +66,7 @@ void TrackView::drawRect(HostCanvas& canvas)
     const HostRect track = trackPlace();
     const HostPixelSize size = canvas.pixelSizeOf(track);
     if (!_colors || size.width == 0 || size.height == 0) return;
-    const MixLook look = lookOf(canvas, track);
+    const PixelLook look = lookOf(canvas, track);
     if (!_picture || _picture->size() != size || look != _look) {
         _look = look;
         _picture =

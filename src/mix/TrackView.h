@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mix/MarkView.h"
-#include "mix/MixPainting.h"
+#include "pageparts/PixelPainting.h"
 
 #include <functional>
 #include <optional>
@@ -45,7 +45,7 @@ private:
     TrackColors _colors;
     /// The picture of the track, until its colours or its look change.
     std::optional<HostPixels> _picture;
-    MixLook _look;
+    PixelLook _look;
 };
 
 }  // namespace vantorel

@@ -105,6 +105,7 @@ public:
     {
         if (whileWaiting) whileWaiting();
     }
+    void copyText(const std::u16string&) override {}
 
     std::deque<HostEvent> events;
     std::function<void()> whileWaiting;

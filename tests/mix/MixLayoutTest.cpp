@@ -12,11 +12,7 @@ constexpr double margin = 10;
 std::vector<HostRect> allOf(const MixFrames& frames)
 {
     std::vector<HostRect> all;
-    for (HostRect segment : frames.segments) {
-        segment.x += frames.choice.x;
-        segment.y += frames.choice.y;
-        all.push_back(segment);
-    }
+    all.push_back(frames.choice);
     // Without the room for its mark, which the bar lies on.
     all.push_back(insetRect(frames.plane, 8, 8));
     all.push_back(frames.bar);

@@ -27,7 +27,7 @@ class ProgramsTest(TreeTest):
         self.assertTrue(printed.startswith("hex: #FF8000\nrgb: rgb(255, 128, 0)\n"), printed)
 
     def test_the_panel_finds_its_installed_page(self):
-        pictures = {self.picture("--page", page) for page in ("hex", "mix", "palettes")}
+        pictures = {self.picture("--page", page) for page in ("hex", "mix", "scales", "palettes")}
         self.assertEqual(len(pictures), 3, "each page looks its own way")
         for picture in pictures:
             self.assertTrue(picture.startswith(b"\x89PNG"))
@@ -52,7 +52,7 @@ class ProgramsTest(TreeTest):
     def test_an_unknown_page_is_rejected(self):
         run = self.run_tool(PANEL, "--screenshot", "picture.png", "--page", "tints")
         self.assertEqual(run.returncode, 2)
-        self.assertIn('there is no page "tints": use one of: hex, mix, palettes', run.stderr)
+        self.assertIn('there is no page "tints": use one of: hex, mix, scales, palettes', run.stderr)
 
     def test_the_help_button_finds_the_manual_and_its_pictures_in_a_tree_that_was_moved(self):
         pages = [name for name in os.listdir(f"{SOURCES}/docs/manual") if name.endswith(".htm")]
@@ -63,7 +63,7 @@ class ProgramsTest(TreeTest):
 
     def test_the_programs_know_no_other_folder_for_their_libraries(self):
         self.need("readelf")
-        pickers = [f"{TREE}/lib/vantorel/pickers/{name}.so" for name in ("QTXHexColorPicker", "VantorelMix")]
+        pickers = [f"{TREE}/lib/vantorel/pickers/{name}.so" for name in ("QTXHexColorPicker", "VantorelMix", "VantorelScales")]
         for file in (VANTOREL, PANEL, *pickers):
             self.assertNotRegex(self.passes("readelf", "-d", file), "RPATH|RUNPATH")
 

@@ -234,7 +234,7 @@ TEST_F(PanelCommandsTest, ThePageIsRememberedByItsIdentifierAndByTheNameThatOlde
     };
     for (const auto& [key, remembered, name] :
          {Row{"palettes", "palettes", "Palettes"}, Row{"hex", "org.vantorel.hex", "Hex"},
-          Row{"mix", "org.vantorel.mix", "Mix"}}) {
+          Row{"mix", "org.vantorel.mix", "Mix"}, Row{"scales", "org.vantorel.scales", "Scales"}}) {
         SCOPED_TRACE(key);
         ASSERT_TRUE(_window->pages().showPageWithKey(key));
         const int index = _window->pages().currentIndex();

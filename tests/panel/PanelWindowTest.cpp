@@ -172,7 +172,7 @@ TEST_F(PanelWindowTest, NoControlsOverlapAtAnySize)
 
 TEST_F(PanelWindowTest, TheOtherPageFollowsTheColour)
 {
-    ASSERT_EQ(_window->pages().count(), 3);
+    ASSERT_EQ(_window->pages().count(), 4);
     _window->colors().setColor(HostColor::colorWithCalibratedRed(0, 0, 1, 0.5));
     _window->pages().showPage(1);
     child<QAbstractButton>("mixSpace3")->click();

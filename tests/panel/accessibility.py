@@ -21,6 +21,7 @@ BOTH_FACES = [
     ("frame", "Vantorel"),
     ("page tab", "Hex"),
     ("page tab", "Mix"),
+    ("page tab", "Scales"),
     ("text", "Colour as a text"),
     ("image", "Colour"),
     ("slider", "Opacity"),
@@ -48,6 +49,14 @@ MIX_PAGE = [
     ("color chooser", "Opacity"),
     ("text", "Lightness"),
     ("text", "Opacity"),
+]
+SCALES_PAGE = [
+    ("frame", "Vantorel"),
+    ("panel", "Scales"),
+    ("panel", "Scale"),
+    ("color chooser", "Scale"),
+    ("color chooser", "Tints"),
+    ("combo box", "Scale: Copy all"),
 ]
 COLORS_FACE = BOTH_FACES + [("color chooser", "Colours")]
 WHEEL_FACE = COLORS_FACE + [("button", "More rings"), ("button", "Fewer rings")]
@@ -146,6 +155,8 @@ def do(role, name, action):
 def check_pages():
     do("page tab", "Mix", "Press")
     check_face("mix", MIX_PAGE)
+    do("page tab", "Scales", "Press")
+    check_face("scales", SCALES_PAGE)
     do("page tab", "Hex", "Press")
     check_face("colours, after another page", COLORS_FACE)
 

@@ -114,6 +114,12 @@ const std::vector<Picture>& pictures()
              window.resizeToPage({232, 246});
              return wholePage(window);
          }},
+        {"scales", "#3b82f6", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("scales"));
+             window.resizeToPage({296, 292});
+             return wholePage(window);
+         }},
         {"palettes", "#ff7f50", cssList,
          [](PanelWindow& window) {
              window.pages().showPageWithKey(QStringLiteral("palettes"));

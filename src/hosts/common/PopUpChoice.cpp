@@ -41,7 +41,8 @@ void chooseNeighbour(HostPopUpButton& popUp, int step)
     const HostMenu& menu = popUp.menu();
     for (int i = popUp.indexOfSelectedItem() + step; i >= 0 && i < popUp.numberOfItems();
          i += step) {
-        if (!canBeChosen(menu[static_cast<std::size_t>(i)])) continue;
+        const HostMenuItem& item = menu[static_cast<std::size_t>(i)];
+        if (!canBeChosen(item) || item.action) continue;
         chooseItem(popUp, i);
         return;
     }

@@ -17,8 +17,9 @@ void chooseItem(HostPopUpButton& popUp, int index);
 /// Chooses an item that was at `index` when the menu was opened. If the items have changed since,
 /// the one with the same title is chosen.
 void chooseOpenedItem(HostPopUpButton& popUp, const HostMenuItem& item, int index);
-/// Chooses the item before (`step` -1) or after (1) the selected one; separators and submenus are
-/// skipped. Has no effect at the ends.
+/// Chooses the item before (`step` -1) or after (1) the selected one. Separators, submenus and
+/// items with an action of their own are skipped: stepping through a pop-up only selects. Has no
+/// effect at the ends.
 void chooseNeighbour(HostPopUpButton& popUp, int step);
 
 }  // namespace vantorel

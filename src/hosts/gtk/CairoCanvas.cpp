@@ -21,7 +21,9 @@ Layout layoutOf(const Layout& layout, const HostText& text)
     std::string shown = gtkText(shownText(text));
     if (shown.size() > 1 && shown.back() == '\n') shown.pop_back();
     pango_layout_set_text(layout.get(), shown.data(), static_cast<int>(shown.size()));
-    pango_layout_set_font_description(layout.get(), gtkFontOfSize(text.pointSize).get());
+    const PangoFont font = gtkFontOfSize(text.pointSize);
+    if (text.isBold) pango_font_description_set_weight(font.get(), PANGO_WEIGHT_BOLD);
+    pango_layout_set_font_description(layout.get(), font.get());
     return layout;
 }
 

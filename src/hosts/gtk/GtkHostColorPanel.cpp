@@ -4,6 +4,7 @@
 #include "hosts/gtk/GtkHostCustomView.h"
 #include "hosts/gtk/GtkHostDrag.h"
 #include "hosts/gtk/GtkHostTextField.h"
+#include "hosts/gtk/GtkTexts.h"
 
 namespace vantorel {
 
@@ -71,6 +72,13 @@ void GtkHostColorPanel::dragImage(const HostImage& image, const HostPasteboardIt
     // The drag takes the pointer, which must not count as a release.
     custom->forgetButton();
     runDrag(custom->activeWidget(), custom->lastButtonEvent(), image, item);
+}
+
+void GtkHostColorPanel::copyText(const std::u16string& text)
+{
+    const std::string copied = gtkText(text);
+    gtk_clipboard_set_text(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), copied.data(),
+                           static_cast<int>(copied.size()));
 }
 
 }  // namespace vantorel

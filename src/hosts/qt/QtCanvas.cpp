@@ -157,7 +157,7 @@ void QtCanvas::stroke(const HostBezierPath& path, const HostColor& color)
 
 void QtCanvas::drawText(const HostText& text, HostPoint at)
 {
-    const QFont font = fontOfSize(text.pointSize);
+    const QFont font = fontOf(text);
     const QFontMetricsF metrics(font);
     const std::u16string shown = u16From(shownText(text));
     const auto lines = linesOf(shown);

@@ -1,12 +1,15 @@
 #include "hosts/qt/QtColorPanel.h"
 
 #include "hosts/common/ViewTree.h"
+#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtCustomView.h"
 #include "hosts/qt/QtDrag.h"
 #include "hosts/qt/QtTextField.h"
 #include "hosts/qt/QtVersions.h"
 
+#include <QClipboard>
 #include <QCursor>
+#include <QGuiApplication>
 
 namespace vantorel {
 void QtColorPanel::setAcceptsMouseMovedEvents(bool flag)
@@ -67,6 +70,11 @@ void QtColorPanel::dragImage(const HostImage& image, const HostPasteboardItem& i
     drag->exec(Qt::CopyAction);
     if (!alive) return;
     if (auto* custom = dynamic_cast<QtCustomView*>(&source)) custom->forgetButton();
+}
+
+void QtColorPanel::copyText(const std::u16string& text)
+{
+    QGuiApplication::clipboard()->setText(qStringFrom(text));
 }
 
 }  // namespace vantorel

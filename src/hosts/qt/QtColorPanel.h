@@ -25,6 +25,7 @@ public:
     /// A colour goes as `application/x-color`, a text as UTF-8 `text/plain`.
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;
+    void copyText(const std::u16string& text) override;
 
 protected:
     /// The view that shows the current page. Mouse moves are switched on and off for its subviews.

@@ -2,6 +2,7 @@
 
 #include "host/HostColor.h"
 #include "host/HostInterfaceFactory.h"
+#include "host/HostText.h"
 #include "hosts/common/ReadableColor.h"
 #include "hosts/qt/QtVersions.h"
 #include "hosts/qt/TextScale.h"
@@ -56,6 +57,13 @@ QFont fontOfSize(double points)
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * textScale()))));
+    return font;
+}
+
+QFont fontOf(const HostText& text)
+{
+    QFont font = fontOfSize(text.pointSize);
+    font.setBold(text.isBold);
     return font;
 }
 

@@ -14,6 +14,7 @@ namespace vantorel {
 
 class HostColor;
 struct HostControlDescription;
+struct HostText;
 
 /// Channels are clamped to 0..1. A pattern gives an invalid colour, a NaN channel 0.
 [[nodiscard]] QColor qColorFrom(const HostColor& color);
@@ -24,6 +25,8 @@ struct HostControlDescription;
 
 /// The desktop's sans-serif font. A point of the core is `textScale()` device-independent pixels.
 [[nodiscard]] QFont fontOfSize(double points);
+/// The font in which a text is measured and drawn.
+[[nodiscard]] QFont fontOf(const HostText& text);
 
 /// The font of a control: 11 points unless its description has a size.
 [[nodiscard]] QFont fontOf(const HostControlDescription& description);

@@ -57,7 +57,7 @@ std::unique_ptr<HostTimer> QtDesktop::scheduleTimer(double seconds, std::functio
 
 HostSize QtDesktop::sizeOfText(const HostText& text)
 {
-    const QFontMetricsF metrics(fontOfSize(text.pointSize));
+    const QFontMetricsF metrics(fontOf(text));
     const std::u16string shown = u16From(shownText(text));
     const auto lines = linesOf(shown);
     qreal width = 0;

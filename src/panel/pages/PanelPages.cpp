@@ -100,6 +100,12 @@ void PanelPages::setColor(const HostColor& color)
     emit colorShown();
 }
 
+void PanelPages::notePairChange()
+{
+    HostColorPicker* picker = currentPicker();
+    if (picker != nullptr && current()->view() != nullptr) picker->colorPairDidChange();
+}
+
 bool PanelPages::takesWideGamut() const
 {
     return current() != nullptr && current()->takesWideGamut();

@@ -55,6 +55,8 @@ public slots:
     /// Passes the panel's colour to the page that is shown, and to each that is shown later. A page
     /// that does not take it gets the nearest colour inside sRGB, as CSS maps it.
     void setColor(const HostColor& color);
+    /// The panel's colour or its background has changed. Pages that are shown later ask for them.
+    void notePairChange();
 
 signals:
     /// The page that is shown has got the panel's colour.

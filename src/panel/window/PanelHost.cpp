@@ -71,4 +71,16 @@ void PanelHost::dragImage(const HostImage& image, const HostPasteboardItem& item
     QtColorPanel::dragImage(image, item, event, source);
 }
 
+void PanelHost::report(const std::u16string& message)
+{
+    // It is in the user's language already.
+    _window.showMessage({Phrase("%1", {message})});
+}
+
+std::optional<HostColorPair> PanelHost::colorPair() const
+{
+    return HostColorPair{_colors.foreground(), _colors.background(),
+                         _colors.edited() == EditedColor::background};
+}
+
 }  // namespace vantorel

@@ -25,6 +25,8 @@ public:
     HostSize growPage(HostSize growth) override;
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;
+    void report(const std::u16string& message) override;
+    [[nodiscard]] std::optional<HostColorPair> colorPair() const override;
 
 protected:
     bool takeText(const QString& text) override;

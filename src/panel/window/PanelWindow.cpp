@@ -71,6 +71,7 @@ void PanelWindow::connectParts()
         _parts.lastColors->setColors(_colors.pinned(), _colors.recent());
     };
     connect(&_colors, &PanelColors::colorsChanged, this, showColors);
+    connect(&_colors, &PanelColors::colorsChanged, &_parts.pages, &PanelPages::notePairChange);
     connect(&_colors, &PanelColors::colorSet, &_parts.pages, &PanelPages::setColor);
     connect(&_colors, &PanelColors::historyChanged, this, showHistory);
     connect(_parts.band, &ColorBand::editRequested, &_colors, &PanelColors::edit);

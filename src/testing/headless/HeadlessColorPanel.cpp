@@ -63,6 +63,20 @@ HostSize HeadlessColorPanel::growPage(HostSize growth)
     return growth;
 }
 
+std::optional<HostColorPair> HeadlessColorPanel::colorPair() const
+{
+    if (!_color || !_otherColor) return std::nullopt;
+    return _editsBackground ? HostColorPair{*_otherColor, *_color, true}
+                            : HostColorPair{*_color, *_otherColor, false};
+}
+
+void HeadlessColorPanel::changeOtherColor(std::optional<HostColor> color, bool editsBackground)
+{
+    _otherColor = color;
+    _editsBackground = editsBackground;
+    if (_picker != nullptr) _picker->colorPairDidChange();
+}
+
 void HeadlessColorPanel::resize(HostSize size)
 {
     applyFrame({_frame.x, _frame.maxY() - size.height, size.width, size.height});

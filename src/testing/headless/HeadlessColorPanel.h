@@ -37,6 +37,16 @@ public:
     /// Consumes the events up to the next release of the button.
     void dragImage(const HostImage& image, const HostPasteboardItem& item, const HostEvent& event,
                    HostView& source) override;
+    void copyText(const std::u16string& text) override { _copiedText = text; }
+    void report(const std::u16string& message) override { _reports.push_back(message); }
+    [[nodiscard]] std::optional<HostColorPair> colorPair() const override;
+
+    /// What was copied last; `std::nullopt` if nothing was.
+    [[nodiscard]] const std::optional<std::u16string>& copiedText() const { return _copiedText; }
+    /// All reports, in their order.
+    [[nodiscard]] const std::vector<std::u16string>& reports() const { return _reports; }
+    /// Gives the panel another colour beside its own one. At first it has none.
+    void changeOtherColor(std::optional<HostColor> color, bool editsBackground);
 
     // Events outside the picker.
 
@@ -77,6 +87,10 @@ private:
     HostView* _page = nullptr;
     HostColorPicker* _picker = nullptr;
     std::optional<HostColor> _color;
+    std::optional<HostColor> _otherColor;
+    bool _editsBackground = false;
+    std::optional<std::u16string> _copiedText;
+    std::vector<std::u16string> _reports;
     bool _acceptsMouseMoved = false;
     bool _canGrow = true;
     HostPoint _pointer;

@@ -8,6 +8,8 @@ namespace vantorel {
 namespace {
 
 constexpr double lineHeight = 1.25;
+/// How much wider bold letters are.
+constexpr double boldWidth = 1.1;
 /// The tolerance for rounding errors of added seconds, so that advancing by 0.9 three times fires a
 /// timer that is due at 2.7.
 constexpr double clockTolerance = 1e-9;
@@ -55,7 +57,8 @@ HostSize HeadlessDesktop::sizeOfText(const HostText& text)
         ++lines;
         rest.remove_prefix(std::min(length + 1, rest.size()));
     } while (!rest.empty());
-    return {static_cast<double>(widest) * _charWidth * text.pointSize,
+    const double charWidth = _charWidth * (text.isBold ? boldWidth : 1);
+    return {static_cast<double>(widest) * charWidth * text.pointSize,
             static_cast<double>(lines) * lineHeight * text.pointSize};
 }
 

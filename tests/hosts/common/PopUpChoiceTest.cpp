@@ -63,6 +63,18 @@ TEST_F(PopUpChoiceTest, NeighboursSkipWhatCannotBeChosen)
     EXPECT_EQ(_popUp.indexOfSelectedItem(), 0);
 }
 
+TEST_F(PopUpChoiceTest, NeighboursSkipItemsWithAnActionOfTheirOwn)
+{
+    int runs = 0;
+    HostMenuItem command;
+    command.title = u"command";
+    command.action = [&](const HostMenuItem&) { ++runs; };
+    _popUp.insertItem(command, 1);
+    chooseNeighbour(_popUp, 1);
+    EXPECT_EQ(runs, 0);
+    EXPECT_EQ(_popUp.titleOfSelectedItem(), u"last");
+}
+
 TEST_F(PopUpChoiceTest, ItemsThatHaveMovedMeanwhileAreChosenByTitle)
 {
     const HostMenuItem last = _popUp.menu()[3];

@@ -65,6 +65,20 @@ TEST_F(DesktopConformance, ATextIsAsWideAsItsWidestLineAndAsHighAsItsLines)
     EXPECT_EQ(size(u"", 11).width, 0);
 }
 
+TEST_F(DesktopConformance, BoldTextsAreMeasuredAsTheyAreDrawn)
+{
+    EXPECT_GT(desktop.sizeOfText({.string = u"wide wide", .isBold = true}).width,
+              desktop.sizeOfText({.string = u"wide wide"}).width);
+}
+
+TEST_F(DesktopConformance, AnyTextIsCopied)
+{
+    for (const std::u16string text : {u"--a: #3b82f6;\n--b: \u00E4\U0001F3A8;\n", u"<b>"}) {
+        host->panel().copyText(text);
+        EXPECT_EQ(host->textOnClipboard(), text);
+    }
+}
+
 TEST_F(DesktopConformance, ATextWithoutTranslationIsItself)
 {
     EXPECT_EQ(desktop.localizedString(u"NoSuchKey <b> \u00E4"), u"NoSuchKey <b> \u00E4");

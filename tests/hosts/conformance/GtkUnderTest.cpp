@@ -326,6 +326,13 @@ public:
         return coreText(name != nullptr ? name : "");
     }
     std::optional<HostPasteboardItem> carried() override { return _carried; }
+    std::u16string textOnClipboard() override
+    {
+        gchar* text = gtk_clipboard_wait_for_text(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD));
+        std::u16string found = coreText(text != nullptr ? text : "");
+        g_free(text);
+        return found;
+    }
 
 protected:
     void callLater(std::function<void()> function) override

@@ -237,6 +237,7 @@ public:
         return {};
     }
     std::optional<std::u16string> spokenNameOf(const HostView&) override { return std::nullopt; }
+    std::u16string textOnClipboard() override { return _panel.copiedText().value_or(u""); }
     std::optional<HostPasteboardItem> carried() override
     {
         std::optional<HostPasteboardItem> item;

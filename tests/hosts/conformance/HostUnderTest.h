@@ -124,6 +124,8 @@ public:
     [[nodiscard]] virtual std::optional<std::u16string> spokenNameOf(const HostView& view) = 0;
     /// What the last drag out of a view has carried.
     [[nodiscard]] virtual std::optional<HostPasteboardItem> carried() = 0;
+    /// The text that programs find on the clipboard.
+    [[nodiscard]] virtual std::u16string textOnClipboard() = 0;
 
 protected:
     /// Calls a function as an event of its own.

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QDrag>
 #include <QElapsedTimer>
 #include <QListView>
@@ -330,6 +331,10 @@ public:
         return u16From(spoken != nullptr ? spoken->text(QAccessible::Name) : QString());
     }
     std::optional<HostPasteboardItem> carried() override { return _carried; }
+    std::u16string textOnClipboard() override
+    {
+        return u16From(QGuiApplication::clipboard()->text());
+    }
 
 protected:
     void callLater(std::function<void()> function) override

@@ -4,6 +4,7 @@
 #include "host/HostCanvas.h"
 #include "host/HostPixels.h"
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -15,7 +16,7 @@ inline constexpr std::uint32_t blackPixel = HostPixels::opaque(0, 0, 0);
 inline constexpr std::uint32_t whitePixel = HostPixels::opaque(255, 255, 255);
 
 /// The colours and measures of a picture.
-struct MixLook {
+struct PixelLook {
     /// Device pixels per point.
     double scale = 1;
     /// The ground of what cannot be shown.
@@ -24,11 +25,11 @@ struct MixLook {
     std::uint32_t base = 0;
     HostColor edge = HostColor::blackColor();
     bool isDark = false;
-    bool operator==(const MixLook&) const = default;
+    bool operator==(const PixelLook&) const = default;
 };
 
 /// Returns the look for a canvas on which `rect` is painted.
-[[nodiscard]] MixLook lookOf(const HostCanvas& canvas, HostRect rect);
+[[nodiscard]] PixelLook lookOf(const HostCanvas& canvas, HostRect rect);
 
 /// Returns the opaque pixel of a colour, with channels clipped to sRGB.
 [[nodiscard]] std::uint32_t pixelOf(const ColorTriple& srgb);
@@ -43,7 +44,10 @@ struct MixLook {
 inline constexpr double hatchOnColors = 0.35;
 inline constexpr double hatchOnGround = 0.16;
 
-/// Gives a picture round corners and a line just inside its edge.
+/// Returns the pixel of the squares that shine through translucent colours.
+[[nodiscard]] std::uint32_t checkAt(const PixelLook& look, int x, int y);
+
+/// Gives a picture round corners and a line, which may be translucent, just inside its edge.
 void frameRounded(HostPixels& pixels, double radius, double lineWidth, const HostColor& line);
 
 struct PixelPlace {
@@ -71,6 +75,6 @@ using TrackColors = std::function<TrackColor(double fraction)>;
 /// from below. `inset` is how far from the ends the fractions 0 and 1 are. Colours outside sRGB are
 /// hatched; squares shine through translucent ones.
 [[nodiscard]] HostPixels trackPicture(HostPixelSize size, bool isVertical, double inset,
-                                      const MixLook& look, const TrackColors& colors);
+                                      const PixelLook& look, const TrackColors& colors);
 
 }  // namespace vantorel

@@ -1,4 +1,4 @@
-#include "mix/PlanePicture.h"
+#include "pageparts/PixelPainting.h"
 
 #include <gtest/gtest.h>
 
@@ -9,14 +9,14 @@ namespace {
 
 constexpr std::uint32_t redPixel = HostPixels::opaque(255, 0, 0);
 
-MixLook plainLook()
+PixelLook plainLook()
 {
-    MixLook look;
+    PixelLook look;
     look.ground = 0xFFE0E0E0U;
     return look;
 }
 
-TEST(MixPaintingTest, BlendingKeepsTheOpacityOfThePixel)
+TEST(PixelPaintingTest, BlendingKeepsTheOpacityOfThePixel)
 {
     EXPECT_EQ(blended(blackPixel, whitePixel, 0.5), 0xFF808080U);
     EXPECT_EQ(blended(blackPixel, whitePixel, 0), blackPixel);
@@ -25,13 +25,13 @@ TEST(MixPaintingTest, BlendingKeepsTheOpacityOfThePixel)
     EXPECT_EQ(blended(0x80000000U, whitePixel, 1), 0x80808080U);
 }
 
-TEST(MixPaintingTest, ColoursAreClippedAndNaNIsHarmless)
+TEST(PixelPaintingTest, ColoursAreClippedAndNaNIsHarmless)
 {
     EXPECT_EQ(pixelOf(ColorTriple{2, -1, 0.5}), 0xFFFF0080U);
     EXPECT_EQ(pixelOf(ColorTriple{std::nan(""), 0, 1}), 0xFF0000FFU);
 }
 
-TEST(MixPaintingTest, AFrameHasRoundCornersAndLeavesTheMiddle)
+TEST(PixelPaintingTest, AFrameHasRoundCornersAndLeavesTheMiddle)
 {
     HostPixels pixels({40, 30});
     for (int y = 0; y < 30; ++y)
@@ -47,7 +47,7 @@ TEST(MixPaintingTest, AFrameHasRoundCornersAndLeavesTheMiddle)
     EXPECT_EQ(pixels.row(15)[20], redPixel);
 }
 
-TEST(MixPaintingTest, ALineIsPaintedOnceWhereItsPiecesMeet)
+TEST(PixelPaintingTest, ALineIsPaintedOnceWhereItsPiecesMeet)
 {
     HostPixels pixels({20, 20});
     for (int y = 0; y < 20; ++y)
@@ -59,7 +59,7 @@ TEST(MixPaintingTest, ALineIsPaintedOnceWhereItsPiecesMeet)
     EXPECT_EQ(pixels.row(5)[10], blackPixel);
 }
 
-TEST(MixPaintingTest, DashesHaveGapsAndPlacesOutsideAreHarmless)
+TEST(PixelPaintingTest, DashesHaveGapsAndPlacesOutsideAreHarmless)
 {
     HostPixels pixels({40, 8});
     for (int y = 0; y < 8; ++y)
@@ -75,7 +75,7 @@ TEST(MixPaintingTest, DashesHaveGapsAndPlacesOutsideAreHarmless)
     strokeLine(pixels, {{3, 3}, {3, 3}}, 2, whitePixel, 1, 5);
 }
 
-TEST(MixPaintingTest, AMarkHasAWhiteAndABlackRing)
+TEST(PixelPaintingTest, AMarkHasAWhiteAndABlackRing)
 {
     const HostPixels mark = markPicture({18, 18}, 1, redPixel);
     EXPECT_EQ(mark.row(9)[9], redPixel);
@@ -86,7 +86,7 @@ TEST(MixPaintingTest, AMarkHasAWhiteAndABlackRing)
     EXPECT_TRUE(markPicture({0, 0}, 1, redPixel).isEmpty());
 }
 
-TEST(MixPaintingTest, ATrackLeadsFromItsFirstColourToItsLast)
+TEST(PixelPaintingTest, ATrackLeadsFromItsFirstColourToItsLast)
 {
     const auto colors = [](double fraction) { return TrackColor{{fraction, 0, 0}, 1}; };
     const HostPixels right = trackPicture({100, 12}, false, 6, plainLook(), colors);
@@ -99,7 +99,7 @@ TEST(MixPaintingTest, ATrackLeadsFromItsFirstColourToItsLast)
     EXPECT_EQ(redOf(up.row(4)[10]), 255U);
 }
 
-TEST(MixPaintingTest, WhatLeavesSRGBIsHatched)
+TEST(PixelPaintingTest, WhatLeavesSRGBIsHatched)
 {
     const HostPixels track = trackPicture({100, 12}, false, 6, plainLook(), [](double fraction) {
         return TrackColor{{fraction > 0.5 ? 1.5 : 1.0, 0, 0}, 1};
@@ -113,34 +113,13 @@ TEST(MixPaintingTest, WhatLeavesSRGBIsHatched)
     EXPECT_LT(after, 20);
 }
 
-TEST(MixPaintingTest, SquaresShineThroughTranslucentColours)
+TEST(PixelPaintingTest, SquaresShineThroughTranslucentColours)
 {
     const HostPixels track = trackPicture({60, 12}, false, 6, plainLook(), [](double fraction) {
         return TrackColor{{0, 0, 0}, fraction};
     });
     EXPECT_NE(track.row(3)[12], track.row(9)[12]);
     EXPECT_EQ(track.row(4)[55], blackPixel);
-}
-
-TEST(PlanePictureTest, WhatNoScreenShowsIsHatchedGround)
-{
-    const HostPixels plane = planePicture(ColorPlane(MixSpace::oklch, 264), {120, 90}, plainLook());
-    // The upper right corner is beyond every gamut.
-    int ground = 0;
-    int lines = 0;
-    for (int x = 80; x < 110; ++x)
-        (plane.row(8)[x] == 0xFFE0E0E0U ? ground : lines) += 1;
-    EXPECT_GT(ground, lines);
-    EXPECT_GT(lines, 0);
-    // Colours within sRGB are as they are.
-    EXPECT_EQ(plane.row(45)[5], ColorPlane(MixSpace::oklch, 264).picture({120, 90}).row(45)[5]);
-}
-
-TEST(PlanePictureTest, HSLHasNoBorders)
-{
-    const ColorPlane plane(MixSpace::hsl, 30);
-    EXPECT_EQ(planePicture(plane, {60, 40}, plainLook()).row(20)[30],
-              plane.picture({60, 40}).row(20)[30]);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "mix/MixPainting.h"
+#include "pageparts/PixelPainting.h"
 
 #include "csscolor/GamutMapping.h"
 
@@ -144,9 +144,9 @@ PixelPlace between(PixelPlace a, PixelPlace b, double share)
 
 }  // namespace
 
-MixLook lookOf(const HostCanvas& canvas, HostRect rect)
+PixelLook lookOf(const HostCanvas& canvas, HostRect rect)
 {
-    MixLook look;
+    PixelLook look;
     if (rect.width > 0) look.scale = canvas.pixelSizeOf(rect).width / rect.width;
     const HostColor window = canvas.themeColor(HostThemeColor::window);
     const HostColor text = canvas.themeColor(HostThemeColor::text);
@@ -174,6 +174,14 @@ std::uint32_t blended(std::uint32_t pixel, std::uint32_t color, double opacity)
     return mixedBytes(pixel, above, partsOf(opacity));
 }
 
+std::uint32_t checkAt(const PixelLook& look, int x, int y)
+{
+    const double side = 6 * std::max(look.scale, 0.1);
+    const bool isLight = (static_cast<int>(x / side) + static_cast<int>(y / side)) % 2 == 0;
+    if (look.isDark) return isLight ? 0xFF5A5A5AU : 0xFF3E3E3EU;
+    return isLight ? 0xFFFFFFFFU : 0xFFD0D0D0U;
+}
+
 std::vector<std::uint8_t> hatchOf(HostPixelSize size, double scale)
 {
     // In points.
@@ -192,10 +200,11 @@ void frameRounded(HostPixels& pixels, double radius, double lineWidth, const Hos
 {
     const HostPixelSize size = pixels.size();
     const std::uint32_t color = pixelOf(line);
+    const double opacity = line.alphaComponent();
     const auto paint = [&](std::uint32_t* from, const std::uint32_t* to, double distance) {
         // Pixels farther inside do not change.
         if (distance < -lineWidth - 1) return;
-        const double lined = 1 - covered(distance + lineWidth);
+        const double lined = (1 - covered(distance + lineWidth)) * opacity;
         const std::uint32_t cover = partsOf(covered(distance));
         for (std::uint32_t* pixel = from; pixel < to; ++pixel)
             *pixel = faded(blended(*pixel, color, lined), cover);
@@ -260,7 +269,7 @@ HostPixels markPicture(HostPixelSize size, double scale, std::uint32_t fill)
     return pixels;
 }
 
-HostPixels trackPicture(HostPixelSize size, bool isVertical, double inset, const MixLook& look,
+HostPixels trackPicture(HostPixelSize size, bool isVertical, double inset, const PixelLook& look,
                         const TrackColors& colors)
 {
     HostPixels pixels(size);
@@ -277,19 +286,12 @@ HostPixels trackPicture(HostPixelSize size, bool isVertical, double inset, const
         const TrackColor color = colors(std::clamp((along - inset) / room, 0.0, 1.0));
         columns.push_back({pixelOf(color.srgb), color.alpha, isOutsideSRGB(color.srgb)});
     }
-    const std::uint32_t lightCheck = look.isDark ? 0xFF5A5A5AU : 0xFFFFFFFFU;
-    const std::uint32_t darkCheck = look.isDark ? 0xFF3E3E3EU : 0xFFD0D0D0U;
     const std::vector<std::uint8_t> hatch = hatchOf(size, look.scale);
-    const double check = 6 * std::max(look.scale, 0.1);
     for (int y = 0; y < size.height; ++y) {
         for (int x = 0; x < size.width; ++x) {
             const Column& column = columns[static_cast<std::size_t>(isVertical ? y : x)];
             std::uint32_t pixel = column.pixel;
-            if (column.alpha < 1) {
-                const bool isLight =
-                    (static_cast<int>(x / check) + static_cast<int>(y / check)) % 2 == 0;
-                pixel = blended(isLight ? lightCheck : darkCheck, pixel, column.alpha);
-            }
+            if (column.alpha < 1) pixel = blended(checkAt(look, x, y), pixel, column.alpha);
             if (column.isOutside &&
                 hatch[static_cast<std::size_t>(x) + static_cast<std::size_t>(y)] != 0)
                 pixel = blended(pixel, blackPixel, hatchOnColors);

@@ -1,0 +1,190 @@
+#include "ScalesPageFixture.h"
+
+#include "csscolor/Contrast.h"
+#include "scales/ContrastLines.h"
+
+#include <cmath>
+
+namespace vantorel {
+namespace {
+
+using testing::HasSubstr;
+
+class GradientSectionTest : public ScalesPageTest {
+protected:
+    GradientSectionTest() { picker->performAction("gradient", nullptr); }
+
+    void enterEnd(const std::u16string& text)
+    {
+        auto& field = control<HeadlessTextField>("scalesGradientEnd");
+        field.setStringValue(text);
+        field.sendAction();
+    }
+    [[nodiscard]] std::u16string end()
+    {
+        return control<HeadlessTextField>("scalesGradientEnd").stringValue();
+    }
+    void enterSteps(const std::u16string& text)
+    {
+        auto& field = control<HeadlessTextField>("scalesGradientSteps");
+        field.setStringValue(text);
+        field.sendAction();
+    }
+    [[nodiscard]] const Swatches& gradient() { return strip("scalesGradientRow1").swatches(); }
+};
+
+TEST_F(GradientSectionTest, TheLastColourIsTypedInAnyForm)
+{
+    EXPECT_EQ(end(), u"#b57a00") << "the complement";
+    enterEnd(u"rgb(255 255 0)");
+    EXPECT_EQ(end(), u"#ffff00");
+    EXPECT_EQ(codeAt("scalesGradientRow1", 6), u"#ffff00");
+    enterEnd(u"no colour");
+    EXPECT_EQ(end(), u"#ffff00");
+    EXPECT_THAT(lastReport(), HasSubstr("not a colour"));
+    enterEnd(u" ");
+    EXPECT_EQ(end(), u"#b57a00");
+    EXPECT_EQ(panelCode(), u"#3b82f6");
+}
+
+TEST_F(GradientSectionTest, LeavingTheFieldKeepsTheComplement)
+{
+    control<HeadlessTextField>("scalesGradientEnd").sendAction();
+    panel.changeColor(rgbColor(255, 0, 0));
+    EXPECT_NE(end(), u"#b57a00") << "it is still the complement of the colour";
+}
+
+TEST_F(GradientSectionTest, StepsAndSpaceAreChosen)
+{
+    enterSteps(u"3");
+    EXPECT_EQ(gradient().size(), 3U);
+    const std::u16string oklch = codeAt("scalesGradientRow1", 1);
+    auto& space = control<HostPopUpButton>("scalesGradientSpace");
+    EXPECT_EQ(space.titleOfSelectedItem(), u"OKLCH, shorter hue");
+    space.selectItemWithTitle(u"sRGB");
+    space.sendAction();
+    EXPECT_NE(codeAt("scalesGradientRow1", 1), oklch);
+    enterSteps(u"99");
+    EXPECT_EQ(gradient().size(), 24U);
+}
+
+TEST_F(GradientSectionTest, TheEndsAreSwapped)
+{
+    enterEnd(u"#ffff00");
+    control<HeadlessButton>("scalesGradientSwap").click();
+    EXPECT_EQ(panelCode(), u"#ffff00");
+    EXPECT_EQ(end(), u"#3b82f6");
+    EXPECT_EQ(codeAt("scalesGradientRow1", 0), u"#ffff00");
+}
+
+TEST_F(GradientSectionTest, ItIsRemembered)
+{
+    enterEnd(u"#ffff00");
+    enterSteps(u"5");
+    auto& space = control<HostPopUpButton>("scalesGradientSpace");
+    space.selectItemWithTitle(u"Oklab");
+    space.sendAction();
+    start();
+    EXPECT_FALSE(view("scalesGradient").isParked()) << "the section, too";
+    EXPECT_EQ(end(), u"#ffff00");
+    EXPECT_EQ(gradient().size(), 5U);
+    EXPECT_EQ(control<HostPopUpButton>("scalesGradientSpace").titleOfSelectedItem(), u"Oklab");
+}
+
+TEST_F(GradientSectionTest, ADamagedMemoryCountsAsNone)
+{
+    for (const char* text :
+         {"", "{", "(1)", "{ Section = (scale); GradientSteps = x; GradientEnd = y; }",
+          "{ Section = other; GradientSpace = cmyk; GradientSteps = 99999999999999999999; }"}) {
+        ASSERT_TRUE(desktop.files().writeAtomically(
+            *desktop.files().applicationSupportDirectory() + "/Vantorel/Scales.plist", text));
+        start();
+        EXPECT_FALSE(view("scalesScale").isParked()) << text;
+        picker->performAction("gradient", nullptr);
+        EXPECT_EQ(gradient().size(), 7U) << text;
+    }
+}
+
+class ContrastSectionTest : public ScalesPageTest {
+protected:
+    ContrastSectionTest() { picker->performAction("contrast", nullptr); }
+
+    [[nodiscard]] std::u16string table()
+    {
+        return *view("scalesContrastLines").accessibleDescription();
+    }
+};
+
+TEST_F(ContrastSectionTest, TheTableSaysWhatPasses)
+{
+    EXPECT_EQ(table(), u"White 3.67 AA large; Black 5.70 AA");
+    panel.changeOtherColor(rgbColor(15, 23, 42), false);
+    EXPECT_EQ(table(), u"Background 4.85 AA; White 3.67 AA large; Black 5.70 AA");
+    panel.changeColor(rgbColor(20, 20, 40));
+    EXPECT_TRUE(table().ends_with(u"fails"));
+}
+
+TEST_F(ContrastSectionTest, AClickMendsTheContrast)
+{
+    panel.changeOtherColor(HostColor::whiteColor(), false);
+    EXPECT_EQ(strip("scalesContrastRow1").swatches().at(0).label,
+              u"AA " + codeAt("scalesContrastRow1", 0));
+    click("scalesContrastRow1", 0);
+    EXPECT_GE(*contrastRatio(*panel.color(), HostColor::whiteColor()), 4.5);
+    EXPECT_LT(*contrastRatio(*panel.color(), HostColor::whiteColor()), 4.7);
+    EXPECT_EQ(strip("scalesContrastRow1").swatches().at(0).label, u"AA passes");
+    click("scalesContrastRow1", 1);
+    EXPECT_GE(*contrastRatio(*panel.color(), HostColor::whiteColor()), 7);
+}
+
+TEST_F(ContrastSectionTest, TheBackgroundIsMendedWhenItIsEdited)
+{
+    panel.changeOtherColor(rgbColor(255, 255, 0, 0.9), true);
+    press("scalesContrastRow1", HostKey::end);
+    press("scalesContrastRow1", HostKey::pick);
+    EXPECT_GE(*contrastRatio(rgbColor(255, 255, 0, 0.9), *panel.color()), 7);
+}
+
+TEST_F(ContrastSectionTest, WhatCannotPassIsNotOffered)
+{
+    panel.changeOtherColor(rgbColor(119, 119, 119), false);
+    const Swatches& nearest = strip("scalesContrastRow1").swatches();
+    ASSERT_EQ(nearest.size(), 1U) << "no colour has 7:1 on this grey";
+    panel.changeOtherColor(HostColor::patternColor(), false);
+    EXPECT_EQ(table(), u"White 3.67 AA large; Black 5.70 AA");
+    panel.changeColor(rgbColor(255, 255, 255, 0.05));
+    EXPECT_TRUE(strip("scalesContrastRow1").swatches().empty());
+    EXPECT_FALSE(press("scalesContrastRow1", HostKey::pick));
+    EXPECT_EQ(view("scalesContrastRow1").accessibleDescription(), u"no lightness is enough");
+}
+
+TEST_F(ContrastSectionTest, TheScaleSaysWhatPassesOnTheBackground)
+{
+    panel.changeOtherColor(HostColor::whiteColor(), false);
+    const Swatches& scale = strip("scalesContrastRow2").swatches();
+    EXPECT_EQ(scale.front().label, u"\u2013");
+    EXPECT_EQ(scale[5].label, u"3:1");
+    EXPECT_EQ(scale.back().label, u"AAA");
+}
+
+TEST_F(ContrastSectionTest, RatiosAreRoundedDown)
+{
+    EXPECT_EQ(ratioText(desktop, 4.4999), u"4.49");
+    EXPECT_EQ(ratioText(desktop, 4.5), u"4.50");
+    EXPECT_EQ(ratioText(desktop, 21), u"21.00");
+}
+
+class VisionSectionTest : public ScalesPageTest {};
+
+TEST_F(VisionSectionTest, TheScaleIsShownAsItIsSeen)
+{
+    picker->performAction("vision", nullptr);
+    EXPECT_EQ(codeAt("scalesVisionRow1", 5), u"#3b82f6");
+    for (const char* row : {"scalesVisionRow2", "scalesVisionRow3", "scalesVisionRow4"})
+        EXPECT_NE(codeAt(row, 5), u"#3b82f6") << row;
+    const std::u16string grey = codeAt("scalesVisionRow5", 5);
+    EXPECT_EQ(grey.substr(1, 2), grey.substr(3, 2));
+}
+
+}  // namespace
+}  // namespace vantorel
