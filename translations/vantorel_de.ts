@@ -2394,6 +2394,62 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
         <translation>Beginnt mit dieser Seite: hex, mix, scales, palettes oder der Seite eines anderen Plug-ins.</translation>
     </message>
+    <message>
+        <source>give the snippet a name</source>
+        <translation>geben Sie der Codezeile einen Namen</translation>
+    </message>
+    <message>
+        <source>write a format</source>
+        <translation>schreiben Sie ein Format</translation>
+    </message>
+    <message>
+        <source>there is already a snippet &quot;%1&quot;</source>
+        <translation>es gibt schon eine Codezeile „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; removed</source>
+        <translation>„%1“ entfernt</translation>
+    </message>
+    <message>
+        <source>press %1 to bring it back</source>
+        <translation>drücken Sie %1, um sie zurückzuholen</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 4 MiB that you can read</source>
+        <translation>prüfen Sie, ob es eine Datei von höchstens 4 MiB ist, die Sie lesen dürfen</translation>
+    </message>
+    <message>
+        <source>snippets imported: %1</source>
+        <translation>importierte Codezeilen: %1</translation>
+    </message>
+    <message>
+        <source>check that it is a file that you can read</source>
+        <translation>prüfen Sie, ob es eine Datei ist, die Sie lesen dürfen</translation>
+    </message>
+    <message>
+        <source>there is no folder for your data</source>
+        <translation>es gibt keinen Ordner für Ihre Daten</translation>
+    </message>
+    <message>
+        <source>set HOME or XDG_DATA_HOME to a folder that you can write to</source>
+        <translation>setzen Sie HOME oder XDG_DATA_HOME auf einen Ordner, in den Sie schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>%1 has no place in the format</source>
+        <translation>%1 hat keinen Platz im Format</translation>
+    </message>
+    <message>
+        <source>write %1 where it belongs</source>
+        <translation>schreiben Sie %1 dorthin, wo der Wert stehen soll</translation>
+    </message>
+    <message>
+        <source>the format has %1 places for %2 values, so the last ones are copied unchanged</source>
+        <translation>das Format hat %1 Plätze für %2 Werte, daher bleiben die letzten unverändert</translation>
+    </message>
+    <message>
+        <source>write %% for a per cent sign</source>
+        <translation>schreiben Sie %% für ein Prozentzeichen</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3482,6 +3538,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>Window</source>
         <translation>Fenster</translation>
     </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Codezeilen</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -3536,6 +3596,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>Change a component in large steps</source>
         <translation>Anteil in großen Schritten ändern</translation>
     </message>
+    <message>
+        <source>Move a mark or change a number in coarse steps</source>
+        <translation>Marke oder Zahl in großen Schritten ändern</translation>
+    </message>
+    <message>
+        <source>Move a mark or change a number in fine steps</source>
+        <translation>Marke oder Zahl in feinen Schritten ändern</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PreferencesDialog</name>
@@ -3550,6 +3618,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Pages of the preferences</source>
+        <translation>Seiten der Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3644,131 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Escape or a click closes the list.</source>
         <translation>Escape oder ein Klick schließt die Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetEditor</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 255</source>
+        <translation>Rot, Grün, Blau von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 255</source>
+        <translation>Rot, Grün, Blau, Deckkraft von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue to 255, opacity to 1</source>
+        <translation>Rot, Grün, Blau bis 255, Deckkraft bis 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 1</source>
+        <translation>Rot, Grün, Blau von 0 bis 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 1</source>
+        <translation>Rot, Grün, Blau, Deckkraft von 0 bis 1</translation>
+    </message>
+    <message>
+        <source>One number: RRGGBB</source>
+        <translation>Eine Zahl: RRGGBB</translation>
+    </message>
+    <message>
+        <source>One number: AARRGGBB</source>
+        <translation>Eine Zahl: AARRGGBB</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>With this colour</source>
+        <translation>Mit dieser Farbe</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Every value has its place.</source>
+        <translation>Jeder Wert hat seinen Platz.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetPreferences</name>
+    <message>
+        <source>New snippet</source>
+        <translation>Neue Codezeile</translation>
+    </message>
+    <message>
+        <source>Add a snippet</source>
+        <translation>Codezeile hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the snippet</source>
+        <translation>Codezeile entfernen</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Verdoppeln</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importieren...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <source>Restore the program&apos;s snippets</source>
+        <translation>Codezeilen des Programms wiederherstellen</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Import snippets</source>
+        <translation>Codezeilen importieren</translation>
+    </message>
+    <message>
+        <source>Property lists (*.plist);;All files (*)</source>
+        <translation>Property-Listen (*.plist);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export snippets</source>
+        <translation>Codezeilen exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetRows</name>
+    <message>
+        <source>Snippets</source>
+        <translation>Codezeilen</translation>
     </message>
 </context>
 </TS>

@@ -2394,6 +2394,62 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
         <translation>Empieza con esta página: hex, mix, scales, palettes o la página de otro complemento.</translation>
     </message>
+    <message>
+        <source>give the snippet a name</source>
+        <translation>dé un nombre a la línea de código</translation>
+    </message>
+    <message>
+        <source>write a format</source>
+        <translation>escriba un formato</translation>
+    </message>
+    <message>
+        <source>there is already a snippet &quot;%1&quot;</source>
+        <translation>ya hay una línea de código «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; removed</source>
+        <translation>«%1» quitado</translation>
+    </message>
+    <message>
+        <source>press %1 to bring it back</source>
+        <translation>pulse %1 para recuperarla</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 4 MiB that you can read</source>
+        <translation>compruebe que es un archivo de 4 MiB como máximo que puede leer</translation>
+    </message>
+    <message>
+        <source>snippets imported: %1</source>
+        <translation>líneas de código importadas: %1</translation>
+    </message>
+    <message>
+        <source>check that it is a file that you can read</source>
+        <translation>compruebe que es un archivo que puede leer</translation>
+    </message>
+    <message>
+        <source>there is no folder for your data</source>
+        <translation>no hay carpeta para sus datos</translation>
+    </message>
+    <message>
+        <source>set HOME or XDG_DATA_HOME to a folder that you can write to</source>
+        <translation>ponga en HOME o XDG_DATA_HOME una carpeta en la que pueda escribir</translation>
+    </message>
+    <message>
+        <source>%1 has no place in the format</source>
+        <translation>%1 no tiene lugar en el formato</translation>
+    </message>
+    <message>
+        <source>write %1 where it belongs</source>
+        <translation>escriba %1 donde corresponda</translation>
+    </message>
+    <message>
+        <source>the format has %1 places for %2 values, so the last ones are copied unchanged</source>
+        <translation>el formato tiene %1 lugares para %2 valores, así que los últimos se copian sin cambios</translation>
+    </message>
+    <message>
+        <source>write %% for a per cent sign</source>
+        <translation>escriba %% para un signo de porcentaje</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3482,6 +3538,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Window</source>
         <translation>Ventana</translation>
     </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Líneas de código</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -3536,6 +3596,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Change a component in large steps</source>
         <translation>Cambiar un componente en pasos grandes</translation>
     </message>
+    <message>
+        <source>Move a mark or change a number in coarse steps</source>
+        <translation>Mover una marca o cambiar un número a pasos grandes</translation>
+    </message>
+    <message>
+        <source>Move a mark or change a number in fine steps</source>
+        <translation>Mover una marca o cambiar un número a pasos finos</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PreferencesDialog</name>
@@ -3550,6 +3618,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Pages of the preferences</source>
+        <translation>Páginas de las preferencias</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3644,131 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Escape or a click closes the list.</source>
         <translation>Escape o un clic cierra la lista.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetEditor</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 255</source>
+        <translation>Rojo, verde, azul de 0 a 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 255</source>
+        <translation>Rojo, verde, azul, opacidad de 0 a 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue to 255, opacity to 1</source>
+        <translation>Rojo, verde, azul hasta 255, opacidad hasta 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 1</source>
+        <translation>Rojo, verde, azul de 0 a 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 1</source>
+        <translation>Rojo, verde, azul, opacidad de 0 a 1</translation>
+    </message>
+    <message>
+        <source>One number: RRGGBB</source>
+        <translation>Un número: RRGGBB</translation>
+    </message>
+    <message>
+        <source>One number: AARRGGBB</source>
+        <translation>Un número: AARRGGBB</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>With this colour</source>
+        <translation>Con este color</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Every value has its place.</source>
+        <translation>Cada valor tiene su lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetPreferences</name>
+    <message>
+        <source>New snippet</source>
+        <translation>Nueva línea</translation>
+    </message>
+    <message>
+        <source>Add a snippet</source>
+        <translation>Añadir una línea de código</translation>
+    </message>
+    <message>
+        <source>Remove the snippet</source>
+        <translation>Quitar la línea de código</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importar...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>Restore the program&apos;s snippets</source>
+        <translation>Restaurar las líneas del programa</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Import snippets</source>
+        <translation>Importar líneas de código</translation>
+    </message>
+    <message>
+        <source>Property lists (*.plist);;All files (*)</source>
+        <translation>Listas de propiedades (*.plist);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export snippets</source>
+        <translation>Exportar líneas de código</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetRows</name>
+    <message>
+        <source>Snippets</source>
+        <translation>Líneas de código</translation>
     </message>
 </context>
 </TS>

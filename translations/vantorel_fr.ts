@@ -2394,6 +2394,62 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Start with this page: hex, mix, scales, palettes, or the page of another plug-in.</source>
         <translation>Commence par cette page : hex, mix, scales, palettes, ou la page d’un autre greffon.</translation>
     </message>
+    <message>
+        <source>give the snippet a name</source>
+        <translation>donnez un nom à la ligne de code</translation>
+    </message>
+    <message>
+        <source>write a format</source>
+        <translation>écrivez un format</translation>
+    </message>
+    <message>
+        <source>there is already a snippet &quot;%1&quot;</source>
+        <translation>il y a déjà une ligne de code « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; removed</source>
+        <translation>« %1 » retiré</translation>
+    </message>
+    <message>
+        <source>press %1 to bring it back</source>
+        <translation>appuyez sur %1 pour la rétablir</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 4 MiB that you can read</source>
+        <translation>vérifiez que c’est un fichier d’au plus 4 Mio que vous pouvez lire</translation>
+    </message>
+    <message>
+        <source>snippets imported: %1</source>
+        <translation>lignes de code importées : %1</translation>
+    </message>
+    <message>
+        <source>check that it is a file that you can read</source>
+        <translation>vérifiez que c’est un fichier que vous pouvez lire</translation>
+    </message>
+    <message>
+        <source>there is no folder for your data</source>
+        <translation>il n’y a pas de dossier pour vos données</translation>
+    </message>
+    <message>
+        <source>set HOME or XDG_DATA_HOME to a folder that you can write to</source>
+        <translation>donnez à HOME ou XDG_DATA_HOME un dossier où vous pouvez écrire</translation>
+    </message>
+    <message>
+        <source>%1 has no place in the format</source>
+        <translation>%1 n’a pas de place dans le format</translation>
+    </message>
+    <message>
+        <source>write %1 where it belongs</source>
+        <translation>écrivez %1 à l’endroit voulu</translation>
+    </message>
+    <message>
+        <source>the format has %1 places for %2 values, so the last ones are copied unchanged</source>
+        <translation>le format a %1 places pour %2 valeurs, donc les dernières sont copiées telles quelles</translation>
+    </message>
+    <message>
+        <source>write %% for a per cent sign</source>
+        <translation>écrivez %% pour un signe pour cent</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3482,6 +3538,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Window</source>
         <translation>Fenêtre</translation>
     </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Lignes de code</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelWindow</name>
@@ -3536,6 +3596,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Change a component in large steps</source>
         <translation>Modifier une composante par grands pas</translation>
     </message>
+    <message>
+        <source>Move a mark or change a number in coarse steps</source>
+        <translation>Déplacer un repère ou changer un nombre par grands pas</translation>
+    </message>
+    <message>
+        <source>Move a mark or change a number in fine steps</source>
+        <translation>Déplacer un repère ou changer un nombre par petits pas</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PreferencesDialog</name>
@@ -3550,6 +3618,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Pages of the preferences</source>
+        <translation>Pages des préférences</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
     </message>
 </context>
 <context>
@@ -3568,6 +3644,131 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Escape or a click closes the list.</source>
         <translation>Échap ou un clic ferme la liste.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetEditor</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 255</source>
+        <translation>Rouge, vert, bleu de 0 à 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 255</source>
+        <translation>Rouge, vert, bleu, opacité de 0 à 255</translation>
+    </message>
+    <message>
+        <source>Red, green, blue to 255, opacity to 1</source>
+        <translation>Rouge, vert, bleu jusqu’à 255, opacité jusqu’à 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue from 0 to 1</source>
+        <translation>Rouge, vert, bleu de 0 à 1</translation>
+    </message>
+    <message>
+        <source>Red, green, blue, opacity from 0 to 1</source>
+        <translation>Rouge, vert, bleu, opacité de 0 à 1</translation>
+    </message>
+    <message>
+        <source>One number: RRGGBB</source>
+        <translation>Un nombre : RRGGBB</translation>
+    </message>
+    <message>
+        <source>One number: AARRGGBB</source>
+        <translation>Un nombre : AARRGGBB</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>With this colour</source>
+        <translation>Avec cette couleur</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Every value has its place.</source>
+        <translation>Chaque valeur a sa place.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetPreferences</name>
+    <message>
+        <source>New snippet</source>
+        <translation>Nouvelle ligne</translation>
+    </message>
+    <message>
+        <source>Add a snippet</source>
+        <translation>Ajouter une ligne de code</translation>
+    </message>
+    <message>
+        <source>Remove the snippet</source>
+        <translation>Retirer la ligne de code</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importer...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exporter...</translation>
+    </message>
+    <message>
+        <source>Restore the program&apos;s snippets</source>
+        <translation>Rétablir les lignes du programme</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Import snippets</source>
+        <translation>Importer des lignes de code</translation>
+    </message>
+    <message>
+        <source>Property lists (*.plist);;All files (*)</source>
+        <translation>Listes de propriétés (*.plist);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export snippets</source>
+        <translation>Exporter des lignes de code</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::SnippetRows</name>
+    <message>
+        <source>Snippets</source>
+        <translation>Lignes de code</translation>
     </message>
 </context>
 </TS>

@@ -35,6 +35,7 @@ KnownSnippets::KnownSnippets(const HostFiles& files, std::vector<QTXCodeSnippet>
     const auto path = ownFile(files);
     SnippetFileReading own = readFile(files, path);
     _problems = std::move(own.problems);
+    _removed.insert(own.removed.begin(), own.removed.end());
     for (QTXCodeSnippet& snippet : own.snippets) {
         if (_names.insert(*snippet.nameSnippet()).second) {
             _snippets.push_back(std::move(snippet));
@@ -51,8 +52,10 @@ const std::vector<QTXCodeSnippet>& KnownSnippets::all()
 {
     if (_hasShipped) return _snippets;
     _hasShipped = true;
-    for (QTXCodeSnippet& snippet : readFile(_files, shippedFile(_files)).snippets)
+    for (QTXCodeSnippet& snippet : readFile(_files, shippedFile(_files)).snippets) {
+        if (_removed.contains(*snippet.nameSnippet())) continue;
         if (_names.insert(*snippet.nameSnippet()).second) _snippets.push_back(std::move(snippet));
+    }
     return _snippets;
 }
 

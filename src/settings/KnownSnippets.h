@@ -13,8 +13,8 @@
 namespace vantorel {
 
 /// All snippets that a program can offer: those of the settings, which the picker's page offers,
-/// then those of the user's own file, then those that ship with the program. Of snippets with the
-/// same name, the first counts.
+/// then those of the user's own file, then those that ship with the program, without those that the
+/// file names as removed. Of snippets with the same name, the first counts.
 class KnownSnippets {
 public:
     enum class Source : std::uint8_t { settings, own, shipped };
@@ -45,6 +45,8 @@ private:
     const HostFiles& _files;
     std::vector<QTXCodeSnippet> _snippets;
     std::set<std::u16string> _names;
+    /// Snippets of the program that the user does not want.
+    std::set<std::u16string> _removed;
     std::size_t _countOfSettings = 0;
     std::size_t _countOfOwn = 0;
     bool _hasShipped = false;

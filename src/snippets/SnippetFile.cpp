@@ -1,6 +1,7 @@
 #include "snippets/SnippetFile.h"
 
 #include "plist/PropertyListReader.h"
+#include "plist/PropertyListWriter.h"
 #include "snippets/SnippetValues.h"
 #include "text/Unicode.h"
 
@@ -9,6 +10,9 @@
 
 namespace vantorel {
 namespace {
+
+constexpr std::u16string_view snippetsKey = u"CodeSnippets";
+constexpr std::u16string_view removedKey = u"RemovedSnippets";
 
 Phrase formOfEntries()
 {
@@ -52,13 +56,18 @@ SnippetFileReading readSnippetFile(std::string_view utf8, const std::string& pat
              phrase("compare this line and the one before it with the examples in the manual")});
         return reading;
     }
-    const PropertyList* inside = list->valueForKey(u"CodeSnippets");
+    const PropertyList* inside = list->valueForKey(snippetsKey);
     const PropertyList::Array* entries = (inside != nullptr ? inside : &*list)->array();
     if (entries == nullptr) {
         reading.problems.push_back(
             {phrase("\"%1\" has no list of snippets", path),
              phrase("put the snippets into round brackets, separated by commas")});
         return reading;
+    }
+    if (const PropertyList* removed = list->valueForKey(removedKey);
+        removed != nullptr && removed->array() != nullptr) {
+        for (const PropertyList& name : *removed->array())
+            if (name.string() != nullptr) reading.removed.push_back(*name.string());
     }
     std::set<std::u16string> names;
     for (std::size_t i = 0; i < entries->size(); ++i) {
@@ -78,6 +87,19 @@ SnippetFileReading readSnippetFile(std::string_view utf8, const std::string& pat
         }
     }
     return reading;
+}
+
+std::string snippetFileText(std::span<const QTXCodeSnippet> snippets,
+                            std::span<const std::u16string> removed)
+{
+    PropertyList::Array entries;
+    for (const QTXCodeSnippet& snippet : snippets)
+        entries.push_back(snippet.propertyListRepresentation());
+    if (removed.empty()) return utf8FromUtf16(propertyListText(std::move(entries)));
+    PropertyList::Array names(removed.begin(), removed.end());
+    return utf8FromUtf16(
+        propertyListText(PropertyList::Dictionary{{std::u16string(snippetsKey), std::move(entries)},
+                                                  {std::u16string(removedKey), std::move(names)}}));
 }
 
 }  // namespace vantorel

@@ -18,24 +18,6 @@ constexpr std::array<std::uint8_t, 16> sampleBytes{0,   1,   2,   9,   10,  15, 
 /// What the other channels hold meanwhile.
 constexpr std::array<std::uint8_t, 2> otherBytes{128, 7};
 
-PhraseText<> nameOfPart(Part part)
-{
-    switch (part) {
-        case Part::red:
-            return phraseText("red");
-        case Part::green:
-            return phraseText("green");
-        case Part::blue:
-            return phraseText("blue");
-        case Part::opacity:
-            return phraseText("opacity");
-        case Part::rgb:
-        case Part::argb:
-            break;
-    }
-    return phraseText("the colour");
-}
-
 Phrase sentenceOf(const Obstacle& obstacle, const QTXCodeSnippet& snippet)
 {
     const PhraseText<> part = nameOfPart(obstacle.part);
@@ -120,6 +102,24 @@ std::optional<std::size_t> rivalOf(std::size_t snippet, const SnippetReaders& re
 }
 
 }  // namespace
+
+PhraseText<> nameOfPart(Part part)
+{
+    switch (part) {
+        case Part::red:
+            return phraseText("red");
+        case Part::green:
+            return phraseText("green");
+        case Part::blue:
+            return phraseText("blue");
+        case Part::opacity:
+            return phraseText("opacity");
+        case Part::rgb:
+        case Part::argb:
+            break;
+    }
+    return phraseText("the colour");
+}
 
 std::vector<Phrase> snippetLimits(const SnippetReaders& readers, std::size_t snippet)
 {

@@ -1,12 +1,15 @@
 #include "hosts/qt/QtColors.h"
 #include "panel/PanelTranslations.h"
 #include "panel/palettes/PalettesPage.h"
+#include "panel/preferences/PreferencesDialog.h"
 #include "panel/widgets/PanelTheme.h"
 #include "panel/window/PanelWindow.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QHash>
 #include <QLineEdit>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -85,6 +88,32 @@ QImage openedMenu(PanelWindow& window, const char* popUp)
     return image;
 }
 
+/// Returns the image with an index for each colour if it has few, of which letters need fewer than
+/// they have. Files of windows with much text are half as large then.
+QImage withFewColors(const QImage& image)
+{
+    constexpr QRgb kept = 0xfff8f8f8;
+    constexpr int mostColors = 256;
+    QList<QRgb> table;
+    QHash<QRgb, uchar> indexes;
+    QImage result(image.size(), QImage::Format_Indexed8);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const QRgb key = pixel & kept;
+            auto found = indexes.constFind(key);
+            if (found == indexes.constEnd()) {
+                if (table.size() == mostColors) return image;
+                found = indexes.insert(key, static_cast<uchar>(table.size()));
+                table.append(pixel);
+            }
+            result.scanLine(y)[x] = *found;
+        }
+    }
+    result.setColorTable(table);
+    return result;
+}
+
 struct Picture {
     const char* name;
     const char* color;
@@ -130,6 +159,18 @@ const std::vector<Picture>& pictures()
              emit lists.activated(lists.currentIndex());
              QTest::qWait(50);  // for the swatches to be laid out
              return wholePage(window);
+         }},
+        {"snippets", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             for (QAction* action : window.actions())
+                 if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_Comma))
+                     action->trigger();
+             auto* dialog = window.findChild<PreferencesDialog*>();
+             if (dialog == nullptr) qFatal("there are no preferences");
+             dialog->showPage(1);
+             dialog->resize(656, 460);
+             QApplication::processEvents();
+             return withFewColors(dialog->grab().toImage());
          }},
         {"colors", "#ff7f50", svgList, wholePage},
         {"settings", "#ff7f50", cssList,
@@ -190,7 +231,9 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
     window.show();
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window)) return false;
-    const QImage image = picture.take(window).convertToFormat(QImage::Format_RGB888);
+    QImage image = picture.take(window);
+    if (image.format() != QImage::Format_Indexed8)
+        image = image.convertToFormat(QImage::Format_RGB888);
     return image.save(folder + '/' + picture.name + ".png", "PNG", 0);
 }
 

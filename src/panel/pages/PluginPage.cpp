@@ -117,7 +117,7 @@ void PluginPage::setColor(const HostColor& color)
 std::vector<ShortcutRow> PluginPage::shortcuts() const
 {
     // What the host's fields and views do with keys on the page of any picker.
-    return {
+    std::vector<ShortcutRow> rows{
         {tr("Enter what was typed"), shownKeys({Qt::Key_Return})},
         {tr("Give up what was typed"), shownKeys({Qt::Key_Escape})},
         {tr("Change a component"), shownKeys({Qt::Key_Up, Qt::Key_Down})},
@@ -129,6 +129,14 @@ std::vector<ShortcutRow> PluginPage::shortcuts() const
          shownKeys({Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown})},
         {tr("Take the colour"), shownKeys({Qt::Key_Return})},
     };
+    // Pages cannot list keys of their own.
+    if (key() == QLatin1String("mix")) {
+        rows.push_back({tr("Move a mark or change a number in coarse steps"),
+                        shownKeys({Qt::SHIFT | Qt::Key_Left, Qt::SHIFT | Qt::Key_Up})});
+        rows.push_back({tr("Move a mark or change a number in fine steps"),
+                        shownKeys({Qt::CTRL | Qt::Key_Left, Qt::CTRL | Qt::Key_Up})});
+    }
+    return rows;
 }
 
 void PluginPage::finishEditing()

@@ -2,6 +2,12 @@
 
 #include <QDialog>
 
+#include <functional>
+#include <vector>
+
+class QListWidget;
+class QStackedWidget;
+
 namespace vantorel {
 
 class PanelPreferences;
@@ -19,8 +25,18 @@ public:
     /// Where further rows can be added.
     [[nodiscard]] GeneralPreferences& general() const { return *_general; }
 
+    using MakePage = std::function<QWidget*(QWidget* parent)>;
+    /// Adds a page after the others. It is made when it is first shown.
+    void addPage(const QString& name, MakePage makePage);
+    /// Shows the page at a place; the general one is 0.
+    void showPage(int page);
+
 private:
     GeneralPreferences* _general;
+    QListWidget* _names;
+    QStackedWidget* _pages;
+    /// For each page that has not been shown yet.
+    std::vector<MakePage> _makers;
 };
 
 }  // namespace vantorel

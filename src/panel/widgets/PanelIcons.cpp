@@ -52,6 +52,11 @@ QIcon downIcon()
     return iconFromStrokes(R"(<path d="M4.5 6.5L8 10l3.5-3.5"/>)");
 }
 
+QIcon upIcon()
+{
+    return iconFromStrokes(R"(<path d="M4.5 9.5L8 6l3.5 3.5"/>)");
+}
+
 QIcon rightIcon()
 {
     return iconFromStrokes(R"(<path d="M6.5 4.5L10 8l-3.5 3.5"/>)");

@@ -12,6 +12,7 @@ namespace vantorel {
 [[nodiscard]] QIcon menuIcon();
 [[nodiscard]] QIcon moreIcon();
 [[nodiscard]] QIcon downIcon();
+[[nodiscard]] QIcon upIcon();
 [[nodiscard]] QIcon rightIcon();
 [[nodiscard]] QIcon settingsIcon();
 /// These two in the text colour of buttons on `ground`.

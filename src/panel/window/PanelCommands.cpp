@@ -7,6 +7,7 @@
 #include "hosts/qt/WaylandSession.h"
 #include "panel/preferences/GeneralPreferences.h"
 #include "panel/preferences/PreferencesDialog.h"
+#include "panel/preferences/SnippetPreferences.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/window/AboutDialog.h"
 #include "panel/window/DialogSwitchesWindow.h"
@@ -46,11 +47,12 @@ QAction* PanelCommands::add(const QString& text, const QList<QKeySequence>& keys
 }
 
 PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& pages,
-                             ColorExchange& exchange)
+                             ColorExchange& exchange, HostFiles& files)
     : _window(window),
       _colors(colors),
       _pages(pages),
       _exchange(exchange),
+      _files(files),
       _menu(new QMenu(&window)),
       _copyMenu(new QMenu(tr("Copy as"), &window)),
       _copySnippetMenu(new QMenu(tr("More code snippets"), _copyMenu))
@@ -192,6 +194,13 @@ void PanelCommands::showPreferences()
     connect(_stayOnTop, &QAction::toggled, onTop, &QCheckBox::setChecked);
     dialog->general().addRow(tr("Window"), *onTop);
     dialog->general().addResidence();
+    dialog->addPage(tr("Snippets"), [this](QWidget* parent) {
+        auto* page = new SnippetPreferences(_files, _colors.color(), parent);
+        connect(&_colors, &PanelColors::colorChanged, page, &SnippetPreferences::setColor);
+        connect(page, &SnippetPreferences::changed, &_exchange, &ColorExchange::formChanged);
+        connect(page, &SnippetPreferences::copyRequested, &_exchange, &ColorExchange::copyText);
+        return page;
+    });
     dialog->show();
 }
 

@@ -19,7 +19,8 @@ class PanelCommands final : public QObject {
 
 public:
     /// The actions and menus belong to `window`. All must outlive the commands.
-    PanelCommands(QWidget& window, PanelColors& colors, PanelPages& pages, ColorExchange& exchange);
+    PanelCommands(QWidget& window, PanelColors& colors, PanelPages& pages, ColorExchange& exchange,
+                  HostFiles& files);
 
     [[nodiscard]] QAction& copy() const { return *_copy; }
     [[nodiscard]] QAction& pick() const { return *_pick; }
@@ -59,6 +60,7 @@ private:
     PanelColors& _colors;
     PanelPages& _pages;
     ColorExchange& _exchange;
+    HostFiles& _files;
     std::vector<QAction*> _all;
     QAction* _copy = nullptr;
     QAction* _undo = nullptr;

@@ -31,7 +31,7 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
     : _parts(*this),
       _host(desktop, *this, _colors, _parts.pages),
       _exchange(_colors, _parts.pages, *this, desktop.files(), std::move(screenPicker)),
-      _commands(*this, _colors, _parts.pages, _exchange),
+      _commands(*this, _colors, _parts.pages, _exchange, desktop.files()),
       _entry(*_parts.field, *_parts.facts, *_parts.forms, _colors, _parts.pages, _exchange)
 {
     setWindowTitle(QStringLiteral("Vantorel"));
