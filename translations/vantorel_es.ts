@@ -2879,7 +2879,7 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     </message>
     <message>
         <source>Shades</source>
-        <translation>Más oscuro</translation>
+        <translation>Oscuros</translation>
     </message>
     <message>
         <source>Split</source>
@@ -2915,7 +2915,7 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     </message>
     <message>
         <source>Tints</source>
-        <translation>Más claro</translation>
+        <translation>Claros</translation>
     </message>
     <message>
         <source>To</source>
@@ -2923,7 +2923,7 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     </message>
     <message>
         <source>Tones</source>
-        <translation>Más gris</translation>
+        <translation>Grises</translation>
     </message>
     <message>
         <source>Triad</source>
@@ -2959,7 +2959,7 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     </message>
     <message>
         <source>longer hue</source>
-        <translation>tono más largo</translation>
+        <translation>tono largo</translation>
     </message>
     <message>
         <source>no lightness is enough</source>
@@ -2975,7 +2975,7 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     </message>
     <message>
         <source>shorter hue</source>
-        <translation>tono más corto</translation>
+        <translation>tono corto</translation>
     </message>
     <message>
         <source>the colour itself</source>

@@ -2879,7 +2879,7 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     </message>
     <message>
         <source>Shades</source>
-        <translation>Plus foncé</translation>
+        <translation>Foncés</translation>
     </message>
     <message>
         <source>Split</source>
@@ -2915,7 +2915,7 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     </message>
     <message>
         <source>Tints</source>
-        <translation>Plus clair</translation>
+        <translation>Clairs</translation>
     </message>
     <message>
         <source>To</source>
@@ -2923,7 +2923,7 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     </message>
     <message>
         <source>Tones</source>
-        <translation>Plus gris</translation>
+        <translation>Grisés</translation>
     </message>
     <message>
         <source>Triad</source>
@@ -2959,7 +2959,7 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     </message>
     <message>
         <source>longer hue</source>
-        <translation>teinte longue</translation>
+        <translation>arc long</translation>
     </message>
     <message>
         <source>no lightness is enough</source>
@@ -2975,7 +2975,7 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     </message>
     <message>
         <source>shorter hue</source>
-        <translation>teinte courte</translation>
+        <translation>arc court</translation>
     </message>
     <message>
         <source>the colour itself</source>

@@ -41,13 +41,13 @@ public:
                           {.name = desktop().localizedString(u"Nearest colours that pass"),
                            .showsLabels = true,
                            .emptyText = desktop().localizedString(u"no lightness is enough")},
-                          nearestHeight, mostHeight)),
+                          {nearestHeight, mostHeight})),
           _scale(addWideRow(desktop().localizedString(u"The scale in place of the colour"),
                             {.name = desktop().localizedString(u"Contrasts of the scale"),
                              .isJoined = true,
                              .showsLabels = true,
                              .leastWidth = leastWidthForVerdict},
-                            onGroundHeight, mostHeight))
+                            {onGroundHeight, mostHeight}))
     {
         view().addSubview(_lines.view());
     }

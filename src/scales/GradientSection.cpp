@@ -14,13 +14,13 @@ namespace {
 // In points.
 constexpr double gradientHeight = 28;
 constexpr double mostGradientHeight = 72;
-constexpr double stepsWidth = 48;
-constexpr double besideText = 8;
+constexpr double stepsWidth = 40;
+constexpr double besideText = 6;
 constexpr double besideSwap = 24;
 
 std::u16string titleOfSpace(HostDesktop& desktop, const GradientSpace& space)
 {
-    const std::u16string name = space.name;
+    std::u16string name = space.name;
     if (space.space == ColorSpace::srgbLinear)
         return name + u", " + desktop.localizedString(u"linear light");
     if (!placeOfHue(space.space)) return name;
@@ -34,8 +34,8 @@ public:
     explicit GradientSection(ScalesPage& scalesPage)
         : ScalesSection(scalesPage, "scalesGradient",
                         scalesPage.panel().desktop().localizedString(u"Gradient")),
-          _strip(addWideRow(u"", {.name = title(), .isJoined = true}, gradientHeight,
-                            mostGradientHeight))
+          _strip(addWideRow(u"", {.name = title(), .isJoined = true},
+                            {gradientHeight, mostGradientHeight}))
     {
         addCopyMenu({{title(), [this] { return seriesOf("gradient", _strip.swatches()); }}}, true);
         makeControls();

@@ -8,6 +8,8 @@ constexpr double scaleHeight = 44;
 constexpr double mostScaleHeight = 64;
 constexpr double seriesHeight = 28;
 constexpr double mostSeriesHeight = 36;
+/// With the gap between them, these colours are as far apart as targets must be.
+constexpr double leastSeriesWidth = 20;
 
 class ScaleSection final : public ScalesSection {
 public:
@@ -15,7 +17,7 @@ public:
         : ScalesSection(scalesPage, "scalesScale",
                         scalesPage.panel().desktop().localizedString(u"Scale")),
           _scale(addWideRow(u"", {.name = title(), .isJoined = true, .showsLabels = true},
-                            scaleHeight, mostScaleHeight)),
+                            {scaleHeight, mostScaleHeight})),
           _tints(addSeries(desktop().localizedString(u"Tints"))),
           _shades(addSeries(desktop().localizedString(u"Shades"))),
           _tones(addSeries(desktop().localizedString(u"Tones")))
@@ -42,7 +44,8 @@ public:
 private:
     SwatchStrip& addSeries(const std::u16string& name)
     {
-        return addRow(name, {.name = name}, seriesHeight, mostSeriesHeight);
+        return addRow(name, {.name = name, .leastWidth = leastSeriesWidth},
+                      {seriesHeight, mostSeriesHeight});
     }
 
     SwatchStrip& _scale;

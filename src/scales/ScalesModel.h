@@ -29,10 +29,10 @@ using Swatches = std::vector<Swatch>;
 /// the same name.
 struct GradientSpace {
     /// Identifies it in the page's memory.
-    const char* key;
+    const char* key = "";
     /// As users know it.
-    const char16_t* name;
-    ColorSpace space;
+    const char16_t* name = u"";
+    ColorSpace space = ColorSpace::srgb;
     HueArc arc = HueArc::shorter;
 };
 /// The first one is chosen at first.

@@ -31,23 +31,23 @@ ScalesSection::ScalesSection(ScalesPage& page, std::string identifier, std::u16s
 }
 
 SwatchStrip& ScalesSection::addRow(const std::u16string& label, SwatchStrip::Options options,
-                                   double height, double most)
+                                   RowHeight height)
 {
     options.identifier = _identifier + "Row" + std::to_string(_rows.size() + 1);
     _rows.push_back(
         {label, false,
          std::make_unique<SwatchStrip>(_page.panel(), std::move(options),
                                        [this](const HostColor& color) { _page.choose(color); }),
-         height, most});
+         height});
     SwatchStrip& strip = *_rows.back().strip;
     _view->addSubview(strip.view());
     return strip;
 }
 
 SwatchStrip& ScalesSection::addWideRow(const std::u16string& label, SwatchStrip::Options options,
-                                       double height, double most)
+                                       RowHeight height)
 {
-    SwatchStrip& strip = addRow(label, std::move(options), height, most);
+    SwatchStrip& strip = addRow(label, std::move(options), height);
     _rows.back().isWide = true;
     return strip;
 }
@@ -57,7 +57,9 @@ void ScalesSection::addCopyMenu(std::vector<CopiedSeries> series, bool comesFirs
     HostControlDescription description;
     description.identifier = _identifier + "Copy";
     description.pointSize = scalesTextSize;
-    description.accessibleName = _title + u": " + desktop().localizedString(u"Copy all");
+    description.accessibleName = _title;
+    description.accessibleName += u": ";
+    description.accessibleName += desktop().localizedString(u"Copy all");
     _copy = desktop().interfaceFactory().makePopUpButton(description);
     _copy->setItems(copyMenu(_page.panel(), std::move(series), comesFirst));
     _view->addSubview(*_copy);
@@ -66,9 +68,10 @@ void ScalesSection::addCopyMenu(std::vector<CopiedSeries> series, bool comesFirs
 ColorSeries ScalesSection::seriesOf(const std::string& word, const Swatches& swatches) const
 {
     ColorSeries series{_page.model().name(), {}};
+    const std::string before = word.empty() ? "" : word + "-";
     for (const Swatch& swatch : swatches) {
         const std::string label = utf8FromUtf16(swatch.label);
-        series.entries.push_back({word.empty() ? label : word + "-" + label, swatch.color});
+        series.entries.push_back({before + label, swatch.color});
     }
     return series;
 }
@@ -100,7 +103,7 @@ double ScalesSection::heightOfRow(const Row& row, double width) const
 {
     const double before = row.isWide ? 0 : labelWidth();
     // The strip's own margin is outside of the section's edges.
-    return row.strip->heightFor(width - before + 2 * SwatchStrip::margin, row.leastHeight) -
+    return row.strip->heightFor(width - before + 2 * SwatchStrip::margin, row.height.least) -
            2 * SwatchStrip::margin;
 }
 
@@ -132,13 +135,13 @@ void ScalesSection::layOut(HostRect place)
     }
     double wanted = 0;
     for (const Row& row : _rows)
-        wanted += row.mostHeight - row.leastHeight;
+        wanted += row.height.most - row.height.least;
     const double leftOver = std::max(0.0, place.height - leastHeight(place.width));
     const double share = wanted > 0 ? std::min(1.0, leftOver / wanted) : 0;
     for (const Row& row : _rows) {
         const double before = row.isWide ? 0 : labelWidth();
-        const double height =
-            heightOfRow(row, place.width) + std::floor(share * (row.mostHeight - row.leastHeight));
+        const double height = heightOfRow(row, place.width) +
+                              std::floor(share * (row.height.most - row.height.least));
         top -= gap + betweenRows + captionOf(row) + height;
         row.strip->view().setFrame({left + before - SwatchStrip::margin, top - SwatchStrip::margin,
                                     place.width - before + 2 * SwatchStrip::margin,

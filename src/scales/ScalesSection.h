@@ -45,14 +45,18 @@ public:
     void drawRect(HostCanvas& canvas) override;
 
 protected:
+    /// The heights between which the colours of a row are, in points.
+    struct RowHeight {
+        double least = 0;
+        double most = 0;
+    };
     struct Row {
         /// Empty for a row without a name.
         std::u16string label;
         /// Whether the row takes the whole width, with its name above it.
         bool isWide = false;
         std::unique_ptr<SwatchStrip> strip;
-        double leastHeight = 0;
-        double mostHeight = 0;
+        RowHeight height = {};
     };
 
     static constexpr double gap = 4;
@@ -61,12 +65,12 @@ protected:
     /// `page` must outlive the section. `identifier` is that of its views, followed by a word.
     ScalesSection(ScalesPage& page, std::string identifier, std::u16string title);
 
-    /// Adds a row with its name before it. `height` is that of its colours.
-    SwatchStrip& addRow(const std::u16string& label, SwatchStrip::Options options, double height,
-                        double most);
+    /// Adds a row with its name before it.
+    SwatchStrip& addRow(const std::u16string& label, SwatchStrip::Options options,
+                        RowHeight height);
     /// Adds a row that takes the whole width. The name, if any, is above it.
     SwatchStrip& addWideRow(const std::u16string& label, SwatchStrip::Options options,
-                            double height, double most);
+                            RowHeight height);
     /// Adds the menu at the right end of the heading.
     void addCopyMenu(std::vector<CopiedSeries> series, bool comesFirst);
     /// Returns the colours of a row as they are copied.

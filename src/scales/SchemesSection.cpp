@@ -42,7 +42,7 @@ public:
         std::vector<CopiedSeries> copied;
         for (const Scheme scheme : allSchemes) {
             const std::u16string name = nameOfScheme(desktop(), scheme);
-            SwatchStrip& strip = addRow(name, {.name = name}, schemeHeight, mostSchemeHeight);
+            SwatchStrip& strip = addRow(name, {.name = name}, {schemeHeight, mostSchemeHeight});
             _strips[static_cast<std::size_t>(scheme)] = &strip;
             copied.push_back({name, [this, scheme, &strip] {
                                   return seriesOf(wordOf(scheme), strip.swatches());

@@ -37,7 +37,7 @@ public:
     {
         const auto add = [this](const std::u16string& name) {
             return &addRow(name, {.name = name, .isJoined = true, .leastWidth = leastSeenWidth},
-                           seenHeight, mostSeenHeight);
+                           {seenHeight, mostSeenHeight});
         };
         _usual = add(desktop().localizedString(u"Usual"));
         for (std::size_t i = 0; i < allVisions.size(); ++i)
