@@ -16,6 +16,11 @@ constexpr std::array<std::string_view, 5> sectionNames{"scale", "schemes", "grad
 
 }  // namespace
 
+ScalesPicker::~ScalesPicker()
+{
+    if (_memoryTimer) remember();
+}
+
 std::u16string ScalesPicker::buttonToolTip() const
 {
     HostDesktop& desktop = colorPanel().desktop();
@@ -131,6 +136,18 @@ void ScalesPicker::modelDidChange()
 {
     // The number of steps changes the height of a gradient.
     layOut();
+    rememberSoon();
+}
+
+void ScalesPicker::rememberSoon()
+{
+    constexpr double seconds = 1;
+    _memoryTimer = colorPanel().desktop().scheduleTimer(seconds, [this] { remember(); });
+}
+
+void ScalesPicker::remember()
+{
+    _memoryTimer.reset();
     writeScalesMemory(colorPanel().desktop().files(), _model, sectionNames[_chosen]);
 }
 
@@ -139,7 +156,7 @@ void ScalesPicker::chooseSection(std::size_t section)
     const bool isAnother = std::exchange(_chosen, section) != section;
     // A click on the chosen segment has switched it off.
     layOut();
-    if (isAnother) writeScalesMemory(colorPanel().desktop().files(), _model, sectionNames[_chosen]);
+    if (isAnother) rememberSoon();
 }
 
 void ScalesPicker::pageDidAppear()

@@ -20,6 +20,9 @@ public:
     static constexpr int scalesMode = 16;
 
     using HostColorPicker::HostColorPicker;
+    ~ScalesPicker() override;
+    ScalesPicker(const ScalesPicker&) = delete;
+    ScalesPicker& operator=(const ScalesPicker&) = delete;
 
     HostView* provideNewView(bool initialRequest) override;
     [[nodiscard]] bool supportsMode(int mode) const override { return mode == scalesMode; }
@@ -47,6 +50,9 @@ private:
     void makeChoice();
     void chooseSection(std::size_t section);
     void layOut();
+    /// Writes the page's memory after a while, because a number can change in many steps.
+    void rememberSoon();
+    void remember();
     /// Shows the colour in the sections that can be seen.
     void showSections();
 
@@ -59,6 +65,8 @@ private:
     std::unique_ptr<HostPopUpButton> _popUp;
     /// As it was before the page appeared.
     std::optional<bool> _acceptedMouseMoved;
+    /// Until the memory is written.
+    std::unique_ptr<HostTimer> _memoryTimer;
 };
 
 }  // namespace vantorel

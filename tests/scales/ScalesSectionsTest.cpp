@@ -91,11 +91,25 @@ TEST_F(GradientSectionTest, ItIsRemembered)
     EXPECT_EQ(control<HostPopUpButton>("scalesGradientSpace").titleOfSelectedItem(), u"Oklab");
 }
 
+TEST_F(GradientSectionTest, ManyStepsAreWrittenOnce)
+{
+    const std::string file =
+        *desktop.files().applicationSupportDirectory() + "/Vantorel/Scales.plist";
+    enterSteps(u"5");
+    enterSteps(u"6");
+    EXPECT_FALSE(desktop.files().contentsAtPath(file)) << "not at each step";
+    EXPECT_EQ(desktop.advance(2, [] {}), 1);
+    const auto written = desktop.files().contentsAtPath(file);
+    ASSERT_TRUE(written);
+    EXPECT_THAT(*written, HasSubstr("GradientSteps = 6"));
+}
+
 TEST_F(GradientSectionTest, ADamagedMemoryCountsAsNone)
 {
     for (const char* text :
          {"", "{", "(1)", "{ Section = (scale); GradientSteps = x; GradientEnd = y; }",
           "{ Section = other; GradientSpace = cmyk; GradientSteps = 99999999999999999999; }"}) {
+        leave();
         ASSERT_TRUE(desktop.files().writeAtomically(
             *desktop.files().applicationSupportDirectory() + "/Vantorel/Scales.plist", text));
         start();
