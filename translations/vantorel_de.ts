@@ -2450,6 +2450,42 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>write %% for a per cent sign</source>
         <translation>schreiben Sie %% für ein Prozentzeichen</translation>
     </message>
+    <message>
+        <source>a shortcut for all programs needs Ctrl, Alt or Meta</source>
+        <translation>ein Tastenkürzel für alle Programme braucht Strg, Alt oder Meta</translation>
+    </message>
+    <message>
+        <source>choose another shortcut</source>
+        <translation>wählen Sie ein anderes Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>this desktop lets no program have a shortcut of its own</source>
+        <translation>dieser Desktop lässt Programmen keine eigenen Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>bind &quot;vantorel-panel --pick-and-copy&quot; to a key in its settings</source>
+        <translation>legen Sie in seinen Einstellungen „vantorel-panel --pick-and-copy“ auf eine Taste</translation>
+    </message>
+    <message>
+        <source>the desktop did not accept the shortcut</source>
+        <translation>der Desktop hat das Tastenkürzel nicht angenommen</translation>
+    </message>
+    <message>
+        <source>choose another one, or allow it in the settings of the desktop</source>
+        <translation>wählen Sie ein anderes, oder erlauben Sie es in den Einstellungen des Desktops</translation>
+    </message>
+    <message>
+        <source>the keyboard has no key %1</source>
+        <translation>die Tastatur hat keine Taste %1</translation>
+    </message>
+    <message>
+        <source>another program has the shortcut %1</source>
+        <translation>ein anderes Programm hat das Tastenkürzel %1</translation>
+    </message>
+    <message>
+        <source>it is the nearest colour inside sRGB</source>
+        <translation>das ist die nächste Farbe in sRGB</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3181,6 +3217,18 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>Stay resident, with a tray icon</source>
         <translation>Weiterlaufen, mit Symbol in der Ablage</translation>
     </message>
+    <message>
+        <source>Pick from anywhere</source>
+        <translation>Überall aufnehmen</translation>
+    </message>
+    <message>
+        <source>Works while the panel stays resident.</source>
+        <translation>Geht, solange das Fenster weiterläuft.</translation>
+    </message>
+    <message>
+        <source>Press the keys, such as Ctrl+Alt+C.</source>
+        <translation>Drücken Sie die Tasten, etwa Strg+Alt+C.</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::LastColors</name>
@@ -3603,6 +3651,13 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Move a mark or change a number in fine steps</source>
         <translation>Marke oder Zahl in feinen Schritten ändern</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PortalShortcut</name>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>Eine Farbe vom Bildschirm aufnehmen</translation>
     </message>
 </context>
 <context>

@@ -2450,6 +2450,42 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>write %% for a per cent sign</source>
         <translation>escriba %% para un signo de porcentaje</translation>
     </message>
+    <message>
+        <source>a shortcut for all programs needs Ctrl, Alt or Meta</source>
+        <translation>un atajo para todos los programas necesita Ctrl, Alt o Meta</translation>
+    </message>
+    <message>
+        <source>choose another shortcut</source>
+        <translation>elija otro atajo</translation>
+    </message>
+    <message>
+        <source>this desktop lets no program have a shortcut of its own</source>
+        <translation>este escritorio no deja a los programas tener atajos propios</translation>
+    </message>
+    <message>
+        <source>bind &quot;vantorel-panel --pick-and-copy&quot; to a key in its settings</source>
+        <translation>asigne «vantorel-panel --pick-and-copy» a una tecla en sus ajustes</translation>
+    </message>
+    <message>
+        <source>the desktop did not accept the shortcut</source>
+        <translation>el escritorio no ha aceptado el atajo</translation>
+    </message>
+    <message>
+        <source>choose another one, or allow it in the settings of the desktop</source>
+        <translation>elija otro o permítalo en los ajustes del escritorio</translation>
+    </message>
+    <message>
+        <source>the keyboard has no key %1</source>
+        <translation>el teclado no tiene la tecla %1</translation>
+    </message>
+    <message>
+        <source>another program has the shortcut %1</source>
+        <translation>otro programa tiene el atajo %1</translation>
+    </message>
+    <message>
+        <source>it is the nearest colour inside sRGB</source>
+        <translation>es el color más cercano dentro de sRGB</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3181,6 +3217,18 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Stay resident, with a tray icon</source>
         <translation>Quedarse en segundo plano, con icono en la bandeja</translation>
     </message>
+    <message>
+        <source>Pick from anywhere</source>
+        <translation>Tomar desde cualquier lugar</translation>
+    </message>
+    <message>
+        <source>Works while the panel stays resident.</source>
+        <translation>Funciona mientras el panel se queda en segundo plano.</translation>
+    </message>
+    <message>
+        <source>Press the keys, such as Ctrl+Alt+C.</source>
+        <translation>Pulse las teclas, como Ctrl+Alt+C.</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::LastColors</name>
@@ -3603,6 +3651,13 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Move a mark or change a number in fine steps</source>
         <translation>Mover una marca o cambiar un número a pasos finos</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PortalShortcut</name>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>Tomar un color de la pantalla</translation>
     </message>
 </context>
 <context>

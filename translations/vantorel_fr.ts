@@ -2450,6 +2450,42 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>write %% for a per cent sign</source>
         <translation>écrivez %% pour un signe pour cent</translation>
     </message>
+    <message>
+        <source>a shortcut for all programs needs Ctrl, Alt or Meta</source>
+        <translation>un raccourci pour tous les programmes a besoin de Ctrl, Alt ou Meta</translation>
+    </message>
+    <message>
+        <source>choose another shortcut</source>
+        <translation>choisissez un autre raccourci</translation>
+    </message>
+    <message>
+        <source>this desktop lets no program have a shortcut of its own</source>
+        <translation>ce bureau ne laisse aux programmes aucun raccourci à eux</translation>
+    </message>
+    <message>
+        <source>bind &quot;vantorel-panel --pick-and-copy&quot; to a key in its settings</source>
+        <translation>associez « vantorel-panel --pick-and-copy » à une touche dans ses réglages</translation>
+    </message>
+    <message>
+        <source>the desktop did not accept the shortcut</source>
+        <translation>le bureau n’a pas accepté le raccourci</translation>
+    </message>
+    <message>
+        <source>choose another one, or allow it in the settings of the desktop</source>
+        <translation>choisissez-en un autre, ou autorisez-le dans les réglages du bureau</translation>
+    </message>
+    <message>
+        <source>the keyboard has no key %1</source>
+        <translation>le clavier n’a pas de touche %1</translation>
+    </message>
+    <message>
+        <source>another program has the shortcut %1</source>
+        <translation>un autre programme a le raccourci %1</translation>
+    </message>
+    <message>
+        <source>it is the nearest colour inside sRGB</source>
+        <translation>c’est la couleur la plus proche dans sRGB</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3181,6 +3217,18 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Stay resident, with a tray icon</source>
         <translation>Rester en arrière-plan, avec une icône dans la zone de notification</translation>
     </message>
+    <message>
+        <source>Pick from anywhere</source>
+        <translation>Prélever de partout</translation>
+    </message>
+    <message>
+        <source>Works while the panel stays resident.</source>
+        <translation>Fonctionne tant que le panneau reste en arrière-plan.</translation>
+    </message>
+    <message>
+        <source>Press the keys, such as Ctrl+Alt+C.</source>
+        <translation>Appuyez sur les touches, comme Ctrl+Alt+C.</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::LastColors</name>
@@ -3603,6 +3651,13 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Move a mark or change a number in fine steps</source>
         <translation>Déplacer un repère ou changer un nombre par petits pas</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PortalShortcut</name>
+    <message>
+        <source>Pick a colour from the screen</source>
+        <translation>Prélever une couleur à l’écran</translation>
     </message>
 </context>
 <context>

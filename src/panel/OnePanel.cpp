@@ -123,7 +123,7 @@ int OnePanel::runForOrder(PanelRequests& requests)
 
 int OnePanel::runForCalls(PanelService& service, PanelRequests& requests, PanelWindow& window)
 {
-    const PanelPreferences& preferences = window.commands().preferences();
+    PanelPreferences& preferences = window.commands().preferences();
     const Residence residence(window, preferences);
     std::optional<ServiceLifetime> lifetime;
     if (!preferences.staysResident()) {

@@ -139,8 +139,7 @@ SnippetFileContents snippetFileFor(const SnippetList& snippets, const SnippetLis
         --ownCount;
     }
     SnippetFileContents file;
-    file.own.assign(snippets.begin(),
-                    snippets.begin() + static_cast<std::ptrdiff_t>(ownCount));
+    file.own.assign(snippets.begin(), snippets.begin() + static_cast<std::ptrdiff_t>(ownCount));
     const std::set<std::u16string> names = namesOf(snippets, {});
     for (const QTXCodeSnippet& snippet : shipped)
         if (!names.contains(nameOf(snippet))) file.removed.push_back(nameOf(snippet));

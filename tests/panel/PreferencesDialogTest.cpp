@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequenceEdit>
+#include <QLabel>
 #include <QPointer>
 #include <QRadioButton>
 #include <QTemporaryDir>
@@ -98,6 +100,22 @@ TEST_F(PreferencesDialogTest, ResidenceIsKept)
     EXPECT_TRUE(PanelPreferences().staysResident());
     _preferences->setStaysResident(false);
     EXPECT_FALSE(child<QCheckBox>("residence").isChecked());
+}
+
+TEST_F(PreferencesDialogTest, TheShortcutIsForAResidentPanelAndIsKept)
+{
+    _dialog->general().addShortcut();
+    auto& keys = child<QKeySequenceEdit>("pickShortcut");
+    auto& note = child<QLabel>("pickShortcutNote");
+    EXPECT_FALSE(keys.isEnabled());
+    _preferences->setStaysResident(true);
+    ASSERT_TRUE(keys.isEnabled());
+    keys.setKeySequence(QKeySequence(QStringLiteral("Ctrl+Alt+C, Ctrl+D")));
+    EXPECT_EQ(PanelPreferences().pickShortcut(), "Ctrl+Alt+C") << "one key only";
+    _preferences->setShortcutProblem({phrase("it does not work")});
+    EXPECT_EQ(note.text(), "It does not work.");
+    keys.setKeySequence({});
+    EXPECT_EQ(PanelPreferences().pickShortcut(), "");
 }
 
 TEST_F(PreferencesDialogTest, WhatPickingDoesIsKept)

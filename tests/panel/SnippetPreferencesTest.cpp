@@ -120,8 +120,8 @@ TEST_F(SnippetPreferencesTest, AValueWithoutAPlaceIsNamed)
 TEST_F(SnippetPreferencesTest, ANameThatIsTakenOrEmptyIsNotKept)
 {
     auto& name = child<QLineEdit>("snippetName");
-    for (const QString& typed : {QStringLiteral("Two"), QStringLiteral("VBasic"),
-                                 QStringLiteral("  ")}) {
+    for (const QString& typed :
+         {QStringLiteral("Two"), QStringLiteral("VBasic"), QStringLiteral("  ")}) {
         typeInto(name, typed);
         rows().setFocus();
         EXPECT_EQ(shownNames(), (QStringList{"One", "Two", "Three"})) << typed.toStdString();
@@ -168,7 +168,8 @@ TEST_F(SnippetPreferencesTest, TheProgramsSnippetsCanBeRestored)
     typeFormat(QStringLiteral("changed"));
     child<QAction>("addSnippet").trigger();
     child<QAction>("restoreSnippets").trigger();
-    EXPECT_THAT(offeredNames(), testing::UnorderedElementsAre("One", "Two", "Three", "New snippet"));
+    EXPECT_THAT(offeredNames(),
+                testing::UnorderedElementsAre("One", "Two", "Three", "New snippet"));
     for (const QTXCodeSnippet& snippet : _offered.others())
         EXPECT_NE(snippet.formatStringSnippet(), u"changed");
 }

@@ -99,6 +99,16 @@ TEST_F(WideGamutTest, OtherProgramsGetTheNearestColour)
     EXPECT_TRUE(copied->text().startsWith("oklch("));
 }
 
+TEST_F(WideGamutTest, CopyingAFormOfSRGBSaysThatItIsTheNearestColour)
+{
+    enterIntoField(_wide);
+    _window->exchange().copyHexCode();
+    EXPECT_TRUE(message().contains("nearest colour inside sRGB")) << message().toStdString();
+    _window->exchange().copy();
+    EXPECT_TRUE(message().contains("copied")) << message().toStdString();
+    EXPECT_FALSE(message().contains("nearest")) << message().toStdString();
+}
+
 TEST_F(WideGamutTest, TheNameSaysThatItIsOutside)
 {
     enterIntoField(_wide);

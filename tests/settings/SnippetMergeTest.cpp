@@ -42,18 +42,18 @@ TEST(SnippetMergeTest, ChangesOfBothSidesAreKept)
         const char16_t* merged;
     };
     const Row rows[]{
-        {u"abc", u"abxc", u"abc", u"abxc"},   // added here
-        {u"abc", u"abc", u"abxc", u"abxc"},   // added there
-        {u"abc", u"axbc", u"abcy", u"axbcy"}, // added in both places
-        {u"abc", u"ac", u"abcy", u"acy"},     // removed here, added there
-        {u"abc", u"ab1c", u"abc2", u"ab1c2"}, // two snippets changed
-        {u"abc", u"ab1c", u"ab2c", u"ab1c"},  // the same one changed: the step made here counts
-        {u"abc", u"ac", u"ab2c", u"ab2c"},    // removed here, changed there
-        {u"abc", u"ab2c", u"ac", u"ab2c"},    // changed here, removed there
-        {u"abc", u"cab", u"abcy", u"cyab"},   // moved here, added there
-        {u"abc", u"abc1", u"cab", u"c1ab"},   // changed here, moved there
-        {u"abc", u"", u"abc", u""},           // all removed
-        {u"", u"x", u"y", u"xy"},             // added to an empty list
+        {u"abc", u"abxc", u"abc", u"abxc"},    // added here
+        {u"abc", u"abc", u"abxc", u"abxc"},    // added there
+        {u"abc", u"axbc", u"abcy", u"axbcy"},  // added in both places
+        {u"abc", u"ac", u"abcy", u"acy"},      // removed here, added there
+        {u"abc", u"ab1c", u"abc2", u"ab1c2"},  // two snippets changed
+        {u"abc", u"ab1c", u"ab2c", u"ab1c"},   // the same one changed: the step made here counts
+        {u"abc", u"ac", u"ab2c", u"ab2c"},     // removed here, changed there
+        {u"abc", u"ab2c", u"ac", u"ab2c"},     // changed here, removed there
+        {u"abc", u"cab", u"abcy", u"cyab"},    // moved here, added there
+        {u"abc", u"abc1", u"cab", u"c1ab"},    // changed here, moved there
+        {u"abc", u"", u"abc", u""},            // all removed
+        {u"", u"x", u"y", u"xy"},              // added to an empty list
     };
     for (const Row& row : rows) {
         EXPECT_EQ(lettersOf(mergedSnippets(listOf(row.base), listOf(row.mine), listOf(row.theirs))),
@@ -69,9 +69,10 @@ TEST(SnippetMergeTest, TheFileHoldsOnlyWhatTheProgramDoesNot)
         std::vector<std::u16string> removed;
     };
     const Row rows[]{
-        {u"pqr", u"", {}},         {u"xpqr", u"x", {}},   {u"pr", u"", {u"q"}},
-        {u"pq1r", u"pq1", {}},     {u"qpr", u"q", {}},    {u"pqrx", u"pqrx", {}},
-        {u"rqp", u"rq", {}},       {u"x", u"x", {u"p", u"q", u"r"}},
+        {u"pqr", u"", {}},    {u"xpqr", u"x", {}},
+        {u"pr", u"", {u"q"}}, {u"pq1r", u"pq1", {}},
+        {u"qpr", u"q", {}},   {u"pqrx", u"pqrx", {}},
+        {u"rqp", u"rq", {}},  {u"x", u"x", {u"p", u"q", u"r"}},
     };
     for (const Row& row : rows) {
         const SnippetFileContents file = snippetFileFor(listOf(row.snippets), listOf(u"pqr"));

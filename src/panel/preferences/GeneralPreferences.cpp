@@ -1,6 +1,7 @@
 #include "panel/preferences/GeneralPreferences.h"
 
 #include "hosts/qt/QtColors.h"
+#include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/preferences/PanelPreferences.h"
 #include "panel/widgets/PanelTheme.h"
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
+#include <QKeySequenceEdit>
 #include <QLocale>
 #include <QSignalBlocker>
 
@@ -63,13 +65,14 @@ void GeneralPreferences::addRule()
     _rows->addWidget(rule, _rows->rowCount(), 0, 1, 2);
 }
 
-void GeneralPreferences::addNote(const QString& text)
+QLabel* GeneralPreferences::addNote(const QString& text)
 {
     constexpr int smallText = 11;
     auto* note = new QuietLabel(text, this);
     note->setFont(fontOfSize(smallText));
     note->setWordWrap(true);
     _rows->addWidget(note, _rows->rowCount(), 1);
+    return note;
 }
 
 void GeneralPreferences::addTheme()
@@ -138,10 +141,44 @@ void GeneralPreferences::addResidence()
     connect(_residence, &QCheckBox::toggled, &_preferences, &PanelPreferences::setStaysResident);
 }
 
+void GeneralPreferences::addShortcut()
+{
+    _shortcut = new QKeySequenceEdit(this);
+    _shortcut->setObjectName(QStringLiteral("pickShortcut"));
+    _shortcut->setClearButtonEnabled(true);
+    addRow(tr("Pick from anywhere"), *_shortcut);
+    _shortcutNote = addNote({});
+    _shortcutNote->setObjectName(QStringLiteral("pickShortcutNote"));
+    showShortcut();
+    connect(_shortcut, &QKeySequenceEdit::keySequenceChanged, this,
+            [this](const QKeySequence& keys) {
+                // One key, not several after each other.
+                const QKeySequence first = keys.isEmpty() ? keys : QKeySequence(keys[0]);
+                _preferences.setPickShortcut(first.toString(QKeySequence::PortableText));
+            });
+}
+
+void GeneralPreferences::showShortcut()
+{
+    const QKeySequence keys =
+        QKeySequence::fromString(_preferences.pickShortcut(), QKeySequence::PortableText);
+    const QSignalBlocker blocker(_shortcut);
+    if (_shortcut->keySequence() != keys) _shortcut->setKeySequence(keys);
+    _shortcut->setEnabled(_preferences.staysResident());
+    const QString problem = translatedSentence(_preferences.shortcutProblem());
+    _shortcutNote->setText(!_preferences.staysResident()
+                               ? tr("Works while the panel stays resident.")
+                           : problem.isEmpty() ? tr("Press the keys, such as Ctrl+Alt+C.")
+                                               : problem);
+    // Screen readers read it with the field.
+    _shortcut->setAccessibleDescription(_shortcutNote->text());
+}
+
 void GeneralPreferences::showPreferences()
 {
     const QSignalBlocker blocker(_desktopStyle);
     if (_residence != nullptr) _residence->setChecked(_preferences.staysResident());
+    if (_shortcut != nullptr) showShortcut();
     _theme->setCurrentKey(_preferences.theme());
     _theme->setEnabled(!_preferences.usesDesktopStyle());
     _desktopStyle->setChecked(_preferences.usesDesktopStyle());

@@ -5,6 +5,8 @@
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
+class QKeySequenceEdit;
+class QLabel;
 
 namespace vantorel {
 
@@ -25,14 +27,17 @@ public:
     void addRule();
     /// Adds the choice to keep running when the window is closed.
     void addResidence();
+    /// Adds the key that picks from anywhere.
+    void addShortcut();
     /// Adds a sentence below a control.
-    void addNote(const QString& text);
+    QLabel* addNote(const QString& text);
 
 private:
     void addTheme();
     void addTextSize();
     void addPicking();
     void showPreferences();
+    void showShortcut();
     void changeTheme();
 
     PanelPreferences& _preferences;
@@ -44,6 +49,8 @@ private:
     SegmentedChoice* _average;
     /// Null unless it was added.
     QCheckBox* _residence = nullptr;
+    QKeySequenceEdit* _shortcut = nullptr;
+    QLabel* _shortcutNote = nullptr;
 };
 
 }  // namespace vantorel

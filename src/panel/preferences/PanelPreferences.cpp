@@ -14,6 +14,7 @@ constexpr ConfigurationFile preferencesFile("Preferences.plist");
 constexpr std::u16string_view afterPickingKey = u"AfterPicking";
 constexpr std::u16string_view averagedSideKey = u"AveragedSide";
 constexpr std::u16string_view desktopStyleKey = u"UsesDesktopStyle";
+constexpr std::u16string_view pickShortcutKey = u"PickShortcut";
 constexpr std::u16string_view residentKey = u"StaysResident";
 constexpr std::u16string_view textSizeKey = u"TextSize";
 constexpr std::u16string_view themeKey = u"Theme";
@@ -83,6 +84,10 @@ PanelPreferences::Values PanelPreferences::valuesFrom(const PropertyList& list)
     if (const int percent = text(textSizeKey).toInt(); isTextSize(percent))
         values.textSize = percent;
     values.staysResident = text(residentKey) == QStringView(yesText);
+    // A file may hold any text.
+    constexpr qsizetype longestShortcut = 100;
+    if (const QString keys = text(pickShortcutKey); keys.size() <= longestShortcut)
+        values.pickShortcut = keys;
     values.afterPicking = afterPickingFrom(text(afterPickingKey));
     if (const int side = text(averagedSideKey).toInt(); isAveragedSide(side))
         values.averagedSide = side;
@@ -98,6 +103,7 @@ PropertyList PanelPreferences::listFrom(const Values& values)
         entry(themeKey, values.theme),
         entry(desktopStyleKey, yesOrNo(values.usesDesktopStyle)),
         entry(residentKey, yesOrNo(values.staysResident)),
+        entry(pickShortcutKey, values.pickShortcut),
         entry(textSizeKey, QString::number(values.textSize)),
         entry(afterPickingKey, textOf(values.afterPicking)),
         entry(averagedSideKey, QString::number(values.averagedSide)),
@@ -123,6 +129,18 @@ void PanelPreferences::setTextSize(int percent)
 void PanelPreferences::setStaysResident(bool stays)
 {
     if (stays != _values.staysResident) write(residentKey, yesOrNo(stays));
+}
+
+void PanelPreferences::setPickShortcut(const QString& keys)
+{
+    if (keys != _values.pickShortcut) write(pickShortcutKey, keys);
+}
+
+void PanelPreferences::setShortcutProblem(const Message& problem)
+{
+    if (problem == _shortcutProblem) return;
+    _shortcutProblem = problem;
+    emit changed();
 }
 
 void PanelPreferences::setAfterPicking(AfterPicking after)

@@ -1,5 +1,8 @@
 #pragma once
 
+#ifndef Q_MOC_RUN  // moc cannot read concepts
+#include "result/Message.h"
+#endif
 #include "screenpick/PickOptions.h"
 
 #include <QObject>
@@ -43,6 +46,12 @@ public:
 
     /// Whether the panel keeps running when its window is closed.
     [[nodiscard]] bool staysResident() const { return _values.staysResident; }
+    /// The key that picks from anywhere while the panel is resident, as `QKeySequence` writes it in
+    /// files; empty if there is none.
+    [[nodiscard]] const QString& pickShortcut() const { return _values.pickShortcut; }
+    /// Why that key does not work; empty if it does. Not kept.
+    [[nodiscard]] const Message& shortcutProblem() const { return _shortcutProblem; }
+    void setShortcutProblem(const Message& problem);
     [[nodiscard]] AfterPicking afterPicking() const { return _values.afterPicking; }
     /// The side of the square whose average is picked; one of `averagedSides`.
     [[nodiscard]] int averagedSide() const { return _values.averagedSide; }
@@ -55,6 +64,7 @@ public:
     void setUsesDesktopStyle(bool uses);
     void setTextSize(int percent);
     void setStaysResident(bool stays);
+    void setPickShortcut(const QString& keys);
     void setAfterPicking(AfterPicking after);
     void setAveragedSide(int side);
 
@@ -68,6 +78,7 @@ private:
         bool usesDesktopStyle = false;
         int textSize = usualTextSize;
         bool staysResident = false;
+        QString pickShortcut;
         AfterPicking afterPicking = AfterPicking::shows;
         int averagedSide = averagedSides.front();
 
@@ -79,6 +90,7 @@ private:
     void write(std::u16string_view key, const QString& value);
 
     Values _values;
+    Message _shortcutProblem;
 };
 
 }  // namespace vantorel

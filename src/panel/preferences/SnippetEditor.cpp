@@ -217,9 +217,8 @@ SnippetEditor::SnippetEditor(QWidget* parent)
     });
     connect(_format, &QPlainTextEdit::textChanged, this, noteEdit);
     _format->installEventFilter(this);
-    connect(copy, &QPushButton::clicked, this, [this] {
-        emit copyRequested(qStringFrom(snippet().codeSnippetWithColorSpec(_spec)));
-    });
+    connect(copy, &QPushButton::clicked, this,
+            [this] { emit copyRequested(qStringFrom(snippet().codeSnippetWithColorSpec(_spec))); });
     setColor(HostColor::blackColor());
 }
 
@@ -242,7 +241,8 @@ void SnippetEditor::setSnippet(const QTXCodeSnippet& snippet)
         const QSignalBlocker blocker(_format);
         _format->setPlainText(format);
     }
-    _values->setCurrentIndex(_values->findData(qStringFrom(snippet.varFormSnippet().value_or(u""))));
+    _values->setCurrentIndex(
+        _values->findData(qStringFrom(snippet.varFormSnippet().value_or(u""))));
     showResult();
 }
 

@@ -102,7 +102,8 @@ void SnippetPreferences::layOut()
 {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(0);
-    for (QAction* action : {_actions.add, _actions.remove, _actions.up, _actions.down, _actions.undo}) {
+    for (QAction* action :
+         {_actions.add, _actions.remove, _actions.up, _actions.down, _actions.undo}) {
         auto* button = new QtToolButton(this);
         button->setDefaultAction(action);
         button->setAccessibleName(action->text());
@@ -149,9 +150,8 @@ void SnippetPreferences::showSnippets()
     QStringList lines;
     constexpr qsizetype longestLine = 300;
     for (const QTXCodeSnippet& snippet : _store.snippets()) {
-        lines.append(qStringFrom(snippet.codeSnippetWithColorSpec(_spec))
-                         .left(longestLine)
-                         .simplified());
+        lines.append(
+            qStringFrom(snippet.codeSnippetWithColorSpec(_spec)).left(longestLine).simplified());
     }
     _rows->setSnippets(_store.snippets(), lines);
     showCurrent();
@@ -165,7 +165,8 @@ void SnippetPreferences::showCurrent()
     if (row != _current) _editor->finishEditing();
     _current = hasRow ? row : -1;
     _editor->setEnabled(hasRow);
-    _editor->setSnippet(hasRow ? _store.snippets()[static_cast<std::size_t>(row)] : QTXCodeSnippet());
+    _editor->setSnippet(hasRow ? _store.snippets()[static_cast<std::size_t>(row)]
+                               : QTXCodeSnippet());
     _actions.remove->setEnabled(hasRow);
     _actions.duplicate->setEnabled(hasRow);
     _actions.up->setEnabled(hasRow && row > 0);
@@ -247,8 +248,8 @@ void SnippetPreferences::duplicateSnippet()
     if (_current < 0) return;
     SnippetList edited = _store.snippets();
     QTXCodeSnippet copy = edited[static_cast<std::size_t>(_current)];
-    copy.setNameSnippet(freeSnippetName(copy.nameSnippet().value_or(u""), edited,
-                                        _store.takenNames()));
+    copy.setNameSnippet(
+        freeSnippetName(copy.nameSnippet().value_or(u""), edited, _store.takenNames()));
     edited.insert(edited.begin() + (_current + 1), copy);
     const int place = _current + 1;
     change(edited);
@@ -266,11 +267,11 @@ void SnippetPreferences::removeSnippet()
     const Status status = _store.change(edited);
     take(status);
     if (!status) return;
-    _message->showMessage({phrase("\"%1\" removed", excerpt(name.toStdString())),
-                           phrase("press %1 to bring it back",
-                                  _actions.undo->shortcut().toString(QKeySequence::NativeText)
-                                      .toStdString())},
-                          MessageLabel::Kind::news);
+    _message->showMessage(
+        {phrase("\"%1\" removed", excerpt(name.toStdString())),
+         phrase("press %1 to bring it back",
+                _actions.undo->shortcut().toString(QKeySequence::NativeText).toStdString())},
+        MessageLabel::Kind::news);
 }
 
 void SnippetPreferences::moveUp()
@@ -296,9 +297,8 @@ void SnippetPreferences::redo()
 
 void SnippetPreferences::chooseImport()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Import snippets"), {},
-                                     tr("Property lists (*.plist);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Import snippets"), {}, tr("Property lists (*.plist);;All files (*)"));
     if (!path.isEmpty()) importFile(path);
 }
 
@@ -346,7 +346,8 @@ void SnippetPreferences::exportFile(const QString& path)
     const bool isWritten = _files.writeForOthers(QFile::encodeName(path).toStdString(),
                                                  snippetFileText(_store.snippets()));
     if (isWritten) {
-        _message->showMessage({phrase("saved as %1", path.toStdString())}, MessageLabel::Kind::news);
+        _message->showMessage({phrase("saved as %1", path.toStdString())},
+                              MessageLabel::Kind::news);
     } else {
         _message->showMessage(
             {phrase("\"%1\" could not be written", path.toStdString()),

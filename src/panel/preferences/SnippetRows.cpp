@@ -47,8 +47,8 @@ public:
         const QRect row = option.rect;
         const int grip = scaled(gripSize);
         const int inset = scaled(aroundGrip);
-        gripIcon().paint(painter, placed({row.left() + inset, row.center().y() - grip / 2, grip,
-                                          grip}));
+        gripIcon().paint(painter,
+                         placed({row.left() + inset, row.center().y() - grip / 2, grip, grip}));
         const int left = row.left() + grip + 2 * inset;
         const QRect texts(left, row.top() + scaled(3), row.right() - left - inset,
                           row.height() - 2 * scaled(3));

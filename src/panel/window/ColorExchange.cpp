@@ -196,7 +196,10 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
                 if (copies || after != AfterPicking::shows) copy();
                 if (after == AfterPicking::copiesHides) _window.showMinimized();
             }
-            if (done) done(result);
+            if (done)
+                done(result);
+            else if (result.outcome == ScreenPickResult::Outcome::picked)
+                emit picked();
         });
 }
 

@@ -74,6 +74,8 @@ public slots:
     void takeOneColor(vantorel::EditedColor which, const ColorOffer& offer);
 
 signals:
+    /// A pick that no other program has asked for has brought a colour.
+    void picked();
     void formChanged();
     /// A text was copied.
     void copied(const QString& text);

@@ -194,6 +194,7 @@ void PanelCommands::showPreferences()
     connect(_stayOnTop, &QAction::toggled, onTop, &QCheckBox::setChecked);
     dialog->general().addRow(tr("Window"), *onTop);
     dialog->general().addResidence();
+    dialog->general().addShortcut();
     dialog->addPage(tr("Snippets"), [this](QWidget* parent) {
         auto* page = new SnippetPreferences(_files, _colors.color(), parent);
         connect(&_colors, &PanelColors::colorChanged, page, &SnippetPreferences::setColor);

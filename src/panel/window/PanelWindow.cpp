@@ -87,7 +87,12 @@ void PanelWindow::connectParts()
     connect(&_commands.quit(), &QAction::triggered, this, &PanelWindow::quit);
     connect(&_exchange, &ColorExchange::reported, this, &PanelWindow::showMessage);
     connect(&_exchange, &ColorExchange::copied, this, [this](const QString& text) {
-        showMessage({phrase("\"%1\" copied", text.toStdString())});
+        // Only these forms hold a colour outside sRGB; all others got it mapped.
+        const bool isMapped = isOutsideSRGB(_colors.color()) &&
+                              !text.startsWith(QLatin1String("oklch(")) &&
+                              !text.startsWith(QLatin1String("color("));
+        showMessage({phrase("\"%1\" copied", text.toStdString()),
+                     isMapped ? phrase("it is the nearest colour inside sRGB") : Phrase()});
     });
     // What has failed before has succeeded now.
     connect(&_colors, &PanelColors::colorSet, this, [this] { showMessage({}); });

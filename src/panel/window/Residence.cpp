@@ -6,12 +6,20 @@
 #include <QMenu>
 #include <QSystemTrayIcon>
 
+#include <utility>
+
 namespace vantorel {
 
-Residence::Residence(PanelWindow& window, const PanelPreferences& preferences)
+Residence::Residence(PanelWindow& window, PanelPreferences& preferences)
     : _window(window), _preferences(preferences)
 {
     connect(&preferences, &PanelPreferences::changed, this, &Residence::follow);
+    connect(&_shortcut, &GlobalShortcut::activated, this, &Residence::pick);
+    connect(&_window.exchange(), &ColorExchange::picked, this, &Residence::followPick);
+    connect(&_shortcut, &GlobalShortcut::stateChanged, this, [this](const Message& problem) {
+        _preferences.setShortcutProblem(problem);
+        if (!problem.isEmpty()) _window.showMessage(problem, MessageLabel::Kind::failure);
+    });
     follow();
 }
 
@@ -24,6 +32,9 @@ void Residence::follow()
 {
     const bool stays = _preferences.staysResident();
     _window.setStaysResident(stays);
+    _shortcut.setKeys(
+        stays ? QKeySequence::fromString(_preferences.pickShortcut(), QKeySequence::PortableText)
+              : QKeySequence());
     if (stays) {
         showTray();
     } else if (_tray != nullptr) {
@@ -56,6 +67,18 @@ void Residence::showTray()
     }
     // The tray may come later; then the icon appears in it.
     _tray->show();
+}
+
+void Residence::pick()
+{
+    _isPicking = true;
+    _window.exchange().pick();
+}
+
+void Residence::followPick()
+{
+    if (std::exchange(_isPicking, false) && _preferences.afterPicking() == AfterPicking::shows)
+        showWindow();
 }
 
 void Residence::showWindow()
