@@ -76,11 +76,12 @@ void PortalShortcut::bind(const QKeySequence& keys)
     _keys = keys;
     if (!_bus.isConnected()) {
         _stage = Stage::over;
-        QMetaObject::invokeMethod(this, [this] { emit unavailable(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { emit unavailable(); }, Qt::QueuedConnection);
         return;
     }
-    QDBusMessage call = portalCall(QStringLiteral("org.freedesktop.DBus.Properties"),
-                                   QStringLiteral("Get"));
+    QDBusMessage call =
+        portalCall(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << shortcutsInterface << QStringLiteral("version");
     auto* watcher = new QDBusPendingCallWatcher(_bus.asyncCall(call, portalTimeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

@@ -35,8 +35,8 @@ X11Shortcut::X11Shortcut(QObject* parent, const char* display)
     // A connection of our own: Qt's gives events of other windows to nobody.
     if (xcb_connection_has_error(_server.get()) != 0) return;
     _root = xcb_setup_roots_iterator(xcb_get_setup(_server.get())).data->root;
-    _notifier = new QSocketNotifier(xcb_get_file_descriptor(_server.get()), QSocketNotifier::Read,
-                                    this);
+    _notifier =
+        new QSocketNotifier(xcb_get_file_descriptor(_server.get()), QSocketNotifier::Read, this);
     connect(_notifier, &QSocketNotifier::activated, this, &X11Shortcut::readEvents);
 }
 
@@ -80,17 +80,16 @@ void X11Shortcut::grab()
     const auto key = desktopKeyFrom(_keys);
     _keyCode = key ? keyCodeOf(key->symbol) : std::uint8_t{0};
     if (_keyCode == 0) {
-        emit failed({phrase("the keyboard has no key %1", shown),
-                     phrase("choose another shortcut")});
+        emit failed(
+            {phrase("the keyboard has no key %1", shown), phrase("choose another shortcut")});
         return;
     }
     _modifiers = key->modifiers;
     bool isTaken = false;
     for (const std::uint16_t lock : locks) {
         const auto modifiers = static_cast<std::uint16_t>(_modifiers | lock);
-        const xcb_void_cookie_t request =
-            xcb_grab_key_checked(_server.get(), 1, _root, modifiers, _keyCode,
-                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        const xcb_void_cookie_t request = xcb_grab_key_checked(
+            _server.get(), 1, _root, modifiers, _keyCode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
         const OwnedReply<xcb_generic_error_t> error(xcb_request_check(_server.get(), request));
         isTaken = isTaken || error;
     }
@@ -99,8 +98,8 @@ void X11Shortcut::grab()
         return;
     }
     release();
-    emit failed({phrase("another program has the shortcut %1", shown),
-                 phrase("choose another shortcut")});
+    emit failed(
+        {phrase("another program has the shortcut %1", shown), phrase("choose another shortcut")});
 }
 
 void X11Shortcut::release()

@@ -109,6 +109,23 @@ TEST_F(WideGamutTest, CopyingAFormOfSRGBSaysThatItIsTheNearestColour)
     EXPECT_FALSE(message().contains("nearest")) << message().toStdString();
 }
 
+TEST_F(WideGamutTest, TheMemoryKeepsTheColour)
+{
+    enterIntoField(_wide);
+    _window->colors().setOpacity(50);
+    _window->exchange().copy();
+    ASSERT_TRUE(writePanelMemory(_window->memory()));
+    const PanelMemory memory = readPanelMemory();
+    const auto read = memory.color.calibratedRGB().value_or(HostColor::Components{});
+    EXPECT_NEAR(read.red, -0.511, 0.001);
+    EXPECT_NEAR(read.green, 1.018, 0.001);
+    EXPECT_NEAR(read.alpha, 0.5, 0.001);
+    ASSERT_FALSE(memory.recent.empty());
+    EXPECT_LT(memory.recent.front().calibratedRGB()->red, -0.5);
+    ASSERT_TRUE(writePanelMemory(memory));
+    EXPECT_EQ(readPanelMemory().color, memory.color) << "a second writing changes nothing";
+}
+
 TEST_F(WideGamutTest, TheNameSaysThatItIsOutside)
 {
     enterIntoField(_wide);

@@ -76,10 +76,9 @@ private:
     void respond(const QDBusMessage& message, const QVariantMap& options, uint code,
                  const QVariantMap& results)
     {
-        const QString handle =
-            QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
-                .arg(message.service().mid(1).replace(u'.', u'_'),
-                     options.value(QStringLiteral("handle_token")).toString());
+        const QString handle = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+                                   .arg(message.service().mid(1).replace(u'.', u'_'),
+                                        options.value(QStringLiteral("handle_token")).toString());
         _bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(handle))));
         QDBusMessage signal = QDBusMessage::createTargetedSignal(
             message.service(), handle, QStringLiteral("org.freedesktop.portal.Request"),

@@ -1,9 +1,11 @@
 #include "panel/window/PanelMemory.h"
 
+#include "csscolor/CSSColorWriter.h"
 #include "csscolor/GamutMapping.h"
 #include "hosts/posix/PosixFiles.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/preferences/ConfigurationFile.h"
+#include "panel/widgets/ColorClipboard.h"
 #include "panel/window/ColorHistory.h"
 #include "plist/PropertyList.h"
 
@@ -11,6 +13,7 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <optional>
 
 namespace vantorel {
 namespace {
@@ -32,22 +35,35 @@ constexpr const char16_t* no = u"NO";
 
 QString textOf(const HostColor& color)
 {
-    return qColorFrom(mappedIntoSRGB(color)).name(QColor::HexArgb);
+    if (!isOutsideSRGB(color)) return qColorFrom(color).name(QColor::HexArgb);
+    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+    CSSColorValue value;
+    value.alpha = rgb.alpha;
+    value.space = ColorSpace::displayP3;
+    value.components =
+        convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, value.space);
+    return qStringFrom(cssTextIn(value.space, value));
+}
+
+/// Returns `std::nullopt` for a text that `textOf` does not write.
+std::optional<HostColor> colorOf(const QString& text)
+{
+    if (text.startsWith(QLatin1String("color("))) return colorFromText(text).color;
+    const QColor read(text);
+    if (!read.isValid()) return std::nullopt;
+    return hostColorFrom(read);
 }
 
 /// Leaves `color` unchanged if the text is not a colour.
 void readColor(const QString& text, HostColor& color)
 {
-    const QColor read(text);
-    if (read.isValid()) color = hostColorFrom(read);
+    if (const auto read = colorOf(text)) color = *read;
 }
 
 void readColors(const QStringList& texts, std::vector<HostColor>& colors)
 {
-    for (const QString& text : texts) {
-        const QColor color(text);
-        if (color.isValid()) colors.push_back(hostColorFrom(color));
-    }
+    for (const QString& text : texts)
+        if (const auto read = colorOf(text)) colors.push_back(*read);
 }
 
 PanelMemory memoryFrom(const QSettings& settings)
