@@ -139,6 +139,10 @@ Bedienelemente und Grafik: AA %6</translation>
         <source>Colour tables of office programs</source>
         <translation>Farbtabellen von Büroprogrammen</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -2486,6 +2490,42 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>it is the nearest colour inside sRGB</source>
         <translation>das ist die nächste Farbe in sRGB</translation>
     </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>das Bild kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>save it as PNG or JPEG, and open the file</source>
+        <translation>sichern Sie es als PNG oder JPEG und öffnen Sie die Datei</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 256 MiB that you can read</source>
+        <translation>prüfen Sie, ob es eine Datei von höchstens 256 MiB ist, die Sie lesen dürfen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read</source>
+        <translation>„%1“ ist kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>use PNG, JPEG, SVG, or WebP if Qt&apos;s plug-in for it is installed</source>
+        <translation>verwenden Sie PNG, JPEG, SVG oder, wenn das Plug-in von Qt dafür installiert ist, WebP</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 100 megapixels</source>
+        <translation>„%1“ hat mehr als 100 Megapixel</translation>
+    </message>
+    <message>
+        <source>make a smaller copy of it</source>
+        <translation>machen Sie eine kleinere Kopie davon</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged</source>
+        <translation>„%1“ ist beschädigt</translation>
+    </message>
+    <message>
+        <source>use another copy of it</source>
+        <translation>verwenden Sie eine andere Kopie davon</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3349,6 +3389,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>Give the selected colours the panel&apos;s colour, %1</source>
         <translation>Den gewählten Einträgen die Farbe des Fensters geben, %1</translation>
     </message>
+    <message>
+        <source>Colours of a picture...</source>
+        <translation>Farben eines Bildes ...</translation>
+    </message>
+    <message>
+        <source>Pick into this list</source>
+        <translation>In diese Liste aufnehmen</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteEdits</name>
@@ -3377,6 +3425,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Save a copy</source>
         <translation>Kopie sichern</translation>
+    </message>
+    <message>
+        <source>Colours of a picture</source>
+        <translation>Farben eines Bildes</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3551,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>As a grid</source>
         <translation>Als Raster</translation>
     </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelCommands</name>
@@ -3608,6 +3664,48 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Last colours</source>
         <translation>Letzte Farben</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureColors</name>
+    <message>
+        <source>Colours of &quot;%1&quot;</source>
+        <translation>Farben von „%1“</translation>
+    </message>
+    <message>
+        <source>Number of main colours</source>
+        <translation>Anzahl der Hauptfarben</translation>
+    </message>
+    <message>
+        <source>Main colours:</source>
+        <translation>Hauptfarben:</translation>
+    </message>
+    <message>
+        <source>Main colours of the picture</source>
+        <translation>Hauptfarben des Bildes</translation>
+    </message>
+    <message>
+        <source>Keep as a list</source>
+        <translation>Als Liste behalten</translation>
+    </message>
+    <message>
+        <source>The picture is transparent.</source>
+        <translation>Das Bild ist durchsichtig.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Click a colour to choose it, or move to it with the arrow keys and press Enter</source>
+        <translation>Klicken Sie auf eine Farbe, um sie zu wählen, oder gehen Sie mit den Pfeiltasten zu ihr und drücken Sie die Eingabetaste</translation>
+    </message>
+    <message>
+        <source>transparent</source>
+        <translation>durchsichtig</translation>
     </message>
 </context>
 <context>

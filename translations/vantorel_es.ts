@@ -139,6 +139,10 @@ Controles y gráficos: AA %6</translation>
         <source>Colour tables of office programs</source>
         <translation>Tablas de colores de programas de oficina</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -2486,6 +2490,42 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>it is the nearest colour inside sRGB</source>
         <translation>es el color más cercano dentro de sRGB</translation>
     </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>la imagen no se puede leer</translation>
+    </message>
+    <message>
+        <source>save it as PNG or JPEG, and open the file</source>
+        <translation>guárdela como PNG o JPEG y abra el archivo</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 256 MiB that you can read</source>
+        <translation>compruebe que sea un archivo de 256 MiB como máximo que pueda leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read</source>
+        <translation>«%1» no es una imagen que se pueda leer</translation>
+    </message>
+    <message>
+        <source>use PNG, JPEG, SVG, or WebP if Qt&apos;s plug-in for it is installed</source>
+        <translation>use PNG, JPEG, SVG, o WebP si está instalado el complemento de Qt para ello</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 100 megapixels</source>
+        <translation>«%1» tiene más de 100 megapíxeles</translation>
+    </message>
+    <message>
+        <source>make a smaller copy of it</source>
+        <translation>haga una copia más pequeña</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged</source>
+        <translation>«%1» está dañado</translation>
+    </message>
+    <message>
+        <source>use another copy of it</source>
+        <translation>use otra copia</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3349,6 +3389,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>Give the selected colours the panel&apos;s colour, %1</source>
         <translation>Dar a los colores seleccionados el color del panel, %1</translation>
     </message>
+    <message>
+        <source>Colours of a picture...</source>
+        <translation>Colores de una imagen...</translation>
+    </message>
+    <message>
+        <source>Pick into this list</source>
+        <translation>Tomar para esta lista</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteEdits</name>
@@ -3377,6 +3425,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Save a copy</source>
         <translation>Guardar una copia</translation>
+    </message>
+    <message>
+        <source>Colours of a picture</source>
+        <translation>Colores de una imagen</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3551,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>As a grid</source>
         <translation>Como cuadrícula</translation>
     </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelCommands</name>
@@ -3608,6 +3664,48 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Last colours</source>
         <translation>Últimos colores</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureColors</name>
+    <message>
+        <source>Colours of &quot;%1&quot;</source>
+        <translation>Colores de «%1»</translation>
+    </message>
+    <message>
+        <source>Number of main colours</source>
+        <translation>Número de colores principales</translation>
+    </message>
+    <message>
+        <source>Main colours:</source>
+        <translation>Colores principales:</translation>
+    </message>
+    <message>
+        <source>Main colours of the picture</source>
+        <translation>Colores principales de la imagen</translation>
+    </message>
+    <message>
+        <source>Keep as a list</source>
+        <translation>Guardar como lista</translation>
+    </message>
+    <message>
+        <source>The picture is transparent.</source>
+        <translation>La imagen es transparente.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Click a colour to choose it, or move to it with the arrow keys and press Enter</source>
+        <translation>Pulse sobre un color para elegirlo, o vaya a él con las flechas y pulse Intro</translation>
+    </message>
+    <message>
+        <source>transparent</source>
+        <translation>transparente</translation>
     </message>
 </context>
 <context>

@@ -139,6 +139,10 @@ Commandes et graphismes : AA %6</translation>
         <source>Colour tables of office programs</source>
         <translation>Tables de couleurs de suites bureautiques</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -2486,6 +2490,42 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>it is the nearest colour inside sRGB</source>
         <translation>c’est la couleur la plus proche dans sRGB</translation>
     </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>l’image ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>save it as PNG or JPEG, and open the file</source>
+        <translation>enregistrez-la en PNG ou JPEG et ouvrez le fichier</translation>
+    </message>
+    <message>
+        <source>check that it is a file of at most 256 MiB that you can read</source>
+        <translation>vérifiez que c’est un fichier d’au plus 256 Mio que vous pouvez lire</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be read</source>
+        <translation>« %1 » n’est pas une image lisible</translation>
+    </message>
+    <message>
+        <source>use PNG, JPEG, SVG, or WebP if Qt&apos;s plug-in for it is installed</source>
+        <translation>utilisez PNG, JPEG, SVG, ou WebP si le greffon de Qt pour ce format est installé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than 100 megapixels</source>
+        <translation>« %1 » a plus de 100 mégapixels</translation>
+    </message>
+    <message>
+        <source>make a smaller copy of it</source>
+        <translation>faites-en une copie plus petite</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged</source>
+        <translation>« %1 » est endommagé</translation>
+    </message>
+    <message>
+        <source>use another copy of it</source>
+        <translation>utilisez-en une autre copie</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3349,6 +3389,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>Give the selected colours the panel&apos;s colour, %1</source>
         <translation>Donner aux couleurs sélectionnées la couleur du panneau, %1</translation>
     </message>
+    <message>
+        <source>Colours of a picture...</source>
+        <translation>Couleurs d’une image...</translation>
+    </message>
+    <message>
+        <source>Pick into this list</source>
+        <translation>Prélever dans cette liste</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PaletteEdits</name>
@@ -3377,6 +3425,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Save a copy</source>
         <translation>Enregistrer une copie</translation>
+    </message>
+    <message>
+        <source>Colours of a picture</source>
+        <translation>Couleurs d’une image</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3551,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>As a grid</source>
         <translation>En grille</translation>
     </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
 </context>
 <context>
     <name>vantorel::PanelCommands</name>
@@ -3608,6 +3664,48 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Last colours</source>
         <translation>Dernières couleurs</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureColors</name>
+    <message>
+        <source>Colours of &quot;%1&quot;</source>
+        <translation>Couleurs de « %1 »</translation>
+    </message>
+    <message>
+        <source>Number of main colours</source>
+        <translation>Nombre de couleurs principales</translation>
+    </message>
+    <message>
+        <source>Main colours:</source>
+        <translation>Couleurs principales :</translation>
+    </message>
+    <message>
+        <source>Main colours of the picture</source>
+        <translation>Couleurs principales de l’image</translation>
+    </message>
+    <message>
+        <source>Keep as a list</source>
+        <translation>Garder en liste</translation>
+    </message>
+    <message>
+        <source>The picture is transparent.</source>
+        <translation>L’image est transparente.</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Click a colour to choose it, or move to it with the arrow keys and press Enter</source>
+        <translation>Cliquez sur une couleur pour la choisir, ou allez-y avec les flèches et appuyez sur Entrée</translation>
+    </message>
+    <message>
+        <source>transparent</source>
+        <translation>transparent</translation>
     </message>
 </context>
 <context>

@@ -73,4 +73,17 @@ std::u16string nameToStartFrom(const PaletteEntries& entries, std::size_t place)
     return FreeNames(entries).take(std::u16string(nearest->color.name));
 }
 
+PaletteEntries entriesNamedAfterCSS(const std::vector<HostColor>& colors)
+{
+    PaletteEntries entries;
+    FreeNames names;
+    for (const HostColor& color : colors) {
+        const auto nearest = nearestNamedColor(color);
+        const std::u16string name =
+            nearest ? std::u16string(nearest->color.name) : hexCodeOf(color);
+        entries.emplace_back(names.take(name), color);
+    }
+    return entries;
+}
+
 }  // namespace vantorel

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace vantorel {
 
@@ -20,5 +21,8 @@ namespace vantorel {
 /// only a code, the name of the nearest colour of CSS with a free number. The entry itself is not
 /// changed. `place` is a place in `entries`.
 [[nodiscard]] std::u16string nameToStartFrom(const PaletteEntries& entries, std::size_t place);
+
+/// Returns entries of colours that have no names, named after the nearest colours of CSS.
+[[nodiscard]] PaletteEntries entriesNamedAfterCSS(const std::vector<HostColor>& colors);
 
 }  // namespace vantorel

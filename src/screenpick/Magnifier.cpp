@@ -191,7 +191,8 @@ void Magnifier::buttonReleased(Qt::MouseButton button, Next next)
 void Magnifier::pick(Next next)
 {
     const QColor color = _shown.color;
-    if (next == Next::closes || !_options.pickedOnTheWay) {
+    const bool goesOn = next == Next::goesOn || _options.goesOn;
+    if (!goesOn || !_options.pickedOnTheWay) {
         finish(color);
         return;
     }

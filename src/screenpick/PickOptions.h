@@ -19,6 +19,9 @@ struct PickOptions {
     /// Called for each colour that is picked without ending the pick. Without it every pick is the
     /// last one.
     std::function<void(const HostColor&)> pickedOnTheWay = nullptr;
+    /// Whether no pick ends it, but only the user who leaves. Has no effect without a receiver of
+    /// colours that are picked on the way, and in the desktop's own picker.
+    bool goesOn = false;
 };
 
 }  // namespace vantorel

@@ -285,6 +285,25 @@ TEST_F(MagnifierTest, picksSeveralWhileShiftIsHeld)
     EXPECT_EQ(_onTheWay.size(), 2U);
 }
 
+TEST_F(MagnifierTest, whatGoesOnIsEndedOnlyByTheUser)
+{
+    PickOptions goesOn = options();
+    goesOn.goesOn = true;
+    _magnifier = std::make_unique<Magnifier>(DesktopPicture({{nullptr, {0, 0}, picture()}}),
+                                             QPoint(50, 60), goesOn);
+    QObject::connect(_magnifier.get(), &Magnifier::picked,
+                     [this](const QColor& color) { take(color); });
+    QObject::connect(_magnifier.get(), &Magnifier::pickedOnTheWay,
+                     [this](const QColor& color) { _onTheWay.push_back(color); });
+    QObject::connect(_magnifier.get(), &Magnifier::left, [this] { take(std::nullopt); });
+    click({80, 90});
+    click({81, 92});
+    EXPECT_THAT(answers(), ElementsAre());
+    key(Qt::Key_Escape);
+    EXPECT_THAT(answers(), ElementsAre(std::nullopt));
+    EXPECT_THAT(_onTheWay, ElementsAre(colorOf(80, 90), colorOf(81, 92)));
+}
+
 TEST_F(MagnifierTest, reportsNoResultOnceDestroyed)
 {
     key(Qt::Key_Return);

@@ -18,12 +18,17 @@ PaletteCommands::PaletteCommands(QWidget& page)
     _menu->addSeparator();
     add(_menu, Command::importFiles, tr("Import palette files..."), Qt::CTRL | Qt::Key_O,
         Needs::nothing);
+    add(_menu, Command::openPicture, tr("Colours of a picture..."), Qt::CTRL | Qt::Key_I,
+        Needs::nothing);
     add(_menu, Command::saveCopy, tr("Save a copy as a file..."), Qt::CTRL | Qt::Key_S,
         Needs::list);
     _menu->addSeparator();
 
     add(_colorMenu, Command::addColor, tr("Add the panel's colour"), Qt::Key_Insert, Needs::nothing)
         ->setIcon(addIcon());
+    add(_colorMenu, Command::pickColors, tr("Pick into this list"), Qt::CTRL | Qt::Key_L,
+        Needs::nothing)
+        ->setIcon(pickIcon());
     add(_colorMenu, Command::renameColor, tr("Rename"), Qt::Key_F2, Needs::selection);
     add(_colorMenu, Command::recolor, tr("Give it the panel's colour"), Qt::CTRL | Qt::Key_R,
         Needs::selection)

@@ -32,8 +32,7 @@ void PaletteEdits::addPanelColor()
                              MessageLabel::Kind::failure);
         return;
     }
-    const auto selected = _view.selectedPlaces();
-    const std::size_t before = selected.empty() ? _session.entries().size() : selected.back() + 1;
+    const std::size_t before = placeForMore();
     const bool canUndo = _session.canUndo();
     const std::size_t count = _session.entries().size();
     add(before, {PaletteEntry(proposedName(_color, _session.entries()), _color)});
@@ -47,6 +46,21 @@ void PaletteEdits::addPanelColor()
     }
     _view.setFocus();
     _view.renameAt(added.front());
+}
+
+std::size_t PaletteEdits::placeForMore()
+{
+    const auto selected = _view.selectedPlaces();
+    return selected.empty() ? _session.entries().size() : selected.back() + 1;
+}
+
+void PaletteEdits::addColors(const std::vector<HostColor>& colors)
+{
+    PaletteEntries entries;
+    entries.reserve(colors.size());
+    for (const HostColor& color : colors)
+        entries.emplace_back(hexCodeOf(color), color);
+    add(placeForMore(), entries);
 }
 
 void PaletteEdits::recolorSelected()

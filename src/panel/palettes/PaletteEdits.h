@@ -23,6 +23,8 @@ public:
 
     /// Adds the panel's colour after the selected ones, and lets the user name it.
     void addPanelColor();
+    /// Adds colours, named by their codes, after the selected ones.
+    void addColors(const std::vector<HostColor>& colors);
     /// Gives the selected entries the panel's colour.
     void recolorSelected();
     /// Moves the selected entries up, for -1, or down, for 1.
@@ -39,6 +41,8 @@ public:
 private:
     /// Adds entries to the shown list, or to a new one if none is shown.
     void add(std::size_t before, const PaletteEntries& entries);
+    /// The place after the selected entries, or the end of the list.
+    [[nodiscard]] std::size_t placeForMore();
 
     PaletteSession& _session;
     PaletteFilter& _filter;

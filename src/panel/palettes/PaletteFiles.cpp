@@ -4,11 +4,14 @@
 #include "listformats/ListReader.h"
 #include "paletteedit/FreeNames.h"
 #include "panel/palettes/ListFileFilters.h"
+#include "panel/palettes/PictureFile.h"
 #include "result/HarmlessLine.h"
 
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace vantorel {
 namespace {
@@ -90,11 +93,36 @@ void PaletteFiles::importUrls(const QList<QUrl>& urls)
     for (const QUrl& url : urls) {
         if (url.isLocalFile()) paths.append(url.toLocalFile());
     }
-    if (paths.isEmpty()) {
+    const auto isPicture = [](const QString& path) {
+        const ListFormat* format = listFormatOfFile(path.toStdString());
+        return (format == nullptr || !format->isRead) && isPictureFile(path);
+    };
+    const auto picture = std::find_if(paths.begin(), paths.end(), isPicture);
+    if (picture != paths.end()) {
+        // One at a time: each has a window of its own.
+        openPicture(*picture);
+    } else if (paths.isEmpty()) {
         _message.showMessage({phrase("only files on this computer can be imported")},
                              MessageLabel::Kind::failure);
     } else {
         importFiles(paths);
+    }
+}
+
+void PaletteFiles::choosePicture()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(&_page, tr("Colours of a picture"), {}, pictureFilter());
+    if (!path.isEmpty()) openPicture(path);
+}
+
+void PaletteFiles::openPicture(const QString& path)
+{
+    const Result<QImage> picture = readPicture(path);
+    if (picture) {
+        emit pictureOpened(*picture, QFileInfo(path).completeBaseName());
+    } else {
+        _message.showMessage(picture.error(), MessageLabel::Kind::failure);
     }
 }
 

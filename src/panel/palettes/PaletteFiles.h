@@ -3,6 +3,7 @@
 #include "panel/palettes/PaletteSession.h"
 #include "panel/widgets/MessageLabel.h"
 
+#include <QImage>
 #include <QUrl>
 #include <QWidget>
 
@@ -19,13 +20,19 @@ public:
     /// Lets the user choose the files.
     void chooseImport();
     void chooseCopy();
+    void choosePicture();
 
     void importFiles(const QStringList& paths);
-    /// Imports what the user has dropped.
+    /// Imports the colour lists that the user has dropped, or shows the colours of a picture.
     void importUrls(const QList<QUrl>& urls);
     /// Saves in the format of the file name's ending, or as a GIMP palette if the ending is
     /// unknown.
     void saveCopy(const QString& path);
+    void openPicture(const QString& path);
+
+signals:
+    /// The user wants to see the colours of a picture with this name.
+    void pictureOpened(const QImage& picture, const QString& name);
 
 private:
     /// Adds the list in a file. Returns false if that failed. Adds to the messages what the user

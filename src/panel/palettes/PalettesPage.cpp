@@ -39,7 +39,18 @@ QWidget* PalettesPage::makeWidget()
     });
     _widget->setArrangement(_arrangement);
     connect(_widget, &PalettesWidget::arrangementChosen, this, &PalettesPage::setArrangement);
+    connect(_widget, &PalettesWidget::picksRequested, this, &PalettesPage::picksRequested);
     return _widget;
+}
+
+void PalettesPage::addColors(const std::vector<HostColor>& colors)
+{
+    if (_widget) _widget->addColors(colors);
+}
+
+void PalettesPage::showPicture(const QImage& picture)
+{
+    if (_widget) _widget->showPicture(picture, {});
 }
 
 void PalettesPage::setArrangement(PaletteEntriesView::Arrangement arrangement)

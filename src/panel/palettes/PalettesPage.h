@@ -31,12 +31,20 @@ public:
     void setArrangement(PaletteEntriesView::Arrangement arrangement);
     [[nodiscard]] PaletteEntriesView::Arrangement arrangement() const { return _arrangement; }
 
+    /// Adds colours to the list that is shown, in one step. Has no effect unless the page has been
+    /// shown.
+    void addColors(const std::vector<HostColor>& colors);
+    /// Shows the colours of a picture, of which only the user may know the name. Has no effect
+    /// unless the page has been shown.
+    void showPicture(const QImage& picture);
     /// Makes a new list of these colours and lets the user name it. Has no effect unless the page
     /// is shown.
     void keepAsList(const QString& name, const std::vector<HostColor>& colors);
 
 signals:
     void arrangementChanged();
+    /// The user wants to pick colours from the screen, which `addColors` takes.
+    void picksRequested();
 
 protected:
     [[nodiscard]] QWidget* makeWidget() override;

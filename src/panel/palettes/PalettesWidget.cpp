@@ -4,6 +4,7 @@
 #include "hosts/qt/QtColors.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/palettes/PaletteControls.h"
+#include "panel/palettes/PictureColors.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/StyleFields.h"
 #include "result/HarmlessLine.h"
@@ -154,6 +155,7 @@ void PalettesWidget::connectControls()
     connect(_view, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
         _commands->colorMenu()->popup(_view->viewport()->mapToGlobal(at));
     });
+    connect(_files, &PaletteFiles::pictureOpened, this, &PalettesWidget::showPicture);
     connect(_progress, &PaletteProgress::stopPressed, &_updates, &PaletteUpdates::readNoMore);
 }
 
@@ -179,8 +181,10 @@ void PalettesWidget::connectCommands()
     });
     on(Command::removeList, [this] { removeList(); });
     on(Command::importFiles, [this] { _files->chooseImport(); });
+    on(Command::openPicture, [this] { _files->choosePicture(); });
     on(Command::saveCopy, [this] { _files->chooseCopy(); });
     on(Command::addColor, [this] { _edits->addPanelColor(); });
+    on(Command::pickColors, [this] { emit picksRequested(); });
     on(Command::renameColor, [this] { _edits->beginRename(); });
     on(Command::recolor, [this] { _edits->recolorSelected(); });
     on(Command::moveUp, [this] { _edits->stepSelected(-1); });
@@ -225,7 +229,7 @@ void PalettesWidget::changeEvent(QEvent* event)
 
 void PalettesWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!event->mimeData()->hasUrls()) return;
+    if (!event->mimeData()->hasUrls() && !event->mimeData()->hasImage()) return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
 }
@@ -234,7 +238,34 @@ void PalettesWidget::dropEvent(QDropEvent* event)
 {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    _files->importUrls(event->mimeData()->urls());
+    const QMimeData& dropped = *event->mimeData();
+    const QList<QUrl> urls = dropped.urls();
+    const bool hasFile =
+        std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+    // A browser offers the picture beside its address.
+    if (!hasFile && dropped.hasImage()) {
+        showPicture(dropped.imageData().value<QImage>(), {});
+    } else {
+        _files->importUrls(urls);
+    }
+}
+
+void PalettesWidget::showPicture(const QImage& picture, const QString& name)
+{
+    if (picture.isNull()) {
+        _message->showMessage({phrase("the picture cannot be read"),
+                               phrase("save it as PNG or JPEG, and open the file")},
+                              MessageKind::failure);
+        return;
+    }
+    auto* window = new PictureColors(picture, name.isEmpty() ? tr("Picture") : name, this);
+    connect(window, &PictureColors::colorChosen, this, &PalettesWidget::colorChosen);
+    connect(window, &PictureColors::kept, this,
+            [this, window](const QString& list, const PaletteEntries& entries) {
+                window->close();
+                startList(list, entries);
+            });
+    window->show();
 }
 
 void PalettesWidget::showCurrentList()

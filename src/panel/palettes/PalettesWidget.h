@@ -39,12 +39,18 @@ public:
     bool performKey(const QKeyEvent& event) { return _keys->perform(event); }
     /// Shows the colours of a list as rows or as a grid.
     void setArrangement(PaletteEntriesView::Arrangement arrangement);
+    /// Adds colours to the shown list in one step.
+    void addColors(const std::vector<HostColor>& colors) { _edits->addColors(colors); }
+    /// Shows the main colours of a picture in a window of their own. An empty name becomes another.
+    void showPicture(const QImage& picture, const QString& name);
     /// Adds a list, and lets the user name it.
     void startList(const QString& name, const PaletteEntries& entries);
 
 signals:
     /// The user has chosen a colour. Its opacity is not part of the list and should be ignored.
     void colorChosen(const vantorel::HostColor& color);
+    /// The user wants to pick colours from the screen, which `addColors` takes.
+    void picksRequested();
     /// The user has chosen how the colours are arranged.
     void arrangementChosen(vantorel::PaletteEntriesView::Arrangement arrangement);
 

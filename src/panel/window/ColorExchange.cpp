@@ -160,7 +160,13 @@ void ColorExchange::paste()
             return;
         }
         const QMimeData* held = QApplication::clipboard()->mimeData();
-        takeColor(held != nullptr ? colorFromMimeData(*held) : colorFromMimeData(QMimeData()));
+        const ColorOffer offer =
+            held != nullptr ? colorFromMimeData(*held) : colorFromMimeData(QMimeData());
+        if (!offer.color && held != nullptr && held->hasImage()) {
+            emit picturePasted(held->imageData().value<QImage>());
+        } else {
+            takeColor(offer);
+        }
     });
 }
 
@@ -201,6 +207,25 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
             else if (result.outcome == ScreenPickResult::Outcome::picked)
                 emit picked();
         });
+}
+
+void ColorExchange::pickMany(std::function<void(const std::vector<HostColor>&)> done)
+{
+    const auto picked = std::make_shared<std::vector<HostColor>>();
+    PickOptions options;
+    options.averagedSide = PanelPreferences().averagedSide();
+    // Only here a click does not end it, so the keys are always explained.
+    options.showsHints = true;
+    options.goesOn = true;
+    options.pickedOnTheWay = [picked](const HostColor& color) { picked->push_back(color); };
+    _screenPicker->start(&_window, options,
+                         [this, picked, done = std::move(done)](const ScreenPickResult& result) {
+                             using Outcome = ScreenPickResult::Outcome;
+                             if (result.outcome == Outcome::picked) picked->push_back(result.color);
+                             if (result.outcome == Outcome::notPossible)
+                                 emit reported(result.reason, MessageLabel::Kind::failure);
+                             if (!picked->empty()) done(*picked);
+                         });
 }
 
 void ColorExchange::takePick(const ScreenPickResult& result)

@@ -8,8 +8,10 @@
 #include "panel/window/PanelColors.h"
 #include "screenpick/ScreenPicker.h"
 
+#include <QImage>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -52,6 +54,10 @@ public:
     /// is copied at once. `done` gets the result for another program, so the preferences do not
     /// decide what follows; it may be null.
     void pickFromScreen(bool copies, ScreenPicker::Callback done);
+    /// Lets the user pick colours from the screen until they leave, and gives them to `done` then,
+    /// if there are any. The panel's colour stays. Where the desktop has its own picker, one is
+    /// picked.
+    void pickMany(std::function<void(const std::vector<HostColor>&)> done);
     /// Cancels the pick in progress, if any.
     void cancelPick();
     /// How many picks have succeeded, up to the number from which on no hints are shown.
@@ -77,6 +83,8 @@ signals:
     /// A pick that no other program has asked for has brought a colour.
     void picked();
     void formChanged();
+    /// A picture was pasted, not a colour.
+    void picturePasted(const QImage& picture);
     /// A text was copied.
     void copied(const QString& text);
     /// Something the user should know, such as why there is no colour to paste. Empty if something

@@ -127,6 +127,14 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
                 page->keepAsList(tr("Last colours"), colors);
             });
     _palettes = palettes.get();
+    connect(&_exchange, &ColorExchange::picturePasted, this, [this](const QImage& picture) {
+        _parts.pages.showPageWithKey(_palettes->key());
+        _palettes->showPicture(picture);
+    });
+    connect(_palettes, &PalettesPage::picksRequested, this, [this] {
+        _exchange.pickMany(
+            [this](const std::vector<HostColor>& colors) { _palettes->addColors(colors); });
+    });
     addPage(std::move(palettes));
 }
 
