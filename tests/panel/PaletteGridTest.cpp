@@ -125,6 +125,15 @@ TEST_F(PaletteGridPageTest, ArrowsMoveInTwoDimensionsAndReturnPicks)
     EXPECT_EQ(chosenColor(), QColor(columns(), 0, 0));
 }
 
+TEST_F(PaletteGridPageTest, AltAndTheArrowsBesideMoveASwatch)
+{
+    click(2, Qt::ControlModifier);
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shownNames().substr(0, 26), "colour 0 colour 2 colour 1");
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(shownNames().substr(0, 26), "colour 0 colour 1 colour 2");
+}
+
 TEST_F(PaletteGridPageTest, TypedLettersSearchEvenThoseThatAreShortcuts)
 {
     put("data/Vantorel/Palettes/Words.gpl",

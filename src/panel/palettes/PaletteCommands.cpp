@@ -115,6 +115,10 @@ QAction* PaletteCommands::actionFor(const QKeyEvent& event, bool inField) const
     const QKeySequence pressed(event.keyCombination());
     // Ctrl+Y means redo on other desktops.
     if (!inField && pressed == QKeySequence(Qt::CTRL | Qt::Key_Y)) return action(Command::redo);
+    // In a grid, what is before a colour is beside it.
+    if (!inField && pressed == QKeySequence(Qt::ALT | Qt::Key_Left)) return action(Command::moveUp);
+    if (!inField && pressed == QKeySequence(Qt::ALT | Qt::Key_Right))
+        return action(Command::moveDown);
     for (const auto& [command, offer] : _offers) {
         if (offer.action->shortcut() != pressed) continue;
         // A field has its own use for these keys.

@@ -22,6 +22,11 @@ constexpr int markSide = 11;
 PictureView::PictureView(const QImage& picture, QWidget* parent)
     : QWidget(parent), _picture(picture.convertToFormat(QImage::Format_ARGB32))
 {
+    constexpr int mostSide = 2048;
+    _reduced =
+        std::max(_picture.width(), _picture.height()) > mostSide
+            ? _picture.scaled(mostSide, mostSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+            : _picture;
     setObjectName(QStringLiteral("pictureView"));
     setAccessibleName(tr("Picture"));
     setToolTip(
@@ -85,7 +90,7 @@ void PictureView::paintEvent(QPaintEvent*)
     const QSize pixels = (QSizeF(room.size()) * ratio).toSize();
     if (_scaled.size() != pixels) {
         _scaled = QPixmap::fromImage(
-            _picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+            _reduced.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         _scaled.setDevicePixelRatio(ratio);
     }
     const ThemeColors theme = themeColors(palette());

@@ -40,6 +40,8 @@ private:
     void setMark(QPoint mark);
 
     QImage _picture;
+    /// The same, small enough to be scaled whenever the window changes its size.
+    QImage _reduced;
     /// The picture at its size on the screen.
     QPixmap _scaled;
     /// The point of the view that the keyboard has reached.
