@@ -8,8 +8,8 @@ import subprocess
 class Client:
     """Talks with a server that it starts. `read` waits for a message, at most a minute."""
 
-    def __init__(self, command, **options):
-        self.server = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, bufsize=0, **options)
+    def __init__(self, command, env):
+        self.server = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, bufsize=0, env=env)
         self.received = b""
         self.last_id = 0
 

@@ -31,8 +31,8 @@ def peak_memory(pid):
 
 
 class LspTest(ProgramTest):
-    def client(self, program=PROGRAM, **options):
-        client = Client([program, "lsp"], env=self.environment, **options)
+    def client(self, program=PROGRAM):
+        client = Client([program, "lsp"], env=self.environment)
         self.addCleanup(client.close)
         return client
 
