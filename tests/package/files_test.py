@@ -120,7 +120,7 @@ class SharedDataTest(TreeTest):
     def test_lists_of_web_designers_are_offered(self):
         names = self.passes(f"{TREE}/bin/vantorel", "lists", "--names").splitlines()
         self.assertLessEqual({"Material", "Tailwind 3", "Tailwind 4"}, set(names))
-        self.assertEqual(self.passes(f"{TREE}/bin/vantorel", "name", "--list", "Tailwind 3", "#3b82f6"), "blue-500")
+        self.assertEqual(self.passes(f"{TREE}/bin/vantorel", "name", "--list", "Tailwind 3", "#3b82f6"), "blue-500\n")
 
     def test_the_snippets_of_the_program_are_found(self):
         self.assertIn("\nSwiftUI\n", self.passes(f"{TREE}/bin/vantorel", "snippets", "--names"))
