@@ -102,6 +102,20 @@ TEST_F(PaletteGridPageTest, SwatchesLieInRowsAsWideAsThePage)
     }
 }
 
+TEST_F(PaletteGridPageTest, TheScrollBarCoversNoSwatch)
+{
+    choose("list");
+    _window->resizeToPage({276, 400});
+    QApplication::processEvents();
+    choose("grid");
+    const QRect last = placeOf(columns() - 1);
+    const QPoint right = view()->mapTo(page(), QPoint(last.right() - 1, last.center().y()));
+    const QImage picture = page()->grab().toImage();
+    const QColor ground = picture.pixelColor(right + QPoint(0, last.height() / 2 + 2));
+    EXPECT_NE(picture.pixelColor(right), ground);
+    EXPECT_NE(picture.pixelColor(right + QPoint(1, 0)), ground);
+}
+
 TEST_F(PaletteGridPageTest, ArrowsMoveInTwoDimensionsAndReturnPicks)
 {
     view()->setCurrentIndex(view()->model()->index(0, 0));

@@ -99,6 +99,7 @@ void PaletteEntriesView::arrange()
     const int beside = std::max(scaled(palettecontrols::pageMargin) - bar, -mostOverlap);
     // Qt breaks a row that fills the width exactly.
     setViewportMargins(0, 0, isGrid ? beside - 1 : 0, 0);
+    if (isGrid) viewport()->raise();
     scheduleDelayedItemsLayout();
     setDropRow(-1);
 }

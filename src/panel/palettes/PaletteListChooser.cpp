@@ -77,14 +77,16 @@ void PaletteListChooser::paintEvent(QPaintEvent*)
         style()
             ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
             .adjusted(gap, 0, -gap, 0);
+    const int iconWidth = option.currentIcon.isNull() ? 0 : option.iconSize.width() + gap;
     const int countWidth = _count->sizeHint().width();
-    const int nameRoom = std::max(0, room.width() - gap - countWidth);
+    const int nameRoom = std::max(0, room.width() - iconWidth - gap - countWidth);
     option.currentText =
         option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, nameRoom);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
     const int nameWidth =
         std::min(option.fontMetrics.horizontalAdvance(option.currentText), nameRoom);
-    const QRect place(room.left() + nameWidth + gap, room.top(), countWidth, room.height());
+    const QRect place(room.left() + iconWidth + nameWidth + gap, room.top(), countWidth,
+                      room.height());
     const QRect shown = QStyle::visualRect(layoutDirection(), room, place);
     if (_count->geometry() != shown) _count->setGeometry(shown);
 }
