@@ -107,6 +107,13 @@ TEST_F(SnippetPreferencesTest, WhatIsTypedIsTriedAtOnceAndKeptWhenTheFieldIsLeft
     EXPECT_EQ(_offered.others().front().formatStringSnippet(), u"mine %d/%d/%d");
 }
 
+TEST_F(SnippetPreferencesTest, WhatIsTypedIsKeptWhenThePageIsDestroyed)
+{
+    typeFormat(QStringLiteral("mine %d/%d/%d"));
+    _page.reset();
+    EXPECT_EQ(_offered.others().front().formatStringSnippet(), u"mine %d/%d/%d");
+}
+
 TEST_F(SnippetPreferencesTest, AValueWithoutAPlaceIsNamed)
 {
     typeFormat(QStringLiteral("%d, %d"));

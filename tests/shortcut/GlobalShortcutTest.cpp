@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace vantorel {
@@ -38,6 +40,13 @@ private:
 
 class GlobalShortcutTest : public testing::Test {
 protected:
+    ~GlobalShortcutTest() override
+    {
+        // Methods are destroyed by the event loop, and each knows this test.
+        _shortcut.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
     void use(const std::vector<Behaviour>& behaviours)
     {
         std::vector<GlobalShortcut::MakeMethod> methods;

@@ -53,7 +53,12 @@ SnippetPreferences::SnippetPreferences(HostFiles& files, const HostColor& color,
     _message->showMessages(_store.problems(), MessageLabel::Kind::failure);
 }
 
-SnippetPreferences::~SnippetPreferences() = default;
+SnippetPreferences::~SnippetPreferences()
+{
+    // The focus leaves the fields now, while what was typed can be entered.
+    blockSignals(true);
+    hide();
+}
 
 QAction* SnippetPreferences::add(const QString& text, const QIcon& icon,
                                  const QList<QKeySequence>& keys,
