@@ -161,6 +161,21 @@ TEST_F(PictureColorsTest, SvgIsAPictureAndListsAreImported)
     EXPECT_EQ(colors(), "tomato, #FF6347");
 }
 
+TEST_F(PictureColorsTest, ADrawingOpensNoOtherFile)
+{
+    const QString other = save("other.png", "PNG");
+    for (const char* attribute : {"href", "xlink:href", "xlink:HREF"}) {
+        put("elsewhere/p.svg",
+            "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+            "width='4' height='4'><rect width='4' height='4' fill='#ff6347'/><image width='4' "
+            "height='4' " +
+                QByteArray(attribute) + "='" + other.toUtf8() + "'/></svg>");
+        const auto picture = readPicture(at("elsewhere/p.svg"));
+        ASSERT_TRUE(picture) << attribute;
+        EXPECT_EQ(picture->pixelColor(300, 450), QColor(0xFF, 0x63, 0x47)) << attribute;
+    }
+}
+
 TEST_F(PictureColorsTest, BrokenAndGiantPicturesAreReported)
 {
     const QByteArray whole = [this] {

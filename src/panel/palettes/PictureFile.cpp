@@ -1,5 +1,6 @@
 #include "panel/palettes/PictureFile.h"
 
+#include "panel/palettes/SvgPicture.h"
 #include "result/HarmlessLine.h"
 
 #include <QColorSpace>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr qint64 largestPictureFile = qint64{256} << 20;
 constexpr qint64 mostPixels = 100'000'000;
-constexpr int vectorSide = 1024;
 
 /// While it exists, pictures may take the memory that `mostPixels` of 8 bytes need, in MiB.
 class RoomForPictures {
@@ -56,17 +56,15 @@ Result<QImage> readPicture(const QString& path)
         return Message{phrase("\"%1\" is not a picture that can be read", name),
                        phrase("use PNG, JPEG, SVG, or WebP if Qt's plug-in for it is installed")};
     }
-    const QSize size = reader.size();
-    if (reader.format().startsWith("svg")) {
-        const QSize wanted = size.isEmpty() ? QSize(1, 1) : size;
-        reader.setScaledSize(
-            wanted.scaled(vectorSide, vectorSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    } else if (qint64{size.width()} * size.height() > mostPixels) {
+    const bool isSvg = reader.format().startsWith("svg");
+    // The size of a drawing is not asked for, because Qt would open what the drawing refers to.
+    const QSize size = isSvg ? QSize() : reader.size();
+    if (qint64{size.width()} * size.height() > mostPixels) {
         return Message{phrase("\"%1\" has more than 100 megapixels", name),
                        phrase("make a smaller copy of it")};
     }
     const RoomForPictures room;
-    QImage image = reader.read();
+    QImage image = isSvg ? readSvgPicture(path) : reader.read();
     if (image.isNull()) {
         return Message{phrase("\"%1\" is damaged", name), phrase("use another copy of it")};
     }
