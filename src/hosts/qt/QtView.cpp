@@ -32,7 +32,8 @@ void disposeOf(QWidget* widget)
         delete widget;
         return;
     }
-    // Not disconnected: Qt forgets what assistive technology knows of a widget when it is destroyed.
+    // Not disconnected: Qt forgets what assistive technology knows of a widget when it is
+    // destroyed.
     widget->blockSignals(true);
     widget->installEventFilter(new LastFilter(widget));
     widget->setVisible(false);
