@@ -7,11 +7,11 @@
 
 namespace vantorel {
 
-/// A colour that stands for many pixels of a picture.
+/// A colour that many pixels of a picture are close to.
 struct MainColor {
     /// 0xRRGGBB.
     std::uint32_t value = 0;
-    /// The share of the pixels for which it stands, 0..1.
+    /// The share of these pixels in the picture, 0..1.
     double share = 0;
 
     bool operator==(const MainColor&) const = default;

@@ -16,7 +16,7 @@ bool isWordByte(char c)
     return isLetterOrDigit(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
 
-/// Whether a "/" after this byte begins a regular expression of JavaScript, and is no division.
+/// Whether a "/" after this byte begins a regular expression of JavaScript, not a division.
 bool precedesExpression(char previous)
 {
     return previous == '\0' ||

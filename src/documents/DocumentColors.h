@@ -37,7 +37,7 @@ enum class WrittenForm : std::uint8_t {
     snippet,
 };
 
-/// Stands for no block or declaration.
+/// The index of no block or declaration.
 inline constexpr std::uint32_t notInDocument = 0xFFFFFFFF;
 
 struct DocumentColor {
