@@ -2,6 +2,7 @@
 
 #include "GtkDragData.h"
 #include "GtkHand.h"
+#include "GtkMenuHand.h"
 #include "hosts/gtk/GtkHostBox.h"
 #include "hosts/gtk/GtkHostColorPanel.h"
 #include "hosts/gtk/GtkHostTextField.h"
@@ -9,7 +10,6 @@
 
 #include <gdk/gdkkeysyms.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -63,17 +63,6 @@ guint keyOf(HandKey key)
             break;
     }
     return GDK_KEY_Tab;
-}
-
-/// The text of the first label in a widget; empty if it has none.
-std::u16string labelIn(GtkWidget* widget)
-{
-    if (GTK_IS_LABEL(widget)) return coreText(gtk_label_get_text(GTK_LABEL(widget)));
-    if (!GTK_IS_CONTAINER(widget)) return {};
-    for (GtkWidget* part : rowsOf(widget)) {
-        if (std::u16string text = labelIn(part); !text.empty()) return text;
-    }
-    return {};
 }
 
 class GtkUnderTest final : public HostUnderTest {
@@ -191,8 +180,8 @@ public:
     }
     bool choose(const std::vector<std::u16string>& path) override
     {
-        const bool isChosen = openedList() != nullptr ? chooseInList(path)
-                              : hasOpenMenu()         ? chooseInMenu(path)
+        const bool isChosen = openedList() != nullptr ? chooseInList(_listed, path)
+                              : hasOpenMenu()         ? chooseInMenu(_opened.get(), path)
                                                       : false;
         handleEvents();
         return isChosen;
@@ -389,60 +378,6 @@ private:
         static_cast<void>(drag);
         sendKey(gtk_grab_get_current(), GDK_KEY_Escape);
 #endif
-    }
-    /// As GTK's main loop does it: what opens a submenu is the current event.
-    static void pressKeyInMenu(GtkWidget* menu, guint key)
-    {
-        const GdkEventCopy event = newKeyEvent(menu, key, 0);
-        gtk_main_do_event(event.get());
-    }
-
-    bool chooseInMenu(const std::vector<std::u16string>& path)
-    {
-        GtkWidget* first = openedMenu(_opened.get());
-        GtkWidget* menu = first;
-        for (std::size_t i = 0; i < path.size(); ++i) {
-            const bool isLast = i + 1 == path.size();
-            const std::vector<GtkWidget*> rows = rowsOf(menu);
-            const auto found = std::find_if(rows.begin(), rows.end(), [&](GtkWidget* row) {
-                GtkWidget* submenu = gtk_menu_item_get_submenu(GTK_MENU_ITEM(row));
-                return labelIn(row) == path[i] && gtk_widget_get_sensitive(row) &&
-                       (submenu == nullptr) == isLast;
-            });
-            if (found == rows.end()) {
-                gtk_menu_shell_deactivate(GTK_MENU_SHELL(first));
-                return false;
-            }
-            if (isLast) {
-                gtk_menu_shell_activate_item(GTK_MENU_SHELL(menu), *found, TRUE);
-            } else {
-                gtk_menu_shell_select_item(GTK_MENU_SHELL(menu), *found);
-                pressKeyInMenu(menu, GDK_KEY_Right);
-                menu = gtk_menu_item_get_submenu(GTK_MENU_ITEM(*found));
-            }
-        }
-        return true;
-    }
-
-    /// A list paints its rows; the hand reaches them by keys.
-    bool chooseInList(const std::vector<std::u16string>& path)
-    {
-        GtkWidget* list = openedList();
-        const auto found =
-            std::find_if(_listed.begin(), _listed.end(), [&](const HostMenuItem& item) {
-                return item.title == path.front() && !item.separator;
-            });
-        if (found == _listed.end() || path.size() > 1) {
-            sendKey(list, GDK_KEY_Escape);
-            return false;
-        }
-        const auto below = std::count_if(found + 1, _listed.end(),
-                                         [](const HostMenuItem& item) { return !item.separator; });
-        sendKey(list, GDK_KEY_End);
-        for (std::ptrdiff_t i = 0; i < below; ++i)
-            sendKey(list, GDK_KEY_Up);
-        sendKey(list, GDK_KEY_Return);
-        return true;
     }
 
     GtkWeakWidget _window;
