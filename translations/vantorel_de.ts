@@ -3924,4 +3924,31 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <translation>Codezeilen</translation>
     </message>
 </context>
+<context>
+    <name>vantorel::VisionMenu</name>
+    <message>
+        <source>Colour blindness</source>
+        <translation>Farbfehlsichtigkeit</translation>
+    </message>
+    <message>
+        <source>Not simulated</source>
+        <translation>Nicht simuliert</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deuteranopie</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopie</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopie</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+</context>
 </TS>

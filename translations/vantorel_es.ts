@@ -3924,4 +3924,31 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <translation>Líneas de código</translation>
     </message>
 </context>
+<context>
+    <name>vantorel::VisionMenu</name>
+    <message>
+        <source>Colour blindness</source>
+        <translation>Daltonismo</translation>
+    </message>
+    <message>
+        <source>Not simulated</source>
+        <translation>Sin simular</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deuteranopia</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopia</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopia</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+</context>
 </TS>

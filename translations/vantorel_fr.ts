@@ -3924,4 +3924,31 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <translation>Lignes de code</translation>
     </message>
 </context>
+<context>
+    <name>vantorel::VisionMenu</name>
+    <message>
+        <source>Colour blindness</source>
+        <translation>Daltonisme</translation>
+    </message>
+    <message>
+        <source>Not simulated</source>
+        <translation>Non simulé</translation>
+    </message>
+    <message>
+        <source>Deuteranopia</source>
+        <translation>Deutéranopie</translation>
+    </message>
+    <message>
+        <source>Protanopia</source>
+        <translation>Protanopie</translation>
+    </message>
+    <message>
+        <source>Tritanopia</source>
+        <translation>Tritanopie</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+</context>
 </TS>

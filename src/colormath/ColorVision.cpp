@@ -18,6 +18,8 @@ constexpr ColorMatrix tritanopia{{{1.255528, -0.076749, -0.178779},
                                   {-0.078411, 0.930809, 0.147602},
                                   {0.004733, 0.691367, 0.303900}}};
 
+}  // namespace
+
 ColorTriple seenInLinearLight(ColorVision vision, const ColorTriple& linear)
 {
     switch (vision) {
@@ -33,8 +35,6 @@ ColorTriple seenInLinearLight(ColorVision vision, const ColorTriple& linear)
     const double luminance = xyzFromLinearSRGB(linear)[1];
     return {luminance, luminance, luminance};
 }
-
-}  // namespace
 
 CSSColorValue seenWith(ColorVision vision, const CSSColorValue& color)
 {

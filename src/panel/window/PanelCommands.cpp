@@ -12,6 +12,7 @@
 #include "panel/window/AboutDialog.h"
 #include "panel/window/DialogSwitchesWindow.h"
 #include "panel/window/ShortcutOverlay.h"
+#include "panel/window/VisionMenu.h"
 
 #include <QCheckBox>
 
@@ -97,6 +98,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     connect(&colors, &PanelColors::historyChanged, this, &PanelCommands::updateHistory);
     updateHistory();
 
+    auto* vision = new VisionMenu(_window);
     _menu->addAction(_pick);
     _menu->addAction(_pickAndCopy);
     _menu->addSeparator();
@@ -112,6 +114,7 @@ PanelCommands::PanelCommands(QWidget& window, PanelColors& colors, PanelPages& p
     _menu->addAction(nextPage);
     _menu->addAction(previousPage);
     _menu->addAction(_stayOnTop);
+    _menu->addMenu(vision);
     _menu->addSeparator();
     _menu->addAction(showPreferences);
     _menu->addAction(showDialogSwitches);
