@@ -21,6 +21,7 @@ constexpr int factsLinePoints = 16;
 constexpr int factsGap = 8;
 constexpr int leastSlider = 40;
 constexpr int widestSlider = 72;
+constexpr int gapAfterSlider = 4;
 constexpr int sliderPoints = 20;
 
 int textAdvance(const QLabel& label, const QString& text)
@@ -107,9 +108,11 @@ void ColorFacts::layOut()
     const bool hasSecond = height() >= 2 * line;
     const int percentWidth = textAdvance(*_percent, QStringLiteral("100 %"));
     const int formWidth = textAdvance(*_otherForm, _otherForm->text());
-    const int sliderWidth = std::clamp(width() - formWidth - percentWidth - 2 * space,
-                                       scaled(leastSlider), scaled(widestSlider));
-    const int sliderLeft = width() - percentWidth - sliderWidth;
+    // The handle reaches the end of the slider.
+    const int sliderEnd = width() - percentWidth - scaled(gapAfterSlider);
+    const int sliderWidth =
+        std::clamp(sliderEnd - formWidth - 2 * space, scaled(leastSlider), scaled(widestSlider));
+    const int sliderLeft = sliderEnd - sliderWidth;
     // Never cut: half a code is another colour.
     _otherForm->setVisible(hasSecond && formWidth + space <= sliderLeft);
     _opacity->setVisible(hasSecond);
