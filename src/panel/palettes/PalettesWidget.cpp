@@ -5,6 +5,7 @@
 #include "hosts/qt/TextScale.h"
 #include "panel/palettes/PaletteControls.h"
 #include "panel/palettes/PictureColors.h"
+#include "panel/palettes/PictureData.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/StyleFields.h"
 #include "result/HarmlessLine.h"
@@ -229,7 +230,7 @@ void PalettesWidget::changeEvent(QEvent* event)
 
 void PalettesWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!event->mimeData()->hasUrls() && !event->mimeData()->hasImage()) return;
+    if (!event->mimeData()->hasUrls() && !offersPicture(*event->mimeData())) return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
 }
@@ -243,8 +244,8 @@ void PalettesWidget::dropEvent(QDropEvent* event)
     const bool hasFile =
         std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
     // A browser offers the picture beside its address.
-    if (!hasFile && dropped.hasImage()) {
-        showPicture(dropped.imageData().value<QImage>(), {});
+    if (!hasFile && offersPicture(dropped)) {
+        showPicture(pictureIn(dropped), {});
     } else {
         _files->importUrls(urls);
     }

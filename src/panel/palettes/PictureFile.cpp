@@ -5,6 +5,7 @@
 
 #include <QColorSpace>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QStringList>
@@ -45,11 +46,18 @@ Result<QImage> readPicture(const QString& path)
 {
     const QFileInfo info(path);
     const std::string name = excerpt(info.fileName().toStdString());
-    if (!info.isFile() || !info.isReadable() || info.size() > largestPictureFile) {
+    QFile file(path);
+    // Opening a pipe could block the panel.
+    if (!info.isFile() || info.size() > largestPictureFile || !file.open(QIODevice::ReadOnly)) {
         return Message{phrase("\"%1\" cannot be read", name),
                        phrase("check that it is a file of at most 256 MiB that you can read")};
     }
-    QImageReader reader(path);
+    return readPicture(file, name);
+}
+
+Result<QImage> readPicture(QIODevice& device, const std::string& name)
+{
+    QImageReader reader(&device);
     reader.setAutoTransform(true);
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead()) {
@@ -64,7 +72,7 @@ Result<QImage> readPicture(const QString& path)
                        phrase("make a smaller copy of it")};
     }
     const RoomForPictures room;
-    QImage image = isSvg ? readSvgPicture(path) : reader.read();
+    QImage image = isSvg ? readSvgPicture(device) : reader.read();
     if (image.isNull()) {
         return Message{phrase("\"%1\" is damaged", name), phrase("use another copy of it")};
     }

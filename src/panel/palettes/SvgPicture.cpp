@@ -1,7 +1,6 @@
 #include "panel/palettes/SvgPicture.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageReader>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -19,10 +18,10 @@ bool leadsOutside(const QXmlStreamAttribute& attribute)
 }
 
 /// Returns the elements and texts of a drawing; empty if it is damaged.
-QByteArray drawingByItself(QIODevice& file)
+QByteArray drawingByItself(QIODevice& device)
 {
     QByteArray drawing;
-    QXmlStreamReader reader(&file);
+    QXmlStreamReader reader(&device);
     reader.setNamespaceProcessing(false);
     QXmlStreamWriter writer(&drawing);
     while (!reader.atEnd()) {
@@ -50,11 +49,10 @@ QByteArray drawingByItself(QIODevice& file)
 
 }  // namespace
 
-QImage readSvgPicture(const QString& path)
+QImage readSvgPicture(QIODevice& device)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    QByteArray drawing = drawingByItself(file);
+    if (!device.seek(0)) return {};
+    QByteArray drawing = drawingByItself(device);
     QBuffer buffer(&drawing);
     QImageReader reader(&buffer, "svg");
     const QSize size = reader.size();

@@ -5,6 +5,7 @@
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/ClipboardOwner.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/palettes/PictureData.h"
 #include "panel/preferences/PanelPreferences.h"
 #include "result/HarmlessLine.h"
 
@@ -162,8 +163,8 @@ void ColorExchange::paste()
         const QMimeData* held = QApplication::clipboard()->mimeData();
         const ColorOffer offer =
             held != nullptr ? colorFromMimeData(*held) : colorFromMimeData(QMimeData());
-        if (!offer.color && held != nullptr && held->hasImage()) {
-            emit picturePasted(held->imageData().value<QImage>());
+        if (!offer.color && held != nullptr && offersPicture(*held)) {
+            emit picturePasted(pictureIn(*held));
         } else {
             takeColor(offer);
         }

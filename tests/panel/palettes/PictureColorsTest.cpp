@@ -161,19 +161,59 @@ TEST_F(PictureColorsTest, SvgIsAPictureAndListsAreImported)
     EXPECT_EQ(colors(), "tomato, #FF6347");
 }
 
+/// A drawing in tomato that names a picture to be painted over it.
+QByteArray drawingWith(const char* attribute, const QString& picture)
+{
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+           "width='4' height='4'><rect width='4' height='4' fill='#ff6347'/><image width='4' "
+           "height='4' " +
+           QByteArray(attribute) + "='" + picture.toUtf8() + "'/></svg>";
+}
+
 TEST_F(PictureColorsTest, ADrawingOpensNoOtherFile)
 {
     const QString other = save("other.png", "PNG");
     for (const char* attribute : {"href", "xlink:href", "xlink:HREF"}) {
-        put("elsewhere/p.svg",
-            "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
-            "width='4' height='4'><rect width='4' height='4' fill='#ff6347'/><image width='4' "
-            "height='4' " +
-                QByteArray(attribute) + "='" + other.toUtf8() + "'/></svg>");
+        put("elsewhere/p.svg", drawingWith(attribute, other));
         const auto picture = readPicture(at("elsewhere/p.svg"));
         ASSERT_TRUE(picture) << attribute;
         EXPECT_EQ(picture->pixelColor(300, 450), QColor(0xFF, 0x63, 0x47)) << attribute;
     }
+}
+
+TEST_F(PictureColorsTest, ADrawingThatIsPastedOrDroppedOpensNoOtherFile)
+{
+    const QByteArray drawing = drawingWith("xlink:href", save("other.png", "PNG"));
+    // Its owner may give it a wrong name.
+    for (const char* format : {"image/svg+xml", "image/png"}) {
+        QMimeData dropped;
+        dropped.setData(format, drawing);
+        EXPECT_TRUE(drop(page(), dropped, {50, 50})) << format;
+        EXPECT_EQ(colors(), "tomato, #FF6347") << format;
+        window()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        auto pasted = std::make_unique<QMimeData>();
+        pasted->setData(format, drawing);
+        QApplication::clipboard()->setMimeData(pasted.release());
+        _window->exchange().paste();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window() != nullptr; })) << format;
+        EXPECT_EQ(colors(), "tomato, #FF6347") << format;
+        window()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(PictureColorsTest, TheFormatWithEveryPixelIsReadFirst)
+{
+    QMimeData data;
+    data.setData("image/svg+xml", drawingWith("x", {}));
+    data.setData("image/png", [this] {
+        QFile file(save("flag.png", "PNG"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }());
+    EXPECT_TRUE(drop(page(), data, {50, 50}));
+    EXPECT_EQ(colors(), "white, #FFFFFF; dodgerblue, #3B82F6");
 }
 
 TEST_F(PictureColorsTest, BrokenAndGiantPicturesAreReported)
