@@ -1,6 +1,7 @@
 #include "colormath/Differences.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace vantorel {
@@ -12,6 +13,15 @@ constexpr double lightestDistinct = 0.9;
 ColorTriple oklabOf(const CSSColorValue& color)
 {
     return convertedColor(color.components, color.space, ColorSpace::oklab);
+}
+
+/// Like `oklabOf`, with 0 for what is not a number, which has no order.
+ColorTriple comparableOklabOf(const CSSColorValue& color)
+{
+    ColorTriple oklab = oklabOf(color);
+    for (double& component : oklab)
+        if (std::isnan(component)) component = 0;
+    return oklab;
 }
 
 double squaredDistance(const ColorTriple& first, const ColorTriple& second)
@@ -60,17 +70,40 @@ const Candidate& mostColorful(const std::vector<Candidate>& candidates)
 
 }  // namespace
 
-NearestColor::NearestColor(std::span<const CSSColorValue> colors) : _oklab(colors.size())
+NearestColor::NearestColor(std::span<const CSSColorValue> colors)
 {
-    std::ranges::transform(colors, _oklab.begin(), oklabOf);
+    _entries.reserve(colors.size());
+    for (std::size_t i = 0; i < colors.size(); ++i)
+        _entries.push_back({comparableOklabOf(colors[i]), i});
+    std::ranges::sort(_entries, {}, [](const Entry& entry) { return entry.oklab[0]; });
 }
 
 std::size_t NearestColor::placeFor(const CSSColorValue& color) const
 {
-    const ColorTriple oklab = oklabOf(color);
-    const auto nearest = std::ranges::min_element(
-        _oklab, {}, [&](const ColorTriple& other) { return squaredDistance(oklab, other); });
-    return static_cast<std::size_t>(nearest - _oklab.begin());
+    const ColorTriple oklab = comparableOklabOf(color);
+    std::size_t nearest = 0;
+    double distance = std::numeric_limits<double>::infinity();
+    // Returns false if the entry, and so all beyond it, differs too much by its lightness alone.
+    const auto compare = [&](const Entry& entry) {
+        const double step = entry.oklab[0] - oklab[0];
+        if (step * step > distance) return false;
+        const double other = squaredDistance(oklab, entry.oklab);
+        if (other < distance || (other == distance && entry.place < nearest)) {
+            distance = other;
+            nearest = entry.place;
+        }
+        return true;
+    };
+    auto above = std::ranges::lower_bound(_entries, oklab[0], {},
+                                          [](const Entry& entry) { return entry.oklab[0]; });
+    auto below = above;
+    bool goesUp = true;
+    bool goesDown = true;
+    while (goesUp || goesDown) {
+        goesUp = goesUp && above != _entries.end() && compare(*above++);
+        goesDown = goesDown && below != _entries.begin() && compare(*--below);
+    }
+    return nearest;
 }
 
 std::vector<CSSColorValue> withDistinctColors(std::vector<CSSColorValue> colors, std::size_t count)

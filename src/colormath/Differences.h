@@ -10,16 +10,23 @@
 /// is ignored.
 namespace vantorel {
 
-/// Finds the nearest of many colours. Takes linear time.
+/// Finds the nearest of many colours. Only those of about the same lightness are looked at, so that
+/// tens of thousands of colours hardly slow a mouse drag.
 class NearestColor {
 public:
+    /// Components that are not numbers count as 0.
     explicit NearestColor(std::span<const CSSColorValue> colors);
 
     /// Returns the place of the nearest colour, the first of equals. There must be a colour.
     [[nodiscard]] std::size_t placeFor(const CSSColorValue& color) const;
 
 private:
-    std::vector<ColorTriple> _oklab;
+    struct Entry {
+        ColorTriple oklab;
+        std::size_t place;
+    };
+    /// Sorted by lightness.
+    std::vector<Entry> _entries;
 };
 
 /// Adds colours to a list until it has `count`: each time the one whose nearest neighbour in the

@@ -3,6 +3,7 @@
 #include "color/ColorTexts.h"
 #include "color/RgbTriple.h"
 #include "colortext/ColorInCode.h"
+#include "colortext/ListedName.h"
 #include "csscolor/CSSNamedColors.h"
 #include "text/Trimming.h"
 #include "text/Unicode.h"
@@ -74,7 +75,7 @@ std::optional<HostColor> ColorTextReader::readOtherForm(std::u16string_view text
         return spec.colorHexColorSpec();
     }
     // Names are looked up before triples, because a name can contain anything.
-    if (auto named = colorInList(name)) return named;
+    if (auto named = colorNamed(name)) return named;
     if (const SnippetReaders* snippets = _findSnippets ? _findSnippets() : nullptr) {
         if (const auto color = colorInSnippets(text, *snippets)) return color;
     }
@@ -88,20 +89,12 @@ std::optional<HostColor> ColorTextReader::readOtherForm(std::u16string_view text
     return HostColor::colorWithCalibratedRed(fraction(red), fraction(green), fraction(blue), 1);
 }
 
-/// Returns the colour with exactly this name, or else the first whose name differs only in case.
-std::optional<HostColor> ColorTextReader::colorInList(const std::u16string& name)
+std::optional<HostColor> ColorTextReader::colorNamed(const std::u16string& name)
 {
     if (name.empty()) return std::nullopt;
     if (!_hasList) _list = _findList();
     _hasList = true;
-    if (!_list) return std::nullopt;
-    if (auto color = _list->colorWithKey(name)) return color;
-    const auto& keys = _list->allKeys();
-    const auto found = std::find_if(keys.begin(), keys.end(), [&](const std::u16string& key) {
-        return equalIgnoringCase(std::u16string_view(key), std::u16string_view(name));
-    });
-    if (found == keys.end()) return std::nullopt;
-    return _list->colorAtIndex(static_cast<std::size_t>(found - keys.begin()));
+    return _list ? colorInList(*_list, name) : std::nullopt;
 }
 
 }  // namespace vantorel

@@ -43,7 +43,7 @@ public:
 private:
     /// Reads the texts that are not CSS.
     [[nodiscard]] std::optional<HostColor> readOtherForm(std::u16string_view text);
-    [[nodiscard]] std::optional<HostColor> colorInList(const std::u16string& name);
+    [[nodiscard]] std::optional<HostColor> colorNamed(const std::u16string& name);
 
     FindList _findList;
     CSSTheme _theme;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "colormath/ListNames.h"
 #include "lsp/ClientAbilities.h"
-#include "lsp/ListNames.h"
 #include "lsp/OpenDocument.h"
 #include "lsp/PanelChoices.h"
 #include "lsp/Protocol.h"

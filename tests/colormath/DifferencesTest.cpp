@@ -7,6 +7,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
 namespace vantorel {
 namespace {
 
@@ -37,6 +42,58 @@ TEST(DifferencesTest, TheNearestColourIsNearestInOklab)
     EXPECT_EQ(nearest.placeFor(readCSSColor("black")->value), 1U);
     EXPECT_EQ(nearest.placeFor(colors[0]), 0U);
     EXPECT_EQ(nearest.placeFor(readCSSColor("oklch(99% 0.01 100)")->value), 2U);
+}
+
+TEST(DifferencesTest, TheNearestColourIsFoundAsByComparingAll)
+{
+    std::mt19937 random(17);
+    const auto fraction = [&random] { return static_cast<double>(random() % 256) / 255; };
+    const auto anyColor = [&] {
+        CSSColorValue color;
+        color.components = {fraction(), fraction(), fraction()};
+        return color;
+    };
+    std::vector<CSSColorValue> colors(3000);
+    // A third are greys, and many of one lightness.
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        colors[i] = anyColor();
+        const double grey = fraction();
+        if (i % 3 == 0) colors[i].components = {grey, grey, grey};
+        if (i % 3 == 1) {
+            colors[i].space = ColorSpace::oklch;
+            colors[i].components = {0.5, 0.1, static_cast<double>(i % 360)};
+        }
+    }
+    const NearestColor nearest(colors);
+    const auto oklabOfColor = [](const CSSColorValue& color) {
+        return convertedColor(color.components, color.space, ColorSpace::oklab);
+    };
+    for (int i = 0; i < 300; ++i) {
+        const CSSColorValue wanted = i % 4 == 0 ? colors[random() % colors.size()] : anyColor();
+        const auto distanceTo = [&](const CSSColorValue& color) {
+            double sum = 0;
+            for (std::size_t c = 0; c < 3; ++c)
+                sum += std::pow(oklabOfColor(color)[c] - oklabOfColor(wanted)[c], 2);
+            return sum;
+        };
+        const auto expected = std::ranges::min_element(colors, {}, distanceTo);
+        EXPECT_EQ(nearest.placeFor(wanted), static_cast<std::size_t>(expected - colors.begin()));
+    }
+}
+
+TEST(DifferencesTest, ColoursThatAreNotNumbersAreComparedAsZero)
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    auto colors = colorsOf({"white", "black", "red"});
+    colors.push_back({});
+    colors.back().components = {nan, nan, nan};
+    colors.push_back({});
+    colors.back().components = {infinity, -infinity, 0};
+    const NearestColor nearest(colors);
+    EXPECT_EQ(nearest.placeFor(colors[0]), 0U);
+    EXPECT_EQ(nearest.placeFor(colors[3]), 1U);
+    EXPECT_LT(nearest.placeFor(colors[4]), colors.size());
 }
 
 /// The codes were computed with the same rule in another language.

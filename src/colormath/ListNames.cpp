@@ -1,4 +1,4 @@
-#include "lsp/ListNames.h"
+#include "colormath/ListNames.h"
 
 #include "color/ChannelConversion.h"
 #include "csscolor/CSSColorValue.h"
