@@ -2526,6 +2526,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>use another copy of it</source>
         <translation>verwenden Sie eine andere Kopie davon</translation>
     </message>
+    <message>
+        <source>no colour list has the name &quot;%1&quot;</source>
+        <translation>keine Farbliste hat den Namen „%1“</translation>
+    </message>
+    <message>
+        <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
+        <translation>schreiben Sie einen Namen aus einer Liste oder aus CSS, oder eine Farbe wie „#ff8000“</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3299,6 +3307,13 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>pinned</source>
         <translation>angeheftet</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::NameCompletion</name>
+    <message>
+        <source>Names of colours</source>
+        <translation>Namen von Farben</translation>
     </message>
 </context>
 <context>

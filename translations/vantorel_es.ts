@@ -2526,6 +2526,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>use another copy of it</source>
         <translation>use otra copia</translation>
     </message>
+    <message>
+        <source>no colour list has the name &quot;%1&quot;</source>
+        <translation>ninguna lista de colores tiene el nombre «%1»</translation>
+    </message>
+    <message>
+        <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
+        <translation>escriba un nombre de una lista o de CSS, o un color como «#ff8000»</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3299,6 +3307,13 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>pinned</source>
         <translation>fijado</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::NameCompletion</name>
+    <message>
+        <source>Names of colours</source>
+        <translation>Nombres de colores</translation>
     </message>
 </context>
 <context>

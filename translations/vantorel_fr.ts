@@ -2526,6 +2526,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>use another copy of it</source>
         <translation>utilisez-en une autre copie</translation>
     </message>
+    <message>
+        <source>no colour list has the name &quot;%1&quot;</source>
+        <translation>aucune liste de couleurs ne contient le nom « %1 »</translation>
+    </message>
+    <message>
+        <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
+        <translation>écrivez un nom d’une liste ou de CSS, ou une couleur telle que « #ff8000 »</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>
@@ -3299,6 +3307,13 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>pinned</source>
         <translation>épinglée</translation>
+    </message>
+</context>
+<context>
+    <name>vantorel::NameCompletion</name>
+    <message>
+        <source>Names of colours</source>
+        <translation>Noms de couleurs</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,11 @@ void PalettesPage::hide()
     WidgetPage::hide();
 }
 
+QString PalettesPage::listName() const
+{
+    return _widget ? _widget->listName() : QString();
+}
+
 void PalettesPage::setColor(const HostColor& color)
 {
     _color = color;

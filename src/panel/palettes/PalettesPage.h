@@ -27,6 +27,10 @@ public:
     bool performKey(const QKeyEvent& event) override;
     [[nodiscard]] std::vector<ShortcutRow> shortcuts() const override;
 
+    /// Returns the name of the list that the page shows; empty if there is none, or if the page has
+    /// not been shown.
+    [[nodiscard]] QString listName() const;
+
     /// How the colours of a list are arranged, which is kept from one start to the next.
     void setArrangement(PaletteEntriesView::Arrangement arrangement);
     [[nodiscard]] PaletteEntriesView::Arrangement arrangement() const { return _arrangement; }

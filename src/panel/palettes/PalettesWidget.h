@@ -29,6 +29,8 @@ public:
     /// `files` and `store` must outlive the widget.
     PalettesWidget(HostFiles& files, PaletteFileStore& store);
 
+    /// Returns the name of the list that is shown; empty if there is none.
+    [[nodiscard]] QString listName() const { return _session.listName(); }
     /// The panel's colour, which the user can add.
     void setColor(const HostColor& color);
     /// Turns on or off that changes by other programs are shown at once.

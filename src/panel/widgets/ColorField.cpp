@@ -14,6 +14,7 @@
 #include <QStyle>
 
 #include <array>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -114,6 +115,22 @@ void ColorField::setHasError(bool hasError)
     if (hasError == _hasError) return;
     _hasError = hasError;
     update();
+}
+
+void ColorField::setNames(std::vector<NameCompletion::Row> names)
+{
+    if (_completion == nullptr) {
+        _completion = new NameCompletion(*_edit);
+        // Before the completer, which hides from others that the field is left while it shows
+        // names.
+        _edit->removeEventFilter(this);
+        _edit->installEventFilter(this);
+        connect(_completion, &NameCompletion::chosen, this, [this](const QString& name) {
+            _edit->setModified(false);
+            emit entered(name);
+        });
+    }
+    _completion->setRows(std::move(names));
 }
 
 void ColorField::finishEditing()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/qt/ClipboardLineEdit.h"
+#include "panel/widgets/NameCompletion.h"
 
 #include <QAction>
 #include <QMenu>
@@ -29,6 +30,9 @@ public:
     /// Marks a text that could not be read.
     void setHasError(bool hasError);
     [[nodiscard]] bool hasError() const { return _hasError; }
+    /// Offers names that begin with what is typed, from the first letter on. Choosing one enters
+    /// it.
+    void setNames(std::vector<NameCompletion::Row> names);
     /// Enters a text that was typed but not entered yet.
     void finishEditing();
 
@@ -56,6 +60,8 @@ private:
     ClipboardLineEdit* _edit;
     QToolButton* _copy;
     QToolButton* _copyMenu;
+    /// Null until there are names.
+    NameCompletion* _completion = nullptr;
     QString _formName;
     bool _hasError = false;
 };

@@ -3,6 +3,7 @@
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtAccessibility.h"
+#include "hosts/qt/QtColors.h"
 #include "hosts/qt/QtMessages.h"
 #include "hosts/qt/TextScale.h"
 #include "panel/pages/PluginPage.h"
@@ -32,7 +33,8 @@ PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& pl
       _host(desktop, *this, _colors, _parts.pages),
       _exchange(_colors, _parts.pages, *this, desktop.files(), std::move(screenPicker)),
       _commands(*this, _colors, _parts.pages, _exchange, desktop.files()),
-      _entry(*_parts.field, *_parts.facts, *_parts.forms, _colors, _parts.pages, _exchange)
+      _names(desktop.files(), desktop.colorLists(), desktop.paletteFiles()),
+      _entry(*_parts.field, *_parts.facts, *_parts.forms, _colors, _parts.pages, _exchange, _names)
 {
     setWindowTitle(QStringLiteral("Vantorel"));
     setAccessibleRole(*this, QAccessible::Window);
@@ -127,6 +129,7 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
                 page->keepAsList(tr("Last colours"), colors);
             });
     _palettes = palettes.get();
+    _names.setListInUse([this] { return u16From(_palettes->listName()); });
     connect(&_exchange, &ColorExchange::picturePasted, this, [this](const QImage& picture) {
         _parts.pages.showPageWithKey(_palettes->key());
         _palettes->showPicture(picture);

@@ -89,6 +89,7 @@ private:
     PanelHost _host;
     ColorExchange _exchange;
     PanelCommands _commands;
+    ColorNames _names;
     ColorEntry _entry;
     WindowGrowth _growth;
     PalettesPage* _palettes = nullptr;
