@@ -47,6 +47,28 @@ constexpr ListFormat formats[] = {
     {"txt", {}, textEndings, false, true, plainText},
 };
 
+/// A format, and how much of a file's name is its ending with the dot.
+struct FormatAndEnding {
+    const ListFormat* format = nullptr;
+    std::size_t length = 0;
+};
+
+/// Finds the format with the longest ending of those that fit.
+FormatAndEnding formatAndEnding(std::string_view fileName)
+{
+    FormatAndEnding found;
+    for (const ListFormat& format : formats) {
+        for (const std::string_view ending : format.endings) {
+            if (ending.size() < found.length || fileName.size() <= ending.size()) continue;
+            const std::size_t dot = fileName.size() - ending.size() - 1;
+            if (fileName[dot] != '.' || !equalIgnoringCase(fileName.substr(dot + 1), ending))
+                continue;
+            found = {&format, ending.size() + 1};
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 std::span<const ListFormat> listFormats()
@@ -62,34 +84,12 @@ const ListFormat* listFormatNamed(std::string_view name)
 
 const ListFormat* listFormatOfFile(std::string_view fileName)
 {
-    const ListFormat* found = nullptr;
-    std::size_t longest = 0;
-    for (const ListFormat& format : formats) {
-        for (const std::string_view ending : format.endings) {
-            if (ending.size() <= longest || fileName.size() <= ending.size()) continue;
-            const std::size_t dot = fileName.size() - ending.size() - 1;
-            if (fileName[dot] != '.' || !equalIgnoringCase(fileName.substr(dot + 1), ending))
-                continue;
-            found = &format;
-            longest = ending.size();
-        }
-    }
-    return found;
+    return formatAndEnding(fileName).format;
 }
 
 std::string_view withoutListEnding(std::string_view fileName)
 {
-    const ListFormat* format = listFormatOfFile(fileName);
-    if (format == nullptr) return fileName;
-    std::size_t length = 0;
-    for (const std::string_view ending : format->endings) {
-        const bool fits =
-            fileName.size() > ending.size() &&
-            fileName[fileName.size() - ending.size() - 1] == '.' &&
-            equalIgnoringCase(fileName.substr(fileName.size() - ending.size()), ending);
-        if (fits) length = std::max(length, ending.size() + 1);
-    }
-    return fileName.substr(0, fileName.size() - length);
+    return fileName.substr(0, fileName.size() - formatAndEnding(fileName).length);
 }
 
 }  // namespace vantorel

@@ -86,7 +86,7 @@ std::optional<HostRect> parseFrame(std::string_view text)
     }
     HostRect frame;
     const std::array fields{&frame.x, &frame.y, &frame.width, &frame.height};
-    constexpr std::array<std::string_view, 4> before{"{{", ",", "},{", ","};
+    constexpr auto before = std::to_array<std::string_view>({"{{", ",", "},{", ","});
     std::string_view rest = bare;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (!rest.starts_with(before[i])) return std::nullopt;

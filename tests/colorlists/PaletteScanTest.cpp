@@ -73,6 +73,9 @@ TEST(PaletteScanTest, TheFirstExactNameCountsAndCloseOnesGo)
     ASSERT_TRUE(borders);
     EXPECT_THAT(borders->close, testing::ElementsAre(u"a", u"c", u"d"));
     EXPECT_TRUE(namesInPalette(head, colorOf(1, 1, 1))->close.empty());
+    const auto white = namesInPalette(head + "255 255 255\twhite\n", colorOf(255, 255, 255));
+    ASSERT_TRUE(white);
+    EXPECT_EQ(white->exact, u"white");
 }
 
 TEST(PaletteScanTest, OtherFilesNeedAList)

@@ -92,6 +92,7 @@ TEST(DesignTokensTest, ListsComeBackWithAllNames)
     EXPECT_EQ(again->list->allKeys(), list->allKeys());
     EXPECT_EQ(plainText(*again->list), plainText(*list));
     EXPECT_EQ(json.find("\"$x\""), json.rfind("\"$x\"")) << "no token may begin with $: " << json;
+    EXPECT_NE(json.find("\"a-b-2\""), std::string::npos) << "the second name for a-b: " << json;
 }
 
 TEST(DesignTokensTest, DeepAndBrokenTextsAreRejected)

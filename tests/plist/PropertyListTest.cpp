@@ -159,6 +159,12 @@ TEST(PropertyListWriterTest, WrittenListsReadBackUnchanged)
     }
 }
 
+TEST(PropertyListWriterTest, DataIsInGroupsOfFourBytes)
+{
+    EXPECT_EQ(propertyListText(PropertyList::data("12345678")), u"<31323334 35363738>");
+    EXPECT_EQ(propertyListText(PropertyList::data("12345")), u"<31323334 35>");
+}
+
 TEST(PropertyListReaderTest, DamagedTextsNeverFail)
 {
     std::mt19937 random(9);

@@ -141,19 +141,20 @@ INSTANTIATE_TEST_SUITE_P(
                     ReadRow{u"%d %d %d", u"rgbFixed", u"2551280", noMatch},
                     ReadRow{u"  #%06x  ", u"rgbPackedInt", u"#ff8000", 0xFFFF8000}));
 
-INSTANTIATE_TEST_SUITE_P(Hex, ReadingTest,
-                         testing::Values(ReadRow{u"#%06x", u"rgbPackedInt", u"#FF8000", 0xFFFF8000},
-                                         ReadRow{u"#%06X", u"rgbPackedInt", u"#ff8000", 0xFFFF8000},
-                                         ReadRow{u"#%06x", u"rgbPackedInt", u"#f80", noMatch},
-                                         ReadRow{u"#%06x", u"rgbPackedInt", u"#ffff8000", noMatch},
-                                         ReadRow{u"%#x", u"rgbPackedInt", u"0xff8000", 0xFFFF8000},
-                                         ReadRow{u"%#x", u"rgbPackedInt", u"0", 0xFF000000},
-                                         ReadRow{u"%#X", u"rgbPackedInt", u"0XFF8000", 0xFFFF8000},
-                                         ReadRow{u"%x", u"rgbPackedInt", u"8000", 0xFF008000},
-                                         ReadRow{u"%x,%x,%x", u"rgbFixed", u"ff,8,0", 0xFFFF0800},
-                                         ReadRow{u"%02x%02x%02x%02x", u"rgbaFixed", u"FF800080",
-                                                 0x80FF8000},
-                                         ReadRow{u"%o", u"rgbPackedInt", u"77700000", 0xFFFF8000}));
+INSTANTIATE_TEST_SUITE_P(
+    Hex, ReadingTest,
+    testing::Values(ReadRow{u"#%06x", u"rgbPackedInt", u"#FF8000", 0xFFFF8000},
+                    ReadRow{u"#%06X", u"rgbPackedInt", u"#ff8000", 0xFFFF8000},
+                    ReadRow{u"#%06x", u"rgbPackedInt", u"#f80", noMatch},
+                    ReadRow{u"#%06x", u"rgbPackedInt", u"#ffff8000", noMatch},
+                    ReadRow{u"%#x", u"rgbPackedInt", u"0xff8000", 0xFFFF8000},
+                    ReadRow{u"%#x", u"rgbPackedInt", u"0", 0xFF000000},
+                    ReadRow{u"%#X", u"rgbPackedInt", u"0XFF8000", 0xFFFF8000},
+                    ReadRow{u"%x", u"rgbPackedInt", u"8000", 0xFF008000},
+                    ReadRow{u"%x,%x,%x", u"rgbFixed", u"ff,8,0", 0xFFFF0800},
+                    ReadRow{u"%02x%02x%02x%02x", u"rgbaFixed", u"FF800080", 0x80FF8000},
+                    ReadRow{u"%o", u"rgbPackedInt", u"77700000", 0xFFFF8000},
+                    ReadRow{u"%#o", u"rgbPackedInt", u"077700000", 0xFFFF8000}));
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, ReadingTest,
