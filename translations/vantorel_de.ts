@@ -3065,6 +3065,10 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>the colour itself</source>
         <translation>die Farbe selbst</translation>
     </message>
+    <message>
+        <source>copy as hex, rgb, hsl, oklch</source>
+        <translation>kopieren als Hex, rgb, hsl, oklch</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

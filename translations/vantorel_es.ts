@@ -3065,6 +3065,10 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>the colour itself</source>
         <translation>el propio color</translation>
     </message>
+    <message>
+        <source>copy as hex, rgb, hsl, oklch</source>
+        <translation>copian como hex, rgb, hsl, oklch</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -3065,6 +3065,10 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>the colour itself</source>
         <translation>la couleur elle-même</translation>
     </message>
+    <message>
+        <source>copy as hex, rgb, hsl, oklch</source>
+        <translation>copient en hex, rgb, hsl, oklch</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -15,6 +15,12 @@ Message messageOf(const std::vector<PickMethod::Failure>& failures)
     return {phrase("this desktop offers no way to pick a colour: %1", clauses)};
 }
 
+/// The desktop's own pickers give one pixel.
+bool needsOwnMagnifier(const PickOptions& options)
+{
+    return options.averagedSide > 1 || options.goesOn || options.nameOf || options.picksByLetter;
+}
+
 }  // namespace
 
 DesktopScreenPicker::DesktopScreenPicker(Methods methods) : _methods(std::move(methods))
@@ -37,7 +43,7 @@ void DesktopScreenPicker::start(QWidget* parent, const PickOptions& options, Cal
     _untried.clear();
     for (auto method = _methods.rbegin(); method != _methods.rend(); ++method)
         _untried.push_back(method->get());
-    if (options.averagedSide > 1) {
+    if (needsOwnMagnifier(options)) {
         std::stable_partition(_untried.begin(), _untried.end(),
                               [](const PickMethod* method) { return !method->canAverage(); });
     }

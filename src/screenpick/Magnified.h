@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPoint>
 #include <QRect>
+#include <QString>
 
 #include <vector>
 
@@ -15,7 +16,13 @@ struct Magnified {
     /// The pixels of which the colour is the average; at least the one in the middle.
     QRect averaged;
     QColor color;
+    /// Shown below the code; empty for none.
+    QString name;
+    /// Whether there is a place for a name, so that the label keeps its size.
+    bool hasName = false;
     bool showsHints = false;
+    /// Whether the hints explain the letters that copy.
+    bool copiesByLetter = false;
     /// The colours that were picked so far. They take the place of the hints.
     std::vector<QColor> picked;
 

@@ -1,5 +1,6 @@
 #include "screenpick/Magnifier.h"
 
+#include "hosts/qt/QtColors.h"
 #include "screenpick/MagnifierOverlay.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,8 @@ Magnifier::Magnifier(DesktopPicture picture, QPoint mouse, const PickOptions& op
     : _picture(std::move(picture)), _cursor(_picture.frames(), mouse), _options(options)
 {
     _shown.showsHints = options.showsHints;
+    _shown.hasName = options.nameOf != nullptr;
+    _shown.copiesByLetter = options.picksByLetter != nullptr;
     _grabAgain.setInterval(grabInterval);
     connect(&_grabAgain, &QTimer::timeout, this, &Magnifier::grabInput);
     show();
@@ -155,8 +158,12 @@ void Magnifier::look()
     _shown.averaged = box().value_or(squareAround(_shown.pixel, _options.averagedSide));
     const QColor before = std::exchange(
         _shown.color, _picture.averageOf(_shown.averaged).value_or(QColor(Qt::black)));
-    if (_shown.color != before)
-        _overlays.front()->setAccessibleDescription(hexCodeOf(_shown.color));
+    if (_shown.color == before) return;
+    if (_options.nameOf)
+        _shown.name = QString::fromStdU16String(_options.nameOf(hostColorFrom(_shown.color)));
+    const QString code = hexCodeOf(_shown.color);
+    _overlays.front()->setAccessibleDescription(
+        _shown.name.isEmpty() ? code : QStringLiteral("%1, %2").arg(code, _shown.name));
 }
 
 void Magnifier::paintLens(QPainter& painter, const MagnifierOverlay& overlay) const
@@ -205,6 +212,12 @@ void Magnifier::pick(Next next)
     // Later, because the receiver may destroy the magnifier.
     QMetaObject::invokeMethod(
         this, [this, color] { emit pickedOnTheWay(color); }, Qt::QueuedConnection);
+}
+
+void Magnifier::pressLetter(char letter)
+{
+    if (!_finished && _options.picksByLetter && _options.picksByLetter(letter))
+        finish(_shown.color);
 }
 
 void Magnifier::leave()

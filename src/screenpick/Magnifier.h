@@ -45,6 +45,8 @@ public:
     /// Goes on to the next square that can be averaged.
     void changeAverage();
     void pick(Next next);
+    /// A letter from A to Z was pressed that means nothing here.
+    void pressLetter(char letter);
     void leave();
 
     /// Paints the parts of the box and the lens that are on this overlay, in pixels of its screen.

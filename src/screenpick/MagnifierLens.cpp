@@ -22,6 +22,11 @@ constexpr double ringWidth = 4;
 constexpr double shadowWidth = 10;
 constexpr double labelGap = 8;
 constexpr double labelHeight = 28;
+constexpr double labelHeightWithName = 44;
+/// As wide as the longest name of a colour of CSS.
+constexpr int longestName = 20;
+/// Where the name's line begins, as a part of the label's height.
+constexpr double nameBegin = 0.56;
 constexpr double labelPadding = 10;
 constexpr double averageGap = 8;
 constexpr double swatchSize = 14;
@@ -138,12 +143,20 @@ MagnifierLens::Layout MagnifierLens::layOut(const DesktopPicture::Screen& pictur
             averageGap * ratio + QFontMetrics(averageFont(ratio)).horizontalAdvance(average);
     }
 
+    if (magnified.hasName) {
+        const double nameEnd =
+            (2 * labelPadding + swatchSize) * ratio +
+            QFontMetrics(averageFont(ratio)).horizontalAdvance(QString(longestName, u'm'));
+        labelWidth = std::max(labelWidth, nameEnd + labelPadding * ratio);
+    }
+    const double height = magnified.hasName ? labelHeightWithName : labelHeight;
+
     Layout layout;
     layout.middleCell = QRect(pixel.x() - cell / 2, pixel.y() - cell / 2, cell, cell);
     layout.center = QPointF(layout.middleCell.topLeft()) + QPointF(cell, cell) / 2;
     layout.label = QRectF(std::round(layout.center.x() - labelWidth / 2),
                           std::round(layout.center.y() + radius + labelGap * ratio),
-                          std::round(labelWidth), std::round(labelHeight * ratio));
+                          std::round(labelWidth), std::round(height * ratio));
     const QRectF lens(layout.center - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
     const double margin = std::round(ringWidth * ratio);
     const QPoint way =
@@ -268,14 +281,27 @@ void MagnifierLens::paint(QPainter& painter, const DesktopPicture& picture,
     painter.drawEllipse(swatch);
     painter.setPen(text);
     painter.setFont(labelFont(ratio));
-    const QRectF textRect(QPointF(swatch.right() + labelPadding * ratio, layout.label.top()),
-                          layout.label.bottomRight());
+    QRectF textRect(QPointF(swatch.right() + labelPadding * ratio, layout.label.top()),
+                    layout.label.bottomRight());
+    QRectF nameRect = textRect;
+    if (magnified.hasName) {
+        const double middle = std::round(layout.label.height() * nameBegin);
+        textRect.setBottom(layout.label.top() + middle);
+        nameRect.setTop(textRect.bottom());
+        nameRect.setBottom(layout.label.bottom() - labelGap * ratio / 2);
+    }
     painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, hexCodeOf(magnified.color));
     if (const QString average = averageText(magnified); !average.isEmpty()) {
         painter.setFont(averageFont(ratio));
-        const QRectF rest(QPointF(layout.averageLeft, layout.label.top()),
-                          layout.label.bottomRight());
+        const QRectF rest(QPointF(layout.averageLeft, textRect.top()), textRect.bottomRight());
         painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft, average);
+    }
+    if (!magnified.name.isEmpty()) {
+        const QFont font = averageFont(ratio);
+        painter.setFont(font);
+        painter.drawText(nameRect, Qt::AlignVCenter | Qt::AlignLeft,
+                         QFontMetrics(font).elidedText(magnified.name, Qt::ElideRight,
+                                                       static_cast<int>(nameRect.width())));
     }
     paintNotes(painter, layout.notes, magnified, ratio, palette);
     painter.restore();

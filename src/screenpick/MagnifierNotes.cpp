@@ -33,19 +33,26 @@ struct Hint {
     QString effect;
 };
 
-std::vector<Hint> magnifierHints()
+std::vector<Hint> magnifierHints(const Magnified& magnified)
 {
     const auto hint = [](const char* key, const char* effect) {
         return Hint{QCoreApplication::translate("Vantorel", key),
                     QCoreApplication::translate("Vantorel", effect)};
     };
-    return {
+    std::vector<Hint> hints{
         hint(QT_TRANSLATE_NOOP("Vantorel", "Enter"), QT_TRANSLATE_NOOP("Vantorel", "picks")),
         hint(QT_TRANSLATE_NOOP("Vantorel", "Shift"), QT_TRANSLATE_NOOP("Vantorel", "several")),
         hint(QT_TRANSLATE_NOOP("Vantorel", "A"), QT_TRANSLATE_NOOP("Vantorel", "averages")),
         hint(QT_TRANSLATE_NOOP("Vantorel", "Mouse wheel"), QT_TRANSLATE_NOOP("Vantorel", "zooms")),
         hint(QT_TRANSLATE_NOOP("Vantorel", "Esc"), QT_TRANSLATE_NOOP("Vantorel", "leaves")),
     };
+    if (magnified.copiesByLetter) {
+        // Letters of names that are the same in every language: hex, RGB, HSL, OKLCH.
+        hints.insert(hints.begin() + 1,
+                     {QStringLiteral("H R S O"),
+                      QCoreApplication::translate("Vantorel", "copy as hex, rgb, hsl, oklch")});
+    }
+    return hints;
 }
 
 QFont noteFont(double ratio)
@@ -71,11 +78,12 @@ double widthOfHint(const Hint& hint, double ratio)
            (2 * keyPadding + wordGap) * ratio;
 }
 
-void paintHints(QPainter& painter, const QRectF& place, double ratio, const QPalette& palette)
+void paintHints(QPainter& painter, const QRectF& place, const Magnified& magnified, double ratio,
+                const QPalette& palette)
 {
     double x = place.left() + notePadding * ratio;
     const double keyTop = std::round(place.center().y() - keyHeight * ratio / 2);
-    for (const Hint& hint : magnifierHints()) {
+    for (const Hint& hint : magnifierHints(magnified)) {
         const QRectF key(std::round(x), keyTop,
                          std::round(textWidth(hint.key, ratio) + 2 * keyPadding * ratio),
                          std::round(keyHeight * ratio));
@@ -121,7 +129,7 @@ QSizeF sizeOfNotes(const Magnified& magnified, double ratio)
                  textWidth(pickedCount(magnified.picked.size()), ratio);
     } else if (magnified.showsHints) {
         width -= hintGap * ratio;
-        for (const Hint& hint : magnifierHints())
+        for (const Hint& hint : magnifierHints(magnified))
             width += widthOfHint(hint, ratio) + hintGap * ratio;
     } else {
         return {};
@@ -136,7 +144,7 @@ void paintNotes(QPainter& painter, const QRectF& place, const Magnified& magnifi
     paintPill(painter, place, ratio, palette);
     painter.setFont(noteFont(ratio));
     if (magnified.picked.empty()) {
-        paintHints(painter, place, ratio, palette);
+        paintHints(painter, place, magnified, ratio, palette);
     } else {
         paintPicked(painter, place, magnified.picked, ratio, palette);
     }

@@ -25,6 +25,13 @@ Magnifier::Next nextAfter(const QInputEvent& event)
                                                          : Magnifier::Next::closes;
 }
 
+/// A letter alone. The key that started the magnifier may still be held down.
+bool isLetter(const QKeyEvent& event)
+{
+    return event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z && !event.isAutoRepeat() &&
+           (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
+}
+
 }  // namespace
 
 MagnifierOverlay::MagnifierOverlay(Magnifier& magnifier, const DesktopPicture::Screen& screen,
@@ -148,6 +155,7 @@ void MagnifierOverlay::keyPressEvent(QKeyEvent* event)
             _magnifier.leave();
             break;
         default:
+            if (isLetter(*event)) _magnifier.pressLetter(static_cast<char>(event->key()));
             break;
     }
 }

@@ -28,7 +28,7 @@ public:
     };
     using Outcome = std::variant<HostColor, CancelledByUser, Failure>;
 
-    /// Whether the method can pick averages.
+    /// Whether the method can pick averages, and heeds all other options as well.
     [[nodiscard]] virtual bool canAverage() const = 0;
     /// Begins a pick. None may be in progress. `parent` is the requesting window; may be null. A
     /// method heeds as many of the options as it can.

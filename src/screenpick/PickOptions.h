@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <string>
 
 namespace vantorel {
 
@@ -22,6 +23,12 @@ struct PickOptions {
     /// Whether no pick ends it, but only the user who leaves. Has no effect without a receiver of
     /// colours that are picked on the way, and in the desktop's own picker.
     bool goesOn = false;
+    /// Returns a name for a colour, which the magnifier shows below its code. Without it, or for an
+    /// empty name, the magnifier shows the code alone. Called for each colour under the pointer.
+    std::function<std::u16string(const HostColor&)> nameOf = nullptr;
+    /// Called for a letter from A to Z that means nothing to the magnifier. If it returns true, the
+    /// key picks, and ends the pick as Return does.
+    std::function<bool(char letter)> picksByLetter = nullptr;
 };
 
 }  // namespace vantorel

@@ -49,8 +49,9 @@ public:
 };
 
 /// Returns a picker that uses the desktop portal if it can pick, else a magnifier if an X11 display
-/// shows the whole screen, else reports what is missing. For an average the magnifier comes first.
-/// It checks at each start, because portals come and go. Creating the picker is cheap.
+/// shows the whole screen, else reports what is missing. For what only the magnifier can do, such
+/// as an average or the names of colours, it comes first. It checks at each start, because portals
+/// come and go. Creating the picker is cheap.
 [[nodiscard]] std::unique_ptr<ScreenPicker> makeScreenPicker();
 
 }  // namespace vantorel

@@ -1,8 +1,13 @@
 /// A program with a text field and a colour dialog as drop targets. It prints the screen positions
-/// of both, then their contents whenever these change.
+/// of both, then their contents whenever these change. With --offer FILE it is a file that can be
+/// dragged, and prints its place on the screen.
 #include <QApplication>
 #include <QColorDialog>
+#include <QDrag>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -22,11 +27,43 @@ QString middleOf(const QWidget* widget)
     return QStringLiteral("%1 %2").arg(middle.x()).arg(middle.y());
 }
 
+/// A file as in a file manager.
+class OfferedFile final : public QLabel {
+public:
+    explicit OfferedFile(const QString& path) : QLabel(path), _path(path) {}
+
+protected:
+    void mouseMoveEvent(QMouseEvent*) override
+    {
+        auto* file = new QMimeData;
+        file->setUrls({QUrl::fromLocalFile(_path)});
+        auto* drag = new QDrag(this);
+        drag->setMimeData(file);
+        drag->exec(Qt::CopyAction);
+    }
+
+private:
+    QString _path;
+};
+
+int offer(const QString& path)
+{
+    OfferedFile file(path);
+    file.setGeometry(700, 20, 200, 60);
+    file.show();
+    QApplication::processEvents();
+    print(middleOf(&file));
+    return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() == 3 && arguments.at(1) == QLatin1String("--offer"))
+        return offer(arguments.at(2));
     QWidget window;
     window.setWindowTitle(QStringLiteral("Qt target"));
     auto* text = new QLineEdit(&window);

@@ -119,7 +119,7 @@ def application():
 
 
 def find(role, name):
-    for node in walk(application()):
+    for node in walk(application() or ()):
         if (role_of(node), node.name) == (role, name):
             return node
     raise LookupError(f"{role} {name}")
@@ -270,4 +270,5 @@ def main():
     print("the panel is accessible")
 
 
-main()
+if __name__ == "__main__":
+    main()

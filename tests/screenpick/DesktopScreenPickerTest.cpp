@@ -191,6 +191,22 @@ TEST_F(DesktopScreenPickerTest, AnAverageIsLeftToAMethodThatCanTakeIt)
     EXPECT_THAT(results(), ElementsAre(picked(HostColor::whiteColor())));
 }
 
+TEST_F(DesktopScreenPickerTest, NamesLettersAndManyPicksAreLeftToTheOwnMagnifier)
+{
+    PickOptions named;
+    named.nameOf = [](const HostColor&) { return std::u16string(); };
+    PickOptions byLetter;
+    byLetter.picksByLetter = [](char) { return true; };
+    PickOptions many;
+    many.goesOn = true;
+    int starts = 0;
+    for (const PickOptions& options : {named, byLetter, many}) {
+        _picker->start(nullptr, options, [](const ScreenPickResult&) {});
+        EXPECT_EQ(_magnifier->starts, ++starts);
+    }
+    EXPECT_EQ(_portal->starts, 0);
+}
+
 TEST_F(DesktopScreenPickerTest, ReportsThatAnAverageWasNotPossible)
 {
     _picker->start(nullptr, {.averagedSide = 3},

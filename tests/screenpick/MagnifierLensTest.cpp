@@ -159,6 +159,25 @@ TEST(MagnifierLens, theLabelHasRoomForTheSizeOfTheAverage)
     EXPECT_TRUE(MagnifierLens().bounds(screen, average, 1).contains(firstOfLabel(with), y));
 }
 
+TEST(MagnifierLens, theNameHasALineOfItsOwnAndKeepsTheSizeOfTheLabel)
+{
+    for (const QPoint pixel : {QPoint(300, 200), QPoint(0, 499), QPoint(599, 0)}) {
+        Magnified magnified = magnifiedAt(desktop(), pixel);
+        const QRect withoutName = viewOf(MagnifierLens(), magnified, 1).bounds;
+        magnified.hasName = true;
+        const View nameless = viewOf(MagnifierLens(), magnified, 1);
+        magnified.name = QStringLiteral("\u2248 lightgoldenrodyellow");
+        View named = viewOf(MagnifierLens(), magnified, 1);
+        EXPECT_FALSE(named.image == nameless.image) << "the name is painted";
+        EXPECT_EQ(named.bounds, nameless.bounds);
+        EXPECT_EQ(named.bounds.height(), withoutName.height() + 16);
+        QPainter(&named.image).fillRect(named.bounds, Qt::red);
+        QImage red = named.image;
+        red.fill(Qt::red);
+        EXPECT_TRUE(named.image == red) << pixel.x() << ", " << pixel.y();
+    }
+}
+
 TEST(MagnifierLens, notesAreOnTheScreenAndWithinTheBounds)
 {
     for (const QPoint pixel : {QPoint(300, 200), QPoint(0, 0), QPoint(599, 499), QPoint(0, 499)}) {

@@ -49,10 +49,18 @@ protected:
         }
         return image;
     }
-    static PickOptions options()
+    /// R and S pick.
+    PickOptions options()
     {
         PickOptions options;
         options.pickedOnTheWay = [](const HostColor&) {};
+        options.picksByLetter = [this](char letter) {
+            _letters += letter;
+            return letter == 'R' || letter == 'S';
+        };
+        options.nameOf = [](const HostColor& color) {
+            return color.calibratedRGB()->red > 0.65 ? std::u16string(u"bright") : u"";
+        };
         return options;
     }
     void take(const std::optional<QColor>& answer)
@@ -104,6 +112,7 @@ protected:
     std::unique_ptr<Magnifier> _magnifier;
     std::vector<std::optional<QColor>> _answers;
     std::vector<QColor> _onTheWay;
+    std::string _letters;
 };
 
 TEST_F(MagnifierTest, picksAtTheMousePositionAndCloses)
@@ -159,6 +168,21 @@ TEST_F(MagnifierTest, aClickAfterKeyStepsPicksThePixelSteppedTo)
     key(Qt::Key_Right);
     click({80, 90});
     EXPECT_THAT(answers(), ElementsAre(colorOf(82, 90)));
+}
+
+TEST_F(MagnifierTest, ALetterPicksIfItsReceiverSaysSo)
+{
+    for (const int code : {Qt::Key_Q, Qt::Key_A, Qt::Key_1})
+        key(code);
+    key(Qt::Key_R, Qt::ControlModifier);
+    key(Qt::Key_S, Qt::NoModifier, true);
+    EXPECT_THAT(answers(), ElementsAre());
+    EXPECT_EQ(_letters, "Q") << "A averages, and digits are not letters";
+    key(Qt::Key_R);
+    EXPECT_EQ(_letters, "QR");
+    key(Qt::Key_S);
+    EXPECT_THAT(answers(), ElementsAre(colorOf(50, 60)));
+    EXPECT_EQ(_letters, "QR") << "nothing follows the pick";
 }
 
 TEST_F(MagnifierTest, cancelsOnEscape)
@@ -229,6 +253,8 @@ TEST_F(MagnifierTest, exposesItsNameAndTheHexCodeToAssistivePrograms)
     EXPECT_EQ(spokenDescription(), QStringLiteral("#333c07"));
     mouse(QEvent::MouseMove, {1, 1});
     EXPECT_EQ(spokenDescription(), QStringLiteral("#020107")) << "with the key's step";
+    mouse(QEvent::MouseMove, {180, 1});
+    EXPECT_EQ(spokenDescription(), QStringLiteral("#b50107, bright")) << "a colour with a name";
 }
 
 TEST_F(MagnifierTest, averagesSquares)

@@ -53,6 +53,11 @@ void PalettesPage::showPicture(const QImage& picture)
     if (_widget) _widget->showPicture(picture, {});
 }
 
+void PalettesPage::takeDropped(const QMimeData& dropped)
+{
+    if (_widget) _widget->takeDropped(dropped);
+}
+
 void PalettesPage::setArrangement(PaletteEntriesView::Arrangement arrangement)
 {
     if (arrangement == _arrangement) return;

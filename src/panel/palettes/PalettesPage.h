@@ -41,6 +41,9 @@ public:
     /// Shows the colours of a picture, of which only the user may know the name. Has no effect
     /// unless the page has been shown.
     void showPicture(const QImage& picture);
+    /// Imports dropped files, or shows the colours of a dropped picture. Has no effect unless the
+    /// page has been shown.
+    void takeDropped(const QMimeData& dropped);
     /// Makes a new list of these colours and lets the user name it. Has no effect unless the page
     /// is shown.
     void keepAsList(const QString& name, const std::vector<HostColor>& colors);

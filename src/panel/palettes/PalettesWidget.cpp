@@ -239,7 +239,11 @@ void PalettesWidget::dropEvent(QDropEvent* event)
 {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    const QMimeData& dropped = *event->mimeData();
+    takeDropped(*event->mimeData());
+}
+
+void PalettesWidget::takeDropped(const QMimeData& dropped)
+{
     const QList<QUrl> urls = dropped.urls();
     const bool hasFile =
         std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });

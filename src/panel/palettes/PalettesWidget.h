@@ -45,6 +45,8 @@ public:
     void addColors(const std::vector<HostColor>& colors) { _edits->addColors(colors); }
     /// Shows the main colours of a picture in a window of their own. An empty name becomes another.
     void showPicture(const QImage& picture, const QString& name);
+    /// Imports dropped files, or shows the colours of a dropped picture.
+    void takeDropped(const QMimeData& dropped);
     /// Adds a list, and lets the user name it.
     void startList(const QString& name, const PaletteEntries& entries);
 

@@ -15,7 +15,7 @@ class PictureColors final : public QDialog {
     Q_OBJECT
 
 public:
-    static constexpr int usualCount = 8;
+    static constexpr int usualCount = 10;
     static constexpr int largestCount = 32;
 
     /// `name` is that of the picture. The picture must not be null.

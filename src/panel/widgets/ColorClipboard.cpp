@@ -8,6 +8,10 @@
 #include "result/HarmlessLine.h"
 #include "result/Result.h"
 
+#include <QList>
+#include <QUrl>
+
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>
@@ -77,7 +81,12 @@ std::vector<ColorForm> formsFromColor(const HostColor& color, const QString& tex
 
 bool mayHoldColor(const QMimeData& data)
 {
-    return data.hasFormat(QLatin1String(colorType)) || data.hasText();
+    if (data.hasFormat(QLatin1String(colorType))) return true;
+    // File managers offer the paths of files as texts, too.
+    const QList<QUrl> urls = data.urls();
+    const bool holdsFile =
+        std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+    return data.hasText() && !holdsFile;
 }
 
 ColorOffer colorFromMimeData(const QMimeData& data)

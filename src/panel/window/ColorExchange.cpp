@@ -1,6 +1,7 @@
 #include "panel/window/ColorExchange.h"
 
 #include "color/QTXHexColorSpec.h"
+#include "colormath/NearestNamedColor.h"
 #include "csscolor/CSSColorWriter.h"
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/ClipboardOwner.h"
@@ -13,6 +14,9 @@
 #include <QClipboard>
 
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace vantorel {
@@ -29,6 +33,26 @@ std::u16string wideText(const HostColor& color, ColorSpace space)
     value.components = convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, space);
     value.space = space;
     return cssTextIn(space, value);
+}
+
+/// The sign for "about" says that it is not the colour's own name.
+std::u16string nameOfPicked(const HostColor& color)
+{
+    const auto nearest = nearestNamedColor(color);
+    if (!nearest) return {};
+    const std::u16string_view name = nearest->color.name;
+    return (nearest->isExact ? u"" : u"\u2248 ") + std::u16string(name);
+}
+
+/// The keys of the magnifier that copy: hex, RGB, HSL, OKLCH.
+bool isLetterOfForm(char letter)
+{
+    return std::string_view("HRSO").find(letter) != std::string_view::npos;
+}
+
+QString textOf(const std::optional<std::u16string>& text)
+{
+    return text ? qStringFrom(*text) : QString();
 }
 
 MessageLabel::Kind kindOf(const ColorOffer& offer)
@@ -183,6 +207,21 @@ void ColorExchange::takeOneColor(EditedColor which, const ColorOffer& offer)
     emit reported(isHeld ? Message() : offer.message, kindOf(offer));
 }
 
+QString ColorExchange::formOfLetter(char letter) const
+{
+    const HostColor color = mappedIntoSRGB(_colors.color());
+    switch (letter) {
+        case 'R':
+            return textOf(rgbText(color));
+        case 'S':
+            return textOf(hslText(color));
+        case 'O':
+            return textOf(oklchText(color));
+        default:
+            return qStringFrom(colorTexts().front().text);
+    }
+}
+
 void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
 {
     // Read each time: another panel, or the dialog, may have changed them.
@@ -194,13 +233,26 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
         _colors.setColor(color);
         _colors.rememberColor();
     };
+    options.nameOf = nameOfPicked;
+    const auto letter = std::make_shared<char>('\0');
+    // What another program asked for is not copied by the way.
+    if (done == nullptr) {
+        options.picksByLetter = [letter](char pressed) {
+            *letter = pressed;
+            return isLetterOfForm(pressed);
+        };
+    }
     const auto after = done == nullptr ? preferences.afterPicking() : AfterPicking::shows;
     _screenPicker->start(
         &_window, options,
-        [this, copies, after, done = std::move(done)](const ScreenPickResult& result) {
+        [this, copies, after, letter, done = std::move(done)](const ScreenPickResult& result) {
             takePick(result);
             if (result.outcome == ScreenPickResult::Outcome::picked) {
-                if (copies || after != AfterPicking::shows) copy();
+                if (*letter != '\0') {
+                    copyText(formOfLetter(*letter));
+                } else if (copies || after != AfterPicking::shows) {
+                    copy();
+                }
                 if (after == AfterPicking::copiesHides) _window.showMinimized();
             }
             if (done)
@@ -218,6 +270,7 @@ void ColorExchange::pickMany(std::function<void(const std::vector<HostColor>&)> 
     // Only here a click does not end it, so the keys are always explained.
     options.showsHints = true;
     options.goesOn = true;
+    options.nameOf = nameOfPicked;
     options.pickedOnTheWay = [picked](const HostColor& color) { picked->push_back(color); };
     _screenPicker->start(&_window, options,
                          [this, picked, done = std::move(done)](const ScreenPickResult& result) {

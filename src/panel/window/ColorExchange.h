@@ -92,6 +92,8 @@ signals:
     void reported(const vantorel::Message& message, vantorel::MessageLabel::Kind kind);
 
 private:
+    /// The colour as the letter of a form copies it: H, R, S or O.
+    [[nodiscard]] QString formOfLetter(char letter) const;
     void takePick(const ScreenPickResult& result);
 
     PanelColors& _colors;

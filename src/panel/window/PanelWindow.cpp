@@ -8,6 +8,7 @@
 #include "hosts/qt/TextScale.h"
 #include "panel/pages/PluginPage.h"
 #include "panel/palettes/PalettesPage.h"
+#include "panel/window/PictureDrops.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -134,6 +135,11 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
         _parts.pages.showPageWithKey(_palettes->key());
         _palettes->showPicture(picture);
     });
+    connect(new PictureDrops(*this), &PictureDrops::dropped, this,
+            [this](const QMimeData& dropped) {
+                _parts.pages.showPageWithKey(_palettes->key());
+                _palettes->takeDropped(dropped);
+            });
     connect(_palettes, &PalettesPage::picksRequested, this, [this] {
         _exchange.pickMany(
             [this](const std::vector<HostColor>& colors) { _palettes->addColors(colors); });

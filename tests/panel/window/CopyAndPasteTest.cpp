@@ -2,8 +2,12 @@
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/ColorClipboard.h"
 
+#include <QDialog>
 #include <QDropEvent>
+#include <QFile>
 #include <QMenu>
+#include <QTemporaryDir>
+#include <QUrl>
 
 #include <array>
 
@@ -221,6 +225,116 @@ TEST_F(CopyAndPasteTest, AFailureIsShownWholeUntilTheNextSuccess)
 
     type(QKeySequence("Ctrl+V"));
     EXPECT_EQ(message(), QString()) << "a success without a message takes the last one away";
+}
+
+struct LetterRow {
+    char letter;
+    const char* copied;
+};
+void PrintTo(const LetterRow& row, std::ostream* out)
+{
+    *out << row.letter;
+}
+
+class PickLetterTest : public PanelCommandsFixture,
+                       public testing::WithParamInterface<LetterRow> {};
+
+TEST_P(PickLetterTest, PicksAndCopiesInItsForm)
+{
+    _pick.result = {.outcome = ScreenPickResult::Outcome::picked, .color = rgb(59, 130, 246)};
+    _pick.letter = GetParam().letter;
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_TRUE(_pick.letterPicks);
+    EXPECT_EQ(clipboard().text(), GetParam().copied);
+    EXPECT_EQ(chosenColor(), QColor(59, 130, 246));
+    EXPECT_EQ(_window->colors().recent().front(), rgb(59, 130, 246));
+}
+
+INSTANTIATE_TEST_SUITE_P(Letters, PickLetterTest,
+                         testing::Values(LetterRow{'H', "#3B82F6"},
+                                         LetterRow{'R', "rgb(59, 130, 246)"},
+                                         LetterRow{'S', "hsl(217.22 91.22% 59.8%)"},
+                                         LetterRow{'O', "oklch(62.308% 0.18801 259.815)"}),
+                         [](const auto& row) { return std::string(1, row.param.letter); });
+
+TEST_F(CopyAndPasteTest, OtherLettersAndPicksForOthersDoNotChooseTheForm)
+{
+    _pick.result = {.outcome = ScreenPickResult::Outcome::picked, .color = rgb(59, 130, 246)};
+    _pick.letter = 'X';
+    type(QKeySequence("Ctrl+P"));
+    EXPECT_FALSE(_pick.letterPicks);
+    EXPECT_EQ(clipboard().text(), "#3B82F6") << "as after every pick";
+    QApplication::clipboard()->clear();
+    _pick.letter = 'R';
+    _window->exchange().pickFromScreen(false, [](const ScreenPickResult&) {});
+    EXPECT_FALSE(_pick.letterPicks);
+    EXPECT_EQ(QApplication::clipboard()->text(), "");
+}
+
+TEST_F(CopyAndPasteTest, TheMagnifierKnowsTheNamesOfColours)
+{
+    type(QKeySequence("Ctrl+P"));
+    ASSERT_TRUE(_pick.options.nameOf);
+    EXPECT_EQ(qStringFrom(_pick.options.nameOf(rgb(0, 0, 128))), "navy");
+    EXPECT_EQ(qStringFrom(_pick.options.nameOf(rgb(59, 130, 246))),
+              QStringLiteral("\u2248 dodgerblue"));
+}
+
+class PictureDropsTest : public PanelCommandsFixture {
+protected:
+    /// Drops on the first widget at a place that takes it, as Qt does.
+    bool drop(const QMimeData& data, const char* over)
+    {
+        for (auto* target = _window->findChild<QWidget*>(over); target != nullptr;
+             target = target->parentWidget()) {
+            if (!target->acceptDrops()) continue;
+            QDragEnterEvent entered({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            entered.ignore();
+            QApplication::sendEvent(target, &entered);
+            if (!entered.isAccepted()) continue;
+            QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(target, &dropped);
+            return dropped.isAccepted();
+        }
+        return false;
+    }
+};
+
+TEST_F(PictureDropsTest, APictureIsDroppedOnEveryPageAndOnTheColours)
+{
+    const QTemporaryDir folder;
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(QColor(59, 130, 246));
+    const QString path = folder.filePath("Sky.png");
+    ASSERT_TRUE(picture.save(path));
+    for (const char* over : {"_hexColorsView", "colorWell"}) {
+        ASSERT_NE(_window->findChild<QWidget*>(over), nullptr) << over;
+        ASSERT_TRUE(_window->pages().showPageWithKey("hex"));
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(path)});
+        file.setText(path);
+        EXPECT_TRUE(drop(file, over)) << over;
+        EXPECT_EQ(_window->pages().current()->key(), "palettes") << over;
+        auto* window = _window->findChild<QDialog*>("pictureColors");
+        ASSERT_NE(window, nullptr) << over;
+        EXPECT_TRUE(window->windowTitle().contains("Sky"));
+        delete window;
+    }
+    EXPECT_EQ(chosenColor(), QColor(255, 128, 0)) << "a file is not a colour";
+}
+
+TEST_F(PictureDropsTest, OtherFilesAreLeftToThePages)
+{
+    const QTemporaryDir folder;
+    QFile other(folder.filePath("notes.txt"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("not a picture");
+    other.close();
+    ASSERT_TRUE(_window->pages().showPageWithKey("hex"));
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(other.fileName())});
+    EXPECT_FALSE(drop(file, "_hexColorsView"));
+    EXPECT_EQ(_window->pages().current()->key(), "hex");
 }
 
 }  // namespace

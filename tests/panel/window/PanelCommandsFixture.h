@@ -18,6 +18,9 @@ public:
         std::vector<HostColor> onTheWay;
         ScreenPickResult result;
         PickOptions options;
+        /// The key of the magnifier that picks; none at 0.
+        char letter = '\0';
+        bool letterPicks = false;
     };
 
     explicit ScriptedScreenPicker(Script& script) : _script(script) {}
@@ -27,6 +30,8 @@ public:
         for (const HostColor& color : _script.onTheWay) {
             if (options.pickedOnTheWay) options.pickedOnTheWay(color);
         }
+        if (_script.letter != '\0')
+            _script.letterPicks = options.picksByLetter && options.picksByLetter(_script.letter);
         done(_script.result);
     }
     void cancel() override {}
