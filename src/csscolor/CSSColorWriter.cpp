@@ -124,11 +124,17 @@ WrittenSpace writtenSpace(ColorSpace space)
 
 std::optional<std::u16string> hexText(const HostColor& color)
 {
+    return hexText(color, {EntryForm::lowercase, true});
+}
+
+std::optional<std::u16string> hexText(const HostColor& color, const HexForm& form)
+{
     const auto fractions = fractionsOf(color);
     if (!fractions) return std::nullopt;
-    std::u16string text = u"#";
-    const auto append = [&text](double fraction) {
-        appendHexByte(text, nearestByte(fraction), HexCase::lower);
+    std::u16string text;
+    if (form.poundSign) text = u"#";
+    const auto append = [&](double fraction) {
+        appendHexByte(text, nearestByte(fraction), hexCaseOf(form.entryForm));
     };
     for (const double fraction : fractions->srgb)
         append(fraction);

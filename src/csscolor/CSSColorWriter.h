@@ -1,5 +1,6 @@
 #pragma once
 
+#include "color/HexForm.h"
 #include "csscolor/CSSColorValue.h"
 #include "host/HostColor.h"
 
@@ -14,6 +15,8 @@ namespace vantorel {
 
 /// Returns "#ff8000" or "#ff800080".
 [[nodiscard]] std::optional<std::u16string> hexText(const HostColor& color);
+/// The same in the form that the user wants, which is not always CSS: "FF8000" or "ff800080".
+[[nodiscard]] std::optional<std::u16string> hexText(const HostColor& color, const HexForm& form);
 
 /// Returns "rgb(255, 128, 0)" or "rgba(255, 128, 0, 0.5)", as browsers do (section 15.2).
 [[nodiscard]] std::optional<std::u16string> rgbText(const HostColor& color);

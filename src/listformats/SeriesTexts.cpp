@@ -61,11 +61,11 @@ std::string designTokensText(const ColorSeries& series)
     return json + "\n  }\n}\n";
 }
 
-std::string hexCodesText(const ColorSeries& series)
+std::string hexCodesText(const ColorSeries& series, const HexForm& form)
 {
     std::string text;
     for (const ColorSeries::Entry& entry : series.entries)
-        text += codeOf(entry.color) + '\n';
+        text += utf8FromUtf16(hexText(mappedIntoSRGB(entry.color), form).value_or(u"")) + '\n';
     return text;
 }
 

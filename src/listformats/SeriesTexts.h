@@ -1,5 +1,6 @@
 #pragma once
 
+#include "color/HexForm.h"
 #include "host/HostColor.h"
 
 #include <string>
@@ -31,7 +32,7 @@ struct ColorSeries {
 /// Returns a group of colour tokens as JSON (Design Tokens Community Group, format and color module
 /// 2025.10).
 [[nodiscard]] std::string designTokensText(const ColorSeries& series);
-/// Returns a line for each colour: its hex code.
-[[nodiscard]] std::string hexCodesText(const ColorSeries& series);
+/// Returns a line for each colour: its hex code in the form that the user wants.
+[[nodiscard]] std::string hexCodesText(const ColorSeries& series, const HexForm& form);
 
 }  // namespace vantorel

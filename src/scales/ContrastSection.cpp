@@ -1,5 +1,4 @@
 #include "colormath/ReadableColor.h"
-#include "csscolor/CSSColorWriter.h"
 #include "csscolor/Contrast.h"
 #include "csscolor/GamutMapping.h"
 #include "scales/ContrastLines.h"
@@ -109,7 +108,7 @@ private:
                 [this](const HostColor& color) { return contrastWithOther(color); });
             if (!nearest) continue;
             const bool passes = *nearest == own;
-            const std::u16string code = hexText(*nearest).value_or(u"");
+            const std::u16string code = page().hexCode(*nearest);
             swatches.push_back(
                 {*nearest,
                  level.name + (passes ? u" " + desktop().localizedString(u"passes") : u" " + code),

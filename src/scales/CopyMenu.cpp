@@ -4,6 +4,7 @@
 #include "csscolor/GamutMapping.h"
 #include "settings/KnownSnippets.h"
 #include "settings/SettingsFile.h"
+#include "settings/SettingsInFile.h"
 #include "text/Decimals.h"
 #include "text/Unicode.h"
 
@@ -84,7 +85,6 @@ HostMenu formsMenu(const Shared& source)
         {source->desktop().localizedString(u"SCSS variables"), scssVariablesText},
         {u"Tailwind 4 @theme", tailwindThemeText},
         {source->desktop().localizedString(u"JSON design tokens"), designTokensText},
-        {source->desktop().localizedString(u"Hex codes"), hexCodesText},
     };
     HostMenu menu;
     for (const Form& form : forms) {
@@ -92,6 +92,11 @@ HostMenu formsMenu(const Shared& source)
             source->copy(form.text(source->series.colors()), form.title);
         }));
     }
+    const std::u16string hexCodes = source->desktop().localizedString(u"Hex codes");
+    menu.push_back(itemOf(hexCodes, [source, hexCodes] {
+        SettingsInFile settings(source->desktop().files());
+        source->copy(hexCodesText(source->series.colors(), settings.current().hexForm()), hexCodes);
+    }));
     menu.push_back(submenuOf(source->desktop().localizedString(u"Lines of code"),
                              [source] { return snippetsMenu(source); }));
     menu.push_back(HostMenuItem::separatorItem());

@@ -1,6 +1,4 @@
 #include "csscolor/CSSColorReader.h"
-#include "csscolor/CSSColorWriter.h"
-#include "csscolor/GamutMapping.h"
 #include "host/HostInterfaceFactory.h"
 #include "host/HostNumberField.h"
 #include "scales/ScalesSections.h"
@@ -45,7 +43,7 @@ public:
     {
         const ScalesModel& model = page().model();
         _strip.show(model.gradient());
-        _end->setStringValue(hexText(mappedIntoSRGB(model.end())).value_or(u""));
+        _end->setStringValue(page().hexCode(model.end()));
         _steps->setValue(model.steps());
         _space->selectItemAtIndex(static_cast<int>(model.space()));
     }
@@ -146,11 +144,14 @@ private:
     {
         const std::u16string text = _end->stringValue();
         // The action is also sent when a field is left in which nothing was typed.
-        if (text == hexText(mappedIntoSRGB(page().model().end()))) return;
+        if (text == page().hexCode(page().model().end())) return;
         if (text.find_first_not_of(u' ') == std::u16string::npos) {
             page().model().setEnd(std::nullopt);
         } else if (const auto color = readCSSColor(text)) {
             page().model().setEnd(color->color);
+        } else if (const auto code = readCSSColor(u"#" + text)) {
+            // The user may want codes without "#".
+            page().model().setEnd(code->color);
         } else {
             page().panel().report(desktop().localizedString(
                 u"This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)"));

@@ -1,5 +1,7 @@
 #include "scales/ScalesPicker.h"
 
+#include "csscolor/CSSColorWriter.h"
+#include "csscolor/GamutMapping.h"
 #include "host/HostInterfaceFactory.h"
 #include "scales/ScalesMemory.h"
 #include "scales/ScalesSections.h"
@@ -159,8 +161,15 @@ void ScalesPicker::chooseSection(std::size_t section)
     if (isAnother) rememberSoon();
 }
 
+std::u16string ScalesPicker::hexCode(const HostColor& color)
+{
+    return hexText(mappedIntoSRGB(color), _settings.current().hexForm()).value_or(u"");
+}
+
 void ScalesPicker::pageDidAppear()
 {
+    // The user may have chosen another form of codes on the Hex page.
+    if (_page) showSections();
     if (_acceptedMouseMoved) return;
     _acceptedMouseMoved = colorPanel().acceptsMouseMovedEvents();
     // For the tool tips of the colours.

@@ -6,6 +6,7 @@
 #include "scales/ScalesLayout.h"
 #include "scales/ScalesModel.h"
 #include "scales/ScalesSection.h"
+#include "settings/SettingsInFile.h"
 
 #include <memory>
 #include <optional>
@@ -43,6 +44,7 @@ private:
     // What the sections need.
     HostColorPanel& panel() override { return colorPanel(); }
     ScalesModel& model() override { return _model; }
+    [[nodiscard]] std::u16string hexCode(const HostColor& color) override;
     void choose(const HostColor& color) override { colorPanel().setColor(color); }
     void modelDidChange() override;
 
@@ -57,6 +59,7 @@ private:
     void showSections();
 
     ScalesModel _model;
+    SettingsInFile _settings{colorPanel().desktop().files()};
     std::unique_ptr<HostView> _page;
     std::vector<std::unique_ptr<ScalesSection>> _sections;
     std::size_t _chosen = 0;

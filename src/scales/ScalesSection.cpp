@@ -33,6 +33,7 @@ ScalesSection::ScalesSection(ScalesPage& page, std::string identifier, std::u16s
 SwatchStrip& ScalesSection::addRow(const std::u16string& label, SwatchStrip::Options options,
                                    RowHeight height)
 {
+    options.code = [this](const HostColor& color) { return _page.hexCode(color); };
     options.identifier = _identifier + "Row" + std::to_string(_rows.size() + 1);
     _rows.push_back(
         {label, false,

@@ -21,6 +21,8 @@ public:
     virtual ~ScalesPage() = default;
     virtual HostColorPanel& panel() = 0;
     virtual ScalesModel& model() = 0;
+    /// Returns the hex code of a colour in the form that the user wants, mapped into sRGB.
+    [[nodiscard]] virtual std::u16string hexCode(const HostColor& color) = 0;
     /// Makes a colour the panel's colour.
     virtual void choose(const HostColor& color) = 0;
     /// The user has changed the model in another way.

@@ -31,11 +31,6 @@ constexpr double dragThreshold = 4;
 /// Farther than any view is wide or high.
 constexpr double farAway = 1e5;
 
-std::u16string codeOf(const HostColor& color)
-{
-    return hexText(mappedIntoSRGB(color)).value_or(u"");
-}
-
 /// The line inside every colour, so that each has an edge on any ground.
 HostColor swatchLine(const HostCanvas& canvas, const PixelLook& look)
 {
@@ -147,6 +142,12 @@ std::optional<std::size_t> SwatchStrip::swatchAt(HostPoint point) const
         if (place.contains(point)) return i;
     }
     return std::nullopt;
+}
+
+std::u16string SwatchStrip::codeOf(const HostColor& color) const
+{
+    if (_options.code) return _options.code(color);
+    return hexText(mappedIntoSRGB(color)).value_or(u"");
 }
 
 std::u16string SwatchStrip::spoken(std::size_t index) const

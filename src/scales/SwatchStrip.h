@@ -28,6 +28,8 @@ public:
         double leastWidth = 24;
         /// What is shown in place of colours if there are none.
         std::u16string emptyText = {};
+        /// Writes the code of a colour. Sections set it.
+        std::function<std::u16string(const HostColor& color)> code = {};
     };
     using Chosen = std::function<void(const HostColor& color)>;
 
@@ -59,6 +61,7 @@ private:
     /// The places of the colours, without their labels.
     [[nodiscard]] std::vector<HostRect> places() const;
     [[nodiscard]] std::optional<std::size_t> swatchAt(HostPoint point) const;
+    [[nodiscard]] std::u16string codeOf(const HostColor& color) const;
     [[nodiscard]] std::u16string spoken(std::size_t index) const;
     void drawEmptyText(HostCanvas& canvas) const;
     void drawLabel(HostCanvas& canvas, const Swatch& swatch, HostRect place) const;

@@ -2,6 +2,7 @@
 
 #include "color/ComponentDisplay.h"
 #include "color/EntryForm.h"
+#include "color/HexForm.h"
 #include "plist/PropertyList.h"
 #include "settings/PickViewMode.h"
 #include "snippets/CodeDragType.h"
@@ -31,6 +32,8 @@ public:
     /// Whether hex codes start with "#".
     [[nodiscard]] bool usePoundSign() const { return _usePoundSign; }
     void setUsePoundSign(bool use) { _usePoundSign = use; }
+    /// Both of these, for texts that are written elsewhere.
+    [[nodiscard]] HexForm hexForm() const { return {_entryForm, _usePoundSign}; }
     /// The naming list: names the current colour and is shown in the palette.
     [[nodiscard]] const std::optional<std::u16string>& hexColorList() const
     {

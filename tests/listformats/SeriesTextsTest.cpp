@@ -32,8 +32,9 @@ TEST(SeriesTextsTest, ThemeVariablesOfTailwind)
 
 TEST(SeriesTextsTest, HexCodesAreOneALine)
 {
-    EXPECT_EQ(hexCodesText(twoReds()), "#fff0ee\n#ff634780\n");
-    EXPECT_EQ(hexCodesText({"none", {}}), "");
+    EXPECT_EQ(hexCodesText(twoReds(), {}), "#FFF0EE\n#FF634780\n");
+    EXPECT_EQ(hexCodesText(twoReds(), {EntryForm::lowercase, false}), "fff0ee\nff634780\n");
+    EXPECT_EQ(hexCodesText({"none", {}}, {}), "");
 }
 
 TEST(SeriesTextsTest, TokensAreAGroupOfColours)

@@ -43,11 +43,34 @@ TEST_F(ScalesPickerTest, ADragCarriesAColourOut)
     EXPECT_EQ(panelCode(), u"#3b82f6") << "a drag takes no colour";
 }
 
+TEST_F(ScalesPickerTest, CodesHaveTheFormOfTheSettings)
+{
+    desktop.files().createDirectory("/home/user/Vantorel");
+    desktop.files().writeAtomically("/home/user/Vantorel/Settings.plist",
+                                    "{EntryForm = Lowercase; UsePoundSign = No;}");
+    picker->pageDidAppear();
+    choose("scalesScaleCopy", {u"Tints", u"Hex codes"});
+    EXPECT_THAT(copied(), StartsWith("3b82f6\n"));
+    choose("scalesScaleCopy", {u"SCSS variables"});
+    EXPECT_THAT(copied(), HasSubstr("$dodgerblue-500: #3b82f6;")) << "style sheets need the \"#\"";
+    EXPECT_EQ(utf8FromUtf16(*view("scalesScaleRow1").accessibleDescription()),
+              "500, 3b82f6, the colour itself");
+
+    auto& end = control<HeadlessTextField>("scalesGradientEnd");
+    picker->performAction("gradient", nullptr);
+    EXPECT_EQ(end.stringValue(), u"b57a00");
+    end.setStringValue(u"00ff80");
+    end.sendAction();
+    EXPECT_EQ(end.stringValue(), u"00ff80");
+    EXPECT_TRUE(panel.reports().empty() ||
+                panel.reports().back().find(u"not a colour") == std::u16string::npos);
+}
+
 TEST_F(ScalesPickerTest, KeysWalkAlongARow)
 {
     const std::string row = "scalesScaleRow1";
     const auto spoken = [&] { return utf8FromUtf16(*view(row).accessibleDescription()); };
-    EXPECT_EQ(spoken(), "500, #3b82f6, the colour itself") << "the keys begin at the colour";
+    EXPECT_EQ(spoken(), "500, #3B82F6, the colour itself") << "the keys begin at the colour";
     EXPECT_TRUE(press(row, HostKey::left));
     EXPECT_THAT(spoken(), StartsWith("400, #"));
     EXPECT_TRUE(press(row, HostKey::home));
@@ -69,7 +92,7 @@ TEST_F(ScalesPickerTest, ATipNamesTheColourUnderThePointer)
     EXPECT_TRUE(panel.acceptsMouseMovedEvents());
     auto& row = view("scalesScaleRow1");
     panel.deliver({{HostEventType::mouseMoved, placeOf("scalesScaleRow1", 5), 0}}, row);
-    EXPECT_EQ(row.toolTip(), u"500: #3b82f6");
+    EXPECT_EQ(row.toolTip(), u"500: #3B82F6");
     panel.changeColor(rgbColor(1, 2, 3));
     EXPECT_FALSE(row.toolTip());
     picker->pageDidDisappear();
@@ -89,7 +112,7 @@ TEST_F(ScalesPickerTest, ARowIsCopiedInEveryForm)
     choose("scalesScaleCopy", {u"JSON design tokens"});
     EXPECT_THAT(copied(), HasSubstr("\"500\": {\"$value\""));
     choose("scalesScaleCopy", {u"Tints", u"Hex codes"});
-    EXPECT_THAT(copied(), StartsWith("#3b82f6\n#"));
+    EXPECT_THAT(copied(), StartsWith("#3B82F6\n#"));
     choose("scalesScaleCopy", {u"Shades", u"CSS custom properties"});
     EXPECT_THAT(copied(), HasSubstr("--dodgerblue-shade-2: #"));
     choose("scalesSchemesCopy", {u"Triad", u"SCSS variables"});

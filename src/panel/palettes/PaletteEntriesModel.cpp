@@ -3,6 +3,7 @@
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
 #include "paletteedit/ProposedName.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/ColorClipboard.h"
 
 #include <algorithm>
@@ -12,8 +13,7 @@ namespace {
 
 QString nameAndCode(const PaletteEntry& entry)
 {
-    return QStringLiteral("%1, %2").arg(qStringFrom(entry.name()),
-                                        qStringFrom(hexCodeOf(entry.color())));
+    return QStringLiteral("%1, %2").arg(qStringFrom(entry.name()), plainHexCode(entry.color()));
 }
 
 }  // namespace
@@ -107,7 +107,7 @@ QVariant PaletteEntriesModel::data(const QModelIndex& index, int role) const
         case colorRole:
             return qColorFrom(entry.color());
         case hexRole:
-            return qStringFrom(hexCodeOf(entry.color()));
+            return plainHexCode(entry.color());
         case startNameRole:
             return qStringFrom(nameToStartFrom(_entries, placeOfRow(index.row())));
         default:

@@ -6,6 +6,7 @@
 #include "panel/palettes/PaletteControls.h"
 #include "panel/palettes/PictureColors.h"
 #include "panel/palettes/PictureData.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/widgets/PanelIcons.h"
 #include "panel/widgets/StyleFields.h"
 #include "result/HarmlessLine.h"
@@ -199,7 +200,7 @@ void PalettesWidget::connectCommands()
 void PalettesWidget::setColor(const HostColor& color)
 {
     _edits->setColor(color);
-    _commands->setPanelColor(qStringFrom(hexCodeOf(color)));
+    _commands->setPanelColor(plainHexCode(color.colorWithAlphaComponent(1)));
 }
 
 void PalettesWidget::setArrangement(PaletteEntriesView::Arrangement arrangement)

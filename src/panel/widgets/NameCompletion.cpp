@@ -70,7 +70,10 @@ private:
 };
 
 NameCompletion::NameCompletion(QLineEdit& field)
-    : QObject(&field), _field(field), _model(new Model(this)), _completer(new QCompleter(_model, this))
+    : QObject(&field),
+      _field(field),
+      _model(new Model(this)),
+      _completer(new QCompleter(_model, this))
 {
     _completer->setCaseSensitivity(Qt::CaseInsensitive);
     _completer->setMaxVisibleItems(mostShownNames);

@@ -1,12 +1,12 @@
 #include "panel/window/ColorEntry.h"
 
 #include "colortext/ColorTextReader.h"
-#include "csscolor/CSSColorWriter.h"
 #include "csscolor/CSSNamedColors.h"
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/PlainText.h"
 #include "hosts/qt/QtColors.h"
+#include "panel/widgets/CodeWithOpacity.h"
 #include "panel/window/FormNames.h"
 #include "result/HarmlessLine.h"
 
@@ -193,8 +193,7 @@ void ColorEntry::showFacts()
     _facts.setName(isBackground ? tr("Background: %1").arg(name) : name, list);
     // Whatever is being typed.
     const bool showsHex = shortFormNameOfText(_exchange.copiedText()) == QLatin1String("HEX");
-    _facts.setOtherForm(showsHex ? roundedOklchText(_colors.color())
-                                 : qStringFrom(hexText(color).value_or(std::u16string())));
+    _facts.setOtherForm(showsHex ? roundedOklchText(_colors.color()) : plainHexCode(color));
     _facts.setOpacity(static_cast<int>(std::lround(qColorFrom(color).alphaF() * 100)));
 }
 

@@ -8,6 +8,7 @@
 #include "hosts/qt/QtColors.h"
 #include "panel/palettes/PictureData.h"
 #include "panel/preferences/PanelPreferences.h"
+#include "panel/widgets/PanelSettings.h"
 #include "result/HarmlessLine.h"
 
 #include <QApplication>
@@ -83,7 +84,7 @@ std::vector<HostColorText> ColorExchange::colorTexts() const
     };
     if (texts.empty()) {
         const double alpha = color.alphaComponent();
-        add(u"Hex Code", hexText(color));
+        add(u"Hex Code", hexText(color, PanelSettings::hexForm()));
         if (const auto opaque = rgbText(color.colorWithAlphaComponent(1)))
             add(u"RGB (CSS)", rgbTextWithAlpha(*opaque, alpha));
     }

@@ -3,8 +3,22 @@
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/DisplayNames.h"
 #include "hosts/qt/QtColors.h"
+#include "text/HexDigits.h"
+
+#include <algorithm>
 
 namespace vantorel {
+namespace {
+
+/// Whether a text is a hex code, with or without "#".
+bool isHexCode(const QString& text)
+{
+    if (text.startsWith(u'#')) return true;
+    return (text.size() == 6 || text.size() == 8) &&
+           std::ranges::all_of(text, [](QChar c) { return isHexDigit(char16_t{c.unicode()}); });
+}
+
+}  // namespace
 
 QString shortFormName(const HostColorText& form)
 {
@@ -18,7 +32,7 @@ QString shortFormName(const HostColorText& form)
 QString shortFormNameOfText(const QString& text)
 {
     const QString name = text.section(u'(', 0, 0).trimmed().toUpper();
-    if (text.startsWith(u'#')) return QStringLiteral("HEX");
+    if (isHexCode(text)) return QStringLiteral("HEX");
     if (name == QLatin1String("RGBA")) return QStringLiteral("RGB");
     for (const char* known : {"RGB", "HSL", "OKLCH"})
         if (name == QLatin1String(known)) return name;

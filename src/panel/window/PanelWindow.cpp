@@ -30,7 +30,8 @@ QSize scaledSize(QSize points)
 
 PanelWindow::PanelWindow(QtDesktop& desktop, const std::vector<LoadedPlugin>& plugins,
                          std::vector<Message>& problems, std::unique_ptr<ScreenPicker> screenPicker)
-    : _parts(*this),
+    : _settings(desktop.files()),
+      _parts(*this),
       _host(desktop, *this, _colors, _parts.pages),
       _exchange(_colors, _parts.pages, *this, desktop.files(), std::move(screenPicker)),
       _commands(*this, _colors, _parts.pages, _exchange, desktop.files()),

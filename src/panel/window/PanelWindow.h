@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/widgets/MessageLabel.h"
+#include "panel/widgets/PanelSettings.h"
 #include "panel/window/ColorEntry.h"
 #include "panel/window/PanelCommands.h"
 #include "panel/window/PanelHost.h"
@@ -84,6 +85,7 @@ private:
     void adaptToPage(int index);
     void adaptToMessage();
 
+    PanelSettings _settings;
     PanelColors _colors;
     PanelParts _parts;
     PanelHost _host;

@@ -109,7 +109,7 @@ TEST_F(CopyAndPasteTest, APageWithoutSnippetsCopiesTheHexCode)
 {
     _window->pages().showPage(_window->pages().count() - 1);
     type(QKeySequence("Ctrl+Shift+C"));
-    EXPECT_EQ(clipboard().text(), "#ff8000");
+    EXPECT_EQ(clipboard().text(), "#FF8000");
 }
 
 struct PasteRow {
