@@ -3069,6 +3069,26 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>copy as hex, rgb, hsl, oklch</source>
         <translation>kopieren als Hex, rgb, hsl, oklch</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale with itself</source>
+        <translation>Kontraste der Skala mit sich selbst</translation>
+    </message>
+    <message>
+        <source>Shown contrasts</source>
+        <translation>Gezeigte Kontraste</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Texts in columns, backgrounds in rows</source>
+        <translation>Texte in Spalten, Hintergründe in Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -3069,6 +3069,26 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>copy as hex, rgb, hsl, oklch</source>
         <translation>copian como hex, rgb, hsl, oklch</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale with itself</source>
+        <translation>Contrastes de la escala consigo misma</translation>
+    </message>
+    <message>
+        <source>Shown contrasts</source>
+        <translation>Contrastes mostrados</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Texts in columns, backgrounds in rows</source>
+        <translation>Textos en columnas, fondos en filas</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

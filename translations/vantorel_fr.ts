@@ -3069,6 +3069,26 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>copy as hex, rgb, hsl, oklch</source>
         <translation>copient en hex, rgb, hsl, oklch</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Contrasts of the scale with itself</source>
+        <translation>Contrastes de la gamme avec elle-même</translation>
+    </message>
+    <message>
+        <source>Shown contrasts</source>
+        <translation>Contrastes montrés</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Texts in columns, backgrounds in rows</source>
+        <translation>Textes en colonnes, fonds en lignes</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

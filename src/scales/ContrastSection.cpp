@@ -1,9 +1,13 @@
 #include "colormath/ReadableColor.h"
 #include "csscolor/Contrast.h"
 #include "csscolor/GamutMapping.h"
+#include "pageparts/Segments.h"
 #include "scales/ContrastLines.h"
+#include "scales/ContrastMatrix.h"
 #include "scales/ScalesSections.h"
 
+#include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace vantorel {
@@ -14,6 +18,8 @@ constexpr double nearestHeight = 24;
 constexpr double onGroundHeight = 24;
 constexpr double mostHeight = 36;
 constexpr double leastWidthForVerdict = 19;
+constexpr double viewsText = 11;
+constexpr double besideViews = 16;
 
 struct Level {
     const char16_t* name;
@@ -21,21 +27,16 @@ struct Level {
 };
 constexpr Level levels[] = {{u"AA", 4.5}, {u"AAA", 7}};
 
-/// What a ratio is enough for, in the room of a narrow colour.
-std::u16string shortVerdict(double ratio)
-{
-    const ContrastVerdicts verdicts = contrastVerdicts(ratio);
-    if (verdicts.normalTextAAA) return u"AAA";
-    if (verdicts.normalTextAA) return u"AA";
-    return verdicts.largeTextAA ? u"3:1" : u"\u2013";
-}
-
 class ContrastSection final : public ScalesSection {
 public:
     explicit ContrastSection(ScalesPage& scalesPage)
         : ScalesSection(scalesPage, "scalesContrast",
                         scalesPage.panel().desktop().localizedString(u"Contrast")),
           _lines(scalesPage.panel(), identifier() + "Lines", title()),
+          _matrix(scalesPage.panel(), identifier() + "Matrix",
+                  desktop().localizedString(u"Contrasts of the scale with itself"),
+                  [this](const HostColor& color) { page().choose(color); }),
+          _views(makeViewChoice()),
           _nearest(addRow(desktop().localizedString(u"Nearest"),
                           {.name = desktop().localizedString(u"Nearest colours that pass"),
                            .showsLabels = true,
@@ -49,6 +50,32 @@ public:
                             {onGroundHeight, mostHeight}))
     {
         view().addSubview(_lines.view());
+        view().addSubview(_matrix.view());
+    }
+
+    [[nodiscard]] double leastHeight(double width) const override
+    {
+        return _showsMatrix ? headingHeight + gap + _matrix.leastHeight()
+                            : ScalesSection::leastHeight(width);
+    }
+
+    void layOut(HostRect place) override
+    {
+        ScalesSection::layOut(place);
+        setRowsParked(_showsMatrix);
+        _lines.view().setParked(_showsMatrix);
+        _matrix.view().setParked(!_showsMatrix);
+        const double left = SwatchStrip::margin;
+        const double width = _views->leastWidth() + besideViews;
+        _views->layOutByTitles(
+            {left + place.width - width, place.height - headingHeight, width, Segments::height});
+        _views->show(_showsMatrix ? 1 : 0);
+        if (!_showsMatrix) return;
+        const double height = std::min(place.height - headingHeight - gap,
+                                       _matrix.leastHeight() * mostHeight / onGroundHeight);
+        _matrix.view().setFrame({left - ContrastMatrix::margin,
+                                 place.height - headingHeight - gap - height,
+                                 place.width + 2 * ContrastMatrix::margin, height});
     }
 
     void show() override
@@ -64,6 +91,7 @@ public:
         _lines.show(std::move(lines));
         _nearest.show(nearestColors());
         Swatches scale = page().model().scale();
+        _matrix.show(scale);
         for (Swatch& swatch : scale)
             swatch.label = shortVerdict(contrastWithOther(swatch.color));
         _scale.show(std::move(scale));
@@ -77,6 +105,25 @@ protected:
     void layOutAboveRows(HostRect place) override { _lines.view().setFrame(place); }
 
 private:
+    /// The choice between the colour and the scale, which the keyboard reaches before the rows.
+    std::unique_ptr<Segments> makeViewChoice()
+    {
+        auto views = std::make_unique<Segments>();
+        views->makeViews(
+            desktop(),
+            {.identifier = identifier() + "Views",
+             .buttonIdentifier = identifier() + "View",
+             .accessibleName = desktop().localizedString(u"Shown contrasts"),
+             .titles = {desktop().localizedString(u"Colour"), desktop().localizedString(u"Scale")},
+             .pointSize = viewsText},
+            [this](std::size_t choice) {
+                _showsMatrix = choice == 1;
+                page().modelDidChange();
+            });
+        view().addSubview(views->view());
+        return views;
+    }
+
     /// The panel's two colours as they are shown.
     [[nodiscard]] std::optional<HostColorPair> pairOfColors() const
     {
@@ -117,7 +164,10 @@ private:
         return swatches;
     }
 
+    bool _showsMatrix = false;
     ContrastLines _lines;
+    ContrastMatrix _matrix;
+    std::unique_ptr<Segments> _views;
     SwatchStrip& _nearest;
     SwatchStrip& _scale;
 };

@@ -11,7 +11,6 @@ namespace vantorel {
 namespace {
 
 // In points.
-constexpr double headingHeight = 28;
 constexpr double captionHeight = 16;
 constexpr double besideLabel = 8;
 /// The arrow of a pop-up, and the room around its title.
@@ -51,6 +50,12 @@ SwatchStrip& ScalesSection::addWideRow(const std::u16string& label, SwatchStrip:
     SwatchStrip& strip = addRow(label, std::move(options), height);
     _rows.back().isWide = true;
     return strip;
+}
+
+void ScalesSection::setRowsParked(bool flag)
+{
+    for (const Row& row : _rows)
+        row.strip->view().setParked(flag);
 }
 
 void ScalesSection::addCopyMenu(std::vector<CopiedSeries> series, bool comesFirst)
@@ -163,6 +168,7 @@ void ScalesSection::drawRect(HostCanvas& canvas)
     };
     drawLeft(heading, _view->bounds().maxY() - headingHeight / 2);
     for (const Row& row : _rows) {
+        if (row.strip->view().isParked()) continue;
         const HostText label{.string = row.label,
                              .pointSize = scalesTextSize,
                              .color = canvas.themeColor(HostThemeColor::secondaryText)};

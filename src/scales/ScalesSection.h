@@ -37,9 +37,9 @@ public:
     [[nodiscard]] const std::u16string& title() const { return _title; }
 
     /// The least height in which everything is shown at a width, in points.
-    [[nodiscard]] double leastHeight(double width) const;
+    [[nodiscard]] virtual double leastHeight(double width) const;
     /// Places the section. Room that is left below makes its rows higher, up to a limit.
-    void layOut(HostRect place);
+    virtual void layOut(HostRect place);
 
     /// Shows what the model has now.
     virtual void show() = 0;
@@ -61,6 +61,8 @@ protected:
         RowHeight height = {};
     };
 
+    /// In points.
+    static constexpr double headingHeight = 28;
     static constexpr double gap = 4;
     static constexpr double controlHeight = 28;
 
@@ -73,6 +75,8 @@ protected:
     /// Adds a row that takes the whole width. The name, if any, is above it.
     SwatchStrip& addWideRow(const std::u16string& label, SwatchStrip::Options options,
                             RowHeight height);
+    /// Hides the rows, or shows them again.
+    void setRowsParked(bool flag);
     /// Adds the menu at the right end of the heading.
     void addCopyMenu(std::vector<CopiedSeries> series, bool comesFirst);
     /// Returns the colours of a row as they are copied.

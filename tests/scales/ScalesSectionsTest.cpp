@@ -2,6 +2,7 @@
 
 #include "csscolor/Contrast.h"
 #include "scales/ContrastLines.h"
+#include "scales/ContrastMatrix.h"
 
 #include <cmath>
 
@@ -179,6 +180,66 @@ TEST_F(ContrastSectionTest, TheScaleSaysWhatPassesOnTheBackground)
     EXPECT_EQ(scale.front().label, u"\u2013");
     EXPECT_EQ(scale[5].label, u"3:1");
     EXPECT_EQ(scale.back().label, u"AAA");
+}
+
+TEST_F(ContrastSectionTest, TheScaleIsComparedWithItself)
+{
+    const auto& matrix = dynamic_cast<ContrastMatrix&>(view("scalesContrastMatrix").content());
+    EXPECT_TRUE(matrix.view().isParked());
+    control<HostButton>("scalesContrastView2").sendAction();
+    ASSERT_FALSE(matrix.view().isParked());
+    EXPECT_TRUE(view("scalesContrastRow1").isParked());
+    EXPECT_TRUE(view("scalesContrastLines").isParked());
+
+    const Swatches scale = strip("scalesContrastRow2").swatches();
+    ASSERT_EQ(scale.size(), 11U);
+    for (std::size_t ground = 0; ground < scale.size(); ++ground) {
+        for (std::size_t text = 0; text < scale.size(); ++text) {
+            EXPECT_DOUBLE_EQ(matrix.ratioOf({text, ground}),
+                             *contrastRatio(mappedIntoSRGB(scale[text].color),
+                                            mappedIntoSRGB(scale[ground].color)));
+            const HostRect place = matrix.placeOf({text, ground});
+            EXPECT_TRUE(matrix.view().bounds().contains({place.x, place.y}));
+            EXPECT_TRUE(matrix.view().bounds().contains({place.maxX(), place.maxY()}));
+            EXPECT_GE(place.height, 14) << "the marks have room";
+        }
+    }
+    control<HostButton>("scalesContrastView1").sendAction();
+    EXPECT_TRUE(matrix.view().isParked());
+    EXPECT_FALSE(view("scalesContrastRow1").isParked());
+}
+
+TEST_F(ContrastSectionTest, TheKeysWalkThroughTheTableOfTheScale)
+{
+    control<HostButton>("scalesContrastView2").sendAction();
+    const auto said = [&] { return *view("scalesContrastMatrix").accessibleDescription(); };
+    EXPECT_EQ(said(), u"Text 50, Background 50: 1.00 fails");
+    press("scalesContrastMatrix", HostKey::right);
+    press("scalesContrastMatrix", HostKey::pageDown);
+    EXPECT_TRUE(said().starts_with(u"Text 100, Background 950: ")) << utf8FromUtf16(said());
+    EXPECT_TRUE(said().ends_with(u" AAA")) << utf8FromUtf16(said());
+    press("scalesContrastMatrix", HostKey::up);
+    press("scalesContrastMatrix", HostKey::end);
+    EXPECT_TRUE(said().starts_with(u"Text 950, Background 900: ")) << utf8FromUtf16(said());
+    press("scalesContrastMatrix", HostKey::right);
+    press("scalesContrastMatrix", HostKey::left);
+    press("scalesContrastMatrix", HostKey::pageUp);
+    EXPECT_TRUE(said().starts_with(u"Text 900, Background 50: ")) << utf8FromUtf16(said());
+    const std::u16string wanted = codeAt("scalesContrastRow2", 9);
+    press("scalesContrastMatrix", HostKey::pick);
+    EXPECT_EQ(panelCode(), wanted) << "the colour of the text";
+}
+
+TEST_F(ContrastSectionTest, AClickInTheTableTakesTheColourOfTheText)
+{
+    control<HostButton>("scalesContrastView2").sendAction();
+    const auto& matrix = dynamic_cast<ContrastMatrix&>(view("scalesContrastMatrix").content());
+    const std::u16string wanted = codeAt("scalesContrastRow2", 7);
+    const HostRect place = matrix.placeOf({7, 2});
+    const HostPoint at{place.midX(), place.midY()};
+    panel.deliver({{HostEventType::leftMouseDown, at, 0}, {HostEventType::leftMouseUp, at, 0}},
+                  view("scalesContrastMatrix"));
+    EXPECT_EQ(panelCode(), wanted);
 }
 
 TEST_F(ContrastSectionTest, RatiosAreRoundedDown)

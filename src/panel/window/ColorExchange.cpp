@@ -1,7 +1,6 @@
 #include "panel/window/ColorExchange.h"
 
 #include "color/QTXHexColorSpec.h"
-#include "colormath/NearestNamedColor.h"
 #include "csscolor/CSSColorWriter.h"
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/ClipboardOwner.h"
@@ -34,15 +33,6 @@ std::u16string wideText(const HostColor& color, ColorSpace space)
     value.components = convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, space);
     value.space = space;
     return cssTextIn(space, value);
-}
-
-/// The sign for "about" says that it is not the colour's own name.
-std::u16string nameOfPicked(const HostColor& color)
-{
-    const auto nearest = nearestNamedColor(color);
-    if (!nearest) return {};
-    const std::u16string_view name = nearest->color.name;
-    return (nearest->isExact ? u"" : u"\u2248 ") + std::u16string(name);
 }
 
 /// The keys of the magnifier that copy: hex, RGB, HSL, OKLCH.
@@ -208,6 +198,14 @@ void ColorExchange::takeOneColor(EditedColor which, const ColorOffer& offer)
     emit reported(isHeld ? Message() : offer.message, kindOf(offer));
 }
 
+std::u16string ColorExchange::nameOfPicked(const HostColor& color) const
+{
+    const auto found = _names != nullptr ? _names->nameOf(color) : std::nullopt;
+    if (!found) return {};
+    // The sign for "about" says that it is not the colour's own name.
+    return (found->isExact ? u"" : u"\u2248 ") + found->name;
+}
+
 QString ColorExchange::formOfLetter(char letter) const
 {
     const HostColor color = mappedIntoSRGB(_colors.color());
@@ -234,7 +232,7 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
         _colors.setColor(color);
         _colors.rememberColor();
     };
-    options.nameOf = nameOfPicked;
+    options.nameOf = [this](const HostColor& color) { return nameOfPicked(color); };
     const auto letter = std::make_shared<char>('\0');
     // What another program asked for is not copied by the way.
     if (done == nullptr) {
@@ -271,7 +269,7 @@ void ColorExchange::pickMany(std::function<void(const std::vector<HostColor>&)> 
     // Only here a click does not end it, so the keys are always explained.
     options.showsHints = true;
     options.goesOn = true;
-    options.nameOf = nameOfPicked;
+    options.nameOf = [this](const HostColor& color) { return nameOfPicked(color); };
     options.pickedOnTheWay = [picked](const HostColor& color) { picked->push_back(color); };
     _screenPicker->start(&_window, options,
                          [this, picked, done = std::move(done)](const ScreenPickResult& result) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "colornames/ColorNames.h"
 #include "host/HostColorPicker.h"
 #include "panel/pages/PanelPages.h"
 #include "panel/widgets/ColorClipboard.h"
@@ -50,6 +51,8 @@ public:
     /// Remembers the colour, and tells the user that this text of it has been copied.
     void noteCopied(const QString& text);
 
+    /// Sets where the magnifier takes the names of colours from. `names` must outlive all picks.
+    void setNames(ColorNames& names) { _names = &names; }
     /// Lets the user pick from the screen, as the preferences say. If `copies` is true, the colour
     /// is copied at once. `done` gets the result for another program, so the preferences do not
     /// decide what follows; it may be null.
@@ -92,6 +95,8 @@ signals:
     void reported(const vantorel::Message& message, vantorel::MessageLabel::Kind kind);
 
 private:
+    /// The name that the magnifier shows; empty if there is none.
+    [[nodiscard]] std::u16string nameOfPicked(const HostColor& color) const;
     /// The colour as the letter of a form copies it: H, R, S or O.
     [[nodiscard]] QString formOfLetter(char letter) const;
     void takePick(const ScreenPickResult& result);
@@ -101,6 +106,7 @@ private:
     QWidget& _window;
     PanelSnippets _snippets;
     std::unique_ptr<ScreenPicker> _screenPicker;
+    ColorNames* _names = nullptr;
     QString _form;
     int _picks = 0;
 };

@@ -131,6 +131,7 @@ void PanelWindow::addPages(const std::vector<LoadedPlugin>& plugins, std::vector
                 page->keepAsList(tr("Last colours"), colors);
             });
     _palettes = palettes.get();
+    _exchange.setNames(_names);
     _names.setListInUse([this] { return u16From(_palettes->listName()); });
     connect(&_exchange, &ColorExchange::picturePasted, this, [this](const QImage& picture) {
         _parts.pages.showPageWithKey(_palettes->key());
