@@ -32,7 +32,7 @@ TEST_F(ScalesInPanelTest, AClickTakesAColourAndIsAStepToUndo)
     EXPECT_NE(chosenColor(), QColor(59, 130, 246));
     _window->colors().undo();
     EXPECT_EQ(chosenColor(), QColor(59, 130, 246));
-    EXPECT_EQ(spoken("scalesScaleRow1"), "500, #3b82f6, the colour itself");
+    EXPECT_EQ(spoken("scalesScaleRow1"), "500, #3B82F6, the colour itself");
 }
 
 TEST_F(ScalesInPanelTest, ContrastsAreThoseOfThePanelsTwoColours)
