@@ -176,18 +176,18 @@ private:
             if (c == quote) return result;
             if (c != u'\\') {
                 result.push_back(c);
-            } else if (!appendEscape(result)) {
-                return std::nullopt;
+            } else {
+                appendEscape(result);
             }
         }
         return std::nullopt;
     }
 
-    /// Appends the character that the escape after a backslash denotes. Returns false at the end of
-    /// the text.
-    bool appendEscape(std::u16string& result)
+    /// Appends the character that the escape after a backslash denotes; none at the end of the
+    /// text.
+    void appendEscape(std::u16string& result)
     {
-        if (atEnd()) return false;
+        if (atEnd()) return;
         const char16_t c = _text[_place++];
         constexpr std::u16string_view names = u"abfnrtv";
         constexpr std::u16string_view meanings = u"\a\b\f\n\r\t\v";
@@ -202,7 +202,6 @@ private:
         } else if (c != u'\n') {
             result.push_back(c);
         }
-        return true;
     }
 
     char16_t codeUnit(unsigned base, int mostDigits)

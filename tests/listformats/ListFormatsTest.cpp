@@ -69,6 +69,16 @@ TEST(ListFormatsTest, ADeclarationBeginsWithItsName)
     }
 }
 
+TEST(ListFormatsTest, EveryLineOfAPaletteThatIsLeftOutCounts)
+{
+    std::string palette = "GIMP Palette\n1 2 3\tone\n";
+    for (int i = 0; i < 1000; ++i)
+        palette += "no colour\n";
+    const auto list = readColorList(palette, "x.gpl");
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->skipped, 1000U);
+}
+
 TEST(ListFormatsTest, LinesAreColoursWithNames)
 {
     const auto list = readColorList(
