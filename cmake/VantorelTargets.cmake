@@ -44,7 +44,9 @@ endfunction()
 # vantorel_warnings(TARGET): enables the warnings for all our code. `make check` makes them errors.
 function(vantorel_warnings target)
   target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wpedantic -Wnon-virtual-dtor
+    -Wall -Wextra -Wconversion -Wsign-conversion -Wpedantic -Wnon-virtual-dtor
+    # In whole folders a name hides those of other files.
+    $<$<NOT:$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wshadow>
     # g++ reports false overlaps and overflows in string concatenation. The sanitizers find real ones.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread>)
 endfunction()

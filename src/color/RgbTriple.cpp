@@ -34,7 +34,7 @@ RgbTripleReading readRgbTriple(std::u16string_view text)
     std::array<std::uint64_t, 3> numbers{};
     std::size_t count = 0;
     bool closed = false;
-    while (!closed && count < numbers.size() && place < text.size()) {
+    while (!closed && count < numbers.size()) {
         while (place < text.size() && isSeparator(text[place]))
             ++place;
         std::uint64_t number = 0;

@@ -245,6 +245,13 @@ TEST(MixSpacesTest, ConversionsAreInverseAndAgreeWithTheOthers)
     }
 }
 
+TEST(MixSpacesTest, LightnessAndChromaHaveTheirOwnRanges)
+{
+    EXPECT_EQ(rangeOf(MixSpace::oklch, 0).maximum, 1);
+    EXPECT_EQ(rangeOf(MixSpace::oklch, 1).maximum, 0.4);
+    EXPECT_EQ(rangeOf(MixSpace::oklch, 2).maximum, 360);
+}
+
 TEST(MixSpacesTest, ComponentsWithoutInfluenceAreKnown)
 {
     struct Row {

@@ -1,3 +1,4 @@
+#include "listformats/BinaryNumbers.h"
 #include "listformats/ColorSwatches.h"
 #include "listformats/KritaPalette.h"
 #include "listformats/ListReader.h"
@@ -118,6 +119,16 @@ TEST(ColorSwatchesTest, DamagedFilesAreHarmless)
               "it is truncated; give the complete file");
 }
 
+TEST(BigEndianReaderTest, ATextNeedsNoZeroAtItsEnd)
+{
+    using namespace std::string_view_literals;
+    EXPECT_EQ(BigEndianReader("\0a\0b"sv).units(2), u"ab");
+    EXPECT_EQ(BigEndianReader("\0a\0b\0\0"sv).units(3), u"ab");
+    BigEndianReader tooShort("\0a\0"sv);
+    EXPECT_EQ(tooShort.units(2), u"");
+    EXPECT_TRUE(tooShort.hasFailed());
+}
+
 TEST(ZipArchiveTest, FilesComeBack)
 {
     const std::array<std::pair<std::string, std::string>, 2> files{
@@ -147,6 +158,15 @@ std::string deflatedPalette()
     for (std::size_t i = 0; i < hex.size(); i += 2)
         bytes += static_cast<char>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16));
     return bytes;
+}
+
+TEST(ZipArchiveTest, OnlyACommentMayFollowTheDirectory)
+{
+    const std::array<std::pair<std::string, std::string>, 1> files{{{"a", "first"}}};
+    const std::string archive = zipArchive(files);
+    constexpr std::size_t longest = 0xFFFF;
+    EXPECT_EQ(fileInZip(archive + std::string(longest, ' '), "a", 5), "first");
+    EXPECT_EQ(fileInZip(archive + std::string(longest + 1, ' '), "a", 5), std::nullopt);
 }
 
 TEST(ZipArchiveTest, PackedFilesAreRead)

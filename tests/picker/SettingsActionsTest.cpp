@@ -85,7 +85,9 @@ TEST_F(SettingsActionsTest, EachChoiceIsTakenShownAndStored)
     pound.click();
     EXPECT_EQ(full.stringValue(), u"#ffffff");
     EXPECT_TRUE(wasStored());
+    control("_hexPickerView").setNeedsDisplay(false);
     choose("componentDisplayPopUp", u"Integer");
+    EXPECT_TRUE(control("_hexPickerView").needsDisplay());
     EXPECT_EQ(red.stringValue(), u"255");
     EXPECT_TRUE(wasStored());
     choose("componentDisplayPopUp", u"Code Snippet");

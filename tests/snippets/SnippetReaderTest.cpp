@@ -262,6 +262,36 @@ TEST(SnippetReaderTest, AFractionIsTheStepThatIsWrittenSo)
     EXPECT_EQ(*coarse, HostColor::colorWithCalibratedRed(128 / 255.0, 1, 64 / 255.0, 0.5));
 }
 
+TEST(SnippetReaderTest, AFractionWithEnoughDigitsIsNoStep)
+{
+    struct Row {
+        const char16_t* format;
+        const char16_t* line;
+        double red;
+    };
+    for (const Row& row :
+         {Row{u"(%.1e %e %e)", u"(5.0e-01 0 0)", 128 / 255.0},
+          Row{u"(%.2e %e %e)", u"(5.00e-01 0 0)", 0.5},
+          Row{u"(%.2g %g %g)", u"(0.5 0 0)", 128 / 255.0}, Row{u"(%.3g %g %g)", u"(0.5 0 0)", 0.5},
+          Row{u"(%.1a %a %a)", u"(0x1.0p-1 0x0p+0 0x0p+0)", 128 / 255.0},
+          Row{u"(%.3a %a %a)", u"(0x1.000p-1 0x0p+0 0x0p+0)", 0.5}}) {
+        const auto color = read(row.format, u"rgbFloats", row.line);
+        ASSERT_TRUE(color) << testing::PrintToString(row.format);
+        EXPECT_EQ(color->calibratedRGB()->red, row.red) << testing::PrintToString(row.format);
+    }
+}
+
+TEST(SnippetReaderTest, ALetterPartsNumbersThatHaveNone)
+{
+    const auto isSeparated = [](const char16_t* format) {
+        return SnippetReader(QTXCodeSnippet(u"x", format, u"rgbFloats")).obstacles().empty();
+    };
+    EXPECT_TRUE(isSeparated(u"%fe%fe%f"));
+    EXPECT_TRUE(isSeparated(u"%gx%gx%g"));
+    EXPECT_FALSE(isSeparated(u"%ge%ge%g"));
+    EXPECT_FALSE(isSeparated(u"%eE%eE%e"));
+}
+
 TEST(SnippetReaderTest, ALineBeginsAndEndsAtWords)
 {
     const SnippetReader color(QTXCodeSnippet(u"x", u"Color(0x%06x)", u"rgbPackedInt"));
