@@ -61,7 +61,7 @@ public:
             highBits,
             notSeparated,
         };
-        Kind kind;
+        Kind kind = Kind::unknownForm;
         SnippetValue::Part part = SnippetValue::Part::red;
     };
     [[nodiscard]] const std::vector<Obstacle>& obstacles() const { return _obstacles; }

@@ -67,6 +67,19 @@ TEST_F(SnippetStoreTest, LookingAtTheSnippetsWritesNothing)
     EXPECT_THAT(store.takenNames(), testing::Contains(u"VBasic"));
 }
 
+TEST_F(SnippetStoreTest, AChangeAfterUndoReplacesWhatWasUndone)
+{
+    SnippetStore store(_files);
+    addRow(store, u"a");
+    addRow(store, u"b");
+    EXPECT_TRUE(store.undo());
+    addRow(store, u"c");
+    EXPECT_TRUE(store.undo());
+    EXPECT_THAT(names(store.snippets()), testing::ElementsAre(u"a", u"p", u"q", u"r"));
+    EXPECT_TRUE(store.undo());
+    EXPECT_THAT(names(store.snippets()), testing::ElementsAre(u"p", u"q", u"r"));
+}
+
 TEST_F(SnippetStoreTest, EachStepIsWrittenAtOnceAndCanBeUndone)
 {
     SnippetStore store(_files);

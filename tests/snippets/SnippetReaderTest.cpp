@@ -289,7 +289,6 @@ TEST(SnippetReaderTest, ALetterPartsNumbersThatHaveNone)
     EXPECT_TRUE(isSeparated(u"%fe%fe%f"));
     EXPECT_TRUE(isSeparated(u"%gx%gx%g"));
     EXPECT_FALSE(isSeparated(u"%ge%ge%g"));
-    EXPECT_FALSE(isSeparated(u"%eE%eE%e"));
 }
 
 TEST(SnippetReaderTest, ALineBeginsAndEndsAtWords)
