@@ -93,11 +93,10 @@ HostRect ContrastMatrix::placeInGrid(std::size_t column, std::size_t row) const
     const double width = room.width / (count + 1);
     const double height = std::max(0.0, room.height - captionRoom - headingRoom) / count;
     const double top = room.maxY() - captionRoom;
-    const HostRect place = row == 0
-                               ? HostRect{room.x, top - headingRoom, width, headingRoom}
-                               : HostRect{room.x,
-                                          top - headingRoom - height * static_cast<double>(row),
-                                          width, height};
+    const HostRect place =
+        row == 0 ? HostRect{room.x, top - headingRoom, width, headingRoom}
+                 : HostRect{room.x, top - headingRoom - height * static_cast<double>(row), width,
+                            height};
     return insetRect({place.x + width * static_cast<double>(column), place.y, width, place.height},
                      cellGap / 2, cellGap / 2);
 }
@@ -149,13 +148,13 @@ void ContrastMatrix::drawCell(HostCanvas& canvas, Cell cell) const
     const double ratio = ratioOf(cell);
     const bool isReadable = contrastVerdicts(ratio).normalTextAA;
     if (isReadable) fillPlace(canvas, place, _swatches[cell.ground].color);
-    const HostText mark{
-        .string = shortVerdict(ratio),
-        .pointSize = place.width < narrowCell ? narrowCellText : cellText,
-        .color = isReadable ? _swatches[cell.text].color
-                            : canvas.themeColor(contrastVerdicts(ratio).largeTextAA
-                                                    ? HostThemeColor::text
-                                                    : HostThemeColor::secondaryText)};
+    const HostText mark{.string = shortVerdict(ratio),
+                        .pointSize = place.width < narrowCell ? narrowCellText : cellText,
+                        .color = isReadable
+                                     ? _swatches[cell.text].color
+                                     : canvas.themeColor(contrastVerdicts(ratio).largeTextAA
+                                                             ? HostThemeColor::text
+                                                             : HostThemeColor::secondaryText)};
     const HostSize size = _panel.desktop().sizeOfText(mark);
     canvas.drawText(mark, {place.midX() - size.width / 2, place.midY() - size.height / 2});
 }
@@ -163,14 +162,13 @@ void ContrastMatrix::drawCell(HostCanvas& canvas, Cell cell) const
 void ContrastMatrix::drawRect(HostCanvas& canvas)
 {
     if (_swatches.empty()) return;
-    HostText caption{.string = _panel.desktop().localizedString(
-                         u"Texts in columns, backgrounds in rows"),
-                     .pointSize = captionText,
-                     .color = canvas.themeColor(HostThemeColor::secondaryText)};
+    HostText caption{
+        .string = _panel.desktop().localizedString(u"Texts in columns, backgrounds in rows"),
+        .pointSize = captionText,
+        .color = canvas.themeColor(HostThemeColor::secondaryText)};
     const HostRect bounds = _view->bounds();
     const HostSize size = _panel.desktop().sizeOfText(caption);
-    canvas.drawText(caption,
-                    {margin, bounds.maxY() - margin - captionRoom / 2 - size.height / 2});
+    canvas.drawText(caption, {margin, bounds.maxY() - margin - captionRoom / 2 - size.height / 2});
     for (std::size_t i = 0; i < _swatches.size(); ++i) {
         drawHeading(canvas, _swatches[i], placeInGrid(i + 1, 0));
         drawHeading(canvas, _swatches[i], placeInGrid(0, i + 1));

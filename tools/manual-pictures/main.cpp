@@ -5,30 +5,42 @@
 #include "panel/widgets/PanelTheme.h"
 #include "panel/window/PanelWindow.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QHash>
 #include <QLineEdit>
+#include <QLinearGradient>
 #include <QLocale>
+#include <QPainter>
+#include <QPolygon>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <cstdio>
 #include <functional>
+#include <string_view>
 
 /// Makes the pictures of the manual from the real window, without a screen. LOCALE is that of a
 /// translation, such as "de"; without it, the pictures are English:
 ///
 ///     vantorel-manual-pictures FOLDER [LOCALE]
+///
+/// With --states it makes those pictures of docs/images instead that need more than the options of
+/// the panel, in every theme:
+///
+///     vantorel-manual-pictures --states FOLDER
 namespace {
 
 using namespace vantorel;
 
 /// Twice as many pixels as points: sharp on the screens of today, and in print.
 constexpr const char* scale = "2";
+constexpr const char* scaleOfStates = "1";
 constexpr QSize page{320, 340};
 
 template <class Widget>
@@ -114,6 +126,56 @@ QImage withFewColors(const QImage& image)
     return result;
 }
 
+QImage preferences(PanelWindow& window, int pageOfDialog, QSize size)
+{
+    for (QAction* action : window.actions())
+        if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_Comma)) action->trigger();
+    auto* dialog = window.findChild<PreferencesDialog*>();
+    if (dialog == nullptr) qFatal("there are no preferences");
+    dialog->showPage(pageOfDialog);
+    dialog->resize(size.expandedTo(dialog->minimumSizeHint()));
+    QApplication::processEvents();
+    return dialog->grab().toImage();
+}
+
+void showSwatches(PanelWindow& window, QSize size)
+{
+    window.pages().showPageWithKey(QStringLiteral("palettes"));
+    window.palettes().setArrangement(PaletteEntriesView::Arrangement::grid);
+    window.resizeToPage(size);
+    auto& lists = child<QComboBox>(window, "paletteLists");
+    lists.setCurrentText(QStringLiteral("SVG Keyword"));
+    emit lists.activated(lists.currentIndex());
+    QTest::qWait(50);  // for the swatches to be laid out
+}
+
+/// An evening at the sea.
+QImage painting()
+{
+    QImage image(720, 440, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    QLinearGradient sky(0, 0, 0, 270);
+    sky.setColorAt(0, QColor("#2b3a67"));
+    sky.setColorAt(0.6, QColor("#e76f51"));
+    sky.setColorAt(1, QColor("#f4a261"));
+    painter.fillRect(0, 0, 720, 270, sky);
+    painter.setBrush(QColor("#ffe8a3"));
+    painter.drawEllipse(QPoint(500, 230), 52, 52);
+    QLinearGradient sea(0, 270, 0, 440);
+    sea.setColorAt(0, QColor("#2a9d8f"));
+    sea.setColorAt(1, QColor("#173f5f"));
+    painter.fillRect(0, 270, 720, 170, sea);
+    painter.setBrush(QColor("#1b1b2f"));
+    painter.drawPolygon(QPolygon({{0, 270}, {0, 190}, {90, 215}, {210, 170}, {330, 270}}));
+    painter.setBrush(QColor("#fdfcf5"));
+    painter.drawPolygon(QPolygon({{390, 350}, {390, 240}, {450, 350}}));
+    painter.setBrush(QColor("#9b2226"));
+    painter.drawPolygon(QPolygon({{350, 356}, {460, 356}, {440, 384}, {366, 384}}));
+    return image;
+}
+
 struct Picture {
     const char* name;
     const char* color;
@@ -151,26 +213,12 @@ const std::vector<Picture>& pictures()
          }},
         {"palettes", "#ff7f50", cssList,
          [](PanelWindow& window) {
-             window.pages().showPageWithKey(QStringLiteral("palettes"));
-             window.palettes().setArrangement(PaletteEntriesView::Arrangement::grid);
-             window.resizeToPage({232, 246});
-             auto& lists = child<QComboBox>(window, "paletteLists");
-             lists.setCurrentText(QStringLiteral("SVG Keyword"));
-             emit lists.activated(lists.currentIndex());
-             QTest::qWait(50);  // for the swatches to be laid out
+             showSwatches(window, {232, 246});
              return wholePage(window);
          }},
         {"snippets", "#ff7f50", cssList,
          [](PanelWindow& window) {
-             for (QAction* action : window.actions())
-                 if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_Comma))
-                     action->trigger();
-             auto* dialog = window.findChild<PreferencesDialog*>();
-             if (dialog == nullptr) qFatal("there are no preferences");
-             dialog->showPage(1);
-             dialog->resize(656, 460);
-             QApplication::processEvents();
-             return withFewColors(dialog->grab().toImage());
+             return withFewColors(preferences(window, 1, {656, 460}));
          }},
         {"colors", "#ff7f50", svgList, wholePage},
         {"settings", "#ff7f50", cssList,
@@ -208,6 +256,43 @@ const std::vector<Picture>& pictures()
     return all;
 }
 
+const std::vector<Picture>& states()
+{
+    static const std::vector<Picture> all{
+        {"palettes-grid", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             showSwatches(window, {296, 344});
+             return wholeWindow(window);
+         }},
+        {"picture-colors", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("palettes"));
+             window.palettes().showPicture(painting());
+             auto* dialog = window.findChild<QDialog*>(QStringLiteral("pictureColors"));
+             if (dialog == nullptr) qFatal("the picture is not shown");
+             QTest::qWait(50);
+             return dialog->grab().toImage();
+         }},
+        {"preferences-general", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             return preferences(window, 0, {640, 476});
+         }},
+        {"preferences-snippets", "#ff7f50", cssList,
+         [](PanelWindow& window) {
+             return preferences(window, 1, {656, 476});
+         }},
+        {"scales-matrix", "#3b82f6", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("scales"));
+             window.resizeToPage({296, 292});
+             window.pages().currentPicker()->performAction("contrast", nullptr);
+             child<QAbstractButton>(window, "scalesContrastView2").click();
+             return wholeWindow(window);
+         }},
+    };
+    return all;
+}
+
 /// A list of the user's own, so that there is one to add.
 constexpr const char* ownList = "GIMP Palette\nName: Garden\n 76 153   0\tleaf\n";
 
@@ -218,7 +303,9 @@ bool writeFile(const QString& path, const char* text)
            file.write(text) > 0;
 }
 
-bool makePicture(const Picture& picture, const QString& home, const QString& folder)
+/// `ending` follows the picture's name.
+bool makePicture(const Picture& picture, const QString& home, const QString& folder,
+                 const QString& ending)
 {
     if (!writeFile(home + "/Vantorel/Settings.plist", picture.settings)) return false;
     if (!writeFile(home + "/Vantorel/Palettes/Garden.gpl", ownList)) return false;
@@ -234,7 +321,7 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
     QImage image = picture.take(window);
     if (image.format() != QImage::Format_Indexed8)
         image = image.convertToFormat(QImage::Format_RGB888);
-    return image.save(folder + '/' + picture.name + ".png", "PNG", 0);
+    return image.save(folder + '/' + picture.name + ending + ".png", "PNG", 0);
 }
 
 }  // namespace
@@ -242,23 +329,35 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
 int main(int argc, char** argv)
 {
     const QTemporaryDir home;
+    const bool makesStates = argc == 3 && std::string_view(argv[1]) == "--states";
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", scale);
+    qputenv("QT_SCALE_FACTOR", makesStates ? scaleOfStates : scale);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 2 && arguments.size() != 3) {
-        static_cast<void>(std::fputs("usage: vantorel-manual-pictures FOLDER [LOCALE]\n", stderr));
+        static_cast<void>(
+            std::fputs("usage: vantorel-manual-pictures FOLDER [LOCALE]\n"
+                       "       vantorel-manual-pictures --states FOLDER\n",
+                       stderr));
         return 2;
     }
-    QLocale::setDefault(arguments.size() == 3 ? QLocale(arguments[2]) : QLocale::c());
+    const bool hasLocale = !makesStates && arguments.size() == 3;
+    QLocale::setDefault(hasLocale ? QLocale(arguments[2]) : QLocale::c());
     installTranslations(application);
-    applyTheme(QStringLiteral("light"));
     QApplication::setCursorFlashTime(0);
-    for (const Picture& picture : pictures()) {
-        if (makePicture(picture, home.path(), arguments[1])) continue;
-        static_cast<void>(std::fprintf(stderr, "%s.png could not be made\n", picture.name));
-        return 1;
+    const QStringList themes =
+        makesStates ? QStringList{"light", "dark", "contrast"} : QStringList{"light"};
+    for (const QString& theme : themes) {
+        applyTheme(theme);
+        for (const Picture& picture : makesStates ? states() : pictures()) {
+            if (makePicture(picture, home.path(), arguments[makesStates ? 2 : 1],
+                            makesStates ? '-' + theme : QString()))
+                continue;
+            static_cast<void>(std::fprintf(stderr, "%s.png could not be made\n", picture.name));
+            return 1;
+        }
     }
     return 0;
 }

@@ -237,8 +237,9 @@ void ColorExchange::pickFromScreen(bool copies, ScreenPicker::Callback done)
     // What another program asked for is not copied by the way.
     if (done == nullptr) {
         options.picksByLetter = [letter](char pressed) {
+            if (!isLetterOfForm(pressed)) return false;
             *letter = pressed;
-            return isLetterOfForm(pressed);
+            return true;
         };
     }
     const auto after = done == nullptr ? preferences.afterPicking() : AfterPicking::shows;
