@@ -2534,6 +2534,14 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
         <translation>schreiben Sie einen Namen aus einer Liste oder aus CSS, oder eine Farbe wie „#ff8000“</translation>
     </message>
+    <message>
+        <source>one colour was picked: the desktop&apos;s own picker takes one at a time</source>
+        <translation>eine Farbe wurde aufgenommen: Die Pipette der Arbeitsumgebung nimmt nur eine auf einmal auf</translation>
+    </message>
+    <message>
+        <source>pick again for the next one</source>
+        <translation>rufen Sie die Pipette für die nächste erneut auf</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

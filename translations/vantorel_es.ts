@@ -2534,6 +2534,14 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
         <translation>escriba un nombre de una lista o de CSS, o un color como «#ff8000»</translation>
     </message>
+    <message>
+        <source>one colour was picked: the desktop&apos;s own picker takes one at a time</source>
+        <translation>se ha tomado un color: el selector del escritorio toma uno cada vez</translation>
+    </message>
+    <message>
+        <source>pick again for the next one</source>
+        <translation>tome de nuevo para el siguiente</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

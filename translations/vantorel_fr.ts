@@ -2534,6 +2534,14 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <source>write a name of a list or of CSS, or a colour such as &quot;#ff8000&quot;</source>
         <translation>écrivez un nom d’une liste ou de CSS, ou une couleur telle que « #ff8000 »</translation>
     </message>
+    <message>
+        <source>one colour was picked: the desktop&apos;s own picker takes one at a time</source>
+        <translation>une couleur a été prélevée : la pipette du bureau n’en prend qu’une à la fois</translation>
+    </message>
+    <message>
+        <source>pick again for the next one</source>
+        <translation>prélevez de nouveau pour la suivante</translation>
+    </message>
 </context>
 <context>
     <name>Vantorel</name>

@@ -5,6 +5,7 @@
 #include "panel/TerminationSignals.h"
 #include "panel/bus/ServiceLifetime.h"
 #include "panel/preferences/PanelPreferences.h"
+#include "panel/widgets/ColorClipboard.h"
 #include "panel/window/PanelMemoryKeeper.h"
 #include "panel/window/Residence.h"
 
@@ -16,7 +17,7 @@ namespace vantorel {
 PanelOrder orderFrom(const PanelOptions& options, const ActivationToken& token)
 {
     PanelOrder order{options.step, {}, options.copyForm, token};
-    if (options.color) order.color = cssNameOf(*options.color);
+    if (options.color) order.color = exactColorText(*options.color);
     return order;
 }
 

@@ -55,7 +55,7 @@ bool Panel::apply(const PanelOptions& options)
                              phrase("use one of: %1", keys.toStdString())});
     }
     if (options.size) _window.resizeToPage(*options.size);
-    if (options.color) _window.colors().setColor(hostColorFrom(*options.color));
+    if (options.color) _window.colors().setColor(*options.color);
     if (options.mode == QLatin1String("slider")) sendAction("sliderViewModeAction");
     if (options.mode == QLatin1String("palette")) sendAction("paletteViewModeAction");
     if (options.mode == QLatin1String("wheel")) sendAction("cubeViewModeAction");

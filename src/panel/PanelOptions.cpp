@@ -1,6 +1,7 @@
 #include "panel/PanelOptions.h"
 
 #include "colortext/ColorTextReader.h"
+#include "colortext/UnmappedColor.h"
 #include "commandline/ArgumentReader.h"
 #include "commandline/Programs.h"
 #include "commandline/Translations.h"
@@ -79,10 +80,10 @@ PanelCommandLine readCommandLine(const QStringList& arguments)
             hasOperand ? std::optional(given.operands.front()) : given.value("--color")) {
         // Names of colour lists are not read: the lists belong to the pages, which are not loaded
         // yet.
-        const auto read = ColorTextReader([] { return nullptr; }).read(*color);
+        const auto read = ColorTextReader([] { return nullptr; }).readUnrounded(*color);
         if (!read && hasOperand) return failure(read.error());
         if (!read) return failure({phrase("--color: %1", read.error().what), read.error().remedy});
-        options.color = qColorFrom(read->hostColor());
+        options.color = unmappedColor(*read);
     }
     if (const auto size = given.value("--size")) {
         options.size = sizeFromText(QString::fromStdString(*size));

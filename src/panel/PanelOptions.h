@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/HostColor.h"
 #include "panel/bus/PanelOrder.h"
 
-#include <QColor>
 #include <QSize>
 #include <QStringList>
 
@@ -12,7 +12,8 @@ namespace vantorel {
 
 /// The options of the command line.
 struct PanelOptions {
-    std::optional<QColor> color;
+    /// May be outside sRGB.
+    std::optional<HostColor> color;
     /// The key of a page. The plug-ins decide which keys exist.
     std::optional<QString> page;
     /// slider, palette or wheel

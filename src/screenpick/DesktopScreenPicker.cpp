@@ -75,7 +75,8 @@ void DesktopScreenPicker::take(const PickMethod::Outcome& outcome)
     if (const auto* color = std::get_if<HostColor>(&outcome)) {
         finish({.outcome = ScreenPickResult::Outcome::picked,
                 .color = *color,
-                .lacksAverage = _options.averagedSide > 1 && !_tried->canAverage()});
+                .lacksAverage = _options.averagedSide > 1 && !_tried->canAverage(),
+                .endsAfterOne = _options.goesOn && !_tried->canAverage()});
     } else if (const auto* failure = std::get_if<PickMethod::Failure>(&outcome)) {
         _failures.push_back(*failure);
         tryNextMethod();

@@ -20,6 +20,8 @@ struct ScreenPickResult {
     HostColor color = HostColor::blackColor();
     /// If picked: whether an average was asked for, and the desktop picked a single pixel.
     bool lacksAverage = false;
+    /// If picked: whether several were to be picked, and the desktop picks only one.
+    bool endsAfterOne = false;
     /// If not possible: what is missing.
     Message reason = {};
 

@@ -1,5 +1,10 @@
 #include "panel/PanelOptions.h"
 
+#include "csscolor/GamutMapping.h"
+#include "hosts/qt/QtColors.h"
+#include "panel/OnePanel.h"
+#include "panel/widgets/ColorClipboard.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -14,10 +19,16 @@ struct ColorRow {
 
 class ColorOptionTest : public testing::TestWithParam<ColorRow> {};
 
+/// The colour in 8 bits a channel.
+std::optional<QColor> rgbaOf(const std::optional<HostColor>& color)
+{
+    return color ? std::optional(QColor::fromRgba(qColorFrom(*color).rgba())) : std::nullopt;
+}
+
 TEST_P(ColorOptionTest, AcceptsTheSameColoursAsEverythingElse)
 {
     const auto line = readCommandLine({"p", "--color", GetParam().text});
-    EXPECT_EQ(line.options.color, GetParam().color);
+    EXPECT_EQ(rgbaOf(line.options.color), GetParam().color);
     EXPECT_EQ(line.exitStatus.has_value(), !GetParam().color.has_value());
 }
 
@@ -33,6 +44,29 @@ INSTANTIATE_TEST_SUITE_P(
         ColorRow{"#fff000fff000", std::nullopt}, ColorRow{"rgb(1 2 3 4)", std::nullopt},
         ColorRow{"", std::nullopt}, ColorRow{"nonsense", std::nullopt}));
 
+TEST(PanelOptionsTest, AColourOutsideSRGBIsHeldAsItIs)
+{
+    for (const char* text : {"oklch(0.7 0.3 150)", "color(display-p3 0 1 0 / 0.5)"}) {
+        const auto options = readCommandLine({"p", "--color", text}).options;
+        ASSERT_TRUE(options.color) << text;
+        EXPECT_TRUE(isOutsideSRGB(*options.color)) << text;
+        EXPECT_EQ(*options.color, *colorFromText(text).color)
+            << "as one that is typed in the field";
+
+        // The running panel gets it as a text.
+        const auto handedOver = colorFromText(*orderFrom(options, {}).color).color;
+        ASSERT_TRUE(handedOver) << text;
+        const auto given = *options.color->calibratedRGB();
+        const auto got = *handedOver->calibratedRGB();
+        constexpr double close = 1e-4;
+        EXPECT_NEAR(got.red, given.red, close);
+        EXPECT_NEAR(got.green, given.green, close);
+        EXPECT_NEAR(got.blue, given.blue, close);
+        EXPECT_NEAR(got.alpha, given.alpha, close);
+    }
+    EXPECT_EQ(orderFrom(readCommandLine({"p", "--color", "#FF8000"}).options, {}).color, "#ff8000");
+}
+
 TEST(PanelOptionsTest, AnInvalidColourIsExplained)
 {
     EXPECT_EQ(readCommandLine({"p", "--color", "orang"}).message.toStdString(),
@@ -44,7 +78,7 @@ TEST(PanelOptionsTest, AColourIsReadWithAndWithoutItsOption)
 {
     const auto line = readCommandLine({"p", "#123456"});
     ASSERT_FALSE(line.exitStatus.has_value());
-    EXPECT_EQ(line.options.color, QColor(0x12, 0x34, 0x56));
+    EXPECT_EQ(rgbaOf(line.options.color), QColor(0x12, 0x34, 0x56));
     EXPECT_EQ(readCommandLine({"p", "orang"}).message.toStdString(),
               "vantorel-panel: \"orang\" is not a CSS colour name: write a colour such as "
               "\"#ff8000\", \"rgb(255 128 0)\" or \"orange\"\n");
@@ -58,7 +92,7 @@ TEST(PanelOptionsTest, EveryOptionIsRead)
                          "dark",     "--face",  "settings",      "--plugin", "a",
                          "--plugin", "b",       "--print-color", "--data",   "."});
     ASSERT_FALSE(line.exitStatus.has_value());
-    EXPECT_EQ(line.options.color, QColor(255, 128, 0));
+    EXPECT_EQ(rgbaOf(line.options.color), QColor(255, 128, 0));
     EXPECT_EQ(line.options.mode, "wheel");
     EXPECT_EQ(line.options.size, QSize(260, 340));
     EXPECT_EQ(line.options.plugins, (QStringList{"a", "b"}));

@@ -219,6 +219,26 @@ TEST_F(DesktopScreenPickerTest, ReportsThatAnAverageWasNotPossible)
                                              .lacksAverage = true}));
 }
 
+TEST_F(DesktopScreenPickerTest, ReportsThatOnlyOneWasPicked)
+{
+    PickOptions many;
+    many.goesOn = true;
+    const auto start = [&] {
+        _picker->start(nullptr, many, [this](const ScreenPickResult& r) { _results.push_back(r); });
+    };
+    start();
+    _magnifier->answer(PickMethod::Failure{phrase("there is no X11 display")});
+    _portal->answer(HostColor::whiteColor());
+    start();
+    _magnifier->answer(HostColor::blackColor());
+    EXPECT_THAT(results(),
+                ElementsAre(ScreenPickResult{.outcome = ScreenPickResult::Outcome::picked,
+                                             .color = HostColor::whiteColor(),
+                                             .endsAfterOne = true},
+                            ScreenPickResult{.outcome = ScreenPickResult::Outcome::picked,
+                                             .color = HostColor::blackColor()}));
+}
+
 TEST_F(DesktopScreenPickerTest, PassesOnWhatIsPickedOnTheWay)
 {
     std::vector<HostColor> colors;

@@ -1,7 +1,9 @@
 #include "panel/widgets/ColorClipboard.h"
 
 #include "colortext/ColorInCode.h"
+#include "colortext/UnmappedColor.h"
 #include "csscolor/CSSColorReader.h"
+#include "csscolor/CSSColorWriter.h"
 #include "csscolor/GamutMapping.h"
 #include "hosts/qt/QtColors.h"
 #include "panel/widgets/PanelSnippets.h"
@@ -52,10 +54,21 @@ ColorOffer colorFromText(const QString& text)
     const Result<CSSColor> css = colorInText(u16From(text), PanelSnippets::readersInUse());
     if (!css) return {{}, css.error()};
     if (!css->wasOutsideSRGB) return {css->color, {}};
-    const auto [red, green, blue] = srgbFrom(css->value.space, css->value.components);
-    return {HostColor::colorWithCalibratedRed(red, green, blue, css->value.alpha),
+    return {unmappedColor(*css),
             {phrase("\"%1\" is outside sRGB; this is the nearest colour inside",
                     excerpt(text.trimmed().toStdString(), mostShownBytes))}};
+}
+
+QString exactColorText(const HostColor& color)
+{
+    if (!isOutsideSRGB(color)) return qStringFrom(hexText(color).value_or(std::u16string()));
+    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+    CSSColorValue value;
+    value.alpha = rgb.alpha;
+    value.space = ColorSpace::displayP3;
+    value.components =
+        convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, value.space);
+    return qStringFrom(cssTextIn(value.space, value));
 }
 
 std::unique_ptr<QMimeData> mimeDataFromColor(const HostColor& color, const QString& text)

@@ -43,6 +43,9 @@ struct ColorOffer {
 /// Reads every text form of CSS Color 5, also as the value of a declaration, lines of the
 /// snippets, and other lines of code with a colour.
 [[nodiscard]] ColorOffer colorFromText(const QString& text);
+/// Returns a text that `colorFromText` reads as the same colour: the hex code, in 8 bits, or for a
+/// colour outside sRGB one in Display P3. Empty for a pattern.
+[[nodiscard]] QString exactColorText(const HostColor& color);
 /// Reads `application/x-color` (four native 16-bit words) or a text.
 [[nodiscard]] ColorOffer colorFromMimeData(const QMimeData& data);
 

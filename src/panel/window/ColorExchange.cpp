@@ -46,6 +46,12 @@ QString textOf(const std::optional<std::u16string>& text)
     return text ? qStringFrom(*text) : QString();
 }
 
+Message onlyOneWasPicked()
+{
+    return {phrase("one colour was picked: the desktop's own picker takes one at a time"),
+            phrase("pick again for the next one")};
+}
+
 MessageLabel::Kind kindOf(const ColorOffer& offer)
 {
     return offer.color ? MessageLabel::Kind::news : MessageLabel::Kind::failure;
@@ -279,6 +285,8 @@ void ColorExchange::pickMany(std::function<void(const std::vector<HostColor>&)> 
                              if (result.outcome == Outcome::notPossible)
                                  emit reported(result.reason, MessageLabel::Kind::failure);
                              if (!picked->empty()) done(*picked);
+                             if (result.endsAfterOne)
+                                 emit reported(onlyOneWasPicked(), MessageLabel::Kind::news);
                          });
 }
 

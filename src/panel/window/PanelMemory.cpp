@@ -36,13 +36,7 @@ constexpr const char16_t* no = u"NO";
 QString textOf(const HostColor& color)
 {
     if (!isOutsideSRGB(color)) return qColorFrom(color).name(QColor::HexArgb);
-    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    CSSColorValue value;
-    value.alpha = rgb.alpha;
-    value.space = ColorSpace::displayP3;
-    value.components =
-        convertedColor({rgb.red, rgb.green, rgb.blue}, ColorSpace::srgb, value.space);
-    return qStringFrom(cssTextIn(value.space, value));
+    return exactColorText(color);
 }
 
 /// Returns `std::nullopt` for a text that `textOf` does not write.

@@ -20,10 +20,7 @@ protected:
         _window->resizeToPage({296, 340});
         _window->colors().setColor(rgb(255, 128, 0));
     }
-    void choose(const QByteArray& settings)
-    {
-        put("data/Vantorel/Settings.plist", settings);
-    }
+    void choose(const QByteArray& settings) { put("data/Vantorel/Settings.plist", settings); }
     [[nodiscard]] std::string copied(QAction& command) const
     {
         QApplication::clipboard()->clear();

@@ -45,8 +45,12 @@ TEST_F(PickIntoListTest, TheDesktopsOwnPickerGivesOneColour)
 {
     _pick.result.outcome = ScreenPickResult::Outcome::picked;
     _pick.result.color = rgb(1, 1, 1);
+    _pick.result.endsAfterOne = true;
     press(Qt::Key_L, Qt::ControlModifier);
     EXPECT_EQ(own("Reds"), "red=ff0000 dark=c00000 darker=800000 darkest=400000 #010101=010101");
+    const auto* label = _window->findChild<MessageLabel*>();
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_TRUE(label->text().contains("one at a time")) << label->text().toStdString();
 }
 
 TEST_F(PickIntoListTest, WhatMakesPickingImpossibleIsReported)
