@@ -4,7 +4,10 @@
 #include "scales/ScalesSections.h"
 
 #include <cmath>
+#include <optional>
+#include <string>
 #include <utility>
+#include <variant>
 
 namespace vantorel {
 namespace {
@@ -32,7 +35,13 @@ public:
     explicit GradientSection(ScalesPage& scalesPage)
         : ScalesSection(scalesPage, "scalesGradient",
                         scalesPage.panel().desktop().localizedString(u"Gradient")),
-          _strip(addWideRow(u"", {.name = title(), .isJoined = true},
+          _strip(addWideRow(u"",
+                            {.name = title(),
+                             .isJoined = true,
+                             .droppedOnEnd =
+                                 [this](bool onLast, const HostPasteboardItem& item) {
+                                     takeDropped(onLast, item);
+                                 }},
                             {gradientHeight, mostGradientHeight}))
     {
         addCopyMenu({{title(), [this] { return seriesOf("gradient", _strip.swatches()); }}}, true);
@@ -140,6 +149,34 @@ private:
         view().addSubview(*_space);
     }
 
+    void reportNoColor()
+    {
+        page().panel().report(desktop().localizedString(
+            u"This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)"));
+    }
+
+    void takeDropped(bool onLast, const HostPasteboardItem& item)
+    {
+        std::optional<HostColor> color;
+        if (const auto* dropped = std::get_if<HostColor>(&item)) {
+            color = *dropped;
+        } else if (const auto read = readCSSColor(std::get<std::string>(item))) {
+            color = read->color;
+        }
+        if (!color) {
+            reportNoColor();
+            return;
+        }
+        if (onLast) {
+            page().model().setEnd(color);
+        } else {
+            // The gradient begins with the panel's colour, and goes to where it went.
+            page().model().setEnd(page().model().end());
+            page().choose(*color);
+        }
+        page().modelDidChange();
+    }
+
     void takeEnd()
     {
         const std::u16string text = _end->stringValue();
@@ -153,8 +190,7 @@ private:
             // The user may want codes without "#".
             page().model().setEnd(code->color);
         } else {
-            page().panel().report(desktop().localizedString(
-                u"This is not a colour. Write it as in CSS, such as #ff8000 or hsl(30 100% 50%)"));
+            reportNoColor();
         }
         page().modelDidChange();
     }

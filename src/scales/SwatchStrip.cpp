@@ -285,4 +285,16 @@ HostBezierPath SwatchStrip::keyOutline() const
     return path;
 }
 
+bool SwatchStrip::takesDropAt(HostPoint point) const
+{
+    if (!_options.droppedOnEnd) return false;
+    const auto swatch = swatchAt(point);
+    return swatch && (*swatch == 0 || *swatch + 1 == _swatches.size());
+}
+
+void SwatchStrip::takeDrop(const HostPasteboardItem& item, HostPoint point)
+{
+    if (takesDropAt(point)) _options.droppedOnEnd(swatchAt(point) != 0U, item);
+}
+
 }  // namespace vantorel

@@ -2,6 +2,7 @@
 
 #include "host/HostColorPanel.h"
 #include "host/HostControls.h"
+#include "host/HostDrops.h"
 #include "scales/ScalesModel.h"
 
 #include <functional>
@@ -14,7 +15,7 @@ namespace vantorel {
 
 /// A row of colours. A click takes one, a drag carries it out. The arrows, Home and End walk along
 /// the row, and Return takes the colour that they have reached.
-class SwatchStrip final : public HostViewContent {
+class SwatchStrip final : public HostViewContent, public HostDropTarget {
 public:
     struct Options {
         std::string identifier = {};
@@ -30,6 +31,9 @@ public:
         std::u16string emptyText = {};
         /// Writes the code of a colour. Sections set it.
         std::function<std::u16string(const HostColor& color)> code = {};
+        /// Called for what is dropped on the first or the last colour. Without it nothing can be
+        /// dropped.
+        std::function<void(bool onLast, const HostPasteboardItem& item)> droppedOnEnd = {};
     };
     using Chosen = std::function<void(const HostColor& color)>;
 
@@ -56,6 +60,8 @@ public:
     [[nodiscard]] bool takesKeys() const override { return true; }
     bool keyDown(const HostKeyEvent& event) override;
     [[nodiscard]] HostBezierPath keyOutline() const override;
+    [[nodiscard]] bool takesDropAt(HostPoint point) const override;
+    void takeDrop(const HostPasteboardItem& item, HostPoint point) override;
 
 private:
     /// The places of the colours, without their labels.

@@ -7,10 +7,14 @@
 #include "hosts/qt/QtVersions.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QEventLoop>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+
+#include <optional>
 
 namespace vantorel {
 namespace {
@@ -29,6 +33,16 @@ public:
 private:
     QEventLoop _loop;
 };
+
+/// What can be dropped on a view, or `std::nullopt`. Files are not texts.
+std::optional<HostPasteboardItem> droppedItem(const QMimeData& data)
+{
+    constexpr qsizetype longestText = 4096;
+    const auto color = qvariant_cast<QColor>(data.colorData());
+    if (color.isValid()) return hostColorFrom(color);
+    if (data.hasUrls() || !data.hasText()) return std::nullopt;
+    return data.text().left(longestText).toStdString();
+}
 
 FocusOrigin originOf(Qt::FocusReason reason)
 {
@@ -124,6 +138,31 @@ protected:
         }
     }
 
+    void dragEnterEvent(QDragEnterEvent* event) override
+    {
+        if (!droppedItem(*event->mimeData())) return;
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+
+    void dragMoveEvent(QDragMoveEvent* event) override
+    {
+        event->setDropAction(Qt::CopyAction);
+        event->setAccepted(takesDrop(*event));
+    }
+
+    void dropEvent(QDropEvent* event) override
+    {
+        const auto item = droppedItem(*event->mimeData());
+        if (!item || !takesDrop(*event)) {
+            event->ignore();
+            return;
+        }
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        _owner->_drops->takeDrop(*item, viewPoint(positionOf(*event), _owner->bounds()));
+    }
+
     void enterEvent(QtEnterEvent* event) override
     {
         _owner->_tracking.move({HostEventType::mouseMoved,
@@ -152,6 +191,12 @@ protected:
     }
 
 private:
+    [[nodiscard]] bool takesDrop(const QDropEvent& event) const
+    {
+        return _owner->_drops != nullptr &&
+               _owner->_drops->takesDropAt(viewPoint(positionOf(event), _owner->bounds()));
+    }
+
     [[nodiscard]] HostEvent hostEvent(HostEventType type, const QMouseEvent& event) const
     {
         return {type, viewPoint(positionOf(event), _owner->bounds()),
@@ -166,11 +211,13 @@ private:
 QtCustomView::QtCustomView(const HostControlDescription& description, HostViewContent& content)
     : QtMirrored(description.frame, new Widget),
       _content(content),
+      _drops(dynamic_cast<HostDropTarget*>(&content)),
       _tracking(content),
       _turn(content)
 {
     static_cast<Widget*>(widget())->setOwner(this);
     widget()->setMouseTracking(true);
+    widget()->setAcceptDrops(_drops != nullptr);
     if (content.takesKeys()) widget()->setFocusPolicy(Qt::StrongFocus);
     widget()->setAccessibleName(qStringFrom(description.accessibleName));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/HostControls.h"
+#include "host/HostDrops.h"
 #include "host/HostInterfaceFactory.h"
 #include "hosts/common/MouseTurn.h"
 #include "hosts/common/PointerTracking.h"
@@ -37,6 +38,8 @@ private:
     void paint(QPainter& painter, bool showsFocus);
 
     HostViewContent& _content;
+    /// Null if nothing can be dropped on the content.
+    HostDropTarget* _drops;
     PointerTracking _tracking;
     MouseTurn _turn;
 };

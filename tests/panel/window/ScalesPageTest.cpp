@@ -3,6 +3,10 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
 
 namespace vantorel {
 namespace {
@@ -33,6 +37,49 @@ TEST_F(ScalesInPanelTest, AClickTakesAColourAndIsAStepToUndo)
     _window->colors().undo();
     EXPECT_EQ(chosenColor(), QColor(59, 130, 246));
     EXPECT_EQ(spoken("scalesScaleRow1"), "500, #3B82F6, the colour itself");
+}
+
+TEST_F(ScalesInPanelTest, AColourIsDroppedOnTheEndsOfTheGradient)
+{
+    picker().performAction("gradient", nullptr);
+    auto* gradient = child<QWidget>("scalesGradientRow1");
+    ASSERT_TRUE(gradient->acceptDrops());
+    const auto drop = [](QWidget* target, const QMimeData& data, int x) {
+        const QPoint at(x, target->height() / 2);
+        QDragEnterEvent entered(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+        entered.ignore();
+        QApplication::sendEvent(target, &entered);
+        if (!entered.isAccepted()) return false;
+        QDragMoveEvent moved(at, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &moved);
+        if (!moved.isAccepted()) return false;
+        QDropEvent dropped(QPointF(at), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &dropped);
+        return dropped.isAccepted();
+    };
+    const auto end = [&] { return child<QLineEdit>("scalesGradientEnd")->text().toLower(); };
+    QMimeData color;
+    color.setColorData(QColor(16, 185, 129));
+    EXPECT_TRUE(drop(gradient, color, gradient->width() - 12));
+    EXPECT_EQ(end(), "#10b981");
+    EXPECT_EQ(chosenColor(), QColor(59, 130, 246)) << "the other end stays";
+
+    QMimeData text;
+    text.setText("hsl(0 100% 50%)");
+    EXPECT_TRUE(drop(gradient, text, 12));
+    EXPECT_EQ(chosenColor(), QColor(255, 0, 0));
+    EXPECT_EQ(end(), "#10b981");
+
+    EXPECT_FALSE(drop(gradient, color, gradient->width() / 2)) << "between the ends";
+    EXPECT_FALSE(drop(child<QWidget>("scalesScaleRow1"), color, 12)) << "a row without ends";
+    QMimeData file;
+    file.setUrls({QUrl("file:///tmp/a.png")});
+    EXPECT_FALSE(drop(gradient, file, 12)) << "the window takes pictures";
+    QMimeData words;
+    words.setText("not a colour");
+    EXPECT_TRUE(drop(gradient, words, 12));
+    EXPECT_EQ(chosenColor(), QColor(255, 0, 0));
+    EXPECT_TRUE(message().contains("not a colour")) << message().toStdString();
 }
 
 TEST_F(ScalesInPanelTest, ContrastsAreThoseOfThePanelsTwoColours)
