@@ -1,6 +1,7 @@
 #include "colornames/ColorNames.h"
 
 #include "color/ChannelConversion.h"
+#include "colormath/Differences.h"
 #include "colormath/NearestNamedColor.h"
 #include "colortext/ListedName.h"
 #include "csscolor/CSSNamedColors.h"
@@ -8,6 +9,7 @@
 #include "text/Unicode.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vantorel {
 namespace {
@@ -27,6 +29,21 @@ HostColor colorOfValue(std::uint32_t value)
 {
     const auto fraction = [value](int shift) { return ((value >> shift) & 0xFFU) / 255.0; };
     return HostColor::colorWithCalibratedRed(fraction(16), fraction(8), fraction(0), 1);
+}
+
+CSSColorValue valueOf(const HostColor& color)
+{
+    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+    CSSColorValue value;
+    value.components = {rgb.red, rgb.green, rgb.blue};
+    return value;
+}
+
+/// Whether a colour is nearer to `place` than another one.
+bool isNearer(const HostColor& color, const HostColor& other, const HostColor& place)
+{
+    const std::array both{valueOf(other), valueOf(color)};
+    return NearestColor(both).placeFor(valueOf(place)) == 1;
 }
 
 /// Whether the bytes of a file contain a name in any letter case, so that its list is worth
@@ -70,14 +87,12 @@ std::optional<ColorNames::Name> ColorNames::nameOf(const HostColor& color)
     if (color.isPattern()) return std::nullopt;
     // What has the same code has the same name.
     const HostColor rounded = roundedToBytes(color);
-    std::optional<Name> inList;
-    if (const ListNames* names = namingListNames()) {
-        if (auto nearest = names->nearest(rounded))
-            inList = {std::move(nearest->name), names->list().name(), nearest->isExact};
-    }
-    if (inList && inList->isExact) return inList;
+    const ListNames* names = namingListNames();
+    const auto inList = names != nullptr ? names->nearest(rounded) : std::nullopt;
     const auto ofCSS = nearestNamedColor(rounded);
-    if (inList && !(ofCSS && ofCSS->isExact)) return inList;
+    const bool isOfList =
+        inList && !(ofCSS && isNearer(colorOfValue(ofCSS->color.value), inList->color, rounded));
+    if (isOfList) return Name{inList->name, names->list().name(), inList->isExact};
     if (!ofCSS) return std::nullopt;
     return Name{std::u16string(ofCSS->color.name), std::u16string(cssNamesTitle), ofCSS->isExact};
 }

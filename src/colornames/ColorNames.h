@@ -30,10 +30,10 @@ public:
         /// Whether the colours are the same in 8 bits, apart from the opacity.
         bool isExact = false;
     };
-    /// Returns the name of a colour in the naming list of the settings, otherwise that of CSS,
-    /// otherwise the name of the nearest colour of the naming list, measured in Oklab. Without such
-    /// a list, the nearest one of CSS counts. Components outside 0..1 are clamped. Returns
-    /// `std::nullopt` for a pattern.
+    /// Returns the name of the nearest colour in the naming list of the settings and in CSS,
+    /// measured in Oklab; of equals that in the naming list. The list may be short, as the first
+    /// one is that a user gets. Components outside 0..1 are clamped. Returns `std::nullopt` for a
+    /// pattern.
     [[nodiscard]] std::optional<Name> nameOf(const HostColor& color);
 
     /// Sets the function that returns the name of the list that the user is working with, beside

@@ -73,13 +73,15 @@ protected:
     ColorNames _names{_files, _store, _store};
 };
 
-TEST_F(ColorNamesTest, TheNamingListIsFirstThenCSSThenTheNearestOfTheNamingList)
+TEST_F(ColorNamesTest, TheNearestNameCountsOfEqualsThatOfTheNamingList)
 {
     EXPECT_EQ(nameOf(bytes(255, 128, 0)), "Amber (Paints)");
     EXPECT_EQ(nameOf(bytes(0, 0, 128)), "Ink (Paints)") << "navy of CSS comes second";
     EXPECT_EQ(nameOf(bytes(10, 20, 30)), "Coal (Paints)") << "the first of equals";
     EXPECT_EQ(nameOf(bytes(255, 127, 80)), "coral (CSS Color 4)");
-    EXPECT_EQ(nameOf(bytes(255, 127, 81)), "~Amber (Paints)");
+    EXPECT_EQ(nameOf(bytes(255, 127, 81)), "~coral (CSS Color 4)");
+    EXPECT_EQ(nameOf(bytes(255, 129, 0)), "~Amber (Paints)");
+    EXPECT_EQ(nameOf(bytes(0, 0, 127)), "~Ink (Paints)") << "navy is as near";
     EXPECT_EQ(nameOf(bytes(255, 128, 0, 0.5)), "Amber (Paints)") << "whatever the opacity";
 }
 
@@ -101,7 +103,7 @@ TEST_F(ColorNamesTest, WithoutANamingListCSSNamesAlone)
 
 TEST_F(ColorNamesTest, NamesFollowTheSettingsAndTheLists)
 {
-    EXPECT_EQ(nameOf(bytes(1, 2, 3)), "~Coal (Paints)");
+    EXPECT_EQ(nameOf(bytes(1, 2, 3)), "~black (CSS Color 4)");
     chooseNamingList(u"Brand");
     EXPECT_EQ(nameOf(bytes(1, 2, 3)), "ink (Brand)");
     put("Brand", "1 2 3 Renamed\n");
