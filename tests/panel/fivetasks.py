@@ -138,7 +138,7 @@ def name_a_colour(hand, _):
     def descriptions():
         return [node.description for node in walk(application()) if node.name == "Colour magnifier"]
 
-    eventually(lambda: descriptions() == [f"{ON_SCREEN}, \u2248 teal"], lambda: f"the colour's name: {descriptions()}")
+    eventually(lambda: descriptions() == [f"{ON_SCREEN}, \u2248 dodgerblue"], lambda: f"the colour's name: {descriptions()}")
 
 
 def picture_of_stripes():

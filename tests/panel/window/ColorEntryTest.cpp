@@ -126,10 +126,10 @@ TEST_F(ColorEntryTest, TheFieldFollowsTheSettingsOfThePage)
     child<QToolButton>("settingsButton")->click();
 }
 
-TEST_F(ColorEntryTest, TheNameIsExactOrTheNearestOfTheNamingList)
+TEST_F(ColorEntryTest, TheNameIsExactOrTheNearest)
 {
     _window->resizeToPage({296, 340});
-    EXPECT_EQ(name(), "Nearest: orange");
+    EXPECT_EQ(name(), "Nearest: darkorange");
     _window->colors().setColor(rgb(0, 0, 128));
     EXPECT_EQ(name(), "navy");
 }
