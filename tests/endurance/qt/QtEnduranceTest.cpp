@@ -1,4 +1,4 @@
-#include "../../panel/PanelWindowFixture.h"
+#include "../../panel/window/PanelWindowFixture.h"
 #include "../Endurance.h"
 #include "QtUser.h"
 #include "hosts/qt/QtColors.h"
