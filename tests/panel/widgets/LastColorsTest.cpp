@@ -8,8 +8,11 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDrag>
 #include <QDragEnterEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTest>
 #include <QToolTip>
