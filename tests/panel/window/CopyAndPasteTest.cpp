@@ -275,7 +275,8 @@ TEST_F(CopyAndPasteTest, TheMagnifierKnowsTheNamesOfColours)
     type(QKeySequence("Ctrl+P"));
     ASSERT_TRUE(_pick.options.nameOf);
     EXPECT_EQ(qStringFrom(_pick.options.nameOf(rgb(0, 0, 128))), "navy");
-    EXPECT_EQ(qStringFrom(_pick.options.nameOf(rgb(59, 130, 246))), QStringLiteral("\u2248 dodgerblue"));
+    EXPECT_EQ(qStringFrom(_pick.options.nameOf(rgb(59, 130, 246))),
+              QStringLiteral("\u2248 dodgerblue"));
 }
 
 class PictureDropsTest : public PanelCommandsFixture {
