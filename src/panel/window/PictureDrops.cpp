@@ -1,5 +1,6 @@
 #include "panel/window/PictureDrops.h"
 
+#include "panel/palettes/PictureData.h"
 #include "panel/palettes/PictureFile.h"
 
 #include <QDropEvent>
@@ -16,7 +17,7 @@ bool holdsPicture(const QMimeData& data)
     const auto file =
         std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
     // A browser offers the picture beside its address.
-    return file != urls.end() ? isPictureFile(file->toLocalFile()) : data.hasImage();
+    return file != urls.end() ? isPictureFile(file->toLocalFile()) : offersPicture(data);
 }
 
 }  // namespace
