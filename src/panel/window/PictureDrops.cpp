@@ -1,6 +1,5 @@
 #include "panel/window/PictureDrops.h"
 
-#include "panel/palettes/PictureData.h"
 #include "panel/palettes/PictureFile.h"
 
 #include <QDropEvent>
@@ -17,7 +16,7 @@ bool holdsPicture(const QMimeData& data)
     const auto file =
         std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
     // A browser offers the picture beside its address.
-    return file != urls.end() ? isPictureFile(file->toLocalFile()) : offersPicture(data);
+    return file != urls.end() ? isPictureFile(file->toLocalFile()) : data.hasImage();
 }
 
 }  // namespace

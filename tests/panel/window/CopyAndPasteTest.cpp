@@ -322,20 +322,6 @@ TEST_F(PictureDropsTest, APictureIsDroppedOnEveryPageAndOnTheColours)
     EXPECT_EQ(chosenColor(), QColor(255, 128, 0)) << "a file is not a colour";
 }
 
-TEST_F(PictureDropsTest, APictureOfAnotherProgramNeedsNoFile)
-{
-    ASSERT_TRUE(_window->pages().showPageWithKey("hex"));
-    QMimeData drawing;
-    drawing.setData("image/svg+xml",
-                    "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'>"
-                    "<rect width='4' height='4' fill='#ff6347'/></svg>");
-    EXPECT_TRUE(drop(drawing, "_hexColorsView"));
-    EXPECT_EQ(_window->pages().current()->key(), "palettes");
-    auto* window = _window->findChild<QDialog*>("pictureColors");
-    EXPECT_NE(window, nullptr);
-    delete window;
-}
-
 TEST_F(PictureDropsTest, OtherFilesAreLeftToThePages)
 {
     const QTemporaryDir folder;
