@@ -96,7 +96,7 @@ class ActivationTest(unittest.TestCase):
 
     def test_a_second_start_for_the_bus_leaves_the_panel_alone(self):
         process = self.session.start_panel("--color", COLOR)
-        self.assertEqual(self.session.run("--service")[0], 0)
+        self.assertEqual(self.session.run("--service"), (0, "", ""))
         self.assertEqual(self.call("GetColor"), COLOR)
         self.assertEqual(self.process(), process.pid)
 
