@@ -21,6 +21,7 @@ TEXT_FIELD_OF_TARGET = (150, 24)
 WIDTH, HEIGHT = 1000, 800
 # Positions in the panel's window, whose page is 260 x 340.
 CELL_A0_OF_RED = (36, 322)
+READ_OUT = (12, 224, 60, 16)  # of the digits below the mouse: place and size
 NAMES_POP_UP = (178, 508)
 BETWEEN_COLUMNS = (52, 348)
 
@@ -44,9 +45,10 @@ def window_called(title):
     return next((each for each in windows() if each["name"] == title), None)
 
 
-def picture():
-    """The bytes of the screen's pixels."""
-    return subprocess.run(["grim", "-t", "ppm", "-"], capture_output=True, check=True).stdout
+def picture(place=(0, 0), size=None):
+    """The bytes of the pixels of the screen, or of a part of it."""
+    part = ["-g", f"{place[0]},{place[1]} {size[0]}x{size[1]}"] if size else []
+    return subprocess.run(["grim", "-t", "ppm", *part, "-"], capture_output=True, check=True).stdout
 
 
 def still_picture():
@@ -90,10 +92,19 @@ class WaylandTest(unittest.TestCase):
         take_clipboard("before")
 
     def open_panel(self, color=RED, **environment):
+        self.seat.move(0, 0)
         self.panel = self.session.start_panel("--size", "260x340", "--color", color, **environment)
         self.expect_focus("Vantorel")
         still_picture()  # the compositor has placed the window
         self.window = window_called("Vantorel")
+        self.expect_mouse()
+
+    def expect_mouse(self):
+        """Until the program has answered the compositor, sway finds no window below the mouse, and clicks are lost."""
+        read_out = self.at(READ_OUT[:2])
+        without_mouse = picture(read_out, READ_OUT[2:])
+        self.seat.move(*self.at(CELL_A0_OF_RED))
+        eventually(lambda: picture(read_out, READ_OUT[2:]) != without_mouse, "the digits below the mouse")
 
     def expect_focus(self, title):
         eventually(lambda: window_called(title) and window_called(title)["focused"], f"the focus of {title}")
@@ -147,7 +158,7 @@ class WindowTest(WaylandTest):
     def test_a_pop_up_opens_and_an_item_is_chosen(self):
         self.open_panel("#123456")
         self.seat.move(*self.at(NAMES_POP_UP))
-        closed = picture()
+        closed = still_picture()
         self.seat.press()
         self.seat.release()
         eventually(lambda: picture() != closed, "the list")
@@ -167,11 +178,11 @@ class WindowTest(WaylandTest):
         output = sway("--type", "get_outputs")[0]["name"]
         sway("output", output, "scale", "1.25")
         self.addCleanup(sway, "output", output, "scale", "1")
-        seat = WaylandSeat(COMPOSITOR, WIDTH * 4 // 5, HEIGHT * 4 // 5)
-        self.addCleanup(seat.close)
+        self.seat = WaylandSeat(COMPOSITOR, WIDTH * 4 // 5, HEIGHT * 4 // 5)
+        self.addCleanup(self.seat.close)
         self.open_panel("#000000")
         self.assertEqual(self.window["rect"]["width"], 264)
-        seat.click(*self.at(CELL_A0_OF_RED))
+        self.seat.click(*self.at(CELL_A0_OF_RED))
         self.expect_color("#a00000")
 
 
