@@ -7,7 +7,8 @@ option(VANTOREL_PRECOMPILED_HEADERS "Parse library headers once for all targets"
 # of a kind share them.
 function(_vantorel_precompile target)
   cmake_parse_arguments(arg "QT;TESTS" "" "" ${ARGN})
-  if(NOT VANTOREL_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
+  get_target_property(is_one_file ${target} UNITY_BUILD)
+  if(NOT VANTOREL_PRECOMPILED_HEADERS OR is_one_file)
     return()
   endif()
   set(kind precompiled)
@@ -46,7 +47,7 @@ function(vantorel_warnings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wconversion -Wsign-conversion -Wpedantic -Wnon-virtual-dtor
     # In whole folders a name hides those of other files.
-    $<$<NOT:$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wshadow>
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>
     # g++ reports false overlaps and overflows in string concatenation. The sanitizers find real ones.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-array-bounds;-Wno-stringop-overflow;-Wno-stringop-overread>)
 endfunction()
