@@ -23,7 +23,6 @@ cleanup() {
     trap - ERR
     kill $(jobs -p) 2> /dev/null || true
     kill -CONT $(jobs -p) 2> /dev/null || true  # a stopped one ends when it goes on
-    wait 2> /dev/null || true
     # Whoever still runs may write its files while they are removed.
     for _ in $(seq 100); do
         left=$(processes)
@@ -31,6 +30,9 @@ cleanup() {
         kill $left 2> /dev/null || true
         sleep 0.1
     done
+    # One that looks for leaks while it is traced never ends.
+    [ -z "$left" ] || kill -KILL $left 2> /dev/null || true
+    wait 2> /dev/null || true
     rm -rf "$scratch"
 }
 trap cleanup EXIT
