@@ -19,3 +19,12 @@ if(VANTOREL_CLANG_TIDY)
   set(CMAKE_CXX_CLANG_TIDY "${VANTOREL_CLANG_TIDY_PROGRAM}" --quiet --extra-arg=-DVANTOREL_CHECKS_${digest}
     "--header-filter=^${PROJECT_SOURCE_DIR}/(bench|fuzz|src|tests|tools)/" --checks=-bugprone-suspicious-include)
 endif()
+
+# vantorel_check_moc(TARGET)
+# In what moc writes, the parameters of signals have other names than in the class.
+function(vantorel_check_moc target)
+  if(VANTOREL_CLANG_TIDY)
+    file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/.clang-tidy"
+      "InheritParentConfig: true\nChecks: -readability-inconsistent-declaration-parameter-name\n")
+  endif()
+endfunction()

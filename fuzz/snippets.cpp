@@ -15,7 +15,8 @@ void readBack(const QTXCodeSnippet& snippet, const std::u16string& line)
 {
     const SnippetReaders readers({snippet});
     for (const std::u16string& text :
-         {line, u"x " + line + u"\n" + line, *snippet.formatStringSnippet()}) {
+         {line, std::u16string(u"x ").append(line).append(u"\n").append(line),
+          *snippet.formatStringSnippet()}) {
         std::size_t end = 0;
         for (const SnippetMatch& match : readers.matchesIn(text)) {
             require(match.begin >= end && match.end <= text.size());

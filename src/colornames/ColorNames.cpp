@@ -53,9 +53,8 @@ bool mayHaveName(const std::string& bytes, const std::string& name)
     const auto isPlain = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     // The file may have another encoding.
     if (!std::ranges::all_of(name, isPlain)) return true;
-    const auto found = std::ranges::search(
-        bytes, name, [](char left, char right) { return lowerCase(left) == lowerCase(right); });
-    return !found.empty();
+    const auto isSame = [](char left, char right) { return lowerCase(left) == lowerCase(right); };
+    return std::search(bytes.begin(), bytes.end(), name.begin(), name.end(), isSame) != bytes.end();
 }
 
 }  // namespace

@@ -135,9 +135,11 @@ std::string bashScript(const CommandRow& program)
             words.insert(words.end(), names.begin(), names.end());
             if (option->value.empty()) continue;
             for (const std::string& name : names) {
-                valueCases += "        " + shellQuoted(path + " " + name) + ") " +
-                              bashValues(option->value, option->choices, option->valuesFrom) +
-                              "return ;;\n";
+                valueCases += "        ";
+                valueCases += shellQuoted(path + " " + name);
+                valueCases += ") ";
+                valueCases += bashValues(option->value, option->choices, option->valuesFrom);
+                valueCases += "return ;;\n";
             }
         }
         bool takesFiles = false;

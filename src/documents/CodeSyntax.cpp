@@ -6,16 +6,16 @@ namespace vantorel {
 namespace {
 
 constexpr CodeSyntax syntaxes[] = {
-    {DocumentLanguage::plainText, "", "", "", "\"'`"},
-    {DocumentLanguage::script, "//", "/*", "*/", "\"'"},
-    {DocumentLanguage::json, "//", "/*", "*/", "\""},
-    {DocumentLanguage::cLikeCode, "//", "/*", "*/", "\"'`", true},
-    {DocumentLanguage::rustCode, "//", "/*", "*/", "\""},
-    {DocumentLanguage::hashCode, "#", "", "", "\"'`", true},
-    {DocumentLanguage::dashCode, "--", "/*", "*/", "\"'"},
-    {DocumentLanguage::lispCode, ";", "", "", "\""},
-    {DocumentLanguage::percentCode, "%", "", "", "\"'"},
-    {DocumentLanguage::basicCode, "'", "", "", "\""},
+    {DocumentLanguage::plainText, false, "", "", "", "\"'`"},
+    {DocumentLanguage::script, false, "//", "/*", "*/", "\"'"},
+    {DocumentLanguage::json, false, "//", "/*", "*/", "\""},
+    {DocumentLanguage::cLikeCode, true, "//", "/*", "*/", "\"'`"},
+    {DocumentLanguage::rustCode, false, "//", "/*", "*/", "\""},
+    {DocumentLanguage::hashCode, true, "#", "", "", "\"'`"},
+    {DocumentLanguage::dashCode, false, "--", "/*", "*/", "\"'"},
+    {DocumentLanguage::lispCode, false, ";", "", "", "\""},
+    {DocumentLanguage::percentCode, false, "%", "", "", "\"'"},
+    {DocumentLanguage::basicCode, false, "'", "", "", "\""},
 };
 
 }  // namespace

@@ -10,13 +10,13 @@ namespace vantorel {
 /// How comments and strings of a language are written.
 struct CodeSyntax {
     DocumentLanguage language;
+    /// Whether three quotation marks begin a string of several lines.
+    bool hasTripleQuotes;
     std::string_view lineComment;
     std::string_view commentBegin;
     std::string_view commentEnd;
     /// The quotation marks of strings.
     std::string_view quotes;
-    /// Whether three quotation marks begin a string of several lines.
-    bool hasTripleQuotes = false;
 };
 
 /// Returns the end of "${...}" in a template string of JavaScript, whose strings may contain

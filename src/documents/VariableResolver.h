@@ -68,7 +68,7 @@ private:
         int budget = 128;
     };
 
-    void addDefinitions(std::uint32_t index, const PlacedPart& part);
+    void addDefinitions(std::uint32_t index, const PlacedPart& placed);
     [[nodiscard]] Scope scopeAround(Scope scope) const;
     [[nodiscard]] Definition* find(std::string_view name, Scope scope, std::size_t place);
     [[nodiscard]] std::optional<ColorLiteral> colorOf(Definition& definition);

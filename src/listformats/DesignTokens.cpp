@@ -190,12 +190,16 @@ bool TokenHandler::string(string_t& text)
     if (_roles.empty()) return false;
     switch (_roles.back()) {
         case Role::node:
-            if (_key == "$type") _nodes[_open].type = std::move(text);
-            if (_key == "$value") valueOfOpen().text = std::move(text);
+            if (_key == "$type")
+                _nodes[_open].type = std::move(text);
+            else if (_key == "$value")
+                valueOfOpen().text = std::move(text);
             break;
         case Role::value:
-            if (_key == "colorSpace") valueOfOpen().space = std::move(text);
-            if (_key == "hex") valueOfOpen().hex = std::move(text);
+            if (_key == "colorSpace")
+                valueOfOpen().space = std::move(text);
+            else if (_key == "hex")
+                valueOfOpen().hex = std::move(text);
             break;
         case Role::components:
             if (text == "none") return component(text);
@@ -302,7 +306,7 @@ std::string TokenHandler::nameOfToken(std::size_t place, std::size_t listGroup) 
         // "500" alone would say little.
         if (group == listGroup && !(isOnlyNumber && name == _nodes[place].name)) break;
         if (name.size() + _nodes[group].name.size() > longestName) break;
-        name = _nodes[group].name + ' ' + name;
+        name.insert(0, _nodes[group].name + ' ');
         if (group == listGroup) break;
     }
     return name;

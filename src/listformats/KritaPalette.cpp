@@ -61,10 +61,11 @@ ListContents colorsIn(std::string_view xml)
         if (tag->name == "ColorSet" && !tag->isEnd && contents.name.empty()) {
             contents.name = utf16FromUtf8(tag->attribute("name"));
         } else if (tag->name == "ColorSetEntry") {
-            if (tag->isEnd && name && color) {
-                contents.entries.emplace_back(*color, *std::move(name));
-            } else if (tag->isEnd && name) {
-                ++contents.skipped;
+            if (tag->isEnd && name) {
+                if (color)
+                    contents.entries.emplace_back(*color, *name);
+                else
+                    ++contents.skipped;
             }
             name.reset();
             color.reset();

@@ -37,7 +37,7 @@ private:
         int gridWidth;  ///< of the lines between them; 0 for none
     };
 
-    [[nodiscard]] Layout layOut(const DesktopPicture::Screen& screen, const Magnified& magnified,
+    [[nodiscard]] Layout layOut(const DesktopPicture::Screen& picture, const Magnified& magnified,
                                 double ratio) const;
     [[nodiscard]] static QImage enlarged(const DesktopPicture& picture, QPoint middle, Cells size,
                                          const QPalette& palette);

@@ -105,7 +105,7 @@ void PortalShortcut::takeVersion(const QDBusMessage& reply)
 QString PortalShortcut::newToken()
 {
     // Random, so that no other program on the bus can guess the path of the answer.
-    const QString token =
+    QString token =
         QStringLiteral("vantorel_%1").arg(QRandomGenerator::system()->generate64(), 0, 16);
     // The answer can arrive before the call returns, so its path is computed in advance.
     const QString sender = _bus.baseService().mid(1).replace(u'.', u'_');

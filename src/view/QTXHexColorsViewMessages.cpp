@@ -9,13 +9,13 @@ constexpr double fadingStep = 0.05;
 
 /// The differences between a plain message and a warning.
 struct MessageStyle {
-    double pointSize;
+    double pointSize = 0;
     HostColor color;
     /// Above this opacity, the message waits `restingSeconds` before the next step, else
     /// `fadingSeconds`.
-    double restingAbove;
-    double restingSeconds;
-    double fadingSeconds;
+    double restingAbove = 0;
+    double restingSeconds = 0;
+    double fadingSeconds = 0;
 };
 
 constexpr MessageStyle plainStyle{12.0, HostColor::colorWithCalibratedRed(0, 0, 1, 1), 0.55, 0.9,

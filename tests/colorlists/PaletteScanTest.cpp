@@ -46,7 +46,7 @@ TEST(PaletteScanTest, TheNamesAreThoseOfTheList)
     int exact = 0;
     std::size_t close = 0;
     for (int i = 0; i < 300; ++i) {
-        const auto channel = [&] { return static_cast<std::uint64_t>(byte(random) / 4 * 4); };
+        const auto channel = [&] { return static_cast<std::uint64_t>(byte(random)) / 4 * 4; };
         const QTXHexColorSpec color = colorOf(channel(), channel(), channel());
         const auto match = namesInPalette(bytes, color);
         ASSERT_TRUE(match);

@@ -18,6 +18,7 @@ namespace {
 std::vector<CSSColorValue> colorsOf(const std::vector<const char*>& texts)
 {
     std::vector<CSSColorValue> colors;
+    colors.reserve(texts.size());
     for (const char* text : texts)
         colors.push_back(readCSSColor(text)->value);
     return colors;

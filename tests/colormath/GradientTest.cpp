@@ -12,6 +12,7 @@ namespace {
 std::vector<CSSColorValue> stopsOf(const std::vector<const char*>& texts)
 {
     std::vector<CSSColorValue> stops;
+    stops.reserve(texts.size());
     for (const char* text : texts)
         stops.push_back(readCSSColor(text)->value);
     return stops;

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vantorel {
@@ -15,9 +16,10 @@ inline std::vector<std::string> colorTexts(std::string_view text, DocumentLangua
 {
     std::vector<std::string> texts;
     for (const DocumentColor& color : findColors(text, language).colors) {
-        const std::string written(color.range.in(text));
+        std::string written(color.range.in(text));
         const std::string hex = utf8FromUtf16(hexText(color.color).value_or(u"?"));
-        texts.push_back(written == hex ? written : written + " = " + hex);
+        if (written != hex) written.append(" = ").append(hex);
+        texts.push_back(std::move(written));
     }
     return texts;
 }

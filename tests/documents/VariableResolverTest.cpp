@@ -80,7 +80,12 @@ TEST(VariableResolverTest, DefinitionsThatMultiplyEachOtherEnd)
     std::string text = "a{--x0: ;";
     for (int i = 1; i < 64; ++i) {
         const std::string inner = "var(--x" + std::to_string(i - 1) + ")";
-        text += "--x" + std::to_string(i) + ":" + inner + inner + ";";
+        text.append("--x")
+            .append(std::to_string(i))
+            .append(":")
+            .append(inner)
+            .append(inner)
+            .append(";");
     }
     EXPECT_THAT(usesInCSS(text + "b:var(--x63)}"), IsEmpty());
 }

@@ -17,7 +17,7 @@ QString codeWithOpacity(const HostColor& color)
 {
     const HostColor mapped = mappedIntoSRGB(color);
     const QColor shown = qColorFrom(mapped);
-    const QString code = plainHexCode(mapped.colorWithAlphaComponent(1));
+    QString code = plainHexCode(mapped.colorWithAlphaComponent(1));
     if (shown.alpha() == 255) return code;
     return QStringLiteral("%1, %2 %").arg(code).arg(qRound(shown.alphaF() * 100));
 }

@@ -72,7 +72,7 @@ ColorBandLayout layoutOfBand(QSize size, std::optional<double> contrast,
     const QFontMetricsF metrics(layout.sampleFont);
     const qreal width = metrics.horizontalAdvance(QStringLiteral("Aa"));
     const qreal sampleHeight = scaled(sampleLinePoints);
-    layout.sample.setSize({layout.sampleScale * width, sampleHeight});
+    layout.sample.setSize({ColorBandLayout::sampleScale * width, sampleHeight});
 
     const QRectF whole(layout.background);
     const bool isLow = size.height() < sampleHeight + ContrastChip::height() + scaled(6);

@@ -90,7 +90,7 @@ void ColorBandPainter::paintSample(const HostColor& color, const HostColor& back
     _painter.setFont(_layout.sampleFont);
     _painter.setPen(qColorFrom(*shown));
     _painter.translate(_layout.sample.center());
-    _painter.scale(_layout.sampleScale, _layout.sampleScale);
+    _painter.scale(ColorBandLayout::sampleScale, ColorBandLayout::sampleScale);
     _painter.drawText(QRectF(), Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("Aa"));
     _painter.restore();
     _layout.chip.paint(_painter, _layout.chipTopLeft, _theme,

@@ -27,9 +27,9 @@ bool LastColorsOrder::isPinned(int index) const
 std::vector<HostColor> LastColorsOrder::pinnedAfterMoving(int index, int step) const
 {
     std::vector<HostColor> moved = _pinned;
-    if (isPinned(index) && isPinned(index + step)) {
-        std::swap(moved[static_cast<std::size_t>(index)],
-                  moved[static_cast<std::size_t>(index + step)]);
+    const int target = index + step;
+    if (isPinned(index) && isPinned(target)) {
+        std::swap(moved[static_cast<std::size_t>(index)], moved[static_cast<std::size_t>(target)]);
     }
     return moved;
 }

@@ -34,7 +34,7 @@ LastColorsPlaces row(QSize size, std::size_t pinned, std::size_t others)
     if (capacity == 0) return places;
     const auto shown = std::min(static_cast<std::size_t>(capacity), pinned + others);
     const qreal width = qreal(room - extra - (capacity - 1) * gap) / capacity;
-    const qreal top = (size.height() - side) / 2;
+    const int top = (size.height() - side) / 2;
     qreal x = 0;
     for (std::size_t i = 0; i < shown; ++i) {
         if (extra > 0 && i == pinned) {
@@ -58,8 +58,9 @@ LastColorsPlaces grid(QSize size, int rows, std::size_t pinned, std::size_t othe
     const qreal width = qreal(size.width() - (places.columns - 1) * gap) / places.columns;
     const int top = size.height() - rows * (side + gap) + gap;
     const auto placeAt = [&](int index) {
-        return QRectF((index % places.columns) * (width + gap),
-                      top + (index / places.columns) * (side + gap), width, side);
+        const int row = index / places.columns;
+        return QRectF((index % places.columns) * (width + gap), top + row * (side + gap), width,
+                      side);
     };
     const int last = rows * places.columns - 1;
     places.button = QRect(QPoint(), QSize(1, 1) * scaled(menuButtonPoints));

@@ -189,7 +189,7 @@ void PanelStyle::drawToolButton(const QStyleOptionToolButton& option, QPainter& 
     part.rect = proxy()->subControlRect(CC_ToolButton, &option, SC_ToolButton, widget);
     const bool hasArrow = option.subControls.testFlag(SC_ToolButtonMenu);
     if (hasArrow) {
-        QStyleOption arrow = option;
+        QStyleOptionToolButton arrow = option;
         arrow.rect = proxy()->subControlRect(CC_ToolButton, &option, SC_ToolButtonMenu, widget);
         proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
     }

@@ -41,9 +41,10 @@ template <class Grounds>
 QColor readableMixture(const QColor& from, const QColor& text, double share, const Grounds& grounds,
                        double contrast)
 {
-    for (; share < 1; share += shareStep) {
+    while (share < 1) {
         const QColor mixture = mixedColor(from, text, share);
         if (isReadable(mixture, text, grounds, contrast)) return mixture;
+        share += shareStep;
     }
     return text;
 }
@@ -52,9 +53,10 @@ QColor readableMixture(const QColor& from, const QColor& text, double share, con
 QColor shadedGround(const QColor& ground, const QColor& text, double share)
 {
     const double wanted = std::min(textContrast, contrastOf(ground, text));
-    for (; share > 0; share -= shareStep / 5) {
+    while (share > 0) {
         const QColor mixture = mixedColor(ground, text, share);
         if (contrastOf(mixture, text) >= wanted) return mixture;
+        share -= shareStep / 5;
     }
     return ground;
 }
