@@ -3082,10 +3082,6 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
         <translation>Farbe</translation>
     </message>
     <message>
-        <source>Contrasts of the scale with itself</source>
-        <translation>Kontraste der Skala mit sich selbst</translation>
-    </message>
-    <message>
         <source>Shown contrasts</source>
         <translation>Gezeigte Kontraste</translation>
     </message>
@@ -3096,6 +3092,22 @@ Der Editor zeigt die Farben von Stilvorlagen, Markup und Code, schreibt sie in a
     <message>
         <source>Texts in columns, backgrounds in rows</source>
         <translation>Texte in Spalten, Hintergründe in Zeilen</translation>
+    </message>
+    <message>
+        <source>A larger window shows more colours of the list</source>
+        <translation>Ein größeres Fenster zeigt mehr Farben der Liste</translation>
+    </message>
+    <message>
+        <source>Contrasts of the colours with each other</source>
+        <translation>Kontraste der Farben miteinander</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>No colour lists. Make one on the page Palettes</source>
+        <translation>Keine Farblisten. Eine entsteht auf der Seite Paletten</translation>
     </message>
 </context>
 <context>

@@ -3082,10 +3082,6 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
         <translation>Color</translation>
     </message>
     <message>
-        <source>Contrasts of the scale with itself</source>
-        <translation>Contrastes de la escala consigo misma</translation>
-    </message>
-    <message>
         <source>Shown contrasts</source>
         <translation>Contrastes mostrados</translation>
     </message>
@@ -3096,6 +3092,22 @@ El editor muestra los colores de hojas de estilo, marcado y código, los escribe
     <message>
         <source>Texts in columns, backgrounds in rows</source>
         <translation>Textos en columnas, fondos en filas</translation>
+    </message>
+    <message>
+        <source>A larger window shows more colours of the list</source>
+        <translation>Una ventana mayor muestra más colores de la lista</translation>
+    </message>
+    <message>
+        <source>Contrasts of the colours with each other</source>
+        <translation>Contrastes de los colores entre sí</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>No colour lists. Make one on the page Palettes</source>
+        <translation>No hay listas de colores. Cree una en la página Paletas</translation>
     </message>
 </context>
 <context>

@@ -3082,10 +3082,6 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
         <translation>Couleur</translation>
     </message>
     <message>
-        <source>Contrasts of the scale with itself</source>
-        <translation>Contrastes de la gamme avec elle-même</translation>
-    </message>
-    <message>
         <source>Shown contrasts</source>
         <translation>Contrastes montrés</translation>
     </message>
@@ -3096,6 +3092,22 @@ L’éditeur montre les couleurs des feuilles de style, du balisage et du code, 
     <message>
         <source>Texts in columns, backgrounds in rows</source>
         <translation>Textes en colonnes, fonds en lignes</translation>
+    </message>
+    <message>
+        <source>A larger window shows more colours of the list</source>
+        <translation>Une fenêtre plus grande montre plus de couleurs de la liste</translation>
+    </message>
+    <message>
+        <source>Contrasts of the colours with each other</source>
+        <translation>Contrastes des couleurs entre elles</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>No colour lists. Make one on the page Palettes</source>
+        <translation>Aucune liste de couleurs. Créez-en une à la page Palettes</translation>
     </message>
 </context>
 <context>

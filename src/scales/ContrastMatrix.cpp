@@ -16,7 +16,8 @@ namespace {
 // In points.
 constexpr double captionRoom = 18;
 constexpr double headingRoom = 20;
-constexpr double leastCell = 16;
+constexpr double leastCellHeight = 16;
+constexpr double leastCellWidth = 19;
 constexpr double captionText = 11;
 constexpr double cellText = 10;
 /// In cells that are narrower than the widest verdict at the usual size.
@@ -74,10 +75,17 @@ void ContrastMatrix::show(Swatches swatches)
     _view->setNeedsDisplay(true);
 }
 
-double ContrastMatrix::leastHeight() const
+double ContrastMatrix::leastHeight(std::size_t count)
 {
-    return 2 * margin + captionRoom + headingRoom +
-           leastCell * static_cast<double>(_swatches.size());
+    return 2 * margin + captionRoom + headingRoom + leastCellHeight * static_cast<double>(count);
+}
+
+std::size_t ContrastMatrix::capacity() const
+{
+    const HostSize size = _view->bounds().size();
+    const double columns = (size.width - 2 * margin) / leastCellWidth - 1;
+    const double rows = (size.height - leastHeight(0)) / leastCellHeight;
+    return static_cast<std::size_t>(std::max(0.0, std::min(columns, rows)));
 }
 
 double ContrastMatrix::ratioOf(Cell cell) const
@@ -118,6 +126,15 @@ std::optional<ContrastMatrix::Cell> ContrastMatrix::cellAt(HostPoint point) cons
     return std::nullopt;
 }
 
+std::optional<std::u16string> ContrastMatrix::headingAt(HostPoint point) const
+{
+    for (std::size_t i = 0; i < _swatches.size(); ++i) {
+        if (placeInGrid(i + 1, 0).contains(point) || placeInGrid(0, i + 1).contains(point))
+            return _swatches[i].label;
+    }
+    return std::nullopt;
+}
+
 std::u16string ContrastMatrix::spoken(Cell cell) const
 {
     HostDesktop& desktop = _panel.desktop();
@@ -139,6 +156,8 @@ void ContrastMatrix::drawHeading(HostCanvas& canvas, const Swatch& swatch, HostR
                          .color = whiteIsBetter ? white : black,
                          .isBold = swatch.isOwn};
     const HostSize size = _panel.desktop().sizeOfText(label);
+    // The name of a listed colour is often too long; the tip says it.
+    if (size.width > place.width) return;
     canvas.drawText(label, {place.midX() - size.width / 2, place.midY() - size.height / 2});
 }
 
@@ -194,7 +213,7 @@ void ContrastMatrix::mouseUp(const HostEvent& event)
 void ContrastMatrix::mouseMoved(const HostEvent& event)
 {
     const auto cell = cellAt(event.location);
-    auto tip = cell ? std::optional(spoken(*cell)) : std::nullopt;
+    auto tip = cell ? std::optional(spoken(*cell)) : headingAt(event.location);
     if (tip != _view->toolTip()) _view->setToolTip(std::move(tip));
 }
 

@@ -33,7 +33,11 @@ public:
     [[nodiscard]] HostCustomView& view() const { return *_view; }
     void show(Swatches swatches);
     /// The least height of the view, in points.
-    [[nodiscard]] double leastHeight() const;
+    [[nodiscard]] double leastHeight() const { return leastHeight(_swatches.size()); }
+    /// The least height for a number of colours.
+    [[nodiscard]] static double leastHeight(std::size_t count);
+    /// Returns how many colours have room in the view.
+    [[nodiscard]] std::size_t capacity() const;
 
     /// A text on a ground, by the places of their colours.
     struct Cell {
@@ -57,6 +61,8 @@ private:
     /// The place of a column and row counted from the headings, which are at 0.
     [[nodiscard]] HostRect placeInGrid(std::size_t column, std::size_t row) const;
     [[nodiscard]] std::optional<Cell> cellAt(HostPoint point) const;
+    /// Returns the label of the heading at a point.
+    [[nodiscard]] std::optional<std::u16string> headingAt(HostPoint point) const;
     [[nodiscard]] std::u16string spoken(Cell cell) const;
     void drawHeading(HostCanvas& canvas, const Swatch& swatch, HostRect place) const;
     void drawCell(HostCanvas& canvas, Cell cell) const;

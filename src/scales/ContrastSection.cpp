@@ -3,10 +3,12 @@
 #include "csscolor/GamutMapping.h"
 #include "pageparts/Segments.h"
 #include "scales/ContrastLines.h"
+#include "scales/ContrastList.h"
 #include "scales/ContrastMatrix.h"
 #include "scales/ScalesSections.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 
@@ -20,6 +22,8 @@ constexpr double mostHeight = 36;
 constexpr double leastWidthForVerdict = 19;
 constexpr double viewsText = 11;
 constexpr double besideViews = 16;
+/// More colours of a list have room only where there is more of it.
+constexpr std::size_t mostInLeastHeight = 11;
 
 struct Level {
     const char16_t* name;
@@ -34,9 +38,10 @@ public:
                         scalesPage.panel().desktop().localizedString(u"Contrast")),
           _lines(scalesPage.panel(), identifier() + "Lines", title()),
           _matrix(scalesPage.panel(), identifier() + "Matrix",
-                  desktop().localizedString(u"Contrasts of the scale with itself"),
+                  desktop().localizedString(u"Contrasts of the colours with each other"),
                   [this](const HostColor& color) { page().choose(color); }),
           _views(makeViewChoice()),
+          _list(scalesPage, view(), identifier() + "List"),
           _nearest(addRow(desktop().localizedString(u"Nearest"),
                           {.name = desktop().localizedString(u"Nearest colours that pass"),
                            .showsLabels = true,
@@ -55,27 +60,45 @@ public:
 
     [[nodiscard]] double leastHeight(double width) const override
     {
-        return _showsMatrix ? headingHeight + gap + _matrix.leastHeight()
-                            : ScalesSection::leastHeight(width);
+        switch (_shown) {
+            case Shown::color:
+                break;
+            case Shown::scale:
+                return headingHeight + gap + _matrix.leastHeight();
+            case Shown::list:
+                return headingHeight + gap + ContrastList::height + gap +
+                       ContrastMatrix::leastHeight(std::min(_listed.size(), mostInLeastHeight));
+        }
+        return ScalesSection::leastHeight(width);
     }
 
     void layOut(HostRect place) override
     {
         ScalesSection::layOut(place);
-        setRowsParked(_showsMatrix);
-        _lines.view().setParked(_showsMatrix);
-        _matrix.view().setParked(!_showsMatrix);
+        const bool showsMatrix = _shown != Shown::color;
+        setRowsParked(showsMatrix);
+        _lines.view().setParked(showsMatrix);
+        _matrix.view().setParked(!showsMatrix);
+        _list.setParked(_shown != Shown::list);
         const double left = SwatchStrip::margin;
         const double width = _views->leastWidth() + besideViews;
         _views->layOutByTitles(
             {left + place.width - width, place.height - headingHeight, width, Segments::height});
-        _views->show(_showsMatrix ? 1 : 0);
-        if (!_showsMatrix) return;
-        const double height = std::min(place.height - headingHeight - gap,
-                                       _matrix.leastHeight() * mostHeight / onGroundHeight);
-        _matrix.view().setFrame({left - ContrastMatrix::margin,
-                                 place.height - headingHeight - gap - height,
+        _views->show(static_cast<std::size_t>(_shown));
+        if (!showsMatrix) return;
+        double top = place.height - headingHeight - gap;
+        std::size_t count = page().model().scale().size();
+        if (_shown == Shown::list) {
+            top -= ContrastList::height;
+            _list.layOut({left, top, place.width, ContrastList::height});
+            top -= gap;
+            count = _listed.size();
+        }
+        const double height =
+            std::min(top, ContrastMatrix::leastHeight(count) * mostHeight / onGroundHeight);
+        _matrix.view().setFrame({left - ContrastMatrix::margin, top - height,
                                  place.width + 2 * ContrastMatrix::margin, height});
+        showMatrix();
     }
 
     void show() override
@@ -90,8 +113,9 @@ public:
         lines.push_back({desktop().localizedString(u"Black"), own, HostColor::blackColor()});
         _lines.show(std::move(lines));
         _nearest.show(nearestColors());
+        _listed = _shown == Shown::list ? _list.colors() : Swatches();
+        showMatrix();
         Swatches scale = page().model().scale();
-        _matrix.show(scale);
         for (Swatch& swatch : scale)
             swatch.label = shortVerdict(contrastWithOther(swatch.color));
         _scale.show(std::move(scale));
@@ -114,14 +138,28 @@ private:
             {.identifier = identifier() + "Views",
              .buttonIdentifier = identifier() + "View",
              .accessibleName = desktop().localizedString(u"Shown contrasts"),
-             .titles = {desktop().localizedString(u"Colour"), desktop().localizedString(u"Scale")},
+             .titles = {desktop().localizedString(u"Colour"), desktop().localizedString(u"Scale"),
+                        desktop().localizedString(u"List")},
              .pointSize = viewsText},
             [this](std::size_t choice) {
-                _showsMatrix = choice == 1;
+                _shown = static_cast<Shown>(choice);
+                if (_shown == Shown::list) _list.readLists();
                 page().modelDidChange();
             });
         view().addSubview(views->view());
         return views;
+    }
+
+    void showMatrix()
+    {
+        if (_shown != Shown::list) {
+            _matrix.show(page().model().scale());
+            return;
+        }
+        const auto shown = std::min(_listed.size(), _matrix.capacity());
+        _matrix.show(
+            Swatches(_listed.begin(), _listed.begin() + static_cast<std::ptrdiff_t>(shown)));
+        _list.showCount(shown, _listed.size());
     }
 
     /// The panel's two colours as they are shown.
@@ -164,10 +202,15 @@ private:
         return swatches;
     }
 
-    bool _showsMatrix = false;
+    /// In the order of the segments.
+    enum class Shown { color, scale, list };
+    Shown _shown = Shown::color;
+    /// The colours of the chosen list while they are shown.
+    Swatches _listed;
     ContrastLines _lines;
     ContrastMatrix _matrix;
     std::unique_ptr<Segments> _views;
+    ContrastList _list;
     SwatchStrip& _nearest;
     SwatchStrip& _scale;
 };

@@ -18,8 +18,11 @@ constexpr const char16_t* sectionKey = u"Section";
 constexpr const char16_t* endKey = u"GradientEnd";
 constexpr const char16_t* stepsKey = u"GradientSteps";
 constexpr const char16_t* spaceKey = u"GradientSpace";
+constexpr const char16_t* listKey = u"ContrastList";
 /// We never write files that big.
 constexpr std::size_t largestFile = 4096;
+/// In UTF-16 units, of which a file has at most six bytes each.
+constexpr std::size_t longestListName = 400;
 
 std::optional<std::string> folderName(const HostFiles& files)
 {
@@ -49,6 +52,7 @@ void readScalesMemory(const HostFiles& files, ScalesModel& model,
     const auto& spaces = gradientSpaces();
     const auto space = std::ranges::find(spaces, text(spaceKey), &GradientSpace::key);
     if (space != spaces.end()) model.setSpace(static_cast<std::size_t>(space - spaces.begin()));
+    if (const std::u16string* name = list->stringForKey(listKey)) model.setContrastList(*name);
 }
 
 void writeScalesMemory(HostFiles& files, const ScalesModel& model, std::string_view section)
@@ -66,6 +70,9 @@ void writeScalesMemory(HostFiles& files, const ScalesModel& model, std::string_v
         const auto code = hexText(mappedIntoSRGB(*end));
         if (code) values.emplace_back(endKey, PropertyList(*code));
     }
+    // A longer one would make a file that is not read.
+    if (const auto& name = model.contrastList(); !name.empty() && name.size() <= longestListName)
+        values.emplace_back(listKey, PropertyList(name));
     files.writeAtomically(*folder + "/Scales.plist",
                           utf8FromUtf16(propertyListText(PropertyList(std::move(values)))));
 }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantorel {
@@ -76,11 +77,16 @@ public:
     void setSpace(std::size_t space);
     [[nodiscard]] Swatches gradient() const;
 
+    /// The name of the colour list that is compared with itself; empty until one is chosen.
+    [[nodiscard]] const std::u16string& contrastList() const { return _contrastList; }
+    void setContrastList(std::u16string name) { _contrastList = std::move(name); }
+
 private:
     HostColor _color = HostColor::blackColor();
     std::optional<HostColor> _end;
     int _steps = 7;
     std::size_t _space = 0;
+    std::u16string _contrastList;
 };
 
 }  // namespace vantorel

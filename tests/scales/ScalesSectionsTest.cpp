@@ -3,6 +3,7 @@
 #include "csscolor/Contrast.h"
 #include "scales/ContrastLines.h"
 #include "scales/ContrastMatrix.h"
+#include "text/Decimals.h"
 
 #include <cmath>
 
@@ -240,6 +241,123 @@ TEST_F(ContrastSectionTest, AClickInTheTableTakesTheColourOfTheText)
     panel.deliver({{HostEventType::leftMouseDown, at, 0}, {HostEventType::leftMouseUp, at, 0}},
                   view("scalesContrastMatrix"));
     EXPECT_EQ(panelCode(), wanted);
+}
+
+/// The table of the colours of a list.
+class ListedContrastTest : public ContrastSectionTest {
+protected:
+    void keepList(const std::u16string& name, int colors)
+    {
+        const auto list = std::make_shared<HostColorList>(name);
+        for (int i = 0; i < colors; ++i)
+            list->setColor(rgbColor(i, 0, 255 - i), name + u" " + decimalText(i));
+        ASSERT_TRUE(desktop.colorLists().writeColorList(list));
+    }
+    void showLists() { control<HostButton>("scalesContrastView3").sendAction(); }
+    /// As a user does who opens the menu first.
+    void chooseList(const std::u16string& name)
+    {
+        auto& lists = control<HostPopUpButton>("scalesContrastList");
+        lists.sendWillPopUp();
+        ASSERT_NE(lists.indexOfItemWithTitle(name), HostPopUpButton::noItem);
+        lists.selectItemWithTitle(name);
+        lists.sendAction();
+    }
+    [[nodiscard]] std::optional<std::u16string> chosen()
+    {
+        return control<HostPopUpButton>("scalesContrastList").titleOfSelectedItem();
+    }
+    [[nodiscard]] std::u16string count()
+    {
+        return control<HeadlessTextField>("scalesContrastListCount").stringValue();
+    }
+    [[nodiscard]] ContrastMatrix& matrix()
+    {
+        return dynamic_cast<ContrastMatrix&>(view("scalesContrastMatrix").content());
+    }
+    [[nodiscard]] std::u16string said()
+    {
+        return *view("scalesContrastMatrix").accessibleDescription();
+    }
+};
+
+TEST_F(ListedContrastTest, TheColoursOfAListAreComparedWithEachOther)
+{
+    keepList(u"Brand", 3);
+    keepList(u"Ground", 2);
+    showLists();
+    EXPECT_FALSE(matrix().view().isParked());
+    EXPECT_TRUE(view("scalesContrastLines").isParked());
+    chooseList(u"Ground");
+    EXPECT_EQ(count(), u"2");
+    EXPECT_EQ(said(), u"Text Ground 0, Background Ground 0: 1.00 fails");
+    chooseList(u"Brand");
+    EXPECT_EQ(count(), u"3");
+    EXPECT_DOUBLE_EQ(matrix().ratioOf({2, 1}),
+                     *contrastRatio(rgbColor(2, 0, 253), rgbColor(1, 0, 254)));
+    const HostRect place = matrix().placeOf({2, 1});
+    const HostPoint at{place.midX(), place.midY()};
+    panel.deliver({{HostEventType::leftMouseDown, at, 0}, {HostEventType::leftMouseUp, at, 0}},
+                  view("scalesContrastMatrix"));
+    EXPECT_EQ(panelCode(), u"#0200fd");
+    control<HostButton>("scalesContrastView2").sendAction();
+    EXPECT_TRUE(control<HostPopUpButton>("scalesContrastList").isParked());
+    EXPECT_TRUE(said().starts_with(u"Text 200, ")) << utf8FromUtf16(said());
+}
+
+TEST_F(ListedContrastTest, AsManyColoursAreShownAsHaveRoom)
+{
+    keepList(u"Long", 90);
+    showLists();
+    chooseList(u"Long");
+    const std::size_t shown = matrix().capacity();
+    EXPECT_GE(shown, 7U);
+    EXPECT_LT(shown, 15U);
+    EXPECT_EQ(count(), decimalText(shown) + u" / 90");
+    const HostRect last = matrix().placeOf({shown - 1, shown - 1});
+    EXPECT_GE(last.width, 18);
+    EXPECT_GE(last.height, 14);
+}
+
+TEST_F(ListedContrastTest, AHundredColoursAreEnough)
+{
+    keepList(u"Endless", 250);
+    showLists();
+    chooseList(u"Endless");
+    EXPECT_TRUE(count().ends_with(u" / 100+")) << utf8FromUtf16(count());
+}
+
+TEST_F(ListedContrastTest, AColourThatChangesInTheListIsShown)
+{
+    keepList(u"Brand", 3);
+    showLists();
+    chooseList(u"Brand");
+    keepList(u"Brand", 5);
+    picker->pageDidAppear();
+    EXPECT_EQ(count(), u"5");
+}
+
+TEST_F(ListedContrastTest, ThePageRemembersTheList)
+{
+    keepList(u"Brand", 3);
+    keepList(u"Ground", 2);
+    showLists();
+    chooseList(u"Ground");
+    start();
+    picker->performAction("contrast", nullptr);
+    showLists();
+    EXPECT_EQ(chosen(), u"Ground");
+    EXPECT_EQ(count(), u"2");
+}
+
+TEST_F(ListedContrastTest, TheTipOfAHeadingIsTheColoursName)
+{
+    keepList(u"Brand", 3);
+    showLists();
+    chooseList(u"Brand");
+    const HostRect first = matrix().placeOf({1, 0});
+    matrix().mouseMoved({HostEventType::mouseMoved, {first.midX(), first.maxY() + 10}, 0});
+    EXPECT_EQ(matrix().view().toolTip(), u"Brand 1");
 }
 
 TEST_F(ContrastSectionTest, RatiosAreRoundedDown)
