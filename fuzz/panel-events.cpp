@@ -47,6 +47,7 @@ const std::vector<LoadedPlugin>& plugins()
 
 }  // namespace
 
+// NOLINTNEXTLINE(readability-non-const-parameter)
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     const auto setFolder = [](const char* variable, const char* name) {

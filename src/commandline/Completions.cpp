@@ -136,7 +136,7 @@ std::string bashScript(const CommandRow& program)
             if (option->value.empty()) continue;
             for (const std::string& name : names) {
                 valueCases += "        ";
-                valueCases += shellQuoted(path + " " + name);
+                valueCases += shellQuoted(std::string(path).append(" ").append(name));
                 valueCases += ") ";
                 valueCases += bashValues(option->value, option->choices, option->valuesFrom);
                 valueCases += "return ;;\n";

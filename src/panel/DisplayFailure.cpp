@@ -97,7 +97,7 @@ void DisplayFailure::exit(const QString& reason) const
                              "--screenshot FILE works without one")
                              .arg(describe("WAYLAND_DISPLAY"), describe("DISPLAY"));
     }
-    std::fprintf(stderr, "vantorel-panel: %s\n", sentence.toUtf8().constData());
+    static_cast<void>(std::fprintf(stderr, "vantorel-panel: %s\n", sentence.toUtf8().constData()));
     // Qt is still constructing the application, so none of it may be destroyed.
     std::_Exit(_exitStatus);
 }

@@ -41,7 +41,7 @@ QString takeSessionIdentifier(QStringList& arguments)
 {
     const qsizetype place = arguments.size() - 2;
     if (place < 1 || arguments[place] != sessionOption) return {};
-    const QString identifier = arguments.takeLast();
+    QString identifier = arguments.takeLast();
     arguments.removeLast();
     return identifier;
 }

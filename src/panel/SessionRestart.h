@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its destructor is private.
 class QSessionManager;
 
 namespace vantorel {

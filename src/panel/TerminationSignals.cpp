@@ -54,7 +54,7 @@ TerminationSignals::~TerminationSignals()
     pipeOfHandler = -1;
     ::close(_readEnd);
     ::close(_writeEnd);
-    if (_signal != 0) ::raise(_signal);
+    if (_signal != 0) static_cast<void>(::raise(_signal));
 }
 
 void TerminationSignals::takeSignal()

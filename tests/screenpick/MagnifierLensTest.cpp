@@ -149,7 +149,7 @@ TEST(MagnifierLens, theLabelHasRoomForTheSizeOfTheAverage)
     const QImage with = viewOf(MagnifierLens(), average, 1).image;
     // In the middle of the label's height, at its left end, which has moved.
     const int y = 200 + 88 + 8 + 14;
-    const auto firstOfLabel = [y](const QImage& image) {
+    const auto firstOfLabel = [](const QImage& image) {
         int x = 0;
         while (image.pixelColor(x, y) == QColor(Qt::red))
             ++x;

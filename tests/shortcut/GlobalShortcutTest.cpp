@@ -50,6 +50,7 @@ protected:
     void use(const std::vector<Behaviour>& behaviours)
     {
         std::vector<GlobalShortcut::MakeMethod> methods;
+        methods.reserve(behaviours.size());
         for (const Behaviour behaviour : behaviours) {
             methods.emplace_back([this, behaviour]() -> std::unique_ptr<ShortcutMethod> {
                 return std::make_unique<TrialMethod>(behaviour, _inUse);

@@ -66,7 +66,7 @@ RunningPanel::Reply RunningPanel::call(const QString& member, const QVariantList
 /// The colour is copied by a call of its own, so that it can be printed before.
 RunningPanel::Reply RunningPanel::pick(const PanelOrder& order, const PanelOrder::Say& say) const
 {
-    const Reply picked = call(QStringLiteral("Pick"), {false}, withoutLimit);
+    Reply picked = call(QStringLiteral("Pick"), {false}, withoutLimit);
     if (picked.contact != Contact::made || !picked.answer) return picked;
     say(*picked.answer);
     if (order.step == PanelOrder::Step::pick) return picked;

@@ -31,7 +31,7 @@ QString shortFormName(const HostColorText& form)
 
 QString shortFormNameOfText(const QString& text)
 {
-    const QString name = text.section(u'(', 0, 0).trimmed().toUpper();
+    QString name = text.section(u'(', 0, 0).trimmed().toUpper();
     if (isHexCode(text)) return QStringLiteral("HEX");
     if (name == QLatin1String("RGBA")) return QStringLiteral("RGB");
     for (const char* known : {"RGB", "HSL", "OKLCH"})
