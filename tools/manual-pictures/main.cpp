@@ -289,12 +289,23 @@ const std::vector<Picture>& states()
              child<QAbstractButton>(window, "scalesContrastView2").click();
              return wholeWindow(window);
          }},
+        {"scales-list", "#3b82f6", cssList,
+         [](PanelWindow& window) {
+             window.pages().showPageWithKey(QStringLiteral("scales"));
+             window.resizeToPage({296, 292});
+             window.pages().currentPicker()->performAction("contrast", nullptr);
+             child<QAbstractButton>(window, "scalesContrastView3").click();
+             return wholeWindow(window);
+         }},
     };
     return all;
 }
 
 /// A list of the user's own, so that there is one to add.
-constexpr const char* ownList = "GIMP Palette\nName: Garden\n 76 153   0\tleaf\n";
+constexpr const char* ownList =
+    "GIMP Palette\nName: Garden\n 76 153   0\tleaf\n 30  61  18\tivy\n221 236 201\tdew\n"
+    "255 250 235\tlily\n246 196  39\tbroom\n199  44  65\trose\n 92  45 110\tiris\n"
+    " 87  62  42\tsoil\n139 165 190\train\n";
 
 bool writeFile(const QString& path, const char* text)
 {
@@ -309,6 +320,7 @@ bool makePicture(const Picture& picture, const QString& home, const QString& fol
 {
     if (!writeFile(home + "/Vantorel/Settings.plist", picture.settings)) return false;
     if (!writeFile(home + "/Vantorel/Palettes/Garden.gpl", ownList)) return false;
+    if (!writeFile(home + "/Vantorel/Scales.plist", "{ContrastList = Garden;}")) return false;
     QtDesktop desktop;
     const PluginSearch search = loadPlugins({VANTOREL_PICKERS}, {});
     std::vector<Message> problems;
