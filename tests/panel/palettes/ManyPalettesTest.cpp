@@ -10,6 +10,7 @@ class ManyPalettesTest : public PalettesPageTest {
 protected:
     void SetUp() override
     {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): the lists come before the page.
         PanelWindowFixture::SetUp();
         // Only now, because the page that the window opens with may look for a list in all files.
         for (std::size_t i = 0; i < 3 * PaletteRefresh::filesOfStep; ++i) {

@@ -25,7 +25,7 @@ protected:
     {
         for (std::size_t i = 0; i < count; ++i) {
             const std::string number = std::to_string(1000 + i);
-            _files.writeAtomically(ownFolder + "/" + number + ".gpl",
+            _files.writeAtomically(std::string(ownFolder).append("/").append(number).append(".gpl"),
                                    "GIMP Palette\nName: List " + number + "\n1 2 3\ta\n");
         }
         static_cast<void>(_files.takeCalls());
