@@ -13,11 +13,7 @@ std::u16string mappedText(std::string_view form, const CSSColor& color)
     if (form == "hex") return hexText(color.color).value_or(u"");
     if (form == "rgb") return rgbText(color.color).value_or(u"");
     if (form == "hsl") return hslText(color.color).value_or(u"");
-    const auto srgb = color.color.calibratedRGB().value_or(HostColor::Components{});
-    CSSColorValue value;
-    value.components = {srgb.red, srgb.green, srgb.blue};
-    value.alpha = srgb.alpha;
-    return cssTextIn(ColorSpace::hwb, value);
+    return cssTextIn(ColorSpace::hwb, cssValueOf(color.color));
 }
 
 std::optional<ColorSpace> wideSpaceOf(std::string_view form)

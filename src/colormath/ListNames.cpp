@@ -6,18 +6,10 @@
 namespace vantorel {
 namespace {
 
-CSSColorValue opaqueValueOf(const HostColor& color)
-{
-    CSSColorValue value;
-    if (const auto rgb = color.calibratedRGB())
-        value.components = {rgb->red, rgb->green, rgb->blue};
-    return value;
-}
-
 bool areSameBytes(const HostColor& first, const HostColor& second)
 {
-    const auto left = opaqueValueOf(first).components;
-    const auto right = opaqueValueOf(second).components;
+    const auto left = cssValueOf(first).components;
+    const auto right = cssValueOf(second).components;
     for (std::size_t i = 0; i < left.size(); ++i) {
         if (nearestByte(left[i]) != nearestByte(right[i])) return false;
     }
@@ -34,7 +26,7 @@ ListNames::ListNames(std::shared_ptr<const HostColorList> list)
         const HostColor& color = _list->colorAtIndex(i);
         if (color.isPattern()) continue;
         _places.push_back(i);
-        colors.push_back(opaqueValueOf(color));
+        colors.push_back(cssValueOf(color));
     }
     if (!colors.empty()) _colors.emplace(colors);
 }
@@ -42,7 +34,7 @@ ListNames::ListNames(std::shared_ptr<const HostColorList> list)
 std::optional<ListNames::Name> ListNames::nearest(const HostColor& color) const
 {
     if (!_colors || color.isPattern()) return std::nullopt;
-    const std::size_t place = _places[_colors->placeFor(opaqueValueOf(color))];
+    const std::size_t place = _places[_colors->placeFor(cssValueOf(color))];
     const HostColor& found = _list->colorAtIndex(place);
     return Name{_list->allKeys()[place], found, areSameBytes(color, found)};
 }

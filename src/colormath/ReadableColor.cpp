@@ -8,12 +8,9 @@
 namespace vantorel {
 namespace {
 
-CSSColorValue oklchOf(const HostColor::Components& rgb)
+CSSColorValue oklchOf(const HostColor& color)
 {
-    CSSColorValue value;
-    value.components = {rgb.red, rgb.green, rgb.blue};
-    value.alpha = rgb.alpha;
-    value = converted(value, ColorSpace::oklch);
+    CSSColorValue value = converted(cssValueOf(color), ColorSpace::oklch);
     value.isMissing = {};
     return value;
 }
@@ -32,10 +29,9 @@ HostColor withLightness(CSSColorValue oklch, double lightness)
 std::optional<HostColor> nearestReadableColor(const HostColor& color, double least,
                                               const ContrastOf& contrastOf)
 {
-    const auto rgb = color.calibratedRGB();
-    if (!rgb) return std::nullopt;
+    if (color.isPattern()) return std::nullopt;
     if (contrastOf(color) >= least) return color;
-    const CSSColorValue oklch = oklchOf(*rgb);
+    const CSSColorValue oklch = oklchOf(color);
     const auto isEnough = [&](double lightness) {
         return contrastOf(withLightness(oklch, lightness)) >= least;
     };

@@ -31,19 +31,11 @@ HostColor colorOfValue(std::uint32_t value)
     return HostColor::colorWithCalibratedRed(fraction(16), fraction(8), fraction(0), 1);
 }
 
-CSSColorValue valueOf(const HostColor& color)
-{
-    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    CSSColorValue value;
-    value.components = {rgb.red, rgb.green, rgb.blue};
-    return value;
-}
-
 /// Whether a colour is nearer to `place` than another one.
 bool isNearer(const HostColor& color, const HostColor& other, const HostColor& place)
 {
-    const std::array both{valueOf(other), valueOf(color)};
-    return NearestColor(both).placeFor(valueOf(place)) == 1;
+    const std::array both{cssValueOf(other), cssValueOf(color)};
+    return NearestColor(both).placeFor(cssValueOf(place)) == 1;
 }
 
 /// Whether the bytes of a file contain a name in any letter case, so that its list is worth

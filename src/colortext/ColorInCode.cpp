@@ -121,10 +121,7 @@ CSSColor cssColorOf(const HostColor& color)
 {
     CSSColor result;
     result.color = color;
-    if (const auto rgb = color.calibratedRGB()) {
-        result.value.components = {rgb->red, rgb->green, rgb->blue};
-        result.value.alpha = rgb->alpha;
-    }
+    result.value = cssValueOf(color);
     return result;
 }
 

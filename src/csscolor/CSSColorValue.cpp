@@ -74,6 +74,15 @@ std::array<bool, 3> missingAfterConversion(const CSSColorValue& color, ColorSpac
 
 }  // namespace
 
+CSSColorValue cssValueOf(const HostColor& color)
+{
+    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
+    CSSColorValue value;
+    value.components = {rgb.red, rgb.green, rgb.blue};
+    value.alpha = rgb.alpha;
+    return value;
+}
+
 CSSColorValue converted(const CSSColorValue& color, ColorSpace space)
 {
     if (color.space == space) return color;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "csscolor/ColorSpaces.h"
+#include "host/HostColor.h"
 
 #include <array>
 #include <optional>
@@ -19,6 +20,10 @@ struct CSSColorValue {
     std::array<bool, 3> isMissing{};
     bool isAlphaMissing = false;
 };
+
+/// Returns a colour in the space sRGB, with channels outside 0..1 if it is outside sRGB. A pattern
+/// is black.
+[[nodiscard]] CSSColorValue cssValueOf(const HostColor& color);
 
 /// Converts a colour to another space for computing with it (CSS Color 4, section 12). A component
 /// that was missing stays missing if the space has an analogous one. The hue of a grey becomes

@@ -39,15 +39,6 @@ HostColor::Components componentsOf(const HostColor& color)
     return color.calibratedRGB().value_or(HostColor::Components{});
 }
 
-CSSColorValue valueOf(const HostColor& color)
-{
-    const auto rgb = componentsOf(color);
-    CSSColorValue value;
-    value.components = {rgb.red, rgb.green, rgb.blue};
-    value.alpha = rgb.alpha;
-    return value;
-}
-
 /// Returns "rgb(255 128 0 / 0.5)", without commas.
 std::string spacedRgb(const HostColor& color)
 {
@@ -76,7 +67,7 @@ std::string rowText(const FormRow& row, const HostColor& color, const CSSColorVa
         case CSSColorForm::hsl:
             return utf8FromUtf16(hslText(color).value_or(u""));
         case CSSColorForm::hwb:
-            return utf8FromUtf16(cssTextIn(row.space, valueOf(color)));
+            return utf8FromUtf16(cssTextIn(row.space, cssValueOf(color)));
         default:
             return utf8FromUtf16(cssTextIn(row.space, value));
     }
@@ -155,7 +146,7 @@ std::string WrittenColors::textInForm(CSSColorForm form, const HostColor& color)
     }
     const auto* const row = std::ranges::find(formRows, form, &FormRow::form);
     if (row == formRows.end() || form == CSSColorForm::hex) return hex(color, needsPoundSign());
-    return rowText(*row, color, valueOf(color));
+    return rowText(*row, color, cssValueOf(color));
 }
 
 /// Returns a text in the form of a text of CSS, with commas and short codes as there.
@@ -170,7 +161,7 @@ std::string WrittenColors::formLike(std::string_view written, CSSColorForm form,
     if (form == CSSColorForm::color) {
         const auto reading = readCSSColor(written);
         const ColorSpace space = reading ? reading->value.space : ColorSpace::displayP3;
-        return utf8FromUtf16(cssTextIn(space, valueOf(color)));
+        return utf8FromUtf16(cssTextIn(space, cssValueOf(color)));
     }
     const bool hasCommas = written.find(',') != std::string_view::npos;
     if (form == CSSColorForm::rgb && !hasCommas) return spacedRgb(color);
@@ -209,7 +200,7 @@ CSSColorValue WrittenColors::wideValue(const HostColor& color,
         if (const auto reading = readCSSColor(written->range.in(_document.text())))
             return reading->value;
     }
-    return valueOf(color);
+    return cssValueOf(color);
 }
 
 std::vector<WrittenColors::Text> WrittenColors::formsOf(const HostColor& color,

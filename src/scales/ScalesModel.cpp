@@ -30,15 +30,6 @@ std::optional<HostColor> usable(const std::optional<HostColor>& color)
     return color->colorWithAlphaComponent(std::clamp(rgb->alpha, 0.0, 1.0));
 }
 
-CSSColorValue valueOf(const HostColor& color)
-{
-    const auto rgb = color.calibratedRGB().value_or(HostColor::Components{});
-    CSSColorValue value;
-    value.components = {rgb.red, rgb.green, rgb.blue};
-    value.alpha = rgb.alpha;
-    return value;
-}
-
 HostColor shownColor(const CSSColorValue& value)
 {
     const auto [red, green, blue] = mappedIntoSRGB(value).components;
@@ -89,7 +80,7 @@ std::string ScalesModel::name() const
 
 Swatches ScalesModel::scale() const
 {
-    const ColorScale scale = colorScale(valueOf(_color));
+    const ColorScale scale = colorScale(cssValueOf(_color));
     Swatches swatches;
     for (std::size_t i = 0; i < scale.colors.size(); ++i) {
         const bool isOwn = i == scale.ownPlace;
@@ -101,22 +92,22 @@ Swatches ScalesModel::scale() const
 
 Swatches ScalesModel::tints() const
 {
-    return seriesOf(_color, tintsOf(valueOf(_color), colorsOfSeries));
+    return seriesOf(_color, tintsOf(cssValueOf(_color), colorsOfSeries));
 }
 
 Swatches ScalesModel::shades() const
 {
-    return seriesOf(_color, shadesOf(valueOf(_color), colorsOfSeries));
+    return seriesOf(_color, shadesOf(cssValueOf(_color), colorsOfSeries));
 }
 
 Swatches ScalesModel::tones() const
 {
-    return seriesOf(_color, tonesOf(valueOf(_color), colorsOfSeries));
+    return seriesOf(_color, tonesOf(cssValueOf(_color), colorsOfSeries));
 }
 
 Swatches ScalesModel::scheme(Scheme scheme) const
 {
-    const ColorScheme found = schemeOf(scheme, valueOf(_color));
+    const ColorScheme found = schemeOf(scheme, cssValueOf(_color));
     Swatches swatches;
     for (std::size_t i = 0; i < found.colors.size(); ++i) {
         const bool isOwn = i == found.ownPlace;
@@ -129,14 +120,14 @@ Swatches ScalesModel::seenScale(ColorVision vision) const
 {
     Swatches swatches = scale();
     for (Swatch& swatch : swatches)
-        swatch.color = shownColor(seenWith(vision, valueOf(swatch.color)));
+        swatch.color = shownColor(seenWith(vision, cssValueOf(swatch.color)));
     return swatches;
 }
 
 HostColor ScalesModel::end() const
 {
     if (_end) return *_end;
-    return shownColor(schemeOf(Scheme::complement, valueOf(_color)).colors.back());
+    return shownColor(schemeOf(Scheme::complement, cssValueOf(_color)).colors.back());
 }
 
 void ScalesModel::setEnd(const std::optional<HostColor>& color)
@@ -162,7 +153,7 @@ Swatches ScalesModel::gradient() const
 {
     const GradientSpace& space = gradientSpaces()[_space];
     const HostColor last = end();
-    const std::array stops{valueOf(_color), valueOf(last)};
+    const std::array stops{cssValueOf(_color), cssValueOf(last)};
     Swatches swatches;
     for (int i = 0; i < _steps; ++i) {
         const double position = static_cast<double>(i) / (_steps - 1);
