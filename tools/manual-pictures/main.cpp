@@ -256,6 +256,16 @@ const std::vector<Picture>& pictures()
     return all;
 }
 
+/// The page Scales with the view of contrasts that a button shows.
+QImage contrasts(PanelWindow& window, const char* button)
+{
+    window.pages().showPageWithKey(QStringLiteral("scales"));
+    window.resizeToPage({296, 292});
+    window.pages().currentPicker()->performAction("contrast", nullptr);
+    child<QAbstractButton>(window, button).click();
+    return wholeWindow(window);
+}
+
 const std::vector<Picture>& states()
 {
     static const std::vector<Picture> all{
@@ -282,21 +292,9 @@ const std::vector<Picture>& states()
              return preferences(window, 1, {656, 476});
          }},
         {"scales-matrix", "#3b82f6", cssList,
-         [](PanelWindow& window) {
-             window.pages().showPageWithKey(QStringLiteral("scales"));
-             window.resizeToPage({296, 292});
-             window.pages().currentPicker()->performAction("contrast", nullptr);
-             child<QAbstractButton>(window, "scalesContrastView2").click();
-             return wholeWindow(window);
-         }},
+         [](PanelWindow& window) { return contrasts(window, "scalesContrastView2"); }},
         {"scales-list", "#3b82f6", cssList,
-         [](PanelWindow& window) {
-             window.pages().showPageWithKey(QStringLiteral("scales"));
-             window.resizeToPage({296, 292});
-             window.pages().currentPicker()->performAction("contrast", nullptr);
-             child<QAbstractButton>(window, "scalesContrastView3").click();
-             return wholeWindow(window);
-         }},
+         [](PanelWindow& window) { return contrasts(window, "scalesContrastView3"); }},
     };
     return all;
 }
