@@ -89,7 +89,7 @@ Swatches ContrastList::colors() const
     for (std::size_t i = 0; i < list->allKeys().size() && swatches.size() < mostColors; ++i) {
         const HostColor& color = list->colorAtIndex(i);
         if (color.isPattern()) continue;
-        swatches.push_back({color.colorWithAlphaComponent(1), list->allKeys()[i]});
+        swatches.push_back({color, list->allKeys()[i]});
     }
     return swatches;
 }

@@ -26,8 +26,10 @@ public:
     /// Looks which lists are installed. Until the user chooses one, or when it has gone, the first
     /// one is shown.
     void readLists();
-    /// Returns the opaque colours of the list with their names, as it is now. Patterns and keys
-    /// without a colour are left out, and what follows after the first hundred.
+    /// Whether no list was found.
+    [[nodiscard]] bool isEmpty() const { return _names.empty(); }
+    /// Returns the colours of the list with their names, as it is now. Patterns and keys without a
+    /// colour are left out, and what follows after the first hundred.
     [[nodiscard]] Swatches colors() const;
     /// Says how many of the colours are shown.
     void showCount(std::size_t shown, std::size_t all);

@@ -32,9 +32,7 @@ public:
 
     [[nodiscard]] HostCustomView& view() const { return *_view; }
     void show(Swatches swatches);
-    /// The least height of the view, in points.
-    [[nodiscard]] double leastHeight() const { return leastHeight(_swatches.size()); }
-    /// The least height for a number of colours.
+    /// The least height of the view for a number of colours, in points.
     [[nodiscard]] static double leastHeight(std::size_t count);
     /// Returns how many colours have room in the view.
     [[nodiscard]] std::size_t capacity() const;

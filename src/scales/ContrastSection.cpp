@@ -64,10 +64,10 @@ public:
             case Shown::color:
                 break;
             case Shown::scale:
-                return headingHeight + gap + _matrix.leastHeight();
+                return headingHeight + gap + ContrastMatrix::leastHeight(_compared.size());
             case Shown::list:
                 return headingHeight + gap + ContrastList::height + gap +
-                       ContrastMatrix::leastHeight(std::min(_listed.size(), mostInLeastHeight));
+                       ContrastMatrix::leastHeight(std::min(_compared.size(), mostInLeastHeight));
         }
         return ScalesSection::leastHeight(width);
     }
@@ -87,15 +87,13 @@ public:
         _views->show(static_cast<std::size_t>(_shown));
         if (!showsMatrix) return;
         double top = place.height - headingHeight - gap;
-        std::size_t count = page().model().scale().size();
         if (_shown == Shown::list) {
             top -= ContrastList::height;
             _list.layOut({left, top, place.width, ContrastList::height});
             top -= gap;
-            count = _listed.size();
         }
-        const double height =
-            std::min(top, ContrastMatrix::leastHeight(count) * mostHeight / onGroundHeight);
+        const double height = std::min(
+            top, ContrastMatrix::leastHeight(_compared.size()) * mostHeight / onGroundHeight);
         _matrix.view().setFrame({left - ContrastMatrix::margin, top - height,
                                  place.width + 2 * ContrastMatrix::margin, height});
         showMatrix();
@@ -113,9 +111,10 @@ public:
         lines.push_back({desktop().localizedString(u"Black"), own, HostColor::blackColor()});
         _lines.show(std::move(lines));
         _nearest.show(nearestColors());
-        _listed = _shown == Shown::list ? _list.colors() : Swatches();
-        showMatrix();
         Swatches scale = page().model().scale();
+        if (_shown == Shown::list && _list.isEmpty()) _list.readLists();
+        _compared = _shown == Shown::list ? _list.colors() : scale;
+        showMatrix();
         for (Swatch& swatch : scale)
             swatch.label = shortVerdict(contrastWithOther(swatch.color));
         _scale.show(std::move(scale));
@@ -150,16 +149,15 @@ private:
         return views;
     }
 
+    /// Shows the whole scale, or as many colours of a list as have room.
     void showMatrix()
     {
-        if (_shown != Shown::list) {
-            _matrix.show(page().model().scale());
-            return;
+        Swatches shown = _compared;
+        if (_shown == Shown::list) {
+            shown.resize(std::min(shown.size(), _matrix.capacity()));
+            _list.showCount(shown.size(), _compared.size());
         }
-        const auto shown = std::min(_listed.size(), _matrix.capacity());
-        _matrix.show(
-            Swatches(_listed.begin(), _listed.begin() + static_cast<std::ptrdiff_t>(shown)));
-        _list.showCount(shown, _listed.size());
+        _matrix.show(std::move(shown));
     }
 
     /// The panel's two colours as they are shown.
@@ -205,8 +203,8 @@ private:
     /// In the order of the segments.
     enum class Shown { color, scale, list };
     Shown _shown = Shown::color;
-    /// The colours of the chosen list while they are shown.
-    Swatches _listed;
+    /// The scale, or the colours of the chosen list while they are shown.
+    Swatches _compared;
     ContrastLines _lines;
     ContrastMatrix _matrix;
     std::unique_ptr<Segments> _views;

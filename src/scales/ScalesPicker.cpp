@@ -168,8 +168,8 @@ std::u16string ScalesPicker::hexCode(const HostColor& color)
 
 void ScalesPicker::pageDidAppear()
 {
-    // The user may have chosen another form of codes on the Hex page.
-    if (_page) showSections();
+    // The user may have chosen another form of codes on the Hex page, or changed a list.
+    if (_page) layOut();
     if (_acceptedMouseMoved) return;
     _acceptedMouseMoved = colorPanel().acceptsMouseMovedEvents();
     // For the tool tips of the colours.

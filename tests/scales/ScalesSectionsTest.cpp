@@ -332,9 +332,21 @@ TEST_F(ListedContrastTest, AColourThatChangesInTheListIsShown)
     keepList(u"Brand", 3);
     showLists();
     chooseList(u"Brand");
-    keepList(u"Brand", 5);
+    keepList(u"Brand", 7);
     picker->pageDidAppear();
-    EXPECT_EQ(count(), u"5");
+    EXPECT_EQ(count(), u"7") << "the table has grown";
+}
+
+TEST_F(ListedContrastTest, TheFirstListIsShownWhenItIsMade)
+{
+    showLists();
+    EXPECT_TRUE(count().starts_with(u"No colour lists")) << utf8FromUtf16(count());
+    EXPECT_TRUE(control<HostPopUpButton>("scalesContrastList").isParked());
+    keepList(u"Brand", 3);
+    picker->pageDidAppear();
+    EXPECT_EQ(count(), u"3");
+    EXPECT_EQ(chosen(), u"Brand");
+    EXPECT_FALSE(control<HostPopUpButton>("scalesContrastList").isParked());
 }
 
 TEST_F(ListedContrastTest, ThePageRemembersTheList)
