@@ -3,6 +3,7 @@
 #include "csscolor/Contrast.h"
 #include "csscolor/GamutMapping.h"
 #include "host/HostInterfaceFactory.h"
+#include "pageparts/FittingText.h"
 #include "pageparts/PixelPainting.h"
 #include "scales/ContrastLines.h"
 
@@ -151,11 +152,15 @@ void ContrastMatrix::drawHeading(HostCanvas& canvas, const Swatch& swatch, HostR
     const HostColor black = HostColor::blackColor();
     const bool whiteIsBetter = contrastRatio(white, swatch.color).value_or(1) >
                                contrastRatio(black, swatch.color).value_or(1);
-    const HostText label{.string = swatch.label,
-                         .pointSize = place.width < narrowCell ? narrowCellText : cellText,
-                         .color = whiteIsBetter ? white : black,
-                         .isBold = swatch.isOwn};
-    const HostSize size = _panel.desktop().sizeOfText(label);
+    HostText label{.string = swatch.label,
+                   .pointSize = place.width < narrowCell ? narrowCellText : cellText,
+                   .color = whiteIsBetter ? white : black,
+                   .isBold = swatch.isOwn};
+    HostSize size = _panel.desktop().sizeOfText(label);
+    if (label.isBold && size.width > place.width) {
+        label.isBold = false;
+        size = _panel.desktop().sizeOfText(label);
+    }
     // The name of a listed colour is often too long; the tip says it.
     if (size.width > place.width) return;
     canvas.drawText(label, {place.midX() - size.width / 2, place.midY() - size.height / 2});
@@ -181,11 +186,12 @@ void ContrastMatrix::drawCell(HostCanvas& canvas, Cell cell) const
 void ContrastMatrix::drawRect(HostCanvas& canvas)
 {
     if (_swatches.empty()) return;
-    HostText caption{
+    const HostText text{
         .string = _panel.desktop().localizedString(u"Texts in columns, backgrounds in rows"),
         .pointSize = captionText,
         .color = canvas.themeColor(HostThemeColor::secondaryText)};
     const HostRect bounds = _view->bounds();
+    const HostText caption = fittingText(_panel.desktop(), text, bounds.width - 2 * margin);
     const HostSize size = _panel.desktop().sizeOfText(caption);
     canvas.drawText(caption, {margin, bounds.maxY() - margin - captionRoom / 2 - size.height / 2});
     for (std::size_t i = 0; i < _swatches.size(); ++i) {

@@ -3,6 +3,7 @@
 #include "csscolor/CSSColorWriter.h"
 #include "csscolor/GamutMapping.h"
 #include "host/HostInterfaceFactory.h"
+#include "pageparts/FittingText.h"
 #include "pageparts/PixelPainting.h"
 #include "view/DragImages.h"
 
@@ -199,10 +200,12 @@ void SwatchStrip::drawEmptyText(HostCanvas& canvas) const
 void SwatchStrip::drawLabel(HostCanvas& canvas, const Swatch& swatch, HostRect place) const
 {
     const auto kind = swatch.isOwn ? HostThemeColor::text : HostThemeColor::secondaryText;
-    const HostText label{.string = swatch.label,
-                         .pointSize = place.width < narrow ? narrowLabelText : labelText,
-                         .color = canvas.themeColor(kind),
-                         .isBold = swatch.isOwn};
+    const HostText text{.string = swatch.label,
+                        .pointSize = place.width < narrow ? narrowLabelText : labelText,
+                        .color = canvas.themeColor(kind),
+                        .isBold = swatch.isOwn};
+    // Labels of narrow colours must not run into each other.
+    const HostText label = fittingText(_panel.desktop(), text, place.width - 2);
     const HostSize size = _panel.desktop().sizeOfText(label);
     canvas.drawText(label, {place.midX() - size.width / 2,
                             place.y - labelHeight + (labelHeight - size.height) / 2});
