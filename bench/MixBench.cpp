@@ -55,7 +55,7 @@ public:
     /// Drags to a place of a view, in fractions.
     void drag(const char* name, double x, double y)
     {
-        HeadlessCustomView& view = viewNamed(name);
+        const HeadlessCustomView& view = viewNamed(name);
         view.content().mouseDragged({HostEventType::leftMouseDragged,
                                      {view.bounds().width * x, view.bounds().height * y},
                                      0});

@@ -51,9 +51,10 @@ double deltaE2000(const ColorTriple& first, const ColorTriple& second)
     double meanHue = h1 + h2;
     if (c1 * c2 != 0) {
         deltaHue = h2 - h1;
-        const bool crossesZero = std::fabs(deltaHue) > 180;
-        if (crossesZero) deltaHue += deltaHue > 0 ? -360 : 360;
-        if (crossesZero) meanHue += meanHue < 360 ? 360 : -360;
+        if (std::fabs(deltaHue) > 180) {
+            deltaHue += deltaHue > 0 ? -360 : 360;
+            meanHue += meanHue < 360 ? 360 : -360;
+        }
         meanHue /= 2;
     }
     const double deltaL = second[0] - first[0];

@@ -2,6 +2,7 @@
 
 #include "csscolor/Contrast.h"
 #include "host/HostInterfaceFactory.h"
+#include "pageparts/FittingText.h"
 #include "pageparts/PixelPainting.h"
 #include "scales/ScalesSection.h"
 #include "text/ASCII.h"
@@ -113,12 +114,15 @@ void ContrastLines::drawRect(HostCanvas& canvas)
         draw(letters, place.midX() - desktop.sizeOfText(letters).width / 2);
 
         const double ratio = contrastOf(line);
-        draw(textOf(line.title, HostThemeColor::text, false), place.maxX() + besideSample);
         const double verdictX = bounds.maxX() - widestVerdict;
         draw(textOf(verdictText(desktop, ratio), HostThemeColor::text, true), verdictX);
         const HostText number =
             textOf(ratioText(desktop, ratio), HostThemeColor::secondaryText, false);
-        draw(number, verdictX - besideRatio - desktop.sizeOfText(number).width);
+        const double numberX = verdictX - besideRatio - desktop.sizeOfText(number).width;
+        draw(number, numberX);
+        const double titleX = place.maxX() + besideSample;
+        const HostText title = textOf(line.title, HostThemeColor::text, false);
+        draw(fittingText(desktop, title, numberX - besideRatio - titleX), titleX);
         middle -= lineHeight;
     }
 }

@@ -197,8 +197,8 @@ void ContrastMatrix::drawRect(HostCanvas& canvas)
     for (std::size_t i = 0; i < _swatches.size(); ++i) {
         drawHeading(canvas, _swatches[i], placeInGrid(i + 1, 0));
         drawHeading(canvas, _swatches[i], placeInGrid(0, i + 1));
-        for (std::size_t text = 0; text < _swatches.size(); ++text)
-            drawCell(canvas, {text, i});
+        for (std::size_t column = 0; column < _swatches.size(); ++column)
+            drawCell(canvas, {column, i});
     }
 }
 

@@ -19,5 +19,15 @@ TEST(FittingTextTest, AWideTextBecomesSmaller)
     EXPECT_EQ(fittingText(desktop, text, 1).pointSize, 7) << "still readable";
 }
 
+TEST(FittingTextTest, ARoundedFontSizeFitsToo)
+{
+    HeadlessDesktop desktop{{.hasWholeFontSizes = true}};
+    const HostText text{.string = u"AAA", .pointSize = 10};
+    const double room = desktop.sizeOfText(text).width * 0.85;
+    const HostText smaller = fittingText(desktop, text, room);
+    EXPECT_LE(desktop.sizeOfText(smaller).width, room) << "not 8.5, which is painted as 9";
+    EXPECT_GT(smaller.pointSize, 7) << "and no smaller than that takes";
+}
+
 }  // namespace
 }  // namespace vantorel

@@ -10,7 +10,8 @@ bool completes(char16_t typed, char16_t named)
 {
     HostColorList list(u"Names");
     list.setColor(HostColor::blackColor(), std::u16string(1, named) + u"x");
-    return completeColorName(std::u16string(1, typed), 1, list, EntryForm::lowercase).text.has_value();
+    return completeColorName(std::u16string(1, typed), 1, list, EntryForm::lowercase)
+        .text.has_value();
 }
 
 TEST(NameCompletionCaseTest, TheCaseOfLettersIsIgnoredInThreeAlphabets)

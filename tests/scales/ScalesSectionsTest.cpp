@@ -140,6 +140,22 @@ TEST_F(ContrastSectionTest, TheTableSaysWhatPasses)
     EXPECT_TRUE(table().ends_with(u"fails"));
 }
 
+TEST_F(ContrastSectionTest, ALongTitleEndsBeforeTheRatio)
+{
+    ContrastLines lines(panel, "lines", u"Contrast");
+    lines.view().setFrame({0, 0, 210, 24});
+    lines.show({{.title = u"Hintergrund"}});
+    const RecordingCanvas canvas = view("lines").draw();
+    std::vector<TextOperation> texts;
+    for (const PaintOperation& operation : canvas.operations()) {
+        if (const auto* text = std::get_if<TextOperation>(&operation)) texts.push_back(*text);
+    }
+    ASSERT_EQ(texts.size(), 4U) << "sample, verdict, ratio and title";
+    const TextOperation& title = texts[3];
+    EXPECT_EQ(title.text.string, u"Hintergrund");
+    EXPECT_LT(title.at.x + desktop.sizeOfText(title.text).width, texts[2].at.x);
+}
+
 TEST_F(ContrastSectionTest, AClickMendsTheContrast)
 {
     panel.changeOtherColor(HostColor::whiteColor(), false);

@@ -21,6 +21,9 @@ namespace vantorel {
 class PanelParts {
 public:
     explicit PanelParts(QWidget& window);
+    PanelParts(const PanelParts&) = delete;
+    PanelParts& operator=(const PanelParts&) = delete;
+    ~PanelParts() = default;
 
     /// Lays the parts out in the window's present size, and gives the window its least size.
     void layOut();

@@ -3,6 +3,7 @@
 #include "testing/headless/JournalingFiles.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vantorel {
 namespace {
@@ -30,6 +31,7 @@ private:
 HeadlessDesktop::HeadlessDesktop(Options options)
     : _files(std::make_unique<JournalingFiles>(std::move(options.files), _journal)),
       _charWidth(options.charWidth),
+      _hasWholeFontSizes(options.hasWholeFontSizes),
       _localizedStrings(std::move(options.localizedStrings)),
       _colorLists(*_files, _journal)
 {
@@ -58,8 +60,9 @@ HostSize HeadlessDesktop::sizeOfText(const HostText& text)
         rest.remove_prefix(std::min(length + 1, rest.size()));
     } while (!rest.empty());
     const double charWidth = _charWidth * (text.isBold ? boldWidth : 1);
-    return {static_cast<double>(widest) * charWidth * text.pointSize,
-            static_cast<double>(lines) * lineHeight * text.pointSize};
+    const double pointSize = _hasWholeFontSizes ? std::ceil(text.pointSize) : text.pointSize;
+    return {static_cast<double>(widest) * charWidth * pointSize,
+            static_cast<double>(lines) * lineHeight * pointSize};
 }
 
 std::u16string HeadlessDesktop::localizedString(const std::u16string& key)

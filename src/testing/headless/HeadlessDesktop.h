@@ -20,6 +20,8 @@ public:
         std::unique_ptr<HostFiles> files;
         /// Width of a character as a multiple of the point size.
         double charWidth = 0.6;
+        /// The size of a font is rounded to whole points, upwards, as some hosts do.
+        bool hasWholeFontSizes = false;
         std::map<std::u16string, std::u16string> localizedStrings;
     };
 
@@ -57,6 +59,7 @@ private:
 
     std::unique_ptr<HostFiles> _files;
     double _charWidth;
+    bool _hasWholeFontSizes;
     std::map<std::u16string, std::u16string> _localizedStrings;
     HeadlessJournal _journal;
     HeadlessColorListStore _colorLists;
