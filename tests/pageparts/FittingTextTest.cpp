@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace vantorel {
 namespace {
 
@@ -21,7 +23,9 @@ TEST(FittingTextTest, AWideTextBecomesSmaller)
 
 TEST(FittingTextTest, ARoundedFontSizeFitsToo)
 {
-    HeadlessDesktop desktop{{.hasWholeFontSizes = true}};
+    HeadlessDesktop::Options options;
+    options.hasWholeFontSizes = true;
+    HeadlessDesktop desktop(std::move(options));
     const HostText text{.string = u"AAA", .pointSize = 10};
     const double room = desktop.sizeOfText(text).width * 0.85;
     const HostText smaller = fittingText(desktop, text, room);

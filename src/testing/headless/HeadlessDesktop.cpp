@@ -31,8 +31,8 @@ private:
 HeadlessDesktop::HeadlessDesktop(Options options)
     : _files(std::make_unique<JournalingFiles>(std::move(options.files), _journal)),
       _charWidth(options.charWidth),
-      _hasWholeFontSizes(options.hasWholeFontSizes),
       _localizedStrings(std::move(options.localizedStrings)),
+      _hasWholeFontSizes(options.hasWholeFontSizes),
       _colorLists(*_files, _journal)
 {
 }

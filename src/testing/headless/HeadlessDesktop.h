@@ -20,9 +20,9 @@ public:
         std::unique_ptr<HostFiles> files;
         /// Width of a character as a multiple of the point size.
         double charWidth = 0.6;
+        std::map<std::u16string, std::u16string> localizedStrings;
         /// The size of a font is rounded to whole points, upwards, as some hosts do.
         bool hasWholeFontSizes = false;
-        std::map<std::u16string, std::u16string> localizedStrings;
     };
 
     explicit HeadlessDesktop(Options options);
@@ -59,8 +59,8 @@ private:
 
     std::unique_ptr<HostFiles> _files;
     double _charWidth;
-    bool _hasWholeFontSizes;
     std::map<std::u16string, std::u16string> _localizedStrings;
+    bool _hasWholeFontSizes;
     HeadlessJournal _journal;
     HeadlessColorListStore _colorLists;
     HeadlessInterfaceFactory _factory;
